@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QVariant>
+
+/// The feature parameter record: everything the user chose, by key. Nothing ever removes a key.
+class FeatureRecord {
+public:
+    /// Writes `value` under `key`, replacing what was there.
+    void set(const QString& key, const QVariant& value) { m_values.insert(key, value); }
+
+    /// The value under `key` as text; empty for a key that was never written.
+    QString text(const QString& key) const { return m_values.value(key).toString(); }
+
+    /// All entries in key order, as they travel to the canvas.
+    const QMap<QString, QVariant>& map() const { return m_values; }
+
+private:
+    QMap<QString, QVariant> m_values;
+};

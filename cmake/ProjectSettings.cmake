@@ -1,0 +1,55 @@
+# Language level, warnings, sanitizers, output folders: what every target of the tree shares.
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CTS_MODULE_DIR ${CMAKE_BINARY_DIR}/modules)
+set(CTS_INSTALL_MODULE_DIR ${CMAKE_INSTALL_LIBDIR}/canvas-tool-strip/modules)
+
+find_program(CTS_CCACHE ccache)
+if(CTS_CCACHE)
+    # A precompiled header carries time stamps that ccache must be told to look past.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CTS_CCACHE})
+endif()
+
+add_library(cts_settings INTERFACE)
+target_compile_definitions(cts_settings INTERFACE QT_DEPRECATED_WARNINGS)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(cts_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+        -Woverloaded-virtual -Wconversion -Wno-sign-conversion $<$<BOOL:${CTS_WERROR}>:-Werror>)
+    if(CTS_CCACHE)
+        target_compile_options(cts_settings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+    endif()
+endif()
+if(CTS_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(CTS_COVERAGE)
+    add_compile_options(--coverage)
+    add_link_options(--coverage)
+endif()
+
+set(CTS_PRECOMPILED_HEADERS <QtWidgets> <map> <string> <vector>)
+
+# cts_library(<target> <SHARED|OBJECT> <sources...>): the settings above, and Qt's headers precompiled.
+function(cts_library target kind)
+    add_library(${target} ${kind} ${ARGN})
+    target_link_libraries(${target} PRIVATE cts_settings)
+    target_precompile_headers(${target} PRIVATE ${CTS_PRECOMPILED_HEADERS})
+endfunction()

@@ -1,0 +1,58 @@
+#pragma once
+
+// What only the stand-in of the CAM data API has: the jobs themselves, and faults for tests.
+
+#include <cam_api.h>
+
+#include <QString>
+
+#include <functional>
+
+namespace CanvasHost {
+
+/// What kind of value an attribute takes.
+enum class AttributeKind { Flag, Integer, Decimal, Text, Choice };
+
+struct AttributeDefinition {
+    std::string name;
+    AttributeKind kind = AttributeKind::Text;
+    std::vector<std::string> choices;  ///< of a Choice only
+};
+
+struct Job {
+    std::string name;
+    std::vector<std::string> steps;
+    std::vector<std::string> fonts;
+    std::vector<std::string> specialSymbols;
+    std::vector<std::string> userSymbols;
+    std::vector<std::string> specialTexts;  ///< names offered after "$$"
+    std::vector<AttributeDefinition> attributes;
+};
+
+/// Replaces all jobs by those of a job file (JSON; see docs/job-file.md) and makes its first one
+/// current. On failure nothing changes, and `error` reads "<file>:<line>: <reason>".
+CANVAS_HOST_EXPORT bool loadJobs(const QString& file, QString* error = nullptr);
+
+CANVAS_HOST_EXPORT const std::vector<Job>& jobs();
+/// Adds `job`, or replaces the one of the same name. The first job added becomes current.
+CANVAS_HOST_EXPORT void addJob(const Job& job);
+CANVAS_HOST_EXPORT void clearJobs();
+
+/// The job that a user has open; null before there is one. Valid until the jobs change.
+CANVAS_HOST_EXPORT const Job* currentJob();
+/// False when there is no job of that name.
+CANVAS_HOST_EXPORT bool setCurrentJob(const std::string& name);
+/// Null for a name that is not known.
+CANVAS_HOST_EXPORT const Job* findJob(const std::string& name);
+
+/// Functions that take the place of the operations of cam_api.h where they are set: they throw,
+/// answer nonsense or count calls.
+struct CamApiOverrides {
+    std::function<bool(const std::string&, ZENTRA::API::symbol_type&, int&, int&, bool)>
+        identify_symbol;
+    std::function<void(const std::string&, std::vector<std::string>&)> get_special_symbol_names;
+    std::function<void(const std::string&, std::vector<std::string>&)> get_fonts;
+};
+CANVAS_HOST_EXPORT CamApiOverrides& camApiOverrides();
+
+}  // namespace CanvasHost

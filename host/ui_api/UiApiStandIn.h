@@ -1,0 +1,35 @@
+#pragma once
+
+// What only the stand-in of the UI utility library has: the host's settings, and faults for tests.
+
+#include <ui_api.h>
+
+#include <functional>
+
+namespace CanvasHost {
+
+/// The unit in which the user reads lengths. Mil and Inch are the non-metric system, the others
+/// the metric one.
+enum class DisplayUnit { Mil, Inch, Micrometre, Millimetre };
+
+CANVAS_HOST_EXPORT void setDisplayUnit(DisplayUnit unit);
+CANVAS_HOST_EXPORT DisplayUnit displayUnit();
+
+CANVAS_HOST_EXPORT void setEQVisible(bool visible);
+
+/// Functions that take the place of the operations of ui_api.h where they are set: they throw,
+/// answer nonsense or count calls.
+struct UiApiOverrides {
+    std::function<bool()> getEQVisible;
+    std::function<QString(void*)> getUnitString;
+    std::function<int(void*)> getUnit;
+    std::function<double(void*, double)> getUnitData;
+    std::function<double(void*, double)> getUnitJudgeDouble;
+    std::function<bool(double, double, double, void*)> isNumValueLegal;
+    std::function<bool(const QString&, double, double, void*)> isSymbolValueLegal;
+    std::function<QString(const QString&, int)> setSymbolUIData;
+    std::function<void(void*, ZENTRA::API::show_param&)> getShowPara;
+};
+CANVAS_HOST_EXPORT UiApiOverrides& uiApiOverrides();
+
+}  // namespace CanvasHost
