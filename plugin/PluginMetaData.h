@@ -17,8 +17,6 @@ struct PluginMetaData {
     /// the call only.
     qint64 extra = 0;
 
-    PluginMetaData(const QString& sender, const QString& receiver)
-        : sender(sender), receiver(receiver)
-    {
-    }
+    /// `from` and `to` are module file names.
+    PluginMetaData(const QString& from, const QString& to) : sender(from), receiver(to) {}
 };

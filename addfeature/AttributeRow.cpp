@@ -1,0 +1,128 @@
+#include "addfeature/AttributeRow.h"
+
+#include "addfeature/CanvasLink.h"
+#include "addfeature/FeatureKeys.h"
+#include "addfeature/FeatureRecord.h"
+
+#include <common_widgets.h>
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+AttributeRow::AttributeRow(FeatureRecord& record, const CanvasLink& canvas, QWidget* dialog)
+    : QWidget(dialog),
+      m_record(record),
+      m_canvas(canvas),
+      m_dialog(dialog),
+      m_pAttributesCB(new QCheckBox(this)),
+      m_pValuesPB(new QPushButton(this)),
+      m_pFillPB(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("m_pAttributesWidget"));
+    m_pAttributesCB->setObjectName(QStringLiteral("m_pAttributesCB"));
+    m_pValuesPB->setObjectName(QStringLiteral("m_pValuesPB"));
+    m_pFillPB->setObjectName(QStringLiteral("m_pFillPB"));
+    m_pValuesPB->setVisible(false);
+    m_pFillPB->setEnabled(false);
+
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_pAttributesCB);
+    row->addWidget(m_pValuesPB);
+    row->addWidget(m_pFillPB);
+    retranslate();
+    m_record.set(FeatureKeys::attributes, FeatureValues::zero);
+
+    connect(m_pAttributesCB, SIGNAL(stateChanged(int)), dialog,
+            SLOT(on_Attribute_CheckState_Changed(int)));
+    connect(m_pValuesPB, SIGNAL(clicked()), dialog, SLOT(on_m_pValuesPB_clicked()));
+    connect(m_pFillPB, SIGNAL(clicked()), dialog, SLOT(on_m_pFillPB_clicked()));
+}
+
+void AttributeRow::retranslate()
+{
+    m_pAttributesCB->setText(tr("Attributes"));
+    m_pValuesPB->setText(tr("Values..."));
+    m_pFillPB->setText(tr("Fill..."));
+}
+
+void AttributeRow::setCheckBoxVisible(bool visible)
+{
+    m_pAttributesCB->setVisible(visible);
+}
+
+void AttributeRow::setValuesVisible(bool visible)
+{
+    m_pValuesPB->setVisible(visible);
+}
+
+void AttributeRow::setFillVisible(bool visible)
+{
+    m_pFillPB->setVisible(visible);
+}
+
+void AttributeRow::setFillEnabled(bool enabled)
+{
+    m_pFillPB->setEnabled(enabled);
+}
+
+void AttributeRow::stateChanged()
+{
+    const bool checked = m_pAttributesCB->isChecked();
+    m_record.set(FeatureKeys::attributes, checked ? FeatureValues::one : FeatureValues::zero);
+    m_pValuesPB->setVisible(checked);
+    if (!checked) {
+        m_attributes.clear();
+    } else if (m_window) {
+        m_window->getAttributeData(m_attributes);
+    }
+    m_canvas.sendAttributes(m_attributes);
+}
+
+void AttributeRow::openValues()
+{
+    if (!m_window) {
+        m_window = new Widget_Attributes(m_dialog);
+        connect(m_window, SIGNAL(change_button_color()), m_dialog, SLOT(set_attribute_color()));
+        connect(m_window, SIGNAL(remove_button_color()), m_dialog, SLOT(reset_attribute_color()));
+        connect(m_window, SIGNAL(send_attribute_signal()), m_dialog, SLOT(get_attribute_signal()));
+        connect(
+            m_window, SIGNAL(send_attribute_list(std::vector<std::pair<std::string, std::string>>)),
+            m_dialog, SLOT(get_attribute_list(std::vector<std::pair<std::string, std::string>>)));
+        connect(m_dialog,
+                SIGNAL(send_attributeinfo_list(std::vector<std::pair<std::string, std::string>>)),
+                m_window,
+                SLOT(get_attributeinfo_list(std::vector<std::pair<std::string, std::string>>)));
+    }
+    m_window->show();
+}
+
+void AttributeRow::setColor()
+{
+    m_pValuesPB->setStyleSheet(QStringLiteral("background-color:rgb(255, 0, 0)"));
+}
+
+void AttributeRow::resetColor()
+{
+    m_pValuesPB->setStyleSheet(QStringLiteral("background-color:none"));
+}
+
+void AttributeRow::setList(const std::vector<std::pair<std::string, std::string>>& attributes)
+{
+    if (!m_pAttributesCB->isChecked()) {
+        return;
+    }
+    m_attributes.clear();
+    for (const auto& attribute : attributes) {
+        m_attributes.insert_or_assign(attribute.first, attribute.second);
+    }
+    m_canvas.sendAttributes(m_attributes);
+}
+
+void AttributeRow::closePopups()
+{
+    if (m_window) {
+        m_window->close();
+    }
+}

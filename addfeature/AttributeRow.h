@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QWidget>
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+class CanvasLink;
+class FeatureRecord;
+class QCheckBox;
+class QPushButton;
+class Widget_Attributes;
+
+/// The attribute row of the dialog: check box, "Values..." and "Fill..." buttons, and the attribute
+/// map that the canvas reads by address.
+///
+/// The controls are connected to the named slots of `dialog`, which forward here.
+class AttributeRow : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(AddFeature)
+public:
+    AttributeRow(FeatureRecord& record, const CanvasLink& canvas, QWidget* dialog);
+
+    void retranslate();
+    void setCheckBoxVisible(bool visible);
+    void setValuesVisible(bool visible);
+    void setFillVisible(bool visible);
+    void setFillEnabled(bool enabled);
+
+    // The named slots of the dialog forward to these.
+
+    /// Writes whether there are attributes and tells the canvas which.
+    void stateChanged();
+    void openValues();
+    void setColor();
+    void resetColor();
+    /// Takes over the list that the attribute window applied.
+    void setList(const std::vector<std::pair<std::string, std::string>>& attributes);
+
+    void closePopups();
+
+private:
+    FeatureRecord& m_record;
+    const CanvasLink& m_canvas;
+    QWidget* m_dialog;
+    QCheckBox* m_pAttributesCB;
+    QPushButton* m_pValuesPB;
+    QPushButton* m_pFillPB;
+    QPointer<Widget_Attributes> m_window;
+    std::map<std::string, std::string> m_attributes;  // passed by address with each code 51
+};

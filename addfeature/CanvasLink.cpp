@@ -1,0 +1,73 @@
+#include "addfeature/CanvasLink.h"
+
+#include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
+
+#include <QTpluginsManger4CAM.h>
+
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace Sent = MessageCodes::Sent;
+
+namespace {
+
+Q_LOGGING_CATEGORY(recordLog, "canvastoolstrip.record")
+
+PluginMetaData messageToCanvas(int code, const QMap<QString, QVariant>& payload = {})
+{
+    PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
+    message.code = code;
+    message.payload = payload;
+    return message;
+}
+
+void logEntries(const QMap<QString, QVariant>& payload)
+{
+    if (!recordLog().isDebugEnabled()) {
+        return;
+    }
+    for (auto entry = payload.cbegin(); entry != payload.cend(); ++entry) {
+        qCDebug(recordLog, "name: %s value %s", qUtf8Printable(entry.key()),
+                qUtf8Printable(entry.value().toString()));
+    }
+}
+
+void hand(void* sender, PluginMetaData message)
+{
+    QTpluginsManger4CAM::instance()->recMegToPlugin(sender, std::move(message));
+}
+
+}  // namespace
+
+void CanvasLink::sendRecord(const QMap<QString, QVariant>& record) const
+{
+    logEntries(record);
+    hand(m_sender, messageToCanvas(Sent::Record, record));
+}
+
+void CanvasLink::sendDirection(const QMap<QString, QVariant>& record) const
+{
+    hand(m_sender, messageToCanvas(Sent::DirectionRecord, record));
+}
+
+void CanvasLink::sendAttributes(const std::map<std::string, std::string>& attributes) const
+{
+    PluginMetaData message = messageToCanvas(Sent::AttributeMap);
+    message.extra = static_cast<qint64>(reinterpret_cast<quintptr>(&attributes));
+    hand(m_sender, std::move(message));
+}
+
+void CanvasLink::sendFill() const
+{
+    hand(m_sender, messageToCanvas(Sent::Fill));
+}
+
+void CanvasLink::sendSelectFromEditor() const
+{
+    // Under the rule menu's name: the canvas answers that module's request. Deliberate.
+    PluginMetaData message(ModuleNames::ruleMenu, ModuleNames::viewer);
+    message.code = Sent::SelectFromEditor;
+    hand(m_sender, std::move(message));
+}

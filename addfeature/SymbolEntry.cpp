@@ -1,0 +1,344 @@
+#include "addfeature/SymbolEntry.h"
+
+#include "addfeature/FeatureKeys.h"
+#include "addfeature/FeatureRecord.h"
+#include "addfeature/RefusalGuard.h"
+#include "addfeature/SymbolHost.h"
+
+#include <cam_api.h>
+#include <common_widgets.h>
+#include <ui_api.h>
+
+#include <QHBoxLayout>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegExpValidator>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+using ZENTRA::UIAPI::ZTERegExp;
+using ZENTRA::UIAPI::ZTLineEdit;
+
+namespace {
+
+constexpr int freeText = 6;  // the host's input pattern
+constexpr int pickButtonSize = 25;
+constexpr int typedToStored = 0;
+constexpr int storedToMetric = 1;
+
+constexpr char armedStyle[] =
+    "QPushButton{background-image:url(:/Canvas_Tool_Strip/Resources/add_fea.jpg);"
+    "border: 1px solid red;}";
+constexpr char disarmedStyle[] =
+    "QPushButton{background-image:url(:/Canvas_Tool_Strip/Resources/add_fea.jpg);border: none;}";
+
+bool isStandard(const QString& name, bool isArc)
+{
+    ZENTRA::API::symbol_type type{};
+    int a = 0;
+    int b = 0;
+    return ZENTRA::API::identify_symbol(name.toStdString(), type, a, b, isArc);
+}
+
+/// The degrees after the last "_"; none where that is not whole degrees.
+std::optional<int> suffixOf(const QString& name)
+{
+    static const QRegularExpression digits(QStringLiteral("\\A[0-9]+\\z"));
+    const QString suffix = name.mid(name.lastIndexOf(QLatin1Char('_')) + 1);
+    bool fits = false;
+    const int degrees = suffix.toInt(&fits);
+    return fits && digits.match(suffix).hasMatch() ? std::optional<int>(degrees) : std::nullopt;
+}
+
+/// Whether an arc can be drawn with the picked symbol: "r" and its size.
+bool isRound(const QString& name)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\Ar[0-9.]+\\z"));
+    return pattern.match(name).hasMatch();
+}
+
+}  // namespace
+
+SymbolEntry::SymbolEntry(SymbolHost& host, QObject* slotOwner, QWidget* parent)
+    : QWidget(parent),
+      m_host(host),
+      m_slotOwner(slotOwner),
+      m_pSymbolPB(new QPushButton(this)),
+      m_pSymbolTextLE(new ZTLineEdit(static_cast<ZTERegExp>(freeText),
+                                     static_cast<QWidget*>(host.ownerContext()))),
+      m_pSelectFromEditorPB(new QPushButton(this)),
+      m_lineValidator(
+          new QRegExpValidator(QRegExp(QStringLiteral("^[rs]?|[rs][0-9]+(\\.[0-9]+)?$")), this)),
+      m_padValidator(new QRegExpValidator(QRegExp(QStringLiteral("^[a-z0-9_.+-]*$")), this)),
+      m_arcValidator(
+          new QRegExpValidator(QRegExp(QStringLiteral("[r]?|[r][0-9]+(\\.[0-9]+)?$")), this))
+{
+    setObjectName(QStringLiteral("m_pSymbolWidget"));
+    m_pSymbolPB->setObjectName(QStringLiteral("m_pSymbolPB"));
+    m_pSymbolTextLE->setObjectName(QStringLiteral("m_pSymbolTextLE"));
+    m_pSelectFromEditorPB->setObjectName(QStringLiteral("m_pSelectFromEditorPB"));
+    m_pSelectFromEditorPB->setFixedSize(pickButtonSize, pickButtonSize);
+    m_pSelectFromEditorPB->setIconSize(m_pSelectFromEditorPB->size());
+    m_pSelectFromEditorPB->setIcon(
+        QIcon(QStringLiteral(":/Canvas_Tool_Strip/Resources/add_fea.jpg")));
+    m_pSymbolTextLE->setValidator(m_lineValidator);
+
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_pSymbolPB);
+    row->addWidget(m_pSymbolTextLE);
+    row->addWidget(m_pSelectFromEditorPB);
+    retranslate();
+
+    connect(m_pSelectFromEditorPB, SIGNAL(clicked()), slotOwner,
+            SLOT(on_m_pSelectFromEditorPB_clicked()));
+    connect(m_pSymbolPB, SIGNAL(clicked()), slotOwner, SLOT(on_m_pSymbolPB_clicked()));
+    connect(m_pSymbolTextLE, SIGNAL(editingFinished()), slotOwner,
+            SLOT(on_m_pSymbolTextLE_editingFinished()));
+    connect(m_pSymbolTextLE, SIGNAL(textChanged(QString)), slotOwner,
+            SLOT(on_m_pSymbolTextLE_textChanged(QString)));
+    connect(m_pSymbolTextLE, SIGNAL(returnPressed()), slotOwner,
+            SLOT(on_m_pSymbolTextLE_returnPressed()));
+}
+
+QString SymbolEntry::text() const
+{
+    return m_pSymbolTextLE->text();
+}
+
+void SymbolEntry::clear()
+{
+    m_pSymbolTextLE->setText(QString());
+}
+
+void SymbolEntry::retranslate()
+{
+    m_pSymbolPB->setText(tr("Symbol"));
+    m_pSymbolTextLE->setAccessibleName(tr("Symbol"));
+    m_pSelectFromEditorPB->setToolTip(tr("Select from editor"));
+    m_pSelectFromEditorPB->setAccessibleName(tr("Select from editor"));
+}
+
+void SymbolEntry::applyFeatureType()
+{
+    switch (m_host.featureType()) {
+        case FeatureType::Line:
+            m_pSymbolTextLE->setValidator(m_lineValidator);
+            break;
+        case FeatureType::Pad:
+            m_pSymbolTextLE->setValidator(m_padValidator);
+            break;
+        case FeatureType::Arc:
+            m_pSymbolTextLE->setValidator(m_arcValidator);
+            break;
+        case FeatureType::Surface:
+        case FeatureType::Text:
+            break;  // have no symbol; the field is hidden
+    }
+}
+
+void SymbolEntry::setControlsVisible(bool visible)
+{
+    m_pSymbolPB->setVisible(visible);
+    m_pSymbolTextLE->setVisible(visible);
+    m_pSelectFromEditorPB->setVisible(visible);
+}
+
+bool SymbolEntry::isSpecial(const QString& name) const
+{
+    std::vector<std::string> names;
+    ZENTRA::API::get_special_symbol_names(m_host.job(), names);
+    return std::find(names.begin(), names.end(), name.toStdString()) != names.end();
+}
+
+bool SymbolEntry::isMetric() const
+{
+    return ZENTRA::UIAPI::getUnit(m_host.ownerContext()) != 0;
+}
+
+QString SymbolEntry::stored(const QString& name) const
+{
+    return isMetric() ? ZENTRA::UIAPI::setSymbolUIData(name, typedToStored) : name;
+}
+
+int SymbolEntry::suffixDegrees() const
+{
+    return m_hasSuffix ? text().section(QLatin1Char('_'), 1, 1).toInt() : 0;
+}
+
+void SymbolEntry::storeRotation(int suffixDegrees)
+{
+    m_host.record().set(FeatureKeys::mirrorRotate,
+                        QString::number(qint64(m_host.rotation()) + suffixDegrees));
+}
+
+void SymbolEntry::refuse(const QString& title, const QString& text)
+{
+    m_host.refusals().run([&] { QMessageBox::warning(this, title, text); });
+    clear();
+    m_host.record().set(FeatureKeys::symbolText, this->text());
+}
+
+void SymbolEntry::chosen(const QString& name)
+{
+    m_pSymbolTextLE->setText(name);
+    enterText();
+}
+
+void SymbolEntry::enterText()
+{
+    if (text().isEmpty()) {
+        return;
+    }
+    m_host.record().set(FeatureKeys::symbolText, stored(text()));
+    storeRotation(0);
+    m_host.sendRecord();
+}
+
+void SymbolEntry::editingFinished()
+{
+    const bool sends = m_host.isToolActive();
+    m_hasSuffix = false;
+    storeRotation(0);
+    storeEntry();
+    if (sends) {
+        m_host.sendRecord();
+    }
+}
+
+void SymbolEntry::storeEntry()
+{
+    // The first two refusals show their texts untranslated, the last one translated: deliberate.
+    const QString untranslatedTitle = QStringLiteral("Illegal Input");
+    const QString untranslatedText = QStringLiteral("Unable to create special symbol!");
+    const FeatureType type = m_host.featureType();
+    QString name = text();
+
+    if (type == FeatureType::Line && (name == QLatin1String("r") || name == QLatin1String("s"))) {
+        refuse(untranslatedTitle, untranslatedText);
+        return;
+    }
+    if (name.contains(QLatin1Char('_')) && !isStandard(name, false) && !isSpecial(name)) {
+        const std::optional<int> degrees = suffixOf(name);
+        if (!degrees) {
+            refuse(untranslatedTitle, untranslatedText);
+            return;
+        }
+        m_hasSuffix = true;
+        storeRotation(*degrees);
+        name.truncate(name.lastIndexOf(QLatin1Char('_')));
+    }
+    if (isStandard(name, type == FeatureType::Arc)) {
+        m_host.record().set(FeatureKeys::symbolText, stored(name));
+    } else if (isSpecial(name)) {
+        m_host.record().set(FeatureKeys::symbolText, name);
+    } else if (text().isEmpty()) {
+        m_host.record().set(FeatureKeys::symbolText, QString());
+    } else {
+        refuse(tr("Illegal Input"), tr("Unable to create special symbol!"));
+    }
+}
+
+void SymbolEntry::returnPressed()
+{
+    const QString typed = text().left(m_pSymbolTextLE->cursorPosition());
+    m_pSymbolTextLE->setText(typed);
+    m_host.record().set(FeatureKeys::symbolText, stored(typed));
+    m_host.sendRecord();
+}
+
+void SymbolEntry::keepText(const QString& text)
+{
+    const bool metric = isMetric();
+    m_metricText = metric ? text : QString();
+    m_otherText = metric ? QString() : text;
+}
+
+void SymbolEntry::changeUnit(bool isMetric)
+{
+    QString& kept = isMetric ? m_metricText : m_otherText;
+    if (kept.isEmpty()) {
+        kept = converted(isMetric ? m_otherText : m_metricText,
+                         isMetric ? storedToMetric : typedToStored);
+    }
+    // Not typed by the user: the kept texts stay.
+    const char* const slot = SLOT(on_m_pSymbolTextLE_textChanged(QString));
+    disconnect(m_pSymbolTextLE, SIGNAL(textChanged(QString)), m_slotOwner, slot);
+    m_pSymbolTextLE->setText(kept);
+    connect(m_pSymbolTextLE, SIGNAL(textChanged(QString)), m_slotOwner, slot);
+}
+
+QString SymbolEntry::converted(const QString& name, int direction) const
+{
+    const int suffix = name.lastIndexOf(QLatin1Char('_'));
+    if (!m_hasSuffix || suffix < 0) {
+        return ZENTRA::UIAPI::setSymbolUIData(name, direction);
+    }
+    return QStringLiteral("%1_%2").arg(ZENTRA::UIAPI::setSymbolUIData(name.left(suffix), direction),
+                                       name.mid(suffix + 1));
+}
+
+void SymbolEntry::picked(const std::map<int, std::string>& symbols)
+{
+    for (const auto& symbol : symbols) {
+        QString name = QString::fromStdString(symbol.second);
+        if (m_host.featureType() == FeatureType::Arc && !isRound(name)) {
+            m_host.refusals().run([&] {
+                QMessageBox::warning(this, tr("Dialog Box"), tr("Illegal symbol name: ") + name);
+            });
+            continue;
+        }
+        if (isMetric()) {
+            name = ZENTRA::UIAPI::setSymbolUIData(name, storedToMetric);
+        }
+        m_pSymbolTextLE->setText(name);
+        m_host.record().set(FeatureKeys::symbolText, name);
+        togglePick();
+        m_host.sendRecord();
+    }
+}
+
+void SymbolEntry::togglePick()
+{
+    m_pickArmed = !m_pickArmed;
+    m_pSelectFromEditorPB->setStyleSheet(QLatin1String(m_pickArmed ? armedStyle : disarmedStyle));
+}
+
+void SymbolEntry::openChooser()
+{
+    if (!m_chooser) {
+        auto* const owner = static_cast<QWidget*>(m_host.ownerContext());
+        m_chooser = new Widget_SymbolSelection(m_host.job(), owner, owner);
+        connect(m_chooser, SIGNAL(sendText(QString)), m_slotOwner, SLOT(receive_text(QString)));
+        connect(m_slotOwner, SIGNAL(unit_changed()), m_chooser, SLOT(change_unit()));
+    }
+    const FeatureType type = m_host.featureType();
+    const bool roundAndSquareOnly = type == FeatureType::Line || type == FeatureType::Arc;
+    m_chooser->changeAvailableItemView(roundAndSquareOnly ? 0 : 1);
+    m_chooser->show();
+    m_chooser->read();
+}
+
+void SymbolEntry::jobChanged()
+{
+    if (m_chooser) {
+        m_chooser->setJob(m_host.job());
+    }
+}
+
+void SymbolEntry::readChooser()
+{
+    if (m_chooser) {
+        m_chooser->read();
+    }
+}
+
+void SymbolEntry::closePopups()
+{
+    if (m_chooser) {
+        m_chooser->close();
+    }
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+#include <map>
+#include <string>
+
+class QPushButton;
+class QRegExpValidator;
+class SymbolHost;
+class Widget_SymbolSelection;
+
+namespace ZENTRA {
+namespace UIAPI {
+class ZTLineEdit;
+}
+}  // namespace ZENTRA
+
+/// The symbol row of the dialog: chooser button, name field, pick-from-board button. It turns what
+/// is typed, chosen or picked into the record's symbol and rotation.
+///
+/// The controls are connected to the named slots of `slotOwner`, which forward here.
+class SymbolEntry : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(AddFeature)
+public:
+    SymbolEntry(SymbolHost& host, QObject* slotOwner, QWidget* parent);
+
+    QString text() const;
+    void clear();
+    void retranslate();
+    /// Lets the field accept what the chosen feature type accepts.
+    void applyFeatureType();
+    void setControlsVisible(bool visible);
+
+    /// Whether `name` is a special symbol of the job, which is asked anew each time.
+    bool isSpecial(const QString& name) const;
+
+    /// The degrees that a rotation suffix adds; 0 without one.
+    int suffixDegrees() const;
+
+    // The named slots of the dialog forward to these.
+    void chosen(const QString& name);
+    void enterText();
+    void editingFinished();
+    void keepText(const QString& text);
+    void returnPressed();
+    void togglePick();
+    void openChooser();
+    void picked(const std::map<int, std::string>& symbols);
+
+    /// Shows the name in the other system of units: as it was typed there, or converted.
+    void changeUnit(bool isMetric);
+    void jobChanged();
+    void readChooser();
+    void closePopups();
+
+private:
+    bool isMetric() const;
+    QString stored(const QString& name) const;
+    QString converted(const QString& name, int direction) const;
+    void storeRotation(int suffixDegrees);
+    void storeEntry();
+    void refuse(const QString& title, const QString& text);
+
+    SymbolHost& m_host;
+    QObject* m_slotOwner;
+    QPushButton* m_pSymbolPB;
+    ZENTRA::UIAPI::ZTLineEdit* m_pSymbolTextLE;
+    QPushButton* m_pSelectFromEditorPB;
+    QRegExpValidator* m_lineValidator;
+    QRegExpValidator* m_padValidator;
+    QRegExpValidator* m_arcValidator;
+    QPointer<Widget_SymbolSelection> m_chooser;  // a child of the host's widget
+    QString m_metricText;                        // the text as typed, kept for each system of units
+    QString m_otherText;
+    bool m_hasSuffix = false;
+    bool m_pickArmed = false;
+};

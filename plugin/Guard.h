@@ -1,0 +1,31 @@
+#pragma once
+
+#include <exception>
+
+/// Where a guard stands, for the log.
+struct GuardPosition {
+    const char* file;
+    int line;
+};
+
+/// Writes the two error lines of a thrown text, and shows it in an "Information" box.
+void reportThrownText(const GuardPosition& position, const char* text);
+
+/// Shows the message of a standard exception in the same box.
+void reportException(const std::exception& exception);
+
+/// Runs `action`, which calls the host, and reports what it throws: a text or a standard exception.
+/// Anything else passes on. True when `action` came to its end.
+template <class Action>
+bool guarded(const GuardPosition& position, Action&& action)
+{
+    try {
+        action();
+        return true;
+    } catch (const char* text) {
+        reportThrownText(position, text);
+    } catch (const std::exception& exception) {
+        reportException(exception);
+    }
+    return false;
+}

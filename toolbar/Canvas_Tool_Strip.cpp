@@ -1,0 +1,106 @@
+#include "toolbar/Canvas_Tool_Strip.h"
+
+#include "addfeature/AddFeature.h"
+#include "plugin/Guard.h"
+#include "plugin/MessageCodes.h"
+
+#include <common_widgets.h>
+#include <ui_api.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QToolButton>
+
+namespace {
+
+constexpr int columns = 4;
+constexpr int buttonSize = 40;
+
+void applyStart(QToolButton* button, ToolTable::Start start)
+{
+    if (start != ToolTable::Start::Untouched) {
+        button->setEnabled(start == ToolTable::Start::Enabled);
+    }
+}
+
+}  // namespace
+
+Canvas_Tool_Strip::Canvas_Tool_Strip(QWidget* parent)
+    : m_parent(parent), m_selectionMode(MessageCodes::Sent::SelectLayerNet)
+{
+    if (m_parent) {
+        m_parent->setFocusPolicy(Qt::NoFocus);
+    }
+    createButtons();
+    connect(button(Tool::DeleteFeature), SIGNAL(customContextMenuRequested(QPoint)), this,
+            SLOT(On_DeleteFeat_customContextMenuRequested(QPoint)));
+    connect(button(Tool::SelectByNet), SIGNAL(customContextMenuRequested(QPoint)), this,
+            SLOT(On_SelectPolyline_customContextMenuRequested(QPoint)));
+    connect(button(Tool::Mark), SIGNAL(customContextMenuRequested(QPoint)), this,
+            SLOT(on_mark_customContextMenuRequested(QPoint)));
+    SetAllButtonchecked(false, button(Tool::AreaZoom));
+}
+
+Canvas_Tool_Strip::~Canvas_Tool_Strip() = default;
+
+void Canvas_Tool_Strip::createButtons()
+{
+    for (const ToolTable::Row& row : ToolTable::rows()) {
+        const int index = m_buttons.size();
+        // The layout gives the others their parent when the host places it.
+        auto* const tool = new QToolButton(index == 0 ? m_parent : nullptr);
+        tool->setObjectName(QLatin1String(row.objectName));
+        tool->setToolTip(tr(row.tip.text, row.tip.note));
+        tool->setFixedSize(buttonSize, buttonSize);
+        tool->setCheckable(true);
+        applyStart(tool, row.start);
+        tool->setStyleSheet(ToolTable::styleSheet(row.image, row.checkedImage, row.imageProperty));
+        addWidget(tool, index / columns, index % columns);
+        m_buttons.append(tool);
+        connect(tool, SIGNAL(clicked()), this, row.clickSlot);
+    }
+    for (const Tool tool : {Tool::DeleteFeature, Tool::SelectByNet, Tool::Mark}) {
+        button(tool)->setContextMenuPolicy(Qt::CustomContextMenu);
+    }
+    // Only ever hidden: showing a button that has no parent yet would open a window.
+    if (!ZENTRA::UIAPI::getEQVisible()) {
+        button(Tool::Eq)->hide();
+    }
+}
+
+void Canvas_Tool_Strip::setText()
+{
+    Q_EMIT language_changed();
+    for (int index = 0; index < ToolTable::toolCount; ++index) {
+        const ToolTable::Tip& tip = ToolTable::row(static_cast<Tool>(index)).tip;
+        if (static_cast<Tool>(index) == Tool::SelectByNet) {
+            // A capital N, unlike at construction: deliberate.
+            m_buttons[index]->setToolTip(tr("Select By Net"));
+        } else if (static_cast<Tool>(index) != Tool::Eq) {
+            m_buttons[index]->setToolTip(tr(tip.text, tip.note));
+        }
+    }
+    // The delete entries and "Setting" keep their texts, and "Select_Polyline" gains its
+    // underscore: deliberate.
+    if (m_netMenu) {
+        const QList<QAction*> entries = m_netMenu->actions();
+        entries[0]->setText(tr("Select Layer Net"));
+        entries[1]->setText(tr("Select Board Net"));
+        entries[2]->setText(tr("Select_Polyline"));
+    }
+    if (m_markMenu) {
+        const QList<QAction*> entries = m_markMenu->actions();
+        entries[0]->setText(tr("Mark Orthogonal"));
+        entries[1]->setText(tr("Mark Point to Point"));
+    }
+}
+
+void Canvas_Tool_Strip::change_unit()
+{
+    QString unit;
+    const bool known = guarded({"Canvas_Tool_Strip.cpp", __LINE__},
+                               [&] { unit = ZENTRA::UIAPI::getUnitString(m_parent); });
+    if (known) {
+        Q_EMIT Current_Unit_Changed(unit == QLatin1String("MM"));
+    }
+}

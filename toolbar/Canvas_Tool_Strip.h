@@ -1,0 +1,152 @@
+#pragma once
+
+#include "plugin/Export.h"
+#include "toolbar/ToolTable.h"
+
+#include <PluginMetaData.h>
+
+#include <QGridLayout>
+#include <QList>
+#include <QPointer>
+#include <QString>
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+class AddFeature;
+class Grc_Tbe_measurepopup;
+class QAction;
+class QMenu;
+class QPoint;
+class QToolButton;
+
+/// The edit toolbar: a grid of 26 checkable tool buttons. It tells the canvas which tool is active,
+/// and opens the Add Feature dialog and the measure popup; the canvas does the rest.
+///
+/// It is a layout, which the host places in the widget that it passed to the constructor. The
+/// buttons, menus and windows are children of that widget and go with it. GUI thread only.
+class CANVAS_TOOL_STRIP_EXPORT Canvas_Tool_Strip : public QGridLayout {
+    Q_OBJECT
+
+public:
+    /// `parent` holds the buttons. It is also the sender pointer of every message, the parent of
+    /// the windows, and the context of the host's unit functions. Not owned.
+    explicit Canvas_Tool_Strip(QWidget* parent);
+    ~Canvas_Tool_Strip() override;
+
+    /// Takes a message of a sibling module; an unknown code does nothing.
+    void recMsgFromManager(PluginMetaData message);
+
+    /// Sets every button's checked state to `checked`, but `except`, which is checked. Null: none
+    /// is excepted.
+    void SetAllButtonchecked(bool checked, QToolButton* except);
+
+    /// Whether the tool at `index` (0 to 25, grid order) is checked; false outside.
+    bool isToolButtonChecked(int index) const;
+
+    /// Starts area zoom from the canvas's right-click: every button ends released.
+    void get_right_click_zoom_area();
+
+    /// Closes the Add Feature dialog and the measure popup where they exist, and tells the canvas.
+    void close_all_Dialogs();
+
+Q_SIGNALS:
+    void GetRulerinfo();
+    void send_Attribute_Info(std::vector<std::pair<std::string, std::string>> attributes);
+    void Current_Unit_Changed(bool isMM);
+    void refresh_user_list();
+    void reselect_Add_feature();
+    void language_changed();
+    void send_Symbol_Info(std::map<int, std::string> symbols);
+    void send_job_info(const std::string& job, const std::string& step);
+
+public Q_SLOTS:
+    // The tools, in grid order
+    void On_AreaZoom_Clicked();
+    void On_OpenPopView_Clicked();
+    void On_Measure_Clicked();
+    void On_FeatHighLight_Clicked();
+    void On_AddFeature_Clicked();
+    void On_DeleteFeat_Clicked();
+    void On_MoveFeature_Clicked();
+    void On_CopyFeature_Clicked();
+    void On_ChangeLAngle_Clicked();
+    void On_StretchLine_Clicked();
+    void On_RotateFeature_Clicked();
+    void On_MirrorFeature_Clicked();
+    void On_InvertFeature_Clicked();
+    void On_BreakLine_Clicked();
+    void On_Dimension_Clicked();
+    void On_ContourEditor_Clicked();
+    void On_PullLine_Clicked();
+    void On_MoveJunction_Clicked();
+    void On_MoveTriplet_Clicked();
+    void On_RerouteTrace_Clicked();
+    void On_FeatureSelection_Clicked();
+    void On_RectSelection_Clicked();
+    void On_PolygonSelection_Clicked();
+    void On_SelectPolyline_Clicked();
+    /// Selects by net in the mode `datatype`: 20000242, 20000244 or 20000245. Any other value is
+    /// stored too, and sent as code -1.
+    void On_SelectPolyline_Clicked(int datatype);
+    void on_mark_clicked();
+    void on_m_pEqTB_clecked();  // spelled so deliberately: hosts know it by this name
+    void on_m_pAddfeature_Select_symbol();
+
+    // The right-click menus and their entries
+    void On_DeleteFeat_customContextMenuRequested(QPoint pos);
+    void on_m_delete_feature_clicked();
+    void on_m_delete_to_intersection_clicked();
+    void On_SelectPolyline_customContextMenuRequested(QPoint pos);
+    void On_pSelect_layer_net_triggered();
+    void On_pSelect_board_net_triggered();
+    void On_Select_polyline_triggered();
+    void on_mark_customContextMenuRequested(QPoint pos);
+    void on_m_mark_horizontalandvertical_clicked();
+    void on_m_mark_point2point_clicked();
+    void on_m_mark_setting_clicked();
+
+private:
+    struct Incoming;
+    struct MenuEntry;
+    struct Variant;
+
+    void createButtons();
+    void createAddFeatureDialog();
+    void createMeasurePopup();
+
+    QToolButton* button(Tool tool) const;
+    void activate(Tool tool, qint64 extra = 0);
+    void activateVariant(Tool tool, const Variant& variant);
+    void send(int code, qint64 extra = 0);
+    void send(PluginMetaData message, int code, qint64 extra = 0);
+    QMenu* createMenu(Tool owner, const char* objectName, std::initializer_list<MenuEntry> entries);
+
+    // Incoming messages
+    void checkAndRun(Tool tool, void (Canvas_Tool_Strip::*handler)());
+    void selectByNet(const PluginMetaData& message);
+    void showAddFeatureActive();
+    void setJobAndStep(const PluginMetaData& message);
+    void update_job_info(const PluginMetaData& message);
+    void get_job_name(const PluginMetaData& message);
+    void set_symbolLE_text(const PluginMetaData& message);
+    void send_AttributePoint_Info(const PluginMetaData& message);
+    void change_unit();
+    void setText();
+
+    QWidget* m_parent;
+    QList<QToolButton*> m_buttons;  // in the order of Tool
+    QMenu* m_deleteMenu = nullptr;  // the menus are made on the first right-click
+    QMenu* m_netMenu = nullptr;
+    QMenu* m_markMenu = nullptr;
+    // Children of the parent widget, which may delete them before this object.
+    QPointer<AddFeature> m_addFeature;
+    QPointer<Grc_Tbe_measurepopup> m_measurePopup;
+    std::string m_job = " ";
+    std::string m_step;
+    int m_selectionMode;
+    int m_deleteMode = 0;
+    int m_markMode = 0;
+};

@@ -1,0 +1,118 @@
+#include "toolbar/ToolTable.h"
+
+#include "plugin/MessageCodes.h"
+
+#include <QObject>
+
+namespace ToolTable {
+namespace {
+
+namespace Sent = MessageCodes::Sent;
+
+// clang-format off
+const std::array<Row, toolCount> theRows = {{
+    {"m_pAreaZoomTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Area Zoom"), nullptr},
+     "Area zoom2.jpg", "Area zoom3.jpg", Start::Enabled,
+     SLOT(On_AreaZoom_Clicked()), Sent::AreaZoom, Sent::AreaZoom},
+    {"m_pOpenPopViewTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Open a Popview"), nullptr},
+     "Open a popview-1.jpg", "Open a popview-2.jpg", Start::Untouched,
+     SLOT(On_OpenPopView_Clicked()), Sent::OpenPopView, Sent::OpenPopView},
+    {"m_pMeasureTB", QT_TRANSLATE_NOOP3("Canvas_Tool_Strip", "Measure", "tool_edit"),
+     "ruler.jpg", "ruler1.jpg", Start::Enabled,
+     SLOT(On_Measure_Clicked()), Sent::Unset, Sent::Unset},
+    {"m_pFeatHighLightTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Feature HighLight"), nullptr},
+     "Feature highlight-2.jpg", "Feature highlight-3.jpg", Start::Untouched,
+     SLOT(On_FeatHighLight_Clicked()), Sent::FeatureHighLight, Sent::FeatureHighLight},
+    {"m_pAddFeatureTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Add Feature"), nullptr},
+     "Add Feature.jpg", "Add Feature1.jpg", Start::Enabled,
+     SLOT(On_AddFeature_Clicked()), Sent::Unset, Sent::Unset},
+    {"m_pDeleteFeatTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Delete Feature"), nullptr},
+     "delete1-gry.jpg", "delete1-gre.jpg", Start::Enabled,
+     SLOT(On_DeleteFeat_Clicked()), Sent::DeleteFeature, Sent::DeleteFeature},
+    {"m_pMoveFeatureTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Move Feature"), nullptr},
+     "Move Feature-1.jpg", "Move Feature-2.jpg", Start::Untouched,
+     SLOT(On_MoveFeature_Clicked()), Sent::MoveFeature, Sent::MoveFeature},
+    {"m_pCopyFeatureTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Copy Feature"), nullptr},
+     "Copy feature-1.jpg", "Copy feature-2.jpg", Start::Untouched,
+     SLOT(On_CopyFeature_Clicked()), Sent::CopyFeature, Sent::CopyFeature},
+    {"m_pChangeLAngleTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Change Line Angle"), nullptr},
+     "Change line angle1.jpg", "Change line angle2.jpg", Start::Enabled,
+     SLOT(On_ChangeLAngle_Clicked()), Sent::ChangeLineAngle, Sent::ChangeLineAngleOff},
+    {"m_pStretchLineTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Stretch Line"), nullptr},
+     "Stretch line3.jpg", "Stretch line4.jpg", Start::Enabled,
+     SLOT(On_StretchLine_Clicked()), Sent::StretchLine, Sent::StretchLineOff},
+    {"m_pRotateFeatureTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Rotate"), nullptr},
+     "Rotate feature-grey.jpg", "Rotate feature-grey.jpg", Start::Disabled,
+     SLOT(On_RotateFeature_Clicked()), Sent::RotateFeature, Sent::RotateFeatureOff},
+    {"m_pMirrorFeatureTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Mirror"), nullptr},
+     "Mirror feature-grey.jpg", "Mirror feature-grey.jpg", Start::Disabled,
+     SLOT(On_MirrorFeature_Clicked()), Sent::MirrorFeature, Sent::MirrorFeature},
+    {"m_pInvertFeatureTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Invert Feature"), nullptr},
+     "Invert feature-3.jpg", "Invert feature-4.jpg", Start::Enabled,
+     SLOT(On_InvertFeature_Clicked()), Sent::InvertFeature, Sent::InvertFeatureOff},
+    {"m_pBreakLineTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Break Line"), nullptr},
+     "Break line1.jpg", "Break line2.jpg", Start::Enabled,
+     SLOT(On_BreakLine_Clicked()), Sent::BreakLine, Sent::BreakLineOff},
+    {"m_pDimensionTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Rout Dimension Editor"), nullptr},
+     "Rout dimension editor-grey.jpg", "Rout dimension editor-grey.jpg", Start::Disabled,
+     SLOT(On_Dimension_Clicked()), Sent::RoutDimension, Sent::RoutDimension},
+    {"m_pContourEditorTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Contour Editor"), nullptr},
+     "Contour editor-grey.jpg", "Contour editor-grey.jpg", Start::Disabled,
+     SLOT(On_ContourEditor_Clicked()), Sent::ContourEditor, Sent::ContourEditor},
+    {"m_pPullLineTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Pull Line"), nullptr},
+     "Pull line-grey.jpg", "Pull line-grey.jpg", Start::Disabled,
+     SLOT(On_PullLine_Clicked()), Sent::PullLine, Sent::PullLine},
+    {"m_pMoveJunctionTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Move Junction"), nullptr},
+     "Move junction-grey.jpg", "Move junction-grey.jpg", Start::Disabled,
+     SLOT(On_MoveJunction_Clicked()), Sent::MoveJunction, Sent::MoveJunction},
+    {"m_pMoveTripletTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Move Triplet(Angle)"), nullptr},
+     "Move triplet1.jpg", "Move triplet2.jpg", Start::Enabled,
+     SLOT(On_MoveTriplet_Clicked()), Sent::MoveTriplet, Sent::MoveTripletOff},
+    {"m_pRerouteTraceTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Reroute Trace(Fix Point)"), nullptr},
+     "ReRoute trace1.jpg", "ReRoute trace2.jpg", Start::Enabled,
+     SLOT(On_RerouteTrace_Clicked()), Sent::RerouteTrace, Sent::RerouteTraceOff},
+    {"m_pFeatureSelectionTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Feature Selection"), nullptr},
+     "Feature selection1.jpg", "Feature selection2.jpg", Start::Enabled,
+     SLOT(On_FeatureSelection_Clicked()), Sent::FeatureSelection, Sent::FeatureSelectionOff},
+    {"m_pRectSelectionTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Rectangle Selection"), nullptr},
+     "Frame selection2.jpg", "Frame selection3.jpg", Start::Enabled,
+     SLOT(On_RectSelection_Clicked()), Sent::RectangleSelection, Sent::RectangleSelectionOff},
+    {"m_pPolygonSelectionTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Polygon Selection"), nullptr},
+     "Polygon selection2.jpg", "Polygon selection3.jpg", Start::Enabled,
+     SLOT(On_PolygonSelection_Clicked()), Sent::PolygonSelection, Sent::PolygonSelectionOff},
+    {"m_pSelectPolylineTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select By net"), nullptr},
+     "Net selection2.jpg", "Net selection1.jpg", Start::Enabled,
+     SLOT(On_SelectPolyline_Clicked()), Sent::Unset, Sent::Unset},
+    {"m_pMarkTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Mark"), nullptr},
+     "markgry.png", "markgre.png", Start::Enabled,
+     SLOT(on_mark_clicked()), Sent::Mark, Sent::Mark},
+    {"m_pEqTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "EQ"), nullptr},
+     "EQ-1.jpg", "EQ-2.jpg", Start::Untouched,
+     SLOT(on_m_pEqTB_clecked()), Sent::Eq, Sent::Eq, "border-image"},
+}};
+// clang-format on
+
+QString picture(const char* file)
+{
+    return QStringLiteral(":/Canvas_Tool_Strip/Resources/") + QLatin1String(file);
+}
+
+}  // namespace
+
+const std::array<Row, toolCount>& rows()
+{
+    return theRows;
+}
+
+const Row& row(Tool tool)
+{
+    return theRows[static_cast<size_t>(tool)];
+}
+
+QString styleSheet(const char* image, const char* checkedImage, const char* property)
+{
+    return QStringLiteral("QToolButton{%1:url(%2);}QToolButton::checked{%1:url(%3);}")
+        .arg(QLatin1String(property), picture(image), picture(checkedImage));
+}
+
+}  // namespace ToolTable

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "messages/MessageRecord.h"
+
+#include <QObject>
+
+#include <vector>
+
+/// Every message that passes through the plug-in manager, in the order of sending. There is one
+/// log at a time: it is the manager's observer for its life.
+class MessageLog : public QObject {
+    Q_OBJECT
+
+public:
+    explicit MessageLog(QObject* parent = nullptr);
+    ~MessageLog() override;
+
+    const std::vector<MessageRecord>& messages() const { return m_messages; }
+    void clear();
+    /// Writes all messages as a trace. On failure `error` holds the reason.
+    bool save(const QString& file, QString* error) const;
+
+Q_SIGNALS:
+    void appended(const MessageRecord& message);
+    void cleared();
+
+private:
+    std::vector<MessageRecord> m_messages;
+};

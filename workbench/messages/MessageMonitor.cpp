@@ -1,0 +1,211 @@
+#include "messages/MessageMonitor.h"
+
+#include "messages/MessageLog.h"
+#include "messages/MessageModel.h"
+#include "messages/MessageNames.h"
+#include "messages/Values.h"
+
+#include <QEvent>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSortFilterProxyModel>
+#include <QSplitter>
+#include <QTableView>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+template <typename W>
+W* named(W* widget, const char* name)
+{
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+void prepareTable(QTableView* table)
+{
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+}  // namespace
+
+MessageMonitor::MessageMonitor(MessageLog* log, QWidget* parent)
+    : QWidget(parent),
+      m_log(log),
+      m_model(new MessageModel(log, this)),
+      m_filtered(new QSortFilterProxyModel(this))
+{
+    setObjectName(QStringLiteral("m_pMonitor"));
+    m_filtered->setSourceModel(m_model);
+    m_filtered->setFilterKeyColumn(-1);
+    m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    auto* const splitter = named(new QSplitter(this), "m_pMonitorSplitter");
+    splitter->addWidget(createTable());
+    splitter->addWidget(createDetail());
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 4, 6, 6);
+    layout->addWidget(splitter);
+    connectAll();
+    retranslate();
+    showSelected();
+}
+
+QWidget* MessageMonitor::createTable()
+{
+    auto* const side = new QWidget(this);
+    m_pMonitorFilterLE = named(new QLineEdit(side), "m_pMonitorFilterLE");
+    m_pMonitorFilterLE->setClearButtonEnabled(true);
+    m_pMonitorCountLB = named(new QLabel(side), "m_pMonitorCountLB");
+    m_pMonitorClearPB = named(new QPushButton(side), "m_pMonitorClearPB");
+    m_pMonitorSavePB = named(new QPushButton(side), "m_pMonitorSavePB");
+    m_pMonitorTV = named(new QTableView(side), "m_pMonitorTV");
+    m_pMonitorTV->setModel(m_filtered);
+    prepareTable(m_pMonitorTV);
+    const int character = fontMetrics().averageCharWidth();
+    const int widths[MessageModel::ColumnCount] = {15, 23, 23, 12, 26, 44, 20, 10};
+    for (int column = 0; column < MessageModel::ColumnCount; ++column) {
+        m_pMonitorTV->setColumnWidth(column, widths[column] * character);
+    }
+    m_pMonitorTV->horizontalHeader()->setStretchLastSection(true);
+    auto* const row = new QHBoxLayout;
+    row->addWidget(m_pMonitorFilterLE, 1);
+    row->addWidget(m_pMonitorCountLB);
+    row->addSpacing(8);
+    row->addWidget(m_pMonitorClearPB);
+    row->addWidget(m_pMonitorSavePB);
+    auto* const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(row);
+    layout->addWidget(m_pMonitorTV);
+    return side;
+}
+
+QWidget* MessageMonitor::createDetail()
+{
+    auto* const side = new QWidget(this);
+    m_pMessageLB = named(new QLabel(side), "m_pMessageLB");
+    m_pMessageLB->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_pMessageLB->setMinimumHeight(m_pMonitorFilterLE->sizeHint().height());
+    m_pMessageTW = named(new QTableWidget(0, 3, side), "m_pMessageTW");
+    prepareTable(m_pMessageTW);
+    m_pMessageTW->horizontalHeader()->setStretchLastSection(true);
+    auto* const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(6, 0, 0, 0);
+    layout->addWidget(m_pMessageLB);
+    layout->addWidget(m_pMessageTW);
+    side->setMinimumWidth(220);
+    return side;
+}
+
+void MessageMonitor::connectAll()
+{
+    connect(m_pMonitorFilterLE, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_filtered->setFilterFixedString(text);
+        showCount();
+    });
+    connect(m_pMonitorClearPB, &QPushButton::clicked, m_log, &MessageLog::clear);
+    connect(m_pMonitorSavePB, &QPushButton::clicked, this, &MessageMonitor::saveTrace);
+    connect(m_pMonitorTV->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &MessageMonitor::showSelected);
+    connect(m_filtered, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
+        const QScrollBar* const bar = m_pMonitorTV->verticalScrollBar();
+        m_follow = bar->value() == bar->maximum();
+    });
+    connect(m_filtered, &QAbstractItemModel::rowsInserted, this, &MessageMonitor::followNewest);
+    connect(m_filtered, &QAbstractItemModel::modelReset, this, [this] {
+        showCount();
+        showSelected();
+    });
+}
+
+void MessageMonitor::followNewest()
+{
+    showCount();
+    if (m_follow) {
+        m_pMonitorTV->scrollToBottom();
+    }
+}
+
+void MessageMonitor::showCount()
+{
+    const int all = m_model->rowCount();
+    const int shown = m_filtered->rowCount();
+    m_pMonitorCountLB->setText(shown == all ? tr("%n message(s)", "", all)
+                                            : tr("%1 of %2 messages").arg(shown).arg(all));
+}
+
+void MessageMonitor::showSelected()
+{
+    const QModelIndex current = m_pMonitorTV->currentIndex();
+    m_pMessageTW->setRowCount(0);
+    if (!current.isValid()) {
+        m_pMessageLB->setText(tr("Select a message to see it in full."));
+        return;
+    }
+    const MessageRecord& message = m_model->message(m_filtered->mapToSource(current).row());
+    m_pMessageLB->setText(QStringLiteral("<b>%1</b> %2")
+                              .arg(message.code)
+                              .arg(MessageNames::text(message.receiver, message.code)));
+    const auto add = [this](const QString& key, const QString& value, const QString& type) {
+        const int row = m_pMessageTW->rowCount();
+        m_pMessageTW->insertRow(row);
+        m_pMessageTW->setItem(row, 0, new QTableWidgetItem(key));
+        m_pMessageTW->setItem(row, 1, new QTableWidgetItem(value));
+        m_pMessageTW->setItem(row, 2, new QTableWidgetItem(type));
+    };
+    for (auto entry = message.payload.begin(); entry != message.payload.end(); ++entry) {
+        add(entry.key(), entry.value().toString(), Values::typeName(entry.value()));
+    }
+    for (auto entry = message.pointedAt.begin(); entry != message.pointedAt.end(); ++entry) {
+        add(entry.key(), entry.value(), tr("by address"));
+    }
+}
+
+void MessageMonitor::saveTrace()
+{
+    const QString file =
+        QFileDialog::getSaveFileName(this, tr("Save Trace"), QStringLiteral("messages.jsonl"),
+                                     tr("Message traces (*.jsonl);;All files (*)"));
+    QString error;
+    if (!file.isEmpty() && !m_log->save(file, &error)) {
+        QMessageBox::warning(this, tr("Save Trace"), tr("%1 was not saved: %2").arg(file, error));
+    }
+}
+
+void MessageMonitor::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+        m_model->retranslate();
+        showSelected();
+    }
+}
+
+void MessageMonitor::retranslate()
+{
+    m_pMonitorFilterLE->setPlaceholderText(tr("Filter: any text of a message"));
+    m_pMonitorClearPB->setText(tr("Clear"));
+    m_pMonitorSavePB->setText(tr("Save..."));
+    m_pMessageTW->setHorizontalHeaderLabels({tr("Key"), tr("Value"), tr("Type")});
+    showCount();
+}

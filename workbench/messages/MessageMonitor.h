@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QWidget>
+
+class MessageLog;
+class MessageModel;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QSortFilterProxyModel;
+class QTableView;
+class QTableWidget;
+
+/// Shows the messages of a log: a table with a filter, and the selected message in full.
+class MessageMonitor : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `log` is not owned and must outlive the monitor.
+    explicit MessageMonitor(MessageLog* log, QWidget* parent = nullptr);
+
+    /// Asks for a file and writes the trace of all messages to it.
+    void saveTrace();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QWidget* createTable();
+    QWidget* createDetail();
+    void connectAll();
+    void followNewest();
+    void showSelected();
+    void showCount();
+    void retranslate();
+
+    MessageLog* m_log;
+    MessageModel* m_model;
+    QSortFilterProxyModel* m_filtered;
+    QTableView* m_pMonitorTV;
+    QLineEdit* m_pMonitorFilterLE;
+    QLabel* m_pMonitorCountLB;
+    QPushButton* m_pMonitorClearPB;
+    QPushButton* m_pMonitorSavePB;
+    QLabel* m_pMessageLB;
+    QTableWidget* m_pMessageTW;
+    bool m_follow = true;  ///< the newest message was in sight before the last one came
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <PluginManagerStandIn.h>
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QMap>
+#include <QString>
+#include <QVariant>
+
+/// One message as it was sent: everything is copied, also what its extra word pointed at.
+struct MessageRecord {
+    QDateTime time;
+    QString sender;
+    QString receiver;
+    int code = -1;
+    QMap<QString, QVariant> payload;
+    qint64 extra = 0;
+    bool delivered = false;
+    /// What the extra word pointed at: names and values (the number of a symbol is its name), or a
+    /// single value under the empty name.
+    QMap<QString, QString> pointedAt;
+
+    /// Reads a transfer while it is on its way.
+    static MessageRecord of(const CanvasHost::Transfer& transfer);
+
+    /// As in MessageCodes.h; empty for a code that is not known.
+    QString name() const;
+    /// Whether the extra word is an address.
+    bool hasAddress() const;
+    /// The payload on one line.
+    QString summary() const;
+    /// The extra word as shown to people: a number, or what stands at the address.
+    QString extraText() const;
+    /// One JSON object on one line, without the line's end.
+    QByteArray toJson() const;
+};
+Q_DECLARE_METATYPE(MessageRecord)

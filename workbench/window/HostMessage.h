@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QVariant>
+
+#include <map>
+#include <string>
+#include <variant>
+
+/// A message that the host sends to the tool strip, with the object whose address it may carry.
+struct HostMessage {
+    using Symbols = std::map<int, std::string>;
+    using Attributes = std::map<std::string, std::string>;
+
+    int code = -1;
+    QMap<QString, QVariant> payload;
+    /// A number, or an object whose address goes into the extra word.
+    std::variant<qint64, std::string, Symbols, Attributes> extra = qint64(0);
+};

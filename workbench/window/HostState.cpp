@@ -1,0 +1,95 @@
+#include "window/HostState.h"
+
+#include "HostName.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
+
+#include <CamApiStandIn.h>
+#include <QTpluginsManger4CAM.h>
+
+#include <QWidget>
+
+#include <type_traits>
+
+namespace Accepted = MessageCodes::Accepted;
+
+namespace {
+
+QMap<QString, QVariant> jobPayload(const QString& job, const QString& stepKey, const QString& step)
+{
+    return {{QStringLiteral("JobName"), job}, {stepKey, step}};
+}
+
+}  // namespace
+
+HostState::HostState(QWidget* window) : QObject(window), m_window(window) {}
+
+void HostState::send(const HostMessage& message)
+{
+    PluginMetaData envelope(hostName, ModuleNames::toolStrip);
+    envelope.code = message.code;
+    envelope.payload = message.payload;
+    envelope.extra = std::visit(
+        [](const auto& extra) -> qint64 {
+            if constexpr (std::is_same_v<std::decay_t<decltype(extra)>, qint64>) {
+                return extra;
+            } else {
+                return static_cast<qint64>(reinterpret_cast<quintptr>(&extra));
+            }
+        },
+        message.extra);
+    QTpluginsManger4CAM::instance()->recMegToPlugin(m_window, envelope);
+}
+
+void HostState::sendSample(int code)
+{
+    switch (code) {
+        case Accepted::JobOpened:
+            announceJob();
+            break;
+        case Accepted::JobAndStep:
+            send({code, jobPayload(m_job, QStringLiteral("Step"), m_step), 0});
+            break;
+        case Accepted::JobName:
+            send({code, {}, m_job.toStdString()});
+            break;
+        case Accepted::SymbolsPicked:
+            send({code, {}, HostMessage::Symbols{{1, "r20"}}});
+            break;
+        case Accepted::AttributesPicked:
+            send({code, {}, HostMessage::Attributes{{".drill", "via"}}});
+            break;
+        default:
+            send({code, {}, 0});
+    }
+}
+
+void HostState::openStep(const QString& job, const QString& step)
+{
+    if (!CanvasHost::setCurrentJob(job.toStdString())) {
+        return;
+    }
+    const auto& steps = CanvasHost::currentJob()->steps;
+    const bool jobChanged = job != m_job;
+    m_job = job;
+    m_step = step.isEmpty() && !steps.empty() ? QString::fromStdString(steps.front()) : step;
+    if (jobChanged) {
+        sendSample(Accepted::JobName);
+    }
+    announceJob();
+    if (!jobChanged) {
+        sendSample(Accepted::JobAndStep);
+    }
+    Q_EMIT stepOpened(m_job, m_step);
+}
+
+void HostState::announceJob()
+{
+    send({Accepted::JobOpened, jobPayload(m_job, QStringLiteral("StepName"), m_step), 0});
+}
+
+void HostState::setUnit(CanvasHost::DisplayUnit unit)
+{
+    CanvasHost::setDisplayUnit(unit);
+    send({Accepted::UnitChanged, {}, 0});
+}

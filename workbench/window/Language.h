@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QTranslator>
+
+/// The language of the program: the translations of the module and of the workbench itself.
+class Language {
+public:
+    /// Translations are looked for in "translations" beside and in `moduleDirectory`.
+    explicit Language(const QString& moduleDirectory);
+
+    /// "en" or "zh_CN". A translation file that is missing leaves its texts English.
+    void set(const QString& code);
+
+private:
+    QString m_moduleDirectory;
+    QTranslator m_module;
+    QTranslator m_workbench;
+};

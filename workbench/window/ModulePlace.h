@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+class QWidget;
+
+/// A place in the window that holds one instance of a module.
+class ModulePlace {
+public:
+    /// `holder` keeps the instance's panel; it must have a layout.
+    ModulePlace(const QString& moduleName, QWidget* holder);
+    ~ModulePlace();
+
+    /// Makes an instance in a new panel; the one before is deleted. On failure `error` names file
+    /// and reason, and the place is empty.
+    bool fill(const QString& directory, QString* error);
+    /// Takes the instance from the plug-in manager and deletes it with all its windows.
+    void clear();
+
+private:
+    Q_DISABLE_COPY(ModulePlace)
+
+    QString m_moduleName;
+    QPointer<QWidget> m_holder;
+    QPointer<QWidget> m_panel;
+    void* m_instance = nullptr;
+};

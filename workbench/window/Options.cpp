@@ -1,0 +1,141 @@
+#include "window/Options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+
+#include <algorithm>
+
+namespace {
+
+using CanvasHost::DisplayUnit;
+
+const QCommandLineOption modulesOption(
+    QStringLiteral("modules"), QStringLiteral("Load the modules from <dir>."),
+    QStringLiteral("dir"));
+const QCommandLineOption jobOption(
+    QStringLiteral("job"), QStringLiteral("Read the jobs from <file> instead of the samples."),
+    QStringLiteral("file"));
+const QCommandLineOption traceOption(
+    QStringLiteral("trace"),
+    QStringLiteral("Write every message to <file>, one JSON object a line."),
+    QStringLiteral("file"));
+const QCommandLineOption screenshotOption(
+    QStringLiteral("screenshot"),
+    QStringLiteral("Save a picture of the window as <file>, after playing or the first paint."),
+    QStringLiteral("file"));
+const QCommandLineOption playOption(QStringLiteral("play"),
+                                    QStringLiteral("Play the session <file>."),
+                                    QStringLiteral("file"));
+const QCommandLineOption exitOption(QStringLiteral("exit"),
+                                    QStringLiteral("Leave after playing, or the first paint."));
+const QCommandLineOption unitOption(QStringLiteral("unit"),
+                                    QStringLiteral("Start in <unit>: mil, inch, um or mm."),
+                                    QStringLiteral("unit"), QStringLiteral("mil"));
+const QCommandLineOption languageOption(QStringLiteral("language"),
+                                        QStringLiteral("Start in <language>: en or zh_CN."),
+                                        QStringLiteral("language"), QStringLiteral("en"));
+
+QString besideProgram(const QString& path)
+{
+    return QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).filePath(path));
+}
+
+QString defaultModuleDirectory()
+{
+    const QString built = besideProgram(QStringLiteral("../modules"));
+    return QDir(built).exists()
+               ? built
+               : besideProgram(QStringLiteral("../" WORKBENCH_MODULE_DIRECTORY));
+}
+
+/// The choice called `name`; null, with a reason in `error`, when there is none.
+template <typename Choice>
+const Choice* choose(const std::vector<Choice>& choices, const char* Choice::*key,
+                     const QCommandLineOption& option, const QString& name, QString* error)
+{
+    const auto found = std::find_if(choices.begin(), choices.end(), [&](const Choice& choice) {
+        return name == QLatin1String(choice.*key);
+    });
+    if (found != choices.end()) {
+        return &*found;
+    }
+    QStringList names;
+    for (const Choice& choice : choices) {
+        names.append(QLatin1String(choice.*key));
+    }
+    *error = QStringLiteral("unknown %1 \"%2\"; known are %3")
+                 .arg(option.names().constFirst(), name, names.join(QStringLiteral(", ")));
+    return nullptr;
+}
+
+}  // namespace
+
+const std::vector<UnitChoice>& unitChoices()
+{
+    static const std::vector<UnitChoice> choices{
+        {"mil", DisplayUnit::Mil, QT_TRANSLATE_NOOP("WorkbenchWindow", "mil")},
+        {"inch", DisplayUnit::Inch, QT_TRANSLATE_NOOP("WorkbenchWindow", "inch")},
+        {"um", DisplayUnit::Micrometre, QT_TRANSLATE_NOOP("WorkbenchWindow", "micrometre")},
+        {"mm", DisplayUnit::Millimetre, QT_TRANSLATE_NOOP("WorkbenchWindow", "millimetre")},
+    };
+    return choices;
+}
+
+const std::vector<LanguageChoice>& languageChoices()
+{
+    static const std::vector<LanguageChoice> choices{{"en", "English"}, {"zh_CN", "简体中文"}};
+    return choices;
+}
+
+Options Options::parse(const QStringList& arguments, QString* error, QString* help)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("A small host application for the Canvas Tool Strip."));
+    parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
+                       exitOption, unitOption, languageOption});
+    const QCommandLineOption helpOption = parser.addHelpOption();
+    Options options;
+    if (!parser.parse(arguments)) {
+        *error = parser.errorText();
+        return options;
+    }
+    if (parser.isSet(helpOption)) {
+        *help = parser.helpText();
+        return options;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        *error = QStringLiteral("unexpected argument \"%1\"")
+                     .arg(parser.positionalArguments().constFirst());
+        return options;
+    }
+    const auto valueOr = [&](const QCommandLineOption& option, const QString& other) {
+        return parser.isSet(option) ? parser.value(option) : other;
+    };
+    options.moduleDirectory = valueOr(modulesOption, defaultModuleDirectory());
+    options.jobFile = valueOr(
+        jobOption, besideProgram(QStringLiteral("../" WORKBENCH_SAMPLE_DIRECTORY "/board.json")));
+    options.traceFile = parser.value(traceOption);
+    options.screenshotFile = parser.value(screenshotOption);
+    options.sessionFile = parser.value(playOption);
+    options.exit = parser.isSet(exitOption);
+    options.language = parser.value(languageOption);
+    choose(languageChoices(), &LanguageChoice::code, languageOption, options.language, error);
+    if (const UnitChoice* const choice = choose(unitChoices(), &UnitChoice::name, unitOption,
+                                                parser.value(unitOption), error)) {
+        options.unit = choice->unit;
+    }
+    return options;
+}
+
+Options Options::ofProgram(QString* error)
+{
+    QString help;
+    const Options options = parse(QCoreApplication::arguments(), error, &help);
+    if (!help.isEmpty()) {
+        fputs(qPrintable(help), stdout);
+        ::exit(EXIT_SUCCESS);
+    }
+    return options;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <UiApiStandIn.h>
+
+#include <QString>
+
+#include <vector>
+
+/// A display unit by the name that the command line knows.
+struct UnitChoice {
+    const char* name;
+    CanvasHost::DisplayUnit unit;
+    const char* text;  ///< to be translated in the context "WorkbenchWindow"
+};
+const std::vector<UnitChoice>& unitChoices();
+
+/// A language by its code; its own name for itself is never translated.
+struct LanguageChoice {
+    const char* code;
+    const char* text;
+};
+const std::vector<LanguageChoice>& languageChoices();
+
+/// What the command line asks for.
+struct Options {
+    QString moduleDirectory;
+    QString jobFile;
+    QString traceFile;       ///< empty: no trace
+    QString screenshotFile;  ///< empty: no picture
+    QString sessionFile;     ///< empty: nothing is played
+    bool exit = false;       ///< leave after playing, or after the first paint
+    CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
+    QString language = QStringLiteral("en");
+
+    /// The options of the running program. A wrong one fills `error` with one line; with --help the
+    /// program ends here.
+    static Options ofProgram(QString* error);
+    /// The same from `arguments` (the program's name first). `help` is filled when it is asked for.
+    static Options parse(const QStringList& arguments, QString* error, QString* help);
+};

@@ -1,0 +1,187 @@
+// The widgets of the window, and their texts.
+
+#include "messages/MessageMonitor.h"
+#include "messages/MessageNames.h"
+#include "plugin/ModuleNames.h"
+#include "window/HostState.h"
+#include "window/WorkbenchWindow.h"
+
+#include <CamApiStandIn.h>
+#include <ui_api.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+template <typename W>
+W* named(W* widget, const char* name)
+{
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+/// A widget that keeps a module's panel with `margin` around it.
+QWidget* createHolder(const char* name, int margin)
+{
+    auto* const holder = named(new QWidget, name);
+    auto* const layout = new QVBoxLayout(holder);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    return holder;
+}
+
+}  // namespace
+
+void WorkbenchWindow::createControls()
+{
+    auto* const bar = named(new QToolBar(this), "m_pHostTB");
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    auto* const box = new QWidget(bar);
+    auto* const layout = new QHBoxLayout(box);
+    layout->setContentsMargins(8, 4, 8, 4);
+    const auto addCombo = [&](QLabel*& label, const char* labelName, const char* comboName) {
+        label = named(new QLabel(box), labelName);
+        auto* const combo = named(new QComboBox(box), comboName);
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        label->setBuddy(combo);
+        layout->addWidget(label);
+        layout->addWidget(combo);
+        layout->addSpacing(14);
+        return combo;
+    };
+    m_pHostJobCMB = addCombo(m_pHostJobLB, "m_pHostJobLB", "m_pHostJobCMB");
+    m_pHostStepCMB = addCombo(m_pHostStepLB, "m_pHostStepLB", "m_pHostStepCMB");
+    m_pHostUnitCMB = addCombo(m_pHostUnitLB, "m_pHostUnitLB", "m_pHostUnitCMB");
+    m_pHostLanguageCMB = addCombo(m_pHostLanguageLB, "m_pHostLanguageLB", "m_pHostLanguageCMB");
+    for (const CanvasHost::Job& job : CanvasHost::jobs()) {
+        m_pHostJobCMB->addItem(QString::fromStdString(job.name));
+    }
+    for (const UnitChoice& choice : unitChoices()) {
+        m_pHostUnitCMB->addItem(QString());
+        if (choice.unit == m_options.unit) {
+            m_pHostUnitCMB->setCurrentIndex(m_pHostUnitCMB->count() - 1);
+        }
+    }
+    for (const LanguageChoice& choice : languageChoices()) {
+        m_pHostLanguageCMB->addItem(QString::fromUtf8(choice.text));
+        if (m_options.language == QLatin1String(choice.code)) {
+            m_pHostLanguageCMB->setCurrentIndex(m_pHostLanguageCMB->count() - 1);
+        }
+    }
+    m_pHostEqCB = named(new QCheckBox(box), "m_pHostEqCB");
+    m_pHostEqCB->setChecked(ZENTRA::UIAPI::getEQVisible());
+    layout->addWidget(m_pHostEqCB);
+    layout->addStretch();
+    bar->addWidget(box);
+    addToolBar(bar);
+}
+
+QDockWidget* WorkbenchWindow::createDock(const char* name, Qt::DockWidgetArea area,
+                                         QWidget* content)
+{
+    auto* const dock = named(new QDockWidget(this), name);
+    dock->setWidget(content);
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void WorkbenchWindow::createDocks(MessageLog* log)
+{
+    QWidget* const strip = createHolder("m_pStrip", 4);
+    QWidget* const jobTree = createHolder("m_pJobTreeHolder", 0);
+    QWidget* const viewer = createHolder("m_pViewerHolder", 0);
+    m_monitor = new MessageMonitor(log, this);
+    m_stripDock = createDock("m_pStripDock", Qt::LeftDockWidgetArea, strip);
+    m_jobTreeDock = createDock("m_pJobTreeDock", Qt::LeftDockWidgetArea, jobTree);
+    m_monitorDock = createDock("m_pMonitorDock", Qt::BottomDockWidgetArea, m_monitor);
+    setCentralWidget(viewer);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    m_strip = std::make_unique<ModulePlace>(ModuleNames::toolStrip, strip);
+    m_jobTree = std::make_unique<ModulePlace>(ModuleNames::jobTree, jobTree);
+    m_viewer = std::make_unique<ModulePlace>(ModuleNames::viewer, viewer);
+    resizeDocks({m_stripDock}, {220}, Qt::Horizontal);
+    resizeDocks({m_monitorDock}, {260}, Qt::Vertical);
+}
+
+QAction* WorkbenchWindow::addEntry(QMenu* menu, const char* name, const char* text)
+{
+    QAction* const action = named(menu->addAction(QString()), name);
+    m_entries.append({action, text});
+    return action;
+}
+
+void WorkbenchWindow::createMenus()
+{
+    m_fileMenu = named(menuBar()->addMenu(QString()), "m_pFileMenu");
+    connect(addEntry(m_fileMenu, "m_pSaveTraceAct", QT_TR_NOOP("Save &Trace...")),
+            &QAction::triggered, m_monitor, &MessageMonitor::saveTrace);
+    connect(addEntry(m_fileMenu, "m_pSavePictureAct", QT_TR_NOOP("Save &Picture...")),
+            &QAction::triggered, this, &WorkbenchWindow::savePicture);
+    m_fileMenu->addSeparator();
+    QAction* const quit = addEntry(m_fileMenu, "m_pQuitAct", QT_TR_NOOP("&Quit"));
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+
+    m_toolsMenu = named(menuBar()->addMenu(QString()), "m_pToolsMenu");
+    bool tool = false;
+    for (const MessageNames::Row& row : MessageNames::accepted()) {
+        if (row.tool != tool) {
+            m_toolsMenu->addSeparator();
+            tool = row.tool;
+        }
+        QAction* const action = m_toolsMenu->addAction(QString());
+        action->setObjectName(QStringLiteral("m_pSend%1Act").arg(row.code));
+        action->setData(row.code);
+        m_sendActions.append(action);
+        connect(action, &QAction::triggered, m_host,
+                [this, code = row.code] { m_host->sendSample(code); });
+    }
+
+    m_viewMenu = named(menuBar()->addMenu(QString()), "m_pViewMenu");
+    for (QDockWidget* const dock : {m_stripDock, m_jobTreeDock, m_monitorDock}) {
+        m_viewMenu->addAction(dock->toggleViewAction());
+    }
+}
+
+void WorkbenchWindow::retranslate()
+{
+    setWindowTitle(m_host->job().isEmpty()
+                       ? tr("Workbench")
+                       : tr("%1 / %2 - Workbench").arg(m_host->job(), m_host->step()));
+    m_pHostJobLB->setText(tr("&Job"));
+    m_pHostStepLB->setText(tr("&Step"));
+    m_pHostUnitLB->setText(tr("&Unit"));
+    m_pHostLanguageLB->setText(tr("&Language"));
+    m_pHostEqCB->setText(tr("&EQ tool"));
+    m_pHostEqCB->setToolTip(tr("Whether the host offers the EQ tool; the strip is made anew."));
+    for (int index = 0; index < m_pHostUnitCMB->count(); ++index) {
+        m_pHostUnitCMB->setItemText(index, tr(unitChoices().at(size_t(index)).text));
+    }
+    m_stripDock->setWindowTitle(tr("Edit tools"));
+    m_jobTreeDock->setWindowTitle(tr("Jobs"));
+    m_monitorDock->setWindowTitle(tr("Messages"));
+    m_fileMenu->setTitle(tr("&File"));
+    m_toolsMenu->setTitle(tr("&Tools"));
+    m_viewMenu->setTitle(tr("&View"));
+    for (const Entry& entry : m_entries) {
+        entry.action->setText(tr(entry.text));
+    }
+    for (QAction* const action : m_sendActions) {
+        const int code = action->data().toInt();
+        action->setText(tr("%1 (%2)")
+                            .arg(MessageNames::text(ModuleNames::toolStrip, code))
+                            .arg(code));
+    }
+}

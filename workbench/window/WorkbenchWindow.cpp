@@ -1,0 +1,134 @@
+#include "window/WorkbenchWindow.h"
+
+#include "HostName.h"
+#include "messages/MessageMonitor.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
+#include "window/HostState.h"
+
+#include <CamApiStandIn.h>
+#include <PluginManagerStandIn.h>
+#include <ui_api.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QSignalBlocker>
+
+namespace Accepted = MessageCodes::Accepted;
+
+WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
+    : m_options(options), m_language(options.moduleDirectory), m_host(new HostState(this))
+{
+    setObjectName(QStringLiteral("m_pWorkbench"));
+    CanvasHost::setDisplayUnit(options.unit);
+    m_language.set(options.language);
+    createControls();
+    createDocks(log);
+    createMenus();
+    retranslate();
+    connectControls();
+    CanvasHost::addInstance(hostName, this, &WorkbenchWindow::receive, this);
+    resize(1360, 880);
+}
+
+WorkbenchWindow::~WorkbenchWindow()
+{
+    // The modules go first: what they do while they end still finds the window whole.
+    m_strip.reset();
+    m_viewer.reset();
+    m_jobTree.reset();
+    CanvasHost::removeInstance(this);
+}
+
+bool WorkbenchWindow::start(QString* error)
+{
+    for (ModulePlace* const place : {m_viewer.get(), m_jobTree.get(), m_strip.get()}) {
+        if (!place->fill(m_options.moduleDirectory, error)) {
+            return false;
+        }
+    }
+    if (const CanvasHost::Job* const job = CanvasHost::currentJob()) {
+        m_host->openStep(QString::fromStdString(job->name));
+    }
+    return true;
+}
+
+void WorkbenchWindow::receive(void* window, PluginMetaData message)
+{
+    if (message.code == Accepted::JobOpened) {
+        static_cast<WorkbenchWindow*>(window)->m_host->openStep(
+            message.payload.value(QStringLiteral("JobName")).toString(),
+            message.payload.value(QStringLiteral("StepName")).toString());
+    }
+}
+
+void WorkbenchWindow::connectControls()
+{
+    using Activated = void (QComboBox::*)(int);
+    const auto changed = static_cast<Activated>(&QComboBox::currentIndexChanged);
+    connect(m_host, &HostState::stepOpened, this, &WorkbenchWindow::showStep);
+    connect(m_pHostJobCMB, changed, this,
+            [this] { m_host->openStep(m_pHostJobCMB->currentText()); });
+    connect(m_pHostStepCMB, changed, this,
+            [this] { m_host->openStep(m_host->job(), m_pHostStepCMB->currentText()); });
+    connect(m_pHostUnitCMB, changed, this,
+            [this](int index) { m_host->setUnit(unitChoices().at(size_t(index)).unit); });
+    connect(m_pHostLanguageCMB, changed, this, &WorkbenchWindow::changeLanguage);
+    connect(m_pHostEqCB, &QCheckBox::toggled, this, &WorkbenchWindow::showEq);
+}
+
+void WorkbenchWindow::showStep(const QString& job, const QString& step)
+{
+    const QSignalBlocker jobs(m_pHostJobCMB);
+    const QSignalBlocker steps(m_pHostStepCMB);
+    m_pHostJobCMB->setCurrentText(job);
+    m_pHostStepCMB->clear();
+    if (const CanvasHost::Job* const shown = CanvasHost::findJob(job.toStdString())) {
+        for (const std::string& name : shown->steps) {
+            m_pHostStepCMB->addItem(QString::fromStdString(name));
+        }
+    }
+    m_pHostStepCMB->setCurrentText(step);
+    retranslate();
+}
+
+void WorkbenchWindow::changeLanguage(int index)
+{
+    m_language.set(QLatin1String(languageChoices().at(size_t(index)).code));
+    m_host->sendSample(Accepted::LanguageChanged);
+}
+
+void WorkbenchWindow::showEq(bool visible)
+{
+    // The strip asks once, while it is made: a host makes a new one.
+    CanvasHost::setEQVisible(visible);
+    QString error;
+    if (!m_strip->fill(m_options.moduleDirectory, &error)) {
+        QMessageBox::warning(this, tr("Modules"), error);
+        return;
+    }
+    m_host->announceJob();
+}
+
+void WorkbenchWindow::savePicture()
+{
+    const QPixmap picture = grab();
+    const QString file =
+        QFileDialog::getSaveFileName(this, tr("Save Picture"), QStringLiteral("workbench.png"),
+                                     tr("Pictures (*.png)"));
+    if (!file.isEmpty() && !picture.save(file)) {
+        QMessageBox::warning(this, tr("Save Picture"), tr("%1 was not saved.").arg(file));
+    }
+}
+
+void WorkbenchWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
