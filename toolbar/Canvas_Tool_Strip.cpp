@@ -45,6 +45,8 @@ Canvas_Tool_Strip::~Canvas_Tool_Strip() = default;
 
 void Canvas_Tool_Strip::createButtons()
 {
+    // Asked first: a host that throws leaves no button behind.
+    const bool isEqVisible = ZENTRA::UIAPI::getEQVisible();
     for (const ToolTable::Row& row : ToolTable::rows()) {
         const int index = m_buttons.size();
         // The layout gives the others their parent when the host places it.
@@ -63,7 +65,7 @@ void Canvas_Tool_Strip::createButtons()
         button(tool)->setContextMenuPolicy(Qt::CustomContextMenu);
     }
     // Only ever hidden: showing a button that has no parent yet would open a window.
-    if (!ZENTRA::UIAPI::getEQVisible()) {
+    if (!isEqVisible) {
         button(Tool::Eq)->hide();
     }
 }

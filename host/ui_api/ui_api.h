@@ -30,49 +30,53 @@ CANVAS_HOST_EXPORT double getUnitJudgeDouble(void* context, double mils);
 CANVAS_HOST_EXPORT bool isNumValueLegal(double value, double minimum, double maximum,
                                         void* context);
 
-/// Whether every size in the symbol name, taken in the user's unit, lies within the bounds in mil.
-/// A name without a size, with a rotation suffix or of another kind is accepted. A refusal is
-/// reported to the user in one modal box before the call returns.
+/// Whether every size of a standard symbol name, taken in the user's unit (micrometre or mil), lies
+/// within the bounds in mil. A rotation suffix is no size. The empty name, a name without sizes and
+/// any other name are accepted. A refusal is reported to the user in one modal box before the call
+/// returns.
 CANVAS_HOST_EXPORT bool isSymbolValueLegal(const QString& name, double minimum, double maximum,
                                            void* context);
 
 /// Converts the sizes of a standard symbol name. `direction` 0: the metric name as typed
 /// (micrometre) to the stored one (mil); 1: stored to metric display. Any other name, a rotation
-/// suffix, letters and separators stay as they are; there and back gives the same name.
+/// suffix, letters and separators stay as they are. There and back gives the same name, but for
+/// needless zeros ("r10.50" comes back as "r10.5") and for sizes of more than twelve digits.
 CANVAS_HOST_EXPORT QString setSymbolUIData(const QString& name, int direction);
 
 /// Fills `out` with how values are shown to the user.
 CANVAS_HOST_EXPORT void getShowPara(void* context, API::show_param& out);
 
-/// What a ZTLineEdit lets the user type.
+/// What a ZTLineEdit lets the user type. A part of a number ("", "-", ".") is let through as well:
+/// Qt would otherwise keep editingFinished back, and the user would never learn what is wrong.
 enum ZTERegExp {
     UnsignedDecimal = 0,
     SignedLength = 1,  ///< signed decimal, a length
     UnsignedInteger = 2,
     SignedDecimal = 3,
     SignedInteger = 4,
-    SymbolName = 5,
-    FreeText = 6,  ///< anything; changeunit() does nothing
+    SymbolName = 5,  ///< letters, digits and "_.+-"
+    FreeText = 6,    ///< anything; changeunit() does nothing
 };
 
 /// A line edit that knows in which unit its number is shown.
 class CANVAS_HOST_EXPORT ZTLineEdit : public QLineEdit {
     Q_OBJECT
 public:
-    /// `context` is the host widget that holds the module; it also becomes the parent. The field
-    /// starts in the user's unit.
+    /// `context` is the host widget that holds the module; it also becomes the parent. It may be
+    /// null. The field starts in the user's unit.
     ZTLineEdit(ZTERegExp pattern, QWidget* context);
 
     /// Shows the number in micrometres or millimetres (`isMM`) or in mil or inch. Does nothing when
-    /// the field already is in that unit, when it is empty, holds no number, or takes free text.
-    /// Switching back gives the text that stood there. Never emits editingFinished.
+    /// the field already is in that unit. An empty text, one that is no number, and free text stay
+    /// as they are. Switching back gives the text that stood there unless it was edited in between.
+    /// Never emits editingFinished.
     void changeunit(bool isMM);
 
 private:
     ZTERegExp m_pattern;
     bool m_metric;
-    QString m_shown;     ///< what changeunit last wrote
-    QString m_previous;  ///< what stood there before it
+    QString m_shown;     // what changeunit last wrote; null when it left the text alone
+    QString m_previous;  // what stood there before, in the other unit
 };
 
 }  // namespace UIAPI

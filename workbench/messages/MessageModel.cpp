@@ -91,8 +91,7 @@ QVariant MessageModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QAbstractTableModel::headerData(section, orientation, role);
     }
-    const QString heads[ColumnCount] = {tr("Time"),    tr("From"),    tr("To"),
-                                        tr("Code"),    tr("Message"), tr("Payload"),
-                                        tr("Extra"),   tr("Delivered")};
+    const QString heads[ColumnCount] = {tr("Time"),    tr("From"),    tr("To"),    tr("Code"),
+                                        tr("Message"), tr("Payload"), tr("Extra"), tr("Delivered")};
     return section >= 0 && section < ColumnCount ? heads[section] : QVariant();
 }

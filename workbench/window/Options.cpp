@@ -10,9 +10,9 @@ namespace {
 
 using CanvasHost::DisplayUnit;
 
-const QCommandLineOption modulesOption(
-    QStringLiteral("modules"), QStringLiteral("Load the modules from <dir>."),
-    QStringLiteral("dir"));
+const QCommandLineOption modulesOption(QStringLiteral("modules"),
+                                       QStringLiteral("Load the modules from <dir>."),
+                                       QStringLiteral("dir"));
 const QCommandLineOption jobOption(
     QStringLiteral("job"), QStringLiteral("Read the jobs from <file> instead of the samples."),
     QStringLiteral("file"));
@@ -44,9 +44,8 @@ QString besideProgram(const QString& path)
 QString defaultModuleDirectory()
 {
     const QString built = besideProgram(QStringLiteral("../modules"));
-    return QDir(built).exists()
-               ? built
-               : besideProgram(QStringLiteral("../" WORKBENCH_MODULE_DIRECTORY));
+    return QDir(built).exists() ? built
+                                : besideProgram(QStringLiteral("../" WORKBENCH_MODULE_DIRECTORY));
 }
 
 /// The choice called `name`; null, with a reason in `error`, when there is none.
@@ -122,8 +121,8 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     options.exit = parser.isSet(exitOption);
     options.language = parser.value(languageOption);
     choose(languageChoices(), &LanguageChoice::code, languageOption, options.language, error);
-    if (const UnitChoice* const choice = choose(unitChoices(), &UnitChoice::name, unitOption,
-                                                parser.value(unitOption), error)) {
+    if (const UnitChoice* const choice =
+            choose(unitChoices(), &UnitChoice::name, unitOption, parser.value(unitOption), error)) {
         options.unit = choice->unit;
     }
     return options;

@@ -180,8 +180,7 @@ void WorkbenchWindow::retranslate()
     }
     for (QAction* const action : m_sendActions) {
         const int code = action->data().toInt();
-        action->setText(tr("%1 (%2)")
-                            .arg(MessageNames::text(ModuleNames::toolStrip, code))
-                            .arg(code));
+        action->setText(
+            tr("%1 (%2)").arg(MessageNames::text(ModuleNames::toolStrip, code)).arg(code));
     }
 }

@@ -117,9 +117,8 @@ void WorkbenchWindow::showEq(bool visible)
 void WorkbenchWindow::savePicture()
 {
     const QPixmap picture = grab();
-    const QString file =
-        QFileDialog::getSaveFileName(this, tr("Save Picture"), QStringLiteral("workbench.png"),
-                                     tr("Pictures (*.png)"));
+    const QString file = QFileDialog::getSaveFileName(
+        this, tr("Save Picture"), QStringLiteral("workbench.png"), tr("Pictures (*.png)"));
     if (!file.isEmpty() && !picture.save(file)) {
         QMessageBox::warning(this, tr("Save Picture"), tr("%1 was not saved.").arg(file));
     }

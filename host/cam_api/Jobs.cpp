@@ -1,0 +1,116 @@
+#include "CamApiStandIn.h"
+#include "JobFile.h"
+#include "cam_api.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace CanvasHost {
+namespace {
+
+struct State {
+    std::vector<Job> jobs;
+    std::string current;
+};
+
+State& state()
+{
+    static State theState;
+    return theState;
+}
+
+std::vector<Job>::iterator position(const std::string& name)
+{
+    std::vector<Job>& all = state().jobs;
+    return std::find_if(all.begin(), all.end(), [&](const Job& job) { return job.name == name; });
+}
+
+}  // namespace
+
+bool loadJobs(const QString& file, QString* error)
+{
+    std::optional<std::vector<Job>> read = readJobFile(file, error);
+    if (!read) {
+        return false;
+    }
+    state().jobs = std::move(*read);
+    state().current = state().jobs.empty() ? std::string() : state().jobs.front().name;
+    return true;
+}
+
+const std::vector<Job>& jobs()
+{
+    return state().jobs;
+}
+
+void addJob(const Job& job)
+{
+    const auto existing = position(job.name);
+    if (existing != state().jobs.end()) {
+        *existing = job;
+        return;
+    }
+    if (state().jobs.empty()) {
+        state().current = job.name;
+    }
+    state().jobs.push_back(job);
+}
+
+void clearJobs()
+{
+    state() = State();
+}
+
+const Job* currentJob()
+{
+    return findJob(state().current);
+}
+
+bool setCurrentJob(const std::string& name)
+{
+    if (!findJob(name)) {
+        return false;
+    }
+    state().current = name;
+    return true;
+}
+
+const Job* findJob(const std::string& name)
+{
+    const auto found = position(name);
+    return found == state().jobs.end() ? nullptr : &*found;
+}
+
+CamApiOverrides& camApiOverrides()
+{
+    static CamApiOverrides overrides;
+    return overrides;
+}
+
+}  // namespace CanvasHost
+
+namespace ZENTRA {
+namespace API {
+
+void get_special_symbol_names(const std::string& job, std::vector<std::string>& names)
+{
+    if (const auto& replacement = CanvasHost::camApiOverrides().get_special_symbol_names) {
+        replacement(job, names);
+        return;
+    }
+    const CanvasHost::Job* const found = CanvasHost::findJob(job);
+    names = found ? found->specialSymbols : std::vector<std::string>();
+}
+
+void get_fonts(const std::string& job, std::vector<std::string>& names)
+{
+    if (const auto& replacement = CanvasHost::camApiOverrides().get_fonts) {
+        replacement(job, names);
+        return;
+    }
+    const CanvasHost::Job* const found = CanvasHost::findJob(job);
+    names = found ? found->fonts : std::vector<std::string>();
+}
+
+}  // namespace API
+}  // namespace ZENTRA

@@ -1,0 +1,16 @@
+// Libraries that lack an entry point, or that make no instance.
+
+#include <PluginMetaData.h>
+
+#include <QWidget>
+
+#ifndef NOFACTORY
+extern "C" Q_DECL_EXPORT void* GetPluginInstance(QWidget* /*parent*/)
+{
+    return nullptr;
+}
+#endif
+
+#ifndef NODELIVERY
+extern "C" Q_DECL_EXPORT void recMsgFromManager(void* /*instance*/, PluginMetaData /*message*/) {}
+#endif

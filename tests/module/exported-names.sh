@@ -1,0 +1,49 @@
+#!/bin/sh
+# What leaves the module: two undecorated functions, and the class Canvas_Tool_Strip whole.
+# Usage: exported-names.sh LIBRARY
+set -u
+names=$(nm -D --defined-only -C "$1" | cut -d' ' -f3-) || exit 1
+failed=0
+
+expect() {
+    printf '%s\n' "$names" | grep -qxF -- "$1" || {
+        echo "not exported: $1"
+        failed=1
+    }
+}
+
+raw=$(nm -D --defined-only "$1" | cut -d' ' -f3-)
+for name in GetPluginInstance recMsgFromManager; do
+    printf '%s\n' "$raw" | grep -qx "$name" || {
+        echo "not exported undecorated: $name"
+        failed=1
+    }
+done
+
+class=Canvas_Tool_Strip
+expect "$class::$class(QWidget*)"
+expect "$class::~$class()"
+expect "vtable for $class"
+expect "typeinfo for $class"
+expect "typeinfo name for $class"
+expect "$class::staticMetaObject"
+expect "$class::metaObject() const"
+expect "$class::recMsgFromManager(PluginMetaData)"
+expect "$class::SetAllButtonchecked(bool, QToolButton*)"
+expect "$class::isToolButtonChecked(int) const"
+expect "$class::get_right_click_zoom_area()"
+expect "$class::close_all_Dialogs()"
+expect "$class::GetRulerinfo()"
+expect "$class::On_AreaZoom_Clicked()"
+expect "$class::On_SelectPolyline_Clicked(int)"
+expect "$class::on_m_pEqTB_clecked()"
+expect "$class::on_m_mark_setting_clicked()"
+
+others=$(printf '%s\n' "$names" | grep -vE \
+    "^(GetPluginInstance|recMsgFromManager|($class::|(vtable|typeinfo|typeinfo name) for $class$|non-virtual thunk to $class::).*)\$")
+if [ -n "$others" ]; then
+    echo "exported beyond the interface:"
+    printf '%s\n' "$others"
+    failed=1
+fi
+exit $failed

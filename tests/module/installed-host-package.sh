@@ -1,0 +1,28 @@
+#!/bin/sh
+# Installs the host package, then builds the module a second time against what was installed, as an
+# integrator would. Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
+set -eu
+source=$1 build=$2 work=$3 type=$4 sanitize=$5
+
+rm -rf "$work"
+mkdir -p "$work"
+cmake --install "$build" --prefix "$work/prefix" >"$work/install.log"
+package=$(find "$work/prefix" -name CanvasHostConfig.cmake)
+[ -n "$package" ] || { echo "no CanvasHostConfig.cmake was installed"; exit 1; }
+
+cmake -S "$source" -B "$work/module" -G Ninja -DCMAKE_BUILD_TYPE="$type" \
+    -DCTS_SANITIZE="$sanitize" -DCanvasHost_DIR="$(dirname "$package")" >"$work/configure.log" ||
+    { cat "$work/configure.log"; exit 1; }
+cmake --build "$work/module" --target Canvas_Tool_Strip >"$work/build.log" ||
+    { cat "$work/build.log"; exit 1; }
+
+# The headers came from the installed package, not from the tree.
+for header in cam_api.h ui_api.h common_widgets.h QTpluginsManger4CAM.h PluginMetaData.h; do
+    ninja -C "$work/module" -t deps | grep -qF "$work/prefix/include/CanvasHost/$header" ||
+        { echo "$header was not taken from the installed package"; exit 1; }
+done
+if ninja -C "$work/module" -t deps | grep -F "$source/host/"; then
+    echo "the module reached into the tree's host/"
+    exit 1
+fi
+"$source/tests/module/exported-names.sh" "$work/module/modules/Canvas_Tool_Strip.so"

@@ -1,0 +1,171 @@
+// The built library, loaded as a host loads it.
+
+#include "BoxCatcher.h"
+#include "Main.h"
+
+#include <PluginManagerStandIn.h>
+#include <QTpluginsManger4CAM.h>
+#include <UiApiStandIn.h>
+
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QToolButton>
+#include <QWidget>
+
+namespace {
+
+const QString moduleName = QStringLiteral("Canvas_Tool_Strip.dll");
+const QString moduleDir = QStringLiteral(MODULE_DIR);
+
+/// A module instance as a host keeps it: placed in its widget, removed before it is deleted.
+struct LoadedStrip {
+    QWidget panel;
+    void* instance = nullptr;
+    QString error;
+
+    LoadedStrip()
+    {
+        instance = CanvasHost::loadModule(moduleName, moduleDir, &panel, &error);
+        if (instance) {
+            panel.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance)));
+        }
+    }
+    ~LoadedStrip() { CanvasHost::removeInstance(instance); }
+
+    bool isChecked(const char* name) const
+    {
+        return panel.findChild<QToolButton*>(QLatin1String(name))->isChecked();
+    }
+};
+
+void sendTo(void* sender, int code)
+{
+    PluginMetaData message(QStringLiteral("Test.dll"), moduleName);
+    message.code = code;
+    QTpluginsManger4CAM::instance()->recMegToPlugin(sender, message);
+}
+
+}  // namespace
+
+class TestModule : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        CanvasHost::setObserver({});
+        CanvasHost::unloadModule(moduleName);
+    }
+
+    void makesA26ToolGrid()
+    {
+        LoadedStrip strip;
+        QVERIFY2(strip.instance, qPrintable(strip.error));
+        auto* const grid =
+            qobject_cast<QGridLayout*>(static_cast<QObject*>(strip.instance));
+        QVERIFY(grid);
+        QCOMPARE(grid->count(), 26);
+        QCOMPARE(strip.panel.findChildren<QToolButton*>().size(), 26);
+        QVERIFY(strip.isChecked("m_pAreaZoomTB"));
+    }
+
+    void instancesAreIndependent()
+    {
+        LoadedStrip one;
+        LoadedStrip two;
+        QVERIFY(one.instance && two.instance);
+        QVERIFY(one.instance != two.instance);
+        sendTo(&two.panel, 10000205);
+        QVERIFY(one.isChecked("m_pAreaZoomTB"));
+        QVERIFY(!two.isChecked("m_pAreaZoomTB"));
+    }
+
+    void unknownCodesDoNothing()
+    {
+        LoadedStrip strip;
+        QVERIFY(strip.instance);
+        int sent = 0;
+        CanvasHost::setObserver([&](const CanvasHost::Transfer& transfer) {
+            sent += transfer.message.receiver != moduleName;
+        });
+        for (const int code : {0, -1, 49, 50, 20000200, 20000243, 20000246, 2147483647}) {
+            sendTo(&strip.panel, code);
+        }
+        QCOMPARE(sent, 0);
+        QVERIFY(strip.isChecked("m_pAreaZoomTB"));
+    }
+
+    void loadsAgainAfterItWasUnloaded()
+    {
+        for (int round = 0; round < 20; ++round) {
+            {
+                LoadedStrip strip;
+                QVERIFY2(strip.instance, qPrintable(strip.error));
+                QString error;
+                QVERIFY2(!CanvasHost::unloadModule(moduleName, &error),
+                         "unloaded under a living instance");
+                QVERIFY(error.contains(QStringLiteral("has instances")));
+                QVERIFY(QFileInfo::exists(
+                    QStringLiteral(":/Canvas_Tool_Strip/Resources/Area zoom2.jpg")));
+            }
+            QString error;
+            QVERIFY2(CanvasHost::unloadModule(moduleName, &error), qPrintable(error));
+            QVERIFY2(!QFileInfo::exists(QStringLiteral(":/Canvas_Tool_Strip")),
+                     "the resource tree outlived the library");
+        }
+    }
+
+    void refusesWhatIsNoModule_data()
+    {
+        QTest::addColumn<QString>("directory");
+        QTest::addColumn<QString>("module");
+        QTest::addColumn<QString>("reason");
+        const QString bad = QStringLiteral(BAD_MODULE_DIR);
+        QTest::newRow("missing") << bad << "Missing.dll" << "Missing.so: no such file";
+        QTest::newRow("no library") << bad << "NoLibrary.dll" << "NoLibrary.so: ";
+        QTest::newRow("no factory") << bad << "NoFactory.dll"
+                                    << "NoFactory.so: no entry point GetPluginInstance";
+        QTest::newRow("no delivery") << bad << "NoDelivery.dll"
+                                     << "NoDelivery.so: no entry point recMsgFromManager";
+        QTest::newRow("no instance") << bad << "NoInstance.dll"
+                                     << "NoInstance.so: made no instance";
+    }
+    void refusesWhatIsNoModule()
+    {
+        QFETCH(QString, directory);
+        QFETCH(QString, module);
+        QFETCH(QString, reason);
+        QWidget panel;
+        QString error;
+        QVERIFY(!CanvasHost::loadModule(module, directory, &panel, &error));
+        QVERIFY2(error.contains(reason), qPrintable(error));
+
+        bool delivered = true;
+        CanvasHost::setObserver(
+            [&](const CanvasHost::Transfer& transfer) { delivered = transfer.delivered; });
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no module")));
+        QTpluginsManger4CAM::instance()->recMegToPlugin(
+            nullptr, PluginMetaData(QStringLiteral("Test.dll"), module));
+        QVERIFY(!delivered);
+        QVERIFY(!CanvasHost::unloadModule(module));
+    }
+
+    void constructorFaultsPassOn()
+    {
+        CanvasHost::uiApiOverrides().getEQVisible = []() -> bool { throw 42; };
+        QWidget panel;
+        bool passed = false;
+        try {
+            CanvasHost::loadModule(moduleName, moduleDir, &panel);
+        } catch (int) {
+            passed = true;
+        }
+        CanvasHost::uiApiOverrides() = {};
+        QVERIFY(passed);
+        LoadedStrip strip;
+        QVERIFY(strip.instance);
+    }
+};
+
+CTS_MAIN(TestModule)
+#include "test_module.moc"

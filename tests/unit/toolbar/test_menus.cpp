@@ -1,0 +1,194 @@
+// The right-click menus of Delete Feature, Select By Net and Mark.
+
+#include "Main.h"
+#include "StripFixture.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QTimer>
+
+namespace {
+
+constexpr int deleteTool = 5;
+constexpr int netTool = 23;
+constexpr int markTool = 24;
+
+QString sheet(const char* image, const char* checkedImage, const char* tail = "")
+{
+    return QStringLiteral(
+               "QToolButton{background-image:url(:/Canvas_Tool_Strip/Resources/%1);}"
+               "QToolButton::checked{background-image:url(:/Canvas_Tool_Strip/Resources/%2);}%3")
+        .arg(image, checkedImage, tail);
+}
+
+struct Opened {
+    QStringList entries;
+    QObject* parent = nullptr;
+    QPoint position;
+    QMenu* menu = nullptr;
+};
+
+/// Right-clicks the tool and chooses the entry of that text with the mouse; dismisses the menu
+/// when there is none.
+Opened rightClick(StripFixture& fixture, int tool, const QString& entry)
+{
+    Opened opened;
+    const QPoint cursor = fixture.panel.mapToGlobal(QPoint(17, 23));
+    QCursor::setPos(cursor);
+    QTimer::singleShot(0, [&] {
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu) {
+            return;
+        }
+        opened.menu = menu;
+        opened.parent = menu->parent();
+        opened.position = menu->pos();
+        QAction* chosen = nullptr;
+        for (QAction* const action : menu->actions()) {
+            opened.entries.append(action->text());
+            chosen = action->text() == entry ? action : chosen;
+        }
+        if (chosen) {
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(chosen).center());
+        } else {
+            QTest::keyClick(menu, Qt::Key_Escape);
+        }
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
+    QApplication::sendEvent(fixture.button(tool), &event);
+    return opened;
+}
+
+}  // namespace
+
+class TestMenus : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void menu_data()
+    {
+        QTest::addColumn<int>("tool");
+        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<int>("owner");
+        QTest::newRow("delete") << deleteTool
+                                << QStringList{"Delete Feature", "Delete to Intersection"}
+                                << netTool;
+        QTest::newRow("net") << netTool
+                             << QStringList{"Select Layer Net", "Select Board Net",
+                                            "Select Polyline"}
+                             << netTool;
+        QTest::newRow("mark") << markTool
+                              << QStringList{"Mark Orthogonal", "Mark Point to Point", "Setting"}
+                              << markTool;
+    }
+    void menu()
+    {
+        QFETCH(int, tool);
+        QFETCH(QStringList, entries);
+        QFETCH(int, owner);
+        StripFixture fixture;
+        fixture.panel.show();
+        const QString sheetBefore = fixture.button(tool)->styleSheet();
+
+        const Opened first = rightClick(fixture, tool, {});
+        QCOMPARE(first.entries, entries);
+        QCOMPARE(first.parent, fixture.button(owner));
+        QCOMPARE(first.position, QCursor::pos());
+        const Opened second = rightClick(fixture, tool, {});
+        QCOMPARE(second.entries, entries);
+        QCOMPARE(second.menu, first.menu);
+        // Dismissed twice: no mode, picture or message changed.
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QCOMPARE(fixture.button(tool)->styleSheet(), sheetBefore);
+        QCOMPARE(fixture.checked(), QList<int>{0});
+    }
+
+    void entry_data()
+    {
+        QTest::addColumn<int>("tool");
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("extra");
+        QTest::addColumn<QString>("style");
+        QTest::newRow("delete feature") << deleteTool << "Delete Feature" << 20000206 << 0
+                                        << sheet("delete1-gry.jpg", "delete1-gre.jpg");
+        QTest::newRow("to intersection") << deleteTool << "Delete to Intersection" << 20000206
+                                         << 1 << sheet("delete2-gry.jpg", "delete2-gre.jpg");
+        QTest::newRow("layer net") << netTool << "Select Layer Net" << 20000244 << 0
+                                   << sheet("Net selection6.jpg", "Net selection5.jpg");
+        QTest::newRow("board net")
+            << netTool << "Select Board Net" << 20000245 << 0
+            << sheet("Net selection4.jpg", "Net selection3.jpg", "border:2px solid green");
+        QTest::newRow("polyline")
+            << netTool << "Select Polyline" << 20000242 << 0
+            << sheet("Net selection2.jpg", "Net selection1.jpg", "border:2px solid red");
+        QTest::newRow("orthogonal") << markTool << "Mark Orthogonal" << 20000266 << 0
+                                    << sheet("markgry.png", "markgre.png");
+        QTest::newRow("point to point") << markTool << "Mark Point to Point" << 20000266 << 1
+                                        << sheet("xie_grey.png", "xie_green.png");
+    }
+    void entry()
+    {
+        QFETCH(int, tool);
+        QFETCH(QString, entry);
+        QFETCH(int, code);
+        QFETCH(int, extra);
+        QFETCH(QString, style);
+        StripFixture fixture;
+        fixture.panel.show();
+        QString styleWhileSending;
+        QList<int> checkedWhileSending;
+        fixture.recorder.setOnMessage([&](const Recorder::Entry&) {
+            styleWhileSending = fixture.button(tool)->styleSheet();
+            checkedWhileSending = fixture.checked();
+        });
+        rightClick(fixture, tool, entry);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{code});
+        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(extra));
+        QCOMPARE(fixture.recorder.messages().last().sender, static_cast<void*>(&fixture.panel));
+        QCOMPARE(styleWhileSending, style);
+        QCOMPARE(checkedWhileSending, QList<int>{tool});
+
+        // The variant stays in force for plain clicks.
+        QTest::mouseClick(fixture.button(0), Qt::LeftButton);
+        QTest::mouseClick(fixture.button(tool), Qt::LeftButton);
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{code, 20000201, code}));
+        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(extra));
+        QCOMPARE(fixture.button(tool)->styleSheet(), style);
+    }
+
+    void settingOnlySends()
+    {
+        StripFixture fixture;
+        fixture.panel.show();
+        rightClick(fixture, markTool, "Mark Point to Point");
+        QTest::mouseClick(fixture.button(1), Qt::LeftButton);
+        const QString styleBefore = fixture.button(markTool)->styleSheet();
+        fixture.recorder.clear();
+        rightClick(fixture, markTool, "Setting");
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{20000268});
+        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
+        QCOMPARE(fixture.checked(), QList<int>{1});
+        QCOMPARE(fixture.button(markTool)->styleSheet(), styleBefore);
+        QTest::mouseClick(fixture.button(markTool), Qt::LeftButton);
+        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(1));
+    }
+
+    void variantsAreIndependent()
+    {
+        StripFixture fixture;
+        fixture.panel.show();
+        rightClick(fixture, deleteTool, "Delete to Intersection");
+        fixture.strip->on_mark_clicked();
+        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
+        rightClick(fixture, markTool, "Mark Point to Point");
+        rightClick(fixture, deleteTool, "Delete Feature");
+        fixture.strip->on_mark_clicked();
+        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(1));
+        fixture.strip->On_DeleteFeat_Clicked();
+        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
+    }
+};
+
+CTS_MAIN(TestMenus)
+#include "test_menus.moc"

@@ -1,0 +1,124 @@
+#include "messages/MessageLog.h"
+#include "messages/MessageTrace.h"
+#include "session/SessionParser.h"
+#include "session/SessionPlayer.h"
+#include "window/Options.h"
+#include "window/WorkbenchWindow.h"
+
+#include <CamApiStandIn.h>
+
+#include <QApplication>
+#include <QPixmap>
+#include <QStyleFactory>
+#include <QTimer>
+#include <QWindow>
+
+#include <cstdio>
+
+namespace {
+
+enum ExitStatus { Good = 0, StepFailed = 1, BadInput = 2 };
+
+void complain(const QString& text)
+{
+    fprintf(stderr, "%s\n", qUtf8Printable(text));
+}
+
+QString ours(const QString& text)
+{
+    return QStringLiteral("workbench: ") + text;
+}
+
+/// What the command line names, read and opened.
+struct Inputs {
+    Options options;
+    Session session;
+    MessageTrace trace;
+};
+
+/// Reads everything that may be wrong before a window is made; empty when all is well.
+QString readInputs(Inputs* inputs)
+{
+    QString error;
+    inputs->options = Options::ofProgram(&error);
+    const Options& options = inputs->options;
+    if (!error.isEmpty()) {
+        return ours(error);
+    }
+    if (!CanvasHost::loadJobs(options.jobFile, &error)) {
+        return error;
+    }
+    if (!options.sessionFile.isEmpty() &&
+        !SessionParser::readFile(options.sessionFile, &inputs->session, &error)) {
+        return inputs->session.file.isEmpty() ? ours(error) : error;
+    }
+    if (!options.traceFile.isEmpty() && !inputs->trace.open(options.traceFile)) {
+        return ours(QStringLiteral("%1: %2").arg(options.traceFile, inputs->trace.errorText()));
+    }
+    return {};
+}
+
+/// Calls `then` when `window` has been on the screen for a moment.
+void whenPainted(QWidget* window, const std::function<void()>& then)
+{
+    const bool exposed = window->windowHandle() && window->windowHandle()->isExposed();
+    QTimer::singleShot(exposed ? 150 : 20, window, [=] {
+        if (exposed) {
+            then();
+        } else {
+            whenPainted(window, then);
+        }
+    });
+}
+
+void end(const Options& options, QWidget* window)
+{
+    int status = Good;
+    if (!options.screenshotFile.isEmpty() && !window->grab().save(options.screenshotFile)) {
+        complain(
+            ours(QStringLiteral("%1: the picture cannot be written").arg(options.screenshotFile)));
+        status = BadInput;
+    }
+    if (options.exit || status != Good) {
+        QCoreApplication::exit(status);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("workbench"));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+
+    Inputs inputs;
+    QString error = readInputs(&inputs);
+    if (!error.isEmpty()) {
+        complain(error);
+        return BadInput;
+    }
+    MessageLog log;
+    QObject::connect(&log, &MessageLog::appended, &application,
+                     [&](const MessageRecord& message) { inputs.trace.append(message); });
+    WorkbenchWindow window(inputs.options, &log);
+    if (!window.start(&error)) {
+        complain(ours(error));
+        return BadInput;
+    }
+    SessionPlayer player(inputs.session, window.host(), &window);
+    QObject::connect(&player, &SessionPlayer::noted, &application, complain);
+    QObject::connect(&player, &SessionPlayer::failed, &application, [](const QString& text) {
+        complain(text);
+        QCoreApplication::exit(StepFailed);
+    });
+    QObject::connect(&player, &SessionPlayer::finished, &window,
+                     [&] { end(inputs.options, &window); });
+    window.show();
+    whenPainted(&window, [&] { player.start(); });
+    return QApplication::exec();
+}

@@ -1,0 +1,118 @@
+#include "session/InputEvents.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QWidget>
+#include <QWindow>
+
+namespace InputEvents {
+namespace {
+
+/// Sends mouse events at one place of one window; the window may go while they are handled.
+class Mouse {
+public:
+    Mouse(QWidget* widget, const QPoint& position)
+        : m_window(widget->window()->windowHandle()),
+          m_local(widget->mapTo(widget->window(), position)),
+          m_global(widget->mapToGlobal(position))
+    {
+    }
+
+    void send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons pressed)
+    {
+        if (m_window) {
+            QMouseEvent event(type, m_local, m_local, m_global, button, pressed, Qt::NoModifier);
+            QCoreApplication::sendEvent(m_window, &event);
+        }
+    }
+
+private:
+    QPointer<QWindow> m_window;
+    QPointF m_local;
+    QPointF m_global;
+};
+
+void sendKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers, const QString& text)
+{
+    const QPointer<QWindow> handle = window->windowHandle();
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        if (handle) {
+            QKeyEvent event(type, key, modifiers, text);
+            QCoreApplication::sendEvent(handle, &event);
+        }
+    }
+}
+
+QString textOf(int key)
+{
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return QStringLiteral("\r");
+        case Qt::Key_Tab:
+            return QStringLiteral("\t");
+        case Qt::Key_Escape:
+            return QStringLiteral("\x1b");
+        case Qt::Key_Backspace:
+            return QStringLiteral("\b");
+        default:
+            return key < Qt::Key_Escape ? QString(QChar(key)).toLower() : QString();
+    }
+}
+
+}  // namespace
+
+void click(QWidget* widget, const QPoint& position, Qt::MouseButton button)
+{
+    Mouse mouse(widget, position);
+    mouse.send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+    mouse.send(QEvent::MouseButtonPress, button, button);
+    mouse.send(QEvent::MouseButtonRelease, button, Qt::NoButton);
+}
+
+void doubleClick(QWidget* widget, const QPoint& position)
+{
+    Mouse mouse(widget, position);
+    mouse.send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+    for (const QEvent::Type press : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+        mouse.send(press, Qt::LeftButton, Qt::LeftButton);
+        mouse.send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    }
+}
+
+void key(QWidget* window, const QKeySequence& combination)
+{
+    const int code = combination[0] & ~static_cast<int>(Qt::KeyboardModifierMask);
+    const Qt::KeyboardModifiers modifiers(combination[0] &
+                                          static_cast<int>(Qt::KeyboardModifierMask));
+    const bool plain = !(modifiers & ~Qt::KeyboardModifiers(Qt::ShiftModifier));
+    sendKey(window, code, modifiers, plain ? textOf(code) : QString());
+}
+
+void type(QWidget* window, const QString& text)
+{
+    const QPointer<QWidget> alive = window;
+    for (const QChar c : text) {
+        if (!alive) {
+            return;
+        }
+        const Qt::KeyboardModifiers modifiers = c.isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
+        sendKey(window, c.toUpper().unicode(), modifiers, QString(c));
+    }
+}
+
+QKeySequence keyOfName(const QString& name)
+{
+    // Qt means the key of the number block by "Enter".
+    QString known = name;
+    if (known == QLatin1String("Enter") || known.endsWith(QLatin1String("+Enter"))) {
+        known.replace(QLatin1String("Enter"), QLatin1String("Return"));
+    }
+    const QKeySequence sequence = QKeySequence::fromString(known, QKeySequence::PortableText);
+    const bool one = sequence.count() == 1 && (sequence[0] & 0x01ffffff) != Qt::Key_unknown;
+    return one ? sequence : QKeySequence();
+}
+
+}  // namespace InputEvents

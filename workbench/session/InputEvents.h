@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QPoint>
+#include <QString>
+
+class QWidget;
+
+/// Mouse and key events as a window system sends them: they go to the window, and Qt finds the
+/// widget. Each call returns when the events are handled.
+namespace InputEvents {
+
+/// `position` is in the coordinates of `widget`.
+void click(QWidget* widget, const QPoint& position, Qt::MouseButton button = Qt::LeftButton);
+void doubleClick(QWidget* widget, const QPoint& position);
+
+/// To the widget of `window` that has the focus. `combination` is one key with its modifiers.
+void key(QWidget* window, const QKeySequence& combination);
+void type(QWidget* window, const QString& text);
+
+/// "Enter", "Tab", "Ctrl+A"; empty for a name that is no key.
+QKeySequence keyOfName(const QString& name);
+
+}  // namespace InputEvents

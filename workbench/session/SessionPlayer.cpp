@@ -1,0 +1,128 @@
+#include "session/SessionPlayer.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+
+namespace {
+
+constexpr int tickTime = 15;    // milliseconds
+constexpr int patience = 3000;  // milliseconds for a widget to appear
+
+bool innerLoop()
+{
+    return QApplication::activePopupWidget() || QApplication::activeModalWidget();
+}
+
+}  // namespace
+
+SessionPlayer::SessionPlayer(const Session& session, HostState* host, QWidget* window,
+                             QObject* parent)
+    : QObject(parent), m_file(session.file), m_context{host, window, &m_boxes}
+{
+    for (const SessionStep& step : session.steps) {
+        const StepKind* const kind = StepTable::find(step.command);
+        for (const StepAction& action : kind->actions(step.arguments)) {
+            m_entries.push_back({step.line, action, kind->answersBox});
+        }
+    }
+}
+
+void SessionPlayer::start()
+{
+    m_waiting.start();
+    schedule(0);
+}
+
+void SessionPlayer::schedule(int milliseconds)
+{
+    // One shot each: a timer does not fire again while its slot runs an inner loop.
+    QTimer::singleShot(milliseconds, this, &SessionPlayer::tick);
+}
+
+void SessionPlayer::tick()
+{
+    if (m_over) {
+        return;
+    }
+    schedule(tickTime);
+    if (answerBox()) {
+        return;
+    }
+    // An action that has not returned goes on by itself, unless it waits in an inner loop.
+    if (m_waiting.elapsed() < m_pause || (m_running > 0 && !innerLoop())) {
+        return;
+    }
+    if (m_entries.empty()) {
+        tryToFinish();
+    } else {
+        runNext();
+    }
+}
+
+bool SessionPlayer::answerBox()
+{
+    QMessageBox* const box = BoxAnswers::waiting();
+    if (!box) {
+        return false;
+    }
+    if (m_boxes.expected() == 0 && !m_entries.empty() && m_entries.front().answersBox) {
+        runNext();
+    }
+    QString note;
+    if (!m_boxes.answer(box, &note)) {
+        Q_EMIT noted(at(note));
+    }
+    m_waiting.restart();
+    return true;
+}
+
+void SessionPlayer::runNext()
+{
+    const Entry entry = m_entries.front();
+    m_entries.pop_front();
+    m_line = entry.line;
+    m_pause = 0;
+    ++m_running;
+    const StepResult result = entry.action(m_context);
+    --m_running;
+    if (m_over) {
+        return;
+    }
+    if (result.kind == StepResult::Done) {
+        m_pause = qMax(m_pause, result.pause);
+        m_waiting.restart();
+    } else if (result.kind == StepResult::Failed || waitedTooLong()) {
+        m_line = entry.line;
+        fail(result.reason);
+    } else {
+        m_entries.push_front(entry);
+    }
+}
+
+void SessionPlayer::tryToFinish()
+{
+    if (m_running == 0 && m_boxes.expected() == 0) {
+        m_over = true;
+        Q_EMIT finished();
+    } else if (waitedTooLong()) {
+        fail(m_boxes.expected() > 0 ? QStringLiteral("the expected box did not appear")
+                                    : QStringLiteral("the session ends in an open menu or window"));
+    }
+}
+
+bool SessionPlayer::waitedTooLong() const
+{
+    return m_waiting.elapsed() > m_pause + patience;
+}
+
+QString SessionPlayer::at(const QString& text) const
+{
+    return QStringLiteral("%1:%2: %3").arg(m_file).arg(m_line).arg(text);
+}
+
+void SessionPlayer::fail(const QString& reason)
+{
+    m_over = true;
+    Q_EMIT failed(at(reason));
+}

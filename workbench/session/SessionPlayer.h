@@ -1,0 +1,56 @@
+#pragma once
+
+#include "session/BoxAnswers.h"
+#include "session/Session.h"
+#include "session/StepTable.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+
+#include <deque>
+
+/// Plays a session from the event loop, through menus, boxes and dialogs that run loops of their
+/// own. Emits exactly one of finished() and failed().
+class SessionPlayer : public QObject {
+    Q_OBJECT
+
+public:
+    /// `host` and `window` are not owned and must outlive the player.
+    SessionPlayer(const Session& session, HostState* host, QWidget* window,
+                  QObject* parent = nullptr);
+
+    void start();
+
+Q_SIGNALS:
+    void finished();
+    /// "<file>:<line>: <reason>"
+    void failed(const QString& text);
+    /// Something that whoever wrote the session should know: "<file>:<line>: <note>"
+    void noted(const QString& text);
+
+private:
+    struct Entry {
+        int line;
+        StepAction action;
+        bool answersBox;
+    };
+
+    void schedule(int milliseconds);
+    void tick();
+    bool answerBox();
+    void runNext();
+    void tryToFinish();
+    bool waitedTooLong() const;
+    QString at(const QString& text) const;
+    void fail(const QString& reason);
+
+    QString m_file;
+    std::deque<Entry> m_entries;
+    BoxAnswers m_boxes;
+    StepContext m_context;
+    QElapsedTimer m_waiting;  ///< since the next action is due
+    int m_pause = 0;          ///< milliseconds before the next action
+    int m_line = 0;           ///< of the action that was started last
+    int m_running = 0;        ///< actions that were started and have not returned
+    bool m_over = false;
+};

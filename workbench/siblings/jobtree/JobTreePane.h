@@ -1,0 +1,33 @@
+#pragma once
+
+#include <PluginMetaData.h>
+
+#include <QWidget>
+
+class QLabel;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+/// The tree of jobs and their steps. A double click on a step asks the host to open it.
+class JobTreePane : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `parent` is the sender pointer of every message.
+    explicit JobTreePane(QWidget* parent);
+
+    void receive(const PluginMetaData& message);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void fill();
+    void open(const QTreeWidgetItem* item);
+    void retranslate();
+
+    QWidget* m_parent;
+    QTreeWidget* m_pJobTreeTW;
+    QLabel* m_pAddFeatureLB;
+    int m_started = 0;  ///< how often Add Feature was started
+};
