@@ -113,10 +113,7 @@ void AttributeRow::setList(const std::vector<std::pair<std::string, std::string>
     if (!m_pAttributesCB->isChecked()) {
         return;
     }
-    m_attributes.clear();
-    for (const auto& attribute : attributes) {
-        m_attributes.insert_or_assign(attribute.first, attribute.second);
-    }
+    m_attributes = {attributes.begin(), attributes.end()};
     m_canvas.sendAttributes(m_attributes);
 }
 

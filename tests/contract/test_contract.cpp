@@ -1,0 +1,116 @@
+// What siblings and hosts rely on, compared with the lists beside this file in both directions:
+// nothing missing, nothing extra, nothing altered.
+
+#include "Main.h"
+#include "Recorder.h"
+#include "addfeature/AddFeature.h"
+#include "dimensions/Dimensious.h"
+#include "toolbar/Canvas_Tool_Strip.h"
+
+#include <CamApiStandIn.h>
+
+#include <QFile>
+#include <QMetaMethod>
+
+namespace {
+
+QStringList linesOf(const char* name)
+{
+    QFile file(QStringLiteral(CONTRACT_DIR "/") + QLatin1String(name));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qFatal("%s cannot be read", qPrintable(file.fileName()));
+    }
+    QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    lines.removeAll(QString());
+    lines.erase(std::remove_if(lines.begin(), lines.end(),
+                               [](const QString& line) { return line.startsWith('#'); }),
+                lines.end());
+    return lines;
+}
+
+/// The indented lines that follow the line `heading`.
+QStringList listed(const QString& heading)
+{
+    QStringList found;
+    bool inside = false;
+    for (const QString& line : linesOf("slots.txt")) {
+        if (!line.startsWith(' ')) {
+            inside = line == heading;
+        } else if (inside) {
+            found.append(line.trimmed());
+        }
+    }
+    return found;
+}
+
+QStringList methodsOf(const QMetaObject& object)
+{
+    QStringList found;
+    for (int i = object.methodOffset(); i < object.methodCount(); ++i) {
+        const QMetaMethod method = object.method(i);
+        const QString kind = method.methodType() == QMetaMethod::Signal ? "signal " : "slot ";
+        found.append(kind + QString::fromLatin1(method.methodSignature()));
+    }
+    return found;
+}
+
+QStringList recordLines(const QVariantMap& record)
+{
+    QStringList lines;
+    for (auto entry = record.begin(); entry != record.end(); ++entry) {
+        const QString type = entry->userType() == QMetaType::QString ? "text"
+                             : entry->userType() == QMetaType::Int   ? "integer"
+                                                                     : entry->typeName();
+        lines.append((entry.key() + ' ' + type + ' ' + entry->toString()).simplified());
+    }
+    return lines;
+}
+
+}  // namespace
+
+class TestContract : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void signalsAndSlots_data()
+    {
+        QTest::addColumn<const QMetaObject*>("object");
+        QTest::newRow("Canvas_Tool_Strip") << &Canvas_Tool_Strip::staticMetaObject;
+        QTest::newRow("AddFeature") << &AddFeature::staticMetaObject;
+        QTest::newRow("Dimensious") << &Dimensious::staticMetaObject;
+    }
+
+    void signalsAndSlots()
+    {
+        QFETCH(const QMetaObject*, object);
+        const QStringList expected = listed(object->className());
+        QVERIFY(!expected.isEmpty());
+        QCOMPARE(methodsOf(*object), expected);
+    }
+
+    void record()
+    {
+        CanvasHost::clearJobs();
+        CanvasHost::Job job;
+        job.name = "job";
+        job.fonts = {"standard"};
+        CanvasHost::addJob(job);
+        Recorder recorder;
+        QWidget window;
+        AddFeature dialog(&window, "job", "step", &window);
+        dialog.getChangeCurrentTool();
+        QCOMPARE(recorder.codes(), QVector<int>{50});
+
+        QStringList expected;
+        for (const QString& line : linesOf("record.txt")) {
+            expected.append(line.simplified());
+        }
+        QCOMPARE(recordLines(recorder.last(50).message.payload), expected);
+        QCOMPARE(expected.size(), 45);
+    }
+};
+
+Q_DECLARE_METATYPE(const QMetaObject*)
+
+CTS_MAIN(TestContract)
+#include "test_contract.moc"

@@ -1,0 +1,52 @@
+#include "BoxCatcher.h"
+
+#include <QApplication>
+#include <QtTest>
+
+BoxCatcher::BoxCatcher()
+{
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { answer(); });
+    m_timer.start(1);
+}
+
+BoxCatcher::~BoxCatcher()
+{
+    for (const QString& text : takeTexts()) {
+        QTest::qFail(qPrintable("unexpected box: " + text), __FILE__, __LINE__);
+    }
+}
+
+void BoxCatcher::answer()
+{
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) {
+        return;
+    }
+    QStringList buttons;
+    for (QAbstractButton* const button : box->buttons()) {
+        buttons.append(button->text());
+    }
+    m_boxes.append({box->icon(), box->windowTitle(), box->text(), buttons, box->parentWidget()});
+    if (m_onBox) {
+        m_onBox();
+    }
+    if (QAbstractButton* const ok = box->button(QMessageBox::Ok)) {
+        QTest::mouseClick(ok, Qt::LeftButton);
+    } else {
+        box->reject();
+    }
+}
+
+QVector<BoxCatcher::Box> BoxCatcher::take()
+{
+    return std::exchange(m_boxes, {});
+}
+
+QStringList BoxCatcher::takeTexts()
+{
+    QStringList texts;
+    for (const Box& box : take()) {
+        texts.append(box.title + '|' + box.text);
+    }
+    return texts;
+}

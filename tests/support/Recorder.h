@@ -1,0 +1,46 @@
+#pragma once
+
+#include <PluginMetaData.h>
+
+#include <QVector>
+
+#include <functional>
+#include <map>
+#include <string>
+
+/// Sees every message that is sent while it lives, and stands in for the canvas and the job tree
+/// as receivers. One at a time.
+class Recorder {
+public:
+    struct Entry {
+        void* sender = nullptr;
+        PluginMetaData message{QString(), QString()};
+        bool delivered = false;
+        std::map<std::string, std::string> attributes;  ///< what the extra word of a 51 points at
+    };
+
+    Recorder();
+    ~Recorder();
+    Recorder(const Recorder&) = delete;
+    Recorder& operator=(const Recorder&) = delete;
+
+    const QVector<Entry>& messages() const { return m_messages; }
+    QVector<int> codes() const;
+    /// The last message of that code; one with code -1 when there is none.
+    Entry last(int code) const;
+    void clear() { m_messages.clear(); }
+    /// Forgets all but the first `count` messages.
+    void truncate(int count) { m_messages.resize(count); }
+
+    /// Called after each message, while its sender is still at it.
+    void setOnMessage(std::function<void(const Entry&)> onMessage)
+    {
+        m_onMessage = std::move(onMessage);
+    }
+
+private:
+    QVector<Entry> m_messages;
+    std::function<void(const Entry&)> m_onMessage;
+    char m_canvas = 0;   // what the manager knows as the two instances
+    char m_jobTree = 0;
+};

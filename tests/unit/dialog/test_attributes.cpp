@@ -1,0 +1,146 @@
+// The attributes of a feature: the check box, the window of values, the request to the editor.
+
+#include "DialogFixture.h"
+#include "Main.h"
+
+#include <CommonWidgetsStandIn.h>
+#include <common_widgets.h>
+
+#include <QCheckBox>
+#include <QPushButton>
+
+namespace {
+
+using List = std::vector<std::pair<std::string, std::string>>;
+using Map = std::map<std::string, std::string>;
+
+}  // namespace
+
+class TestAttributes : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void checkBox()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pAttributesCB");
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{51});
+        QCOMPARE(fixture.record().value("Attributes"), QVariant(QString("1")));
+        QVERIFY(fixture.isShown("m_pValuesPB"));
+        fixture.click("m_pAttributesCB");
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{51, 51}));
+        QCOMPARE(fixture.record().value("Attributes"), QVariant(QString("0")));
+        QVERIFY(!fixture.isShown("m_pValuesPB"));
+    }
+
+    void envelope()
+    {
+        DialogFixture fixture;
+        QVariant attributesAtSend;
+        fixture.recorder.setOnMessage([&](const Recorder::Entry& sent) {
+            if (sent.message.code == 51) {
+                attributesAtSend = fixture.record().value("Attributes");
+            }
+        });
+        fixture.click("m_pAttributesCB");
+        const Recorder::Entry sent = fixture.recorder.last(51);
+        QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
+        QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
+        QVERIFY(sent.message.payload.isEmpty());
+        QVERIFY(sent.message.extra != 0);
+        QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
+        QCOMPARE(attributesAtSend, QVariant(QString("1")));
+        fixture.click("m_pPadTB");
+        fixture.dialog->get_attribute_list({{"a", "b"}});
+        for (const Recorder::Entry& entry : fixture.recorder.messages()) {
+            if (entry.message.code == 51) {
+                QCOMPARE(entry.message.extra, sent.message.extra);
+            }
+        }
+    }
+
+    void theSlotReadsTheBoxItself()
+    {
+        DialogFixture fixture;
+        fixture.dialog->on_Attribute_CheckState_Changed(Qt::Checked);
+        QCOMPARE(fixture.record().value("Attributes"), QVariant(QString("0")));
+    }
+
+    void list()
+    {
+        DialogFixture fixture;
+        fixture.dialog->get_attribute_list({{".net", "gnd"}});  // not checked: nothing
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        fixture.click("m_pAttributesCB");
+        fixture.dialog->get_attribute_list({{".net", "gnd"}, {".smd", ""}});
+        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".net", "gnd"}, {".smd", ""}}));
+        fixture.dialog->get_attribute_list({{".drill", "via"}});
+        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".drill", "via"}}));
+        fixture.click("m_pLineTB");  // says the attributes again
+        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".drill", "via"}}));
+        fixture.click("m_pAttributesCB");
+        QVERIFY(fixture.recorder.last(51).attributes.empty());
+    }
+
+    void valuesWindow()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pAttributesCB");
+        fixture.click("m_pValuesPB");
+        auto* const values = fixture.dialog->findChild<Widget_Attributes*>();
+        QVERIFY(values && values->isVisible() && values->isWindow());
+        QCOMPARE(values->parent(), fixture.dialog.data());
+        fixture.click("m_pValuesPB");
+        QCOMPARE(fixture.dialog->findChildren<Widget_Attributes*>().size(), 1);
+        fixture.dialog->close();
+        QVERIFY(!values->isVisible());
+    }
+
+    void valuesAreSentWithTheBox()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pAttributesCB");
+        fixture.click("m_pValuesPB");
+        fixture.dialog->forward_Attribute_Info({{".net", "vcc"}});
+        fixture.recorder.clear();
+        fixture.click("m_pAttributesCB");
+        QVERIFY(fixture.recorder.last(51).attributes.empty());
+        fixture.click("m_pAttributesCB");
+        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".net", "vcc"}}));
+    }
+
+    void color()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pAttributesCB");
+        fixture.click("m_pValuesPB");
+        const QWidget& button = fixture.find("m_pValuesPB");
+        fixture.dialog->forward_Attribute_Info({{".net", "vcc"}});
+        QCOMPARE(button.styleSheet(), QString("background-color:rgb(255, 0, 0)"));
+        fixture.dialog->forward_Attribute_Info({});
+        QCOMPARE(button.styleSheet(), QString("background-color:none"));
+    }
+
+    void fromTheWindow()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pAttributesCB");
+        fixture.click("m_pValuesPB");
+        auto* const values = fixture.dialog->findChild<Widget_Attributes*>();
+        fixture.recorder.clear();
+        emit values->send_attribute_list(List{{".net", "gnd"}});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{51});
+        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".net", "gnd"}}));
+        emit values->send_attribute_signal();
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{51, 20002838}));
+        const Recorder::Entry sent = fixture.recorder.last(20002838);
+        QCOMPARE(sent.message.sender, QString("Canvas_RuleMenu.dll"));
+        QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
+        QVERIFY(sent.message.payload.isEmpty());
+        QCOMPARE(sent.message.extra, qint64(0));
+        QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
+    }
+};
+
+CTS_MAIN(TestAttributes)
+#include "test_attributes.moc"

@@ -1,0 +1,238 @@
+// What the dialog's frame is built of, and what a feature type shows.
+
+#include "DialogFixture.h"
+#include "Main.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRegExpValidator>
+#include <QSpinBox>
+#include <QToolButton>
+
+namespace {
+
+const char* const pages[] = {"m_pLinePage", "m_pPadPage", "m_pSurfacePage", "m_pArcPage",
+                             "m_pTextPage"};
+const QStringList symbolControls = {"m_pSymbolPB", "m_pSymbolTextLE", "m_pSelectFromEditorPB"};
+const QStringList placementControls = {"m_pMirrorCMB", "m_pAngleValueSB"};
+
+QStringList items(const QComboBox& combo)
+{
+    QStringList texts;
+    for (int i = 0; i < combo.count(); ++i) {
+        texts.append(combo.itemText(i));
+    }
+    return texts;
+}
+
+QImage picture(const QIcon& icon)
+{
+    return icon.pixmap(32, 32).toImage();
+}
+
+}  // namespace
+
+class TestFrame : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void window()
+    {
+        DialogFixture fixture;
+        QCOMPARE(fixture.dialog->objectName(), QString("AddFeature"));
+        QCOMPARE(fixture.dialog->width(), 350);
+        QCOMPARE(fixture.dialog->minimumWidth(), 350);
+        QCOMPARE(fixture.dialog->QWidget::maximumWidth(), 350);
+        QCOMPARE(fixture.dialog->windowTitle(), QString("Add Feature"));
+        QVERIFY(fixture.dialog->isWindow());
+        QCOMPARE(fixture.dialog->parentWidget(), &fixture.window);
+    }
+
+    void buildingSendsNothing()
+    {
+        DialogFixture fixture;
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QVERIFY(fixture.boxes.take().isEmpty());
+    }
+
+    void typeButtons()
+    {
+        DialogFixture fixture;
+        const char* const names[] = {"m_pLineTB", "m_pPadTB", "m_pSurfaceTB", "m_pArcTB",
+                                     "m_pTextTB"};
+        const char* const icons[] = {"Line1.jpg", "Pad1.jpg", "Surf1.jpg", "Arc1.jpg",
+                                     "Text1.jpg"};
+        for (int id = 0; id < 5; ++id) {
+            auto& button = fixture.find<QToolButton>(names[id]);
+            QVERIFY(button.isCheckable());
+            QCOMPARE(button.isChecked(), id == 0);
+            QVERIFY(button.group() && button.group()->exclusive());
+            QCOMPARE(button.group()->id(&button), id);
+            const QIcon expected(QString(":/Canvas_Tool_Strip/Resources/") + icons[id]);
+            QVERIFY(!picture(expected).isNull());
+            QCOMPARE(picture(button.icon()), picture(expected));
+        }
+    }
+
+    void commonRows()
+    {
+        DialogFixture fixture;
+        auto& box = fixture.find<QCheckBox>("m_pAttributesCB");
+        QCOMPARE(box.text(), QString("Attributes"));
+        QVERIFY(!box.isChecked());
+        QCOMPARE(fixture.find<QPushButton>("m_pValuesPB").text(), QString("Values..."));
+        QVERIFY(!fixture.isShown("m_pValuesPB"));
+        QCOMPARE(fixture.find<QPushButton>("m_pFillPB").text(), QString("Fill..."));
+        QVERIFY(!fixture.find("m_pFillPB").isEnabled());
+
+        auto& polarity = fixture.find<QComboBox>("m_pPolarityCMB");
+        QCOMPARE(items(polarity), (QStringList{"Positive", "Negative"}));
+        QCOMPARE(polarity.currentIndex(), 0);
+        auto& mirror = fixture.find<QComboBox>("m_pMirrorCMB");
+        QCOMPARE(items(mirror), (QStringList{"Mir", "No Mir"}));
+        QCOMPARE(mirror.currentIndex(), 1);
+        QVERIFY(!fixture.isShown("m_pMirrorCMB"));
+        auto& rotation = fixture.find<QSpinBox>("m_pAngleValueSB");
+        QCOMPARE(rotation.value(), 0);
+        QCOMPARE(rotation.minimum(), 0);
+        QCOMPARE(rotation.maximum(), 360);
+        QVERIFY(!fixture.isShown("m_pAngleValueSB"));
+
+        QCOMPARE(fixture.find<QPushButton>("m_pSymbolPB").text(), QString("Symbol"));
+        QCOMPARE(fixture.symbol().text(), QString());
+        auto& pick = fixture.find<QPushButton>("m_pSelectFromEditorPB");
+        QCOMPARE(pick.size(), QSize(25, 25));
+        QVERIFY(!picture(pick.icon()).isNull());
+        for (const QString& name : symbolControls) {
+            QVERIFY2(fixture.isShown(name), qPrintable(name));
+        }
+    }
+
+    void rowsStandInOrder()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pPadTB");
+        int bottom = -1;
+        for (const char* const name :
+             {"m_pLineTB", "m_pAttributesCB", "m_pPolarityCMB", "m_pMirrorCMB", "m_pAngleValueSB",
+              "m_pSymbolTextLE", "m_pPadPage"}) {
+            const QWidget& widget = fixture.find(name);
+            const int top = widget.mapTo(fixture.dialog, QPoint()).y();
+            QVERIFY2(top > bottom, name);
+            bottom = top + widget.height() - 1;
+        }
+    }
+
+    void type_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("feature");
+        QTest::addColumn<bool>("hasSymbol");
+        QTest::addColumn<bool>("isPlaced");
+        QTest::addColumn<bool>("isFilled");
+        QTest::addColumn<QString>("pattern");
+        const QString line("^[rs]?|[rs][0-9]+(\\.[0-9]+)?$");
+        QTest::newRow("line") << "m_pLineTB" << 1 << true << false << false << line;
+        QTest::newRow("pad") << "m_pPadTB" << 2 << true << true << false << "^[a-z0-9_.+-]*$";
+        QTest::newRow("surface") << "m_pSurfaceTB" << 3 << false << false << true << line;
+        QTest::newRow("arc") << "m_pArcTB" << 4 << true << false << false
+                             << "[r]?|[r][0-9]+(\\.[0-9]+)?$";
+        QTest::newRow("text") << "m_pTextTB" << 5 << false << true << false << line;
+    }
+
+    void type()
+    {
+        QFETCH(QString, button);
+        QFETCH(int, feature);
+        QFETCH(bool, hasSymbol);
+        QFETCH(bool, isPlaced);
+        QFETCH(bool, isFilled);
+        QFETCH(QString, pattern);
+        DialogFixture fixture;
+        QCOMPARE(fixture.record().value("Features"), QVariant(QString("1")));
+        QVariant featureAtAttributes;
+        fixture.recorder.setOnMessage([&](const Recorder::Entry& sent) {
+            if (sent.message.code == 51) {
+                featureAtAttributes = fixture.record().value("Features");
+            }
+        });
+        fixture.click(button);
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{51, 50}));
+        QCOMPARE(featureAtAttributes, QVariant(QString("1")));
+        QCOMPARE(fixture.recorder.last(50).message.payload.value("Features"), QVariant(feature));
+
+        for (const QString& name : symbolControls) {
+            QCOMPARE(fixture.isShown(name), hasSymbol);
+        }
+        for (const QString& name : placementControls) {
+            QCOMPARE(fixture.isShown(name), isPlaced);
+        }
+        QCOMPARE(fixture.find("m_pFillPB").isEnabled(), isFilled);
+        QVERIFY(fixture.isShown("m_pAttributesCB"));
+        QVERIFY(fixture.isShown("m_pPolarityCMB"));
+        for (int i = 0; i < 5; ++i) {
+            QCOMPARE(fixture.isShown(pages[i]), i == feature - 1);
+        }
+        const auto* const validator =
+            qobject_cast<const QRegExpValidator*>(fixture.symbol().validator());
+        QVERIFY(validator);
+        QCOMPARE(validator->regExp().pattern(), pattern);
+        QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
+
+        // Once more on the chosen type: the same again, the type now an integer.
+        fixture.recorder.clear();
+        fixture.click(button);
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{51, 50}));
+        QCOMPARE(featureAtAttributes, QVariant(feature));
+    }
+
+    void keepsTheOtherPagesKeys()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pTextTB");
+        fixture.dialog->get_Special_TEXT("JOB");
+        fixture.click("m_pLineTB");
+        const QVariantMap sent = fixture.recorder.last(50).message.payload;
+        QCOMPARE(sent.value("TextContains"), QVariant(QString("$$JOB")));
+        QCOMPARE(sent.value("Features"), QVariant(1));
+        QCOMPARE(sent.size(), 45);
+    }
+
+    void languageChange()
+    {
+        DialogFixture fixture;
+        fixture.find<QComboBox>("m_pPolarityCMB").setCurrentIndex(1);
+        fixture.recorder.clear();
+        const QuotingTranslator translator("AddFeature");
+        fixture.dialog->change_language();
+        QCOMPARE(fixture.dialog->windowTitle(), QString("<Add Feature>"));
+        QCOMPARE(fixture.find<QPushButton>("m_pSymbolPB").text(), QString("<Symbol>"));
+        QCOMPARE(fixture.find<QPushButton>("m_pValuesPB").text(), QString("<Values...>"));
+        QCOMPARE(fixture.find<QPushButton>("m_pFillPB").text(), QString("<Fill...>"));
+        QCOMPARE(fixture.find<QCheckBox>("m_pAttributesCB").text(), QString("<Attributes>"));
+        QCOMPARE(items(fixture.find<QComboBox>("m_pPolarityCMB")),
+                 (QStringList{"<Positive>", "<Negative>"}));
+        QCOMPARE(fixture.find<QComboBox>("m_pPolarityCMB").currentIndex(), 1);
+        QCOMPARE(items(fixture.find<QComboBox>("m_pMirrorCMB")),
+                 (QStringList{"<Mir>", "<No Mir>"}));
+        QVERIFY(fixture.recorder.messages().isEmpty());
+    }
+
+    void everyWidgetHasAName()
+    {
+        DialogFixture fixture;
+        for (const QWidget* const widget : fixture.dialog->findChildren<QWidget*>()) {
+            const QByteArray type = widget->metaObject()->className();
+            const bool isQtsOwn = widget->objectName().startsWith("qt_") ||
+                                  type.startsWith("QComboBoxPrivate") ||
+                                  type == "QComboBoxListView" || type == "QSizeGrip";
+            QVERIFY2(isQtsOwn || !widget->objectName().isEmpty(), type.constData());
+        }
+    }
+};
+
+CTS_MAIN(TestFrame)
+#include "test_frame.moc"

@@ -1,0 +1,272 @@
+// What the frame's controls write and send, what is checked before the record goes, and closing.
+
+#include "DialogFixture.h"
+#include "Main.h"
+
+#include <CamApiStandIn.h>
+#include <UiApiStandIn.h>
+
+#include <QComboBox>
+#include <QLoggingCategory>
+#include <QSpinBox>
+
+namespace {
+
+QStringList debugLines;
+
+void keepDebugLine(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type == QtDebugMsg && qstrcmp(context.category, "canvastoolstrip.record") == 0) {
+        debugLines.append(text);
+    }
+}
+
+QStringList debugLinesOf(const std::function<void()>& action)
+{
+    debugLines.clear();
+    const QtMessageHandler previous = qInstallMessageHandler(keepDebugLine);
+    action();
+    qInstallMessageHandler(previous);
+    return debugLines;
+}
+
+}  // namespace
+
+class TestSending : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void combo_data()
+    {
+        QTest::addColumn<QString>("combo");
+        QTest::addColumn<int>("before");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("negative") << "m_pPolarityCMB" << 0 << 1 << "Polarity" << "0";
+        QTest::newRow("positive") << "m_pPolarityCMB" << 1 << 0 << "Polarity" << "1";
+        QTest::newRow("no polarity") << "m_pPolarityCMB" << 1 << -1 << "Polarity" << "0";
+        QTest::newRow("mirrored") << "m_pMirrorCMB" << 1 << 0 << "Mirror" << "1";
+        QTest::newRow("not mirrored") << "m_pMirrorCMB" << 0 << 1 << "Mirror" << "2";
+        QTest::newRow("no mirror") << "m_pMirrorCMB" << 0 << -1 << "Mirror" << "1";
+    }
+
+    void combo()
+    {
+        QFETCH(QString, combo);
+        QFETCH(int, before);
+        QFETCH(int, index);
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        DialogFixture fixture;
+        auto& box = fixture.find<QComboBox>(combo);
+        box.setCurrentIndex(before);
+        fixture.recorder.clear();
+        box.setCurrentIndex(index);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.recorder.last(50).message.payload.value(key), QVariant(value));
+    }
+
+    void rotation()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pPadTB");
+        auto& spin = fixture.find<QSpinBox>("m_pAngleValueSB");
+        spin.setFocus();
+        spin.selectAll();
+        QTest::keyClicks(&spin, "30");
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QTest::keyClick(&spin, Qt::Key_Return);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.record().value("MirrorRotate"), QVariant(QString("30")));
+        QTest::keyClicks(&spin, "999");
+        QVERIFY(spin.value() <= 360);
+    }
+
+    void envelope()
+    {
+        DialogFixture fixture;
+        fixture.dialog->getChangeCurrentTool();
+        QCOMPARE(fixture.recorder.messages().size(), 1);
+        const Recorder::Entry& sent = fixture.recorder.messages().first();
+        QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
+        QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
+        QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
+        QCOMPARE(sent.message.code, 50);
+        QCOMPARE(sent.message.extra, qint64(0));
+        QCOMPARE(sent.message.payload.size(), 45);
+        QCOMPARE(sent.message.payload.value("SymbolText"), QVariant(QString("")));
+        QCOMPARE(sent.message.payload.value("Angel(deg)"), QVariant(QString("")));
+    }
+
+    void oneLogLinePerKeyInKeyOrder()
+    {
+        DialogFixture fixture;
+        const QStringList lines =
+            debugLinesOf([&] { fixture.dialog->getChangeCurrentTool(); });
+        QStringList expected;
+        const QVariantMap payload = fixture.recorder.last(50).message.payload;
+        for (auto entry = payload.begin(); entry != payload.end(); ++entry) {
+            expected.append("name: " + entry.key() + " value " + entry.value().toString());
+        }
+        QCOMPARE(lines, expected);
+        QCOMPARE(lines.size(), 45);
+        QCOMPARE(lines.first(), QString("name: AddBackground value 2"));
+    }
+
+    void directionAndSilencedRecordLogNothing()
+    {
+        DialogFixture fixture;
+        QVERIFY(debugLinesOf([&] { fixture.dialog->on_m_pAngleLE_editingFinished(); }).isEmpty());
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{52});
+        QLoggingCategory::setFilterRules("canvastoolstrip.record.debug=false");
+        const QStringList lines = debugLinesOf([&] { fixture.dialog->getChangeCurrentTool(); });
+        QLoggingCategory::setFilterRules({});
+        QVERIFY(lines.isEmpty());
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{52, 50}));
+    }
+
+    void symbolIsChecked_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("symbol");
+        QTest::addColumn<bool>("isSent");
+        for (const char* const checked : {"m_pLineTB", "m_pPadTB", "m_pArcTB"}) {
+            QTest::addRow("%s too large", checked) << checked << "r50000.5" << false;
+            QTest::addRow("%s largest", checked) << checked << "r50000" << true;
+            QTest::addRow("%s special", checked) << checked << "fiducial_cross" << true;
+            QTest::addRow("%s empty", checked) << checked << "" << true;
+        }
+        QTest::newRow("surface") << "m_pSurfaceTB" << "r60000" << true;
+        QTest::newRow("text") << "m_pTextTB" << "r60000" << true;
+    }
+
+    void symbolIsChecked()
+    {
+        QFETCH(QString, button);
+        QFETCH(QString, symbol);
+        QFETCH(bool, isSent);
+        DialogFixture fixture;
+        fixture.symbol().setText(symbol);
+        fixture.click(button);
+        QCOMPARE(fixture.recorder.codes(), isSent ? (QVector<int>{51, 50}) : QVector<int>{51});
+        QCOMPARE(fixture.symbol().text(), isSent ? symbol : QString());
+        QCOMPARE(fixture.boxes.take().size(), isSent ? 0 : 1);
+        QVERIFY(fixture.record().value("Features").toInt() > 0);
+        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("")));
+    }
+
+    void refusedSymbolStaysInTheRecord()
+    {
+        DialogFixture fixture;
+        fixture.type("r10");
+        fixture.leave("Tab");
+        fixture.symbol().setText("r60000");
+        fixture.recorder.clear();
+        fixture.click("m_pPadTB");
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{51});
+        QCOMPARE(fixture.boxes.take().size(), 1);
+        QCOMPARE(fixture.symbol().text(), QString());
+        QCOMPARE(fixture.record().value("Features"), QVariant(2));
+        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r10")));
+        QVERIFY(fixture.isShown("m_pPadPage"));
+    }
+
+    void checkOfTheSymbol()
+    {
+        DialogFixture fixture;
+        QString name;
+        double low = -1;
+        double high = -1;
+        void* context = nullptr;
+        CanvasHost::uiApiOverrides().isSymbolValueLegal = [&](const QString& given, double minimum,
+                                                              double maximum, void* owner) {
+            name = given;
+            low = minimum;
+            high = maximum;
+            context = owner;
+            return true;
+        };
+        fixture.symbol().setText("r10");
+        fixture.dialog->getChangeCurrentTool();
+        QCOMPARE(name, QString("r10"));
+        QCOMPARE(low, 0.0);
+        QCOMPARE(high, 50000.0);
+        QCOMPARE(context, static_cast<void*>(&fixture.window));
+    }
+
+    void specialSymbolsAreAskedAnew()
+    {
+        DialogFixture fixture;
+        QVector<std::string> jobs;
+        std::vector<std::string> known;
+        CanvasHost::camApiOverrides().get_special_symbol_names =
+            [&](const std::string& job, std::vector<std::string>& names) {
+                jobs.append(job);
+                names = known;
+            };
+        CanvasHost::uiApiOverrides().isSymbolValueLegal = [](const QString&, double, double,
+                                                             void*) { return false; };
+        fixture.symbol().setText("Odd");
+        known = {"Odd"};
+        fixture.dialog->getChangeCurrentTool();
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        fixture.dialog->set_job_info("other", "step");
+        known = {"odd"};
+        fixture.dialog->getChangeCurrentTool();
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(jobs, (QVector<std::string>{"job", "other"}));
+    }
+
+    void fill()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pFillPB");  // disabled but for a surface
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        fixture.choose("m_pSurfaceTB");
+        fixture.click("m_pFillPB");
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{53});
+        const Recorder::Entry sent = fixture.recorder.last(53);
+        QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
+        QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
+        QVERIFY(sent.message.payload.isEmpty());
+        QCOMPARE(sent.message.extra, qint64(0));
+        QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
+    }
+
+    void closing()
+    {
+        DialogFixture fixture;
+        QSignalSpy viewTool(fixture.dialog, SIGNAL(change_viewtool()));
+        fixture.type("r10");
+        fixture.dialog->close();
+        QCOMPARE(viewTool.size(), 1);
+        QVERIFY(fixture.dialog);
+        QVERIFY(!fixture.dialog->isVisible());
+        QVERIFY(fixture.recorder.messages().isEmpty());
+
+        // What closing makes the field report is no entry of the user's, until the next send.
+        fixture.dialog->on_m_pSymbolTextLE_editingFinished();
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("")));
+        fixture.dialog->getChangeCurrentTool();
+        fixture.dialog->on_m_pSymbolTextLE_editingFinished();
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{50, 50}));
+        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r10")));
+    }
+
+    void aRefusedSendEnablesTheSymbolAgain()
+    {
+        DialogFixture fixture;
+        fixture.dialog->close();
+        fixture.symbol().setText("r60000");
+        fixture.dialog->getChangeCurrentTool();
+        QCOMPARE(fixture.boxes.take().size(), 1);
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        fixture.enter("r20");
+        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r20")));
+    }
+};
+
+CTS_MAIN(TestSending)
+#include "test_sending.moc"

@@ -1,0 +1,189 @@
+// Symbols that are chosen from the list or picked on the board.
+
+#include "DialogFixture.h"
+#include "Main.h"
+
+#include <common_widgets.h>
+
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+
+namespace {
+
+const QString armed(
+    "QPushButton{background-image:url(:/Canvas_Tool_Strip/Resources/add_fea.jpg);"
+    "border: 1px solid red;}");
+const QString disarmed(
+    "QPushButton{background-image:url(:/Canvas_Tool_Strip/Resources/add_fea.jpg);border: none;}");
+
+}  // namespace
+
+class TestSymbolPick : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pickButton()
+    {
+        DialogFixture fixture;
+        QSignalSpy select(fixture.dialog, SIGNAL(Select_symbol()));
+        const QWidget& button = fixture.find("m_pSelectFromEditorPB");
+        fixture.click("m_pSelectFromEditorPB");
+        QCOMPARE(button.styleSheet(), armed);
+        fixture.click("m_pSelectFromEditorPB");
+        QCOMPARE(button.styleSheet(), disarmed);
+        QCOMPARE(select.size(), 2);
+        QVERIFY(fixture.recorder.messages().isEmpty());
+    }
+
+    void picked_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<bool>("metric");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("shown");  // empty: refused
+        QTest::newRow("line") << "m_pLineTB" << false << "r10" << "r10";
+        QTest::newRow("line, any symbol") << "m_pLineTB" << false << "logo" << "logo";
+        QTest::newRow("pad, metric") << "m_pPadTB" << true << "rect20x40" << "rect508x1016";
+        QTest::newRow("arc") << "m_pArcTB" << false << "r10.5" << "r10.5";
+        QTest::newRow("arc, metric") << "m_pArcTB" << true << "r10" << "r254";
+        QTest::newRow("arc, square") << "m_pArcTB" << false << "s20" << "";
+        QTest::newRow("arc, r alone") << "m_pArcTB" << false << "r" << "";
+        QTest::newRow("arc, rectangle") << "m_pArcTB" << false << "rect20x40" << "";
+        QTest::newRow("arc, suffix") << "m_pArcTB" << false << "r10_45" << "";
+        QTest::newRow("arc, no name") << "m_pArcTB" << false << "" << "";
+    }
+
+    void picked()
+    {
+        QFETCH(QString, type);
+        QFETCH(bool, metric);
+        QFETCH(QString, name);
+        QFETCH(QString, shown);
+        DialogFixture fixture(metric);
+        QSignalSpy select(fixture.dialog, SIGNAL(Select_symbol()));
+        fixture.click("m_pSelectFromEditorPB");
+        fixture.choose(type);
+        fixture.setToolActive(false);  // a pick is sent whatever the tool is
+        const QString before = fixture.symbol().text();
+
+        fixture.dialog->get_ChangeSymbol_Info({{0, name.toStdString()}});
+        const bool isRefused = shown.isEmpty();
+        QCOMPARE(fixture.boxes.takeTexts(),
+                 isRefused ? QStringList("Dialog Box|Illegal symbol name: " + name)
+                           : QStringList());
+        QCOMPARE(fixture.symbol().text(), isRefused ? before : shown);
+        QCOMPARE(fixture.find("m_pSelectFromEditorPB").styleSheet(), isRefused ? armed : disarmed);
+        QCOMPARE(fixture.recorder.codes(), isRefused ? QVector<int>{} : QVector<int>{50});
+        QCOMPARE(fixture.record().value("SymbolText"), QVariant(isRefused ? QString("") : shown));
+        QCOMPARE(select.size(), 1);  // the click's own
+    }
+
+    void severalAtOnce()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pArcTB");
+        fixture.dialog->get_ChangeSymbol_Info({{7, "r30"}, {1, "r10"}, {3, "s20"}});
+        QCOMPARE(fixture.boxes.takeTexts(), QStringList("Dialog Box|Illegal symbol name: s20"));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{50, 50}));
+        QCOMPARE(fixture.recorder.messages()[0].message.payload.value("SymbolText"),
+                 QVariant(QString("r10")));
+        QCOMPARE(fixture.symbol().text(), QString("r30"));
+        QCOMPARE(fixture.find("m_pSelectFromEditorPB").styleSheet(), disarmed);
+        fixture.dialog->get_ChangeSymbol_Info({});
+        QCOMPARE(fixture.recorder.codes().size(), 2);
+    }
+
+    void chosenName_data()
+    {
+        QTest::addColumn<bool>("metric");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("mil") << false << "r10" << "r10";
+        QTest::newRow("metric") << true << "r254" << "r10";
+        QTest::newRow("suffix stays") << false << "r10_45" << "r10_45";
+    }
+
+    void chosenName()
+    {
+        QFETCH(bool, metric);
+        QFETCH(QString, name);
+        QFETCH(QString, stored);
+        DialogFixture fixture(metric);
+        fixture.find<QSpinBox>("m_pAngleValueSB").setValue(15);
+        fixture.setToolActive(false);
+        fixture.dialog->receive_text(name);
+        QCOMPARE(fixture.symbol().text(), name);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        const QVariantMap sent = fixture.recorder.last(50).message.payload;
+        QCOMPARE(sent.value("SymbolText"), QVariant(stored));
+        QCOMPARE(sent.value("MirrorRotate"), QVariant(QString("15")));
+    }
+
+    void noChosenName()
+    {
+        DialogFixture fixture;
+        fixture.enter("r10");
+        fixture.recorder.clear();
+        fixture.dialog->receive_text("");
+        fixture.dialog->Enter_Symbol_Text();
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r10")));
+    }
+
+    void chooser()
+    {
+        DialogFixture fixture;
+        QVERIFY(!fixture.window.findChild<Widget_SymbolSelection*>());
+        fixture.click("m_pSymbolPB");
+        auto* const chooser = fixture.window.findChild<Widget_SymbolSelection*>();
+        QVERIFY(chooser && chooser->isVisible() && chooser->isWindow());
+        QCOMPARE(chooser->parent(), &fixture.window);
+        auto& list = findNamed<QListWidget>(*chooser, "m_pSymbolLW");
+        const auto offers = [&](const QString& name) {
+            return !list.findItems(name, Qt::MatchExactly).isEmpty();
+        };
+        QVERIFY(offers("r10") && !offers("logo"));
+
+        fixture.dialog->close();
+        QVERIFY(!chooser->isVisible());
+        fixture.dialog->show();
+        const struct {
+            const char* type;
+            bool all;
+        } types[] = {{"m_pPadTB", true}, {"m_pArcTB", false}, {"m_pLineTB", false}};
+        for (const auto& type : types) {
+            fixture.choose(type.type);
+            fixture.click("m_pSymbolPB");
+            QCOMPARE(offers("logo"), type.all);
+        }
+        QCOMPARE(fixture.window.findChildren<Widget_SymbolSelection*>().size(), 1);
+
+        emit chooser->sendText("s20");
+        QCOMPARE(fixture.symbol().text(), QString("s20"));
+        fixture.setMetric(true);
+        QVERIFY(offers("r254") && !offers("r10"));
+    }
+
+    void chooserFollowsTheJob()
+    {
+        DialogFixture fixture;
+        fixture.dialog->set_job_info("other", "step");            // no chooser yet
+        fixture.dialog->refresh_symbolselection_user_list();
+        fixture.choose("m_pPadTB");
+        fixture.click("m_pSymbolPB");
+        auto* const chooser = fixture.window.findChild<Widget_SymbolSelection*>();
+        auto& list = findNamed<QListWidget>(*chooser, "m_pSymbolLW");
+        QVERIFY(!list.findItems("coupon", Qt::MatchExactly).isEmpty());
+        QVERIFY(list.findItems("fiducial_cross", Qt::MatchExactly).isEmpty());
+        fixture.dialog->set_job_info("job", "step");
+        QVERIFY(!list.findItems("fiducial_cross", Qt::MatchExactly).isEmpty());
+        list.clear();
+        fixture.dialog->refresh_symbolselection_user_list();
+        QVERIFY(!list.findItems("fiducial_cross", Qt::MatchExactly).isEmpty());
+    }
+};
+
+CTS_MAIN(TestSymbolPick)
+#include "test_symbol_pick.moc"

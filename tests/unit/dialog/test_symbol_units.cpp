@@ -1,0 +1,127 @@
+// What the symbol field shows when the unit changes.
+
+#include "DialogFixture.h"
+#include "Main.h"
+
+class TestSymbolUnits : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void changeAndBack_data()
+    {
+        QTest::addColumn<bool>("metricFirst");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("isLeft");
+        QTest::addColumn<QString>("other");
+        QTest::newRow("mil round") << false << "r10" << true << "r254";
+        QTest::newRow("mil, not left yet") << false << "r10" << false << "r254";
+        QTest::newRow("mil rectangle") << false << "rect20x40.5" << true << "rect508x1028.7";
+        QTest::newRow("mil suffix") << false << "r10_45" << true << "r254_45";
+        QTest::newRow("mil ring suffix") << false << "ring_r60x30_90" << true
+                                         << "ring_r1524x762_90";
+        QTest::newRow("mil special") << false << "fiducial_cross" << true << "fiducial_cross";
+        QTest::newRow("mil special suffix") << false << "fiducial_cross_45" << true
+                                            << "fiducial_cross_45";
+        QTest::newRow("mil user symbol") << false << "logo" << true << "logo";
+        QTest::newRow("mil empty") << false << "" << true << "";
+        QTest::newRow("metric round") << true << "r254" << true << "r10";
+        QTest::newRow("metric suffix") << true << "r254_45" << true << "r10_45";
+        QTest::newRow("metric special") << true << "fiducial_cross" << true << "fiducial_cross";
+        QTest::newRow("metric empty") << true << "" << true << "";
+    }
+
+    void changeAndBack()
+    {
+        QFETCH(bool, metricFirst);
+        QFETCH(QString, typed);
+        QFETCH(bool, isLeft);
+        QFETCH(QString, other);
+        DialogFixture fixture(metricFirst);
+        fixture.choose("m_pPadTB");
+        fixture.type(typed);
+        if (isLeft) {
+            fixture.leave("Tab");
+        }
+        const QVariantMap before = fixture.record();
+        fixture.recorder.clear();
+        for (int round = 0; round < 10; ++round) {
+            fixture.setMetric(!metricFirst);
+            QCOMPARE(fixture.symbol().text(), other);
+            fixture.setMetric(metricFirst);
+            QCOMPARE(fixture.symbol().text(), typed);
+        }
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QCOMPARE(fixture.record(), before);
+    }
+
+    void anAwkwardSizeComesBack()
+    {
+        DialogFixture fixture(true);
+        fixture.type("r10");
+        fixture.setMetric(false);
+        QVERIFY(fixture.symbol().text().startsWith("r0.393"));
+        fixture.setMetric(true);
+        QCOMPARE(fixture.symbol().text(), QString("r10"));
+    }
+
+    void typingAnewReplacesWhatWasKept()
+    {
+        DialogFixture fixture;
+        fixture.type("r10");
+        fixture.setMetric(true);
+        fixture.type("r508");
+        fixture.setMetric(false);
+        QCOMPARE(fixture.symbol().text(), QString("r20"));
+        fixture.setMetric(true);
+        QCOMPARE(fixture.symbol().text(), QString("r508"));
+    }
+
+    void twoNoticesOfOneUnit()
+    {
+        DialogFixture fixture;
+        fixture.type("r10");
+        fixture.setMetric(true);
+        fixture.setMetric(true);
+        QCOMPARE(fixture.symbol().text(), QString("r254"));
+        fixture.setMetric(false);
+        fixture.setMetric(false);
+        QCOMPARE(fixture.symbol().text(), QString("r10"));
+    }
+
+    void suffixFlagDecides()
+    {
+        // Of a name that is no standard symbol, only the part before the suffix is converted.
+        DialogFixture fixture;
+        fixture.choose("m_pPadTB");
+        fixture.enter("fiducial_cross_45");
+        fixture.setMetric(true);
+        QCOMPARE(fixture.symbol().text(), QString("fiducial_cross_45"));
+        fixture.enter("r254");  // clears the flag
+        fixture.setMetric(false);
+        QCOMPARE(fixture.symbol().text(), QString("r10"));
+    }
+
+    void emitsUnitChangedOnceAndLast()
+    {
+        DialogFixture fixture;
+        fixture.type("r10");
+        QStringList texts;
+        connect(fixture.dialog, &AddFeature::unit_changed, this,
+                [&] { texts.append(fixture.symbol().text()); });
+        fixture.setMetric(true);
+        QCOMPARE(texts, QStringList{"r254"});
+    }
+
+    void theFieldIsFollowedAgainAfterwards()
+    {
+        DialogFixture fixture;
+        fixture.type("r10");
+        fixture.setMetric(true);
+        fixture.symbol().setText("r1270");  // kept as the metric text
+        fixture.setMetric(false);
+        QCOMPARE(fixture.symbol().text(), QString("r50"));
+    }
+};
+
+CTS_MAIN(TestSymbolUnits)
+#include "test_symbol_units.moc"
