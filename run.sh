@@ -14,7 +14,7 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
 fi
 out=build/release/run
 mkdir -p "$out"
-with_display "$workbench" --job workbench/samples/board.json \
+scripts/with-display.sh "$workbench" --job workbench/samples/board.json \
     --play workbench/samples/first-steps.session \
     --screenshot "$out/workbench.png" --trace "$out/trace.jsonl" --exit "$@" || exit $?
 echo "No display: the sample session was played under a virtual one."

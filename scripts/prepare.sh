@@ -1,4 +1,4 @@
-# Sourced by run.sh and test.sh: the packages, the build, the virtual display.
+# Sourced by run.sh and test.sh: the packages and the build.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root" || exit 1
@@ -44,10 +44,4 @@ build() {
         targets+=(--target "$target")
     done
     cmake --build "build/$preset" "${targets[@]}" || exit 1
-}
-
-# with_display COMMAND...: runs it under a virtual display with a window manager.
-with_display() {
-    xvfb-run -a -s '-screen 0 1600x1200x24' \
-        bash -c 'openbox & manager=$!; "$@"; status=$?; kill $manager; exit $status' bash "$@"
 }

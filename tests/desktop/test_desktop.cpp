@@ -1,0 +1,252 @@
+// The running workbench as a user works with it.
+
+#include "BoxCatcher.h"
+#include "Desktop.h"
+#include "FindChild.h"
+#include "Main.h"
+#include "messages/MessageLog.h"
+#include "window/WorkbenchWindow.h"
+
+#include <CamApiStandIn.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QToolButton>
+
+#include <memory>
+
+namespace {
+
+const char* const toolButtons[] = {
+    "m_pAreaZoomTB",      "m_pOpenPopViewTB",      "m_pFeatHighLightTB",    "m_pDeleteFeatTB",
+    "m_pMoveFeatureTB",   "m_pCopyFeatureTB",      "m_pChangeLAngleTB",     "m_pStretchLineTB",
+    "m_pInvertFeatureTB", "m_pBreakLineTB",        "m_pMoveTripletTB",      "m_pRerouteTraceTB",
+    "m_pRectSelectionTB", "m_pPolygonSelectionTB", "m_pFeatureSelectionTB", "m_pSelectPolylineTB",
+    "m_pMarkTB",          "m_pEqTB"};
+constexpr int toolCodes[] = {20000201, 20000225, 20000227, 20000206, 20000207, 20000208,
+                             20000211, 20000212, 20000215, 20000216, 20000221, 20000222,
+                             20000203, 20000223, 20000202, 20000244, 20000266, 20004801};
+
+}  // namespace
+
+class TestDesktop : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<MessageLog> m_log;
+    std::unique_ptr<WorkbenchWindow> m_window;
+
+    QToolButton& tool(const char* name) const
+    {
+        return findNamed<QToolButton>(*m_window, QLatin1String(name));
+    }
+
+    /// Codes to and from the tool strip since the log was cleared, "51" apart.
+    QVector<int> sent() const
+    {
+        QVector<int> codes;
+        for (const MessageRecord& message : m_log->messages()) {
+            if (message.sender.startsWith("Canvas_Tool_Strip")) {
+                codes.append(message.code);
+            }
+        }
+        return codes;
+    }
+
+    QWidget& openDialog(const char* typeButton)
+    {
+        Desktop::click(tool("m_pAddFeatureTB"));
+        auto& dialog = findNamed<QWidget>(*m_window, "AddFeature");
+        Desktop::waitForWindow(&dialog);
+        Desktop::click(findNamed(dialog, QLatin1String(typeButton)));
+        m_log->clear();
+        return dialog;
+    }
+
+    /// Opens the right-click menu of a tool and hands it to `inMenu`, which ends it.
+    void rightClick(const char* name, const std::function<void(QMenu&)>& inMenu)
+    {
+        bool seen = false;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, this, [&] {
+            if (auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+                watch.stop();
+                seen = true;
+                inMenu(*menu);
+            }
+        });
+        watch.start(20);
+        Desktop::click(tool(name), 3);
+        QTRY_VERIFY(seen);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        QString error;
+        QVERIFY2(CanvasHost::loadJobs(JOB_FILE, &error), qPrintable(error));
+        Options options;
+        options.moduleDirectory = MODULE_DIR;
+        m_log = std::make_unique<MessageLog>();
+        m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
+        QVERIFY2(m_window->start(&error), qPrintable(error));
+        m_window->move(20, 40);
+        m_window->show();
+        Desktop::waitForWindow(m_window.get());
+        m_log->clear();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_log.reset();
+    }
+
+    void everyTool()
+    {
+        auto& label = findNamed<QLabel>(*m_window, "m_pActiveToolLB");
+        QStringList shown;
+        for (int i = 0; i < int(std::size(toolButtons)); ++i) {
+            m_log->clear();
+            Desktop::click(tool(toolButtons[i]));
+            QCOMPARE(sent(), QVector<int>{toolCodes[i]});
+            QVERIFY(tool(toolButtons[i]).isChecked());
+            shown.append(label->text());
+        }
+        // The canvas names another tool each time.
+        QCOMPARE(shown.removeDuplicates(), 0);
+    }
+
+    void disabledToolsIgnoreClicks()
+    {
+        for (const char* const name : {"m_pRotateFeatureTB", "m_pPullLineTB"}) {
+            Desktop::click(tool(name));
+        }
+        QVERIFY(sent().isEmpty());
+        QVERIFY(tool("m_pAreaZoomTB").isChecked());
+    }
+
+    void menuByMouse()
+    {
+        rightClick("m_pDeleteFeatTB", [](QMenu& menu) {
+            QCOMPARE(menu.actions().size(), 2);
+            const QRect entry = menu.actionGeometry(menu.actions()[1]);
+            Desktop::clickAt(menu.mapToGlobal(entry.center()));
+        });
+        QCOMPARE(sent(), QVector<int>{20000206});
+        QCOMPARE(m_log->messages().back().extra, qint64(1));
+        QVERIFY(tool("m_pDeleteFeatTB").isChecked());
+        Desktop::click(tool("m_pAreaZoomTB"));
+        Desktop::click(tool("m_pDeleteFeatTB"));
+        QCOMPARE(m_log->messages().back().extra, qint64(1));
+    }
+
+    void menuByKeyboard()
+    {
+        rightClick("m_pSelectPolylineTB", [](QMenu&) {
+            Desktop::key("Down");
+            Desktop::key("Down");
+            Desktop::key("Return");
+        });
+        QCOMPARE(sent(), QVector<int>{20000245});
+        QVERIFY(tool("m_pSelectPolylineTB").isChecked());
+    }
+
+    void dismissedMenu()
+    {
+        rightClick("m_pMarkTB", [](QMenu&) { Desktop::key("Escape"); });
+        QVERIFY(sent().isEmpty());
+        QVERIFY(tool("m_pAreaZoomTB").isChecked());
+        rightClick("m_pMarkTB",
+                   [this](QMenu&) { Desktop::clickAt(m_window->pos() + QPoint(700, 400)); });
+        QVERIFY(sent().isEmpty());
+    }
+
+    void refusedOnce_data()
+    {
+        QTest::addColumn<QString>("typeButton");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<QString>("shown");
+        const struct {
+            const char* typeButton;
+            const char* field;
+            const char* typed;
+            const char* box;
+            const char* shown;
+        } rows[] = {
+            {"m_pLineTB", "m_pSymbolTextLE", "r", "Unable to create special symbol!", ""},
+            {"m_pPadTB", "m_pSymbolTextLE", "foo", "Unable to create special symbol!", ""},
+            {"m_pPadTB", "m_pDrilDxLE", "100001",
+             "The current value out of range:-100000 to 100000", "0"},
+            {"m_pTextTB", "m_pXSizeLE", "10000.5",
+             "The current text box can only enter a value from 0 to10000", "0"},
+        };
+        for (const auto& row : rows) {
+            for (const char* const way : {"Tab", "Return", "mouse"}) {
+                QTest::addRow("%s %s by %s", row.field, row.typed, way)
+                    << row.typeButton << row.field << row.typed << row.box << way << row.shown;
+            }
+        }
+    }
+
+    void refusedOnce()
+    {
+        QFETCH(QString, typeButton);
+        QFETCH(QString, field);
+        QFETCH(QString, typed);
+        QFETCH(QString, box);
+        QFETCH(QString, way);
+        QFETCH(QString, shown);
+        BoxCatcher boxes;
+        QWidget& dialog = openDialog(qPrintable(typeButton));
+        auto& entry = findNamed<QLineEdit>(dialog, field);
+        Desktop::click(entry);
+        Desktop::key("ctrl+a");
+        Desktop::type(typed);
+        QCOMPARE(entry.text(), typed);
+        if (way == "mouse") {
+            Desktop::click(findNamed(dialog, "m_pAttributesCB"), 1, QPoint(8, 10));
+        } else {
+            Desktop::key(way);
+        }
+        QTRY_COMPARE(entry.text(), shown);
+        QTest::qWait(100);
+        const QStringList texts = boxes.takeTexts();
+        QCOMPARE(texts.size(), 1);
+        QVERIFY2(texts[0].endsWith('|' + box), qPrintable(texts[0]));
+    }
+
+    void aWholeLine()
+    {
+        QWidget& dialog = openDialog("m_pLineTB");
+        Desktop::click(findNamed(dialog, "m_pSymbolTextLE"));
+        Desktop::type("r10");
+        Desktop::key("Tab");
+        QCOMPARE(sent(), QVector<int>{50});
+        QCOMPARE(m_log->messages().back().payload.value("SymbolText"), QVariant(QString("r10")));
+        QVERIFY(m_log->messages().back().delivered);
+        dialog.close();
+        QTRY_VERIFY(tool("m_pAreaZoomTB").isChecked());
+    }
+
+    void closingTheWindowWithAnUnfinishedSymbol()
+    {
+        BoxCatcher boxes;
+        QWidget& dialog = openDialog("m_pLineTB");
+        Desktop::click(findNamed(dialog, "m_pSymbolTextLE"));
+        Desktop::type("r");
+        Desktop::key("alt+F4");
+        QTRY_VERIFY(!dialog.isVisible());
+        QTest::qWait(100);
+        QVERIFY(boxes.takeTexts().isEmpty());
+        QCOMPARE(sent(), QVector<int>{20000201});
+    }
+};
+
+CTS_MAIN(TestDesktop)
+#include "test_desktop.moc"
