@@ -18,12 +18,24 @@
 
 namespace {
 
-const char* const toolButtons[] = {
-    "m_pAreaZoomTB",      "m_pOpenPopViewTB",      "m_pFeatHighLightTB",    "m_pDeleteFeatTB",
-    "m_pMoveFeatureTB",   "m_pCopyFeatureTB",      "m_pChangeLAngleTB",     "m_pStretchLineTB",
-    "m_pInvertFeatureTB", "m_pBreakLineTB",        "m_pMoveTripletTB",      "m_pRerouteTraceTB",
-    "m_pRectSelectionTB", "m_pPolygonSelectionTB", "m_pFeatureSelectionTB", "m_pSelectPolylineTB",
-    "m_pMarkTB",          "m_pEqTB"};
+const char* const toolButtons[] = {"m_pAreaZoomTB",
+                                   "m_pOpenPopViewTB",
+                                   "m_pFeatHighLightTB",
+                                   "m_pDeleteFeatTB",
+                                   "m_pMoveFeatureTB",
+                                   "m_pCopyFeatureTB",
+                                   "m_pChangeLAngleTB",
+                                   "m_pStretchLineTB",
+                                   "m_pInvertFeatureTB",
+                                   "m_pBreakLineTB",
+                                   "m_pMoveTripletTB",
+                                   "m_pRerouteTraceTB",
+                                   "m_pRectSelectionTB",
+                                   "m_pPolygonSelectionTB",
+                                   "m_pFeatureSelectionTB",
+                                   "m_pSelectPolylineTB",
+                                   "m_pMarkTB",
+                                   "m_pEqTB"};
 constexpr int toolCodes[] = {20000201, 20000225, 20000227, 20000206, 20000207, 20000208,
                              20000211, 20000212, 20000215, 20000216, 20000221, 20000222,
                              20000203, 20000223, 20000202, 20000244, 20000266, 20004801};

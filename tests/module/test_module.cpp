@@ -61,8 +61,7 @@ private Q_SLOTS:
     {
         LoadedStrip strip;
         QVERIFY2(strip.instance, qPrintable(strip.error));
-        auto* const grid =
-            qobject_cast<QGridLayout*>(static_cast<QObject*>(strip.instance));
+        auto* const grid = qobject_cast<QGridLayout*>(static_cast<QObject*>(strip.instance));
         QVERIFY(grid);
         QCOMPARE(grid->count(), 26);
         QCOMPARE(strip.panel.findChildren<QToolButton*>().size(), 26);
@@ -121,8 +120,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("module");
         QTest::addColumn<QString>("reason");
         const QString bad = QStringLiteral(BAD_MODULE_DIR);
-        QTest::newRow("missing") << bad << "Missing.dll" << "Missing.so: no such file";
-        QTest::newRow("no library") << bad << "NoLibrary.dll" << "NoLibrary.so: ";
+        QTest::newRow("missing") << bad << "Missing.dll"
+                                 << "Missing.so: no such file";
+        QTest::newRow("no library") << bad << "NoLibrary.dll"
+                                    << "NoLibrary.so: ";
         QTest::newRow("no factory") << bad << "NoFactory.dll"
                                     << "NoFactory.so: no entry point GetPluginInstance";
         QTest::newRow("no delivery") << bad << "NoDelivery.dll"

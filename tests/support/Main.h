@@ -8,10 +8,10 @@
 int runTests(QObject& test, int argc, char** argv);
 
 /// The main function of a test program with the one test class `Class`.
-#define CTS_MAIN(Class)                    \
-    int main(int argc, char** argv)        \
-    {                                      \
+#define CTS_MAIN(Class)                       \
+    int main(int argc, char** argv)           \
+    {                                         \
         QApplication application(argc, argv); \
-        Class test;                        \
-        return runTests(test, argc, argv); \
+        Class test;                           \
+        return runTests(test, argc, argv);    \
     }

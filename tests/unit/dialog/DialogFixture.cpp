@@ -36,6 +36,9 @@ DialogFixture::DialogFixture(bool metric)
 
     window.setLayout(strip);
     window.show();
+    if (!QTest::qWaitForWindowActive(&window)) {
+        qFatal("the window does not become active");
+    }
     dialog = new AddFeature(&window, "job", "step", &window);
     dialog->setToolStrip(strip);
     setToolActive(true);
@@ -43,8 +46,8 @@ DialogFixture::DialogFixture(bool metric)
         dialog->change_current_units(true);
     }
     dialog->show();
-    dialog->activateWindow();
-    if (!QTest::qWaitForWindowActive(dialog)) {
+    QApplication::setActiveWindow(dialog);
+    if (!QTest::qWaitForWindowActive(dialog) || !dialog->isActiveWindow()) {
         qFatal("the dialog does not become active");
     }
 }

@@ -63,8 +63,7 @@ private Q_SLOTS:
         DialogFixture fixture;
         const char* const names[] = {"m_pLineTB", "m_pPadTB", "m_pSurfaceTB", "m_pArcTB",
                                      "m_pTextTB"};
-        const char* const icons[] = {"Line1.jpg", "Pad1.jpg", "Surf1.jpg", "Arc1.jpg",
-                                     "Text1.jpg"};
+        const char* const icons[] = {"Line1.jpg", "Pad1.jpg", "Surf1.jpg", "Arc1.jpg", "Text1.jpg"};
         for (int id = 0; id < 5; ++id) {
             auto& button = fixture.find<QToolButton>(names[id]);
             QVERIFY(button.isCheckable());

@@ -43,12 +43,18 @@ private Q_SLOTS:
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
-        QTest::newRow("negative") << "m_pPolarityCMB" << 0 << 1 << "Polarity" << "0";
-        QTest::newRow("positive") << "m_pPolarityCMB" << 1 << 0 << "Polarity" << "1";
-        QTest::newRow("no polarity") << "m_pPolarityCMB" << 1 << -1 << "Polarity" << "0";
-        QTest::newRow("mirrored") << "m_pMirrorCMB" << 1 << 0 << "Mirror" << "1";
-        QTest::newRow("not mirrored") << "m_pMirrorCMB" << 0 << 1 << "Mirror" << "2";
-        QTest::newRow("no mirror") << "m_pMirrorCMB" << 0 << -1 << "Mirror" << "1";
+        QTest::newRow("negative") << "m_pPolarityCMB" << 0 << 1 << "Polarity"
+                                  << "0";
+        QTest::newRow("positive") << "m_pPolarityCMB" << 1 << 0 << "Polarity"
+                                  << "1";
+        QTest::newRow("no polarity") << "m_pPolarityCMB" << 1 << -1 << "Polarity"
+                                     << "0";
+        QTest::newRow("mirrored") << "m_pMirrorCMB" << 1 << 0 << "Mirror"
+                                  << "1";
+        QTest::newRow("not mirrored") << "m_pMirrorCMB" << 0 << 1 << "Mirror"
+                                      << "2";
+        QTest::newRow("no mirror") << "m_pMirrorCMB" << 0 << -1 << "Mirror"
+                                   << "1";
     }
 
     void combo()
@@ -102,8 +108,7 @@ private Q_SLOTS:
     void oneLogLinePerKeyInKeyOrder()
     {
         DialogFixture fixture;
-        const QStringList lines =
-            debugLinesOf([&] { fixture.dialog->getChangeCurrentTool(); });
+        const QStringList lines = debugLinesOf([&] { fixture.dialog->getChangeCurrentTool(); });
         QStringList expected;
         const QVariantMap payload = fixture.recorder.last(50).message.payload;
         for (auto entry = payload.begin(); entry != payload.end(); ++entry) {
@@ -137,8 +142,10 @@ private Q_SLOTS:
             QTest::addRow("%s special", checked) << checked << "fiducial_cross" << true;
             QTest::addRow("%s empty", checked) << checked << "" << true;
         }
-        QTest::newRow("surface") << "m_pSurfaceTB" << "r60000" << true;
-        QTest::newRow("text") << "m_pTextTB" << "r60000" << true;
+        QTest::newRow("surface") << "m_pSurfaceTB"
+                                 << "r60000" << true;
+        QTest::newRow("text") << "m_pTextTB"
+                              << "r60000" << true;
     }
 
     void symbolIsChecked()

@@ -249,10 +249,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("line") << "m_pLineTB" << "xr1s0.5q" << "r10.5";
-        QTest::newRow("line, other shape") << "m_pLineTB" << "rect" << "r";
-        QTest::newRow("pad") << "m_pPadTB" << "Rect2 0x40_4,5" << "ect20x40_45";
-        QTest::newRow("arc") << "m_pArcTB" << "sr5" << "r5";
+        QTest::newRow("line") << "m_pLineTB"
+                              << "xr1s0.5q"
+                              << "r10.5";
+        QTest::newRow("line, other shape") << "m_pLineTB"
+                                           << "rect"
+                                           << "r";
+        QTest::newRow("pad") << "m_pPadTB"
+                             << "Rect2 0x40_4,5"
+                             << "ect20x40_45";
+        QTest::newRow("arc") << "m_pArcTB"
+                             << "sr5"
+                             << "r5";
     }
 
     void validatorsWhileTyping()
@@ -321,8 +329,9 @@ private Q_SLOTS:
         QCOMPARE(boxes[0].icon, QMessageBox::Information);
         QCOMPARE(log.errors().size(), isText ? 2 : 0);
         if (isText) {
-            QVERIFY(log.errors()[0].startsWith("\xD2\xEC\xB3\xA3\xCE\xBB\xD6\xC3\xA3\xBA"
-                                               "AddFeature.cpp : "));
+            QVERIFY(
+                log.errors()[0].startsWith("\xD2\xEC\xB3\xA3\xCE\xBB\xD6\xC3\xA3\xBA"
+                                           "AddFeature.cpp : "));
             QCOMPARE(log.errors()[1],
                      QByteArray("\xD2\xEC\xB3\xA3\xC3\xE8\xCA\xF6\xA3\xBAno unit"));
         }

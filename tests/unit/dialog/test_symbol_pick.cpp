@@ -43,16 +43,26 @@ private Q_SLOTS:
         QTest::addColumn<bool>("metric");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("shown");  // empty: refused
-        QTest::newRow("line") << "m_pLineTB" << false << "r10" << "r10";
-        QTest::newRow("line, any symbol") << "m_pLineTB" << false << "logo" << "logo";
-        QTest::newRow("pad, metric") << "m_pPadTB" << true << "rect20x40" << "rect508x1016";
-        QTest::newRow("arc") << "m_pArcTB" << false << "r10.5" << "r10.5";
-        QTest::newRow("arc, metric") << "m_pArcTB" << true << "r10" << "r254";
-        QTest::newRow("arc, square") << "m_pArcTB" << false << "s20" << "";
-        QTest::newRow("arc, r alone") << "m_pArcTB" << false << "r" << "";
-        QTest::newRow("arc, rectangle") << "m_pArcTB" << false << "rect20x40" << "";
-        QTest::newRow("arc, suffix") << "m_pArcTB" << false << "r10_45" << "";
-        QTest::newRow("arc, no name") << "m_pArcTB" << false << "" << "";
+        QTest::newRow("line") << "m_pLineTB" << false << "r10"
+                              << "r10";
+        QTest::newRow("line, any symbol") << "m_pLineTB" << false << "logo"
+                                          << "logo";
+        QTest::newRow("pad, metric") << "m_pPadTB" << true << "rect20x40"
+                                     << "rect508x1016";
+        QTest::newRow("arc") << "m_pArcTB" << false << "r10.5"
+                             << "r10.5";
+        QTest::newRow("arc, metric") << "m_pArcTB" << true << "r10"
+                                     << "r254";
+        QTest::newRow("arc, square") << "m_pArcTB" << false << "s20"
+                                     << "";
+        QTest::newRow("arc, r alone") << "m_pArcTB" << false << "r"
+                                      << "";
+        QTest::newRow("arc, rectangle") << "m_pArcTB" << false << "rect20x40"
+                                        << "";
+        QTest::newRow("arc, suffix") << "m_pArcTB" << false << "r10_45"
+                                     << "";
+        QTest::newRow("arc, no name") << "m_pArcTB" << false << ""
+                                      << "";
     }
 
     void picked()
@@ -70,9 +80,9 @@ private Q_SLOTS:
 
         fixture.dialog->get_ChangeSymbol_Info({{0, name.toStdString()}});
         const bool isRefused = shown.isEmpty();
-        QCOMPARE(fixture.boxes.takeTexts(),
-                 isRefused ? QStringList("Dialog Box|Illegal symbol name: " + name)
-                           : QStringList());
+        QCOMPARE(
+            fixture.boxes.takeTexts(),
+            isRefused ? QStringList("Dialog Box|Illegal symbol name: " + name) : QStringList());
         QCOMPARE(fixture.symbol().text(), isRefused ? before : shown);
         QCOMPARE(fixture.find("m_pSelectFromEditorPB").styleSheet(), isRefused ? armed : disarmed);
         QCOMPARE(fixture.recorder.codes(), isRefused ? QVector<int>{} : QVector<int>{50});
@@ -100,9 +110,12 @@ private Q_SLOTS:
         QTest::addColumn<bool>("metric");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("mil") << false << "r10" << "r10";
-        QTest::newRow("metric") << true << "r254" << "r10";
-        QTest::newRow("suffix stays") << false << "r10_45" << "r10_45";
+        QTest::newRow("mil") << false << "r10"
+                             << "r10";
+        QTest::newRow("metric") << true << "r254"
+                                << "r10";
+        QTest::newRow("suffix stays") << false << "r10_45"
+                                      << "r10_45";
     }
 
     void chosenName()
@@ -169,7 +182,7 @@ private Q_SLOTS:
     void chooserFollowsTheJob()
     {
         DialogFixture fixture;
-        fixture.dialog->set_job_info("other", "step");            // no chooser yet
+        fixture.dialog->set_job_info("other", "step");  // no chooser yet
         fixture.dialog->refresh_symbolselection_user_list();
         fixture.choose("m_pPadTB");
         fixture.click("m_pSymbolPB");

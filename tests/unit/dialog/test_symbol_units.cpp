@@ -17,11 +17,11 @@ private Q_SLOTS:
         QTest::newRow("mil, not left yet") << false << "r10" << false << "r254";
         QTest::newRow("mil rectangle") << false << "rect20x40.5" << true << "rect508x1028.7";
         QTest::newRow("mil suffix") << false << "r10_45" << true << "r254_45";
-        QTest::newRow("mil ring suffix") << false << "ring_r60x30_90" << true
-                                         << "ring_r1524x762_90";
+        QTest::newRow("mil ring suffix")
+            << false << "ring_r60x30_90" << true << "ring_r1524x762_90";
         QTest::newRow("mil special") << false << "fiducial_cross" << true << "fiducial_cross";
-        QTest::newRow("mil special suffix") << false << "fiducial_cross_45" << true
-                                            << "fiducial_cross_45";
+        QTest::newRow("mil special suffix")
+            << false << "fiducial_cross_45" << true << "fiducial_cross_45";
         QTest::newRow("mil user symbol") << false << "logo" << true << "logo";
         QTest::newRow("mil empty") << false << "" << true << "";
         QTest::newRow("metric round") << true << "r254" << true << "r10";

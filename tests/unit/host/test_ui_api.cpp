@@ -2,7 +2,6 @@
 #include <ui_api.h>
 
 #include <QMessageBox>
-#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
@@ -20,7 +19,7 @@ using CanvasHost::uiApiOverrides;
 
 namespace {
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 struct Box {
@@ -48,28 +47,6 @@ std::vector<Box> boxesOf(const std::function<void()>& action)
     return boxes;
 }
 
-/// Up to `mostDigits` digits with the point anywhere: a text as a user types it.
-QString randomNumber(QRandomGenerator& random, int mostDigits)
-{
-    const int digits = random.bounded(1, mostDigits + 1);
-    QString text;
-    for (int i = 0; i < digits; ++i) {
-        text += QLatin1Char(char('0' + random.bounded(i == 0 || i == digits - 1 ? 1 : 0, 10)));
-    }
-    const int place = random.bounded(-4, digits + 5);
-    if (place <= 0) {
-        return "0." + QString(-place, '0') + text;
-    }
-    return place < digits ? text.insert(place, '.') : text.leftJustified(place, '0');
-}
-
-bool isPlainNumber(const QString& text)
-{
-    static const QRegularExpression plain(
-        QRegularExpression::anchoredPattern("-?(0|[1-9][0-9]*)(\\.[0-9]*[1-9])?"));
-    return plain.match(text).hasMatch();
-}
-
 }  // namespace
 
 class TestUiApi : public QObject {
@@ -88,30 +65,6 @@ private Q_SLOTS:
     void symbolBounds_data();
     void symbolBounds();
     void boxBelongsToTheContextsWindow();
-
-    void symbolNames_data();
-    void symbolNames();
-    void symbolNamesThatStay_data();
-    void symbolNamesThatStay();
-    void randomNumbersThereAndBack_data();
-    void randomNumbersThereAndBack();
-    void distinctNumbersStayDistinct();
-
-    void patterns_data();
-    void patterns();
-    void laterValidatorWins();
-    void partialNumberEndsEditing();
-    void changeUnit_data();
-    void changeUnit();
-    void changeUnitLeavesAlone_data();
-    void changeUnitLeavesAlone();
-    void manySwitchesKeepTheText_data();
-    void manySwitchesKeepTheText();
-    void editedTextIsConverted();
-    void forgottenTextDoesNotComeBack();
-    void changeUnitEndsNoEditing();
-    void fieldStartsInTheHostsUnit_data();
-    void fieldStartsInTheHostsUnit();
 };
 
 void TestUiApi::init()
@@ -181,7 +134,13 @@ void TestUiApi::overridesReplaceTheOperations()
     };
 
     QVERIFY(!getEQVisible());
-    QVERIFY_EXCEPTION_THROWN(getUnitString(nullptr), const char*);
+    bool threwText = false;
+    try {
+        getUnitString(nullptr);
+    } catch (const char*) {
+        threwText = true;
+    }
+    QVERIFY(threwText);
     QVERIFY_EXCEPTION_THROWN(getUnit(nullptr), std::runtime_error);
     QCOMPARE(getUnitData(nullptr, 3), -3.0);
     QCOMPARE(getUnitJudgeDouble(nullptr, 3), 4.0);
@@ -212,7 +171,7 @@ void TestUiApi::numberBounds_data()
         QTest::addRow("%g to %g: inside", low, high) << high / 2 << low << high << true;
         QTest::addRow("%g to %g: just below", low, high) << low - step << low << high << false;
         QTest::addRow("%g to %g: just above", low, high) << high + step << low << high << false;
-        QTest::addRow("%g to %g: nan", low, high) << nan << low << high << false;
+        QTest::addRow("%g to %g: nan", low, high) << notANumber << low << high << false;
         QTest::addRow("%g to %g: infinity", low, high) << infinity << low << high << false;
         QTest::addRow("%g to %g: -infinity", low, high) << -infinity << low << high << false;
     }
@@ -344,3 +303,6 @@ void TestUiApi::boxBelongsToTheContextsWindow()
         QCOMPARE(boxes[1].parent, row.parent);
     }
 }
+
+QTEST_MAIN(TestUiApi)
+#include "test_ui_api.moc"

@@ -151,8 +151,7 @@ private Q_SLOTS:
         bool shownAtSignal = false;
         connect(fixture.strip, &Canvas_Tool_Strip::GetRulerinfo, fixture.strip, [&] {
             checkedAtSignal = fixture.checked();
-            shownAtSignal =
-                fixture.panel.findChild<Grc_Tbe_measurepopup*>()->isVisible();
+            shownAtSignal = fixture.panel.findChild<Grc_Tbe_measurepopup*>()->isVisible();
         });
         for (int round = 1; round <= 2; ++round) {
             QTest::mouseClick(fixture.button(2), Qt::LeftButton);
@@ -213,7 +212,7 @@ private Q_SLOTS:
                 fixture.receive(20002200);
             }
         });
-        QTest::mouseClick(fixture.button(4), Qt::LeftButton);
+        fixture.strip->On_AddFeature_Clicked();
         QCOMPARE(checkedAtJobTree, QList<int>{0});
         QVERIFY(!dialogAtJobTree);
         QVERIFY(!shownAtViewer);
@@ -241,11 +240,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("sheet");
         const QString start = netSheet(2, 1, {});
-        QTest::newRow("polyline") << 20000242 << 20000242
-                                  << netSheet(2, 1, "border:2px solid red");
+        QTest::newRow("polyline") << 20000242 << 20000242 << netSheet(2, 1, "border:2px solid red");
         QTest::newRow("layer net") << 20000244 << 20000244 << netSheet(6, 5, {});
-        QTest::newRow("board net") << 20000245 << 20000245
-                                   << netSheet(4, 3, "border:2px solid green");
+        QTest::newRow("board net")
+            << 20000245 << 20000245 << netSheet(4, 3, "border:2px solid green");
         QTest::newRow("zero") << 0 << -1 << start;
         QTest::newRow("unknown") << 20000243 << -1 << start;
         QTest::newRow("minus one") << -1 << -1 << start;

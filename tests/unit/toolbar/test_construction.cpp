@@ -70,8 +70,8 @@ double difference(const QImage& shown, const QImage& picture)
         for (int x = 5; x < 35; ++x) {
             const QRgb p = a.pixel(x, y);
             const QRgb q = b.pixel(x, y);
-            sum += qAbs(qRed(p) - qRed(q)) + qAbs(qGreen(p) - qGreen(q)) +
-                   qAbs(qBlue(p) - qBlue(q));
+            sum +=
+                qAbs(qRed(p) - qRed(q)) + qAbs(qGreen(p) - qGreen(q)) + qAbs(qBlue(p) - qBlue(q));
         }
     }
     return sum / (30 * 30 * 3);
@@ -149,9 +149,9 @@ private Q_SLOTS:
         for (const Expected& other : tools) {
             if (&other != &tools[index]) {
                 button->setChecked(false);
-                QVERIFY2(difference(button->grab().toImage(), QImage(resource(other.image))) >
-                             plain,
-                         other.objectName);
+                QVERIFY2(
+                    difference(button->grab().toImage(), QImage(resource(other.image))) > plain,
+                    other.objectName);
             }
         }
     }
@@ -194,8 +194,7 @@ private Q_SLOTS:
         QWidget panel;
         Canvas_Tool_Strip* const strip = new Canvas_Tool_Strip(&panel);
         for (int index = 0; index < 26; ++index) {
-            QCOMPARE(strip->itemAt(index)->widget()->parentWidget(),
-                     index == 0 ? &panel : nullptr);
+            QCOMPARE(strip->itemAt(index)->widget()->parentWidget(), index == 0 ? &panel : nullptr);
         }
         panel.setLayout(strip);
     }

@@ -5,8 +5,8 @@
 #include "Main.h"
 #include "StripFixture.h"
 
-#include <UiApiStandIn.h>
 #include <CamApiStandIn.h>
+#include <UiApiStandIn.h>
 
 #include <QSignalSpy>
 #include <QTranslator>
@@ -58,9 +58,8 @@ struct Spies {
 
     explicit Spies(QObject* strip)
         : ruler(strip, SIGNAL(GetRulerinfo())),
-          attributes(
-              strip,
-              SIGNAL(send_Attribute_Info(std::vector<std::pair<std::string, std::string>>))),
+          attributes(strip,
+                     SIGNAL(send_Attribute_Info(std::vector<std::pair<std::string, std::string>>))),
           unit(strip, SIGNAL(Current_Unit_Changed(bool))),
           users(strip, SIGNAL(refresh_user_list())),
           reselect(strip, SIGNAL(reselect_Add_feature())),
@@ -141,8 +140,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("signal");
         for (const Expected& expected : messages) {
-            const QMap<int, QString> signalOf = {{20000247, "ruler"},   {20001715, "ruler"},
-                                                 {20001824, "users"},   {20002200, "unit"},
+            const QMap<int, QString> signalOf = {{20000247, "ruler"},
+                                                 {20001715, "ruler"},
+                                                 {20001824, "users"},
+                                                 {20002200, "unit"},
                                                  {20002201, "language"}};
             QTest::newRow(expected.name) << expected.code << signalOf.value(expected.code);
         }
@@ -245,14 +246,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("step");
         QTest::newRow("both") << Payload{{"JobName", "b7"}, {"StepName", "pcb"}} << "b7"
                               << "pcb";
-        QTest::newRow("no step") << Payload{{"JobName", "b7"}} << "" << "";
-        QTest::newRow("no job") << Payload{{"StepName", "pcb"}} << "" << "";
-        QTest::newRow("other key") << Payload{{"JobName", "b7"}, {"Step", "pcb"}} << "" << "";
-        QTest::newRow("empty text") << Payload{{"JobName", ""}, {"StepName", "pcb"}} << "" << "";
-        QTest::newRow("number") << Payload{{"JobName", 7}, {"StepName", 2.5}} << "7" << "2.5";
-        QTest::newRow("no text") << Payload{{"JobName", QByteArrayList{"a"}},
-                                            {"StepName", "pcb"}}
-                                 << "" << "";
+        QTest::newRow("no step") << Payload{{"JobName", "b7"}} << ""
+                                 << "";
+        QTest::newRow("no job") << Payload{{"StepName", "pcb"}} << ""
+                                << "";
+        QTest::newRow("other key") << Payload{{"JobName", "b7"}, {"Step", "pcb"}} << ""
+                                   << "";
+        QTest::newRow("empty text") << Payload{{"JobName", ""}, {"StepName", "pcb"}} << ""
+                                    << "";
+        QTest::newRow("number") << Payload{{"JobName", 7}, {"StepName", 2.5}} << "7"
+                                << "2.5";
+        QTest::newRow("no text") << Payload{{"JobName", QVariant::fromValue(QByteArrayList{"a"})}, {"StepName", "pcb"}}
+                                 << ""
+                                 << "";
         QTest::newRow("unicode") << Payload{{"JobName", QString::fromUtf8("板7")},
                                             {"StepName", "p c"}}
                                  << QString::fromUtf8("板7") << "p c";
@@ -359,9 +365,7 @@ private Q_SLOTS:
         StripFixture fixture;
         BoxCatcher boxes;
         GlogCatcher log;
-        CanvasHost::uiApiOverrides().getUnitString = [](void*) -> QString {
-            throw "no unit";
-        };
+        CanvasHost::uiApiOverrides().getUnitString = [](void*) -> QString { throw "no unit"; };
         QSignalSpy changed(fixture.strip, SIGNAL(Current_Unit_Changed(bool)));
         fixture.receive(20002200);
         const auto shown = boxes.take();
@@ -379,8 +383,7 @@ private Q_SLOTS:
         bool isNumber = false;
         QVERIFY(position.mid(position.lastIndexOf(' ') + 1).toInt(&isNumber) > 0);
         QVERIFY(isNumber);
-        QCOMPARE(log.errors()[1],
-                 QByteArray("\xD2\xEC\xB3\xA3\xC3\xE8\xCA\xF6\xA3\xBAno unit"));
+        QCOMPARE(log.errors()[1], QByteArray("\xD2\xEC\xB3\xA3\xC3\xE8\xCA\xF6\xA3\xBAno unit"));
     }
 
     void unitGuardAgainstAnException()
@@ -420,13 +423,31 @@ private Q_SLOTS:
         QApplication::removeTranslator(&translator);
         QCOMPARE(tipAtSignal, QString("Area Zoom"));  // the signal comes first
         for (int index = 0; index < 26; ++index) {
-            const char* const tips[] = {
-                "Area Zoom", "Open a Popview", "Measure", "Feature HighLight", "Add Feature",
-                "Delete Feature", "Move Feature", "Copy Feature", "Change Line Angle",
-                "Stretch Line", "Rotate", "Mirror", "Invert Feature", "Break Line",
-                "Rout Dimension Editor", "Contour Editor", "Pull Line", "Move Junction",
-                "Move Triplet(Angle)", "Reroute Trace(Fix Point)", "Feature Selection",
-                "Rectangle Selection", "Polygon Selection", "Select By Net", "Mark"};
+            const char* const tips[] = {"Area Zoom",
+                                        "Open a Popview",
+                                        "Measure",
+                                        "Feature HighLight",
+                                        "Add Feature",
+                                        "Delete Feature",
+                                        "Move Feature",
+                                        "Copy Feature",
+                                        "Change Line Angle",
+                                        "Stretch Line",
+                                        "Rotate",
+                                        "Mirror",
+                                        "Invert Feature",
+                                        "Break Line",
+                                        "Rout Dimension Editor",
+                                        "Contour Editor",
+                                        "Pull Line",
+                                        "Move Junction",
+                                        "Move Triplet(Angle)",
+                                        "Reroute Trace(Fix Point)",
+                                        "Feature Selection",
+                                        "Rectangle Selection",
+                                        "Polygon Selection",
+                                        "Select By Net",
+                                        "Mark"};
             const QString expected =
                 index == 25 ? QString("EQ") : marked(tips[index], index == 2 ? "tool_edit" : "");
             QCOMPARE(fixture.button(index)->toolTip(), expected);
@@ -448,20 +469,17 @@ private Q_SLOTS:
         QApplication::removeTranslator(&translator);
         const auto texts = [&](const char* menu) {
             QStringList list;
-            for (const QAction* const action :
-                 fixture.panel.findChild<QMenu*>(menu)->actions()) {
+            for (const QAction* const action : fixture.panel.findChild<QMenu*>(menu)->actions()) {
                 list.append(action->text());
             }
             return list;
         };
-        QCOMPARE(texts("m_pDeleteMenu"),
-                 (QStringList{"Delete Feature", "Delete to Intersection"}));
+        QCOMPARE(texts("m_pDeleteMenu"), (QStringList{"Delete Feature", "Delete to Intersection"}));
         QCOMPARE(texts("m_pNetMenu"),
                  (QStringList{marked("Select Layer Net"), marked("Select Board Net"),
                               marked("Select_Polyline")}));
-        QCOMPARE(texts("m_pMarkMenu"),
-                 (QStringList{marked("Mark Orthogonal"), marked("Mark Point to Point"),
-                              "Setting"}));
+        QCOMPARE(texts("m_pMarkMenu"), (QStringList{marked("Mark Orthogonal"),
+                                                    marked("Mark Point to Point"), "Setting"}));
     }
 
     void languageBeforeTheMenusExist()

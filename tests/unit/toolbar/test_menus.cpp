@@ -112,16 +112,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("style");
         QTest::newRow("delete feature") << deleteTool << "Delete Feature" << 20000206 << 0
                                         << sheet("delete1-gry.jpg", "delete1-gre.jpg");
-        QTest::newRow("to intersection") << deleteTool << "Delete to Intersection" << 20000206
-                                         << 1 << sheet("delete2-gry.jpg", "delete2-gre.jpg");
+        QTest::newRow("to intersection") << deleteTool << "Delete to Intersection" << 20000206 << 1
+                                         << sheet("delete2-gry.jpg", "delete2-gre.jpg");
         QTest::newRow("layer net") << netTool << "Select Layer Net" << 20000244 << 0
                                    << sheet("Net selection6.jpg", "Net selection5.jpg");
         QTest::newRow("board net")
             << netTool << "Select Board Net" << 20000245 << 0
             << sheet("Net selection4.jpg", "Net selection3.jpg", "border:2px solid green");
-        QTest::newRow("polyline")
-            << netTool << "Select Polyline" << 20000242 << 0
-            << sheet("Net selection2.jpg", "Net selection1.jpg", "border:2px solid red");
+        QTest::newRow("polyline") << netTool << "Select Polyline" << 20000242 << 0
+                                  << sheet("Net selection2.jpg", "Net selection1.jpg",
+                                           "border:2px solid red");
         QTest::newRow("orthogonal") << markTool << "Mark Orthogonal" << 20000266 << 0
                                     << sheet("markgry.png", "markgre.png");
         QTest::newRow("point to point") << markTool << "Mark Point to Point" << 20000266 << 1
