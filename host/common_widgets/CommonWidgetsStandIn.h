@@ -1,12 +1,15 @@
 #pragma once
 
-// What only the stand-in of the common widgets has: the measured distance that a canvas reports.
+// What only the stand-ins of the common widgets have: the measured distance that a canvas reports,
+// and faults for tests.
 
 #include <HostExport.h>
 
 #include <QPointF>
 
 #include <functional>
+#include <map>
+#include <string>
 
 namespace CanvasHost {
 
@@ -15,5 +18,11 @@ CANVAS_HOST_EXPORT void setMeasureStarted(std::function<void()> started);
 
 /// Shows the distance between two points (micrometre) in every measure window.
 CANVAS_HOST_EXPORT void reportMeasurement(const QPointF& from, const QPointF& to);
+
+/// Functions that take the place of operations of common_widgets.h where they are set.
+struct CommonWidgetsOverrides {
+    std::function<void(std::map<std::string, std::string>&)> getAttributeData;
+};
+CANVAS_HOST_EXPORT CommonWidgetsOverrides& commonWidgetsOverrides();
 
 }  // namespace CanvasHost

@@ -1,0 +1,167 @@
+// Renders the pictures of the resource tree from their vector sources, in both resolutions, and a
+// contact sheet of each. Usage: render_pictures RESOURCES_FOLDER DOCS_FOLDER
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QTextStream>
+
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+constexpr double glyphGrid = 40;
+constexpr int jpegQuality = 95;
+const char inkColour[] = "#1f2933";
+const char accentColour[] = "#0b6bcb";
+
+struct Picture {
+    QString file;
+    QString glyph;
+    QString state;
+    int size;
+};
+
+[[noreturn]] void fail(const QString& text)
+{
+    fprintf(stderr, "render_pictures: %s\n", qUtf8Printable(text));
+    std::exit(1);
+}
+
+std::vector<Picture> readTable(const QDir& resources)
+{
+    QFile file(resources.filePath(QStringLiteral("pictures.txt")));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        fail(file.fileName() + ": " + file.errorString());
+    }
+    std::vector<Picture> pictures;
+    QTextStream lines(&file);
+    while (!lines.atEnd()) {
+        const QString line = lines.readLine();
+        if (line.startsWith('#')) {
+            continue;
+        }
+        const QStringList parts = line.split(QStringLiteral("; "));
+        if (parts.size() != 4) {
+            fail(file.fileName() + ": " + line);
+        }
+        pictures.push_back({parts[0], parts[1], parts[2], parts[3].toInt()});
+    }
+    return pictures;
+}
+
+/// The glyph's source; a disabled tool's has lost its colours.
+QByteArray glyphOf(const QDir& resources, const Picture& picture)
+{
+    QFile file(resources.filePath("source/" + picture.glyph + ".svg"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        fail(file.fileName() + ": " + file.errorString());
+    }
+    QByteArray svg = file.readAll();
+    if (picture.state == QLatin1String("disabled")) {
+        svg.replace(inkColour, "#b3b8bf").replace(accentColour, "#b3b8bf");
+    }
+    return svg;
+}
+
+/// A checked tool is told by its frame and bar, not by its colour alone.
+void paintGround(QPainter& painter, const QString& state, double size)
+{
+    const QRectF all(0, 0, size, size);
+    if (state == QLatin1String("checked")) {
+        painter.fillRect(all, QColor(0xd6, 0xe8, 0xfb));
+        painter.setPen(QPen(QColor(0x0b, 0x6b, 0xcb), 2));
+        painter.drawRect(all.adjusted(1, 1, -1, -1));
+        painter.fillRect(QRectF(0, size - 4, size, 4), QColor(0x0b, 0x6b, 0xcb));
+    } else if (state == QLatin1String("icon")) {
+        painter.fillRect(all, Qt::white);
+    } else {
+        const bool isDisabled = state == QLatin1String("disabled");
+        painter.fillRect(all, isDisabled ? QColor(0xec, 0xed, 0xef) : QColor(0xf7, 0xf8, 0xfa));
+        painter.setPen(QPen(QColor(0xcf, 0xd4, 0xda), 1));
+        painter.drawRect(all.adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
+QImage render(const QDir& resources, const Picture& picture, int scale)
+{
+    QSvgRenderer glyph(glyphOf(resources, picture));
+    if (!glyph.isValid()) {
+        fail(picture.glyph + ": is no valid picture");
+    }
+    QImage image(picture.size * scale, picture.size * scale, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    paintGround(painter, picture.state, picture.size);
+    // The frame of a tool button takes its share of the room.
+    const bool isTool = picture.size == int(glyphGrid);
+    const double margin = isTool ? 3 : 0;
+    glyph.render(&painter,
+                 QRectF(margin, margin, picture.size - 2 * margin, picture.size - 2 * margin));
+    return image;
+}
+
+QString fileFor(const Picture& picture, int scale)
+{
+    QString file = picture.file;
+    return scale == 1 ? file : file.insert(file.lastIndexOf('.'), QStringLiteral("@2x"));
+}
+
+QImage contactSheet(const std::vector<Picture>& pictures, const std::vector<QImage>& images,
+                    int scale)
+{
+    constexpr int columns = 6;
+    constexpr int width = 150;
+    constexpr int height = 72;
+    const int rows = (int(pictures.size()) + columns - 1) / columns;
+    QImage sheet(columns * width * scale, rows * height * scale, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    sheet.setDevicePixelRatio(scale);
+    QPainter painter(&sheet);
+    QFont font = painter.font();
+    font.setPixelSize(10);
+    painter.setFont(font);
+    for (size_t i = 0; i < images.size(); ++i) {
+        const int x = int(i) % columns * width;
+        const int y = int(i) / columns * height;
+        QImage image = images[i];
+        image.setDevicePixelRatio(scale);
+        painter.drawImage(QPointF(x + (width - pictures[i].size) / 2.0, y + 8), image);
+        painter.drawText(QRect(x + 2, y + 50, width - 4, 18), Qt::AlignCenter, pictures[i].file);
+    }
+    return sheet;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[])
+{
+    const QGuiApplication application(argc, argv);
+    if (argc != 3) {
+        fail(QStringLiteral("usage: render_pictures RESOURCES_FOLDER DOCS_FOLDER"));
+    }
+    const QDir resources(QString::fromLocal8Bit(argv[1]));
+    const QDir docs(QString::fromLocal8Bit(argv[2]));
+    const std::vector<Picture> pictures = readTable(resources);
+    for (const int scale : {1, 2}) {
+        std::vector<QImage> images;
+        for (const Picture& picture : pictures) {
+            images.push_back(render(resources, picture, scale));
+            const QString file = resources.filePath("pictures/" + fileFor(picture, scale));
+            if (!images.back().save(file, nullptr, file.endsWith("jpg") ? jpegQuality : -1)) {
+                fail(file + ": cannot be written");
+            }
+        }
+        const QString sheet = docs.filePath(QStringLiteral("pictures-%1x.png").arg(scale));
+        if (!contactSheet(pictures, images, scale).save(sheet)) {
+            fail(sheet + ": cannot be written");
+        }
+    }
+    return 0;
+}
