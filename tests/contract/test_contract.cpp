@@ -68,6 +68,8 @@ QStringList recordLines(const QVariantMap& record)
 
 }  // namespace
 
+Q_DECLARE_METATYPE(const QMetaObject*)
+
 class TestContract : public QObject {
     Q_OBJECT
 
@@ -109,8 +111,6 @@ private Q_SLOTS:
         QCOMPARE(expected.size(), 45);
     }
 };
-
-Q_DECLARE_METATYPE(const QMetaObject*)
 
 CTS_MAIN(TestContract)
 #include "test_contract.moc"

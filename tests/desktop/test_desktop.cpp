@@ -125,7 +125,7 @@ private Q_SLOTS:
             Desktop::click(tool(toolButtons[i]));
             QCOMPARE(sent(), QVector<int>{toolCodes[i]});
             QVERIFY(tool(toolButtons[i]).isChecked());
-            shown.append(label->text());
+            shown.append(label.text());
         }
         // The canvas names another tool each time.
         QCOMPARE(shown.removeDuplicates(), 0);
