@@ -55,6 +55,7 @@ void Canvas_Tool_Strip::createButtons()
         tool->setToolTip(tr(row.tip.text, row.tip.note));
         tool->setFixedSize(buttonSize, buttonSize);
         tool->setCheckable(true);
+        tool->setAutoRaise(true);  // the pictures bring their own frame
         applyStart(tool, row.start);
         tool->setStyleSheet(ToolTable::styleSheet(row.image, row.checkedImage, row.imageProperty));
         addWidget(tool, index / columns, index % columns);

@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr double glyphGrid = 40;
 constexpr int jpegQuality = 95;
 const char inkColour[] = "#1f2933";
 const char accentColour[] = "#0b6bcb";
@@ -25,6 +24,7 @@ struct Picture {
     QString glyph;
     QString state;
     int size;
+    int seen;  ///< so much of it, from the top left
 };
 
 [[noreturn]] void fail(const QString& text)
@@ -47,10 +47,10 @@ std::vector<Picture> readTable(const QDir& resources)
             continue;
         }
         const QStringList parts = line.split(QStringLiteral("; "));
-        if (parts.size() != 4) {
+        if (parts.size() != 5) {
             fail(file.fileName() + ": " + line);
         }
-        pictures.push_back({parts[0], parts[1], parts[2], parts[3].toInt()});
+        pictures.push_back({parts[0], parts[1], parts[2], parts[3].toInt(), parts[4].toInt()});
     }
     return pictures;
 }
@@ -70,21 +70,23 @@ QByteArray glyphOf(const QDir& resources, const Picture& picture)
 }
 
 /// A checked tool is told by its frame and bar, not by its colour alone.
-void paintGround(QPainter& painter, const QString& state, double size)
+void paintGround(QPainter& painter, const Picture& picture)
 {
-    const QRectF all(0, 0, size, size);
-    if (state == QLatin1String("checked")) {
+    const QRectF all(0, 0, picture.size, picture.size);
+    const QRectF seen(0, 0, picture.seen, picture.seen);
+    const QColor blue(0x0b, 0x6b, 0xcb);
+    if (picture.state == QLatin1String("checked")) {
         painter.fillRect(all, QColor(0xd6, 0xe8, 0xfb));
-        painter.setPen(QPen(QColor(0x0b, 0x6b, 0xcb), 2));
-        painter.drawRect(all.adjusted(1, 1, -1, -1));
-        painter.fillRect(QRectF(0, size - 4, size, 4), QColor(0x0b, 0x6b, 0xcb));
-    } else if (state == QLatin1String("icon")) {
+        painter.setPen(QPen(blue, 2));
+        painter.drawRect(seen.adjusted(1, 1, -1, -1));
+        painter.fillRect(QRectF(0, picture.seen - 4, picture.seen, 4), blue);
+    } else if (picture.state == QLatin1String("icon")) {
         painter.fillRect(all, Qt::white);
     } else {
-        const bool isDisabled = state == QLatin1String("disabled");
+        const bool isDisabled = picture.state == QLatin1String("disabled");
         painter.fillRect(all, isDisabled ? QColor(0xec, 0xed, 0xef) : QColor(0xf7, 0xf8, 0xfa));
         painter.setPen(QPen(QColor(0xcf, 0xd4, 0xda), 1));
-        painter.drawRect(all.adjusted(0.5, 0.5, -0.5, -0.5));
+        painter.drawRect(seen.adjusted(0.5, 0.5, -0.5, -0.5));
     }
 }
 
@@ -98,12 +100,11 @@ QImage render(const QDir& resources, const Picture& picture, int scale)
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(scale, scale);
-    paintGround(painter, picture.state, picture.size);
-    // The frame of a tool button takes its share of the room.
-    const bool isTool = picture.size == int(glyphGrid);
-    const double margin = isTool ? 3 : 0;
-    glyph.render(&painter,
-                 QRectF(margin, margin, picture.size - 2 * margin, picture.size - 2 * margin));
+    paintGround(painter, picture);
+    // The frame of a tool takes its share of the room.
+    const double margin = picture.state == QLatin1String("icon") ? 0 : 2;
+    const double side = picture.seen - 2 * margin;
+    glyph.render(&painter, QRectF(margin, margin, side, side));
     return image;
 }
 

@@ -37,7 +37,10 @@ QStringList listed(const QString& heading)
         if (!line.startsWith(' ')) {
             inside = line == heading;
         } else if (inside) {
-            found.append(line.trimmed());
+            const QString kind = line.trimmed().section(' ', 0, 0);
+            const QByteArray signature = line.trimmed().section(' ', 1).toLatin1();
+            found.append(kind + ' ' +
+                         QString::fromLatin1(QMetaObject::normalizedSignature(signature)));
         }
     }
     return found;

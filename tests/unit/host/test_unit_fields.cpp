@@ -102,14 +102,22 @@ private Q_SLOTS:
         QTest::addColumn<int>("pattern");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("signed length") << 1 << "-1.5x" << "-1.5";
-        QTest::newRow("signed decimal") << 3 << "-a12.3.4" << "-12.34";
-        QTest::newRow("no exponent") << 3 << "1e5" << "15";
-        QTest::newRow("no comma") << 3 << "1,5" << "15";
-        QTest::newRow("free text") << 6 << "a B-1" << "a B-1";
-        QTest::newRow("unsigned") << 0 << "-2.5" << "2.5";
-        QTest::newRow("integer") << 4 << "-2.5" << "-25";
-        QTest::newRow("symbol name") << 5 << "r10 _4,5" << "r10_45";
+        QTest::newRow("signed length") << 1 << "-1.5x"
+                                       << "-1.5";
+        QTest::newRow("signed decimal") << 3 << "-a12.3.4"
+                                        << "-12.34";
+        QTest::newRow("no exponent") << 3 << "1e5"
+                                     << "15";
+        QTest::newRow("no comma") << 3 << "1,5"
+                                  << "15";
+        QTest::newRow("free text") << 6 << "a B-1"
+                                   << "a B-1";
+        QTest::newRow("unsigned") << 0 << "-2.5"
+                                  << "2.5";
+        QTest::newRow("integer") << 4 << "-2.5"
+                                 << "-25";
+        QTest::newRow("symbol name") << 5 << "r10 _4,5"
+                                     << "r10_45";
     }
 
     void typing()
@@ -155,14 +163,22 @@ private Q_SLOTS:
         QTest::addColumn<int>("pattern");
         QTest::addColumn<QString>("mil");
         QTest::addColumn<QString>("metric");
-        QTest::newRow("length") << 1 << "10" << "254";
-        QTest::newRow("decimal") << 3 << "-0.5" << "-12.7";
-        QTest::newRow("no exponent") << 3 << "50000" << "1270000";
-        QTest::newRow("small") << 3 << "0.00001" << "0.000254";
-        QTest::newRow("zero") << 3 << "0" << "0";
-        QTest::newRow("empty") << 3 << "" << "";
-        QTest::newRow("no number") << 3 << "-" << "-";
-        QTest::newRow("free text") << 6 << "10" << "10";
+        QTest::newRow("length") << 1 << "10"
+                                << "254";
+        QTest::newRow("decimal") << 3 << "-0.5"
+                                 << "-12.7";
+        QTest::newRow("no exponent") << 3 << "50000"
+                                     << "1270000";
+        QTest::newRow("small") << 3 << "0.00001"
+                               << "0.000254";
+        QTest::newRow("zero") << 3 << "0"
+                              << "0";
+        QTest::newRow("empty") << 3 << ""
+                               << "";
+        QTest::newRow("no number") << 3 << "-"
+                                   << "-";
+        QTest::newRow("free text") << 6 << "10"
+                                   << "10";
     }
 
     void changeUnit()

@@ -256,7 +256,8 @@ private Q_SLOTS:
                                     << "";
         QTest::newRow("number") << Payload{{"JobName", 7}, {"StepName", 2.5}} << "7"
                                 << "2.5";
-        QTest::newRow("no text") << Payload{{"JobName", QVariant::fromValue(QByteArrayList{"a"})}, {"StepName", "pcb"}}
+        QTest::newRow("no text") << Payload{{"JobName", QVariant::fromValue(QByteArrayList{"a"})},
+                                            {"StepName", "pcb"}}
                                  << ""
                                  << "";
         QTest::newRow("unicode") << Payload{{"JobName", QString::fromUtf8("板7")},
