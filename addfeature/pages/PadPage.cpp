@@ -67,13 +67,17 @@ PadPage::Axis PadPage::createAxis(const QString& count, const QString& pitch, co
 
 void PadPage::addValidators()
 {
+    // What is typed is read with a point and without groups, whatever the user's language writes.
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
     auto* pitch = new QRegExpValidator(QRegExp(QLatin1String(pitchPattern)), this);
     for (const Axis& axis : {m_x, m_y}) {
-        axis.count->setValidator(new QIntValidator(axis.count));
+        auto* count = new QIntValidator(axis.count);
+        count->setLocale(plain);
+        axis.count->setValidator(count);
         axis.pitch->setValidator(pitch);
-        // What is typed is read with a point, whatever the user's language writes.
         auto* factor = new QDoubleValidator(axis.factor);
-        factor->setLocale(QLocale::c());
+        factor->setLocale(plain);
         axis.factor->setValidator(factor);
     }
 }

@@ -17,6 +17,7 @@ CanvasHost::Job demoJob(const char* name, std::vector<std::string> specialSymbol
     job.fonts = {"simple", "standard"};
     job.specialSymbols = std::move(specialSymbols);
     job.userSymbols = {"logo"};
+    job.specialTexts = {"JOB", "DATE"};
     job.attributes = {{".net", CanvasHost::AttributeKind::Text, {}},
                       {".smd", CanvasHost::AttributeKind::Flag, {}}};
     return job;

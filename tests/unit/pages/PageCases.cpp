@@ -85,8 +85,8 @@ void run()
     const QVariantMap record = fixture.record();
     for (auto entry = row.entries.cbegin(); entry != row.entries.cend(); ++entry) {
         QVERIFY2(record.contains(entry.key()), qPrintable(entry.key()));
-        QCOMPARE(described({{entry.key(), record[entry.key()]}}),
-                 described({{entry.key(), entry.value()}}));
+        QCOMPARE(entry.key() + ": " + described(record[entry.key()]),
+                 entry.key() + ": " + described(entry.value()));
     }
 }
 

@@ -1,117 +1,39 @@
 #include "PageFixture.h"
 
-#include "addfeature/AddFeature.h"
-
-#include <CamApiStandIn.h>
-#include <PluginManagerStandIn.h>
-#include <UiApiStandIn.h>
+#include "DialogFixture.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
 namespace {
 
-constexpr int flagsRole = Qt::UserRole - 1;
+constexpr int greyRole = Qt::UserRole - 1;
 constexpr int directionCode = 52;
 constexpr int recordCode = 50;
-
-/// Another language: every text of the dialog in angle quotes.
-class QuotingTranslator : public QTranslator {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* sourceText, const char* /*disambiguation*/,
-                      int /*n*/) const override
-    {
-        return qstrcmp(context, "AddFeature") == 0
-                   ? PageFixture::translated(QString::fromUtf8(sourceText))
-                   : QString();
-    }
-};
-
-QStringList warnings;
-void recordWarning(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
-{
-    if (type != QtDebugMsg && type != QtInfoMsg) {
-        warnings.append(text);
-    }
-}
 
 }  // namespace
 
 class PageFixture::Private {
 public:
-    void watchBoxes()
-    {
-        QObject::connect(&boxTimer, &QTimer::timeout, [this] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                boxes.append(box->windowTitle() + "|" + box->text());
-                QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
-            }
-        });
-        boxTimer.start(1);
-    }
+    explicit Private(bool metric) : base(metric) {}
 
-    QWidget window;
-    std::unique_ptr<AddFeature> dialog;
-    QList<PluginMetaData> messages;
+    DialogFixture base;
     QStringList boxes;
-    QTimer boxTimer;
-    QuotingTranslator translator;
+    std::unique_ptr<QuotingTranslator> language;
 };
 
-PageFixture::PageFixture(bool metric) : d(std::make_unique<Private>())
-{
-    using CanvasHost::DisplayUnit;
-    CanvasHost::setDisplayUnit(metric ? DisplayUnit::Micrometre : DisplayUnit::Mil);
-    CanvasHost::clearJobs();
-    CanvasHost::Job job;
-    job.name = "job";
-    job.steps = {"step"};
-    job.fonts = {"simple", "standard"};
-    job.specialTexts = {"JOB", "DATE"};
-    CanvasHost::addJob(job);
-    CanvasHost::setObserver(
-        [this](const CanvasHost::Transfer& sent) { d->messages.append(sent.message); });
-    d->watchBoxes();
+PageFixture::PageFixture(bool metric) : d(std::make_unique<Private>(metric)) {}
 
-    warnings.clear();
-    const QtMessageHandler previous = qInstallMessageHandler(recordWarning);
-    d->window.show();
-    d->dialog = std::make_unique<AddFeature>(&d->window, "job", "step", &d->window);
-    qInstallMessageHandler(previous);
-    for (const QString& warning : std::as_const(warnings)) {
-        QTest::qFail(qPrintable(warning), __FILE__, __LINE__);
-    }
-    if (!d->messages.isEmpty()) {
-        QTest::qFail("Building the dialog has sent a message", __FILE__, __LINE__);
-    }
-    d->dialog->show();
-    d->dialog->activateWindow();
-    QTest::qWaitForWindowActive(d->dialog.get());
-    if (metric) {
-        changeUnit(true);
-    }
-}
-
-PageFixture::~PageFixture()
-{
-    QCoreApplication::removeTranslator(&d->translator);
-    d->dialog.reset();
-    CanvasHost::setObserver({});
-}
+PageFixture::~PageFixture() = default;
 
 AddFeature& PageFixture::dialog()
 {
-    return *d->dialog;
+    return *d->base.dialog;
 }
 
 QWidget* PageFixture::widget(const QString& name) const
 {
-    auto* found = d->dialog->findChild<QWidget*>(name);
-    if (!found) {
-        qFatal("no widget named %s", qPrintable(name));
-    }
-    return found;
+    return &d->base.find(name);
 }
 
 void PageFixture::perform(const QStringList& steps)
@@ -135,9 +57,9 @@ void PageFixture::perform(const QString& step)
             break;
         case '<':
             setText(name, argument);
-            QVERIFY2(QMetaObject::invokeMethod(d->dialog.get(),
-                                               qPrintable("on_" + name + "_editingFinished")),
-                     qPrintable(step));
+            QVERIFY2(
+                QMetaObject::invokeMethod(&dialog(), qPrintable("on_" + name + "_editingFinished")),
+                qPrintable(step));
             break;
         case ':':
             type(name, argument);
@@ -220,13 +142,13 @@ void PageFixture::turnWheel(const QString& combo, int notches)
 
 void PageFixture::changeUnit(bool metric)
 {
-    d->dialog->change_current_units(metric);
+    d->base.setMetric(metric);
 }
 
 void PageFixture::changeLanguage()
 {
-    QCoreApplication::installTranslator(&d->translator);
-    d->dialog->change_language();
+    d->language = std::make_unique<QuotingTranslator>("AddFeature");
+    dialog().change_language();
 }
 
 QString PageFixture::translated(const QString& text)
@@ -236,33 +158,30 @@ QString PageFixture::translated(const QString& text)
 
 QList<int> PageFixture::codes() const
 {
-    QList<int> codes;
-    for (const PluginMetaData& message : d->messages) {
-        codes.append(message.code);
-    }
-    return codes;
+    return d->base.recorder.codes().toList();
 }
 
 QVariantMap PageFixture::record()
 {
-    const auto isRecord = [](const PluginMetaData& message) {
-        return message.code == recordCode || message.code == directionCode;
-    };
-    if (std::none_of(d->messages.cbegin(), d->messages.cend(), isRecord)) {
-        d->dialog->getChangeCurrentTool();
+    const QVector<int> codes = d->base.recorder.codes();
+    for (int i = codes.size() - 1; i >= 0; --i) {
+        if (codes[i] == recordCode || codes[i] == directionCode) {
+            return d->base.recorder.messages()[i].message.payload;
+        }
     }
-    const auto last = std::find_if(d->messages.crbegin(), d->messages.crend(), isRecord);
-    return last == d->messages.crend() ? QVariantMap() : last->payload;
+    return d->base.record();
 }
 
 void PageFixture::forget()
 {
-    d->messages.clear();
+    d->base.recorder.clear();
+    d->base.boxes.take();
     d->boxes.clear();
 }
 
 QStringList PageFixture::boxes() const
 {
+    d->boxes += d->base.boxes.takeTexts();
     return d->boxes;
 }
 
@@ -286,7 +205,7 @@ bool PageFixture::hasState(const QString& state) const
     const QString what = state.section(' ', 0, 0);
     const QWidget* const of = widget(state.section(' ', 1));
     if (what == "shown" || what == "hidden") {
-        return of->isVisibleTo(d->dialog.get()) == (what == "shown");
+        return of->isVisibleTo(d->base.dialog) == (what == "shown");
     }
     if (what == "enabled" || what == "disabled") {
         return of->isEnabled() == (what == "enabled");
@@ -309,7 +228,7 @@ QStringList PageFixture::greyedItems(const QString& page) const
     QStringList greyed;
     for (const QComboBox* combo : widget(page)->findChildren<QComboBox*>()) {
         for (int item = 0; item < combo->count(); ++item) {
-            if (combo->itemData(item, flagsRole) == QVariant(0)) {
+            if (combo->itemData(item, greyRole) == QVariant(0)) {
                 greyed.append(QStringLiteral("%1 %2").arg(combo->objectName()).arg(item));
             }
         }

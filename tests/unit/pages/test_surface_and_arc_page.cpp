@@ -1,0 +1,180 @@
+// The pages of surfaces and of arcs and circles.
+
+#include "Main.h"
+#include "PageCases.h"
+#include "PageFixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+
+#include "addfeature/AddFeature.h"
+
+using PageCases::Case;
+
+namespace {
+
+const QStringList surface = {"m_pSurfaceTB"};
+const QStringList arc = {"m_pArcTB"};
+const QStringList circle = {"m_pArcTB", "m_pArcAndCircleCMB=1"};
+
+/// Choosing each item of a combo box stores its number as text and sends the record.
+QList<Case> choices(const QStringList& before, const QString& combo, const QString& key, int count)
+{
+    QList<Case> rows;
+    for (int index = 0; index < count; ++index) {
+        rows.append({QString(),
+                     before + QStringList(QStringLiteral("%1=%2").arg(combo).arg(index ? 0 : 1)),
+                     QStringLiteral("%1=%2").arg(combo).arg(index),
+                     {{key, QString::number(index + 1)}},
+                     {50}});
+    }
+    rows.append({combo + " without an item",
+                 before + QStringList(combo + "=1"),
+                 combo + "=-1",
+                 {{key, QString("2")}},
+                 {50}});
+    return rows;
+}
+
+QList<Case> families()
+{
+    const QStringList arcStates = {"enabled m_pArcCMB", "disabled m_pCircleCMB"};
+    const QStringList circleStates = {"disabled m_pArcCMB", "enabled m_pCircleCMB"};
+    return {
+        {"circle",
+         arc + QStringList("m_pArcCMB=1"),
+         "m_pArcAndCircleCMB=1",
+         {{"Arc&Circle", QString("2")}, {"ArcMode", QString("2")}},
+         {50},
+         circleStates},
+        {"arc again",
+         circle + QStringList("m_pCircleCMB=2"),
+         "m_pArcAndCircleCMB=0",
+         {{"Arc&Circle", QString("1")}, {"CircleMode", QString("3")}},
+         {50},
+         arcStates},
+        {"neither",
+         circle,
+         "m_pArcAndCircleCMB=-1",
+         {{"Arc&Circle", QString("2")}},
+         {50},
+         circleStates},
+    };
+}
+
+QList<Case> clockWise()
+{
+    return {
+        {"counter-clockwise", arc, "m_pClockWiseCB", {{"ClockWise", QString("2")}}, {50}},
+        {"clockwise again",
+         arc + QStringList("m_pClockWiseCB"),
+         "m_pClockWiseCB",
+         {{"ClockWise", QString("1")}},
+         {50}},
+    };
+}
+
+QStringList items(const QComboBox& combo)
+{
+    QStringList texts;
+    for (int i = 0; i < combo.count(); ++i) {
+        texts.append(combo.itemText(i));
+    }
+    return texts;
+}
+
+}  // namespace
+
+class TestSurfaceAndArcPage : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void table_data()
+    {
+        PageCases::addRows(choices(surface, "m_pSurfShapeCMB", "SurfaceShape", 3) +
+                           choices(arc, "m_pArcCMB", "ArcMode", 7) +
+                           choices(circle, "m_pCircleCMB", "CircleMode", 4) + families() +
+                           clockWise());
+    }
+    void table() { PageCases::run(); }
+
+    void start()
+    {
+        PageFixture fixture;
+        QCOMPARE(items(fixture.find<QComboBox>("m_pSurfShapeCMB")),
+                 (QStringList{"Rectangle", "Polygon", "Circle"}));
+        QCOMPARE(items(fixture.find<QComboBox>("m_pArcAndCircleCMB")),
+                 (QStringList{"Arc", "Circle"}));
+        QCOMPARE(items(fixture.find<QComboBox>("m_pArcCMB")),
+                 (QStringList{"Start, Center, End", "Start, End, Edge", "Start, End, Center",
+                              "Start, Center, Angle", "Start, Center, Length", "Start, End, Angle",
+                              "Start, End, Radius"}));
+        QCOMPARE(items(fixture.find<QComboBox>("m_pCircleCMB")),
+                 (QStringList{"Center, Radius", "Center, Point", "Point, Center", "Three Points"}));
+        for (const char* const combo :
+             {"m_pSurfShapeCMB", "m_pArcAndCircleCMB", "m_pArcCMB", "m_pCircleCMB"}) {
+            QCOMPARE(fixture.index(combo), 0);
+        }
+        QCOMPARE(fixture.find<QCheckBox>("m_pClockWiseCB").text(), QString("ClockWise"));
+        for (const char* const state :
+             {"checked m_pClockWiseCB", "enabled m_pArcCMB", "disabled m_pCircleCMB"}) {
+            QVERIFY2(fixture.hasState(state), state);
+        }
+        QCOMPARE(fixture.greyedItems("m_pArcPage"),
+                 (QStringList{"m_pArcCMB 3", "m_pArcCMB 4", "m_pArcCMB 5", "m_pArcCMB 6",
+                              "m_pCircleCMB 3"}));
+        QCOMPARE(fixture.greyedItems("m_pSurfacePage"), QStringList());
+    }
+
+    void rowsOfTheArcPage()
+    {
+        PageFixture fixture;
+        fixture.perform(arc);
+        const auto top = [&](const char* name) { return fixture.find<QWidget>(name).y(); };
+        QVERIFY(top("m_pArcCMB") > top("m_pArcAndCircleCMB"));
+        QVERIFY(top("m_pCircleCMB") > top("m_pArcCMB"));
+        QVERIFY(fixture.find<QWidget>("m_pClockWiseCB").x() >
+                fixture.find<QWidget>("m_pArcAndCircleCMB").x());
+    }
+
+    void greyedItems_data()
+    {
+        PageCases::addGreyedRows({{"m_pArcCMB", arc, 2, 7}, {"m_pCircleCMB", circle, 2, 4}});
+    }
+    void greyedItems() { PageCases::tryToReachGreyedItem(); }
+
+    void theClockWiseBoxItselfDecides()
+    {
+        PageFixture fixture;
+        fixture.dialog().on_ClockWise_CheckState_Changed(Qt::Unchecked);
+        QCOMPARE(fixture.record().value("ClockWise"), QVariant(QString("1")));
+    }
+
+    void keepTheirStateWhenShownAgain()
+    {
+        PageFixture fixture;
+        fixture.perform(QStringList{"m_pSurfaceTB", "m_pSurfShapeCMB=2", "m_pArcTB",
+                                    "m_pArcAndCircleCMB=1", "m_pSurfaceTB"});
+        QCOMPARE(fixture.index("m_pSurfShapeCMB"), 2);
+        QCOMPARE(fixture.record().value("SurfaceShape"), QVariant(QString("3")));
+        QCOMPARE(fixture.record().value("Arc&Circle"), QVariant(QString("2")));
+    }
+
+    void language_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QStringList>("before");
+        QTest::newRow("surface") << "m_pSurfacePage"
+                                 << QStringList{"m_pSurfaceTB", "m_pSurfShapeCMB=1"};
+        QTest::newRow("arc") << "m_pArcPage" << QStringList{"m_pArcTB", "m_pArcCMB=2"};
+    }
+    void language()
+    {
+        QFETCH(QString, page);
+        QFETCH(QStringList, before);
+        PageCases::retranslate(page, before);
+    }
+};
+
+CTS_MAIN(TestSurfaceAndArcPage)
+#include "test_surface_and_arc_page.moc"
