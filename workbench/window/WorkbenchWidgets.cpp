@@ -153,6 +153,9 @@ void WorkbenchWindow::createMenus()
     for (QDockWidget* const dock : {m_stripDock, m_jobTreeDock, m_monitorDock}) {
         m_viewMenu->addAction(dock->toggleViewAction());
     }
+    m_viewMenu->addSeparator();
+    connect(addEntry(m_viewMenu, "m_pDimensionsAct", QT_TR_NOOP("&Dimensions Popup")),
+            &QAction::triggered, this, &WorkbenchWindow::openDimensions);
 }
 
 void WorkbenchWindow::retranslate()

@@ -41,6 +41,10 @@ WorkbenchWindow::~WorkbenchWindow()
     m_strip.reset();
     m_viewer.reset();
     m_jobTree.reset();
+    if (m_dimensions) {
+        CanvasHost::removeInstance(static_cast<QObject*>(m_dimensions));
+        delete m_dimensions;
+    }
     CanvasHost::removeInstance(this);
 }
 
@@ -122,6 +126,22 @@ void WorkbenchWindow::savePicture()
     if (!file.isEmpty() && !picture.save(file)) {
         QMessageBox::warning(this, tr("Save Picture"), tr("%1 was not saved.").arg(file));
     }
+}
+
+void WorkbenchWindow::openDimensions()
+{
+    if (!m_dimensions) {
+        QString error;
+        void* const instance = CanvasHost::loadModule(QStringLiteral("Canvas_Dimensions.dll"),
+                                                      m_options.moduleDirectory, this, &error);
+        m_dimensions = qobject_cast<QWidget*>(static_cast<QObject*>(instance));
+        if (!m_dimensions) {
+            QMessageBox::warning(this, tr("Modules"), error);
+            return;
+        }
+    }
+    m_dimensions->show();
+    m_dimensions->raise();
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event)

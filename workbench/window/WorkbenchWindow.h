@@ -7,6 +7,9 @@
 #include <PluginMetaData.h>
 
 #include <QMainWindow>
+#include <QPointer>
+
+#include <memory>
 
 class HostState;
 class MessageLog;
@@ -56,6 +59,7 @@ private:
     void changeLanguage(int index);
     void showEq(bool visible);
     void savePicture();
+    void openDimensions();
     void retranslate();
 
     Options m_options;
@@ -79,6 +83,7 @@ private:
     QMenu* m_viewMenu;
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
+    QPointer<QWidget> m_dimensions;  // a window of its own, made when it is first asked for
     std::unique_ptr<ModulePlace> m_strip;
     std::unique_ptr<ModulePlace> m_viewer;
     std::unique_ptr<ModulePlace> m_jobTree;

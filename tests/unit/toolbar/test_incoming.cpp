@@ -9,7 +9,6 @@
 #include <UiApiStandIn.h>
 
 #include <QSignalSpy>
-#include <QTranslator>
 
 using Attributes = std::vector<std::pair<std::string, std::string>>;
 using Symbols = std::map<int, std::string>;
@@ -75,22 +74,6 @@ struct Spies {
                language.size() + symbols.size() + job.size();
     }
 };
-
-/// Marks every text, so that a text shows whether it was translated, and in which context.
-class MarkingTranslator : public QTranslator {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* source, const char* note,
-                      int /*count*/) const override
-    {
-        return QStringLiteral("%1|%2|%3").arg(context, source, note ? note : "");
-    }
-};
-
-QString marked(const char* source, const char* note = "")
-{
-    return QStringLiteral("Canvas_Tool_Strip|%1|%2").arg(source, note);
-}
 
 }  // namespace
 
@@ -410,85 +393,6 @@ private Q_SLOTS:
         StripFixture fixture;
         CanvasHost::uiApiOverrides().getUnitString = [](void*) -> QString { throw 42; };
         QVERIFY_EXCEPTION_THROWN(fixture.receive(20002200), int);
-    }
-
-    void languageRetitles()
-    {
-        StripFixture fixture;
-        MarkingTranslator translator;
-        QApplication::installTranslator(&translator);
-        QString tipAtSignal;
-        connect(fixture.strip, &Canvas_Tool_Strip::language_changed, fixture.strip,
-                [&] { tipAtSignal = fixture.button(0)->toolTip(); });
-        fixture.receive(20002201);
-        QApplication::removeTranslator(&translator);
-        QCOMPARE(tipAtSignal, QString("Area Zoom"));  // the signal comes first
-        for (int index = 0; index < 26; ++index) {
-            const char* const tips[] = {"Area Zoom",
-                                        "Open a Popview",
-                                        "Measure",
-                                        "Feature HighLight",
-                                        "Add Feature",
-                                        "Delete Feature",
-                                        "Move Feature",
-                                        "Copy Feature",
-                                        "Change Line Angle",
-                                        "Stretch Line",
-                                        "Rotate",
-                                        "Mirror",
-                                        "Invert Feature",
-                                        "Break Line",
-                                        "Rout Dimension Editor",
-                                        "Contour Editor",
-                                        "Pull Line",
-                                        "Move Junction",
-                                        "Move Triplet(Angle)",
-                                        "Reroute Trace(Fix Point)",
-                                        "Feature Selection",
-                                        "Rectangle Selection",
-                                        "Polygon Selection",
-                                        "Select By Net",
-                                        "Mark"};
-            const QString expected =
-                index == 25 ? QString("EQ") : marked(tips[index], index == 2 ? "tool_edit" : "");
-            QCOMPARE(fixture.button(index)->toolTip(), expected);
-        }
-    }
-
-    void languageRetitlesTheMenusThatExist()
-    {
-        StripFixture fixture;
-        fixture.panel.show();
-        for (const int tool : {5, 23, 24}) {
-            QTimer::singleShot(0, [] { QApplication::activePopupWidget()->close(); });
-            QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
-            QApplication::sendEvent(fixture.button(tool), &event);
-        }
-        MarkingTranslator translator;
-        QApplication::installTranslator(&translator);
-        fixture.receive(20002201);
-        QApplication::removeTranslator(&translator);
-        const auto texts = [&](const char* menu) {
-            QStringList list;
-            for (const QAction* const action : fixture.panel.findChild<QMenu*>(menu)->actions()) {
-                list.append(action->text());
-            }
-            return list;
-        };
-        QCOMPARE(texts("m_pDeleteMenu"), (QStringList{"Delete Feature", "Delete to Intersection"}));
-        QCOMPARE(texts("m_pNetMenu"),
-                 (QStringList{marked("Select Layer Net"), marked("Select Board Net"),
-                              marked("Select_Polyline")}));
-        QCOMPARE(texts("m_pMarkMenu"), (QStringList{marked("Mark Orthogonal"),
-                                                    marked("Mark Point to Point"), "Setting"}));
-    }
-
-    void languageBeforeTheMenusExist()
-    {
-        StripFixture fixture;
-        fixture.receive(20002201);
-        QCOMPARE(fixture.button(23)->toolTip(), QString("Select By Net"));
-        QVERIFY(fixture.panel.findChildren<QMenu*>().isEmpty());
     }
 
     void dataBeforeTheDialogExists()

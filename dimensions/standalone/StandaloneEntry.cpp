@@ -1,0 +1,19 @@
+// The form as a module of its own: nothing in the tool strip opens it yet, and a host that wants to
+// see it loads this one.
+
+#include "dimensions/Dimensious.h"
+
+#include <PluginMetaData.h>
+
+extern "C" {
+
+Q_DECL_EXPORT void* GetPluginInstance(QWidget* parent)
+{
+    auto* const popup = new Dimensious(parent);
+    popup->setWindowFlag(Qt::Window);
+    return static_cast<QObject*>(popup);
+}
+
+/// The form takes no messages.
+Q_DECL_EXPORT void recMsgFromManager(void* /*instance*/, PluginMetaData /*message*/) {}
+}
