@@ -3,6 +3,7 @@
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "window/Options.h"
+#include "window/WindowPicture.h"
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>
@@ -37,10 +38,10 @@ struct Inputs {
 };
 
 /// Reads everything that may be wrong before a window is made; empty when all is well.
-QString readInputs(Inputs* inputs)
+QString readInputs(int argc, char* argv[], Inputs* inputs)
 {
     QString error;
-    inputs->options = Options::ofProgram(&error);
+    inputs->options = Options::ofProgram(argc, argv, &error);
     const Options& options = inputs->options;
     if (!error.isEmpty()) {
         return ours(error);
@@ -74,7 +75,7 @@ void whenPainted(QWidget* window, const std::function<void()>& then)
 void end(const Options& options, QWidget* window)
 {
     int status = Good;
-    if (!options.screenshotFile.isEmpty() && !window->grab().save(options.screenshotFile)) {
+    if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
         complain(
             ours(QStringLiteral("%1: the picture cannot be written").arg(options.screenshotFile)));
         status = BadInput;
@@ -92,16 +93,16 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("workbench"));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-
     Inputs inputs;
-    QString error = readInputs(&inputs);
+    QString error = readInputs(argc, argv, &inputs);
     if (!error.isEmpty()) {
         complain(error);
         return BadInput;
     }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("workbench"));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, &application,
                      [&](const MessageRecord& message) { inputs.trace.append(message); });

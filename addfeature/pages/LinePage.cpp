@@ -46,6 +46,7 @@ const Choices platings = {
 };
 
 constexpr int fixedAngle = 5;
+constexpr int directionIconSize = 24;
 struct Direction {
     const char* objectName;
     const char* icon;
@@ -160,6 +161,7 @@ QLayout* LinePage::createDirectionRow()
         auto* button = new QRadioButton(m_directionGroup);
         button->setObjectName(QLatin1String(direction.objectName));
         button->setIcon(directionIcon(direction));
+        button->setIconSize({directionIconSize, directionIconSize});
         m_directions->addButton(button, id++);
         row->addWidget(button);
     }

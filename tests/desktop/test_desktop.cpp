@@ -76,6 +76,12 @@ private:
         return dialog;
     }
 
+    /// Where the round pad at the board's upper right stands on the screen.
+    static QPoint bigPad(const QWidget& board)
+    {
+        return board.mapToGlobal(QPoint(board.width() * 748 / 1000, board.height() * 24 / 100));
+    }
+
     /// Opens the right-click menu of a tool and hands it to `inMenu`, which ends it.
     void rightClick(const char* name, const std::function<void(QMenu&)>& inMenu)
     {
@@ -244,6 +250,56 @@ private Q_SLOTS:
         QVERIFY(m_log->messages().back().delivered);
         dialog.close();
         QTRY_VERIFY(tool("m_pAreaZoomTB").isChecked());
+    }
+
+    void pickedOnTheCanvas()
+    {
+        QWidget& dialog = openDialog("m_pLineTB");
+        auto& symbol = findNamed<QLineEdit>(dialog, "m_pSymbolTextLE");
+        Desktop::click(findNamed(dialog, "m_pSelectFromEditorPB"));
+        QCOMPARE(sent(), QVector<int>{20001405});
+        const auto& board = findNamed(*m_window, "m_pBoardView");
+        dialog.move(m_window->x() + board.mapTo(m_window.get(), QPoint()).x(), m_window->y() + 60);
+        Desktop::clickAt(bigPad(board));
+        QTRY_VERIFY(!symbol.text().isEmpty());
+        QVERIFY(symbol.text().startsWith('r'));
+        const MessageRecord& record = m_log->messages().back();
+        QCOMPARE(record.code, 50);
+        QCOMPARE(record.payload.value("SymbolText"), QVariant(symbol.text()));
+    }
+
+    void attributesOfAPickedFeature()
+    {
+        QWidget& dialog = openDialog("m_pLineTB");
+        Desktop::click(findNamed(dialog, "m_pAttributesCB"), 1, QPoint(8, 10));
+        Desktop::click(findNamed(dialog, "m_pValuesPB"));
+        auto& values = findNamed<QWidget>(dialog, "Widget_Attributes");
+        Desktop::waitForWindow(&values);
+        values.move(m_window->x() + 250, m_window->y() + 450);
+        dialog.move(m_window->x() + 250, m_window->y() + 100);
+        QTest::qWait(100);
+        m_log->clear();
+        Desktop::click(findNamed(values, "m_pFromEditorPB"));
+        Desktop::clickAt(bigPad(findNamed(*m_window, "m_pBoardView")));
+        QTRY_VERIFY(findNamed(dialog, "m_pValuesPB").styleSheet().contains("rgb(255, 0, 0)"));
+        Desktop::click(findNamed(values, "m_pApplyPB"));
+        QTRY_COMPARE(m_log->messages().back().code, 51);
+        QVERIFY(!m_log->messages().back().pointedAt.isEmpty());
+        QVERIFY(m_log->messages().front().sender == "Canvas_RuleMenu.dll");
+    }
+
+    void dimensionsFromTheMenu()
+    {
+        QAction* const action = m_window->findChild<QAction*>("m_pDimensionsAct");
+        QVERIFY(action);
+        action->trigger();
+        auto& popup = findNamed<QWidget>(*m_window, "m_pDimensions");
+        QTRY_VERIFY(popup.isVisible());
+        QVERIFY(popup.isWindow());
+        Desktop::waitForWindow(&popup);
+        m_log->clear();
+        Desktop::click(findNamed(popup, "m_pAddReferencePB"));
+        QVERIFY(m_log->messages().empty());
     }
 
     void closingTheWindowWithAnUnfinishedSymbol()

@@ -8,6 +8,9 @@ bool MessageTrace::open(const QString& file)
 
 void MessageTrace::append(const MessageRecord& message)
 {
+    if (!m_file.isOpen()) {
+        return;
+    }
     m_file.write(message.toJson() + '\n');
     m_file.flush();
 }

@@ -2,6 +2,7 @@
 
 #include "session/InputEvents.h"
 #include "session/WidgetFinder.h"
+#include "window/WindowPicture.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -12,6 +13,7 @@
 #include <QMenu>
 #include <QPixmap>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTextEdit>
 
 namespace StepActions {
@@ -272,7 +274,14 @@ StepAction pickItem(const QString& name, const QString& item)
         QAbstractItemView* const view = combo->view();
         const QModelIndex index = combo->model()->index(row, combo->modelColumn());
         view->scrollTo(index);
-        InputEvents::click(view->viewport(), view->visualRect(index).center());
+        const QPointer<QComboBox> chosen = combo;
+        // An item may be wider than the list that shows it.
+        const QRect seen = view->visualRect(index) & view->viewport()->rect();
+        InputEvents::click(view->viewport(), seen.center());
+        if (chosen && chosen->currentIndex() != row) {
+            chosen->hidePopup();
+            return failed(QStringLiteral("\"%1\" in \"%2\" cannot be chosen").arg(item, name));
+        }
         return {};
     };
 }
@@ -284,7 +293,7 @@ StepAction picture(const QString& file, const QString& name)
         if (!widget) {
             return again(QStringLiteral("no widget \"%1\"").arg(name));
         }
-        return widget->grab().save(file)
+        return (name.isEmpty() ? pictureOf(widget) : widget->grab()).save(file)
                    ? StepResult{}
                    : failed(QStringLiteral("the picture \"%1\" cannot be written").arg(file));
     };

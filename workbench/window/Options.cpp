@@ -128,10 +128,23 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     return options;
 }
 
-Options Options::ofProgram(QString* error)
+Options Options::ofProgram(int argc, char* argv[], QString* error)
 {
+    // Before the program has a screen: a wrong option is told without one as well.
+    const QCoreApplication program(argc, argv);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        const QString argument = QString::fromLocal8Bit(argv[i]);
+        const bool isQts = argument.startsWith('-') && !argument.startsWith(QLatin1String("--")) &&
+                           argument != QLatin1String("-h");
+        if (isQts) {
+            ++i;  // and its value
+        } else {
+            arguments.append(argument);
+        }
+    }
     QString help;
-    const Options options = parse(QCoreApplication::arguments(), error, &help);
+    const Options options = parse(arguments, error, &help);
     if (!help.isEmpty()) {
         fputs(qPrintable(help), stdout);
         ::exit(EXIT_SUCCESS);

@@ -32,9 +32,10 @@ struct Options {
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
     QString language = QStringLiteral("en");
 
-    /// The options of the running program. A wrong one fills `error` with one line; with --help the
-    /// program ends here.
-    static Options ofProgram(QString* error);
+    /// The options of the program, read before there is an application object; those of Qt itself
+    /// (a single dash and a value) are passed over. A wrong one fills `error` with one line; with
+    /// --help the program ends here.
+    static Options ofProgram(int argc, char* argv[], QString* error);
     /// The same from `arguments` (the program's name first). `help` is filled when it is asked for.
     static Options parse(const QStringList& arguments, QString* error, QString* help);
 };

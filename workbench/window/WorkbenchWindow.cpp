@@ -5,6 +5,7 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "window/HostState.h"
+#include "window/WindowPicture.h"
 
 #include <CamApiStandIn.h>
 #include <PluginManagerStandIn.h>
@@ -120,7 +121,7 @@ void WorkbenchWindow::showEq(bool visible)
 
 void WorkbenchWindow::savePicture()
 {
-    const QPixmap picture = grab();
+    const QPixmap picture = pictureOf(this);
     const QString file = QFileDialog::getSaveFileName(
         this, tr("Save Picture"), QStringLiteral("workbench.png"), tr("Pictures (*.png)"));
     if (!file.isEmpty() && !picture.save(file)) {

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QPixmap>
+
+class QWidget;
+
+/// A picture of `window` as the screen shows it: with the program's other windows over it.
+QPixmap pictureOf(QWidget* window);
