@@ -10,7 +10,7 @@ extern "C" {
 Q_DECL_EXPORT void* GetPluginInstance(QWidget* parent)
 {
     auto* const popup = new Dimensious(parent);
-    popup->setWindowFlag(Qt::Window);
+    popup->setWindowFlag(Qt::Dialog);
     return static_cast<QObject*>(popup);
 }
 

@@ -36,7 +36,7 @@ public:
 
 // A canvas measures here; the toolbar, which the host's own popup asks, has nothing to add.
 Grc_Tbe_measurepopup::Grc_Tbe_measurepopup(Canvas_Tool_Strip* /*strip*/, QWidget* parent)
-    : QWidget(parent, Qt::Window), d(new Private)
+    : QWidget(parent, Qt::Dialog), d(new Private)
 {
     setObjectName(QStringLiteral("Grc_Tbe_measurepopup"));
     d->pane = new MeasurePane(this);

@@ -20,7 +20,7 @@ public:
     bool isColoured = false;
 };
 
-Widget_Attributes::Widget_Attributes(QWidget* owner) : QWidget(owner, Qt::Window), d(new Private)
+Widget_Attributes::Widget_Attributes(QWidget* owner) : QWidget(owner, Qt::Dialog), d(new Private)
 {
     setObjectName(QStringLiteral("Widget_Attributes"));
     d->pane = new AttributePane(this);

@@ -39,7 +39,7 @@ public:
 };
 
 Widget_SymbolSelection::Widget_SymbolSelection(std::string job, QWidget* context, QWidget* parent)
-    : QWidget(parent, Qt::Window), d(new Private)
+    : QWidget(parent, Qt::Dialog), d(new Private)
 {
     setObjectName(QStringLiteral("Widget_SymbolSelection"));
     d->job = std::move(job);

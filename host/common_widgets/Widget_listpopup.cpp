@@ -31,7 +31,7 @@ Widget_listpopup::Widget_listpopup(int type, std::string job, QWidget* parent)
 
 // The stand-in's special texts are the same for every step of a job.
 Widget_listpopup::Widget_listpopup(int type, std::string job, std::string /*step*/, QWidget* parent)
-    : QWidget(parent, Qt::Window)
+    : QWidget(parent, Qt::Dialog)
 {
     setObjectName(QStringLiteral("Widget_listpopup"));
     const bool isFonts = type == fonts;

@@ -259,7 +259,7 @@ private Q_SLOTS:
         Desktop::click(findNamed(dialog, "m_pSelectFromEditorPB"));
         QCOMPARE(sent(), QVector<int>{20001405});
         const auto& board = findNamed(*m_window, "m_pBoardView");
-        dialog.move(m_window->x() + board.mapTo(m_window.get(), QPoint()).x(), m_window->y() + 60);
+        dialog.move(m_window->x(), m_window->frameGeometry().bottom() + 10);
         Desktop::clickAt(bigPad(board));
         QTRY_VERIFY(!symbol.text().isEmpty());
         QVERIFY(symbol.text().startsWith('r'));
@@ -275,8 +275,10 @@ private Q_SLOTS:
         Desktop::click(findNamed(dialog, "m_pValuesPB"));
         auto& values = findNamed<QWidget>(dialog, "Widget_Attributes");
         Desktop::waitForWindow(&values);
-        values.move(m_window->x() + 250, m_window->y() + 450);
-        dialog.move(m_window->x() + 250, m_window->y() + 100);
+        // Below the host's window, which comes to the front when it is clicked.
+        values.resize(420, 160);
+        values.move(m_window->x(), m_window->frameGeometry().bottom() + 10);
+        dialog.move(values.x() + 460, values.y());
         QTest::qWait(100);
         m_log->clear();
         Desktop::click(findNamed(values, "m_pFromEditorPB"));
@@ -292,6 +294,10 @@ private Q_SLOTS:
     {
         QAction* const action = m_window->findChild<QAction*>("m_pDimensionsAct");
         QVERIFY(action);
+        for (int slot = 0; slot < 7; ++slot) {
+            // The form's slots are connected by name before what they are named after exists.
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("connectSlotsByName"));
+        }
         action->trigger();
         auto& popup = findNamed<QWidget>(*m_window, "m_pDimensions");
         QTRY_VERIFY(popup.isVisible());
