@@ -33,7 +33,7 @@ QPixmap pictureOf(QWidget* window)
     const qreal ratio = window->devicePixelRatioF();
     QPixmap picture((QSizeF(all.size()) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::darkGray);
+    picture.fill(QColor(0xd4, 0xd8, 0xde));  // the desk
     QPainter painter(&picture);
     painter.translate(-all.topLeft());
     painter.drawPixmap(QPoint(), window->grab());

@@ -6,6 +6,7 @@
 #include "plugin/ModuleNames.h"
 #include "window/HostState.h"
 #include "window/WindowPicture.h"
+#include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
 #include <PluginManagerStandIn.h>
@@ -17,6 +18,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QScreen>
 #include <QSignalBlocker>
 
 namespace Accepted = MessageCodes::Accepted;
@@ -33,7 +35,10 @@ WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
     retranslate();
     connectControls();
     CanvasHost::addInstance(hostName, this, &WorkbenchWindow::receive, this);
-    resize(1360, 880);
+    new WindowPlacer(this);
+    // At the left, so that the modules' windows find room beside it.
+    resize(1200, 860);
+    move(screen()->availableGeometry().topLeft() + QPoint(20, 40));
 }
 
 WorkbenchWindow::~WorkbenchWindow()
