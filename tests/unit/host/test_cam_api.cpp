@@ -189,8 +189,9 @@ void TestCamApi::rejectedNames_data()
     QTest::addColumn<QString>("name");
     const QString names = QStringLiteral(
         "r s rect 10 x10 r0 r0.0 s0 r-1 r+1 r1e3 r10_45 R10 r1,5 r10. r.5 r1.2.3 r10x20 "
-        "rect20 rect20x rectx20 rect20x40x5 rect20X40 rect0x40 rect20x0 oval20 "
-        "diamond20 di20x40 oct20x40x5 octagon20 triangle20 ellipse20 hexagon20 "
+        "rect20 rect20x rectx20 rect20x40x5 rect20X40 rect0x40 rect20x0 oval20 oval20x40x5 "
+        "diamond20 diamond1x2x3 triangle1x2x3 ellipse1x2x3 di20x40 oct20x40x5 octagon20 triangle20 "
+        "ellipse20 hexagon20 "
         "octagon20x40x0 octagon20x40x5x5 ring_r60 ring_r60x60 ring_r30x60 ring_r60x0 "
         "ring_s60x60 ring60x30 ring_t60x30 user r10r10 rnan rinf r0x10 ");
     for (const QString& name : names.split(' ', Qt::SkipEmptyParts)) {
