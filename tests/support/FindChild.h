@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QComboBox>
 #include <QStringList>
 #include <QWidget>
 
@@ -16,4 +17,13 @@ T& findNamed(const QWidget& parent, const QString& name)
     }
     qFatal("%s has no %s \"%s\", but: %s", qPrintable(parent.objectName()),
            T::staticMetaObject.className(), qPrintable(name), qPrintable(names.join(' ')));
+}
+
+inline QStringList itemTexts(const QComboBox& combo)
+{
+    QStringList texts;
+    for (int i = 0; i < combo.count(); ++i) {
+        texts.append(combo.itemText(i));
+    }
+    return texts;
 }

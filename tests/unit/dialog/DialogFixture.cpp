@@ -125,19 +125,3 @@ QVariantMap DialogFixture::record()
     recorder.truncate(before);
     return record;
 }
-
-QuotingTranslator::QuotingTranslator(const char* context) : m_context(context)
-{
-    QCoreApplication::installTranslator(this);
-}
-
-QuotingTranslator::~QuotingTranslator()
-{
-    QCoreApplication::removeTranslator(this);
-}
-
-QString QuotingTranslator::translate(const char* context, const char* text,
-                                     const char* /*disambiguation*/, int /*n*/) const
-{
-    return m_context == context ? '<' + QString::fromUtf8(text) + '>' : QString();
-}

@@ -2,6 +2,7 @@
 
 #include "BoxCatcher.h"
 #include "FindChild.h"
+#include "QuotingTranslator.h"
 #include "Recorder.h"
 #include "addfeature/AddFeature.h"
 #include "toolbar/Canvas_Tool_Strip.h"
@@ -44,18 +45,4 @@ public:
     QWidget window;
     Canvas_Tool_Strip* strip = new Canvas_Tool_Strip(&window);
     QPointer<AddFeature> dialog;
-};
-
-/// In angle quotes: every text of `context` in another language.
-class QuotingTranslator : public QTranslator {
-public:
-    explicit QuotingTranslator(const char* context);
-    ~QuotingTranslator() override;
-
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* text, const char* disambiguation,
-                      int n) const override;
-
-private:
-    QByteArray m_context;
 };

@@ -19,15 +19,6 @@ const char* const pages[] = {"m_pLinePage", "m_pPadPage", "m_pSurfacePage", "m_p
 const QStringList symbolControls = {"m_pSymbolPB", "m_pSymbolTextLE", "m_pSelectFromEditorPB"};
 const QStringList placementControls = {"m_pMirrorCMB", "m_pAngleValueSB"};
 
-QStringList items(const QComboBox& combo)
-{
-    QStringList texts;
-    for (int i = 0; i < combo.count(); ++i) {
-        texts.append(combo.itemText(i));
-    }
-    return texts;
-}
-
 QImage picture(const QIcon& icon)
 {
     return icon.pixmap(32, 32).toImage();
@@ -88,10 +79,10 @@ private Q_SLOTS:
         QVERIFY(!fixture.find("m_pFillPB").isEnabled());
 
         auto& polarity = fixture.find<QComboBox>("m_pPolarityCMB");
-        QCOMPARE(items(polarity), (QStringList{"Positive", "Negative"}));
+        QCOMPARE(itemTexts(polarity), (QStringList{"Positive", "Negative"}));
         QCOMPARE(polarity.currentIndex(), 0);
         auto& mirror = fixture.find<QComboBox>("m_pMirrorCMB");
-        QCOMPARE(items(mirror), (QStringList{"Mir", "No Mir"}));
+        QCOMPARE(itemTexts(mirror), (QStringList{"Mir", "No Mir"}));
         QCOMPARE(mirror.currentIndex(), 1);
         QVERIFY(!fixture.isShown("m_pMirrorCMB"));
         auto& rotation = fixture.find<QSpinBox>("m_pAngleValueSB");
@@ -212,10 +203,10 @@ private Q_SLOTS:
         QCOMPARE(fixture.find<QPushButton>("m_pValuesPB").text(), QString("<Values...>"));
         QCOMPARE(fixture.find<QPushButton>("m_pFillPB").text(), QString("<Fill...>"));
         QCOMPARE(fixture.find<QCheckBox>("m_pAttributesCB").text(), QString("<Attributes>"));
-        QCOMPARE(items(fixture.find<QComboBox>("m_pPolarityCMB")),
+        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pPolarityCMB")),
                  (QStringList{"<Positive>", "<Negative>"}));
         QCOMPARE(fixture.find<QComboBox>("m_pPolarityCMB").currentIndex(), 1);
-        QCOMPARE(items(fixture.find<QComboBox>("m_pMirrorCMB")),
+        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pMirrorCMB")),
                  (QStringList{"<Mir>", "<No Mir>"}));
         QVERIFY(fixture.recorder.messages().isEmpty());
     }

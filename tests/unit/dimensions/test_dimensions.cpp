@@ -2,6 +2,7 @@
 
 #include "FindChild.h"
 #include "Main.h"
+#include "QuotingTranslator.h"
 #include "dimensions/Dimensious.h"
 
 #include <QButtonGroup>
@@ -12,7 +13,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTranslator>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -54,15 +54,6 @@ const Combo combos[] = {
     {"m_pMode1CMB", {"All", "Ps", "Pe"}},     {"m_pMode2CMB", {"All", "Ps", "Pe"}},
 };
 
-QStringList itemsOf(const QComboBox& combo)
-{
-    QStringList texts;
-    for (int i = 0; i < combo.count(); ++i) {
-        texts.append(combo.itemText(i));
-    }
-    return texts;
-}
-
 /// The slots are connected by name before the groups exist: Qt says of each that it finds nothing.
 std::unique_ptr<Dimensious> createPopup()
 {
@@ -77,17 +68,6 @@ std::unique_ptr<Dimensious> createPopup()
     }
     return std::make_unique<Dimensious>(nullptr);
 }
-
-class QuotingTranslator : public QTranslator {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* text, const char* /*disambiguation*/,
-                      int /*n*/) const override
-    {
-        return qstrcmp(context, "m_pDimensions") == 0 ? '<' + QString::fromUtf8(text) + '>'
-                                                      : QString();
-    }
-};
 
 }  // namespace
 
@@ -141,12 +121,12 @@ private Q_SLOTS:
         QFETCH(int, row);
         const auto popup = createPopup();
         auto& combo = findNamed<QComboBox>(*popup, combos[row].name);
-        QCOMPARE(itemsOf(combo), combos[row].items);
+        QCOMPARE(itemTexts(combo), combos[row].items);
         QCOMPARE(combo.currentIndex(), 0);
         combo.setCurrentIndex(1);
         popup->retranslate();
         popup->retranslate();
-        QCOMPARE(itemsOf(combo), combos[row].items);
+        QCOMPARE(itemTexts(combo), combos[row].items);
         QCOMPARE(combo.currentIndex(), 0);
     }
 
@@ -326,8 +306,7 @@ private Q_SLOTS:
     void language()
     {
         const auto popup = createPopup();
-        QuotingTranslator translator;
-        QCoreApplication::installTranslator(&translator);
+        const QuotingTranslator translator("m_pDimensions");
         QCoreApplication::sendPostedEvents();
         QCOMPARE(popup->windowTitle(), QString("<Dimensions Popup>"));
         for (const Button& button : buttons) {
@@ -338,13 +317,12 @@ private Q_SLOTS:
         }
         for (const Combo& combo : combos) {
             QCOMPARE(
-                itemsOf(findNamed<QComboBox>(*popup, combo.name)),
+                itemTexts(findNamed<QComboBox>(*popup, combo.name)),
                 QStringList(combo.items).replaceInStrings(QRegularExpression("^(.*)$"), "<\\1>"));
         }
         QCOMPARE(findNamed<QGroupBox>(*popup, "m_pDestElementGB").title(),
                  QString("<Dest Element>"));
         QCOMPARE(findNamed<QRadioButton>(*popup, "m_pYesRB").text(), QString("<Yes>"));
-        QCoreApplication::removeTranslator(&translator);
     }
 };
 

@@ -1,5 +1,6 @@
 // The pages of surfaces and of arcs and circles.
 
+#include "FindChild.h"
 #include "Main.h"
 #include "PageCases.h"
 #include "PageFixture.h"
@@ -74,15 +75,6 @@ QList<Case> clockWise()
     };
 }
 
-QStringList items(const QComboBox& combo)
-{
-    QStringList texts;
-    for (int i = 0; i < combo.count(); ++i) {
-        texts.append(combo.itemText(i));
-    }
-    return texts;
-}
-
 }  // namespace
 
 class TestSurfaceAndArcPage : public QObject {
@@ -101,15 +93,15 @@ private Q_SLOTS:
     void start()
     {
         PageFixture fixture;
-        QCOMPARE(items(fixture.find<QComboBox>("m_pSurfShapeCMB")),
+        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pSurfShapeCMB")),
                  (QStringList{"Rectangle", "Polygon", "Circle"}));
-        QCOMPARE(items(fixture.find<QComboBox>("m_pArcAndCircleCMB")),
+        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pArcAndCircleCMB")),
                  (QStringList{"Arc", "Circle"}));
-        QCOMPARE(items(fixture.find<QComboBox>("m_pArcCMB")),
+        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pArcCMB")),
                  (QStringList{"Start, Center, End", "Start, End, Edge", "Start, End, Center",
                               "Start, Center, Angle", "Start, Center, Length", "Start, End, Angle",
                               "Start, End, Radius"}));
-        QCOMPARE(items(fixture.find<QComboBox>("m_pCircleCMB")),
+        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pCircleCMB")),
                  (QStringList{"Center, Radius", "Center, Point", "Point, Center", "Three Points"}));
         for (const char* const combo :
              {"m_pSurfShapeCMB", "m_pArcAndCircleCMB", "m_pArcCMB", "m_pCircleCMB"}) {

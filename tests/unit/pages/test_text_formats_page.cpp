@@ -1,5 +1,6 @@
 // Barcode, plot stamp and canned text: what their controls write. None of them sends.
 
+#include "FindChild.h"
 #include "Main.h"
 #include "PageCases.h"
 #include "PageFixture.h"
@@ -139,15 +140,6 @@ QList<Case> cannedTexts()
     };
 }
 
-QStringList items(const QComboBox& combo)
-{
-    QStringList texts;
-    for (int i = 0; i < combo.count(); ++i) {
-        texts.append(combo.itemText(i));
-    }
-    return texts;
-}
-
 }  // namespace
 
 class TestTextFormatsPage : public QObject {
@@ -171,7 +163,9 @@ private Q_SLOTS:
     void combos()
     {
         PageFixture fixture;
-        const auto list = [&](const char* name) { return items(fixture.find<QComboBox>(name)); };
+        const auto list = [&](const char* name) {
+            return itemTexts(fixture.find<QComboBox>(name));
+        };
         QCOMPARE(list("m_pUPCCMB"),
                  (QStringList{"UPC39", "UPC39 ascii", "CODE128B", "CODE128C", "ECC-200"}));
         QCOMPARE(list("m_pPositionCMB"), (QStringList{"Top", "Bottom"}));
