@@ -251,6 +251,20 @@ private Q_SLOTS:
         QCOMPARE(fixture.record().value("AddMarkers"), QVariant(QString("2")));
     }
 
+    void theHoleModeWritesTheZoomToo()
+    {
+        PageFixture fixture;
+        fixture.perform(canned);
+        {
+            // A zoom that the record does not know yet.
+            const QSignalBlocker blocker(&fixture.find<QComboBox>("m_pOrbotechZoomCMB"));
+            fixture.perform("m_pOrbotechZoomCMB=4");
+        }
+        QCOMPARE(fixture.record().value("OrbotechZoom"), QVariant(1));
+        fixture.perform("m_pCannedHoleSizeCMB=1");
+        QCOMPARE(fixture.record().value("OrbotechZoom"), QVariant(5));
+    }
+
     void valuesTravelWithTheNextSend()
     {
         PageFixture fixture;
