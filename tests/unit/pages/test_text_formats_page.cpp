@@ -255,6 +255,7 @@ private Q_SLOTS:
     {
         PageFixture fixture;
         fixture.perform(canned);
+        fixture.forget();
         {
             // A zoom that the record does not know yet.
             const QSignalBlocker blocker(&fixture.find<QComboBox>("m_pOrbotechZoomCMB"));
