@@ -1,7 +1,15 @@
 #!/usr/bin/env bash
 # Runs a command under a virtual display with a window manager. Usage: with-display.sh COMMAND...
 exec xvfb-run -a -s '-screen 0 1920x1200x24' bash -c '
-    openbox & manager=$!
-    "$@"; status=$?
+    # A window that is there before the manager would not get the focus.
+    ready=$(mktemp -u)
+    openbox --startup "touch $ready" & manager=$!
+    for _ in $(seq 100); do
+        [ -e "$ready" ] && break
+        sleep 0.05
+    done
+    rm -f "$ready"
+    "$@"
+    status=$?
     kill $manager
     exit $status' bash "$@"

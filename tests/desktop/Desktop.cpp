@@ -29,8 +29,12 @@ void act(const QStringList& arguments)
 
 void Desktop::waitForWindow(QWidget* window)
 {
-    if (!QTest::qWaitForWindowActive(window)) {
-        qFatal("the window %s does not become active", qPrintable(window->objectName()));
+    constexpr int attempts = 4;
+    for (int attempt = 0; !QTest::qWaitForWindowActive(window, 2500); ++attempt) {
+        if (attempt == attempts) {
+            qFatal("the window %s does not become active", qPrintable(window->objectName()));
+        }
+        window->activateWindow();
     }
     QTest::qWait(settleTime);
 }
@@ -45,7 +49,7 @@ void Desktop::click(const QWidget& widget, int button, QPoint place)
 
 void Desktop::clickAt(const QPoint& globalPlace, int button)
 {
-    act({"mousemove", "--sync", QString::number(globalPlace.x()), QString::number(globalPlace.y()),
+    act({"mousemove", QString::number(globalPlace.x()), QString::number(globalPlace.y()),
          "click", QString::number(button)});
 }
 
