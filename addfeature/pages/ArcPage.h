@@ -8,7 +8,7 @@ class QCheckBox;
 class QComboBox;
 
 /// Arc or circle, the points that the user will click for it, and the direction.
-class ArcPage : public Page {
+class ArcPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

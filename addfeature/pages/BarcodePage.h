@@ -17,7 +17,7 @@ class ZTLineEdit;
 
 /// The settings of a barcode. Its handlers store only: the values travel with the next record that
 /// another control sends.
-class BarcodePage : public Page {
+class BarcodePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

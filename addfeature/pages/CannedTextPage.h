@@ -16,7 +16,7 @@ class ZTLineEdit;
 
 /// The settings of text drilled as dots. Its handlers store only: the values travel with the next
 /// record that another control sends.
-class CannedTextPage : public Page {
+class CannedTextPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

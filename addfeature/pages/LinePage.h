@@ -19,7 +19,7 @@ class ZTLineEdit;
 
 /// The kind of line, and what belongs to it: the direction of drawing, the corners of a rectangle,
 /// the measures of a slot.
-class LinePage : public Page {
+class LinePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

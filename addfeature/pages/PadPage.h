@@ -14,7 +14,7 @@ class ZTLineEdit;
 }  // namespace ZENTRA
 
 /// An array of pads: the count, the pitch and a factor along each axis.
-class PadPage : public Page {
+class PadPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

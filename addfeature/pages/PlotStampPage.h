@@ -9,7 +9,7 @@ class QLabel;
 
 /// The settings of a plot stamp. Its handlers store only: the values travel with the next record
 /// that another control sends.
-class PlotStampPage : public Page {
+class PlotStampPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

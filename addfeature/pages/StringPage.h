@@ -14,7 +14,7 @@ class ZTLineEdit;
 }  // namespace ZENTRA
 
 /// The box of a character and the width of its strokes.
-class StringPage : public Page {
+class StringPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

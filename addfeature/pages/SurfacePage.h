@@ -7,7 +7,7 @@
 class QComboBox;
 
 /// The outline of the next surface.
-class SurfacePage : public Page {
+class SurfacePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

@@ -22,7 +22,7 @@ class ZTLineEdit;
 
 /// The format, the font and the text to place; the settings of each format stand on a page of
 /// their own, of which one is shown.
-class TextPage : public Page {
+class TextPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:

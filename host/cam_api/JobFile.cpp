@@ -66,6 +66,7 @@ public:
         }
         const QJsonArray array = m_value.toArray();
         std::vector<Node> nodes;
+        nodes.reserve(static_cast<size_t>(array.size()));
         for (int i = 0; i < array.size(); ++i) {
             nodes.emplace_back(array.at(i), m_place->parts[static_cast<size_t>(i)],
                                QStringLiteral("an entry of %1").arg(m_label));

@@ -62,7 +62,7 @@ QString counterpart(const QString& text, bool toMetric, int digitLimit)
 {
     const int ownDigits = precision(text);
     for (int digits = leastDigits; digits <= digitLimit; ++digits) {
-        const QString candidate = rounded(text, toMetric, digits);
+        QString candidate = rounded(text, toMetric, digits);
         if (rounded(candidate, !toMetric, ownDigits) == text &&
             counterpart(candidate, !toMetric, ownDigits - 1).isNull()) {
             return candidate;

@@ -214,7 +214,7 @@ StepAction type(const QString& name, const QString& text)
         }
         QWidget* const window = widget->window();
         if (hasText(widget)) {
-            InputEvents::key(window, Qt::CTRL + Qt::Key_A);
+            InputEvents::key(window, QKeySequence(QStringLiteral("Ctrl+A")));
         }
         if (text.isEmpty()) {
             InputEvents::key(window, Qt::Key_Delete);

@@ -23,11 +23,11 @@ int distance(const QString& from, const QString& to)
 {
     std::vector<int> row(static_cast<size_t>(to.size()) + 1);
     std::iota(row.begin(), row.end(), 0);
-    for (int i = 0; i < from.size(); ++i) {
+    for (const QChar letter : from) {
         int diagonal = row[0]++;
         for (int j = 0; j < to.size(); ++j) {
             const auto at = static_cast<size_t>(j);
-            const int changed = diagonal + (from[i].toLower() == to[j].toLower() ? 0 : 1);
+            const int changed = diagonal + (letter.toLower() == to[j].toLower() ? 0 : 1);
             diagonal = row[at + 1];
             row[at + 1] = std::min({changed, row[at] + 1, row[at + 1] + 1});
         }

@@ -144,7 +144,7 @@ Options Options::ofProgram(int argc, char* argv[], QString* error)
         }
     }
     QString help;
-    const Options options = parse(arguments, error, &help);
+    Options options = parse(arguments, error, &help);
     if (!help.isEmpty()) {
         fputs(qPrintable(help), stdout);
         ::exit(EXIT_SUCCESS);

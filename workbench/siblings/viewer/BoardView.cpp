@@ -35,18 +35,22 @@ void drawGrid(QPainter* painter, const QTransform& toView)
 {
     const QRectF board = Board::outline();
     painter->setPen(QPen(gridLine, 0));
-    for (double x = board.left(); x <= board.right(); x += gridStep) {
-        painter->drawLine(toView.map(QLineF(x, board.top(), x, board.bottom())));
+    const int columns = static_cast<int>(board.width() / gridStep);
+    const int rows = static_cast<int>(board.height() / gridStep);
+    const auto x = [&](int column) { return board.left() + column * gridStep; };
+    const auto y = [&](int row) { return board.top() + row * gridStep; };
+    for (int column = 0; column <= columns; ++column) {
+        painter->drawLine(toView.map(QLineF(x(column), board.top(), x(column), board.bottom())));
     }
-    for (double y = board.top(); y <= board.bottom(); y += gridStep) {
-        painter->drawLine(toView.map(QLineF(board.left(), y, board.right(), y)));
+    for (int row = 0; row <= rows; ++row) {
+        painter->drawLine(toView.map(QLineF(board.left(), y(row), board.right(), y(row))));
     }
     QPen dots(gridDot, 2.5);
     dots.setCapStyle(Qt::RoundCap);
     painter->setPen(dots);
-    for (double x = board.left(); x <= board.right(); x += 5 * gridStep) {
-        for (double y = board.top(); y <= board.bottom(); y += 5 * gridStep) {
-            painter->drawPoint(toView.map(QPointF(x, y)));
+    for (int column = 0; column <= columns; column += 5) {
+        for (int row = 0; row <= rows; row += 5) {
+            painter->drawPoint(toView.map(QPointF(x(column), y(row))));
         }
     }
 }
