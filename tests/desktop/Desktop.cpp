@@ -49,8 +49,8 @@ void Desktop::click(const QWidget& widget, int button, QPoint place)
 
 void Desktop::clickAt(const QPoint& globalPlace, int button)
 {
-    act({"mousemove", QString::number(globalPlace.x()), QString::number(globalPlace.y()),
-         "click", QString::number(button)});
+    act({"mousemove", QString::number(globalPlace.x()), QString::number(globalPlace.y()), "click",
+         QString::number(button)});
 }
 
 void Desktop::type(const QString& text)
