@@ -1,5 +1,5 @@
 // Renders the pictures of the resource tree from their vector sources, in both resolutions, and a
-// contact sheet of each. Usage: render_pictures RESOURCES_FOLDER DOCS_FOLDER
+// contact sheet of each. Usage: render_pictures RESOURCES_FOLDER PICTURES_FOLDER SHEETS_FOLDER
 
 #include <QDir>
 #include <QFile>
@@ -144,22 +144,24 @@ QImage contactSheet(const std::vector<Picture>& pictures, const std::vector<QIma
 int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);
-    if (argc != 3) {
-        fail(QStringLiteral("usage: render_pictures RESOURCES_FOLDER DOCS_FOLDER"));
+    if (argc != 4) {
+        fail(QStringLiteral(
+            "usage: render_pictures RESOURCES_FOLDER PICTURES_FOLDER SHEETS_FOLDER"));
     }
     const QDir resources(QString::fromLocal8Bit(argv[1]));
-    const QDir docs(QString::fromLocal8Bit(argv[2]));
+    const QDir rendered(QString::fromLocal8Bit(argv[2]));
+    const QDir sheets(QString::fromLocal8Bit(argv[3]));
     const std::vector<Picture> pictures = readTable(resources);
     for (const int scale : {1, 2}) {
         std::vector<QImage> images;
         for (const Picture& picture : pictures) {
             images.push_back(render(resources, picture, scale));
-            const QString file = resources.filePath("pictures/" + fileFor(picture, scale));
+            const QString file = rendered.filePath(fileFor(picture, scale));
             if (!images.back().save(file, nullptr, file.endsWith("jpg") ? jpegQuality : -1)) {
                 fail(file + ": cannot be written");
             }
         }
-        const QString sheet = docs.filePath(QStringLiteral("pictures-%1x.png").arg(scale));
+        const QString sheet = sheets.filePath(QStringLiteral("pictures-%1x.png").arg(scale));
         if (!contactSheet(pictures, images, scale).save(sheet)) {
             fail(sheet + ": cannot be written");
         }

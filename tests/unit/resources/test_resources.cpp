@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -123,6 +125,27 @@ private Q_SLOTS:
         QVERIFY(difference(once, twice.scaled(once.size(), Qt::IgnoreAspectRatio,
                                               Qt::SmoothTransformation)) < 12);
     }
+
+#ifdef RENDER_PROGRAM
+    void committedIsWhatTheSourcesGive()
+    {
+        const QTemporaryDir folder;
+        QCOMPARE(QProcess::execute(RENDER_PROGRAM, {RESOURCE_DIR, folder.path(), folder.path()}),
+                 0);
+        const QDir committed(RESOURCE_DIR "/pictures");
+        const QStringList files = committed.entryList(QDir::Files);
+        QStringList rendered = QDir(folder.path()).entryList(QDir::Files);
+        rendered.removeAll("pictures-1x.png");
+        rendered.removeAll("pictures-2x.png");
+        QCOMPARE(rendered, files);
+        for (const QString& file : files) {
+            const QImage now(folder.filePath(file));
+            const QImage before(committed.filePath(file));
+            QCOMPARE(now.size(), before.size());
+            QVERIFY2(difference(now, before) < 0.5, qPrintable(file));
+        }
+    }
+#endif
 
     void nothingElseIsInTheTree()
     {
