@@ -105,7 +105,7 @@ Dimensious::Selector Dimensious::addSelector(QGridLayout* grid, const QString& n
     for (QWidget* const widget : std::initializer_list<QWidget*>{select, entry, mode, modes}) {
         grid->addWidget(widget, 1, column++);
     }
-    return {select, mode, modes};
+    return {select, entry, mode, modes};
 }
 
 void Dimensious::buildDestElement()
@@ -146,6 +146,19 @@ void Dimensious::retranslateForm()
           QT_TRANSLATE_NOOP("m_pDimensions", "5")});
 }
 
+void Dimensious::retranslateNames()
+{
+    m_form->m_pFilterCMB->setAccessibleName(text(QT_TRANSLATE_NOOP("m_pDimensions", "Filter")));
+    m_form->m_pSymbolCMB->setAccessibleName(text(QT_TRANSLATE_NOOP("m_pDimensions", "Symbols")));
+    m_form->m_pOverlapCMB->setAccessibleName(text(QT_TRANSLATE_NOOP("m_pDimensions", "Overlap")));
+    m_form->m_pPrecisionCMB->setAccessibleName(
+        text(QT_TRANSLATE_NOOP("m_pDimensions", "Precision")));
+    for (const Selector& selector : qAsConst(m_selectors)) {
+        selector.entry->setAccessibleName(text(QT_TRANSLATE_NOOP("m_pDimensions", "Element")));
+        selector.modes->setAccessibleName(text(QT_TRANSLATE_NOOP("m_pDimensions", "Mode")));
+    }
+}
+
 void Dimensious::retranslateElementArea()
 {
     m_pSourceElementGB->setTitle(text(QT_TRANSLATE_NOOP("m_pDimensions", "Source Element")));
@@ -164,6 +177,7 @@ void Dimensious::retranslateElementArea()
     m_pCreateNewEleLB->setText(text(QT_TRANSLATE_NOOP("m_pDimensions", "Create New Element")));
     m_pCreateNewEleRBGroup->button(0)->setText(text(QT_TRANSLATE_NOOP("m_pDimensions", "Yes")));
     m_pCreateNewEleRBGroup->button(1)->setText(text(QT_TRANSLATE_NOOP("m_pDimensions", "No")));
+    retranslateNames();
 }
 
 void Dimensious::changeEvent(QEvent* event)

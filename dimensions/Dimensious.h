@@ -12,6 +12,7 @@ class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QVBoxLayout;
@@ -49,6 +50,7 @@ private:
     /// The controls by which one element is chosen.
     struct Selector {
         QPushButton* select;
+        QLineEdit* entry;
         QLabel* mode;
         QComboBox* modes;
     };
@@ -60,6 +62,7 @@ private:
     Selector addSelector(QGridLayout* grid, const QString& number);
     void retranslateForm();
     void retranslateElementArea();
+    void retranslateNames();
 
     std::unique_ptr<Ui::m_pDimensions> m_form;
     QWidget* m_pElementWidget = nullptr;

@@ -16,6 +16,13 @@ namespace {
 constexpr int columns = 4;
 constexpr int buttonSize = 40;
 
+/// What the pointer shows and what a screen reader says of a tool.
+void nameTool(QToolButton* button, const QString& name)
+{
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+}
+
 void applyStart(QToolButton* button, ToolTable::Start start)
 {
     if (start != ToolTable::Start::Untouched) {
@@ -52,7 +59,7 @@ void Canvas_Tool_Strip::createButtons()
         // The layout gives the others their parent when the host places it.
         auto* const tool = new QToolButton(index == 0 ? m_parent : nullptr);
         tool->setObjectName(QLatin1String(row.objectName));
-        tool->setToolTip(tr(row.tip.text, row.tip.note));
+        nameTool(tool, tr(row.tip.text, row.tip.note));
         tool->setFixedSize(buttonSize, buttonSize);
         tool->setCheckable(true);
         tool->setAutoRaise(true);  // the pictures bring their own frame
@@ -78,9 +85,9 @@ void Canvas_Tool_Strip::setText()
         const ToolTable::Tip& tip = ToolTable::row(static_cast<Tool>(index)).tip;
         if (static_cast<Tool>(index) == Tool::SelectByNet) {
             // A capital N, unlike at construction: deliberate.
-            m_buttons[index]->setToolTip(tr("Select By Net"));
+            nameTool(m_buttons[index], tr("Select By Net"));
         } else if (static_cast<Tool>(index) != Tool::Eq) {
-            m_buttons[index]->setToolTip(tr(tip.text, tip.note));
+            nameTool(m_buttons[index], tr(tip.text, tip.note));
         }
     }
     // The delete entries and "Setting" keep their texts, and "Select_Polyline" gains its

@@ -623,4 +623,215 @@
         <translation>提示</translation>
     </message>
 </context>
+<context>
+    <name>m_pDimensions</name>
+    <message>
+        <source>Dimensions Popup</source>
+        <translation>尺寸标注</translation>
+    </message>
+    <message>
+        <source>Add reference point</source>
+        <translation>添加参考点</translation>
+    </message>
+    <message>
+        <source>Ref</source>
+        <translation>参考</translation>
+    </message>
+    <message>
+        <source>Add Dimension Link</source>
+        <translation>添加尺寸链</translation>
+    </message>
+    <message>
+        <source>Dimen</source>
+        <translation>尺寸</translation>
+    </message>
+    <message>
+        <source>Edit Dimension Link</source>
+        <translation>编辑尺寸链</translation>
+    </message>
+    <message>
+        <source>E Dim</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Delete Dimension Link</source>
+        <translation>删除尺寸链</translation>
+    </message>
+    <message>
+        <source>Del..</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Connect Reference point</source>
+        <translation>连接参考点</translation>
+    </message>
+    <message>
+        <source>Con</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Erase All Dimensions</source>
+        <translation>清除所有尺寸</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Display filter</source>
+        <translation>显示过滤</translation>
+    </message>
+    <message>
+        <source>Hide DLine</source>
+        <translation>隐藏尺寸线</translation>
+    </message>
+    <message>
+        <source>H..L</source>
+        <translation>藏线</translation>
+    </message>
+    <message>
+        <source>HideDPoint</source>
+        <translation>隐藏尺寸点</translation>
+    </message>
+    <message>
+        <source>H.P.</source>
+        <translation>藏点</translation>
+    </message>
+    <message>
+        <source>Hide Dimensions Link</source>
+        <translation>隐藏尺寸链</translation>
+    </message>
+    <message>
+        <source>HLink</source>
+        <translation>藏链</translation>
+    </message>
+    <message>
+        <source>Hide Angle Dimensions</source>
+        <translation>隐藏角度尺寸</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>Hide distance indications</source>
+        <translation>隐藏距离指示</translation>
+    </message>
+    <message>
+        <source>Hid d</source>
+        <translation>藏距</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Precision	:&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;精度	:&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>过滤</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Sym</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>No sym</source>
+        <translation>无符号</translation>
+    </message>
+    <message>
+        <source>Overlap</source>
+        <translation>重叠</translation>
+    </message>
+    <message>
+        <source>Opaque</source>
+        <translation>不透明</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>Precision</source>
+        <translation>精度</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>元素</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Source Element</source>
+        <translation>源元素</translation>
+    </message>
+    <message>
+        <source>Single Source</source>
+        <translation>单一源</translation>
+    </message>
+    <message>
+        <source>Sel</source>
+        <translation>选</translation>
+    </message>
+    <message>
+        <source>sel</source>
+        <translation>选</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>模式:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Ps</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>Pe</source>
+        <translation>终点</translation>
+    </message>
+    <message>
+        <source>Dest Element</source>
+        <translation>目标元素</translation>
+    </message>
+    <message>
+        <source>Create New Element</source>
+        <translation>创建新元素</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+</context>
 </TS>

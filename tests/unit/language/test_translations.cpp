@@ -1,0 +1,172 @@
+// Every visible text in Chinese, switched while the program runs, and back.
+
+#include "DialogFixture.h"
+#include "Main.h"
+#include "dimensions/Dimensious.h"
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QTimer>
+
+namespace {
+
+/// What reads the same in every language: numbers, units, names of codes and matrices.
+bool isUniversal(const QString& text)
+{
+    static const QRegularExpression pattern(QRegularExpression::anchoredPattern(
+        "[0-9 X]*|mil|mm|\u03bcm|\"|UPC39( ascii)?|CODE128[BC]|ECC-200|EQ"));
+    return pattern.match(text).hasMatch();
+}
+
+bool isChinese(const QString& text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar c) { return c.unicode() >= 0x4e00 && c.unicode() < 0xa000; });
+}
+
+/// All texts that a widget and its children show or say, each with its place.
+QMap<QString, QString> textsOf(const QWidget& root)
+{
+    QMap<QString, QString> texts;
+    QList<const QWidget*> widgets{&root};
+    for (const QWidget* const child : root.findChildren<QWidget*>()) {
+        widgets.append(child);
+    }
+    for (const QWidget* const widget : widgets) {
+        const QString name = widget->objectName();
+        texts[name + " title"] = widget->windowTitle();
+        texts[name + " tip"] = widget->toolTip();
+        texts[name + " name"] = widget->accessibleName();
+        if (const auto* const label = qobject_cast<const QLabel*>(widget)) {
+            texts[name] = label->text();
+        } else if (const auto* const button = qobject_cast<const QAbstractButton*>(widget)) {
+            texts[name] = button->text();
+        } else if (const auto* const group = qobject_cast<const QGroupBox*>(widget)) {
+            texts[name] = group->title();
+        } else if (const auto* const combo = qobject_cast<const QComboBox*>(widget)) {
+            texts[name] = itemTexts(*combo).join('|');
+        }
+    }
+    return texts;
+}
+
+QStringList untranslated(const QMap<QString, QString>& texts)
+{
+    QStringList found;
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        for (const QString& part : text->split('|')) {
+            if (!isUniversal(part) && !isChinese(part)) {
+                found.append(text.key() + ": " + part);
+            }
+        }
+    }
+    return found;
+}
+
+/// Opens a tool's menu and leaves it.
+void openMenu(const DialogFixture& fixture, int tool)
+{
+    QTimer::singleShot(0, [] { QApplication::activePopupWidget()->close(); });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
+    QApplication::sendEvent(fixture.strip->itemAt(tool)->widget(), &event);
+}
+
+void changeLanguage(const DialogFixture& fixture)
+{
+    PluginMetaData message("Host.dll", "Canvas_Tool_Strip.dll");
+    message.code = 20002201;
+    fixture.strip->recMsgFromManager(message);
+}
+
+}  // namespace
+
+class TestTranslations : public QObject {
+    Q_OBJECT
+
+    QTranslator m_chinese;
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_chinese.load("Canvas_Tool_Strip_zh_CN", TRANSLATION_DIR)); }
+
+    void everythingAndBack()
+    {
+        DialogFixture fixture;
+        connect(fixture.strip, SIGNAL(language_changed()), fixture.dialog, SLOT(change_language()));
+        for (const int tool : {23, 24}) {
+            openMenu(fixture, tool);
+        }
+        changeLanguage(fixture);  // "Select By Net" has its capital from now on
+        const auto english = textsOf(fixture.window);
+        QVERIFY(untranslated(english).size() > 100);
+        fixture.recorder.clear();
+
+        QCoreApplication::installTranslator(&m_chinese);
+        changeLanguage(fixture);
+        const QStringList left = untranslated(textsOf(fixture.window));
+        QVERIFY2(left == QStringList{"m_pFontLE: standard"} || left.isEmpty(),
+                 qPrintable(left.join('\n')));
+        QStringList entries;
+        for (const char* const menu : {"m_pNetMenu", "m_pMarkMenu"}) {
+            for (const QAction* const action : fixture.window.findChild<QMenu*>(menu)->actions()) {
+                entries.append(action->text());
+            }
+        }
+        QCOMPARE(std::count_if(entries.begin(), entries.end(), isChinese), 5);
+        QCOMPARE(entries.last(), QString("Setting"));  // made before, and never retitled
+
+        QCoreApplication::removeTranslator(&m_chinese);
+        changeLanguage(fixture);
+        QCOMPARE(textsOf(fixture.window), english);
+        QVERIFY(fixture.recorder.messages().isEmpty());
+    }
+
+    void menusMadeInChinese()
+    {
+        QCoreApplication::installTranslator(&m_chinese);
+        DialogFixture fixture;
+        for (const int tool : {5, 23, 24}) {
+            openMenu(fixture, tool);
+        }
+        for (const QMenu* const menu : fixture.window.findChildren<QMenu*>()) {
+            for (const QAction* const action : menu->actions()) {
+                QVERIFY2(isChinese(action->text()), qPrintable(action->text()));
+            }
+        }
+        QCoreApplication::removeTranslator(&m_chinese);
+    }
+
+    void refusals()
+    {
+        QCoreApplication::installTranslator(&m_chinese);
+        DialogFixture fixture;
+        fixture.choose("m_pPadTB");
+        fixture.enter("foo");
+        fixture.find<QLineEdit>("m_pDrilDxLE").setText("100001");
+        fixture.dialog->on_m_pDrilDxLE_editingFinished();
+        const QStringList boxes = fixture.boxes.takeTexts();
+        QCOMPARE(boxes.size(), 2);
+        QVERIFY(untranslated({{"symbol", boxes[0]}, {"step", boxes[1]}}).isEmpty());
+        QVERIFY(boxes[1].endsWith("-100000 to 100000"));
+        QCoreApplication::removeTranslator(&m_chinese);
+    }
+
+    void dimensions()
+    {
+        for (int slot = 0; slot < 7; ++slot) {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("connectSlotsByName"));
+        }
+        const Dimensious popup;
+        const auto english = textsOf(popup);
+        QCoreApplication::installTranslator(&m_chinese);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(untranslated(textsOf(popup)), QStringList());
+        QCoreApplication::removeTranslator(&m_chinese);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(textsOf(popup), english);
+    }
+};
+
+CTS_MAIN(TestTranslations)
+#include "test_translations.moc"

@@ -1,0 +1,629 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>AttributePane</name>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>From Editor</source>
+        <translation>从编辑器选取</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+</context>
+<context>
+    <name>JobTreePane</name>
+    <message>
+        <source>Double-click a step to open it.</source>
+        <translation>双击打开一个步骤。</translation>
+    </message>
+    <message>
+        <source>Add Feature was not started yet.</source>
+        <translation>尚未启动添加图元。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Add Feature was started %n time(s).</source>
+        <translation><numerusform>添加图元已启动 %n 次。</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>MeasurePane</name>
+    <message>
+        <source>Measure</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Click two points on the canvas.</source>
+        <translation>请在画布上点击两个点。</translation>
+    </message>
+    <message>
+        <source>No distance yet</source>
+        <translation>尚无测量结果</translation>
+    </message>
+    <message>
+        <source>dx %1   dy %2</source>
+        <translation>dx %1   dy %2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageModel</name>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>发送方</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>接收方</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Payload</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Extra</source>
+        <translation>附加字</translation>
+    </message>
+    <message>
+        <source>Delivered</source>
+        <translation>已送达</translation>
+    </message>
+</context>
+<context>
+    <name>MessageMonitor</name>
+    <message numerus="yes">
+        <source>%n message(s)</source>
+        <translation><numerusform>%n 条消息</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 of %2 messages</source>
+        <translation>%1 / %2 条消息</translation>
+    </message>
+    <message>
+        <source>Select a message to see it in full.</source>
+        <translation>选择一条消息以查看全部内容。</translation>
+    </message>
+    <message>
+        <source>by address</source>
+        <translation>按地址</translation>
+    </message>
+    <message>
+        <source>Save Trace</source>
+        <translation>保存消息记录</translation>
+    </message>
+    <message>
+        <source>Message traces (*.jsonl);;All files (*)</source>
+        <translation>消息记录 (*.jsonl);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not saved: %2</source>
+        <translation>%1 未能保存: %2</translation>
+    </message>
+    <message>
+        <source>Filter: any text of a message</source>
+        <translation>过滤: 消息中的任意文字</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>保存...</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+</context>
+<context>
+    <name>MessageNames</name>
+    <message>
+        <source>Job and step opened</source>
+        <translation>料号和步骤已打开</translation>
+    </message>
+    <message>
+        <source>Job and step</source>
+        <translation>料号和步骤</translation>
+    </message>
+    <message>
+        <source>Job name</source>
+        <translation>料号名</translation>
+    </message>
+    <message>
+        <source>Unit changed</source>
+        <translation>单位已改变</translation>
+    </message>
+    <message>
+        <source>Language changed</source>
+        <translation>语言已改变</translation>
+    </message>
+    <message>
+        <source>Symbols picked</source>
+        <translation>已选取符号</translation>
+    </message>
+    <message>
+        <source>Attributes picked</source>
+        <translation>已选取属性</translation>
+    </message>
+    <message>
+        <source>User symbols changed</source>
+        <translation>用户符号已改变</translation>
+    </message>
+    <message>
+        <source>Release all tools</source>
+        <translation>释放所有工具</translation>
+    </message>
+    <message>
+        <source>Area zoom</source>
+        <translation>区域缩放</translation>
+    </message>
+    <message>
+        <source>Feature selection</source>
+        <translation>选择图元</translation>
+    </message>
+    <message>
+        <source>Rectangle selection</source>
+        <translation>矩形框选</translation>
+    </message>
+    <message>
+        <source>Polygon selection</source>
+        <translation>多边形框选</translation>
+    </message>
+    <message>
+        <source>Select polyline</source>
+        <translation>选择折线</translation>
+    </message>
+    <message>
+        <source>Select layer net</source>
+        <translation>选择层网络</translation>
+    </message>
+    <message>
+        <source>Select board net</source>
+        <translation>选择板网络</translation>
+    </message>
+    <message>
+        <source>Check and measure</source>
+        <translation>选中并测量</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Add feature is active</source>
+        <translation>添加图元已激活</translation>
+    </message>
+    <message>
+        <source>Add feature</source>
+        <translation>添加图元</translation>
+    </message>
+    <message>
+        <source>Delete feature</source>
+        <translation>删除图元</translation>
+    </message>
+    <message>
+        <source>Move feature</source>
+        <translation>移动图元</translation>
+    </message>
+    <message>
+        <source>Close dialogs</source>
+        <translation>关闭对话框</translation>
+    </message>
+    <message>
+        <source>No code</source>
+        <translation>无代码</translation>
+    </message>
+    <message>
+        <source>Feature selection off</source>
+        <translation>选择图元 关</translation>
+    </message>
+    <message>
+        <source>Rectangle selection off</source>
+        <translation>矩形框选 关</translation>
+    </message>
+    <message>
+        <source>Copy feature</source>
+        <translation>复制图元</translation>
+    </message>
+    <message>
+        <source>Change line angle</source>
+        <translation>改变线角度</translation>
+    </message>
+    <message>
+        <source>Stretch line</source>
+        <translation>拉伸线</translation>
+    </message>
+    <message>
+        <source>Rotate feature</source>
+        <translation>旋转图元</translation>
+    </message>
+    <message>
+        <source>Mirror feature</source>
+        <translation>镜像图元</translation>
+    </message>
+    <message>
+        <source>Invert feature</source>
+        <translation>反转图元极性</translation>
+    </message>
+    <message>
+        <source>Break line</source>
+        <translation>打断线</translation>
+    </message>
+    <message>
+        <source>Rout dimension</source>
+        <translation>锣带尺寸编辑</translation>
+    </message>
+    <message>
+        <source>Contour editor</source>
+        <translation>轮廓编辑</translation>
+    </message>
+    <message>
+        <source>Pull line</source>
+        <translation>拉线</translation>
+    </message>
+    <message>
+        <source>Move junction</source>
+        <translation>移动连接点</translation>
+    </message>
+    <message>
+        <source>Move triplet</source>
+        <translation>移动三段线</translation>
+    </message>
+    <message>
+        <source>Reroute trace</source>
+        <translation>重新布线</translation>
+    </message>
+    <message>
+        <source>Open a pop view</source>
+        <translation>打开弹出视图</translation>
+    </message>
+    <message>
+        <source>Feature highlight</source>
+        <translation>高亮图元</translation>
+    </message>
+    <message>
+        <source>Polygon selection off</source>
+        <translation>多边形框选 关</translation>
+    </message>
+    <message>
+        <source>Invert feature off</source>
+        <translation>反转图元极性 关</translation>
+    </message>
+    <message>
+        <source>Break line off</source>
+        <translation>打断线 关</translation>
+    </message>
+    <message>
+        <source>Change line angle off</source>
+        <translation>改变线角度 关</translation>
+    </message>
+    <message>
+        <source>Stretch line off</source>
+        <translation>拉伸线 关</translation>
+    </message>
+    <message>
+        <source>Rotate feature off</source>
+        <translation>旋转图元 关</translation>
+    </message>
+    <message>
+        <source>Add feature started</source>
+        <translation>添加图元已启动</translation>
+    </message>
+    <message>
+        <source>Move triplet off</source>
+        <translation>移动三段线 关</translation>
+    </message>
+    <message>
+        <source>Reroute trace off</source>
+        <translation>重新布线 关</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Mark settings</source>
+        <translation>标记设置</translation>
+    </message>
+    <message>
+        <source>Select a symbol on the board</source>
+        <translation>在板上选取符号</translation>
+    </message>
+    <message>
+        <source>Dialogs closed</source>
+        <translation>对话框已关闭</translation>
+    </message>
+    <message>
+        <source>EQ</source>
+        <translation>EQ</translation>
+    </message>
+    <message>
+        <source>Feature record</source>
+        <translation>图元记录</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Feature record (direction)</source>
+        <translation>图元记录 (方向)</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>填充</translation>
+    </message>
+    <message>
+        <source>Select attributes on the board</source>
+        <translation>在板上选取属性</translation>
+    </message>
+    <message>
+        <source>Open job and step</source>
+        <translation>打开料号和步骤</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>Filter</source>
+        <translation>过滤</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>Special Texts</source>
+        <translation>特殊文字</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>符号</translation>
+    </message>
+</context>
+<context>
+    <name>RecordTable</name>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+</context>
+<context>
+    <name>UiApi</name>
+    <message>
+        <source>The value must lie between %1 and %2.</source>
+        <translation>数值必须在 %1 和 %2 之间。</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>提示</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerPane</name>
+    <message>
+        <source>%1, %2 mil</source>
+        <translation>%1, %2 mil</translation>
+    </message>
+    <message>
+        <source>%1, %2 inch</source>
+        <translation>%1, %2 inch</translation>
+    </message>
+    <message>
+        <source>%1, %2 um</source>
+        <translation>%1, %2 μm</translation>
+    </message>
+    <message>
+        <source>%1, %2 mm</source>
+        <translation>%1, %2 mm</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1, mode %2</source>
+        <translation>%1, 模式 %2</translation>
+    </message>
+    <message>
+        <source>Tool: %1</source>
+        <translation>工具: %1</translation>
+    </message>
+    <message>
+        <source>Click a feature to take its symbol.</source>
+        <translation>点击图元以取得其符号。</translation>
+    </message>
+    <message>
+        <source>Click a feature to take its attributes.</source>
+        <translation>点击图元以取得其属性。</translation>
+    </message>
+    <message>
+        <source>Click the first point to measure from.</source>
+        <translation>点击测量的起点。</translation>
+    </message>
+    <message>
+        <source>Click the second point to measure to.</source>
+        <translation>点击测量的终点。</translation>
+    </message>
+    <message>
+        <source>Feature record (message %1)</source>
+        <translation>图元记录 (消息 %1)</translation>
+    </message>
+    <message>
+        <source>Feature record (none yet)</source>
+        <translation>图元记录 (尚无)</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+</context>
+<context>
+    <name>WorkbenchWindow</name>
+    <message>
+        <source>mil</source>
+        <translation>mil (密耳)</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>micrometre</source>
+        <translation>微米</translation>
+    </message>
+    <message>
+        <source>millimetre</source>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>Save &amp;Trace...</source>
+        <translation>保存消息记录(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture...</source>
+        <translation>保存图片(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Dimensions Popup</source>
+        <translation>尺寸标注(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Workbench</source>
+        <translation>工作台</translation>
+    </message>
+    <message>
+        <source>%1 / %2 - Workbench</source>
+        <translation>%1 / %2 - 工作台</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>料号(&amp;J)</translation>
+    </message>
+    <message>
+        <source>&amp;Step</source>
+        <translation>步骤(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Unit</source>
+        <translation>单位(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;EQ tool</source>
+        <translation>EQ 工具(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Whether the host offers the EQ tool; the strip is made anew.</source>
+        <translation>主程序是否提供 EQ 工具；工具条会重新创建。</translation>
+    </message>
+    <message>
+        <source>Edit tools</source>
+        <translation>编辑工具</translation>
+    </message>
+    <message>
+        <source>Jobs</source>
+        <translation>料号</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>工具(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Modules</source>
+        <translation>模块</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>保存图片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>图片 (*.png)</translation>
+    </message>
+    <message>
+        <source>%1 was not saved.</source>
+        <translation>%1 未能保存。</translation>
+    </message>
+</context>
+</TS>
