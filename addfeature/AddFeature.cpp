@@ -82,6 +82,7 @@ void AddFeature::buildTypeRow(QVBoxLayout* layout)
         auto* const button = new QToolButton(this);
         button->setObjectName(QLatin1String(type.objectName));
         button->setCheckable(true);
+        button->setAutoRaise(true);  // only the chosen one has a frame
         button->setIconSize({typeIconSize, typeIconSize});
         button->setIcon(
             QIcon(QStringLiteral(":/Canvas_Tool_Strip/Resources/") + QLatin1String(type.icon)));

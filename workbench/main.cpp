@@ -18,6 +18,31 @@
 
 namespace {
 
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x35, 0x38, 0x3d), QColor(0x2d, 0x30, 0x34));
+    palette.setColor(QPalette::Base, QColor(0x22, 0x24, 0x28));
+    palette.setColor(QPalette::AlternateBase, QColor(0x2a, 0x2d, 0x31));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x7d, 0xd1));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0xa0, 0xa8));
+    return palette;
+}
+
+/// The look that the options ask for, set before any window is made.
+void dress(const Options& options)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (options.isDark) {
+        QApplication::setPalette(darkPalette());
+    }
+    if (options.fontSize > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(options.fontSize);
+        QApplication::setFont(font);
+    }
+}
+
 enum ExitStatus { Good = 0, StepFailed = 1, BadInput = 2 };
 
 void complain(const QString& text)
@@ -101,8 +126,7 @@ int main(int argc, char* argv[])
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("workbench"));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-
+    dress(inputs.options);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, &application,
                      [&](const MessageRecord& message) { inputs.trace.append(message); });

@@ -35,6 +35,11 @@ const QCommandLineOption unitOption(QStringLiteral("unit"),
 const QCommandLineOption languageOption(QStringLiteral("language"),
                                         QStringLiteral("Start in <language>: en or zh_CN."),
                                         QStringLiteral("language"), QStringLiteral("en"));
+const QCommandLineOption darkOption(QStringLiteral("dark"),
+                                    QStringLiteral("Start with a dark palette."));
+const QCommandLineOption fontSizeOption(QStringLiteral("font-size"),
+                                        QStringLiteral("Start with a font of <points> (6 to 48)."),
+                                        QStringLiteral("points"));
 
 QString besideProgram(const QString& path)
 {
@@ -68,6 +73,22 @@ const Choice* choose(const std::vector<Choice>& choices, const char* Choice::*ke
     return nullptr;
 }
 
+void readFontSize(const QCommandLineParser& parser, Options* options, QString* error)
+{
+    constexpr int smallest = 6;
+    constexpr int largest = 48;
+    if (!parser.isSet(fontSizeOption)) {
+        return;
+    }
+    options->fontSize = parser.value(fontSizeOption).toInt();
+    if (options->fontSize < smallest || options->fontSize > largest) {
+        *error = QStringLiteral("\"%1\" is no font size; it is %2 to %3")
+                     .arg(parser.value(fontSizeOption))
+                     .arg(smallest)
+                     .arg(largest);
+    }
+}
+
 }  // namespace
 
 const std::vector<UnitChoice>& unitChoices()
@@ -93,7 +114,7 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     parser.setApplicationDescription(
         QStringLiteral("A small host application for the Canvas Tool Strip."));
     parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
-                       exitOption, unitOption, languageOption});
+                       exitOption, unitOption, languageOption, darkOption, fontSizeOption});
     const QCommandLineOption helpOption = parser.addHelpOption();
     Options options;
     if (!parser.parse(arguments)) {
@@ -120,6 +141,8 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     options.sessionFile = parser.value(playOption);
     options.exit = parser.isSet(exitOption);
     options.language = parser.value(languageOption);
+    options.isDark = parser.isSet(darkOption);
+    readFontSize(parser, &options, error);
     choose(languageChoices(), &LanguageChoice::code, languageOption, options.language, error);
     if (const UnitChoice* const choice =
             choose(unitChoices(), &UnitChoice::name, unitOption, parser.value(unitOption), error)) {

@@ -31,6 +31,8 @@ struct Options {
     bool exit = false;       ///< leave after playing, or after the first paint
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
     QString language = QStringLiteral("en");
+    bool isDark = false;
+    int fontSize = 0;  ///< in points; 0: as the desktop has it
 
     /// The options of the program, read before there is an application object; those of Qt itself
     /// (a single dash and a value) are passed over. A wrong one fills `error` with one line; with

@@ -115,6 +115,7 @@ private Q_SLOTS:
         QTest::newRow("no value") << QStringList("--job") << "job";
         QTest::newRow("unit") << QStringList{"--unit", "foot"} << "foot";
         QTest::newRow("language") << QStringList{"--language", "fr"} << "fr";
+        QTest::newRow("font size") << QStringList{"--font-size", "3"} << "3";
         QTest::newRow("extra") << QStringList("extra") << "extra";
     }
 
