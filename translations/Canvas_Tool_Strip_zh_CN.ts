@@ -309,27 +309,27 @@
     </message>
     <message>
         <source>Nx   : </source>
-        <translation>X 个数 : </translation>
+        <translation>X个数: </translation>
     </message>
     <message>
         <source>Dx   : </source>
-        <translation>X 间距 : </translation>
+        <translation>X间距: </translation>
     </message>
     <message>
         <source>Xscl : </source>
-        <translation>X 比例 : </translation>
+        <translation>X比例: </translation>
     </message>
     <message>
         <source>Ny   : </source>
-        <translation>Y 个数 : </translation>
+        <translation>Y个数: </translation>
     </message>
     <message>
         <source>Dy   : </source>
-        <translation>Y 间距 : </translation>
+        <translation>Y间距: </translation>
     </message>
     <message>
         <source>Yscl : </source>
-        <translation>Y 比例 : </translation>
+        <translation>Y比例: </translation>
     </message>
     <message>
         <source>String</source>

@@ -156,6 +156,7 @@ QLayout* LinePage::createDirectionRow()
 {
     m_directions = new QButtonGroup(this);
     auto* row = new QHBoxLayout;
+    row->setSpacing(0);  // six of them just fit
     int id = 0;
     for (const Direction& direction : directions) {
         auto* button = new QRadioButton(m_directionGroup);

@@ -36,6 +36,7 @@ const Choices formats = {
 constexpr int specialTextList = 16;
 constexpr int fontList = 17;
 
+constexpr int shownCharacters = 6;
 const QString standardFont = QStringLiteral("standard");
 const char textPattern[] = "^[A-Za-z0-9`~!@#$%^&*()\\-_=+<>,./ ]{0,}$";
 
@@ -55,6 +56,11 @@ TextPage::TextPage(PageHost& host, QWidget* parent)
     fillChoices(m_format, formats);
     m_barcodeType->setObjectName(QStringLiteral("m_pUPCCMB"));
     m_barcodeType->setEnabled(false);
+    // Beside each other they cannot both be as wide as their longest items.
+    for (QComboBox* const combo : {m_format, m_barcodeType}) {
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        combo->setMinimumContentsLength(shownCharacters);
+    }
 
     createSubPages();
     createFields();
