@@ -93,7 +93,6 @@ SymbolEntry::SymbolEntry(SymbolHost& host, QObject* slotOwner, QWidget* parent)
     row->addWidget(m_pSelectFromEditorPB);
     // The field, made with another parent, arrived last.
     setTabOrder(m_pSymbolPB, m_pSymbolTextLE);
-    setTabOrder(m_pSymbolTextLE, m_pSelectFromEditorPB);
     retranslate();
 
     connect(m_pSelectFromEditorPB, SIGNAL(clicked()), slotOwner,

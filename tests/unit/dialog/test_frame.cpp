@@ -218,7 +218,7 @@ private Q_SLOTS:
             const QByteArray type = widget->metaObject()->className();
             const bool isQtsOwn = widget->objectName().startsWith("qt_") ||
                                   type.startsWith("QComboBoxPrivate") ||
-                                  type == "QComboBoxListView" || type == "QSizeGrip";
+                                  type == "QComboBoxListView" || type == "QScrollBar";
             QVERIFY2(isQtsOwn || !widget->objectName().isEmpty(), type.constData());
         }
     }
