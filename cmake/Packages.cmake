@@ -1,0 +1,28 @@
+# Two Debian packages: the module, and the workbench with the stand-ins of the host's libraries.
+# Made by: cpack --config build/release/CPackConfig.cmake -B build/packages
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME canvas-tool-strip)
+set(CPACK_PACKAGE_VENDOR "Canvas Tool Strip")
+set(CPACK_PACKAGE_CONTACT "Canvas Tool Strip developers <developers@canvas-tool-strip.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Edit toolbar of a desktop CAM editor for printed-circuit boards")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_ALL module workbench host)
+set(CPACK_COMPONENT_HOST_GROUP workbench)
+set(CPACK_COMPONENT_WORKBENCH_GROUP workbench)
+set(CPACK_COMPONENT_MODULE_GROUP module)
+set(CPACK_COMPONENT_GROUP_WORKBENCH_DESCRIPTION
+    "A small host that shows the edit toolbar at work, with a message monitor and sessions.")
+set(CPACK_COMPONENT_GROUP_MODULE_DESCRIPTION "The edit toolbar plug-in, to be loaded by a host.")
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
+set(CPACK_DEBIAN_MODULE_PACKAGE_NAME canvas-tool-strip)
+set(CPACK_DEBIAN_MODULE_PACKAGE_DEPENDS "libqt5widgets5 (>= 5.15), libgoogle-glog0v6")
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_NAME canvas-tool-strip-workbench)
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS
+    "canvas-tool-strip (= ${PROJECT_VERSION}), libqt5widgets5 (>= 5.15)")
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_RECOMMENDS "fonts-wqy-microhei")
+include(CPack)
