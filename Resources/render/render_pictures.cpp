@@ -118,7 +118,7 @@ QImage contactSheet(const std::vector<Picture>& pictures, const std::vector<QIma
                     int scale)
 {
     constexpr int columns = 6;
-    constexpr int width = 150;
+    constexpr int width = 170;  // the longest name fits
     constexpr int height = 72;
     const int rows = (int(pictures.size()) + columns - 1) / columns;
     QImage sheet(columns * width * scale, rows * height * scale, QImage::Format_RGB32);

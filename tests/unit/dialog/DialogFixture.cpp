@@ -121,6 +121,9 @@ QVariantMap DialogFixture::record()
     // Code 52 carries the record whatever the symbol field says.
     const int before = recorder.messages().size();
     QMetaObject::invokeMethod(dialog, "on_m_pAngleLE_editingFinished");
+    if (recorder.messages().size() == before) {
+        qFatal("the fixed angle is one that is refused: no record to see");
+    }
     const QVariantMap record = recorder.messages().last().message.payload;
     recorder.truncate(before);
     return record;

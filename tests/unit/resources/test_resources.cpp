@@ -1,73 +1,60 @@
 // The compiled-in pictures: every name that style sheets and icons ask for.
 
+#include "../toolbar/StripFixture.h"
 #include "Main.h"
 
 #include <QDir>
 #include <QImage>
+#include <QImageReader>
 #include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
 
-const char* const tools[] = {
-    "Area zoom2.jpg",
-    "Area zoom3.jpg",
-    "Open a popview-1.jpg",
-    "Open a popview-2.jpg",
-    "ruler.jpg",
-    "ruler1.jpg",
-    "Feature highlight-2.jpg",
-    "Feature highlight-3.jpg",
-    "Add Feature.jpg",
-    "Add Feature1.jpg",
-    "delete1-gry.jpg",
-    "delete1-gre.jpg",
-    "delete2-gry.jpg",
-    "delete2-gre.jpg",
-    "Move Feature-1.jpg",
-    "Move Feature-2.jpg",
-    "Copy feature-1.jpg",
-    "Copy feature-2.jpg",
-    "Change line angle1.jpg",
-    "Change line angle2.jpg",
-    "Stretch line3.jpg",
-    "Stretch line4.jpg",
-    "Rotate feature-grey.jpg",
-    "Mirror feature-grey.jpg",
-    "Invert feature-3.jpg",
-    "Invert feature-4.jpg",
-    "Break line1.jpg",
-    "Break line2.jpg",
-    "Rout dimension editor-grey.jpg",
-    "Contour editor-grey.jpg",
-    "Pull line-grey.jpg",
-    "Move junction-grey.jpg",
-    "Move triplet1.jpg",
-    "Move triplet2.jpg",
-    "ReRoute trace1.jpg",
-    "ReRoute trace2.jpg",
-    "Feature selection1.jpg",
-    "Feature selection2.jpg",
-    "Frame selection2.jpg",
-    "Frame selection3.jpg",
-    "Polygon selection2.jpg",
-    "Polygon selection3.jpg",
-    "Net selection1.jpg",
-    "Net selection2.jpg",
-    "Net selection3.jpg",
-    "Net selection4.jpg",
-    "Net selection5.jpg",
-    "Net selection6.jpg",
-    "markgry.png",
-    "markgre.png",
-    "xie_grey.png",
-    "xie_green.png",
-    "EQ-1.jpg",
-    "EQ-2.jpg",
+struct Pair {
+    const char* file;
+    const char* checkedFile;
 };
-const char* const icons[] = {
-    "Line1.jpg", "Pad1.jpg", "Surf1.jpg", "Arc1.jpg", "Text1.jpg",  "add_fea.jpg",
-    "Free1.jpg", "Ver1.jpg", "Hori1.jpg", "VH1.jpg",  "8 Dir1.jpg", "Fixed1.jpg",
+const Pair tools[] = {
+    {"Area zoom2.jpg", "Area zoom3.jpg"},
+    {"Open a popview-1.jpg", "Open a popview-2.jpg"},
+    {"ruler.jpg", "ruler1.jpg"},
+    {"Feature highlight-2.jpg", "Feature highlight-3.jpg"},
+    {"Add Feature.jpg", "Add Feature1.jpg"},
+    {"delete1-gry.jpg", "delete1-gre.jpg"},
+    {"delete2-gry.jpg", "delete2-gre.jpg"},
+    {"Move Feature-1.jpg", "Move Feature-2.jpg"},
+    {"Copy feature-1.jpg", "Copy feature-2.jpg"},
+    {"Change line angle1.jpg", "Change line angle2.jpg"},
+    {"Stretch line3.jpg", "Stretch line4.jpg"},
+    {"Invert feature-3.jpg", "Invert feature-4.jpg"},
+    {"Break line1.jpg", "Break line2.jpg"},
+    {"Move triplet1.jpg", "Move triplet2.jpg"},
+    {"ReRoute trace1.jpg", "ReRoute trace2.jpg"},
+    {"Feature selection1.jpg", "Feature selection2.jpg"},
+    {"Frame selection2.jpg", "Frame selection3.jpg"},
+    {"Polygon selection2.jpg", "Polygon selection3.jpg"},
+    {"Net selection2.jpg", "Net selection1.jpg"},
+    {"Net selection4.jpg", "Net selection3.jpg"},
+    {"Net selection6.jpg", "Net selection5.jpg"},
+    {"markgry.png", "markgre.png"},
+    {"xie_grey.png", "xie_green.png"},
+    {"EQ-1.jpg", "EQ-2.jpg"},
+};
+const char* const disabledTools[] = {
+    "Rotate feature-grey.jpg", "Mirror feature-grey.jpg", "Rout dimension editor-grey.jpg",
+    "Contour editor-grey.jpg", "Pull line-grey.jpg",      "Move junction-grey.jpg",
+};
+constexpr int toolSize = 40;
+
+struct Icon {
+    const char* file;
+    int size;
+};
+const Icon icons[] = {
+    {"Line1.jpg", 32}, {"Pad1.jpg", 32},   {"Surf1.jpg", 32},  {"Arc1.jpg", 32},
+    {"Text1.jpg", 32}, {"Free1.jpg", 24},  {"Ver1.jpg", 24},   {"Hori1.jpg", 24},
+    {"VH1.jpg", 24},   {"8 Dir1.jpg", 24}, {"Fixed1.jpg", 24}, {"add_fea.jpg", 25},
 };
 
 const QString prefix = QStringLiteral(":/Canvas_Tool_Strip/Resources/");
@@ -75,6 +62,25 @@ const QString prefix = QStringLiteral(":/Canvas_Tool_Strip/Resources/");
 QString doubled(QString file)
 {
     return file.insert(file.lastIndexOf('.'), QStringLiteral("@2x"));
+}
+
+QStringList toolFiles()
+{
+    QStringList files;
+    for (const Pair& tool : tools) {
+        files << tool.file << tool.checkedFile;
+    }
+    for (const char* const file : disabledTools) {
+        files << file;
+    }
+    return files;
+}
+
+QByteArray formatOf(const QString& path)
+{
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    return reader.format();
 }
 
 /// In levels of a colour, on average.
@@ -92,7 +98,46 @@ double difference(const QImage& a, const QImage& b)
     return sum / (a.width() * a.height() * 3);
 }
 
+/// The rows that are dark from one side of what a button shows to the other.
+int darkRows(const QImage& picture)
+{
+    int rows = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        bool isDark = true;
+        for (int x = 1; x < 35; ++x) {
+            isDark = isDark && qGray(picture.pixel(x, y)) < 128;
+        }
+        rows += isDark ? 1 : 0;
+    }
+    return rows;
+}
+
+/// The tool picture that a button shows: the nearest, if one is near. The frame around it depends
+/// on style and state.
+QString shownBy(QToolButton* button)
+{
+    const QImage shown = button->grab().toImage();
+    QString nearest;
+    double least = 8;
+    for (const QString& file : toolFiles()) {
+        const QImage inside = QImage(prefix + file).copy(3, 3, 30, 30);
+        for (int frame = 0; frame <= 3; ++frame) {
+            const double distance = difference(shown.copy(frame + 3, frame + 3, 30, 30), inside);
+            if (distance < least) {
+                least = distance;
+                nearest = file;
+            }
+        }
+    }
+    return nearest;
+}
+
+/// A slot of the strip that chooses a tool's variant.
+using Choice = void (Canvas_Tool_Strip::*)();
+
 }  // namespace
+
+Q_DECLARE_METATYPE(Choice)
 
 class TestResources : public QObject {
     Q_OBJECT
@@ -100,26 +145,26 @@ class TestResources : public QObject {
 private Q_SLOTS:
     void picture_data()
     {
-        QTest::addColumn<bool>("isTool");
-        for (const char* const file : tools) {
-            QTest::newRow(file) << true;
+        QTest::addColumn<int>("size");
+        for (const QString& file : toolFiles()) {
+            QTest::newRow(qPrintable(file)) << toolSize;
         }
-        for (const char* const file : icons) {
-            QTest::newRow(file) << false;
+        for (const Icon& icon : icons) {
+            QTest::newRow(icon.file) << icon.size;
         }
     }
 
     void picture()
     {
-        QFETCH(bool, isTool);
+        QFETCH(int, size);
         const QString file = QTest::currentDataTag();
         const QImage once(prefix + file);
         const QImage twice(prefix + doubled(file));
         QVERIFY(!once.isNull() && !twice.isNull());
-        if (isTool) {
-            QCOMPARE(once.size(), QSize(40, 40));
-        }
-        QCOMPARE(once.width(), once.height());
+        const QByteArray format = file.endsWith(".png") ? "png" : "jpeg";
+        QCOMPARE(formatOf(prefix + file), format);
+        QCOMPARE(formatOf(prefix + doubled(file)), format);
+        QCOMPARE(once.size(), QSize(size, size));
         QCOMPARE(twice.size(), once.size() * 2);
         // The larger one shows the same.
         QVERIFY(difference(once, twice.scaled(once.size(), Qt::IgnoreAspectRatio,
@@ -149,20 +194,88 @@ private Q_SLOTS:
 
     void nothingElseIsInTheTree()
     {
-        const int pictures = int(std::size(tools) + std::size(icons));
+        const int pictures = toolFiles().size() + int(std::size(icons));
         QCOMPARE(QDir(prefix).entryList(QDir::Files).size(), 2 * pictures);
     }
 
-    void toolsAreDistinct()
+    void picturesAreDistinct()
     {
-        for (const char* const one : tools) {
-            for (const char* const other : tools) {
-                if (one != other) {
-                    QVERIFY2(difference(QImage(prefix + one), QImage(prefix + other)) > 3,
-                             qPrintable(QString(one) + ", " + other));
+        QStringList files = toolFiles();
+        for (const Icon& icon : icons) {
+            files << icon.file;
+        }
+        for (const QString& one : files) {
+            for (const QString& other : files) {
+                const QImage a(prefix + one);
+                const QImage b(prefix + other);
+                if (one != other && a.size() == b.size()) {
+                    QVERIFY2(difference(a, b) > 3, qPrintable(one + ", " + other));
                 }
             }
         }
+    }
+
+    void checkedIsToldWithoutColour()
+    {
+        for (const Pair& tool : tools) {
+            QCOMPARE(darkRows(QImage(prefix + tool.file)), 0);
+            QVERIFY2(darkRows(QImage(prefix + tool.checkedFile)) >= 4, tool.checkedFile);
+        }
+        for (const char* const file : disabledTools) {
+            QCOMPARE(darkRows(QImage(prefix + file)), 0);
+        }
+    }
+
+    void disabledIsGrey()
+    {
+        for (const char* const file : disabledTools) {
+            const QImage picture(prefix + file);
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    const QColor colour = picture.pixelColor(x, y);
+                    QVERIFY2(qAbs(colour.red() - colour.blue()) < 32 && colour.lightness() > 128,
+                             file);
+                }
+            }
+        }
+    }
+
+    void variantShows_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<Choice>("choose");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("checkedFile");
+        using Strip = Canvas_Tool_Strip;
+        const auto row = [](int button, Choice choose, const char* file, const char* checkedFile) {
+            QTest::newRow(file) << button << choose << QString(file) << QString(checkedFile);
+        };
+        row(5, &Strip::on_m_delete_feature_clicked, "delete1-gry.jpg", "delete1-gre.jpg");
+        row(5, &Strip::on_m_delete_to_intersection_clicked, "delete2-gry.jpg", "delete2-gre.jpg");
+        row(23, &Strip::On_Select_polyline_triggered, "Net selection2.jpg", "Net selection1.jpg");
+        row(23, &Strip::On_pSelect_board_net_triggered, "Net selection4.jpg", "Net selection3.jpg");
+        row(23, &Strip::On_pSelect_layer_net_triggered, "Net selection6.jpg", "Net selection5.jpg");
+        row(24, &Strip::on_m_mark_horizontalandvertical_clicked, "markgry.png", "markgre.png");
+        row(24, &Strip::on_m_mark_point2point_clicked, "xie_grey.png", "xie_green.png");
+    }
+
+    void variantShows()
+    {
+        QFETCH(int, button);
+        QFETCH(Choice, choose);
+        QFETCH(QString, file);
+        QFETCH(QString, checkedFile);
+        StripFixture fixture;
+        fixture.panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fixture.panel));
+        // From another variant, so that the start state does not pass for the choice.
+        fixture.strip->On_pSelect_layer_net_triggered();
+        fixture.strip->on_m_mark_point2point_clicked();
+        fixture.strip->on_m_delete_to_intersection_clicked();
+        (fixture.strip->*choose)();
+        QCOMPARE(shownBy(fixture.button(button)), checkedFile);
+        QTest::mouseClick(fixture.button(0), Qt::LeftButton);
+        QCOMPARE(shownBy(fixture.button(button)), file);
     }
 };
 
