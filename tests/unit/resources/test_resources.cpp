@@ -192,10 +192,18 @@ private Q_SLOTS:
     }
 #endif
 
-    void nothingElseIsInTheTree()
+    void treeHoldsEachFileUnderItsOwnName()
     {
-        const int pictures = toolFiles().size() + int(std::size(icons));
-        QCOMPARE(QDir(prefix).entryList(QDir::Files).size(), 2 * pictures);
+        const QDir committed(RESOURCE_DIR "/pictures");
+        const QStringList files = QDir(prefix).entryList(QDir::Files);
+        QCOMPARE(files.size(), 2 * (toolFiles().size() + int(std::size(icons))));
+        QCOMPARE(files, committed.entryList(QDir::Files));
+        for (const QString& file : files) {
+            QFile compiled(prefix + file);
+            QFile source(committed.filePath(file));
+            QVERIFY(compiled.open(QIODevice::ReadOnly) && source.open(QIODevice::ReadOnly));
+            QVERIFY2(compiled.readAll() == source.readAll(), qPrintable(file));
+        }
     }
 
     void picturesAreDistinct()
