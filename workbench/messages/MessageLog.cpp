@@ -1,20 +1,31 @@
 #include "messages/MessageLog.h"
 
+#include "messages/Values.h"
+
 #include <QSaveFile>
 
 MessageLog::MessageLog(QObject* parent) : QObject(parent)
 {
-    CanvasHost::setObserver([this](const CanvasHost::Transfer& transfer) {
-        m_messages.push_back(MessageRecord::of(transfer));
-        // A copy: a slot may clear the log.
-        const MessageRecord message = m_messages.back();
-        Q_EMIT appended(message);
-    });
+    CanvasHost::setObserver(
+        [this](const CanvasHost::Transfer& transfer) { append(MessageRecord::of(transfer)); });
 }
 
 MessageLog::~MessageLog()
 {
     CanvasHost::setObserver({});
+}
+
+// By value: a slot may clear the log.
+void MessageLog::append(MessageRecord message)
+{
+    if (message.isFeatureRecord()) {
+        if (!m_lastRecord.isEmpty()) {
+            message.changed = Values::changedKeys(m_lastRecord, message.payload);
+        }
+        m_lastRecord = message.payload;
+    }
+    m_messages.push_back(message);
+    Q_EMIT appended(message);
 }
 
 void MessageLog::clear()

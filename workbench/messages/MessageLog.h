@@ -16,6 +16,7 @@ public:
     ~MessageLog() override;
 
     const std::vector<MessageRecord>& messages() const { return m_messages; }
+    /// The next feature record is still compared with the one that went before.
     void clear();
     /// Writes all messages as a trace. On failure `error` holds the reason.
     bool save(const QString& file, QString* error) const;
@@ -25,5 +26,8 @@ Q_SIGNALS:
     void cleared();
 
 private:
+    void append(MessageRecord message);
+
     std::vector<MessageRecord> m_messages;
+    QMap<QString, QVariant> m_lastRecord;  ///< the feature record that was sent last
 };

@@ -3,7 +3,7 @@
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
-#include "messages/Values.h"
+#include "messages/RecordTable.h"
 
 #include <QEvent>
 #include <QFileDialog>
@@ -17,7 +17,6 @@
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTableView>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace {
@@ -81,11 +80,12 @@ QWidget* MessageMonitor::createTable()
     m_pMonitorTV->setModel(m_filtered);
     prepareTable(m_pMonitorTV);
     const int character = fontMetrics().averageCharWidth();
-    const int widths[MessageModel::ColumnCount] = {15, 23, 23, 12, 26, 44, 20, 10};
+    const int widths[MessageModel::ColumnCount] = {15, 23, 23, 12, 24, 44, 14, 11};
     for (int column = 0; column < MessageModel::ColumnCount; ++column) {
         m_pMonitorTV->setColumnWidth(column, widths[column] * character);
     }
-    m_pMonitorTV->horizontalHeader()->setStretchLastSection(true);
+    m_pMonitorTV->horizontalHeader()->setSectionResizeMode(MessageModel::Payload,
+                                                           QHeaderView::Stretch);
     auto* const row = new QHBoxLayout;
     row->addWidget(m_pMonitorFilterLE, 1);
     row->addWidget(m_pMonitorCountLB);
@@ -105,14 +105,12 @@ QWidget* MessageMonitor::createDetail()
     m_pMessageLB = named(new QLabel(side), "m_pMessageLB");
     m_pMessageLB->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_pMessageLB->setMinimumHeight(m_pMonitorFilterLE->sizeHint().height());
-    m_pMessageTW = named(new QTableWidget(0, 3, side), "m_pMessageTW");
-    prepareTable(m_pMessageTW);
-    m_pMessageTW->horizontalHeader()->setStretchLastSection(true);
+    m_pMessageTW = new RecordTable("m_pMessageTW", side);
     auto* const layout = new QVBoxLayout(side);
     layout->setContentsMargins(6, 0, 0, 0);
     layout->addWidget(m_pMessageLB);
     layout->addWidget(m_pMessageTW);
-    side->setMinimumWidth(220);
+    side->setMinimumWidth(260);
     return side;
 }
 
@@ -129,6 +127,9 @@ void MessageMonitor::connectAll()
     connect(m_filtered, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
         const QScrollBar* const bar = m_pMonitorTV->verticalScrollBar();
         m_follow = bar->value() == bar->maximum();
+        const QModelIndex current = m_pMonitorTV->currentIndex();
+        m_selectNewest =
+            m_follow && (!current.isValid() || current.row() == m_filtered->rowCount() - 1);
     });
     connect(m_filtered, &QAbstractItemModel::rowsInserted, this, &MessageMonitor::followNewest);
     connect(m_filtered, &QAbstractItemModel::modelReset, this, [this] {
@@ -140,6 +141,9 @@ void MessageMonitor::connectAll()
 void MessageMonitor::followNewest()
 {
     showCount();
+    if (m_selectNewest) {
+        m_pMonitorTV->selectRow(m_filtered->rowCount() - 1);
+    }
     if (m_follow) {
         m_pMonitorTV->scrollToBottom();
     }
@@ -156,8 +160,8 @@ void MessageMonitor::showCount()
 void MessageMonitor::showSelected()
 {
     const QModelIndex current = m_pMonitorTV->currentIndex();
-    m_pMessageTW->setRowCount(0);
     if (!current.isValid()) {
+        m_pMessageTW->showRows({});
         m_pMessageLB->setText(tr("Select a message to see it in full."));
         return;
     }
@@ -165,19 +169,11 @@ void MessageMonitor::showSelected()
     m_pMessageLB->setText(QStringLiteral("<b>%1</b> %2")
                               .arg(message.code)
                               .arg(MessageNames::text(message.receiver, message.code)));
-    const auto add = [this](const QString& key, const QString& value, const QString& type) {
-        const int row = m_pMessageTW->rowCount();
-        m_pMessageTW->insertRow(row);
-        m_pMessageTW->setItem(row, 0, new QTableWidgetItem(key));
-        m_pMessageTW->setItem(row, 1, new QTableWidgetItem(value));
-        m_pMessageTW->setItem(row, 2, new QTableWidgetItem(type));
-    };
-    for (auto entry = message.payload.begin(); entry != message.payload.end(); ++entry) {
-        add(entry.key(), entry.value().toString(), Values::typeName(entry.value()));
-    }
+    auto rows = RecordTable::rowsOf(message.payload, message.changed);
     for (auto entry = message.pointedAt.begin(); entry != message.pointedAt.end(); ++entry) {
-        add(entry.key(), entry.value(), tr("by address"));
+        rows.append({entry.key(), entry.value(), tr("by address")});
     }
+    m_pMessageTW->showRows(rows);
 }
 
 void MessageMonitor::saveTrace()

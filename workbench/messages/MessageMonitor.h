@@ -9,7 +9,7 @@ class QLineEdit;
 class QPushButton;
 class QSortFilterProxyModel;
 class QTableView;
-class QTableWidget;
+class RecordTable;
 
 /// Shows the messages of a log: a table with a filter, and the selected message in full.
 class MessageMonitor : public QWidget {
@@ -43,6 +43,7 @@ private:
     QPushButton* m_pMonitorClearPB;
     QPushButton* m_pMonitorSavePB;
     QLabel* m_pMessageLB;
-    QTableWidget* m_pMessageTW;
-    bool m_follow = true;  ///< the newest message was in sight before the last one came
+    RecordTable* m_pMessageTW;
+    bool m_follow = true;        ///< the newest message was in sight before the last one came
+    bool m_selectNewest = true;  ///< ... and was selected, or none was
 };

@@ -136,7 +136,12 @@ QString name(const QString& receiver, int code)
 QString text(const QString& receiver, int code)
 {
     const Row* const row = find(receiver, code);
-    return row ? QCoreApplication::translate("MessageNames", row->text) : QString();
+    return row ? text(*row) : QString();
+}
+
+QString text(const Row& row)
+{
+    return QCoreApplication::translate("MessageNames", row.text);
 }
 
 }  // namespace MessageNames

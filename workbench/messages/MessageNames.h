@@ -29,5 +29,6 @@ const Row* find(const QString& receiver, int code);
 QString name(const QString& receiver, int code);
 /// In the user's language; empty for a code that is not known.
 QString text(const QString& receiver, int code);
+QString text(const Row& row);
 
 }  // namespace MessageNames

@@ -2,6 +2,8 @@
 
 #include "messages/MessageNames.h"
 #include "messages/Values.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -97,13 +99,22 @@ bool MessageRecord::hasAddress() const
     return extra != 0 && extraOf(receiver, code) != Extra::Number;
 }
 
+bool MessageRecord::isFeatureRecord() const
+{
+    return receiver == ModuleNames::viewer &&
+           (code == MessageCodes::Sent::Record || code == MessageCodes::Sent::DirectionRecord);
+}
+
 QString MessageRecord::summary() const
 {
-    QMap<QString, QString> texts;
+    QMap<QString, QString> first;
+    QMap<QString, QString> rest;
     for (auto entry = payload.begin(); entry != payload.end(); ++entry) {
+        QMap<QString, QString>& texts = changed.contains(entry.key()) ? first : rest;
         texts.insert(entry.key(), entry.value().toString());
     }
-    return pairs(texts);
+    const QString separator = first.isEmpty() || rest.isEmpty() ? QString() : QStringLiteral(", ");
+    return pairs(first) + separator + pairs(rest);
 }
 
 QString MessageRecord::extraText() const

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 /// One message as it was sent: everything is copied, also what its extra word pointed at.
@@ -20,6 +21,8 @@ struct MessageRecord {
     /// What the extra word pointed at: names and values (the number of a symbol is its name), or a
     /// single value under the empty name.
     QMap<QString, QString> pointedAt;
+    /// Of a feature record: the keys that changed since the one before, in the order of the keys.
+    QStringList changed;
 
     /// Reads a transfer while it is on its way.
     static MessageRecord of(const CanvasHost::Transfer& transfer);
@@ -28,7 +31,9 @@ struct MessageRecord {
     QString name() const;
     /// Whether the extra word is an address.
     bool hasAddress() const;
-    /// The payload on one line.
+    /// Whether the payload is the whole feature parameter record.
+    bool isFeatureRecord() const;
+    /// The payload on one line, what changed first.
     QString summary() const;
     /// The extra word as shown to people: a number, or what stands at the address.
     QString extraText() const;

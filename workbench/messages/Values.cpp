@@ -30,4 +30,17 @@ QJsonValue toJson(const QVariant& value)
     return json.isNull() && value.isValid() ? QJsonValue(value.toString()) : json;
 }
 
+QStringList changedKeys(const QMap<QString, QVariant>& before, const QMap<QString, QVariant>& after)
+{
+    QStringList keys;
+    for (auto entry = after.begin(); entry != after.end(); ++entry) {
+        const QVariant old = before.value(entry.key());
+        // QVariant compares texts and numbers by value; the type counts here as well.
+        if (old.userType() != entry.value().userType() || old != entry.value()) {
+            keys.append(entry.key());
+        }
+    }
+    return keys;
+}
+
 }  // namespace Values

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QJsonValue>
+#include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 /// Values of a payload, for people and for the trace.
@@ -11,5 +13,9 @@ namespace Values {
 QString typeName(const QVariant& value);
 /// The value as a JSON value of its own kind; text for a kind that JSON does not have.
 QJsonValue toJson(const QVariant& value);
+
+/// The keys of `after` that `before` does not have, or has with another value or type.
+QStringList changedKeys(const QMap<QString, QVariant>& before,
+                        const QMap<QString, QVariant>& after);
 
 }  // namespace Values

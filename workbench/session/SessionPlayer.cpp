@@ -6,8 +6,7 @@
 
 namespace {
 
-constexpr int tickTime = 15;    // milliseconds
-constexpr int patience = 3000;  // milliseconds for a widget to appear
+constexpr int tickTime = 15;  // milliseconds
 
 bool innerLoop()
 {
@@ -113,7 +112,7 @@ void SessionPlayer::tryToFinish()
 
 bool SessionPlayer::waitedTooLong() const
 {
-    return m_waiting.elapsed() > m_pause + patience;
+    return m_waiting.elapsed() > m_pause + m_patience;
 }
 
 QString SessionPlayer::at(const QString& text) const

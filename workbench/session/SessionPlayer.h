@@ -19,6 +19,8 @@ public:
     SessionPlayer(const Session& session, HostState* host, QWidget* window,
                   QObject* parent = nullptr);
 
+    /// How long a step waits for what it needs; 3000 unless set.
+    void setPatience(int milliseconds) { m_patience = milliseconds; }
     void start();
 
 Q_SIGNALS:
@@ -49,8 +51,9 @@ private:
     BoxAnswers m_boxes;
     StepContext m_context;
     QElapsedTimer m_waiting;  ///< since the next action is due
-    int m_pause = 0;          ///< milliseconds before the next action
-    int m_line = 0;           ///< of the action that was started last
-    int m_running = 0;        ///< actions that were started and have not returned
+    int m_patience = 3000;
+    int m_pause = 0;    ///< milliseconds before the next action
+    int m_line = 0;     ///< of the action that was started last
+    int m_running = 0;  ///< actions that were started and have not returned
     bool m_over = false;
 };

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QHash>
 
 #include <algorithm>
 
@@ -40,6 +41,20 @@ const QCommandLineOption darkOption(QStringLiteral("dark"),
 const QCommandLineOption fontSizeOption(QStringLiteral("font-size"),
                                         QStringLiteral("Start with a font of <points> (6 to 48)."),
                                         QStringLiteral("points"));
+
+const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
+                                    QStringLiteral("Show this help."));
+
+/// The options that QApplication takes for itself, and whether a value follows.
+const QHash<QString, bool> qtOptions{
+    {QStringLiteral("-display"), true},       {QStringLiteral("-geometry"), true},
+    {QStringLiteral("-name"), true},          {QStringLiteral("-platform"), true},
+    {QStringLiteral("-platformtheme"), true}, {QStringLiteral("-qwindowgeometry"), true},
+    {QStringLiteral("-qwindowtitle"), true},  {QStringLiteral("-session"), true},
+    {QStringLiteral("-style"), true},         {QStringLiteral("-stylesheet"), true},
+    {QStringLiteral("-title"), true},         {QStringLiteral("-platformpluginpath"), true},
+    {QStringLiteral("-reverse"), false},      {QStringLiteral("-sync"), false},
+};
 
 QString besideProgram(const QString& path)
 {
@@ -108,16 +123,31 @@ const std::vector<LanguageChoice>& languageChoices()
     return choices;
 }
 
+QStringList Options::withoutQts(const QStringList& arguments)
+{
+    QStringList own;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const auto option = qtOptions.find(arguments[i].section(QLatin1Char('='), 0, 0));
+        if (option == qtOptions.end()) {
+            own.append(arguments[i]);
+        } else if (*option && !arguments[i].contains(QLatin1Char('='))) {
+            ++i;
+        }
+    }
+    return own;
+}
+
 Options Options::parse(const QStringList& arguments, QString* error, QString* help)
 {
     QCommandLineParser parser;
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
         QStringLiteral("A small host application for the Canvas Tool Strip."));
     parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
-                       exitOption, unitOption, languageOption, darkOption, fontSizeOption});
-    const QCommandLineOption helpOption = parser.addHelpOption();
+                       exitOption, unitOption, languageOption, darkOption, fontSizeOption,
+                       helpOption});
     Options options;
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(withoutQts(arguments))) {
         *error = parser.errorText();
         return options;
     }
@@ -157,14 +187,7 @@ Options Options::ofProgram(int argc, char* argv[], QString* error)
     const QCoreApplication program(argc, argv);
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
-        const QString argument = QString::fromLocal8Bit(argv[i]);
-        const bool isQts = argument.startsWith('-') && !argument.startsWith(QLatin1String("--")) &&
-                           argument != QLatin1String("-h");
-        if (isQts) {
-            ++i;  // and its value
-        } else {
-            arguments.append(argument);
-        }
+        arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     QString help;
     Options options = parse(arguments, error, &help);

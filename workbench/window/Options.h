@@ -34,10 +34,13 @@ struct Options {
     bool isDark = false;
     int fontSize = 0;  ///< in points; 0: as the desktop has it
 
-    /// The options of the program, read before there is an application object; those of Qt itself
-    /// (a single dash and a value) are passed over. A wrong one fills `error` with one line; with
-    /// --help the program ends here.
+    /// The options of the program, read before there is an application object. A wrong one fills
+    /// `error` with one line; with --help the program ends here.
     static Options ofProgram(int argc, char* argv[], QString* error);
     /// The same from `arguments` (the program's name first). `help` is filled when it is asked for.
+    /// The options of Qt itself ("-platform offscreen") are passed over.
     static Options parse(const QStringList& arguments, QString* error, QString* help);
+
+private:
+    static QStringList withoutQts(const QStringList& arguments);
 };

@@ -107,7 +107,7 @@ void WorkbenchWindow::createDocks(MessageLog* log)
     m_jobTreeDock = createDock("m_pJobTreeDock", Qt::LeftDockWidgetArea, jobTree);
     m_monitorDock = createDock("m_pMonitorDock", Qt::BottomDockWidgetArea, m_monitor);
     setCentralWidget(viewer);
-    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
     m_strip = std::make_unique<ModulePlace>(ModuleNames::toolStrip, strip);
     m_jobTree = std::make_unique<ModulePlace>(ModuleNames::jobTree, jobTree);
     m_viewer = std::make_unique<ModulePlace>(ModuleNames::viewer, viewer);

@@ -3,11 +3,13 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "messages/MessageLog.h"
+#include "messages/MessageModel.h"
 #include "messages/MessageMonitor.h"
 
 #include <QTpluginsManger4CAM.h>
 
 #include <QJsonDocument>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
 #include <QTableWidget>
@@ -21,6 +23,19 @@ void send(int code, const QMap<QString, QVariant>& payload = {})
     message.code = code;
     message.payload = payload;
     QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, message);
+}
+
+/// The keys of the rows that the detail table marks.
+QStringList marked(const MessageMonitor& monitor)
+{
+    const auto& detail = findNamed<QTableWidget>(monitor, "m_pMessageTW");
+    QStringList keys;
+    for (int row = 0; row < detail.rowCount(); ++row) {
+        if (detail.item(row, 0)->background().style() != Qt::NoBrush) {
+            keys.append(detail.item(row, 0)->text());
+        }
+    }
+    return keys;
 }
 
 }  // namespace
@@ -60,14 +75,60 @@ private Q_SLOTS:
         MessageLog log;
         MessageMonitor monitor(&log);
         send(50, {{"Features", 2}, {"SymbolText", QString("r10")}});
-        auto& table = findNamed<QTableView>(monitor, "m_pMonitorTV");
-        table.selectRow(0);
+        findNamed<QTableView>(monitor, "m_pMonitorTV").selectRow(0);
         const auto& detail = findNamed<QTableWidget>(monitor, "m_pMessageTW");
         QCOMPARE(detail.rowCount(), 2);
         QCOMPARE(detail.item(0, 0)->text(), QString("Features"));
         QCOMPARE(detail.item(0, 1)->text(), QString("2"));
         QCOMPARE(detail.item(0, 2)->text(), QString("integer"));
         QCOMPARE(detail.item(1, 2)->text(), QString("text"));
+    }
+
+    void marksWhatChanged()
+    {
+        MessageLog log;
+        MessageMonitor monitor(&log);
+        auto& table = findNamed<QTableView>(monitor, "m_pMonitorTV");
+        const auto payloadOf = [&](int row) {
+            return table.model()->index(row, MessageModel::Payload).data().toString();
+        };
+        send(50, {{"Features", 2}, {"SymbolText", QString()}});
+        QCOMPARE(marked(monitor), QStringList());  // nothing to compare with
+        send(50, {{"Features", 2}, {"SymbolText", QString("r10")}});
+        QCOMPARE(marked(monitor), QStringList{"SymbolText"});
+        QCOMPARE(payloadOf(1), QString("SymbolText=r10, Features=2"));
+        send(20000207);  // another message in between
+        QCOMPARE(marked(monitor), QStringList());
+        send(52, {{"Features", QString("2")}, {"SymbolText", QString("r10")}});
+        QCOMPARE(marked(monitor), QStringList{"Features"});  // the type counts
+        send(50, {{"Features", QString("2")}, {"SymbolText", QString("r10")}});
+        QCOMPARE(marked(monitor), QStringList());
+        QCOMPARE(payloadOf(4), QString("Features=2, SymbolText=r10"));
+        table.selectRow(1);
+        QCOMPARE(marked(monitor), QStringList{"SymbolText"});
+        // A clear keeps the record that the next one is compared with.
+        log.clear();
+        QCOMPARE(findNamed<QTableWidget>(monitor, "m_pMessageTW").rowCount(), 0);
+        send(50, {{"Features", 3}, {"SymbolText", QString("r10")}});
+        QCOMPARE(marked(monitor), QStringList{"Features"});
+    }
+
+    void showsTheNewestUntilAnotherIsSelected()
+    {
+        MessageLog log;
+        MessageMonitor monitor(&log);
+        auto& table = findNamed<QTableView>(monitor, "m_pMonitorTV");
+        const auto& head = findNamed<QLabel>(monitor, "m_pMessageLB");
+        send(20000207);
+        send(20000208);
+        QVERIFY2(head.text().contains("20000208"), qPrintable(head.text()));
+        table.selectRow(0);
+        send(20000202);
+        QCOMPARE(table.currentIndex().row(), 0);
+        QVERIFY2(head.text().contains("20000207"), qPrintable(head.text()));
+        table.selectRow(2);
+        send(20000203);
+        QCOMPARE(table.currentIndex().row(), 3);
     }
 
     void savesATrace()

@@ -107,11 +107,25 @@ private Q_SLOTS:
         }
     }
 
+    void optionsOfQtArePassedOver()
+    {
+        QString error;
+        QString help;
+        const Options options = parsed(
+            {"-platform", "offscreen", "-style=fusion", "-reverse", "--play", "p"}, &error, &help);
+        QCOMPARE(error, QString());
+        QCOMPARE(options.sessionFile, QString("p"));
+    }
+
     void wrongOptions_data()
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("names");
         QTest::newRow("unknown") << QStringList("--bogus") << "bogus";
+        QTest::newRow("single dash") << QStringList("-bogus") << "bogus";
+        QTest::newRow("Qt's help") << QStringList("--help-all") << "help-all";
+        QTest::newRow("text for a font size") << QStringList{"--font-size", "big"} << "big";
+        QTest::newRow("value for a flag") << QStringList("--exit=3") << "exit";
         QTest::newRow("no value") << QStringList("--job") << "job";
         QTest::newRow("unit") << QStringList{"--unit", "foot"} << "foot";
         QTest::newRow("language") << QStringList{"--language", "fr"} << "fr";
@@ -127,6 +141,7 @@ private Q_SLOTS:
         QString help;
         parsed(arguments, &error, &help);
         QVERIFY2(error.contains(names), qPrintable(error));
+        QVERIFY(help.isEmpty());
         QVERIFY(!error.contains('\n'));
     }
 

@@ -1,11 +1,10 @@
 #include "viewer/ViewerPane.h"
 
-#include "messages/MessageNames.h"
+#include "messages/RecordTable.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "viewer/Board.h"
 #include "viewer/BoardView.h"
-#include "viewer/RecordTable.h"
 
 #include <CommonWidgetsStandIn.h>
 #include <QTpluginsManger4CAM.h>
@@ -68,7 +67,7 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     retranslate();
     connect(m_board, &BoardView::clicked, this, &ViewerPane::picked);
     connect(m_board, &BoardView::moved, this, &ViewerPane::showPosition);
-    CanvasHost::setMeasureStarted([this] { setPick(Pick::MeasureStart); });
+    CanvasHost::setMeasureStarted([this] { startMeasuring(); });
 }
 
 ViewerPane::~ViewerPane()
@@ -104,14 +103,22 @@ void ViewerPane::receive(const PluginMetaData& message)
 {
     switch (message.code) {
         case Sent::Record:
+            // The tool announces itself only once; later its record is what begins the drawing.
+            if (!m_tool || m_tool->code != Sent::AddFeature) {
+                setTool(MessageNames::find(message.receiver, Sent::AddFeature));
+            }
+            showRecord(message);
+            break;
         case Sent::DirectionRecord:
-            m_recordCode = message.code;
-            m_record->showValues(message.payload);
+            showRecord(message);
             break;
         case Sent::AttributeMap: {
             QMap<QString, QVariant> values;
             const auto* const map = reinterpret_cast<const std::map<std::string, std::string>*>(
                 static_cast<quintptr>(message.extra));
+            if (!map) {
+                break;
+            }
             for (const auto& [name, value] : *map) {
                 values.insert(QString::fromStdString(name), QString::fromStdString(value));
             }
@@ -128,7 +135,7 @@ void ViewerPane::receive(const PluginMetaData& message)
             setPick(Pick::Nothing);
             break;
         default:
-            showTool(message);
+            followTool(message);
     }
     retranslate();
     if (message.code == Sent::AddFeature) {
@@ -137,18 +144,35 @@ void ViewerPane::receive(const PluginMetaData& message)
     }
 }
 
-void ViewerPane::showTool(const PluginMetaData& message)
+void ViewerPane::showRecord(const PluginMetaData& message)
+{
+    m_recordCode = message.code;
+    m_record->showValues(message.payload);
+}
+
+void ViewerPane::followTool(const PluginMetaData& message)
 {
     const MessageNames::Row* const row = MessageNames::find(message.receiver, message.code);
-    if (!row) {
-        return;
+    if (row && row->tool) {
+        setTool(row, message.extra);
+    } else if (row && QByteArray(row->name).endsWith("Off")) {
+        setTool(nullptr);
     }
-    if (row->tool) {
-        m_tool = message.code;
-        m_variant = message.extra;
-    } else if (QByteArray(row->name).endsWith("Off")) {
-        m_tool.reset();
-    }
+}
+
+// What the tool before was waiting for is given up.
+void ViewerPane::setTool(const MessageNames::Row* tool, qint64 variant)
+{
+    m_tool = tool;
+    m_variant = variant;
+    setPick(Pick::Nothing);
+}
+
+void ViewerPane::startMeasuring()
+{
+    // No message says that the measure tool is active.
+    setTool(MessageNames::find(ModuleNames::toolStrip, Accepted::Measure));
+    setPick(Pick::MeasureStart);
 }
 
 void ViewerPane::setPick(Pick pick)
@@ -230,7 +254,7 @@ void ViewerPane::retranslate()
 {
     QString tool = tr("none");
     if (m_tool) {
-        tool = MessageNames::text(ModuleNames::viewer, *m_tool);
+        tool = MessageNames::text(*m_tool);
         if (m_variant != 0) {
             tool = tr("%1, mode %2").arg(tool).arg(m_variant);
         }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "messages/MessageNames.h"
+
 #include <PluginMetaData.h>
 
 #include <QPointF>
@@ -31,7 +33,10 @@ private:
     enum class Pick { Nothing, Symbol, Attributes, MeasureStart, MeasureEnd };
 
     QWidget* createInspector();
-    void showTool(const PluginMetaData& message);
+    void showRecord(const PluginMetaData& message);
+    void followTool(const PluginMetaData& message);
+    void setTool(const MessageNames::Row* tool, qint64 variant = 0);
+    void startMeasuring();
     void setPick(Pick pick);
     void picked(int feature, const QPointF& point);
     void sendSymbol(int feature);
@@ -51,7 +56,7 @@ private:
     RecordTable* m_attributes;
     Pick m_pick = Pick::Nothing;
     QPointF m_measureStart;
-    std::optional<int> m_tool;  ///< the code that announced it
+    const MessageNames::Row* m_tool = nullptr;  ///< the message that announced it; null: none
     qint64 m_variant = 0;
     std::optional<int> m_recordCode;
 };
