@@ -1,22 +1,23 @@
 #!/usr/bin/env bash
-# Wrong input ends the program with status 2 and one line that names file, line and reason.
-# Usage: wrong-input.sh WORKBENCH
+# Wrong input ends the program with status 2, a step that cannot be done with status 1, each with
+# one line that names file, line and reason.
+# Usage: wrong-input.sh WORKBENCH MODULES
 set -u
-workbench=$1
+workbench=$1 modules=$2
 dir=$(mktemp -d)
 trap 'rm -rf "$dir"' EXIT
 failed=0
 
-# expect TEXT ARGUMENT...: the one line on standard error contains TEXT.
+# expect STATUS TEXT ARGUMENT...: the one line on standard error contains TEXT.
 expect() {
-    local text=$1 status lines
-    shift
+    local wanted=$1 text=$2 status lines
+    shift 2
     "$workbench" "$@" --exit >"$dir/out" 2>"$dir/err"
     status=$?
-    grep -vE '^(QStandardPaths|This plugin)' "$dir/err" >"$dir/lines"
+    grep -vE '^(QStandardPaths|This plugin|canvastoolstrip)' "$dir/err" >"$dir/lines"
     lines=$(wc -l <"$dir/lines")
-    if [ $status -ne 2 ] || [ "$lines" -ne 1 ] || ! grep -qF -- "$text" "$dir/lines"; then
-        echo "$*: status $status, expected 2 and one line with: $text"
+    if [ $status -ne "$wanted" ] || [ "$lines" -ne 1 ] || ! grep -qF -- "$text" "$dir/lines"; then
+        echo "$*: status $status, expected $wanted and one line with: $text"
         cat "$dir/lines"
         failed=1
     fi
@@ -24,16 +25,38 @@ expect() {
 
 printf '{ "format": 1,\n  "jobs": [\n' >"$dir/open.json"
 printf '{ "format": 1,\n  "jobs": [ { "name": 7 } ] }\n' >"$dir/name.json"
+printf '\377\376' >"$dir/binary.json"
 printf 'click m_pMarkTB\njump\n' >"$dir/jump.session"
+printf '\n\nclick m_p\377\n' >"$dir/binary.session"
+printf 'send 20001811 extra=77\n' >"$dir/address.session"
+printf 'click m_pMarkTB\nclick m_pMarkTC\n' >"$dir/absent-widget.session"
+mkdir "$dir/modules"
+cp "$modules"/Canvas_Viewer.* "$dir/modules/"
+echo "no library" >"$dir/modules/Canvas_JobTree.so"
 
-expect "Unknown option 'bogus'" --bogus
-expect "foot" --unit foot
-expect "$dir/absent.json" --job "$dir/absent.json"
-expect "$dir/open.json:3: " --job "$dir/open.json"
-expect "$dir/name.json:2: " --job "$dir/name.json"
-expect "$dir/absent.session" --play "$dir/absent.session"
-expect "$dir/jump.session:2: unknown step \"jump\"" --play "$dir/jump.session"
-expect "$dir/no/trace" --trace "$dir/no/trace"
-expect "$dir/no/Canvas_Viewer.so: no such file" --modules "$dir/no"
-expect "$dir/no/picture.png" --screenshot "$dir/no/picture.png"
+expect 2 "Unknown option 'bogus'" --bogus
+expect 2 "Unknown option 'bogus'" -bogus
+expect 2 "unexpected argument \"$dir\"" "$dir"
+expect 2 "foot" --unit foot
+expect 2 "$dir/absent.json" --job "$dir/absent.json"
+expect 2 "$dir:" --job "$dir"
+expect 2 "$dir/binary.json:1: " --job "$dir/binary.json"
+expect 2 "$dir/open.json:3: " --job "$dir/open.json"
+expect 2 "$dir/name.json:2: " --job "$dir/name.json"
+expect 2 "$dir/absent.session" --play "$dir/absent.session"
+expect 2 "$dir: " --play "$dir"
+expect 2 "$dir/jump.session:2: unknown step \"jump\"" --play "$dir/jump.session"
+expect 2 "$dir/binary.session:3: the text is not UTF-8" --play "$dir/binary.session"
+expect 2 "$dir/address.session:1: message 20001811 takes" --play "$dir/address.session"
+expect 2 "$dir/no/trace" --trace "$dir/no/trace"
+expect 2 "$dir/no/Canvas_Viewer.so: no such file" --modules "$dir/no"
+expect 2 "$dir/modules/Canvas_JobTree.so: " --modules "$dir/modules"
+expect 2 "$dir/no/picture.png" --screenshot "$dir/no/picture.png"
+expect 1 "$dir/absent-widget.session:2: no widget \"m_pMarkTC\"; there is m_pMarkTB" \
+    --play "$dir/absent-widget.session"
+
+"$workbench" --help >"$dir/help" 2>"$dir/err" && grep -q -- "--play <file>" "$dir/help" || {
+    echo "--help: no help, or a wrong exit status"
+    failed=1
+}
 exit $failed

@@ -30,9 +30,24 @@ struct Case {
     bool metric = false;
 };
 
-/// Adds the columns and rows; `run` takes the row that is current.
+/// Adds the columns and rows; `run` takes the row that is current. Entries that the row does not
+/// name must stay as they were.
 void addRows(const QList<Case>& cases);
 void run();
+
+/// Fails where a key is missing or too much, or a value or its type is another one.
+void compare(const QVariantMap& actual, const Entries& expected);
+
+/// The entries that a new dialog's record holds; building it sends nothing.
+void compareStart(const Entries& entries, bool metric = false);
+
+/// A connection made by name, with the signatures as SIGNAL() and SLOT() write them.
+struct Connection {
+    const char* sender;
+    const char* signal;
+    const char* slot;
+};
+void compareConnections(const QList<Connection>& connections);
 
 /// A field for a length: its bound is 50000 or 10000 mil.
 struct LengthField {

@@ -106,9 +106,23 @@ void PageFixture::chooseByMouse(const QString& combo, int item)
 {
     auto& box = find<QComboBox>(combo);
     box.showPopup();
-    const QRect place = box.view()->visualRect(box.model()->index(item, 0));
-    QTest::mouseMove(box.view()->viewport(), place.center());
-    QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
+    QWidget* const list = box.view()->viewport();
+    // An item may be wider than the list.
+    const QRect place = box.view()->visualRect(box.model()->index(item, 0)) & list->rect();
+    QVERIFY(!place.isEmpty());
+    QTest::mouseMove(list, place.center());
+    QTest::mouseClick(list, Qt::LeftButton, Qt::NoModifier, place.center());
+    box.hidePopup();
+}
+
+void PageFixture::chooseInList(const QString& combo, int item)
+{
+    auto& box = find<QComboBox>(combo);
+    box.showPopup();
+    for (int i = 0; i < item; ++i) {
+        QTest::keyClick(box.view(), Qt::Key_Down);
+    }
+    QTest::keyClick(box.view(), Qt::Key_Return);
     box.hidePopup();
 }
 

@@ -35,6 +35,8 @@ public:
     void leave(const QString& field, const QString& way, const QString& neighbour);
 
     void chooseByMouse(const QString& combo, int item);
+    /// Opens the list, goes down by the arrow key from the first item and presses Enter.
+    void chooseInList(const QString& combo, int item);
     void chooseByTypingAhead(const QString& combo, int item);
     void press(const QString& combo, int key, int times);
     void turnWheel(const QString& combo, int notches);

@@ -63,6 +63,21 @@ QList<Case> families()
     };
 }
 
+/// A click on a type tells the attributes first; the type is a number from then on.
+QList<Case> types()
+{
+    return {
+        {"surface", {}, "m_pSurfaceTB", {{"Features", 3}}, {51, 50}, {"shown m_pSurfacePage"}},
+        {"arc", {}, "m_pArcTB", {{"Features", 4}}, {51, 50}, {"shown m_pArcPage"}},
+        {"arc after surface",
+         surface + QStringList("m_pSurfShapeCMB=2"),
+         "m_pArcTB",
+         {{"Features", 4}},
+         {51, 50},
+         {"hidden m_pSurfacePage", "shown m_pArcPage"}},
+    };
+}
+
 QList<Case> clockWise()
 {
     return {
@@ -86,9 +101,107 @@ private Q_SLOTS:
         PageCases::addRows(choices(surface, "m_pSurfShapeCMB", "SurfaceShape", 3) +
                            choices(arc, "m_pArcCMB", "ArcMode", 7) +
                            choices(circle, "m_pCircleCMB", "CircleMode", 4) + families() +
-                           clockWise());
+                           clockWise() + types());
     }
     void table() { PageCases::run(); }
+
+    void defaults()
+    {
+        PageCases::compareStart({{"Features", QString("1")},
+                                 {"SurfaceShape", QString("1")},
+                                 {"Arc&Circle", QString("1")},
+                                 {"ArcMode", QString("1")},
+                                 {"CircleMode", QString("1")},
+                                 {"ClockWise", QString("1")}});
+    }
+
+    void connections()
+    {
+        PageCases::compareConnections(
+            {{"m_pSurfShapeCMB", SIGNAL(currentIndexChanged(QString)),
+              SLOT(on_SurfShape_ComboBox_Changed())},
+             {"m_pArcAndCircleCMB", SIGNAL(currentIndexChanged(QString)),
+              SLOT(on_ArcAndCircle_ComboBox_Changed())},
+             {"m_pArcCMB", SIGNAL(currentIndexChanged(QString)), SLOT(on_Arc_ComboBox_Changed())},
+             {"m_pCircleCMB", SIGNAL(currentIndexChanged(QString)),
+              SLOT(on_Circle_ComboBox_Changed())},
+             {"m_pClockWiseCB", SIGNAL(stateChanged(int)),
+              SLOT(on_ClockWise_CheckState_Changed(int))}});
+    }
+
+    void byHand_data()
+    {
+        QTest::addColumn<QStringList>("before");
+        QTest::addColumn<QString>("combo");
+        QTest::addColumn<QString>("key");
+        QTest::newRow("surface") << surface << "m_pSurfShapeCMB"
+                                 << "SurfaceShape";
+        QTest::newRow("arc") << arc << "m_pArcCMB"
+                             << "ArcMode";
+        QTest::newRow("circle") << circle << "m_pCircleCMB"
+                                << "CircleMode";
+    }
+    void byHand()
+    {
+        QFETCH(QStringList, before);
+        QFETCH(QString, combo);
+        QFETCH(QString, key);
+        PageFixture fixture;
+        fixture.perform(before);
+        fixture.forget();
+        const auto stored = [&] { return fixture.record().value(key).toString(); };
+        fixture.chooseByMouse(combo, 2);
+        QCOMPARE(fixture.codes(), QList<int>{50});
+        QCOMPARE(stored(), QString("3"));
+        fixture.press(combo, Qt::Key_Up, 1);
+        QCOMPARE(fixture.codes(), (QList<int>{50, 50}));
+        QCOMPARE(stored(), QString("2"));
+        fixture.turnWheel(combo, 1);
+        QCOMPARE(fixture.codes(), (QList<int>{50, 50, 50}));
+        QCOMPARE(stored(), QString("3"));
+    }
+
+    void aDisabledMethodTakesNoInput()
+    {
+        PageFixture fixture;
+        fixture.perform(arc);
+        fixture.forget();
+        fixture.press("m_pCircleCMB", Qt::Key_Down, 1);
+        fixture.turnWheel("m_pCircleCMB", 1);
+        fixture.click("m_pCircleCMB");
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(fixture.index("m_pCircleCMB"), 0);
+        QCOMPARE(fixture.codes(), QList<int>());
+    }
+
+    /// A symbol that cannot be sent is no matter of surfaces, but keeps an arc back.
+    void withASymbolThatCannotBeSent_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<bool>("isSent");
+        QTest::newRow("surface") << "m_pSurfaceTB"
+                                 << "m_pSurfShapeCMB=1" << true;
+        QTest::newRow("arc") << "m_pArcTB"
+                             << "m_pArcCMB=1" << false;
+    }
+    void withASymbolThatCannotBeSent()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, step);
+        QFETCH(bool, isSent);
+        PageFixture fixture;
+        fixture.perform(type);
+        fixture.setText("m_pSymbolTextLE", "r60000");
+        fixture.forget();
+        fixture.perform(step);
+        QCOMPARE(fixture.codes(), isSent ? QList<int>{50} : QList<int>{});
+        QCOMPARE(fixture.boxes().size(), isSent ? 0 : 1);
+        QCOMPARE(fixture.text("m_pSymbolTextLE"), QString(isSent ? "r60000" : ""));
+        // It is kept all the same.
+        QCOMPARE(fixture.record().value(isSent ? "SurfaceShape" : "ArcMode").toString(),
+                 QString("2"));
+    }
 
     void start()
     {
@@ -159,6 +272,8 @@ private Q_SLOTS:
         QTest::newRow("surface") << "m_pSurfacePage"
                                  << QStringList{"m_pSurfaceTB", "m_pSurfShapeCMB=1"};
         QTest::newRow("arc") << "m_pArcPage" << QStringList{"m_pArcTB", "m_pArcCMB=2"};
+        QTest::newRow("greyed arc") << "m_pArcPage" << arc + QStringList("m_pArcCMB=6");
+        QTest::newRow("greyed circle") << "m_pArcPage" << circle + QStringList("m_pCircleCMB=3");
     }
     void language()
     {

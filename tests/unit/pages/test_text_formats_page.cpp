@@ -43,7 +43,7 @@ QList<Case> barcodeTypes()
     rows.append({"matrix values are kept",
                  matrixCode + QStringList{"m_pAddMarkersCB", "m_pMatrixLE<12x12"},
                  "m_pUPCCMB=3",
-                 {{"AddMarkers", text("1")}, {"BarcodeMatrix", text("12x12")}},
+                 {{"AddMarkers", text("1")}, {"BarcodeMatrix", text("12x12")}, {"BarcodeMode", 4}},
                  {},
                  off});
     return rows;
@@ -93,7 +93,10 @@ QList<Case> barcodeOptions()
          "m_pAddMarkersCB",
          {{"AddMarkers", text("2")}}},
         {"", matrixCode, "m_pMatrixLE<anything", {{"BarcodeMatrix", text("anything")}}},
-        {"", matrixCode, "m_pMatrixPB", {{"BarcodeMatrix", text("Minimal")}}},
+        {"", matrixCode, "m_pMatrixPB", {}},
+        {"typed matrix", matrixCode, "m_pMatrixLE:8 x 18?", {{"BarcodeMatrix", text("8 x 18?")}}},
+        {"no matrix", matrixCode, "m_pMatrixLE<", {{"BarcodeMatrix", text("")}}},
+        {"typed height", barcode, "m_pHeightLE:12.5", {{"BarcodeHeight", text("317.5")}}},
     };
 }
 
@@ -125,6 +128,10 @@ QList<Case> plotStamps()
 QList<Case> cannedTexts()
 {
     return {
+        {"typed hole size",
+         canned,
+         "m_pCannedHoleSizeLE:20.5",
+         {{"CannedHoleSize", text("520.7")}}},
         {"6 by 7",
          canned + QStringList("m_pOrbotechZoomCMB=6"),
          "m_pCannedHoleSizeCMB=1",
@@ -159,6 +166,51 @@ private Q_SLOTS:
              {"m_pCannedHoleSizeLE", "CannedHoleSize", canned, 50000, {}, {}}}));
     }
     void lengths() { PageCases::run(); }
+
+    void defaults_data()
+    {
+        QTest::addColumn<bool>("metric");
+        QTest::newRow("mil") << false;
+        QTest::newRow("metric") << true;
+    }
+    void defaults()
+    {
+        QFETCH(bool, metric);
+        PageCases::compareStart({{"BarcodeMode", text("1")},
+                                 {"AddString", text("2")},
+                                 {"AddBackground", text("2")},
+                                 {"StringPosition", text("2")},
+                                 {"AddMarkers", text("2")},
+                                 {"BarcodeMatrix", text("Minimal")},
+                                 {"BarcodeHeight", text("6350")},
+                                 {"OrbotechType", text("1")},
+                                 {"OrbotechFontSize", 1},
+                                 {"OrbotechZoom", 1},
+                                 {"CannedHoleMode", text("1")},
+                                 {"CannedHoleSize", text("508")}},
+                                metric);
+    }
+
+    void connections()
+    {
+        const char* const index = SIGNAL(currentIndexChanged(QString));
+        const char* const state = SIGNAL(stateChanged(int));
+        const char* const edited = SIGNAL(editingFinished());
+        PageCases::compareConnections(
+            {{"m_pUPCCMB", index, SLOT(on_UPC_ComboBox_Changed())},
+             {"m_pAddStringCB", state, SLOT(on_AddString_CheckState_Changed(int))},
+             {"m_pPositionCMB", index, SLOT(on_m_pPositionCMB_ComboBox_Changed())},
+             {"m_pBackgroundCB", state, SLOT(on_m_pBackgroundCB_CheckState_Changed(int))},
+             {"m_pAddMarkersCB", state, SLOT(on_m_pAddMarkersCB_CheckState_Changed(int))},
+             {"m_pHeightLE", edited, SLOT(on_m_pHeightLE_editingFinished())},
+             {"m_pMatrixLE", edited, SLOT(on_m_pMatrixLE_editingFinished())},
+             {"m_pMatrixPB", SIGNAL(clicked()), SLOT(on_m_pMatrixPB_clicked())},
+             {"m_pOrbotechTypeCMB", index, SLOT(on_m_pOrbotechTypeCMB_ComboBox_Changed())},
+             {"m_pOrbotechFontSizeCMB", index, SLOT(on_m_pOrbotechFontSizeCMB_ComboBox_Changed())},
+             {"m_pOrbotechZoomCMB", index, SLOT(on_m_pOrbotechZoomCMB_ComboBox_Changed())},
+             {"m_pCannedHoleSizeCMB", index, SLOT(on_m_pCannedHoleSizeCMB_ComboBox_Changed())},
+             {"m_pCannedHoleSizeLE", edited, SLOT(on_m_pCannedHoleSizeLE_editingFinished())}});
+    }
 
     void combos()
     {
@@ -208,13 +260,18 @@ private Q_SLOTS:
         QCOMPARE(fixture.find<QCheckBox>("m_pAddMarkersCB").text(), QString("Add Markers"));
     }
 
-    void builtFromMilWhateverTheUnit()
+    /// The labels say "mil" in every unit and language, whatever the fields show.
+    void lengthLabels()
     {
         PageFixture fixture(true);
-        QCOMPARE(fixture.record().value("BarcodeHeight"), QVariant(QString("6350")));
-        QCOMPARE(fixture.record().value("CannedHoleSize"), QVariant(QString("508")));
-        QCOMPARE(fixture.labelText("m_pHeightUnitLB"), QString("mil"));
-        QCOMPARE(fixture.labelText("m_pCannedHoleSizeUnitLB"), QString("mil"));
+        for (const char* const label : {"m_pHeightUnitLB", "m_pCannedHoleSizeUnitLB"}) {
+            QCOMPARE(fixture.labelText(label), QString("mil"));
+            fixture.changeUnit(false);
+            fixture.changeUnit(true);
+            QCOMPARE(fixture.labelText(label), QString("mil"));
+            fixture.dialog().change_language();
+            QCOMPARE(fixture.labelText(label), QString("mil"));
+        }
     }
 
     void units_data()

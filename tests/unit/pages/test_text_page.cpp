@@ -5,14 +5,11 @@
 #include "PageCases.h"
 #include "PageFixture.h"
 
-#include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
-#include <common_widgets.h>
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRegExpValidator>
 
@@ -77,6 +74,17 @@ QList<Case> formats()
 QList<Case> textsAndFonts()
 {
     return {
+        {"typed size", page, "m_pXSizeLE:12.5", {{"StringXSize", QString("317.5")}}, {50}},
+        {"typed height", page, "m_pYSizeLE:100", {{"StringYSize", QString("2540")}}, {50}},
+        {"typed width", page, "m_pLineWidthLE:.5", {{"StringLineWidth", QString("12.7")}}, {50}},
+        {"String again",
+         page + QStringList{"m_pFontLE<simple", "m_pTextLE<Rev", "m_pXSizeLE<100",
+                            "m_pTextFormatCMB=3"},
+         "m_pTextFormatCMB=0",
+         {{"TextFormat", QString("1")},
+          {"StringTextFont", QString("simple")},
+          {"TextContains", QString("Rev")},
+          {"StringXSize", QString("2540")}}},
         {"typed text", page, "m_pTextLE:Rev. A/2", {{"TextContains", QString("Rev. A/2")}}, {50}},
         {"no text",
          page + QStringList("m_pTextLE<x"),
@@ -124,6 +132,40 @@ private Q_SLOTS:
              {"m_pLineWidthLE", "StringLineWidth", page, 10000, {50}, {50}}}));
     }
     void sizes() { PageCases::run(); }
+
+    void defaults_data()
+    {
+        QTest::addColumn<bool>("metric");
+        QTest::newRow("mil") << false;
+        QTest::newRow("metric") << true;
+    }
+    void defaults()
+    {
+        QFETCH(bool, metric);
+        PageCases::compareStart({{"TextFormat", QString("1")},
+                                 {"StringTextFont", QString("standard")},
+                                 {"TextContains", QString("")},
+                                 {"StringXSize", QString("5080")},
+                                 {"StringYSize", QString("5080")},
+                                 {"StringLineWidth", QString("609.6")}},
+                                metric);
+    }
+
+    void connections()
+    {
+        const char* const clicked = SIGNAL(clicked());
+        const char* const edited = SIGNAL(editingFinished());
+        PageCases::compareConnections(
+            {{"m_pTextFormatCMB", SIGNAL(currentIndexChanged(QString)),
+              SLOT(on_Textformart_ComboBox_Changed())},
+             {"m_pFontPB", clicked, SLOT(on_m_pFontPB_clicked())},
+             {"m_pFontLE", edited, SLOT(on_m_pFontLE_editingFinished())},
+             {"m_pTextPB", clicked, SLOT(on_Text_clicked())},
+             {"m_pTextLE", edited, SLOT(on_m_pTextLE_editingFinished())},
+             {"m_pXSizeLE", edited, SLOT(on_m_pXSizeLE_editingFinished())},
+             {"m_pYSizeLE", edited, SLOT(on_m_pYSizeLE_editingFinished())},
+             {"m_pLineWidthLE", edited, SLOT(on_m_pLineWidthLE_editingFinished())}});
+    }
 
     void start()
     {
@@ -180,10 +222,9 @@ private Q_SLOTS:
         QCOMPARE(fixture.text("m_pXSizeLE"), QString(metric ? "5080" : "200"));
         QCOMPARE(fixture.text("m_pYSizeLE"), QString(metric ? "5080" : "200"));
         QCOMPARE(fixture.text("m_pLineWidthLE"), QString(metric ? "609.6" : "24"));
-        QCOMPARE(fixture.labelText("m_pXSizeUnitLB"), QString(metric ? "my" : "mil"));
-        QCOMPARE(fixture.record().value("StringXSize"), QVariant(QString("5080")));
-        QCOMPARE(fixture.record().value("StringYSize"), QVariant(QString("5080")));
-        QCOMPARE(fixture.record().value("StringLineWidth"), QVariant(QString("609.6")));
+        for (const char* const label : {"m_pXSizeUnitLB", "m_pYSizeUnitLB", "m_pLineWidthUnitLB"}) {
+            QCOMPARE(fixture.labelText(label), QString(metric ? "my" : "mil"));
+        }
         for (const char* const field : {"m_pXSizeLE", "m_pYSizeLE", "m_pLineWidthLE"}) {
             const auto* const validator =
                 qobject_cast<const QRegExpValidator*>(fixture.find<QLineEdit>(field).validator());
@@ -192,129 +233,74 @@ private Q_SLOTS:
         }
     }
 
-    void withoutAStandardFont()
+    /// The validators are those of the unit that the sizes were built in.
+    void sizesAfterAnotherUnit_data()
     {
-        CanvasHost::clearJobs();
-        CanvasHost::Job job;
-        job.name = "job";
-        job.fonts = {"simple"};
-        CanvasHost::addJob(job);
+        QTest::addColumn<bool>("metric");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("isRefused");
+        QTest::newRow("metric, bound") << true << "254000"
+                                       << "254000" << false;
+        QTest::newRow("metric, beyond") << true << "254001"
+                                        << "0" << true;
+        QTest::newRow("mil, bound") << false << "10000"
+                                    << "254000" << false;
+        QTest::newRow("mil, beyond") << false << "10000.5"
+                                     << "0" << true;
+    }
+    void sizesAfterAnotherUnit()
+    {
+        QFETCH(bool, metric);
+        QFETCH(QString, typed);
+        QFETCH(QString, stored);
+        QFETCH(bool, isRefused);
+        PageFixture fixture(!metric);
+        fixture.perform(page);
+        const QValidator* const validator = fixture.find<QLineEdit>("m_pXSizeLE").validator();
+        fixture.changeUnit(metric);
+        QCOMPARE(fixture.find<QLineEdit>("m_pXSizeLE").validator(), validator);
+        fixture.forget();
+        fixture.perform("m_pXSizeLE:" + typed);
+        QCOMPARE(fixture.codes(), QList<int>{50});
+        QCOMPARE(fixture.record().value("StringXSize").toString(), stored);
+        QCOMPARE(fixture.boxes(), isRefused
+                                      ? QStringList(PageCases::lengthBox(metric ? 254000 : 10000))
+                                      : QStringList());
+    }
+
+    /// The host's unit decides how the sizes are built, the one told later what is typed.
+    void builtInTheHostsUnit()
+    {
+        CanvasHost::uiApiOverrides().getShowPara = [](void*, ZENTRA::API::show_param& shown) {
+            shown.metric = true;
+        };
         QWidget window;
         Recorder recorder;
         AddFeature dialog(&window, "job", "step", &window);
-        dialog.getChangeCurrentTool();
-        QCOMPARE(findNamed<QLineEdit>(dialog, "m_pFontLE").text(), QString());
-        QCOMPARE(recorder.last(50).message.payload.value("StringTextFont"), QVariant(QString("")));
+        CanvasHost::uiApiOverrides() = {};
+        auto& size = findNamed<QLineEdit>(dialog, "m_pXSizeLE");
+        QCOMPARE(size.text(), QString("5080"));
+        QCOMPARE(findNamed<QLabel>(dialog, "m_pXSizeUnitLB").text(), QString("my"));
+        findNamed<QAbstractButton>(dialog, "m_pTextTB").click();
+        size.setText("100");
+        dialog.on_m_pXSizeLE_editingFinished();
+        QCOMPARE(recorder.last(50).message.payload.value("StringXSize").toString(),
+                 QString("2540"));
+        QCOMPARE(recorder.last(50).message.payload.value("StringYSize").toString(),
+                 QString("5080"));
     }
 
-    void fontsAreFetchedAnew()
-    {
-        DialogFixture fixture;
-        int fetched = 0;
-        CanvasHost::camApiOverrides().get_fonts = [&](const std::string& job,
-                                                      std::vector<std::string>& names) {
-            ++fetched;
-            names = {job};
-        };
-        auto& font = fixture.find<QLineEdit>("m_pFontLE");
-        font.setText("job");
-        fixture.dialog->on_m_pFontLE_editingFinished();
-        QCOMPARE(fetched, 1);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-        fixture.dialog->set_job_info("other", "step");
-        fixture.dialog->on_m_pFontLE_editingFinished();
-        QCOMPARE(fetched, 2);
-        QCOMPARE(font.text(), QString());
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-    }
-
-    void fontPopup()
+    void theRefusalIsAnInformation()
     {
         DialogFixture fixture;
         fixture.choose("m_pTextTB");
-        fixture.click("m_pFontPB");
-        QPointer<Widget_listpopup> first = fixture.window.findChild<Widget_listpopup*>();
-        QVERIFY(first && first->isVisible());
-        QCOMPARE(first->parent(), &fixture.window);
-        fixture.click("m_pFontPB");
-        QVERIFY(!first);
-        const auto popups = fixture.window.findChildren<Widget_listpopup*>();
-        QCOMPARE(popups.size(), 1);
-        emit popups[0]->on_send_Font("simple");
-        QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("simple"));
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-        QCOMPARE(fixture.recorder.last(50).message.payload.value("StringTextFont"),
-                 QVariant(QString("simple")));
-        fixture.dialog->close();
-        QVERIFY(!popups[0]->isVisible());
-    }
-
-    void fontPopupThatSomeoneElseDeletes()
-    {
-        DialogFixture fixture;
-        fixture.choose("m_pTextTB");
-        fixture.click("m_pFontPB");
-        delete fixture.window.findChild<Widget_listpopup*>();
-        fixture.click("m_pFontPB");
-        QCOMPARE(fixture.window.findChildren<Widget_listpopup*>().size(), 1);
-    }
-
-    void specialTextPopup()
-    {
-        QPointer<QWidget> popup;
-        {
-            DialogFixture fixture;
-            fixture.choose("m_pTextTB");
-            const auto popups = [] {
-                QVector<QWidget*> found;
-                for (QWidget* const widget : QApplication::topLevelWidgets()) {
-                    if (qobject_cast<Widget_listpopup*>(widget)) {
-                        found.append(widget);
-                    }
-                }
-                return found;
-            };
-            fixture.click("m_pTextPB");
-            QCOMPARE(popups().size(), 1);
-            popup = popups()[0];
-            QVERIFY(popup->isVisible());
-            QVERIFY(!popup->parent());
-            popup->hide();
-            fixture.click("m_pTextPB");
-            QCOMPARE(popups(), QVector<QWidget*>{popup});
-            QVERIFY(popup->isVisible());
-
-            fixture.find<QLineEdit>("m_pTextLE").setText("before");
-            auto& list = findNamed<QListWidget>(*popup, "m_pTextLW");
-            list.setCurrentRow(1);
-            QTest::mouseClick(&findNamed(*popup, "m_pOkPB"), Qt::LeftButton);
-            QCOMPARE(fixture.find<QLineEdit>("m_pTextLE").text(), QString("$$DATE"));
-            QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-            QCOMPARE(fixture.recorder.last(50).message.payload.value("TextContains"),
-                     QVariant(QString("$$DATE")));
-            fixture.dialog->close();
-            QVERIFY(!popup->isVisible());
-        }
-        QVERIFY(!popup);  // goes with the dialog
-    }
-
-    void specialTextBeyondTheValidator()
-    {
-        DialogFixture fixture;
-        fixture.dialog->get_Special_TEXT(QString::fromUtf8("日期|"));
-        QCOMPARE(fixture.recorder.last(50).message.payload.value("TextContains"),
-                 QVariant(QString::fromUtf8("$$日期|")));
-    }
-
-    void theOtherTextSlotDoesNothing()
-    {
-        DialogFixture fixture;
-        fixture.choose("m_pTextTB");
-        fixture.dialog->on_m_pTextPB_clicked();
-        QVERIFY(fixture.recorder.messages().isEmpty());
-        for (const QWidget* const widget : QApplication::topLevelWidgets()) {
-            QVERIFY(!qobject_cast<const Widget_listpopup*>(widget));
-        }
+        fixture.find<QLineEdit>("m_pXSizeLE").setText("10001");
+        fixture.dialog->on_m_pXSizeLE_editingFinished();
+        const auto boxes = fixture.boxes.take();
+        QCOMPARE(boxes.size(), 1);
+        QCOMPARE(boxes[0].icon, QMessageBox::Information);
+        QCOMPARE(boxes[0].title, QString("Information"));
     }
 
     void typing_data()
@@ -349,6 +335,7 @@ private Q_SLOTS:
     void refusals_data()
     {
         PageCases::addRefusalRows({{"m_pXSizeLE", page, "10000.5", "0", "m_pMirrorCMB"},
+                                   {"m_pYSizeLE", page, "99999", "0", "m_pMirrorCMB"},
                                    {"m_pLineWidthLE", page, "10001", "0", "m_pMirrorCMB"}});
     }
     void refusals() { PageCases::refuseOnce(); }
@@ -360,7 +347,23 @@ private Q_SLOTS:
             {"m_pXSizeUnitLB=mil|my", "m_pYSizeUnitLB=mil|my", "m_pLineWidthUnitLB=mil|my"});
     }
 
-    void language() { PageCases::retranslate("m_pTextPage", page); }
+    void language_data()
+    {
+        QTest::addColumn<QStringList>("before");
+        QTest::newRow("start") << page;
+        QTest::newRow("barcode") << page + QStringList{"m_pTextFormatCMB=1", "m_pUPCCMB=4",
+                                                       "m_pPositionCMB=1"};
+        QTest::newRow("plot stamp")
+            << page + QStringList{"m_pTextFormatCMB=2", "m_pOrbotechTypeCMB=1",
+                                  "m_pOrbotechFontSizeCMB=3", "m_pOrbotechZoomCMB=6"};
+        QTest::newRow("canned text")
+            << page + QStringList{"m_pTextFormatCMB=3", "m_pCannedHoleSizeCMB=1"};
+    }
+    void language()
+    {
+        QFETCH(QStringList, before);
+        PageCases::retranslate("m_pTextPage", before);
+    }
 };
 
 CTS_MAIN(TestTextPage)

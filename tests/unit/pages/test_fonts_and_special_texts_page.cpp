@@ -1,0 +1,269 @@
+// Fonts and special texts: the lists of the job, and the windows that they are chosen from.
+
+#include "DialogFixture.h"
+#include "Main.h"
+
+#include <CamApiStandIn.h>
+#include <common_widgets.h>
+
+#include <QListWidget>
+#include <QPushButton>
+
+namespace {
+
+QVector<Widget_listpopup*> openWindows()
+{
+    QVector<Widget_listpopup*> found;
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        if (auto* const popup = qobject_cast<Widget_listpopup*>(widget)) {
+            found.append(popup);
+        }
+    }
+    return found;
+}
+
+QStringList namesIn(const QWidget& popup, const char* listName)
+{
+    QStringList names;
+    const auto& list = findNamed<QListWidget>(popup, listName);
+    for (int row = 0; row < list.count(); ++row) {
+        names.append(list.item(row)->text());
+    }
+    return names;
+}
+
+void addOtherJob()
+{
+    CanvasHost::Job job;
+    job.name = "other";
+    job.steps = {"step"};
+    job.fonts = {"wide"};
+    job.specialTexts = {"LAYER"};
+    CanvasHost::addJob(job);
+}
+
+/// Text as such: a comparison of variants takes a number for the text of its digits.
+QString sentText(const DialogFixture& fixture, const char* key)
+{
+    const QVariant value = fixture.recorder.last(50).message.payload.value(key);
+    return value.type() == QVariant::String ? value.toString() : QString("no text");
+}
+
+}  // namespace
+
+class TestFontsAndSpecialTextsPage : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutAStandardFont()
+    {
+        CanvasHost::clearJobs();
+        CanvasHost::Job job;
+        job.name = "job";
+        job.fonts = {"simple"};
+        CanvasHost::addJob(job);
+        QWidget window;
+        Recorder recorder;
+        AddFeature dialog(&window, "job", "step", &window);
+        dialog.getChangeCurrentTool();
+        QCOMPARE(findNamed<QLineEdit>(dialog, "m_pFontLE").text(), QString());
+        QCOMPARE(recorder.last(50).message.payload.value("StringTextFont"), QVariant(QString("")));
+    }
+
+    void fontsAreFetchedAnew()
+    {
+        DialogFixture fixture;
+        int fetched = 0;
+        CanvasHost::camApiOverrides().get_fonts = [&](const std::string& job,
+                                                      std::vector<std::string>& names) {
+            ++fetched;
+            names = {job};
+        };
+        auto& font = fixture.find<QLineEdit>("m_pFontLE");
+        font.setText("job");
+        fixture.dialog->on_m_pFontLE_editingFinished();
+        QCOMPARE(fetched, 1);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        fixture.dialog->set_job_info("other", "step");
+        fixture.dialog->on_m_pFontLE_editingFinished();
+        QCOMPARE(fetched, 2);
+        QCOMPARE(font.text(), QString());
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+    }
+
+    void fontPopup()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pTextTB");
+        fixture.click("m_pFontPB");
+        QPointer<Widget_listpopup> first = fixture.window.findChild<Widget_listpopup*>();
+        QVERIFY(first && first->isVisible());
+        QCOMPARE(first->parent(), &fixture.window);
+        fixture.click("m_pFontPB");
+        QVERIFY(!first);
+        const auto popups = fixture.window.findChildren<Widget_listpopup*>();
+        QCOMPARE(popups.size(), 1);
+        emit popups[0]->on_send_Font("simple");
+        QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("simple"));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.recorder.last(50).message.payload.value("StringTextFont"),
+                 QVariant(QString("simple")));
+        fixture.dialog->close();
+        QVERIFY(!popups[0]->isVisible());
+    }
+
+    void fontPopupThatSomeoneElseDeletes()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pTextTB");
+        fixture.click("m_pFontPB");
+        delete fixture.window.findChild<Widget_listpopup*>();
+        fixture.click("m_pFontPB");
+        QCOMPARE(fixture.window.findChildren<Widget_listpopup*>().size(), 1);
+    }
+
+    void specialTextPopup()
+    {
+        QPointer<QWidget> popup;
+        {
+            DialogFixture fixture;
+            fixture.choose("m_pTextTB");
+            fixture.click("m_pTextPB");
+            QCOMPARE(openWindows().size(), 1);
+            popup = openWindows().at(0);
+            QVERIFY(popup->isVisible());
+            QVERIFY(!popup->parent());
+            popup->hide();
+            fixture.click("m_pTextPB");
+            QCOMPARE(openWindows().size(), 1);
+            QCOMPARE(openWindows().at(0), popup);
+            QVERIFY(popup->isVisible());
+
+            fixture.find<QLineEdit>("m_pTextLE").setText("before");
+            auto& list = findNamed<QListWidget>(*popup, "m_pTextLW");
+            list.setCurrentRow(1);
+            QTest::mouseClick(&findNamed(*popup, "m_pOkPB"), Qt::LeftButton);
+            QCOMPARE(fixture.find<QLineEdit>("m_pTextLE").text(), QString("$$DATE"));
+            QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+            QCOMPARE(fixture.recorder.last(50).message.payload.value("TextContains"),
+                     QVariant(QString("$$DATE")));
+            fixture.dialog->close();
+            QVERIFY(!popup->isVisible());
+        }
+        QVERIFY(!popup);  // goes with the dialog
+    }
+
+    void specialTextBeyondTheValidator()
+    {
+        DialogFixture fixture;
+        fixture.dialog->get_Special_TEXT(QString::fromUtf8("日期|"));
+        QCOMPARE(fixture.recorder.last(50).message.payload.value("TextContains"),
+                 QVariant(QString::fromUtf8("$$日期|")));
+    }
+
+    void theOtherTextSlotDoesNothing()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pTextTB");
+        fixture.dialog->on_m_pTextPB_clicked();
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QVERIFY(openWindows().isEmpty());
+        QVERIFY(!QObject::disconnect(&fixture.find("m_pTextPB"), SIGNAL(clicked()), fixture.dialog,
+                                     SLOT(on_m_pTextPB_clicked())));
+    }
+
+    /// The job of the moment is the one whose fonts are listed.
+    void aFreshFontListForEachClick()
+    {
+        DialogFixture fixture;
+        addOtherJob();
+        fixture.choose("m_pTextTB");
+        fixture.click("m_pFontPB");
+        QCOMPARE(namesIn(*openWindows().at(0), "m_pFontLW"), (QStringList{"simple", "standard"}));
+        fixture.dialog->set_job_info("other", "step");
+        fixture.click("m_pFontPB");
+        QCOMPARE(openWindows().size(), 1);
+        QCOMPARE(namesIn(*openWindows().at(0), "m_pFontLW"), QStringList("wide"));
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("standard"));
+    }
+
+    /// A font is taken as it is named, of the job or not.
+    void aChosenFontIsNotLookedUp()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pTextTB");
+        fixture.dialog->get_font_name("fancy");
+        QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("fancy"));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(sentText(fixture, "StringTextFont"), QString("fancy"));
+    }
+
+    /// The field is read-only, but Enter finishes its editing all the same.
+    void enterInTheFontField()
+    {
+        DialogFixture fixture;
+        addOtherJob();
+        fixture.choose("m_pTextTB");
+        auto& font = fixture.find<QLineEdit>("m_pFontLE");
+        font.setFocus();
+        QTest::keyClicks(&font, "x");
+        QTest::keyClick(&font, Qt::Key_Return);
+        QCOMPARE(font.text(), QString("standard"));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+
+        fixture.recorder.clear();
+        fixture.dialog->set_job_info("other", "step");
+        QTest::keyClick(&font, Qt::Key_Return);
+        QCOMPARE(font.text(), QString());
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QCOMPARE(fixture.record().value("StringTextFont").toString(), QString("standard"));
+        QVERIFY(fixture.boxes.take().isEmpty());
+    }
+
+    /// The window is made once: it stays with the job that there was then.
+    void oneSpecialTextListForGood()
+    {
+        DialogFixture fixture;
+        addOtherJob();
+        fixture.choose("m_pTextTB");
+        fixture.click("m_pTextPB");
+        const QStringList names = {"JOB", "DATE"};
+        QCOMPARE(namesIn(*openWindows().at(0), "m_pTextLW"), names);
+        fixture.dialog->set_job_info("other", "step");
+        fixture.click("m_pTextPB");
+        QCOMPARE(openWindows().size(), 1);
+        QCOMPARE(namesIn(*openWindows().at(0), "m_pTextLW"), names);
+        QVERIFY(fixture.recorder.messages().isEmpty());
+    }
+
+    void aSpecialTextTakesThePlaceOfWhatWasThere()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pTextTB");
+        for (const char* const name : {"abc", "", "$$x"}) {
+            fixture.recorder.clear();
+            fixture.dialog->get_Special_TEXT(name);
+            QCOMPARE(fixture.find<QLineEdit>("m_pTextLE").text(), QString("$$") + name);
+            QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+            QCOMPARE(sentText(fixture, "TextContains"), QString("$$") + name);
+        }
+    }
+
+    void bothWindowsBesideEachOther()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pTextTB");
+        fixture.click("m_pTextPB");
+        fixture.click("m_pFontPB");
+        fixture.click("m_pFontPB");
+        fixture.click("m_pTextPB");
+        QCOMPARE(openWindows().size(), 2);
+        for (const Widget_listpopup* const popup : openWindows()) {
+            QVERIFY(popup->isVisible());
+        }
+    }
+};
+
+CTS_MAIN(TestFontsAndSpecialTextsPage)
+#include "test_fonts_and_special_texts_page.moc"

@@ -1,0 +1,192 @@
+// The canvas: the tool that it names, and what it sends back when something is picked on it.
+
+#include "FindChild.h"
+#include "Main.h"
+#include "messages/MessageLog.h"
+#include "viewer/ViewerPane.h"
+
+#include <common_widgets.h>
+
+#include <QLabel>
+#include <QTableWidget>
+
+namespace {
+
+using Pairs = QMap<QString, QString>;
+
+}  // namespace
+
+class TestViewer : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<MessageLog> m_log;
+    ViewerPane* m_viewer = nullptr;
+
+    void receive(int code, qint64 extra = 0, const QMap<QString, QVariant>& payload = {})
+    {
+        PluginMetaData message("Canvas_Tool_Strip.dll", "Canvas_Viewer.dll");
+        message.code = code;
+        message.extra = extra;
+        message.payload = payload;
+        m_viewer->receive(message);
+    }
+    QString text(const char* label) const { return findNamed<QLabel>(*m_viewer, label).text(); }
+    /// A place of the board, which is 20 x 14 millimetres, as a part of its width and height.
+    void clickBoard(double x, double y)
+    {
+        auto& board = findNamed(*m_viewer, "m_pBoardView");
+        // The board stands in the middle, 24 pixels from the nearer edges.
+        const double scale = qMin((board.width() - 48) / 20.0, (board.height() - 48) / 14.0);
+        const QPointF place(board.width() / 2.0 + (x - 10) * scale,
+                            board.height() / 2.0 - (y - 7) * scale);
+        QTest::mouseClick(&board, Qt::LeftButton, {}, place.toPoint());
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        CanvasHost::addInstance("Canvas_Tool_Strip.dll", this, [](void*, PluginMetaData) {});
+    }
+    void cleanupTestCase() { CanvasHost::removeInstance(this); }
+    void init()
+    {
+        m_window = std::make_unique<QWidget>();
+        m_window->resize(900, 600);
+        m_log = std::make_unique<MessageLog>();
+        m_viewer = new ViewerPane(m_window.get());
+        m_viewer->resize(m_window->size());
+        m_window->show();
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        m_log.reset();
+    }
+
+    void namesTheTool()
+    {
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
+        receive(20000207);
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Move feature"));
+        receive(20000206, 1);
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Delete feature, mode 1"));
+        receive(20000241);
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add feature"));
+        receive(20000202);
+        receive(50, 0, {{"Features", 1}});  // the dialog was there: no second 20000241
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add feature"));
+        receive(20000216);
+        receive(20000237);  // the same tool's second code
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
+        receive(12345);
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
+    }
+
+    void answersAddFeatureWithTheUnit()
+    {
+        receive(20000241);
+        QCOMPARE(int(m_log->messages().size()), 1);
+        const MessageRecord& answer = m_log->messages()[0];
+        QCOMPARE(answer.code, 20002200);
+        QCOMPARE(answer.sender, QString("Canvas_Viewer.dll"));
+        QCOMPARE(answer.receiver, QString("Canvas_Tool_Strip.dll"));
+    }
+
+    void symbol()
+    {
+        clickBoard(16, 11);
+        QVERIFY(m_log->messages().empty());  // nobody asked
+        receive(20001405);
+        clickBoard(0.3, 0.3);
+        QVERIFY(m_log->messages().empty());  // no feature there
+        QVERIFY(!text("m_pPickHintLB").isEmpty());
+        clickBoard(16, 11);
+        clickBoard(16, 11);
+        QCOMPARE(int(m_log->messages().size()), 1);
+        QCOMPARE(m_log->messages()[0].code, 20001811);
+        QCOMPARE(m_log->messages()[0].pointedAt.values(), QStringList("r100"));
+        QCOMPARE(text("m_pPickHintLB"), QString());
+    }
+
+    void aSurfaceHasNoSymbol()
+    {
+        receive(20001405);
+        clickBoard(2, 2);
+        QCOMPARE(m_log->messages().at(0).code, 20001811);
+        QVERIFY(m_log->messages()[0].hasAddress());
+        QCOMPARE(m_log->messages()[0].pointedAt, Pairs());
+    }
+
+    void attributes()
+    {
+        receive(20002838);
+        clickBoard(17.5, 5.4);
+        QCOMPARE(int(m_log->messages().size()), 1);
+        QCOMPARE(m_log->messages()[0].code, 20001807);
+        QCOMPARE(m_log->messages()[0].pointedAt,
+                 (Pairs{{".drill", "plated"}, {".pad_usage", "via"}}));
+    }
+
+    void picksAreGivenUp_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::newRow("another tool") << 20000207;
+        QTest::newRow("tool off") << 20000237;
+        QTest::newRow("dialogs closed") << 20003950;
+    }
+
+    void picksAreGivenUp()
+    {
+        QFETCH(int, code);
+        receive(20001405);
+        receive(code);
+        QCOMPARE(text("m_pPickHintLB"), QString());
+        clickBoard(16, 11);
+        QVERIFY(m_log->messages().empty());
+    }
+
+    void measuring()
+    {
+        Grc_Tbe_measurepopup popup(nullptr, m_window.get());
+        receive(20000207);
+        popup.onMeasureButtonClicked();
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Measure"));
+        const QString first = text("m_pPickHintLB");
+        clickBoard(2, 2);
+        QVERIFY(!first.isEmpty() && text("m_pPickHintLB") != first);
+        clickBoard(12, 2);
+        QCOMPARE(text("m_pPickHintLB"), first);
+        QVERIFY(m_log->messages().empty());
+        receive(20000208);
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Copy feature"));
+        QCOMPARE(text("m_pPickHintLB"), QString());
+    }
+
+    void attributeMap()
+    {
+        const std::map<std::string, std::string> map{{".net", "gnd"}};
+        receive(51, qint64(reinterpret_cast<quintptr>(&map)));
+        const auto& table = findNamed<QTableWidget>(*m_viewer, "m_pAttributesTW");
+        QCOMPARE(table.rowCount(), 1);
+        QCOMPARE(table.item(0, 0)->text(), QString(".net"));
+        QCOMPARE(table.item(0, 1)->text(), QString("gnd"));
+        receive(51, 0);  // no map at all
+        QCOMPARE(table.rowCount(), 1);
+    }
+
+    void recordWithItsCode()
+    {
+        const auto& table = findNamed<QTableWidget>(*m_viewer, "m_pRecordTW");
+        receive(50, 0, {{"Features", 1}});
+        QCOMPARE(text("m_pRecordLB"), QString("Feature record (message 50)"));
+        receive(52, 0, {{"Features", 1}, {"AngleGroup", QString("2")}});
+        QCOMPARE(text("m_pRecordLB"), QString("Feature record (message 52)"));
+        QCOMPARE(table.rowCount(), 2);
+        QVERIFY(table.item(0, 0)->font().bold());
+        QVERIFY(!table.item(1, 0)->font().bold());
+    }
+};
+
+CTS_MAIN(TestViewer)
+#include "test_viewer.moc"
