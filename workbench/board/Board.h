@@ -1,0 +1,50 @@
+#pragma once
+
+#include "board/Feature.h"
+
+#include <QPolygonF>
+#include <QString>
+
+#include <vector>
+
+namespace Pcb {
+
+/// One layer of a step: features in the order in which they were drawn, later ones on top.
+/// Negative ones cut out of what lies below them.
+struct Board {
+    QString job;
+    QString step;
+    QPolygonF outline;  ///< the board's edge in micrometres, closed implicitly; may be empty
+    Features features;
+
+    bool operator==(const Board& other) const;
+};
+
+using Indexes = std::vector<int>;  ///< of features; ascending, each once
+
+/// Outline and features; invalid for a board of nothing.
+QRectF boundsOf(const Board& board);
+
+/// The area of the layer: positive features less the negative ones that came after them.
+QPainterPath coveredArea(const Board& board);
+
+/// The topmost feature at `point` or no farther from it than `tolerance`; -1: none.
+int featureAt(const Board& board, const QPointF& point, double tolerance);
+
+bool touch(const Feature& a, const Feature& b);
+
+/// The positive features that touch the one given, directly or over others, with itself. A
+/// negative one is alone.
+Indexes touching(const Board& board, int index);
+
+/// As touching(), and in the same way from every feature that has one of their net names.
+Indexes netOf(const Board& board, int index);
+
+/// The lines and arcs that are joined end to end with the one given, within `tolerance`.
+Indexes polylineOf(const Board& board, int index, double tolerance = 1);
+
+/// The features that lie wholly in the area.
+Indexes insideRectangle(const Board& board, const QRectF& rectangle);
+Indexes insidePolygon(const Board& board, const QPolygonF& polygon);
+
+}  // namespace Pcb

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "board/Board.h"
+#include "board/Feature.h"
+
+#include <optional>
+
+/// Edits as functions of values: nothing given is changed. Lengths are micrometres, angles are
+/// degrees counterclockwise.
+namespace Pcb {
+
+Feature moved(const Feature& feature, const QPointF& by);
+Feature rotated(const Feature& feature, const QPointF& centre, double degrees);
+/// Left becomes right: mirrored at the vertical line through `x`.
+Feature mirrored(const Feature& feature, double x);
+Feature inverted(const Feature& feature);
+
+enum class End { First, Second };
+
+/// The end of a line or an arc that lies nearer to `point`.
+End nearerEnd(const Feature& feature, const QPointF& point);
+
+/// A line of the same length from its fixed end, in the direction of `degrees` seen from there.
+/// Nothing for what is no line.
+std::optional<Feature> withAngle(const Feature& line, double degrees, End fixed);
+
+/// A line whose `end` was pulled to `to`; an arc keeps its circle and takes the direction of `to`.
+/// Nothing for other kinds, and where nothing would be left of a line.
+std::optional<Feature> stretched(const Feature& feature, End end, const QPointF& to);
+
+/// As stretched(), the line keeping its direction: `to` counts by its foot on the line.
+std::optional<Feature> lengthened(const Feature& line, End end, const QPointF& to);
+
+/// The two parts of a line or an arc (one of a full circle) broken at the place of it that is
+/// nearest to `point`; empty for other kinds and for a break at an end.
+Features broken(const Feature& feature, const QPointF& point);
+
+/// What is left of a line when the part at `point` is deleted, up to the nearest places on either
+/// side where the line crosses another line or arc, a pad or a surface. Nothing crossing: nothing
+/// is left. Nothing for what is no line.
+std::optional<Features> deletedToIntersection(const Board& board, int index, const QPointF& point);
+
+/// Boards with features replaced, deleted or added. Indexes that do not exist are left out.
+Board withReplaced(const Board& board, int index, const Features& by);
+Board without(const Board& board, const Indexes& indexes);
+Board withAdded(const Board& board, const Features& features);
+Board withMoved(const Board& board, const Indexes& indexes, const QPointF& by);
+Board withCopied(const Board& board, const Indexes& indexes, const QPointF& by);
+Board withInverted(const Board& board, const Indexes& indexes);
+
+}  // namespace Pcb

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "board/Board.h"
+
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+#include <QString>
+
+namespace Pcb {
+
+struct PictureColours {
+    QColor background = Qt::white;
+    QColor positive = QColor(0x1f, 0x4e, 0x79);
+    QColor outline = QColor(0x80, 0x80, 0x80);  ///< transparent: the outline is not drawn
+};
+
+/// Paints the part `area` (micrometres) of the board over the whole of `target`. Negative features
+/// are painted in the background's colour.
+void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const QRectF& target,
+                const PictureColours& colours = {});
+
+/// The board, with a margin of a twentieth, its longer side `pixels` long.
+QImage toImage(const Board& board, int pixels, const PictureColours& colours = {});
+
+/// All or nothing, as writeBoardFile(). A board of nothing is an error.
+bool writePng(const Board& board, const QString& file, int pixels, QString* error);
+bool writeSvg(const Board& board, const QString& file, QString* error);
+
+}  // namespace Pcb

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QPainterPath>
+#include <QString>
+
+#include <vector>
+
+namespace Pcb {
+
+enum class SymbolFamily {
+    Round,
+    Square,
+    Rectangle,
+    Oval,
+    Diamond,
+    Octagon,
+    Hexagon,
+    Triangle,
+    Ellipse,
+    RoundRing,
+    SquareRing,
+    Special,  ///< a name without sizes in it, drawn as a placeholder
+};
+
+/// What the name of a symbol says.
+struct Symbol {
+    SymbolFamily family = SymbolFamily::Special;
+    double width = 0;     ///< micrometres
+    double height = 0;    ///< micrometres
+    double detail = 0;    ///< micrometres: cut of a corner, or inner size of a ring
+    double rotation = 0;  ///< degrees counterclockwise, of a name that ends in "_45"
+};
+
+/// The largest size that a name may ask for, in mil; larger ones are drawn as this.
+constexpr double largestSymbolSize = 50000;
+
+/// Takes a symbol name apart; its sizes are mil. What is no standard name, or asks for a size of
+/// nothing or a ring whose hole is not smaller than the ring, is a special symbol.
+Symbol parseSymbol(const QString& name);
+
+/// The covered area in micrometres, centred at the origin, filled by the odd-even rule.
+QPainterPath symbolShape(const Symbol& symbol);
+QPainterPath symbolShape(const QString& name);
+
+/// A standard name without its rotation suffix; any other name as it is.
+QString withoutRotation(const QString& name);
+
+}  // namespace Pcb
