@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QPointF>
 #include <QString>
+#include <QTransform>
 #include <QVector>
 
 #include <vector>
@@ -58,7 +59,8 @@ public:
     /// The net it belongs to, from the attribute ".net"; empty where there is none.
     QString net() const;
 
-    /// What it covers, whatever its polarity; odd-even. Empty for a geometry of too few points.
+    /// What it covers, whatever its polarity, by the path's fill rule. Empty for a geometry of too
+    /// few points.
     const QPainterPath& area() const { return m_area; }
     const QRectF& bounds() const { return m_bounds; }
 
@@ -74,6 +76,9 @@ using Features = std::vector<Feature>;
 
 /// The line along which the pen of a line or an arc runs; empty for other kinds.
 QPainterPath middleOf(const Geometry& geometry);
+
+/// The width of the round pen that draws arcs with a symbol: the lesser of its sizes.
+double arcPenWidth(const QString& symbol);
 
 /// Where an arc lies: its radius is that of the first end, the second end is brought onto it.
 struct ArcPlace {

@@ -1,0 +1,257 @@
+#include "board/TextShape.h"
+
+#include "board/Barcode.h"
+#include "board/DataMatrix.h"
+#include "board/Paths.h"
+#include "board/StrokeFont.h"
+
+#include <algorithm>
+#include <numeric>
+#include <tuple>
+
+namespace Pcb {
+namespace {
+
+constexpr int narrowBarsOfHeight = 25;    // of a bar code: its height in narrow bars
+constexpr int quietBars = 10;             // on either side of it
+constexpr int quietModules = 2;           // around a matrix
+constexpr double stampHeight = 1016;      // of font size 1, zoom 1
+constexpr double stringOfHeight = 0.2;    // of the readable string beside a code
+constexpr double strokeOfHeight = 0.12;   // pen width of such a string and of a stamp
+constexpr double columnsOfAdvance = 5.0;  // from one character to the next, in glyph columns
+
+struct CharacterSize {
+    double width;
+    double height;
+};
+
+void appendString(TextDrawing& drawing, const QString& text, const QPointF& corner,
+                  const CharacterSize& size)
+{
+    const double column = size.width / (glyphColumns - 1);
+    const double row = size.height / (glyphRows - 1);
+    QPointF origin = corner;
+    for (const QChar character : text) {
+        for (const QVector<QPoint>& stroke : glyphStrokes(character)) {
+            QPolygonF placed;
+            for (const QPoint& point : stroke) {
+                placed.append(origin + QPointF(point.x() * column, point.y() * row));
+            }
+            drawing.strokes.append(placed);
+        }
+        origin.rx() += column * columnsOfAdvance;
+    }
+}
+
+double widthOfString(const QString& text, const CharacterSize& size)
+{
+    const double column = size.width / (glyphColumns - 1);
+    return text.isEmpty() ? 0 : column * (columnsOfAdvance * text.size() - 1);
+}
+
+struct Code {
+    QPainterPath bars;
+    QRectF box;
+    double quiet = 0;
+};
+
+Code linearCode(BarcodeType type, const QString& text, double height)
+{
+    const double narrow = height / narrowBarsOfHeight;
+    Code code;
+    double x = 0;
+    bool isBar = true;
+    for (const int width : linearBarcode(type, text)) {
+        if (isBar) {
+            code.bars.addRect(x, 0, width * narrow, height);
+        }
+        x += width * narrow;
+        isBar = !isBar;
+    }
+    code.box = QRectF(0, 0, x, height);
+    code.quiet = quietBars * narrow;
+    return code;
+}
+
+/// Dark modules that stand side by side are one bar, so that nothing gapes between them.
+Code matrixCode(const QString& text, const QString& matrix, double height)
+{
+    const Modules modules = dataMatrix(text, matrix);
+    const int side = modules.size();
+    const double step = height / side;
+    Code code;
+    for (int row = 0; row < side; ++row) {
+        const double y = (side - 1 - row) * step;
+        for (int column = 0; column < side; ++column) {
+            const int first = column;
+            while (column < side && modules.at(row).at(column)) {
+                ++column;
+            }
+            if (column > first) {
+                code.bars.addRect(first * step, y, (column - first) * step, step);
+            }
+        }
+    }
+    code.bars = code.bars.simplified();
+    code.box = QRectF(0, 0, height, height);
+    code.quiet = quietModules * step;
+    return code;
+}
+
+/// An angle in each corner of the quiet zone, as thick as a quarter of it.
+QPainterPath cornerMarkers(const QRectF& zone, double quiet)
+{
+    const double thick = quiet / 4;
+    const double arm = quiet;
+    QPainterPath markers;
+    for (const bool left : {true, false}) {
+        for (const bool bottom : {true, false}) {
+            const QPointF corner(left ? zone.left() : zone.right(),
+                                 bottom ? zone.top() : zone.bottom());
+            const double x = left ? 1 : -1;
+            const double y = bottom ? 1 : -1;
+            QPolygonF angle;
+            for (const QPointF& step :
+                 {QPointF(0, 0), QPointF(arm, 0), QPointF(arm, thick), QPointF(thick, thick),
+                  QPointF(thick, arm), QPointF(0, arm)}) {
+                angle.append(corner + QPointF(step.x() * x, step.y() * y));
+            }
+            markers.addPolygon(angle);
+            markers.closeSubpath();
+        }
+    }
+    return markers;
+}
+
+TextDrawing drawString(const TextSpec& text)
+{
+    TextDrawing drawing;
+    drawing.lineWidth = text.lineWidth;
+    appendString(drawing, text.content, {}, {text.xSize, text.ySize});
+    return drawing;
+}
+
+void addReadableString(TextDrawing& drawing, const TextSpec& text, const Code& code)
+{
+    const double height = text.barcodeHeight * stringOfHeight;
+    const CharacterSize size{height * 2 / 3, height};
+    drawing.lineWidth = height * strokeOfHeight;
+    const double x = code.box.center().x() - widthOfString(text.content, size) / 2;
+    const double gap = height / 2 + code.quiet * (text.addBackground ? 1 : 0);
+    const double y = text.stringOnTop ? code.box.height() + gap : -gap - height;
+    appendString(drawing, text.content, {x, y}, size);
+}
+
+TextDrawing drawBarcode(const TextSpec& text)
+{
+    const bool isMatrix = text.barcode == BarcodeType::Matrix;
+    const Code code = isMatrix ? matrixCode(text.content, text.matrix, text.barcodeHeight)
+                               : linearCode(text.barcode, text.content, text.barcodeHeight);
+    const QRectF zone = code.box.adjusted(-code.quiet, -code.quiet, code.quiet, code.quiet);
+    TextDrawing drawing;
+    drawing.areas = code.bars;
+    if (text.addMarkers && isMatrix) {
+        drawing.areas.addPath(cornerMarkers(zone, code.quiet));
+    }
+    if (text.addBackground) {
+        // By the odd-even rule all that stands on it is left out of it.
+        drawing.areas.addRect(zone);
+    }
+    if (text.addString) {
+        addReadableString(drawing, text, code);
+    }
+    return drawing;
+}
+
+TextDrawing drawStamp(const TextSpec& text)
+{
+    const double height = stampHeight * text.stampFontSize * text.stampZoom;
+    TextDrawing drawing;
+    if (text.stampBarcode) {
+        drawing.areas = linearCode(BarcodeType::Code39, text.content, height * 2).bars;
+        return drawing;
+    }
+    drawing.lineWidth = height * strokeOfHeight;
+    appendString(drawing, text.content, {}, {height * 2 / 3, height});
+    return drawing;
+}
+
+/// Holes on a matrix whose pitch is half as wide again as a hole.
+TextDrawing drawCanned(const TextSpec& text)
+{
+    const double pitch = text.holeSize * 1.5;
+    const QPointF half(text.holeSize / 2, text.holeSize / 2);
+    TextDrawing drawing;
+    QPointF origin = half;
+    for (const QChar character : text.content) {
+        for (const QPoint& dot : glyphDots(character, text.cannedColumns)) {
+            drawing.areas.addPath(circlePath(origin + QPointF(dot) * pitch, text.holeSize / 2));
+        }
+        origin.rx() += pitch * (text.cannedColumns + 1);
+    }
+    return drawing;
+}
+
+auto tied(const TextSpec& text)
+{
+    return std::tie(text.format, text.content, text.font, text.xSize, text.ySize, text.lineWidth,
+                    text.barcode, text.addString, text.addBackground, text.addMarkers,
+                    text.stringOnTop, text.barcodeHeight, text.matrix, text.stampBarcode,
+                    text.stampFontSize, text.stampZoom, text.cannedColumns, text.holeSize);
+}
+
+}  // namespace
+
+bool TextSpec::operator==(const TextSpec& other) const
+{
+    return tied(*this) == tied(other);
+}
+
+TextDrawing drawText(const TextSpec& given)
+{
+    TextSpec text = given;
+    text.content.truncate(longestText);
+    switch (text.format) {
+        case TextFormat::Barcode:
+            return drawBarcode(text);
+        case TextFormat::PlotStamp:
+            return drawStamp(text);
+        case TextFormat::Canned:
+            return drawCanned(text);
+        case TextFormat::String:
+            break;
+    }
+    return drawString(text);
+}
+
+QPainterPath coveredBy(const TextDrawing& drawing)
+{
+    QPainterPath middle;
+    for (const QPolygonF& stroke : drawing.strokes) {
+        middle.addPolygon(stroke);
+    }
+    QPainterPath area = roundStroke(middle, drawing.lineWidth);
+    if (drawing.areas.isEmpty()) {
+        return area;
+    }
+    area = area.simplified();
+    area.setFillRule(Qt::OddEvenFill);
+    area.addPath(drawing.areas);
+    return area;
+}
+
+QString resolveSpecialText(const QString& content, const QMap<QString, QString>& values)
+{
+    if (!content.startsWith(QLatin1String("$$"))) {
+        return content;
+    }
+    const QString name = content.mid(2);
+    for (auto entry = values.begin(); entry != values.end(); ++entry) {
+        if (entry.key().compare(name, Qt::CaseInsensitive) == 0) {
+            return entry.value();
+        }
+    }
+    return name;
+}
+
+}  // namespace Pcb
