@@ -1,5 +1,7 @@
 #pragma once
 
+#include <HostExport.h>
+
 #include <QByteArray>
 #include <QStringList>
 
@@ -17,9 +19,9 @@ struct JsonPlace {
 };
 
 /// `text` must be a JSON document that Qt has already parsed without an error.
-JsonPlace findJsonPlaces(const QByteArray& text);
+CANVAS_HOST_EXPORT JsonPlace findJsonPlaces(const QByteArray& text);
 
 /// The line, counted from 1, of a byte offset.
-int lineOfOffset(const QByteArray& text, int offset);
+CANVAS_HOST_EXPORT int lineOfOffset(const QByteArray& text, int offset);
 
 }  // namespace CanvasHost

@@ -303,6 +303,24 @@ QPolygonF cutOpen(const Island& island)
     return outline;
 }
 
+QPainterPath byWinding(const QPainterPath& path)
+{
+    if (path.fillRule() == Qt::WindingFill) {
+        return path;
+    }
+    QPainterPath winding;
+    winding.setFillRule(Qt::WindingFill);
+    const auto add = [&winding](const QPolygonF& polygon) {
+        winding.addPolygon(polygon);
+        winding.closeSubpath();
+    };
+    for (const Island& island : islands(path)) {
+        add(island.outline);
+        std::for_each(island.holes.begin(), island.holes.end(), add);
+    }
+    return winding;
+}
+
 double distanceToSegment(const QPointF& point, const QPointF& a, const QPointF& b)
 {
     const QPointF way = b - a;

@@ -59,6 +59,10 @@ QVector<Island> islands(const QPainterPath& path);
 /// One closed outline for an island: each hole is joined by a horizontal cut.
 QPolygonF cutOpen(const Island& island);
 
+/// The same area by the winding rule: outlines counterclockwise, holes clockwise. A path that is
+/// filled by that rule already is given back.
+QPainterPath byWinding(const QPainterPath& path);
+
 /// How far `point` lies from the segment `a` to `b`.
 double distanceToSegment(const QPointF& point, const QPointF& a, const QPointF& b);
 

@@ -67,11 +67,12 @@ public:
     QPainterPath previewPath() const;
 
 private:
-    void append(const QPointF& point);
+    QVector<QPointF> with(const QPointF& point) const;
     Features build(const QVector<QPointF>& points, bool isEnd) const;
 
     Brush m_brush;
     QVector<QPointF> m_points;
+    int m_clicks = 0;  ///< fewer than points where a direction has put corners between them
     QPointF m_cursor;
     bool m_hasCursor = false;
     QMap<QString, QString> m_specialTexts;

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "board/Feature.h"
+#include "board/JsonNode.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace Pcb {
+
+/// The farthest that a coordinate or size of a board file may be from 0, in micrometres.
+constexpr double farthest = 1e7;
+
+QJsonArray toJsonPoints(const QVector<QPointF>& points);
+QVector<QPointF> pointsFromJson(const JsonNode& node);
+
+QJsonObject toJsonFeature(const Feature& feature);
+
+/// Throws a JsonFault.
+Feature featureFromJson(const JsonNode& node);
+
+}  // namespace Pcb
