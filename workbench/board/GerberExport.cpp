@@ -1,0 +1,148 @@
+#include "board/GerberExport.h"
+
+#include "board/FileOutput.h"
+#include "board/GerberWriter.h"
+#include "board/Paths.h"
+#include "board/Symbol.h"
+
+#include <cmath>
+
+namespace Pcb {
+namespace {
+
+void writeLine(GerberWriter& writer, const Geometry& line, const QPainterPath& area)
+{
+    const Symbol symbol = parseSymbol(line.symbol);
+    if (symbol.family == SymbolFamily::Round) {
+        writer.draw(symbol.width, QPolygonF(line.points));
+    } else {
+        writer.region(area);
+    }
+}
+
+bool isQuarterTurn(double degrees)
+{
+    return std::fmod(degrees, 90) == 0;
+}
+
+/// The pad as one of the round or straight apertures; empty where it is none of them.
+QByteArray plainAperture(const Geometry& pad, const Symbol& symbol)
+{
+    const double width = symbol.width * std::abs(pad.xScale);
+    const double height = symbol.height * std::abs(pad.yScale);
+    const double turn = pad.rotation + (pad.mirror ? -symbol.rotation : symbol.rotation);
+    const bool isEvenlyScaled = std::abs(pad.xScale) == std::abs(pad.yScale);
+    const bool isUpright = isQuarterTurn(turn) && isQuarterTurn(pad.rotation);
+    const bool isAside = isUpright && std::fmod(std::abs(turn), 180) == 90;
+    switch (symbol.family) {
+        case SymbolFamily::Round:
+            return isEvenlyScaled ? GerberWriter::aperture('C', width) : QByteArray();
+        case SymbolFamily::Oval:
+            if (!isEvenlyScaled) {
+                return {};
+            }
+            break;
+        case SymbolFamily::Square:
+        case SymbolFamily::Rectangle:
+            break;
+        default:
+            return {};
+    }
+    if (!isUpright) {
+        return {};
+    }
+    const char kind = symbol.family == SymbolFamily::Oval ? 'O' : 'R';
+    return isAside ? GerberWriter::aperture(kind, height, width)
+                   : GerberWriter::aperture(kind, width, height);
+}
+
+/// Readers of the format need not take more corners than this in a macro.
+constexpr int mostMacroCorners = 40;
+
+void writePad(GerberWriter& writer, const Geometry& pad, const QPainterPath& area)
+{
+    const QByteArray plain = plainAperture(pad, parseSymbol(pad.symbol));
+    if (!plain.isEmpty()) {
+        writer.flash(plain, pad.points.first());
+        return;
+    }
+    QVector<QPolygonF> outlines;
+    int corners = 0;
+    for (const Island& island : islands(area.translated(-pad.points.first()))) {
+        outlines.append(cutOpen(island));
+        corners = qMax(corners, outlines.last().size());
+    }
+    if (corners <= mostMacroCorners) {
+        writer.flash(writer.macro(outlines), pad.points.first());
+    } else {
+        writer.region(area);
+    }
+}
+
+void writeText(GerberWriter& writer, const Geometry& geometry)
+{
+    const TextDrawing drawing = drawText(geometry.text);
+    const QTransform place = placeOf(geometry);
+    for (const QPolygonF& stroke : drawing.strokes) {
+        writer.draw(drawing.lineWidth, place.map(stroke));
+    }
+    writer.region(place.map(drawing.areas));
+}
+
+void writeFeature(GerberWriter& writer, const Feature& feature)
+{
+    const Geometry& geometry = feature.geometry();
+    if (feature.area().isEmpty()) {
+        return;
+    }
+    writer.setPolarity(feature.isPositive());
+    switch (geometry.kind) {
+        case Kind::Line:
+            writeLine(writer, geometry, feature.area());
+            break;
+        case Kind::Arc:
+            writer.drawArc(arcPenWidth(geometry.symbol), arcPlace(geometry));
+            break;
+        case Kind::Pad:
+            writePad(writer, geometry, feature.area());
+            break;
+        case Kind::Surface:
+            writer.region(feature.area());
+            break;
+        case Kind::Text:
+            writeText(writer, geometry);
+            break;
+    }
+}
+
+}  // namespace
+
+std::optional<QByteArray> toGerber(const Board& board, QString* error)
+{
+    GerberWriter writer;
+    for (const Feature& feature : board.features) {
+        writeFeature(writer, feature);
+    }
+    if (!writer.isInRange()) {
+        if (error) {
+            *error = QStringLiteral("a coordinate is ten metres or farther from 0");
+        }
+        return std::nullopt;
+    }
+    return writer.file();
+}
+
+bool writeGerber(const Board& board, const QString& file, QString* error)
+{
+    QString reason;
+    const std::optional<QByteArray> content = toGerber(board, &reason);
+    if (!content) {
+        if (error) {
+            *error = QStringLiteral("%1: %2").arg(file, reason);
+        }
+        return false;
+    }
+    return writeWhole(file, *content, error);
+}
+
+}  // namespace Pcb

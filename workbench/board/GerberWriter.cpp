@@ -1,0 +1,156 @@
+#include "board/GerberWriter.h"
+
+#include "board/Paths.h"
+
+#include <cmath>
+
+namespace Pcb {
+namespace {
+
+constexpr int firstAperture = 10;
+constexpr double micrometresOfMillimetre = 1000;
+constexpr double unitsOfMicrometre = 1000;   // six digits after the point of a millimetre
+constexpr double largestUnits = 9999999999;  // four digits before it
+
+QByteArray millimetres(double micrometres)
+{
+    return QByteArray::number(micrometres / micrometresOfMillimetre, 'f', 6);
+}
+
+/// Corners on the grid of the file, none twice in a row.
+QPolygonF onGrid(const QPolygonF& points)
+{
+    QPolygonF rounded;
+    for (const QPointF& point : points) {
+        const QPointF place(std::round(point.x() * unitsOfMicrometre) / unitsOfMicrometre,
+                            std::round(point.y() * unitsOfMicrometre) / unitsOfMicrometre);
+        if (rounded.isEmpty() || rounded.last() != place) {
+            rounded.append(place);
+        }
+    }
+    return rounded;
+}
+
+}  // namespace
+
+QByteArray GerberWriter::aperture(char kind, double width, double height)
+{
+    QByteArray definition = QByteArray(1, kind) + ',' + millimetres(width);
+    return kind == 'C' ? definition : definition + 'X' + millimetres(height);
+}
+
+QByteArray GerberWriter::macro(const QVector<QPolygonF>& outlines)
+{
+    QByteArray content;
+    for (const QPolygonF& outline : outlines) {
+        content += "4,1," + QByteArray::number(outline.size());
+        for (int i = 0; i <= outline.size(); ++i) {
+            const QPointF point = outline.at(i % outline.size());
+            content += ',' + millimetres(point.x()) + ',' + millimetres(point.y());
+        }
+        content += ",0*\n";
+    }
+    QByteArray& name = m_nameOfMacro[content];
+    if (name.isEmpty()) {
+        name = "SHAPE" + QByteArray::number(m_nameOfMacro.size());
+        content.chop(1);
+        m_macros += "%AM" + name + "*\n" + content + "%\n";
+    }
+    return name;
+}
+
+void GerberWriter::setPolarity(bool dark)
+{
+    if (dark != m_isDark) {
+        m_body += dark ? "%LPD*%\n" : "%LPC*%\n";
+        m_isDark = dark;
+    }
+}
+
+void GerberWriter::select(const QByteArray& aperture)
+{
+    int& code = m_codeOfAperture[aperture];
+    if (code == 0) {
+        code = firstAperture - 1 + m_codeOfAperture.size();
+        m_apertures += "%ADD" + QByteArray::number(code) + aperture + "*%\n";
+    }
+    if (code != m_selected) {
+        m_body += 'D' + QByteArray::number(code) + "*\n";
+        m_selected = code;
+    }
+}
+
+QByteArray GerberWriter::number(char axis, double micrometres)
+{
+    const double units = std::round(micrometres * unitsOfMicrometre);
+    if (!(std::abs(units) <= largestUnits)) {
+        m_isInRange = false;
+        return {};
+    }
+    return axis + QByteArray::number(static_cast<qlonglong>(units));
+}
+
+QByteArray GerberWriter::coordinates(const QPointF& point)
+{
+    return number('X', point.x()) + number('Y', point.y());
+}
+
+void GerberWriter::flash(const QByteArray& aperture, const QPointF& place)
+{
+    select(aperture);
+    m_body += coordinates(place) + "D03*\n";
+}
+
+void GerberWriter::draw(double width, const QPolygonF& points)
+{
+    const QPolygonF corners = onGrid(points);
+    if (corners.size() == 1) {
+        flash(aperture('C', width), corners.first());
+        return;
+    }
+    select(aperture('C', width));
+    for (int i = 0; i < corners.size(); ++i) {
+        m_body += coordinates(corners.at(i)) + (i == 0 ? "D02*\n" : "D01*\n");
+    }
+}
+
+void GerberWriter::drawArc(double width, const ArcPlace& arc)
+{
+    const QPointF from = polar(arc.centre, arc.radius, arc.start);
+    const bool isCircle = std::abs(arc.sweep) >= 360;
+    const QPointF to = isCircle ? from : polar(arc.centre, arc.radius, arc.start + arc.sweep);
+    // Ends that fall together on the grid would be read as a whole circle.
+    if (std::abs(arc.sweep) < 180 && onGrid(QPolygonF() << from << to).size() == 1) {
+        flash(aperture('C', width), from);
+        return;
+    }
+    select(aperture('C', width));
+    const QPointF toCentre = arc.centre - from;
+    m_body += coordinates(from) + "D02*\n";
+    m_body += arc.sweep < 0 ? "G02*\n" : "G03*\n";
+    m_body += coordinates(to) + number('I', toCentre.x()) + number('J', toCentre.y()) + "D01*\n";
+    m_body += "G01*\n";
+}
+
+void GerberWriter::region(const QPainterPath& area)
+{
+    for (const Island& island : islands(area)) {
+        const QPolygonF corners = onGrid(cutOpen(island));
+        if (corners.size() < 3) {
+            continue;
+        }
+        m_body += "G36*\n";
+        for (int i = 0; i <= corners.size(); ++i) {
+            m_body += coordinates(corners.at(i % corners.size())) + (i == 0 ? "D02*\n" : "D01*\n");
+        }
+        m_body += "G37*\n";
+    }
+}
+
+QByteArray GerberWriter::file() const
+{
+    return "%FSLAX46Y46*%\n%MOMM*%\n" + m_macros + m_apertures + "%LPD*%\nG75*\nG01*\n" + m_body +
+           "M02*\n";
+}
+
+}  // namespace Pcb

@@ -1,0 +1,110 @@
+#include "board/PictureExport.h"
+
+#include "board/FileOutput.h"
+
+#include <QBuffer>
+#include <QSvgGenerator>
+
+#include <algorithm>
+
+namespace Pcb {
+namespace {
+
+constexpr int largestPicture = 20000;  // pixels of a side
+constexpr int svgSide = 1000;          // of the longer side
+constexpr double margin = 0.05;
+
+/// What is shown: the board and a margin; invalid for a board of nothing.
+QRectF shownArea(const Board& board)
+{
+    const QRectF bounds = boundsOf(board);
+    const double more = std::max(bounds.width(), bounds.height()) * margin;
+    return bounds.isEmpty() ? QRectF() : bounds.adjusted(-more, -more, more, more);
+}
+
+QSize sizeOf(const QRectF& area, int longerSide)
+{
+    const double scale =
+        qBound(1, longerSide, largestPicture) / std::max(area.width(), area.height());
+    return {std::max(1, qRound(area.width() * scale)), std::max(1, qRound(area.height() * scale))};
+}
+
+bool refuseNothing(const QRectF& area, const QString& file, QString* error)
+{
+    if (area.isEmpty() && error) {
+        *error = QStringLiteral("%1: the board is empty").arg(file);
+    }
+    return area.isEmpty();
+}
+
+}  // namespace
+
+void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const QRectF& target,
+                const PictureColours& colours)
+{
+    painter.save();
+    painter.setClipRect(target);
+    painter.fillRect(target, colours.background);
+    painter.translate(target.left(), target.bottom());
+    painter.scale(target.width() / area.width(), -target.height() / area.height());
+    painter.translate(-area.left(), -area.top());
+    for (const Feature& feature : board.features) {
+        painter.fillPath(feature.area(),
+                         feature.isPositive() ? colours.positive : colours.background);
+    }
+    QPen pen(colours.outline);
+    pen.setCosmetic(true);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    if (colours.outline.alpha() > 0) {
+        painter.drawPolygon(board.outline);
+    }
+    painter.restore();
+}
+
+QImage toImage(const Board& board, int pixels, const PictureColours& colours)
+{
+    const QRectF area = shownArea(board);
+    if (area.isEmpty()) {
+        return {};
+    }
+    QImage image(sizeOf(area, pixels), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintBoard(painter, board, area, QRectF(image.rect()), colours);
+    return image;
+}
+
+bool writePng(const Board& board, const QString& file, int pixels, QString* error)
+{
+    if (refuseNothing(shownArea(board), file, error)) {
+        return false;
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    toImage(board, pixels).save(&buffer, "PNG");
+    return writeWhole(file, buffer.data(), error);
+}
+
+bool writeSvg(const Board& board, const QString& file, QString* error)
+{
+    const QRectF area = shownArea(board);
+    if (refuseNothing(area, file, error)) {
+        return false;
+    }
+    const QSize size = sizeOf(area, svgSide);
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setSize(size);
+    generator.setViewBox(QRect(QPoint(), size));
+    generator.setTitle(board.step.isEmpty() ? board.job
+                                            : board.job + QLatin1Char(' ') + board.step);
+    QPainter painter(&generator);
+    paintBoard(painter, board, area, QRectF(QPointF(), size));
+    painter.end();
+    return writeWhole(file, buffer.data(), error);
+}
+
+}  // namespace Pcb
