@@ -30,10 +30,9 @@ QByteArray plainAperture(const Geometry& pad, const Symbol& symbol)
 {
     const double width = symbol.width * std::abs(pad.xScale);
     const double height = symbol.height * std::abs(pad.yScale);
-    const double turn = pad.rotation + (pad.mirror ? -symbol.rotation : symbol.rotation);
     const bool isEvenlyScaled = std::abs(pad.xScale) == std::abs(pad.yScale);
-    const bool isUpright = isQuarterTurn(turn) && isQuarterTurn(pad.rotation);
-    const bool isAside = isUpright && std::fmod(std::abs(turn), 180) == 90;
+    const bool isUpright = isQuarterTurn(pad.rotation) && symbol.rotation == 0;
+    const bool isAside = std::fmod(std::abs(pad.rotation), 180) == 90;
     switch (symbol.family) {
         case SymbolFamily::Round:
             return isEvenlyScaled ? GerberWriter::aperture('C', width) : QByteArray();

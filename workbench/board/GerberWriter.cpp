@@ -149,7 +149,9 @@ void GerberWriter::region(const QPainterPath& area)
 
 QByteArray GerberWriter::file() const
 {
-    return "%FSLAX46Y46*%\n%MOMM*%\n" + m_macros + m_apertures + "%LPD*%\nG75*\nG01*\n" + m_body +
+    // Readers take a file without any aperture for one of the older format.
+    const QByteArray apertures = m_apertures.isEmpty() ? "%ADD10C,0.010000*%\n" : m_apertures;
+    return "%FSLAX46Y46*%\n%MOMM*%\n" + m_macros + apertures + "%LPD*%\nG75*\nG01*\n" + m_body +
            "M02*\n";
 }
 

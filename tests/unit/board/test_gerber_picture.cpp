@@ -1,0 +1,187 @@
+#include "Main.h"
+#include "SampleBoard.h"
+#include "board/GerberExport.h"
+#include "board/Paths.h"
+#include "board/PictureExport.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+using namespace Pcb;
+
+namespace {
+
+constexpr double micrometresOfInch = 25400;
+
+/// A square part of the board in a number of pixels that both programs make the same of.
+struct View {
+    QPointF corner;  ///< lower left, micrometres
+    int side;        ///< pixels
+    int dotsOfInch;
+
+    QRectF area() const
+    {
+        const double extent = side * micrometresOfInch / dotsOfInch;
+        return {corner, QSizeF(extent, extent)};
+    }
+
+    static View around(const QRectF& bounds, int side)
+    {
+        const double extent = qMax(bounds.width(), bounds.height()) * 1.1;
+        return {bounds.topLeft() - QPointF(extent, extent) * 0.05, side,
+                static_cast<int>(side * micrometresOfInch / extent)};
+    }
+};
+
+struct Agreement {
+    int covered = 0;  ///< pixels that either picture covers
+    int both = 0;
+
+    double part() const { return covered ? static_cast<double>(both) / covered : 0; }
+};
+
+bool isDark(QRgb pixel)
+{
+    return qGray(pixel) < 128;
+}
+
+Agreement compare(const QImage& a, const QImage& b)
+{
+    Agreement agreement;
+    if (a.size() != b.size()) {
+        return agreement;
+    }
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const bool first = isDark(a.pixel(x, y));
+            const bool second = isDark(b.pixel(x, y));
+            agreement.covered += first || second ? 1 : 0;
+            agreement.both += first && second ? 1 : 0;
+        }
+    }
+    return agreement;
+}
+
+QImage painted(const Board& board, const View& view)
+{
+    PictureColours colours;
+    colours.positive = Qt::black;
+    colours.outline = Qt::transparent;
+    QImage image(view.side, view.side, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintBoard(painter, board, view.area(), QRectF(image.rect()), colours);
+    return image;
+}
+
+/// The picture that the other program makes of the exported file; null where it fails or warns.
+QImage rendered(const Board& board, const View& view, const QTemporaryDir& folder)
+{
+    const QString gerber = folder.filePath(QStringLiteral("board.gbr"));
+    const QString picture = folder.filePath(QStringLiteral("board.png"));
+    QFile::remove(picture);
+    QString error;
+    if (!writeGerber(board, gerber, &error)) {
+        qWarning("%s", qPrintable(error));
+        return {};
+    }
+    const double inches = static_cast<double>(view.side) / view.dotsOfInch;
+    QProcess process;
+    process.start(QStringLiteral("gerbv"),
+                  QStringLiteral("-x png -D %1 -O %2x%3 -W %4x%4 -B 0 -b #FFFFFF -f #000000 -o")
+                          .arg(view.dotsOfInch)
+                          .arg(view.corner.x() / micrometresOfInch, 0, 'f', 9)
+                          .arg(view.corner.y() / micrometresOfInch, 0, 'f', 9)
+                          .arg(inches, 0, 'f', 9)
+                          .split(QLatin1Char(' '))
+                      << picture << gerber);
+    process.waitForFinished();
+    const QByteArray said = process.readAllStandardError() + process.readAllStandardOutput();
+    if (!said.trimmed().isEmpty()) {
+        qInfo("%s", said.constData());
+        return {};
+    }
+    return QImage(picture);
+}
+
+}  // namespace
+
+class GerberPictureTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY2(!QStandardPaths::findExecutable(QStringLiteral("gerbv")).isEmpty(),
+                 "gerbv must be installed");
+        QVERIFY(m_folder.isValid());
+    }
+
+    void wholeBoardAgrees()
+    {
+        const Board board = sampleBoard();
+        const QImage theirs = rendered(board, m_whole, m_folder);
+        const QImage ours = painted(board, m_whole);
+        QCOMPARE(theirs.size(), ours.size());
+        keep(ours, theirs);
+        const Agreement agreement = compare(ours, theirs);
+        qInfo("%.3f %% of %d covered pixels agree", agreement.part() * 100, agreement.covered);
+        QVERIFY(agreement.covered > 500000);
+        QVERIFY(agreement.part() >= 0.98);
+    }
+
+    /// Each feature by itself and large, so that a small one does not hide behind the others.
+    void eachFeatureAgrees()
+    {
+        for (const Feature& feature : sampleBoard().features) {
+            const View view = View::around(feature.bounds(), 500);
+            Board board;
+            if (!feature.isPositive()) {
+                board.features.emplace_back(
+                    surfaceGeometry(QPolygonF(view.area().adjusted(-10, -10, 10, 10))));
+            }
+            board.features.push_back(feature);
+            const Agreement agreement =
+                compare(painted(board, view), rendered(board, view, m_folder));
+            const Geometry& geometry = feature.geometry();
+            const QString what = QStringLiteral("%1 of %2 pixels agree: kind %3 %4 %5")
+                                     .arg(agreement.part())
+                                     .arg(agreement.covered)
+                                     .arg(static_cast<int>(geometry.kind))
+                                     .arg(geometry.symbol, geometry.text.content);
+            QVERIFY2(agreement.covered > 10000 && agreement.part() >= 0.98, qPrintable(what));
+        }
+    }
+
+    /// What the comparison says of a file that lacks its cut-outs.
+    void differencesAreSeen()
+    {
+        Board filled = sampleBoard();
+        for (Feature& feature : filled.features) {
+            Geometry geometry = feature.geometry();
+            geometry.positive = true;
+            feature = Feature(geometry);
+        }
+        const QImage theirs = rendered(filled, m_whole, m_folder);
+        QVERIFY(!theirs.isNull());
+        QVERIFY(compare(painted(sampleBoard(), m_whole), theirs).part() < 0.97);
+    }
+
+private:
+    static void keep(const QImage& ours, const QImage& theirs)
+    {
+        const QString folder = qEnvironmentVariable("CTS_KEEP_PICTURES");
+        if (!folder.isEmpty()) {
+            ours.save(folder + QStringLiteral("/board-painted.png"));
+            theirs.save(folder + QStringLiteral("/board-gerber.png"));
+        }
+    }
+
+    const View m_whole{{0, 0}, 2400, 1000};
+    QTemporaryDir m_folder;
+};
+
+CTS_MAIN(GerberPictureTest)
+#include "test_gerber_picture.moc"
