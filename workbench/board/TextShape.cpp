@@ -18,7 +18,7 @@ constexpr int quietModules = 2;           // around a matrix
 constexpr double stampHeight = 1016;      // of font size 1, zoom 1
 constexpr double stringOfHeight = 0.2;    // of the readable string beside a code
 constexpr double strokeOfHeight = 0.12;   // pen width of such a string and of a stamp
-constexpr double columnsOfAdvance = 5.0;  // from one character to the next, in glyph columns
+constexpr double columnsOfAdvance = 6.0;  // from one character to the next, in glyph columns
 
 struct CharacterSize {
     double width;
@@ -46,7 +46,7 @@ void appendString(TextDrawing& drawing, const QString& text, const QPointF& corn
 double widthOfString(const QString& text, const CharacterSize& size)
 {
     const double column = size.width / (glyphColumns - 1);
-    return text.isEmpty() ? 0 : column * (columnsOfAdvance * text.size() - 1);
+    return text.isEmpty() ? 0 : column * (columnsOfAdvance * text.size() - 2);
 }
 
 struct Code {

@@ -90,7 +90,7 @@ QImage rendered(const Board& board, const View& view, const QTemporaryDir& folde
     const double inches = static_cast<double>(view.side) / view.dotsOfInch;
     QProcess process;
     process.start(QStringLiteral("gerbv"),
-                  QStringLiteral("-x png -D %1 -O %2x%3 -W %4x%4 -B 0 -b #FFFFFF -f #000000 -o")
+                  QStringLiteral("-x png -D %1 -O %2;%3 -W %4x%4 -B 0 -b #FFFFFF -f #000000 -o")
                           .arg(view.dotsOfInch)
                           .arg(view.corner.x() / micrometresOfInch, 0, 'f', 9)
                           .arg(view.corner.y() / micrometresOfInch, 0, 'f', 9)
