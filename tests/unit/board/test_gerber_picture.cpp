@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QtMath>
 
 using namespace Pcb;
 
@@ -15,23 +16,35 @@ namespace {
 
 constexpr double micrometresOfInch = 25400;
 
-/// A square part of the board in a number of pixels that both programs make the same of.
+/// A square part of the board in a number of pixels that both programs make the same of, and with
+/// numbers short enough for the other one's command line.
 struct View {
     QPointF corner;  ///< lower left, micrometres
-    int side;        ///< pixels
-    int dotsOfInch;
+    int hundredths;  ///< of an inch, what a side measures
+    int dotsOfHundredth;
+
+    int side() const { return hundredths * dotsOfHundredth; }
 
     QRectF area() const
     {
-        const double extent = side * micrometresOfInch / dotsOfInch;
+        const double extent = hundredths / 100.0 * micrometresOfInch;
         return {corner, QSizeF(extent, extent)};
     }
 
-    static View around(const QRectF& bounds, int side)
+    QString origin() const
     {
-        const double extent = qMax(bounds.width(), bounds.height()) * 1.1;
-        return {bounds.topLeft() - QPointF(extent, extent) * 0.05, side,
-                static_cast<int>(side * micrometresOfInch / extent)};
+        return QStringLiteral("%1;%2")
+            .arg(corner.x() / micrometresOfInch, 0, 'f', 4)
+            .arg(corner.y() / micrometresOfInch, 0, 'f', 4);
+    }
+
+    static View around(const QRectF& bounds, int pixels)
+    {
+        constexpr double step = 2.54;
+        const double extent = qMax(bounds.width(), bounds.height());
+        const int hundredths = qCeil(extent / 254) + 2;
+        const QPointF corner = (bounds.topLeft() - QPointF(254, 254)) / step;
+        return {QPointF(corner.toPoint()) * step, hundredths, qMax(1, pixels / hundredths)};
     }
 };
 
@@ -64,12 +77,36 @@ Agreement compare(const QImage& a, const QImage& b)
     return agreement;
 }
 
+bool isDarkAround(const QImage& image, int x, int y)
+{
+    for (int row = qMax(0, y - 1); row <= qMin(image.height() - 1, y + 1); ++row) {
+        for (int column = qMax(0, x - 1); column <= qMin(image.width() - 1, x + 1); ++column) {
+            if (isDark(image.pixel(column, row))) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// How many dark pixels of `a` are farther than a pixel from any of `b`.
+int farFrom(const QImage& a, const QImage& b)
+{
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            count += isDark(a.pixel(x, y)) && !isDarkAround(b, x, y) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
 QImage painted(const Board& board, const View& view)
 {
     PictureColours colours;
     colours.positive = Qt::black;
     colours.outline = Qt::transparent;
-    QImage image(view.side, view.side, QImage::Format_RGB32);
+    QImage image(view.side(), view.side(), QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     paintBoard(painter, board, view.area(), QRectF(image.rect()), colours);
@@ -87,14 +124,12 @@ QImage rendered(const Board& board, const View& view, const QTemporaryDir& folde
         qWarning("%s", qPrintable(error));
         return {};
     }
-    const double inches = static_cast<double>(view.side) / view.dotsOfInch;
     QProcess process;
     process.start(QStringLiteral("gerbv"),
-                  QStringLiteral("-x png -D %1 -O %2;%3 -W %4x%4 -B 0 -b #FFFFFF -f #000000 -o")
-                          .arg(view.dotsOfInch)
-                          .arg(view.corner.x() / micrometresOfInch, 0, 'f', 9)
-                          .arg(view.corner.y() / micrometresOfInch, 0, 'f', 9)
-                          .arg(inches, 0, 'f', 9)
+                  QStringLiteral("-x png -D %1 -O %2 -W %3x%3 -B 0 -b #FFFFFF -f #000000 -o")
+                          .arg(100 * view.dotsOfHundredth)
+                          .arg(view.origin())
+                          .arg(view.hundredths / 100.0, 0, 'f', 2)
                           .split(QLatin1Char(' '))
                       << picture << gerber);
     process.waitForFinished();
@@ -132,26 +167,31 @@ private slots:
         QVERIFY(agreement.part() >= 0.98);
     }
 
-    /// Each feature by itself and large, so that a small one does not hide behind the others.
+    /// Each feature by itself and large, so that a small one does not hide behind the others. The
+    /// programs round edges to pixels in ways of their own, so one pixel does not count.
     void eachFeatureAgrees()
     {
         for (const Feature& feature : sampleBoard().features) {
-            const View view = View::around(feature.bounds(), 500);
+            const View view = View::around(feature.bounds(), 700);
             Board board;
             if (!feature.isPositive()) {
                 board.features.emplace_back(
                     surfaceGeometry(QPolygonF(view.area().adjusted(-10, -10, 10, 10))));
             }
             board.features.push_back(feature);
-            const Agreement agreement =
-                compare(painted(board, view), rendered(board, view, m_folder));
+            const QImage ours = painted(board, view);
+            const QImage theirs = rendered(board, view, m_folder);
+            keep(ours, theirs);
+            QCOMPARE(theirs.size(), ours.size());
+            const int covered = compare(ours, theirs).covered;
+            const int astray = farFrom(ours, theirs) + farFrom(theirs, ours);
             const Geometry& geometry = feature.geometry();
-            const QString what = QStringLiteral("%1 of %2 pixels agree: kind %3 %4 %5")
-                                     .arg(agreement.part())
-                                     .arg(agreement.covered)
+            const QString what = QStringLiteral("%1 of %2 pixels are astray: kind %3 %4 %5")
+                                     .arg(astray)
+                                     .arg(covered)
                                      .arg(static_cast<int>(geometry.kind))
                                      .arg(geometry.symbol, geometry.text.content);
-            QVERIFY2(agreement.covered > 10000 && agreement.part() >= 0.98, qPrintable(what));
+            QVERIFY2(covered > 5000 && astray <= covered / 1000, qPrintable(what));
         }
     }
 
@@ -179,7 +219,7 @@ private:
         }
     }
 
-    const View m_whole{{0, 0}, 2400, 1000};
+    const View m_whole{{0, 0}, 240, 10};
     QTemporaryDir m_folder;
 };
 
