@@ -187,13 +187,18 @@ bool AddFeature::checkNumber(double value, double minimum, double maximum)
     return m_checks.number(value, minimum, maximum);
 }
 
-void AddFeature::restoreCommonRows()
+bool AddFeature::restoreCommonRows()
 {
+    const QPointer<AddFeature> self(this);
     m_attributes->setCheckBoxVisible(true);
     m_attributes->setFillVisible(true);
     m_attributes->stateChanged();
+    if (!self) {
+        return false;
+    }
     m_pPolarityCMB->show();
     m_symbol->setControlsVisible(true);
+    return true;
 }
 
 void AddFeature::setRowVisible(CommonRow row, bool visible)
@@ -223,7 +228,9 @@ void AddFeature::setRowVisible(CommonRow row, bool visible)
 void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
 {
     const FeatureType type = featureType();
-    restoreCommonRows();
+    if (!restoreCommonRows()) {
+        return;
+    }
     m_attributes->setFillEnabled(type == FeatureType::Surface);
     const bool isPlaced = type == FeatureType::Pad || type == FeatureType::Text;
     m_pMirrorCMB->setVisible(isPlaced);
@@ -348,6 +355,6 @@ void AddFeature::closeEvent(QCloseEvent* event)
     m_attributes->closePopups();
     m_symbol->closePopups();
     m_text->closePopups();
-    Q_EMIT change_viewtool();
     QWidget::closeEvent(event);
+    Q_EMIT change_viewtool();
 }

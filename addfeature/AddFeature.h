@@ -157,7 +157,7 @@ private:
     bool checkLength(const QString& text, double boundInMil) override;
     bool checkCoordinate(double value) override;
     bool checkNumber(double value, double minimum, double maximum) override;
-    void restoreCommonRows() override;
+    bool restoreCommonRows() override;
     void setRowVisible(CommonRow row, bool visible) override;
     QObject* slotOwner() override { return this; }
     RefusalGuard& refusals() override { return m_refusals; }

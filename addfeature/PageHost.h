@@ -40,8 +40,9 @@ public:
     /// A plain number without a unit.
     virtual bool checkNumber(double value, double minimum, double maximum) = 0;
 
-    /// Shows the common controls again and tells the canvas the state of the attributes.
-    virtual void restoreCommonRows() = 0;
+    /// Shows the common controls again and tells the canvas the state of the attributes. False when
+    /// a receiver of that has deleted the dialog, and the caller with it.
+    virtual bool restoreCommonRows() = 0;
     virtual void setRowVisible(CommonRow row, bool visible) = 0;
 
     /// The object whose named slots the controls of a page are connected to.

@@ -285,7 +285,11 @@ QString SymbolEntry::converted(const QString& name, int direction) const
 
 void SymbolEntry::picked(const std::map<int, std::string>& symbols)
 {
+    const QPointer<SymbolEntry> self(this);
     for (const auto& symbol : symbols) {
+        if (!self) {
+            return;  // a receiver of what was sent has deleted the dialog
+        }
         QString name = QString::fromStdString(symbol.second);
         if (m_host.featureType() == FeatureType::Arc && !isRound(name)) {
             m_host.refusals().run([&] {

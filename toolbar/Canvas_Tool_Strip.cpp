@@ -19,8 +19,10 @@ constexpr int buttonSize = 40;
 /// What the pointer shows and what a screen reader says of a tool.
 void nameTool(QToolButton* button, const QString& name)
 {
-    button->setToolTip(name);
-    button->setAccessibleName(name);
+    if (button) {
+        button->setToolTip(name);
+        button->setAccessibleName(name);
+    }
 }
 
 void applyStart(QToolButton* button, ToolTable::Start start)

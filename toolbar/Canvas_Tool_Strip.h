@@ -117,7 +117,9 @@ private:
     void createAddFeatureDialog();
     void createMeasurePopup();
 
-    QToolButton* button(Tool tool) const;
+    QToolButton* button(Tool tool) const;  // null when the parent widget took it along
+    void check(Tool tool);
+    void setStyleSheet(Tool tool, const QString& styleSheet);
     void activate(Tool tool, qint64 extra = 0);
     void activateVariant(Tool tool, const Variant& variant);
     void send(int code, qint64 extra = 0);
@@ -136,12 +138,12 @@ private:
     void change_unit();
     void setText();
 
-    QWidget* m_parent;
-    QList<QToolButton*> m_buttons;  // in the order of Tool
-    QMenu* m_deleteMenu = nullptr;  // the menus are made on the first right-click
-    QMenu* m_netMenu = nullptr;
-    QMenu* m_markMenu = nullptr;
-    // Children of the parent widget, which may delete them before this object.
+    // The parent widget may go before this object does, and takes its children with it.
+    QPointer<QWidget> m_parent;
+    QList<QPointer<QToolButton>> m_buttons;  // in the order of Tool
+    QPointer<QMenu> m_deleteMenu;            // the menus are made on the first right-click
+    QPointer<QMenu> m_netMenu;
+    QPointer<QMenu> m_markMenu;
     QPointer<AddFeature> m_addFeature;
     QPointer<Grc_Tbe_measurepopup> m_measurePopup;
     std::string m_job = " ";

@@ -82,19 +82,19 @@ void Canvas_Tool_Strip::recMsgFromManager(PluginMetaData message)
 
 void Canvas_Tool_Strip::checkAndRun(Tool tool, void (Canvas_Tool_Strip::*handler)())
 {
-    button(tool)->setChecked(true);
+    check(tool);
     (this->*handler)();
 }
 
 void Canvas_Tool_Strip::selectByNet(const PluginMetaData& message)
 {
-    button(Tool::SelectByNet)->setChecked(true);
+    check(Tool::SelectByNet);
     On_SelectPolyline_Clicked(message.code);
 }
 
 void Canvas_Tool_Strip::showAddFeatureActive()
 {
-    if (!button(Tool::AddFeature)->isChecked()) {
+    if (!isToolButtonChecked(static_cast<int>(Tool::AddFeature))) {
         SetAllButtonchecked(false, button(Tool::AddFeature));
     }
 }

@@ -22,13 +22,30 @@ QToolButton* Canvas_Tool_Strip::button(Tool tool) const
 void Canvas_Tool_Strip::SetAllButtonchecked(bool checked, QToolButton* except)
 {
     for (QToolButton* const tool : std::as_const(m_buttons)) {
-        tool->setChecked(checked || tool == except);
+        if (tool) {
+            tool->setChecked(checked || tool == except);
+        }
+    }
+}
+
+void Canvas_Tool_Strip::check(Tool tool)
+{
+    if (QToolButton* const checked = button(tool)) {
+        checked->setChecked(true);
+    }
+}
+
+void Canvas_Tool_Strip::setStyleSheet(Tool tool, const QString& styleSheet)
+{
+    if (QToolButton* const dressed = button(tool)) {
+        dressed->setStyleSheet(styleSheet);
     }
 }
 
 bool Canvas_Tool_Strip::isToolButtonChecked(int index) const
 {
-    return index >= 0 && index < m_buttons.size() && m_buttons[index]->isChecked();
+    const bool isKnown = index >= 0 && index < m_buttons.size() && m_buttons[index];
+    return isKnown && m_buttons[index]->isChecked();
 }
 
 void Canvas_Tool_Strip::send(PluginMetaData message, int code, qint64 extra)
@@ -47,7 +64,8 @@ void Canvas_Tool_Strip::activate(Tool tool, qint64 extra)
 {
     SetAllButtonchecked(false, button(tool));
     const ToolTable::Row& row = ToolTable::row(tool);
-    send(button(tool)->isChecked() ? row.onCode : row.offCode, extra);
+    const bool isChecked = isToolButtonChecked(static_cast<int>(tool));
+    send(isChecked ? row.onCode : row.offCode, extra);
 }
 
 void Canvas_Tool_Strip::On_AreaZoom_Clicked()
@@ -200,9 +218,8 @@ void Canvas_Tool_Strip::On_SelectPolyline_Clicked(int datatype)
     for (const NetMode& mode : netModes) {
         if (mode.code == datatype) {
             code = mode.code;
-            button(Tool::SelectByNet)
-                ->setStyleSheet(ToolTable::styleSheet(mode.image, mode.checkedImage) +
-                                QLatin1String(mode.trailingStyle));
+            setStyleSheet(Tool::SelectByNet, ToolTable::styleSheet(mode.image, mode.checkedImage) +
+                                                 QLatin1String(mode.trailingStyle));
         }
     }
     send(code);
@@ -217,8 +234,11 @@ void Canvas_Tool_Strip::On_AddFeature_Clicked()
     } else {
         createAddFeatureDialog();
     }
-    m_addFeature->raise();
-    m_addFeature->show();
+    // A receiver of what was just sent may have deleted it.
+    if (m_addFeature) {
+        m_addFeature->raise();
+        m_addFeature->show();
+    }
 }
 
 void Canvas_Tool_Strip::createAddFeatureDialog()
@@ -248,7 +268,9 @@ void Canvas_Tool_Strip::createAddFeatureDialog()
     connect(m_addFeature, SIGNAL(Select_symbol()), this, SLOT(on_m_pAddfeature_Select_symbol()));
 
     send(Sent::AddFeature);
-    connect(m_addFeature, SIGNAL(change_viewtool()), this, SLOT(On_AreaZoom_Clicked()));
+    if (m_addFeature) {
+        connect(m_addFeature, SIGNAL(change_viewtool()), this, SLOT(On_AreaZoom_Clicked()));
+    }
 }
 
 void Canvas_Tool_Strip::on_m_pAddfeature_Select_symbol()
@@ -272,7 +294,9 @@ void Canvas_Tool_Strip::On_Measure_Clicked()
 void Canvas_Tool_Strip::get_right_click_zoom_area()
 {
     SetAllButtonchecked(false, button(Tool::AreaZoom));
-    button(Tool::AreaZoom)->toggle();
+    if (QToolButton* const areaZoom = button(Tool::AreaZoom)) {
+        areaZoom->toggle();
+    }
     send(Sent::AreaZoom);
 }
 

@@ -307,7 +307,9 @@ void LinePage::showUnits()
 
 void LinePage::lineKindChanged()
 {
-    m_host.restoreCommonRows();
+    if (!m_host.restoreCommonRows()) {
+        return;
+    }
     if (const Choice* choice = currentChoice(m_kind, kinds)) {
         m_host.record().set(FeatureKeys::line, choice->value);
         showKind(m_kind->currentIndex());

@@ -1,0 +1,160 @@
+#include "RandomUser.h"
+
+#include "Invariants.h"
+#include "Refusals.h"
+#include "plugin/PluginEntry.h"
+
+#include <CamApiStandIn.h>
+#include <PluginManagerStandIn.h>
+#include <QTpluginsManger4CAM.h>
+#include <UiApiStandIn.h>
+
+#include <QApplication>
+#include <QtTest>
+
+#include <utility>
+
+namespace {
+
+constexpr int toolCount = 26;
+constexpr int symbolsPicked = 20001811;
+
+CanvasHost::Job demoJob(const char* name, std::vector<std::string> specialSymbols)
+{
+    CanvasHost::Job job;
+    job.name = name;
+    job.steps = {"step"};
+    job.fonts = {"simple", "standard"};
+    job.specialSymbols = std::move(specialSymbols);
+    job.userSymbols = {"logo"};
+    job.specialTexts = {"JOB", "DATE"};
+    job.attributes = {{".net", CanvasHost::AttributeKind::Text, {}},
+                      {".smd", CanvasHost::AttributeKind::Flag, {}}};
+    return job;
+}
+
+}  // namespace
+
+QString& RandomUser::complaint()
+{
+    static QString theComplaint;
+    return theComplaint;
+}
+
+RandomUser::RandomUser(std::optional<int> forbiddenCode)
+    : m_window(std::make_unique<QWidget>()), m_forbiddenCode(forbiddenCode)
+{
+    CanvasHost::clearJobs();
+    CanvasHost::addJob(demoJob("job", {"fiducial_cross", "Target 1"}));
+    CanvasHost::addJob(demoJob("other", {"coupon"}));
+    CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
+
+    m_strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(m_window.get()));
+    m_window->setLayout(m_strip);
+    m_window->show();
+    CanvasHost::addInstance(QStringLiteral("Canvas_Tool_Strip.dll"), m_strip, recMsgFromManager,
+                            m_window.get());
+    m_recorder.setOnMessage([this](const Recorder::Entry&) { receiveAnswer(); });
+    // A dialog that is made later starts in mil.
+    QObject::connect(m_strip, &Canvas_Tool_Strip::Current_Unit_Changed, m_window.get(),
+                     [this](bool isMM) { m_isMetric = isMM && dialog(); });
+}
+
+RandomUser::~RandomUser()
+{
+    CanvasHost::removeInstance(m_strip);
+    m_recorder.setOnMessage({});
+    m_window.reset();
+    m_boxes.take();
+}
+
+AddFeature* RandomUser::dialog() const
+{
+    return m_window->findChild<AddFeature*>();
+}
+
+QString RandomUser::perform(quint32 number)
+{
+    m_random.seed(number);
+    m_story.clear();
+    const AddFeature* const before = dialog();
+    m_mayRefuse = before && !Refusals::doubtfulField(*before, m_isMetric).isEmpty();
+    act();
+    QString found = fault();
+    m_recorder.clear();
+    return found;
+}
+
+QString RandomUser::fault()
+{
+    if (!complaint().isEmpty()) {
+        return std::exchange(complaint(), {});
+    }
+    int checked = 0;
+    for (int tool = 0; tool < toolCount; ++tool) {
+        checked += m_strip->isToolButtonChecked(tool);
+    }
+    m_mayHaveAllTools = m_mayHaveAllTools && checked == toolCount;
+    if (checked > 1 && !m_mayHaveAllTools) {
+        return QStringLiteral("%1 checked tools").arg(checked);
+    }
+    QString found = faultOfBoxes();
+    if (found.isEmpty() && dialog()) {
+        record();  // its own message is looked at with the others
+    }
+    return found.isEmpty() ? faultOfMessages() : found;
+}
+
+QString RandomUser::faultOfBoxes()
+{
+    for (const BoxCatcher::Box& box : m_boxes.take()) {
+        const QString words = box.title + ": " + box.text;
+        ++m_boxCount;
+        if (!Refusals::isKnown(box.title, box.text)) {
+            return "an unknown box: " + words;
+        }
+        if (!m_mayRefuse) {
+            return "a box without a reason: " + words;
+        }
+    }
+    return {};
+}
+
+QString RandomUser::faultOfMessages()
+{
+    for (const Recorder::Entry& entry : m_recorder.messages()) {
+        if (entry.message.sender == QLatin1String("Sibling.dll")) {
+            continue;  // what this user sent to the module
+        }
+        ++m_sent[entry.message.code];
+        if (entry.message.code == m_forbiddenCode) {
+            return QStringLiteral("the forbidden code %1").arg(entry.message.code);
+        }
+        if (entry.sender != m_window.get()) {
+            return QStringLiteral("%1 with another sender").arg(entry.message.code);
+        }
+        QString found = Invariants::faultOf(entry);
+        if (!found.isEmpty()) {
+            return found;
+        }
+    }
+    return {};
+}
+
+/// The record as the next message would carry it: code 52 is sent whatever the symbol field says.
+QVariantMap RandomUser::record()
+{
+    const std::optional<PluginMetaData> answer = std::exchange(m_answer, {});
+    QMetaObject::invokeMethod(dialog(), "on_Line_Button_Clicked", Q_ARG(QAbstractButton*, nullptr));
+    m_answer = answer;
+    return m_recorder.messages().last().message.payload;
+}
+
+/// What the canvas was told to answer to the next message, within the call.
+void RandomUser::receiveAnswer()
+{
+    if (const std::optional<PluginMetaData> answer = std::exchange(m_answer, {})) {
+        m_mayRefuse = m_mayRefuse || answer->code == symbolsPicked;
+        QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, *answer);
+    }
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "BoxCatcher.h"
+#include "QuotingTranslator.h"
+#include "Recorder.h"
+#include "addfeature/AddFeature.h"
+#include "toolbar/Canvas_Tool_Strip.h"
+
+#include <QMap>
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+/// A user and a host at once, without any sense: does with the module what a number says.
+///
+/// What a number does depends on it and on the state alone, so that a list of numbers can be played
+/// again, and a shorter one made of it.
+class RandomUser {
+public:
+    explicit RandomUser(std::optional<int> forbiddenCode);
+    ~RandomUser();
+    RandomUser(const RandomUser&) = delete;
+    RandomUser& operator=(const RandomUser&) = delete;
+
+    /// Does one thing, and says what is wrong after it; empty: nothing is.
+    QString perform(quint32 number);
+
+    /// What the last number did, in a few words.
+    const QString& story() const { return m_story; }
+    /// How often each code was sent.
+    const QMap<int, int>& sent() const { return m_sent; }
+    int boxCount() const { return m_boxCount; }
+
+    /// What Qt says on its own account (a connection that fails, a style sheet that it cannot
+    /// read) is a fault; set by the program's message handler.
+    static QString& complaint();
+
+private:
+    int below(int limit) { return m_random.bounded(limit); }
+    template <class Range>
+    auto oneOf(const Range& range)
+    {
+        return *(std::begin(range) + below(int(std::size(range))));
+    }
+    QString randomText();
+
+    void act();
+    void clickTool();
+    void openMenu();
+    void receive();
+    void receiveAnswer();
+    PluginMetaData message();
+    void prepareExtra(PluginMetaData& message);
+    void callDirectly();
+    void switchLanguage();
+    void useWindow(QWidget* window);
+    void useControl(QWidget* control);
+    void enterText(QLineEdit* field);
+    void closeWindow();
+
+    QString fault();
+    QString faultOfBoxes();
+    QString faultOfMessages();
+    AddFeature* dialog() const;
+    QVariantMap record();
+
+    QRandomGenerator m_random;
+    Recorder m_recorder;
+    BoxCatcher m_boxes;
+    std::unique_ptr<QuotingTranslator> m_translator;
+    std::unique_ptr<QWidget> m_window;
+    QPointer<Canvas_Tool_Strip> m_strip;
+    std::optional<PluginMetaData> m_answer;
+    std::optional<int> m_forbiddenCode;
+    QString m_story;
+    QMap<int, int> m_sent;
+    int m_boxCount = 0;
+    bool m_isMetric = false;         // what the dialog was last told
+    bool m_mayRefuse = false;        // something doubtful was entered or picked
+    bool m_mayHaveAllTools = false;  // all tools were checked on purpose
+    const std::string m_job = "other";
+    std::map<int, std::string> m_symbols;
+    std::map<std::string, std::string> m_attributes;
+};

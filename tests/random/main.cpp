@@ -1,0 +1,202 @@
+// Random use of strip and dialog, without end if need be; see docs/reliability.md.
+
+#include "RandomUser.h"
+#include "Shrinker.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <glog/logging.h>
+
+namespace {
+
+constexpr int failed = 1;
+constexpr int wrongUse = 2;
+constexpr int oneRunMilliseconds = 10 * 60 * 1000;
+
+using Numbers = QVector<quint32>;
+
+/// The numbers that a seed stands for.
+Numbers numbersOf(quint32 seed, int count)
+{
+    QRandomGenerator generator(seed);
+    Numbers numbers(count);
+    generator.fillRange(numbers.data(), count);
+    return numbers;
+}
+
+struct Failure {
+    int step = 0;  ///< from 1; 0: none
+    QString fault;
+};
+
+class Program {
+public:
+    explicit Program(const QCommandLineParser& options)
+        : m_steps(options.value("steps").toInt()), m_tells(options.isSet("story"))
+    {
+        if (options.isSet("forbid")) {
+            m_forbidden = options.value("forbid").toInt();
+        }
+    }
+
+    int runSeeds(quint32 first, quint32 count)
+    {
+        for (quint32 seed = first; seed < first + count; ++seed) {
+            const Failure failure = play(numbersOf(seed, m_steps));
+            if (failure.step > 0) {
+                m_out << "seed " << seed << ", step " << failure.step << ": " << failure.fault
+                      << "\nAgain:    --seed " << seed << " --steps " << failure.step
+                      << " --story\nShorter:  --seed " << seed << " --steps " << failure.step
+                      << " --shrink\n";
+                return failed;
+            }
+        }
+        m_out << count << " seeds, " << m_steps << " steps each: " << m_messages << " messages of "
+              << m_codes.size() << " kinds, " << m_boxes << " boxes, no fault\n";
+        return 0;
+    }
+
+    int replay(const QString& file)
+    {
+        QFile source(file);
+        if (!source.open(QIODevice::ReadOnly)) {
+            m_out << file << ": " << source.errorString() << '\n';
+            return wrongUse;
+        }
+        Numbers numbers;
+        for (const QString& word :
+             QString::fromUtf8(source.readAll()).simplified().split(' ', Qt::SkipEmptyParts)) {
+            bool isNumber = false;
+            numbers.append(word.toUInt(&isNumber));
+            if (!isNumber) {
+                m_out << file << ": \"" << word << "\" is no number\n";
+                return wrongUse;
+            }
+        }
+        const Failure failure = play(numbers);
+        if (failure.step > 0) {
+            m_out << "step " << failure.step << ": " << failure.fault << '\n';
+        }
+        return failure.step > 0 ? failed : 0;
+    }
+
+    /// Each try is a process of its own: what is looked for may be a crash.
+    int shrink(quint32 seed, const QString& target)
+    {
+        QTemporaryDir directory;
+        const QString file = directory.filePath("numbers");
+        QStringList arguments{"--numbers", file};
+        if (m_forbidden) {
+            arguments << "--forbid" << QString::number(*m_forbidden);
+        }
+        const auto fails = [&](const Numbers& numbers) {
+            write(numbers, file);
+            QProcess child;
+            child.start(QCoreApplication::applicationFilePath(), arguments);
+            return child.waitForFinished(oneRunMilliseconds) &&
+                   (child.exitStatus() == QProcess::CrashExit || child.exitCode() == failed);
+        };
+        Numbers numbers = numbersOf(seed, m_steps);
+        if (!fails(numbers)) {
+            m_out << "seed " << seed << " does not fail within " << m_steps << " steps\n";
+            return wrongUse;
+        }
+        numbers = shrunk(numbers, fails);
+        write(numbers, target);
+        m_out << numbers.size() << " steps are left of " << m_steps << "; again: --numbers "
+              << target << " --story\n";
+        return failed;
+    }
+
+private:
+    static void write(const Numbers& numbers, const QString& file)
+    {
+        QFile target(file);
+        if (!target.open(QIODevice::WriteOnly)) {
+            qFatal("%s: %s", qPrintable(file), qPrintable(target.errorString()));
+        }
+        for (const quint32 number : numbers) {
+            target.write(QByteArray::number(number) + '\n');
+        }
+    }
+
+    Failure play(const Numbers& numbers)
+    {
+        RandomUser user(m_forbidden);
+        for (int step = 0; step < numbers.size(); ++step) {
+            const QString fault = user.perform(numbers[step]);
+            if (m_tells) {
+                m_out << step + 1 << ": " << user.story() << '\n';
+                m_out.flush();
+            }
+            if (!fault.isEmpty()) {
+                return {step + 1, fault};
+            }
+        }
+        for (auto sent = user.sent().begin(); sent != user.sent().end(); ++sent) {
+            m_codes.insert(sent.key());
+            m_messages += sent.value();
+        }
+        m_boxes += user.boxCount();
+        return {};
+    }
+
+    QTextStream m_out{stdout};
+    int m_steps;
+    bool m_tells;
+    std::optional<int> m_forbidden;
+    qint64 m_messages = 0;
+    qint64 m_boxes = 0;
+    QSet<int> m_codes;
+};
+
+/// What Qt itself complains of is a fault; what the windowless platform cannot do is not.
+void hear(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    const bool isComplaint = type != QtDebugMsg && type != QtInfoMsg;
+    if (isComplaint && !text.startsWith(QLatin1String("This plugin does not support"))) {
+        RandomUser::complaint() = QString(context.category) + ": " + text;
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    FLAGS_stderrthreshold = google::NUM_SEVERITIES;
+    for (google::LogSeverity severity = 0; severity < google::NUM_SEVERITIES; ++severity) {
+        google::SetLogDestination(severity, "");
+    }
+    google::InitGoogleLogging(argv[0]);
+
+    QCommandLineParser options;
+    options.setApplicationDescription("Uses tool strip and dialog at random.");
+    options.addHelpOption();
+    options.addOptions({
+        {"seed", "The first seed (1).", "number", "1"},
+        {"seeds", "How many seeds (1).", "number", "1"},
+        {"steps", "How many steps for each seed (400).", "number", "400"},
+        {"story", "Tell each step."},
+        {"numbers", "Play these numbers instead of a seed's.", "file"},
+        {"shrink", "Find fewer steps that fail."},
+        {"to", "Where the fewer numbers go (random.numbers).", "file", "random.numbers"},
+        {"forbid", "Take this code for a fault: to try the program itself.", "code"},
+    });
+    options.process(application);
+    qInstallMessageHandler(hear);
+
+    Program program(options);
+    const quint32 seed = options.value("seed").toUInt();
+    if (options.isSet("numbers")) {
+        return program.replay(options.value("numbers"));
+    }
+    return options.isSet("shrink") ? program.shrink(seed, options.value("to"))
+                                   : program.runSeeds(seed, options.value("seeds").toUInt());
+}

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# A planted fault (the fill request counts as one) is found, shrinks to a few steps, and those fail
+# again in the same way. Usage: shrinks.sh RANDOM_USE
+set -u
+dir=$(mktemp -d)
+trap 'rm -rf "$dir"' EXIT
+
+said=$("$1" --seed 3 --steps 20000 --forbid 53)
+[ $? -eq 1 ] || { echo "the planted fault is not found: $said"; exit 1; }
+steps=$(sed -n 's/^seed 3, step \([0-9]*\): the forbidden code 53$/\1/p' <<<"$said")
+[ -n "$steps" ] || { echo "no step in: $said"; exit 1; }
+
+"$1" --seed 3 --steps "$steps" --forbid 53 --shrink --to "$dir/numbers"
+[ $? -eq 1 ] || { echo "nothing to shrink"; exit 1; }
+# Open the dialog, choose the surface, press Fill.
+[ "$(wc -l <"$dir/numbers")" -le 3 ] || { echo "still long:"; cat "$dir/numbers"; exit 1; }
+
+"$1" --numbers "$dir/numbers" --forbid 53 --story | tee "$dir/again"
+grep -q "the forbidden code 53$" "$dir/again" || { echo "the fewer steps do not fail"; exit 1; }
+"$1" --numbers "$dir/numbers" || { echo "they fail without the planted fault"; exit 1; }

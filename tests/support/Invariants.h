@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Recorder.h"
+
+#include <QVariantMap>
+
+/// What holds of every record and message of the module, whatever was done before. Each function
+/// says what is wrong; an empty text when nothing is.
+namespace Invariants {
+
+/// 45 keys, each of its type, the numbers within their metric bounds.
+QString faultOf(const QVariantMap& record);
+
+/// A code that the module sends, with its sender, receiver, extra word and payload.
+QString faultOf(const Recorder::Entry& entry);
+
+}  // namespace Invariants
