@@ -3,74 +3,84 @@
 #include <QString>
 
 /// The keys of the feature parameter record. A receiver reads every value as text or integer; where
-/// the type is not named it is text. Lengths are micrometres unless said otherwise.
+/// the type is not named it is text. Lengths are micrometres unless said otherwise. Like all that
+/// is sent they outlive the library; see ModuleNames.h.
 namespace FeatureKeys {
 
 // The frame
 inline const QString features =
-    QStringLiteral("Features");  ///< 1 Line … 5 Text; integer once chosen
+    QString::fromLatin1("Features");  ///< 1 Line … 5 Text; integer once chosen
 inline const QString attributes =
-    QStringLiteral("Attributes");                            ///< "1" with attributes, "0" without
-inline const QString polarity = QStringLiteral("Polarity");  ///< "1" positive, "0" negative
-inline const QString mirror = QStringLiteral("Mirror");      ///< "1" mirrored, "2" not
-inline const QString mirrorRotate = QStringLiteral("MirrorRotate");  ///< rotation, whole degrees
-inline const QString symbolText = QStringLiteral("SymbolText");      ///< symbol name, sizes in mil
+    QString::fromLatin1("Attributes");  ///< "1" with attributes, "0" without
+inline const QString polarity = QString::fromLatin1("Polarity");  ///< "1" positive, "0" negative
+inline const QString mirror = QString::fromLatin1("Mirror");      ///< "1" mirrored, "2" not
+inline const QString mirrorRotate =
+    QString::fromLatin1("MirrorRotate");                              ///< rotation, whole degrees
+inline const QString symbolText = QString::fromLatin1("SymbolText");  ///< symbol name, sizes in mil
 
 // Line
-inline const QString line = QStringLiteral("Line");      ///< "1" single … "4" slot
-inline const QString closed = QStringLiteral("Closed");  ///< "1" closed polyline, "0" open
+inline const QString line = QString::fromLatin1("Line");      ///< "1" single … "4" slot
+inline const QString closed = QString::fromLatin1("Closed");  ///< "1" closed polyline, "0" open
 inline const QString angleGroup =
-    QStringLiteral("AngleGroup");  ///< 1 free … 6 fixed; integer once chosen
-inline const QString angle = QStringLiteral("Angel(deg)");  ///< degrees, spelled so deliberately
+    QString::fromLatin1("AngleGroup");  ///< 1 free … 6 fixed; integer once chosen
+inline const QString angle =
+    QString::fromLatin1("Angel(deg)");  ///< degrees, spelled so deliberately
 inline const QString cornerType =
-    QStringLiteral("CornerType");  ///< 1 straight … 4 oblong; integer once chosen
-inline const QString cornerRadius = QStringLiteral("CornerRadius");
-inline const QString slotPlated = QStringLiteral("SlotPlated");  ///< "1" plated, "2" not
-inline const QString slotLength = QStringLiteral("SlotLength");  ///< millimetre
-inline const QString slotAngle = QStringLiteral("SlotAngle");    ///< degrees, as typed
-inline const QString slotDecode = QStringLiteral("SlotDecode");  ///< as typed
+    QString::fromLatin1("CornerType");  ///< 1 straight … 4 oblong; integer once chosen
+inline const QString cornerRadius = QString::fromLatin1("CornerRadius");
+inline const QString slotPlated = QString::fromLatin1("SlotPlated");  ///< "1" plated, "2" not
+inline const QString slotLength = QString::fromLatin1("SlotLength");  ///< millimetre
+inline const QString slotAngle = QString::fromLatin1("SlotAngle");    ///< degrees, as typed
+inline const QString slotDecode = QString::fromLatin1("SlotDecode");  ///< as typed
 
 // Pad
-inline const QString padNx = QStringLiteral("PadNx");  ///< count, as typed
-inline const QString padNy = QStringLiteral("PadNy");
-inline const QString padDx = QStringLiteral("PadDx");  ///< pitch
-inline const QString padDy = QStringLiteral("PadDy");
-inline const QString padXscl = QStringLiteral("PadXscl");  ///< scale factor, as typed
-inline const QString padYscl = QStringLiteral("PadYscl");
+inline const QString padNx = QString::fromLatin1("PadNx");  ///< count, as typed
+inline const QString padNy = QString::fromLatin1("PadNy");
+inline const QString padDx = QString::fromLatin1("PadDx");  ///< pitch
+inline const QString padDy = QString::fromLatin1("PadDy");
+inline const QString padXscl = QString::fromLatin1("PadXscl");  ///< scale factor, as typed
+inline const QString padYscl = QString::fromLatin1("PadYscl");
 
 // Surface
 inline const QString surfaceShape =
-    QStringLiteral("SurfaceShape");  ///< "1" rectangle, "2" polygon, "3" circle
+    QString::fromLatin1("SurfaceShape");  ///< "1" rectangle, "2" polygon, "3" circle
 
 // Arc
-inline const QString arcAndCircle = QStringLiteral("Arc&Circle");  ///< "1" arc, "2" circle
-inline const QString arcMode = QStringLiteral("ArcMode");          ///< "1" to "7"
-inline const QString circleMode = QStringLiteral("CircleMode");    ///< "1" to "4"
-inline const QString clockWise = QStringLiteral("ClockWise");      ///< "1" clockwise, "2" not
+inline const QString arcAndCircle = QString::fromLatin1("Arc&Circle");  ///< "1" arc, "2" circle
+inline const QString arcMode = QString::fromLatin1("ArcMode");          ///< "1" to "7"
+inline const QString circleMode = QString::fromLatin1("CircleMode");    ///< "1" to "4"
+inline const QString clockWise = QString::fromLatin1("ClockWise");      ///< "1" clockwise, "2" not
 
 // Text
-inline const QString textFormat = QStringLiteral("TextFormat");  ///< "1", "BarcodeMode", "3", "4"
-inline const QString stringTextFont = QStringLiteral("StringTextFont");
-inline const QString textContains = QStringLiteral("TextContains");  ///< the text to place
-inline const QString stringXSize = QStringLiteral("StringXSize");
-inline const QString stringYSize = QStringLiteral("StringYSize");
-inline const QString stringLineWidth = QStringLiteral("StringLineWidth");
+inline const QString textFormat =
+    QString::fromLatin1("TextFormat");  ///< "1", "BarcodeMode", "3", "4"
+inline const QString stringTextFont = QString::fromLatin1("StringTextFont");
+inline const QString textContains = QString::fromLatin1("TextContains");  ///< the text to place
+inline const QString stringXSize = QString::fromLatin1("StringXSize");
+inline const QString stringYSize = QString::fromLatin1("StringYSize");
+inline const QString stringLineWidth = QString::fromLatin1("StringLineWidth");
 
 // Barcode
-inline const QString barcodeMode = QStringLiteral("BarcodeMode");  ///< 1 to 5; integer once chosen
-inline const QString addString = QStringLiteral("AddString");  ///< "1" on, "2" off; so the next two
-inline const QString addBackground = QStringLiteral("AddBackground");
-inline const QString addMarkers = QStringLiteral("AddMarkers");
-inline const QString stringPosition = QStringLiteral("StringPosition");  ///< "2" top, "1" bottom
-inline const QString barcodeHeight = QStringLiteral("BarcodeHeight");
-inline const QString barcodeMatrix = QStringLiteral("BarcodeMatrix");
+inline const QString barcodeMode =
+    QString::fromLatin1("BarcodeMode");  ///< 1 to 5; integer once chosen
+inline const QString addString =
+    QString::fromLatin1("AddString");  ///< "1" on, "2" off; so the next two
+inline const QString addBackground = QString::fromLatin1("AddBackground");
+inline const QString addMarkers = QString::fromLatin1("AddMarkers");
+inline const QString stringPosition =
+    QString::fromLatin1("StringPosition");  ///< "2" top, "1" bottom
+inline const QString barcodeHeight = QString::fromLatin1("BarcodeHeight");
+inline const QString barcodeMatrix = QString::fromLatin1("BarcodeMatrix");
 
 // Plot stamp and canned text
-inline const QString orbotechType = QStringLiteral("OrbotechType");  ///< "1" string, "2" barcode
-inline const QString orbotechFontSize = QStringLiteral("OrbotechFontSize");  ///< 1 to 4, integer
-inline const QString orbotechZoom = QStringLiteral("OrbotechZoom");          ///< 1 to 7, integer
-inline const QString cannedHoleMode = QStringLiteral("CannedHoleMode");  ///< "1" 5 x 7, "2" 6 x 7
-inline const QString cannedHoleSize = QStringLiteral("CannedHoleSize");
+inline const QString orbotechType =
+    QString::fromLatin1("OrbotechType");  ///< "1" string, "2" barcode
+inline const QString orbotechFontSize =
+    QString::fromLatin1("OrbotechFontSize");                              ///< 1 to 4, integer
+inline const QString orbotechZoom = QString::fromLatin1("OrbotechZoom");  ///< 1 to 7, integer
+inline const QString cannedHoleMode =
+    QString::fromLatin1("CannedHoleMode");  ///< "1" 5 x 7, "2" 6 x 7
+inline const QString cannedHoleSize = QString::fromLatin1("CannedHoleSize");
 
 }  // namespace FeatureKeys
 

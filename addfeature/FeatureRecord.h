@@ -7,8 +7,15 @@
 /// The feature parameter record: everything the user chose, by key. Nothing ever removes a key.
 class FeatureRecord {
 public:
-    /// Writes `value` under `key`, replacing what was there.
-    void set(const QString& key, const QVariant& value) { m_values.insert(key, value); }
+    /// Writes `number` under `key`, replacing what was there.
+    void set(const QString& key, int number) { m_values.insert(key, number); }
+
+    /// Writes a copy of `text` that shares nothing: a receiver may keep the record longer than the
+    /// library lives, and the text of a literal goes with it.
+    void set(const QString& key, const QString& text)
+    {
+        m_values.insert(key, QString(text.constData(), text.size()));
+    }
 
     /// The value under `key` as text; empty for a key that was never written.
     QString text(const QString& key) const { return m_values.value(key).toString(); }

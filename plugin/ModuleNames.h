@@ -3,11 +3,17 @@
 #include <QString>
 
 /// The file names under which modules address each other. They keep their ".dll" on every platform.
+///
+/// Texts that are sent are no QStringLiterals: those go with the library when it is unloaded, while
+/// a receiver may keep what it was sent.
 namespace ModuleNames {
 
-inline const QString toolStrip = QStringLiteral("Canvas_Tool_Strip.dll");  ///< this module
-inline const QString viewer = QStringLiteral("Canvas_Viewer.dll");         ///< the canvas
-inline const QString jobTree = QStringLiteral("Canvas_JobTree.dll");       ///< told of Add Feature
-inline const QString ruleMenu = QStringLiteral("Canvas_RuleMenu.dll");     ///< see SelectFromEditor
+inline const QString toolStrip = QString::fromLatin1("Canvas_Tool_Strip.dll");  ///< this module
+inline const QString viewer = QString::fromLatin1("Canvas_Viewer.dll");         ///< the canvas
+inline const QString jobTree = QString::fromLatin1("Canvas_JobTree.dll");  ///< told of Add Feature
+inline const QString ruleMenu =
+    QString::fromLatin1("Canvas_RuleMenu.dll");  ///< see SelectFromEditor
+/// The sender of FeatureHighLight: without ".dll", which is how the canvas knows it. Deliberate.
+inline const QString bareToolStrip = QString::fromLatin1("Canvas_Tool_Strip");
 
 }  // namespace ModuleNames

@@ -81,8 +81,7 @@ void Canvas_Tool_Strip::On_OpenPopView_Clicked()
 void Canvas_Tool_Strip::On_FeatHighLight_Clicked()
 {
     SetAllButtonchecked(false, button(Tool::FeatureHighLight));
-    // Without ".dll": the canvas knows this one message by that sender. Deliberate.
-    send({QStringLiteral("Canvas_Tool_Strip"), ModuleNames::viewer}, Sent::FeatureHighLight);
+    send({ModuleNames::bareToolStrip, ModuleNames::viewer}, Sent::FeatureHighLight);
 }
 
 void Canvas_Tool_Strip::On_DeleteFeat_Clicked()

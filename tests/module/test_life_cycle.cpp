@@ -1,0 +1,134 @@
+// The built library is loaded, used and unloaded a thousand times; nothing grows. Two strips in two
+// windows never touch each other.
+
+#include "BoxCatcher.h"
+#include "Main.h"
+#include "Recorder.h"
+
+#include <PluginManagerStandIn.h>
+#include <QTpluginsManger4CAM.h>
+
+#include <QComboBox>
+#include <QLayout>
+#include <QLineEdit>
+#include <QLoggingCategory>
+#include <QToolButton>
+#include <QWidget>
+
+#include <dlfcn.h>
+#include <malloc.h>
+
+namespace {
+
+const QString moduleName = QStringLiteral("Canvas_Tool_Strip.dll");
+const QString moduleDir = QStringLiteral(MODULE_DIR);
+
+/// A host's window with a strip of the library in it.
+struct Host {
+    QWidget window;
+    void* instance = nullptr;
+
+    Host()
+    {
+        QString error;
+        instance = CanvasHost::loadModule(moduleName, moduleDir, &window, &error);
+        if (!instance) {
+            qFatal("%s", qPrintable(error));
+        }
+        window.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance)));
+        window.show();
+    }
+    ~Host() { CanvasHost::removeInstance(instance); }
+
+    QToolButton& tool(const char* name) const
+    {
+        return *window.findChild<QToolButton*>(QLatin1String(name));
+    }
+    void click(const char* name) const { QTest::mouseClick(&tool(name), Qt::LeftButton); }
+    QWidget* dialog() const { return window.findChild<QWidget*>("AddFeature"); }
+};
+
+/// What a user does with it: tools, the dialog, a typed symbol, a count, closing.
+void use(const Host& host)
+{
+    host.click("m_pMeasureTB");
+    host.click("m_pFeatHighLightTB");
+    host.click("m_pAddFeatureTB");
+    host.click("m_pPadTB");
+    host.dialog()->findChild<QComboBox*>("m_pPolarityCMB")->setCurrentIndex(1);
+    QTest::keyClicks(host.dialog()->findChild<QLineEdit*>("m_pSymbolTextLE"), "r10");
+    QTest::keyClick(host.dialog()->findChild<QLineEdit*>("m_pSymbolTextLE"), Qt::Key_Return);
+    QTest::keyClicks(host.dialog()->findChild<QLineEdit*>("m_pDrilNxLE"), "2");
+    host.dialog()->close();
+}
+
+bool isInMemory()
+{
+    const QByteArray file = QFile::encodeName(moduleDir + "/Canvas_Tool_Strip.so");
+    void* const library = dlopen(file.constData(), RTLD_NOLOAD | RTLD_LAZY);
+    if (library) {
+        dlclose(library);
+    }
+    return library != nullptr;
+}
+
+}  // namespace
+
+class TestLifeCycle : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    // The record would be logged a thousand times.
+    void initTestCase() { QLoggingCategory::setFilterRules("canvastoolstrip.*=false"); }
+
+    void thousandLives()
+    {
+        constexpr int lives = 1000;
+        constexpr int warmUp = 200;
+        size_t before = 0;
+        int sent = 0;
+        for (int life = 0; life < lives; ++life) {
+            if (life == warmUp) {
+                before = mallinfo2().uordblks;
+            }
+            Recorder recorder;
+            {
+                const Host host;
+                use(host);
+            }
+            sent += recorder.last(50).message.payload.value("PadNx") == QVariant("12");
+            QVERIFY(CanvasHost::unloadModule(moduleName));
+            QVERIFY(!isInMemory());
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        QCOMPARE(sent, lives);
+#ifndef __SANITIZE_ADDRESS__  // its allocator counts otherwise, and looks for leaks itself
+        const auto grown = qint64(mallinfo2().uordblks) - qint64(before);
+        QVERIFY2(grown < 64 * (lives - warmUp), qPrintable(QStringLiteral("%1 bytes").arg(grown)));
+#endif
+    }
+
+    void twoStripsNeverTouch()
+    {
+        Recorder recorder;
+        const Host one;
+        const Host two;
+        use(one);
+        for (const Recorder::Entry& entry : recorder.messages()) {
+            QCOMPARE(entry.sender, const_cast<QWidget*>(&one.window));
+        }
+        QVERIFY(two.tool("m_pAreaZoomTB").isChecked());
+        QVERIFY(!two.dialog());
+        recorder.clear();
+        two.click("m_pAddFeatureTB");
+        two.click("m_pArcTB");
+        QVERIFY(!one.tool("m_pAddFeatureTB").isChecked());
+        QVERIFY(one.tool("m_pPadTB").isChecked());
+        QVERIFY(!one.dialog()->isVisible());
+        QCOMPARE(recorder.last(50).sender, const_cast<QWidget*>(&two.window));
+        QCOMPARE(recorder.last(50).message.payload.value("PadNx"), QVariant("1"));
+    }
+};
+
+CTS_MAIN(TestLifeCycle)
+#include "test_life_cycle.moc"

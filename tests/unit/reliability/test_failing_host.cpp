@@ -1,0 +1,345 @@
+// Each operation of the host throws, or answers nonsense. Guarded slots report it; elsewhere the
+// exception reaches the caller of Qt. Strip and dialog stay usable in both cases.
+
+#include "DialogFixture.h"
+#include "GlogCatcher.h"
+#include "Invariants.h"
+#include "Main.h"
+#include "plugin/PluginEntry.h"
+
+#include <CamApiStandIn.h>
+#include <UiApiStandIn.h>
+
+#include <limits>
+#include <stdexcept>
+
+namespace {
+
+using CanvasHost::camApiOverrides;
+using CanvasHost::uiApiOverrides;
+using Names = std::vector<std::string>;
+
+enum class Thrown { Nothing, Text, Exception, Other };
+
+[[noreturn]] void throwAs(Thrown kind)
+{
+    if (kind == Thrown::Text) {
+        throw "the host gave up";
+    }
+    if (kind == Thrown::Exception) {
+        throw std::runtime_error("the host gave up");
+    }
+    throw 7;
+}
+
+/// Runs `action`; what it threw.
+Thrown thrownBy(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const char* text) {
+        return qstrcmp(text, "the host gave up") == 0 ? Thrown::Text : Thrown::Nothing;
+    } catch (const std::exception&) {
+        return Thrown::Exception;
+    } catch (int) {
+        return Thrown::Other;
+    }
+    return Thrown::Nothing;
+}
+
+void typeSymbol(DialogFixture& fixture)
+{
+    fixture.choose("m_pPadTB");
+    fixture.type("r33");
+    fixture.leave("Enter");
+}
+
+void receiveUnitChanged(DialogFixture& fixture)
+{
+    PluginMetaData message("Sibling.dll", "Canvas_Tool_Strip.dll");
+    message.code = 20002200;
+    recMsgFromManager(fixture.strip, message);
+}
+
+/// An operation of the host, and what a user does that makes the module call it.
+struct Operation {
+    const char* name;
+    void (*fail)(Thrown kind);
+    void (*use)(DialogFixture& fixture);
+    bool isGuarded;
+    bool isMetric;
+};
+
+const Operation operations[] = {
+    {"identify_symbol",
+     [](Thrown kind) {
+         camApiOverrides().identify_symbol = [=](const std::string&, ZENTRA::API::symbol_type&,
+                                                 int&, int&, bool) -> bool { throwAs(kind); };
+     },
+     typeSymbol, false, false},
+    {"get_special_symbol_names",
+     [](Thrown kind) {
+         camApiOverrides().get_special_symbol_names = [=](const std::string&, Names&) {
+             throwAs(kind);
+         };
+     },
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, false, false},
+    {"get_fonts",
+     [](Thrown kind) {
+         camApiOverrides().get_fonts = [=](const std::string&, Names&) { throwAs(kind); };
+     },
+     [](DialogFixture& fixture) {
+         fixture.click("m_pTextTB");
+         auto& font = fixture.find<QLineEdit>("m_pFontLE");
+         font.selectAll();
+         QTest::keyClicks(&font, "simple");
+         QTest::keyClick(&font, Qt::Key_Return);
+     },
+     false, false},
+    {"getUnitString",
+     [](Thrown kind) { uiApiOverrides().getUnitString = [=](void*) -> QString { throwAs(kind); }; },
+     receiveUnitChanged, true, false},
+    {"getUnit",
+     [](Thrown kind) { uiApiOverrides().getUnit = [=](void*) -> int { throwAs(kind); }; },
+     [](DialogFixture& fixture) { QTest::keyClick(&fixture.symbol(), Qt::Key_S); }, true, false},
+    {"getUnit for a picked symbol",
+     [](Thrown kind) { uiApiOverrides().getUnit = [=](void*) -> int { throwAs(kind); }; },
+     [](DialogFixture& fixture) {
+         QMetaObject::invokeMethod(fixture.dialog, "receive_text", Q_ARG(QString, QString()));
+         fixture.dialog->get_ChangeSymbol_Info({{1, "r5"}});
+     },
+     false, false},
+    {"getUnitJudgeDouble",
+     [](Thrown kind) {
+         uiApiOverrides().getUnitJudgeDouble = [=](void*, double) -> double { throwAs(kind); };
+     },
+     [](DialogFixture& fixture) {
+         fixture.click("m_pTextTB");
+         auto& size = fixture.find<QLineEdit>("m_pXSizeLE");
+         size.setText("99999");
+         QTest::keyClick(&size, Qt::Key_Return);
+     },
+     false, false},
+    {"isNumValueLegal",
+     [](Thrown kind) {
+         uiApiOverrides().isNumValueLegal = [=](double, double, double, void*) -> bool {
+             throwAs(kind);
+         };
+     },
+     [](DialogFixture& fixture) {
+         fixture.click("m_pPadTB");
+         QTest::keyClick(&fixture.find("m_pDrilNxLE"), Qt::Key_3);
+     },
+     false, false},
+    {"isSymbolValueLegal",
+     [](Thrown kind) {
+         uiApiOverrides().isSymbolValueLegal = [=](const QString&, double, double, void*) -> bool {
+             throwAs(kind);
+         };
+     },
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, false, false},
+    {"setSymbolUIData",
+     [](Thrown kind) {
+         uiApiOverrides().setSymbolUIData = [=](const QString&, int) -> QString { throwAs(kind); };
+     },
+     typeSymbol, false, true},
+    {"the canvas", [](Thrown) {},  // its message handler throws; see throwing()
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, false, false},
+};
+
+/// An answer of the host that makes no sense.
+struct Answer {
+    const char* name;
+    void (*install)();
+};
+
+const Answer answers[] = {
+    {"no unit text", [] { uiApiOverrides().getUnitString = [](void*) { return QString(); }; }},
+    {"odd unit text",
+     [] { uiApiOverrides().getUnitString = [](void*) { return QString(9999, 'M'); }; }},
+    {"odd unit", [] { uiApiOverrides().getUnit = [](void*) { return -7; }; }},
+    {"a bound that is no number",
+     [] {
+         uiApiOverrides().getUnitJudgeDouble = [](void*, double) {
+             return std::numeric_limits<double>::quiet_NaN();
+         };
+     }},
+    {"every number is legal",
+     [] { uiApiOverrides().isNumValueLegal = [](double, double, double, void*) { return true; }; }},
+    {"no number is legal",
+     [] {
+         // The fixture reads the record by an edit of the angle.
+         uiApiOverrides().isNumValueLegal = [](double, double, double most, void*) {
+             return most == 360.0;
+         };
+     }},
+    {"every symbol is legal",
+     [] {
+         uiApiOverrides().isSymbolValueLegal = [](const QString&, double, double, void*) {
+             return true;
+         };
+     }},
+    {"no symbol is legal",
+     [] {
+         uiApiOverrides().isSymbolValueLegal = [](const QString&, double, double, void*) {
+             return false;
+         };
+     }},
+    {"symbols become nothing",
+     [] { uiApiOverrides().setSymbolUIData = [](const QString&, int) { return QString(); }; }},
+    {"symbols become long",
+     [] {
+         uiApiOverrides().setSymbolUIData = [](const QString&, int) { return QString(99999, 'r'); };
+     }},
+    {"every name is a standard symbol",
+     [] {
+         camApiOverrides().identify_symbol = [](const std::string&, ZENTRA::API::symbol_type& type,
+                                                int& a, int& b, bool) {
+             type = static_cast<ZENTRA::API::symbol_type>(12345);
+             a = std::numeric_limits<int>::min();
+             b = std::numeric_limits<int>::max();
+             return true;
+         };
+     }},
+    {"no name is a standard symbol",
+     [] {
+         camApiOverrides().identify_symbol = [](const std::string&, ZENTRA::API::symbol_type&, int&,
+                                                int&, bool) { return false; };
+     }},
+    {"many special names",
+     [] {
+         camApiOverrides().get_special_symbol_names = [](const std::string&, Names& names) {
+             names.assign(100000, "\xFF\xFE not UTF-8");
+         };
+     }},
+    {"no fonts", [] { camApiOverrides().get_fonts = [](const std::string&, Names&) {}; }},
+    {"odd fonts",
+     [] {
+         camApiOverrides().get_fonts = [](const std::string&, Names& names) {
+             names.assign(1000, std::string(1000, '\0'));
+         };
+     }},
+    {"odd display",
+     [] {
+         uiApiOverrides().getShowPara = [](void*, ZENTRA::API::show_param& shown) {
+             static bool other = false;
+             other = shown.metric = !other;  // another one at each call
+         };
+     }},
+};
+
+QStringList described(const QVariantMap& record)
+{
+    QStringList lines;
+    for (auto entry = record.begin(); entry != record.end(); ++entry) {
+        lines.append(entry.key() + ' ' + entry->typeName() + ' ' + entry->toString());
+    }
+    return lines;
+}
+
+/// Sets everything that the operations above touch, as a user does; the record after that.
+QStringList recordAfterUse(DialogFixture& fixture)
+{
+    fixture.click("m_pTextTB");
+    for (const auto& [field, text] :
+         {std::pair("m_pFontLE", "standard"), std::pair("m_pXSizeLE", "100")}) {
+        fixture.find<QLineEdit>(field).setText(text);
+        QTest::keyClick(&fixture.find(field), Qt::Key_Return);
+    }
+    fixture.click("m_pPadTB");
+    fixture.find<QLineEdit>("m_pDrilNxLE").setText("4");
+    fixture.type("r20");
+    fixture.leave("Enter");
+    return described(fixture.record());
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(Thrown)
+
+class TestFailingHost : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void throwing_data()
+    {
+        QTest::addColumn<int>("operation");
+        QTest::addColumn<Thrown>("kind");
+        for (int i = 0; i < int(std::size(operations)); ++i) {
+            for (const auto& [name, kind] :
+                 {std::pair("text", Thrown::Text), std::pair("exception", Thrown::Exception),
+                  std::pair("other", Thrown::Other)}) {
+                QTest::addRow("%s, %s", operations[i].name, name) << i << kind;
+            }
+        }
+    }
+    void throwing()
+    {
+        QFETCH(int, operation);
+        QFETCH(Thrown, kind);
+        const Operation& row = operations[operation];
+        QStringList undisturbed;
+        {
+            DialogFixture fixture(row.isMetric);
+            undisturbed = recordAfterUse(fixture);
+        }
+        DialogFixture fixture(row.isMetric);
+        const GlogCatcher log;
+        row.fail(kind);
+        if (row.name == QByteArray("the canvas")) {
+            fixture.recorder.setOnMessage([=](const Recorder::Entry&) { throwAs(kind); });
+        }
+        const Thrown reached = thrownBy([&] { row.use(fixture); });
+        fixture.recorder.setOnMessage({});
+        camApiOverrides() = {};
+        uiApiOverrides() = {};
+
+        const bool isReported = row.isGuarded && kind != Thrown::Other;
+        QVERIFY(reached == (isReported ? Thrown::Nothing : kind));
+        QCOMPARE(fixture.boxes.takeTexts(),
+                 isReported ? QStringList{"Information|the host gave up"} : QStringList());
+        QCOMPARE(log.errors().size(), isReported && kind == Thrown::Text ? 2 : 0);
+        QCOMPARE(Invariants::faultOf(fixture.record()), QString());
+        QCOMPARE(fixture.strip->isToolButtonChecked(4), true);
+        // From here on it is a dialog like any other.
+        QCOMPARE(recordAfterUse(fixture), undisturbed);
+        QCOMPARE(fixture.boxes.takeTexts(), QStringList());
+    }
+
+    void nonsense_data()
+    {
+        QTest::addColumn<int>("answer");
+        for (int i = 0; i < int(std::size(answers)); ++i) {
+            QTest::newRow(answers[i].name) << i;
+        }
+    }
+    void nonsense()
+    {
+        QFETCH(int, answer);
+        for (const bool isMetric : {false, true}) {
+            QStringList undisturbed;
+            {
+                DialogFixture fixture(isMetric);
+                undisturbed = recordAfterUse(fixture);
+            }
+            DialogFixture fixture(isMetric);
+            answers[answer].install();
+            recordAfterUse(fixture);
+            receiveUnitChanged(fixture);
+            fixture.dialog->change_current_units(!isMetric);
+            fixture.dialog->change_current_units(isMetric);
+            fixture.dialog->get_ChangeSymbol_Info({{1, "r5"}});
+            fixture.boxes.take();
+            QCOMPARE(Invariants::faultOf(fixture.record()), QString());
+            camApiOverrides() = {};
+            uiApiOverrides() = {};
+            fixture.setMetric(isMetric);
+            fixture.symbol().clear();
+            QCOMPARE(recordAfterUse(fixture), undisturbed);
+            QCOMPARE(fixture.boxes.takeTexts(), QStringList());
+        }
+    }
+};
+
+CTS_MAIN(TestFailingHost)
+#include "test_failing_host.moc"

@@ -1,0 +1,189 @@
+// Messages that no sibling should send: unknown codes, payloads that are missing, odd or huge.
+
+#include "DialogFixture.h"
+#include "Invariants.h"
+#include "Main.h"
+#include "plugin/PluginEntry.h"
+
+#include <CamApiStandIn.h>
+#include <common_widgets.h>
+
+#include <QLoggingCategory>
+#include <QToolButton>
+
+#include <limits>
+
+namespace {
+
+using Payload = QMap<QString, QVariant>;
+
+const QSet<int> acceptedCodes = {10000205, 20000201, 20000202, 20000203, 20000223, 20000241,
+                                 20000242, 20000244, 20000245, 20000247, 20001637, 20001715,
+                                 20001807, 20001811, 20001824, 20002003, 20002200, 20002201,
+                                 20002400, 20002403, 20004602, 20004603, 20004604};
+constexpr int many = 100000;
+
+template <class T>
+qint64 addressOf(const T& object)
+{
+    return qint64(reinterpret_cast<quintptr>(&object));
+}
+
+void receive(Canvas_Tool_Strip* strip, int code, qint64 extra = 0, const Payload& payload = {})
+{
+    PluginMetaData message("Sibling.dll", "Canvas_Tool_Strip.dll");
+    message.code = code;
+    message.extra = extra;
+    message.payload = payload;
+    recMsgFromManager(strip, message);
+}
+
+/// All that a stray message could change.
+QStringList stateOf(const DialogFixture& fixture)
+{
+    QStringList state;
+    for (const QToolButton* const tool : fixture.window.findChildren<QToolButton*>()) {
+        state.append(tool->objectName() + tool->styleSheet() + tool->toolTip() +
+                     QString::number(tool->isChecked()));
+    }
+    for (const QWidget* const child : fixture.dialog->findChildren<QWidget*>()) {
+        state.append(child->objectName() + QString::number(child->isVisible()) +
+                     QString::number(child->isEnabled()));
+    }
+    return state;
+}
+
+}  // namespace
+
+class TestHostileMessages : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    // The record would be logged a hundred thousand times.
+    void initTestCase() { QLoggingCategory::setFilterRules("canvastoolstrip.*=false"); }
+
+    void unknownCodes()
+    {
+        DialogFixture fixture;
+        const QStringList state = stateOf(fixture);
+        const QVariantMap record = fixture.record();
+        int count = 0;
+        const auto isIgnored = [&](qint64 number) {
+            const int code = int(quint32(number));
+            if (!acceptedCodes.contains(code)) {
+                receive(fixture.strip, code, -1, {{"JobName", "job"}, {"StepName", "step"}});
+                ++count;
+            }
+        };
+        // An even sample of all codes, everything near the known ones, and the corners.
+        for (qint64 code = 0; code < (qint64(1) << 32); code += 4099) {
+            isIgnored(code);
+        }
+        for (const int known : acceptedCodes) {
+            for (int code = known - 300; code <= known + 300; ++code) {
+                isIgnored(code);
+            }
+        }
+        for (const int code : {-1, 0, 1, 50, 51, 52, 53, std::numeric_limits<int>::max(),
+                               std::numeric_limits<int>::min()}) {
+            isIgnored(code);
+        }
+        QVERIFY(count > 1000000);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());
+        QCOMPARE(fixture.boxes.takeTexts(), QStringList());
+        QCOMPARE(stateOf(fixture), state);
+        QCOMPARE(fixture.record(), record);
+    }
+
+    void oddPayloads_data()
+    {
+        QTest::addColumn<Payload>("payload");
+        const QVariant huge = QString(10 * 1024 * 1024, 'x');
+        QTest::newRow("missing") << Payload();
+        QTest::newRow("empty") << Payload{{"JobName", ""}, {"Step", ""}, {"StepName", ""}};
+        QTest::newRow("invalid") << Payload{
+            {"JobName", QVariant()}, {"Step", QVariant()}, {"StepName", QVariant()}};
+        QTest::newRow("numbers") << Payload{{"JobName", 7}, {"Step", 2.5}, {"StepName", true}};
+        QTest::newRow("lists") << Payload{{"JobName", QStringList("job")},
+                                          {"Step", QVariantMap{{"a", 1}}},
+                                          {"StepName", QVariantList{1}}};
+        QTest::newRow("huge") << Payload{{"JobName", huge}, {"Step", huge}, {"StepName", huge}};
+        QTest::newRow("not text") << Payload{{"JobName", QString(QChar(0xD800))},
+                                             {"StepName", QString(3, QChar(0))}};
+        Payload wide;
+        for (int i = 0; i < many; ++i) {
+            wide[QString::number(i)] = i;
+        }
+        QTest::newRow("many entries") << wide;
+    }
+    void oddPayloads()
+    {
+        QFETCH(Payload, payload);
+        DialogFixture fixture;
+        for (const int code : acceptedCodes) {
+            receive(fixture.strip, code, 0, payload);
+            receive(fixture.strip, code, 0, payload);
+        }
+        fixture.boxes.take();
+        QCOMPARE(Invariants::faultOf(fixture.record()), QString());
+        for (const Recorder::Entry& entry : fixture.recorder.messages()) {
+            QCOMPARE(Invariants::faultOf(entry), QString());
+        }
+        receive(fixture.strip, 20000201);
+        QVERIFY(fixture.strip->isToolButtonChecked(0));
+    }
+
+    void manyAttributes()
+    {
+        DialogFixture fixture;
+        connect(fixture.strip,
+                SIGNAL(send_Attribute_Info(std::vector<std::pair<std::string, std::string>>)),
+                fixture.dialog,
+                SLOT(forward_Attribute_Info(std::vector<std::pair<std::string, std::string>>)));
+        fixture.click("m_pAttributesCB");
+        std::map<std::string, std::string> attributes;
+        std::vector<std::pair<std::string, std::string>> list;
+        for (int i = 0; i < many; ++i) {
+            attributes["." + std::to_string(i)] = std::to_string(-i);
+            list.emplace_back("." + std::to_string(i), std::to_string(-i));
+        }
+        fixture.recorder.clear();
+        receive(fixture.strip, 20001807, addressOf(attributes));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());  // nothing to fill in yet
+        fixture.dialog->get_attribute_list(list);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{51});
+        QVERIFY(fixture.recorder.last(51).attributes == attributes);
+    }
+
+    void manySymbols_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::newRow("pad") << "m_pPadTB";
+        QTest::newRow("surface") << "m_pSurfaceTB";
+    }
+    void manySymbols()
+    {
+        QFETCH(QString, type);
+        DialogFixture fixture;
+        connect(fixture.strip, SIGNAL(send_Symbol_Info(std::map<int, std::string>)), fixture.dialog,
+                SLOT(get_ChangeSymbol_Info(std::map<int, std::string>)));
+        fixture.choose(type);
+        int sent = 0;
+        fixture.recorder.setOnMessage([&](const Recorder::Entry& entry) {
+            sent += entry.message.code == 50;
+            fixture.recorder.clear();
+        });
+        std::map<int, std::string> symbols;
+        for (int i = 1; i <= many; ++i) {
+            symbols[i - 2] = "r" + std::to_string(i % 1000 + 1);
+        }
+        receive(fixture.strip, 20001811, addressOf(symbols));
+        fixture.recorder.setOnMessage({});
+        QCOMPARE(sent, many);
+        QCOMPARE(fixture.symbol().text(), QString("r1"));
+        QCOMPARE(fixture.record().value("SymbolText"), QVariant("r1"));
+    }
+};
+
+CTS_MAIN(TestHostileMessages)
+#include "test_hostile_messages.moc"

@@ -1,0 +1,249 @@
+// Siblings that do not wait: they answer within the call, close or delete the dialog while it
+// sends, and the parent widget goes before the strip does.
+
+#include "DialogFixture.h"
+#include "Invariants.h"
+#include "Main.h"
+#include "plugin/PluginEntry.h"
+
+#include <PluginManagerStandIn.h>
+#include <QTpluginsManger4CAM.h>
+
+#include <common_widgets.h>
+
+#include <QToolButton>
+
+namespace {
+
+PluginMetaData messageToStrip(int code, qint64 extra = 0)
+{
+    PluginMetaData message("Canvas_Viewer.dll", "Canvas_Tool_Strip.dll");
+    message.code = code;
+    message.extra = extra;
+    return message;
+}
+
+/// What makes the dialog send. Combo boxes and line edits are not used themselves: Qt does not
+/// bear that one is deleted inside its own signal, only what the dialog does then is looked at.
+struct Use {
+    const char* name;
+    const char* type;  ///< the type button that is chosen before
+    std::function<void(DialogFixture&)> act;
+};
+
+const QList<Use>& uses()
+{
+    static const QList<Use> all = {
+        {"type", "m_pLineTB", [](DialogFixture& f) { f.click("m_pPadTB"); }},
+        {"line kind", "m_pLineTB", [](DialogFixture& f) { f.dialog->on_Line_ComboBox_Changed(); }},
+        {"closed", "m_pLineTB",
+         [](DialogFixture& f) { f.dialog->on_m_pClosedCB_CheckState_Changed(Qt::Checked); }},
+        {"polarity", "m_pLineTB",
+         [](DialogFixture& f) { f.dialog->on_m_pPolarityCMB_ComboBox_Changed(); }},
+        {"attributes", "m_pLineTB", [](DialogFixture& f) { f.click("m_pAttributesCB"); }},
+        {"fill", "m_pSurfaceTB", [](DialogFixture& f) { f.click("m_pFillPB"); }},
+        {"pick", "m_pPadTB", [](DialogFixture& f) { f.click("m_pSelectFromEditorPB"); }},
+        {"picked symbols", "m_pPadTB",
+         [](DialogFixture& f) {
+             f.dialog->get_ChangeSymbol_Info({{1, "r5"}, {2, "s5"}, {3, "r7"}});
+         }},
+        {"picked attributes", "m_pPadTB",
+         [](DialogFixture& f) {
+             f.click("m_pAttributesCB");
+             if (f.dialog) {
+                 f.dialog->get_attribute_list({{".net", "gnd"}});
+             }
+         }},
+        {"symbol", "m_pPadTB",
+         [](DialogFixture& f) {
+             f.symbol().setText("r10");
+             f.dialog->on_m_pSymbolTextLE_editingFinished();
+         }},
+        {"tool again", "m_pPadTB", [](DialogFixture& f) { f.dialog->getChangeCurrentTool(); }},
+        {"close", "m_pPadTB", [](DialogFixture& f) { f.dialog->close(); }},
+    };
+    return all;
+}
+
+}  // namespace
+
+class TestReentrancy : public QObject {
+    Q_OBJECT
+
+    static void addUses()
+    {
+        QTest::addColumn<int>("use");
+        for (int i = 0; i < uses().size(); ++i) {
+            QTest::newRow(uses()[i].name) << i;
+        }
+    }
+    static void connectClosing(const DialogFixture& fixture)
+    {
+        connect(fixture.dialog, SIGNAL(change_viewtool()), fixture.strip,
+                SLOT(On_AreaZoom_Clicked()));
+        connect(fixture.dialog, SIGNAL(Select_symbol()), fixture.strip,
+                SLOT(on_m_pAddfeature_Select_symbol()));
+    }
+
+private Q_SLOTS:
+    void deletedWhileSending_data() { addUses(); }
+    void deletedWhileSending()
+    {
+        QFETCH(int, use);
+        DialogFixture fixture;
+        connectClosing(fixture);
+        fixture.choose(uses()[use].type);
+        int count = 0;
+        fixture.recorder.setOnMessage([&](const Recorder::Entry&) {
+            ++count;
+            delete fixture.dialog;
+        });
+        uses()[use].act(fixture);
+        QVERIFY(!fixture.dialog);
+        QCOMPARE(count, 1);
+    }
+
+    void closedWhileSending_data() { addUses(); }
+    void closedWhileSending()
+    {
+        QFETCH(int, use);
+        DialogFixture fixture;
+        connectClosing(fixture);
+        fixture.choose(uses()[use].type);
+        fixture.recorder.setOnMessage([&](const Recorder::Entry&) { fixture.dialog->close(); });
+        uses()[use].act(fixture);
+        fixture.recorder.setOnMessage({});
+        QVERIFY(!fixture.dialog->isVisible());
+        QVERIFY(fixture.strip->isToolButtonChecked(0));
+        QCOMPARE(Invariants::faultOf(fixture.record()), QString());
+    }
+
+    /// Each message is answered by one that the module answers in turn, once.
+    void answeredWithinTheCall_data() { addUses(); }
+    void answeredWithinTheCall()
+    {
+        QFETCH(int, use);
+        const std::map<int, std::string> symbols{{1, "r5"}, {2, "s5"}};
+        const std::string job = "other";
+        const PluginMetaData answers[] = {
+            messageToStrip(20001811, qint64(reinterpret_cast<quintptr>(&symbols))),
+            messageToStrip(20002003, qint64(reinterpret_cast<quintptr>(&job))),
+            messageToStrip(20002200),
+            messageToStrip(20002201),
+            messageToStrip(20002403),
+            messageToStrip(20004602),
+            messageToStrip(10000205)};
+        for (const PluginMetaData& answer : answers) {
+            DialogFixture fixture;
+            connectClosing(fixture);
+            connect(fixture.strip, SIGNAL(send_Symbol_Info(std::map<int, std::string>)),
+                    fixture.dialog, SLOT(get_ChangeSymbol_Info(std::map<int, std::string>)));
+            CanvasHost::addInstance("Canvas_Tool_Strip.dll", fixture.strip, recMsgFromManager);
+            fixture.choose(uses()[use].type);
+            int depth = 0;
+            int answered = 0;
+            fixture.recorder.setOnMessage([&](const Recorder::Entry& entry) {
+                if (entry.message.receiver == "Canvas_Tool_Strip.dll" || depth > 0) {
+                    return;
+                }
+                ++depth;
+                ++answered;
+                QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, answer);
+                --depth;
+            });
+            uses()[use].act(fixture);
+            fixture.recorder.setOnMessage({});
+            CanvasHost::removeInstance(fixture.strip);
+            QVERIFY(answered > 0);
+            QCOMPARE(Invariants::faultOf(fixture.record()), QString());
+            fixture.window.findChild<AddFeature*>()->close();
+        }
+    }
+
+    void dialogDeletedWhileItIsOpened()
+    {
+        for (const int code : {20000241, 20000246, 50}) {
+            DialogFixture fixture;
+            QWidget window;
+            auto* const strip = new Canvas_Tool_Strip(&window);
+            window.setLayout(strip);
+            fixture.recorder.setOnMessage([&](const Recorder::Entry& entry) {
+                if (entry.message.code == code) {
+                    delete window.findChild<AddFeature*>();
+                }
+            });
+            for (int i = 0; i < 3; ++i) {
+                strip->On_AddFeature_Clicked();
+            }
+            fixture.recorder.setOnMessage({});
+            strip->On_AddFeature_Clicked();
+            QVERIFY(window.findChild<AddFeature*>()->isVisible());
+            QCOMPARE(window.findChildren<AddFeature*>().size(), 1);
+        }
+    }
+
+    void popupDeletedBetweenUses()
+    {
+        QWidget window;
+        auto* const strip = new Canvas_Tool_Strip(&window);
+        window.setLayout(strip);
+        const Recorder recorder;
+        strip->On_Measure_Clicked();
+        delete window.findChild<Grc_Tbe_measurepopup*>();
+        strip->close_all_Dialogs();
+        strip->On_Measure_Clicked();
+        QCOMPARE(window.findChildren<Grc_Tbe_measurepopup*>().size(), 1);
+    }
+
+    /// A host that deletes the widget without having placed the strip in it still holds the strip.
+    void usedAfterTheParentWent()
+    {
+        const Recorder recorder;
+        auto window = std::make_unique<QWidget>();
+        auto* const strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(window.get()));
+        QList<QPointer<QWidget>> tools;
+        for (int i = 0; i < strip->count(); ++i) {
+            tools.append(strip->itemAt(i)->widget());
+        }
+        strip->On_AddFeature_Clicked();
+        strip->On_Measure_Clicked();
+        window.reset();
+        QVERIFY(!tools[0]);
+        for (const int code : {10000205, 20000201, 20000202, 20000203, 20000223, 20000241, 20000242,
+                               20000244, 20000245, 20001637, 20001807, 20001811, 20001824, 20002003,
+                               20002200, 20002201, 20002400, 20002403, 20004603, 20004604}) {
+            recMsgFromManager(strip, messageToStrip(code));
+        }
+        strip->get_right_click_zoom_area();
+        QVERIFY(!strip->isToolButtonChecked(0));
+        QCOMPARE(recorder.last(20000201).sender, nullptr);
+        delete strip;
+        for (const QPointer<QWidget>& tool : tools) {
+            delete tool;
+        }
+    }
+
+    /// All buttons gone, as after the host's window, with the strip still in use.
+    void usedAfterItsButtonsWent()
+    {
+        const Recorder recorder;
+        QWidget window;
+        auto* const strip = new Canvas_Tool_Strip(&window);
+        window.setLayout(strip);
+        qDeleteAll(window.findChildren<QToolButton*>());
+        strip->SetAllButtonchecked(true, nullptr);
+        for (int tool = 0; tool < 26; ++tool) {
+            QVERIFY(!strip->isToolButtonChecked(tool));
+        }
+        strip->On_SelectPolyline_Clicked(20000242);
+        strip->on_m_delete_to_intersection_clicked();
+        strip->On_RotateFeature_Clicked();
+        strip->get_right_click_zoom_area();
+        recMsgFromManager(strip, messageToStrip(20002201));
+        // A two-code tool without a button reads as released.
+        QCOMPARE(recorder.codes(), (QVector<int>{20000242, 20000206, 20000240, 20000201}));
+    }
+};
+
+CTS_MAIN(TestReentrancy)
+#include "test_reentrancy.moc"
