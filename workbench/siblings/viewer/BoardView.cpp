@@ -1,153 +1,209 @@
 #include "viewer/BoardView.h"
 
-#include "viewer/Board.h"
+#include "viewer/BoardScene.h"
+#include "viewer/CanvasColours.h"
+#include "viewer/OverlayPainter.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <cmath>
 
 namespace {
 
-const QColor ground(0x17, 0x1c, 0x22);
-const QColor boardGround(0x1e, 0x2a, 0x28);
-const QColor boardEdge(0x5f, 0x7d, 0x74);
-const QColor gridDot(0x3b, 0x4d, 0x49);
-const QColor gridLine(0x28, 0x36, 0x34);
-const QColor copper(0xd0, 0x8b, 0x4a);
-const QColor copperPad(0xe6, 0xb0, 0x6a);
-const QColor copperPlane(0x8a, 0x5e, 0x36);
-const QColor hoverColour(0x7f, 0xd6, 0xff);
-const QColor selectedColour(0x9b, 0xe5, 0x64);
+constexpr int margin = 24;        // pixels around the board
+constexpr double leastGrid = 12;  // pixels between grid lines
+constexpr double notch = 120;     // what a wheel reports for one step
+constexpr double notchFactor = 1.25;
+constexpr double finest = 20;  // pixels to a micrometre
+constexpr double coarsest = 1.0 / 1e5;
 
-constexpr double gridStep = 1000;   // micrometres
-constexpr int margin = 24;          // pixels around the board
-constexpr double pickDistance = 4;  // pixels
-
-QColor colourOf(const Board::Feature& feature)
+/// The least of 1, 2, 5, 10, 20, ... micrometres that is not less than `length`.
+double gridStep(double length)
 {
-    if (feature.symbol.empty()) {
-        return copperPlane;
-    }
-    const bool pad = feature.attributes.count(".net") == 0;
-    return pad ? copperPad : copper;
-}
-
-void drawGrid(QPainter* painter, const QTransform& toView)
-{
-    const QRectF board = Board::outline();
-    painter->setPen(QPen(gridLine, 0));
-    const int columns = static_cast<int>(board.width() / gridStep);
-    const int rows = static_cast<int>(board.height() / gridStep);
-    const auto x = [&](int column) { return board.left() + column * gridStep; };
-    const auto y = [&](int row) { return board.top() + row * gridStep; };
-    for (int column = 0; column <= columns; ++column) {
-        painter->drawLine(toView.map(QLineF(x(column), board.top(), x(column), board.bottom())));
-    }
-    for (int row = 0; row <= rows; ++row) {
-        painter->drawLine(toView.map(QLineF(board.left(), y(row), board.right(), y(row))));
-    }
-    QPen dots(gridDot, 2.5);
-    dots.setCapStyle(Qt::RoundCap);
-    painter->setPen(dots);
-    for (int column = 0; column <= columns; column += 5) {
-        for (int row = 0; row <= rows; row += 5) {
-            painter->drawPoint(toView.map(QPointF(x(column), y(row))));
+    double step = 1;
+    while (step < length) {
+        for (const double factor : {2.0, 2.5, 2.0}) {
+            if (step < length) {
+                step *= factor;
+            }
         }
     }
+    return step;
 }
 
 }  // namespace
 
-BoardView::BoardView(QWidget* parent) : QWidget(parent)
+BoardView::BoardView(BoardScene* scene, QWidget* parent)
+    : QGraphicsView(scene, parent), m_scene(scene)
 {
     setObjectName(QStringLiteral("m_pBoardView"));
-    setMouseTracking(true);
+    setFrameShape(QFrame::NoFrame);
+    setRenderHint(QPainter::Antialiasing);
+    setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTransformationAnchor(QGraphicsView::NoAnchor);
+    setResizeAnchor(QGraphicsView::AnchorViewCenter);
     setMinimumSize(240, 180);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
 }
 
-QSize BoardView::sizeHint() const
+void BoardView::fit()
 {
-    return {640, 460};
+    const QRectF board = Pcb::boundsOf(m_scene->document()->board());
+    if (board.isValid()) {
+        showArea(board);
+    }
+    m_fits = true;
 }
 
-void BoardView::setPicking(bool picking)
+void BoardView::showArea(const QRectF& area)
 {
-    m_picking = picking;
-    setCursor(picking ? Qt::CrossCursor : Qt::ArrowCursor);
-    update();
+    const QSizeF room(qMax(1, viewport()->width() - 2 * margin),
+                      qMax(1, viewport()->height() - 2 * margin));
+    setScale(qMin(room.width() / qMax(area.width(), 1.0), room.height() / qMax(area.height(), 1.0)),
+             area.center());
+    m_fits = false;
 }
 
-QTransform BoardView::boardToView() const
+void BoardView::zoom(double factor)
 {
-    const QRectF board = Board::outline();
-    const QSizeF room = QSizeF(size()) - QSizeF(2, 2) * margin;
-    const double scale = qMin(room.width() / board.width(), room.height() / board.height());
-    QTransform transform;
-    transform.translate(width() / 2.0, height() / 2.0);
-    transform.scale(scale, -scale);
-    transform.translate(-board.center().x(), -board.center().y());
-    return transform;
+    const QPointF centre = boardPoint(viewport()->rect().center());
+    setScale(factor / pixelSize(), centre);
+    m_fits = false;
+}
+
+void BoardView::setScale(double pixelsPerMicrometre, const QPointF& centre)
+{
+    const double scale = qBound(coarsest, pixelsPerMicrometre, finest);
+    setTransform(QTransform::fromScale(scale, -scale));
+    centerOn(centre);
+}
+
+double BoardView::pixelSize() const
+{
+    return 1 / transform().m11();
+}
+
+QPoint BoardView::viewPoint(double x, double y) const
+{
+    return viewport()->mapToParent(mapFromScene(x, y));
 }
 
 QPointF BoardView::boardPoint(const QPoint& position) const
 {
-    return boardToView().inverted().map(QPointF(position));
-}
-
-int BoardView::featureUnder(const QPoint& position) const
-{
-    return Board::featureAt(boardPoint(position), pickDistance / boardToView().m11());
-}
-
-void BoardView::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), ground);
-    const QTransform toView = boardToView();
-    const QRectF board = toView.mapRect(Board::outline());
-    painter.setPen(QPen(boardEdge, 1.5));
-    painter.setBrush(boardGround);
-    painter.drawRoundedRect(board, 3, 3);
-    drawGrid(&painter, toView);
-    int index = 0;
-    for (const Board::Feature& feature : Board::features()) {
-        QColor colour = colourOf(feature);
-        if (index == m_selected) {
-            colour = selectedColour;
-        }
-        const bool hovered = m_picking && index == m_hovered;
-        painter.setPen(hovered ? QPen(hoverColour, 2) : QPen(colour.darker(130), 1));
-        painter.setBrush(colour);
-        painter.drawPath(toView.map(feature.shape));
-        ++index;
-    }
+    return viewportTransform().inverted().map(QPointF(viewport()->mapFromParent(position)));
 }
 
 void BoardView::mousePressEvent(QMouseEvent* event)
 {
+    const QPointF point = viewportTransform().inverted().map(event->localPos());
     if (event->button() == Qt::LeftButton) {
-        m_selected = featureUnder(event->pos());
-        update();
-        Q_EMIT clicked(m_selected, boardPoint(event->pos()));
+        Q_EMIT pressed(point, event->modifiers() & Qt::ControlModifier);
+    } else if (event->button() == Qt::RightButton) {
+        Q_EMIT finished();
+    } else if (event->button() == Qt::MiddleButton) {
+        m_isPanning = true;
+        m_panFrom = event->pos();
+        viewport()->setCursor(Qt::ClosedHandCursor);
     }
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event)
 {
-    setHovered(featureUnder(event->pos()));
-    Q_EMIT moved(boardPoint(event->pos()));
-}
-
-void BoardView::leaveEvent(QEvent*)
-{
-    setHovered(-1);
-}
-
-void BoardView::setHovered(int feature)
-{
-    if (feature != m_hovered) {
-        m_hovered = feature;
-        update();
+    if (m_isPanning) {
+        const QPoint by = event->pos() - m_panFrom;
+        m_panFrom = event->pos();
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - by.x());
+        verticalScrollBar()->setValue(verticalScrollBar()->value() - by.y());
+        m_fits = false;
     }
+    Q_EMIT moved(viewportTransform().inverted().map(event->localPos()));
+}
+
+void BoardView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::MiddleButton) {
+        m_isPanning = false;
+        viewport()->unsetCursor();
+    } else if (event->button() == Qt::LeftButton) {
+        Q_EMIT released(viewportTransform().inverted().map(event->localPos()));
+    }
+}
+
+void BoardView::wheelEvent(QWheelEvent* event)
+{
+    const QPoint cursor = event->position().toPoint();
+    const QPointF before = mapToScene(cursor);
+    zoom(std::pow(notchFactor, event->angleDelta().y() / notch));
+    // What was under the cursor stays there.
+    const QPoint shift = mapFromScene(before) - cursor;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + shift.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + shift.y());
+    event->accept();
+}
+
+void BoardView::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();  // the right button belongs to the tools
+}
+
+void BoardView::resizeEvent(QResizeEvent* event)
+{
+    QGraphicsView::resizeEvent(event);
+    if (m_fits && m_scene->document()) {
+        fit();
+    }
+}
+
+void BoardView::leaveEvent(QEvent* event)
+{
+    QGraphicsView::leaveEvent(event);
+    Q_EMIT left();
+}
+
+void BoardView::drawBackground(QPainter* painter, const QRectF& area)
+{
+    painter->fillRect(area, CanvasColours::ground);
+    painter->setPen(QPen(CanvasColours::boardEdge, 0));
+    painter->setBrush(CanvasColours::boardGround);
+    painter->drawPolygon(m_scene->document()->board().outline);
+    drawGrid(painter, area);
+}
+
+void BoardView::drawGrid(QPainter* painter, const QRectF& area) const
+{
+    const double step = gridStep(leastGrid * pixelSize());
+    const QRectF board = Pcb::boundsOf(m_scene->document()->board()) & area;
+    QVector<QLineF> lines;
+    QVector<QPointF> points;
+    for (double x = std::ceil(board.left() / step) * step; x <= board.right(); x += step) {
+        lines.append({x, board.top(), x, board.bottom()});
+    }
+    for (double y = std::ceil(board.top() / step) * step; y <= board.bottom(); y += step) {
+        lines.append({board.left(), y, board.right(), y});
+    }
+    const double wide = 5 * step;
+    for (double x = std::ceil(board.left() / wide) * wide; x <= board.right(); x += wide) {
+        for (double y = std::ceil(board.top() / wide) * wide; y <= board.bottom(); y += wide) {
+            points.append({x, y});
+        }
+    }
+    painter->setPen(QPen(CanvasColours::gridLine, 0));
+    painter->drawLines(lines);
+    QPen pen(CanvasColours::gridPoint, 2.5);
+    pen.setCosmetic(true);
+    pen.setCapStyle(Qt::RoundCap);
+    painter->setPen(pen);
+    painter->drawPoints(points.constData(), points.size());
+}
+
+void BoardView::drawForeground(QPainter* painter, const QRectF& /*area*/)
+{
+    paintOverlay(*painter, viewportTransform(), m_scene->overlay(),
+                 m_scene->document()->state().marks);
 }

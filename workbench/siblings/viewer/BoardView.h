@@ -1,38 +1,57 @@
 #pragma once
 
-#include <QTransform>
-#include <QWidget>
+#include <QGraphicsView>
 
-/// Draws the board on a grid, and reports clicks on it.
-class BoardView : public QWidget {
+class BoardScene;
+
+/// A view on the board: grid, wheel zoom, middle-button pan; hands on what the mouse does in board
+/// coordinates (micrometres, y up).
+class BoardView : public QGraphicsView {
     Q_OBJECT
 
 public:
-    explicit BoardView(QWidget* parent = nullptr);
+    explicit BoardView(BoardScene* scene, QWidget* parent = nullptr);
 
-    /// Whether the feature under the mouse is to be shown as one that a click picks.
-    void setPicking(bool picking);
+    /// The whole board; it stays whole when the view grows, until something else is shown.
+    void fit();
+    void showArea(const QRectF& area);
+    void zoom(double factor);
 
-    QSize sizeHint() const override;
+    /// Micrometres to a pixel.
+    double pixelSize() const;
+
+    /// Where a place of the board is in this widget, and the other way round: for those who
+    /// control the canvas from outside.
+    Q_INVOKABLE QPoint viewPoint(double x, double y) const;
+    Q_INVOKABLE QPointF boardPoint(const QPoint& position) const;
+
+    QSize sizeHint() const override { return {640, 460}; }
 
 Q_SIGNALS:
-    /// `feature` is an index into Board::features(), -1 beside all; `point` is in micrometres.
-    void clicked(int feature, const QPointF& point);
+    void pressed(const QPointF& point, bool extends);
     void moved(const QPointF& point);
+    void released(const QPointF& point);
+    void finished();  ///< a right click
+    void left();
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void drawBackground(QPainter* painter, const QRectF& area) override;
+    void drawForeground(QPainter* painter, const QRectF& area) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
-    QTransform boardToView() const;
-    QPointF boardPoint(const QPoint& position) const;
-    int featureUnder(const QPoint& position) const;
-    void setHovered(int feature);
+    void setScale(double pixelsPerMicrometre, const QPointF& centre);
+    void drawGrid(QPainter* painter, const QRectF& area) const;
 
-    bool m_picking = false;
-    int m_hovered = -1;
-    int m_selected = -1;
+    BoardScene* m_scene;
+    bool m_fits = true;
+    bool m_isPanning = false;
+    QPoint m_panFrom;
 };

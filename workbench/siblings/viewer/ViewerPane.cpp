@@ -1,23 +1,20 @@
 #include "viewer/ViewerPane.h"
 
-#include "messages/RecordTable.h"
-#include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
-#include "viewer/Board.h"
+#include "viewer/BoardFiles.h"
 #include "viewer/BoardView.h"
+#include "viewer/CanvasBar.h"
+#include "viewer/Inspector.h"
+#include "viewer/Lengths.h"
 
 #include <CommonWidgetsStandIn.h>
-#include <QTpluginsManger4CAM.h>
-#include <UiApiStandIn.h>
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
-
-namespace Sent = MessageCodes::Sent;
-namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -28,246 +25,162 @@ QLabel* createLabel(const char* name, QWidget* parent)
     return label;
 }
 
-void makeBold(QLabel* label, double factor = 1.0)
-{
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * factor);
-    label->setFont(font);
-}
-
 }  // namespace
 
 ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
 {
     setObjectName(QStringLiteral("m_pViewer"));
-    m_board = new BoardView(this);
-    m_pActiveToolLB = createLabel("m_pActiveToolLB", this);
-    makeBold(m_pActiveToolLB, 1.15);
-    m_pPickHintLB = createLabel("m_pPickHintLB", this);
-    m_pPositionLB = createLabel("m_pPositionLB", this);
-    auto* const head = new QHBoxLayout;
-    head->setContentsMargins(8, 6, 8, 4);
-    head->addWidget(m_pActiveToolLB);
-    head->addSpacing(16);
-    head->addWidget(m_pPickHintLB, 1);
-    head->addWidget(m_pPositionLB);
+    m_view = new BoardView(&m_canvas.scene(), this);
+    m_bar = new CanvasBar(m_canvas, *m_view, this);
+    m_inspector = new Inspector(this);
+    auto* const head = createHead();
+
     auto* const splitter = new QSplitter(this);
     splitter->setObjectName(QStringLiteral("m_pViewerSplitter"));
-    splitter->addWidget(m_board);
-    splitter->addWidget(createInspector());
+    splitter->addWidget(m_view);
+    splitter->addWidget(m_inspector);
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
     splitter->setChildrenCollapsible(false);
+    m_pCanvasStatusLB = createLabel("m_pCanvasStatusLB", this);
+    m_pHoveredLB = createLabel("m_pHoveredLB", this);
+    auto* const foot = new QHBoxLayout;
+    foot->setContentsMargins(8, 3, 8, 3);
+    foot->addWidget(m_pCanvasStatusLB);
+    foot->addStretch(1);
+    foot->addWidget(m_pHoveredLB);
+
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addLayout(head);
     layout->addWidget(splitter, 1);
+    layout->addLayout(foot);
+    connectCanvas();
     retranslate();
-    connect(m_board, &BoardView::clicked, this, &ViewerPane::picked);
-    connect(m_board, &BoardView::moved, this, &ViewerPane::showPosition);
-    CanvasHost::setMeasureStarted([this] { startMeasuring(); });
 }
 
 ViewerPane::~ViewerPane()
 {
     CanvasHost::setMeasureStarted({});
+    delete m_secondView;
 }
 
-QWidget* ViewerPane::createInspector()
+QLayout* ViewerPane::createHead()
 {
-    auto* const side = new QSplitter(Qt::Vertical, this);
-    side->setObjectName(QStringLiteral("m_pInspectorSplitter"));
-    side->setChildrenCollapsible(false);
-    const auto add = [&](QLabel*& label, const char* labelName, const char* tableName) {
-        auto* const box = new QWidget(side);
-        label = createLabel(labelName, box);
-        makeBold(label);
-        auto* const table = new RecordTable(tableName, box);
-        auto* const layout = new QVBoxLayout(box);
-        layout->setContentsMargins(6, 2, 6, 4);
-        layout->addWidget(label);
-        layout->addWidget(table);
-        return table;
-    };
-    m_record = add(m_pRecordLB, "m_pRecordLB", "m_pRecordTW");
-    m_attributes = add(m_pAttributesLB, "m_pAttributesLB", "m_pAttributesTW");
-    side->setStretchFactor(0, 3);
-    side->setStretchFactor(1, 1);
-    side->setMinimumWidth(300);
-    return side;
+    m_pActiveToolLB = createLabel("m_pActiveToolLB", this);
+    QFont font = m_pActiveToolLB->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.15);
+    m_pActiveToolLB->setFont(font);
+    m_pPickHintLB = createLabel("m_pPickHintLB", this);
+    m_pPositionLB = createLabel("m_pPositionLB", this);
+    // A long hint does not widen the window.
+    m_pPickHintLB->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* const words = new QHBoxLayout;
+    words->setContentsMargins(8, 2, 8, 4);
+    words->addWidget(m_pActiveToolLB);
+    words->addSpacing(16);
+    words->addWidget(m_pPickHintLB, 1);
+    words->addWidget(m_pPositionLB);
+    auto* const head = new QVBoxLayout;
+    head->setSpacing(0);
+    head->addWidget(m_bar);
+    head->addLayout(words);
+    return head;
 }
 
-void ViewerPane::receive(const PluginMetaData& message)
+void ViewerPane::connectCanvas()
 {
-    switch (message.code) {
-        case Sent::Record:
-            // The tool announces itself only once; later its record is what begins the drawing.
-            if (!m_tool || m_tool->code != Sent::AddFeature) {
-                setTool(MessageNames::find(message.receiver, Sent::AddFeature));
-            }
-            showRecord(message);
-            break;
-        case Sent::DirectionRecord:
-            showRecord(message);
-            break;
-        case Sent::AttributeMap: {
-            QMap<QString, QVariant> values;
-            const auto* const map = reinterpret_cast<const std::map<std::string, std::string>*>(
-                static_cast<quintptr>(message.extra));
-            if (!map) {
-                break;
-            }
-            for (const auto& [name, value] : *map) {
-                values.insert(QString::fromStdString(name), QString::fromStdString(value));
-            }
-            m_attributes->showValues(values);
-            break;
+    m_canvas.connectView(m_view);
+    connect(&m_canvas, &CanvasController::said, m_pCanvasStatusLB, &QLabel::setText);
+    connect(&m_canvas, &CanvasController::hintChanged, this,
+            [this] { m_pPickHintLB->setText(m_canvas.hint()); });
+    connect(&m_canvas, &CanvasController::moved, this,
+            [this](const QPointF& point) { m_pPositionLB->setText(Lengths::text(point)); });
+    connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
+    connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, &m_canvas,
+            &CanvasController::cancel);
+    CanvasHost::setMeasureStarted([this] { startMeasuring(); });
+}
+
+QString ViewerPane::openBoard(const QString& file)
+{
+    const QString error = BoardFiles::open(m_canvas.document(), file);
+    m_view->fit();
+    return error;
+}
+
+QString ViewerPane::exportBoard(const QString& file)
+{
+    return BoardFiles::exportTo(m_canvas.document(), file);
+}
+
+void ViewerPane::openSecondView()
+{
+    if (!m_secondView) {
+        auto* const view = new BoardView(&m_canvas.scene());
+        view->setObjectName(QStringLiteral("m_pSecondView"));
+        m_canvas.connectView(view);
+        m_secondView = view;
+        retranslate();
+    }
+    m_secondView->show();
+    m_secondView->raise();
+}
+
+void ViewerPane::showHovered(int feature)
+{
+    QStringList words;
+    if (feature >= 0) {
+        const Pcb::Feature& hovered =
+            m_canvas.document().board().features[static_cast<size_t>(feature)];
+        if (!hovered.symbol().isEmpty()) {
+            words.append(hovered.symbol());
         }
-        case Sent::SelectSymbol:
-            setPick(Pick::Symbol);
-            break;
-        case Sent::SelectFromEditor:
-            setPick(Pick::Attributes);
-            break;
-        case Sent::DialogsClosed:
-            setPick(Pick::Nothing);
-            break;
-        default:
-            followTool(message);
+        if (!hovered.isPositive()) {
+            words.append(tr("negative"));
+        }
+        for (auto attribute = hovered.attributes().begin(); attribute != hovered.attributes().end();
+             ++attribute) {
+            words.append(attribute->isEmpty() ? attribute.key()
+                                              : attribute.key() + '=' + attribute.value());
+        }
     }
-    retranslate();
-    if (message.code == Sent::AddFeature) {
-        // The dialog was made a moment ago and does not know in which unit the user works.
-        send(Accepted::UnitChanged);
-    }
-}
-
-void ViewerPane::showRecord(const PluginMetaData& message)
-{
-    m_recordCode = message.code;
-    m_record->showValues(message.payload);
-}
-
-void ViewerPane::followTool(const PluginMetaData& message)
-{
-    const MessageNames::Row* const row = MessageNames::find(message.receiver, message.code);
-    if (row && row->tool) {
-        setTool(row, message.extra);
-    } else if (row && QByteArray(row->name).endsWith("Off")) {
-        setTool(nullptr);
-    }
-}
-
-// What the tool before was waiting for is given up.
-void ViewerPane::setTool(const MessageNames::Row* tool, qint64 variant)
-{
-    m_tool = tool;
-    m_variant = variant;
-    setPick(Pick::Nothing);
-}
-
-void ViewerPane::startMeasuring()
-{
-    // No message says that the measure tool is active.
-    setTool(MessageNames::find(ModuleNames::toolStrip, Accepted::Measure));
-    setPick(Pick::MeasureStart);
-}
-
-void ViewerPane::setPick(Pick pick)
-{
-    m_pick = pick;
-    m_board->setPicking(pick == Pick::Symbol || pick == Pick::Attributes);
-    retranslate();
-}
-
-void ViewerPane::picked(int feature, const QPointF& point)
-{
-    const Pick pick = m_pick;
-    if (pick == Pick::MeasureStart) {
-        m_measureStart = point;
-        setPick(Pick::MeasureEnd);
-    } else if (pick == Pick::MeasureEnd) {
-        setPick(Pick::MeasureStart);
-        CanvasHost::reportMeasurement(m_measureStart, point);
-    } else if (feature >= 0 && pick != Pick::Nothing) {
-        setPick(Pick::Nothing);
-        pick == Pick::Symbol ? sendSymbol(feature) : sendAttributes(feature);
-    }
-}
-
-void ViewerPane::sendSymbol(int feature)
-{
-    std::map<int, std::string> symbols;
-    const std::string& symbol = Board::features()[static_cast<size_t>(feature)].symbol;
-    if (!symbol.empty()) {
-        symbols[feature] = symbol;
-    }
-    send(Accepted::SymbolsPicked, &symbols);
-}
-
-void ViewerPane::sendAttributes(int feature)
-{
-    const auto attributes = Board::features()[static_cast<size_t>(feature)].attributes;
-    send(Accepted::AttributesPicked, &attributes);
-}
-
-void ViewerPane::send(int code, const void* object)
-{
-    PluginMetaData message(ModuleNames::viewer, ModuleNames::toolStrip);
-    message.code = code;
-    message.extra = static_cast<qint64>(reinterpret_cast<quintptr>(object));
-    QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, message);
-}
-
-void ViewerPane::showPosition(const QPointF& point)
-{
-    struct Shown {
-        double factor;
-        int decimals;
-        const char* text;
-    };
-    static const QMap<CanvasHost::DisplayUnit, Shown> units{
-        {CanvasHost::DisplayUnit::Mil, {1 / 25.4, 1, QT_TR_NOOP("%1, %2 mil")}},
-        {CanvasHost::DisplayUnit::Inch, {1 / 25400.0, 4, QT_TR_NOOP("%1, %2 inch")}},
-        {CanvasHost::DisplayUnit::Micrometre, {1, 0, QT_TR_NOOP("%1, %2 um")}},
-        {CanvasHost::DisplayUnit::Millimetre, {1 / 1000.0, 3, QT_TR_NOOP("%1, %2 mm")}},
-    };
-    const Shown shown = units.value(CanvasHost::displayUnit());
-    m_pPositionLB->setText(tr(shown.text)
-                               .arg(point.x() * shown.factor, 0, 'f', shown.decimals)
-                               .arg(point.y() * shown.factor, 0, 'f', shown.decimals));
+    m_pHoveredLB->setText(words.join(QStringLiteral("  ")));
+    m_view->viewport()->setToolTip(words.join('\n'));
 }
 
 void ViewerPane::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        m_record->retranslate();
-        m_attributes->retranslate();
+        m_inspector->retranslate();
+        m_bar->retranslate();
         retranslate();
     }
 }
 
-void ViewerPane::retranslate()
+void ViewerPane::showTool()
 {
     QString tool = tr("none");
     if (m_tool) {
         tool = MessageNames::text(*m_tool);
-        if (m_variant != 0) {
-            tool = tr("%1, mode %2").arg(tool).arg(m_variant);
+        if (m_mode != 0) {
+            tool = tr("%1, mode %2").arg(tool).arg(m_mode);
         }
     }
     m_pActiveToolLB->setText(tr("Tool: %1").arg(tool));
-    const QMap<Pick, QString> hints{
-        {Pick::Symbol, tr("Click a feature to take its symbol.")},
-        {Pick::Attributes, tr("Click a feature to take its attributes.")},
-        {Pick::MeasureStart, tr("Click the first point to measure from.")},
-        {Pick::MeasureEnd, tr("Click the second point to measure to.")},
-    };
-    m_pPickHintLB->setText(hints.value(m_pick));
-    m_pRecordLB->setText(m_recordCode ? tr("Feature record (message %1)").arg(*m_recordCode)
-                                      : tr("Feature record (none yet)"));
-    m_pAttributesLB->setText(tr("Attributes"));
+}
+
+void ViewerPane::retranslate()
+{
+    showTool();
+    m_pPickHintLB->setText(m_canvas.hint());
+    m_view->setAccessibleName(tr("Board"));
+    if (m_secondView) {
+        m_secondView->setWindowTitle(tr("Second view"));
+        m_secondView->setAccessibleName(tr("Second view"));
+    }
 }

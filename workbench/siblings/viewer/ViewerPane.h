@@ -1,20 +1,22 @@
 #pragma once
 
+#include "board/Feature.h"
 #include "messages/MessageNames.h"
+#include "viewer/CanvasController.h"
 
 #include <PluginMetaData.h>
 
-#include <QPointF>
+#include <QPointer>
 #include <QWidget>
 
-#include <optional>
-
 class BoardView;
+class CanvasBar;
+class Inspector;
+class PlaceTool;
 class QLabel;
-class RecordTable;
 
-/// The canvas: shows what the tool strip tells it, and sends back what the user picks on the board.
-/// It never sends a tool's message back, which would go round for ever.
+/// The canvas: draws what the tool strip describes, does what its tools do, and sends back what the
+/// user picks on the board. It never sends a tool's message back, which would go round for ever.
 class ViewerPane : public QWidget {
     Q_OBJECT
 
@@ -25,38 +27,51 @@ public:
 
     void receive(const PluginMetaData& message);
 
+    CanvasController& canvas() { return m_canvas; }
+
+    /// For those who control the canvas from outside: what went wrong, empty when nothing did.
+    Q_INVOKABLE QString openBoard(const QString& file);
+    Q_INVOKABLE QString exportBoard(const QString& file);
+
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// What a click on the board is for.
-    enum class Pick { Nothing, Symbol, Attributes, MeasureStart, MeasureEnd };
+    QLayout* createHead();
+    void connectCanvas();
 
-    QWidget* createInspector();
-    void showRecord(const PluginMetaData& message);
+    void takeRecord(const PluginMetaData& message);
+    void takeDirection(const PluginMetaData& message);
+    void takeAttributes(const PluginMetaData& message);
     void followTool(const PluginMetaData& message);
-    void setTool(const MessageNames::Row* tool, qint64 variant = 0);
+    void startTool(const MessageNames::Row* row, qint64 mode);
+    PlaceTool* startPlacing();
+    void openSecondView();
     void startMeasuring();
-    void setPick(Pick pick);
-    void picked(int feature, const QPointF& point);
+    void startPicking(const QString& hint, void (ViewerPane::*picked)(int));
     void sendSymbol(int feature);
     void sendAttributes(int feature);
     void send(int code, const void* object = nullptr);
-    void showPosition(const QPointF& point);
+    void openStep(const PluginMetaData& message);
+
+    void showHovered(int feature);
+    void showTool();
     void retranslate();
 
     QWidget* m_parent;
-    BoardView* m_board;
+    CanvasController m_canvas;
+    BoardView* m_view;
+    CanvasBar* m_bar;
+    Inspector* m_inspector;
     QLabel* m_pActiveToolLB;
     QLabel* m_pPickHintLB;
     QLabel* m_pPositionLB;
-    QLabel* m_pRecordLB;
-    QLabel* m_pAttributesLB;
-    RecordTable* m_record;
-    RecordTable* m_attributes;
-    Pick m_pick = Pick::Nothing;
-    QPointF m_measureStart;
+    QLabel* m_pCanvasStatusLB;
+    QLabel* m_pHoveredLB;
+    QPointer<QWidget> m_secondView;
     const MessageNames::Row* m_tool = nullptr;  ///< the message that announced it; null: none
-    qint64 m_variant = 0;
-    std::optional<int> m_recordCode;
+    qint64 m_mode = 0;
+    PlaceTool* m_place = nullptr;  ///< the tool at work, when it is this one
+    QMap<QString, QVariant> m_record;
+    Pcb::Attributes m_attributes;
 };

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "viewer/BoardScene.h"
+#include "viewer/CanvasTool.h"
+#include "viewer/Document.h"
+
+#include <QObject>
+#include <QUndoGroup>
+
+#include <map>
+#include <memory>
+
+class BoardView;
+
+/// Brings together the open step, the tool at work and the views: what the hand does in a view goes
+/// to the tool, and what the tool draws goes to the scene.
+class CanvasController : public QObject, public Canvas {
+    Q_OBJECT
+
+public:
+    explicit CanvasController(QObject* parent = nullptr);
+    ~CanvasController() override;
+
+    /// Each step has a document of its own, which it keeps.
+    void openStep(const QString& job, const QString& step);
+    QUndoGroup& histories() { return m_histories; }
+    BoardScene& scene() { return m_scene; }
+
+    /// The first view connected is the one that the tools show things in.
+    void connectView(BoardView* view);
+
+    /// Null: clicks do nothing.
+    void setTool(std::unique_ptr<CanvasTool> tool);
+    CanvasTool* tool() const { return m_tool.get(); }
+    QString hint() const { return m_tool ? m_tool->hint() : QString(); }
+    /// What is begun is given up; the tool stays.
+    void cancel();
+    /// The tool was told something from outside: draws it anew.
+    void refresh();
+
+    // Canvas
+    Document& document() override { return *m_document; }
+    int featureAt(const QPointF& point) const override;
+    double tolerance() const override;
+    void showArea(const QRectF& area) override;
+    void say(const QString& text) override { Q_EMIT said(text); }
+
+Q_SIGNALS:
+    void said(const QString& text);
+    void hintChanged();
+    void documentOpened();
+    void moved(const QPointF& point);
+    void hovered(int feature);  ///< -1: none
+
+private:
+    void hover(const QPointF& point);
+
+    BoardScene m_scene;
+    QUndoGroup m_histories;
+    std::map<std::pair<QString, QString>, std::unique_ptr<Document>> m_steps;
+    Document* m_document = nullptr;
+    BoardView* m_view = nullptr;
+    std::unique_ptr<CanvasTool> m_tool;
+};
