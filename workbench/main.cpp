@@ -135,7 +135,7 @@ int main(int argc, char* argv[])
         complain(ours(error));
         return BadInput;
     }
-    SessionPlayer player(inputs.session, window.host(), &window);
+    SessionPlayer player(inputs.session, window.host(), &window, &log);
     QObject::connect(&player, &SessionPlayer::noted, &application, complain);
     QObject::connect(&player, &SessionPlayer::failed, &application, [](const QString& text) {
         complain(text);

@@ -1,9 +1,10 @@
 #include "session/InputEvents.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -33,6 +34,13 @@ private:
     QPointF m_local;
     QPointF m_global;
 };
+
+Qt::MouseButtons withoutOne(Qt::MouseButton button)
+{
+    Qt::MouseButtons others = QGuiApplication::mouseButtons();
+    others.setFlag(button, false);
+    return others;
+}
 
 void sendKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
@@ -70,6 +78,36 @@ void click(QWidget* widget, const QPoint& position, Qt::MouseButton button)
     mouse.send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
     mouse.send(QEvent::MouseButtonPress, button, button);
     mouse.send(QEvent::MouseButtonRelease, button, Qt::NoButton);
+}
+
+void press(QWidget* widget, const QPoint& position, Qt::MouseButton button)
+{
+    Mouse mouse(widget, position);
+    mouse.send(QEvent::MouseMove, Qt::NoButton, QGuiApplication::mouseButtons());
+    mouse.send(QEvent::MouseButtonPress, button, QGuiApplication::mouseButtons() | button);
+}
+
+void move(QWidget* widget, const QPoint& position)
+{
+    Mouse(widget, position).send(QEvent::MouseMove, Qt::NoButton, QGuiApplication::mouseButtons());
+}
+
+void release(QWidget* widget, const QPoint& position, Qt::MouseButton button)
+{
+    Mouse(widget, position).send(QEvent::MouseButtonRelease, button, withoutOne(button));
+}
+
+void wheel(QWidget* widget, const QPoint& position, double notches)
+{
+    constexpr double eighthsOfDegree = 120.0;  // of a notch
+    QWindow* const window = widget->window()->windowHandle();
+    if (window) {
+        QWheelEvent event(widget->mapTo(widget->window(), position), widget->mapToGlobal(position),
+                          QPoint(), QPoint(0, qRound(notches * eighthsOfDegree)),
+                          QGuiApplication::mouseButtons(), Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(window, &event);
+    }
 }
 
 void doubleClick(QWidget* widget, const QPoint& position)

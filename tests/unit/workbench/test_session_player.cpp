@@ -1,11 +1,10 @@
 // Sessions played on a small window of their own: each kind of step, and each way to fail.
 
 #include "Main.h"
+#include "messages/MessageLog.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "window/HostState.h"
-
-#include <PluginManagerStandIn.h>
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -57,6 +56,7 @@ class TestSessionPlayer : public QObject {
     QComboBox* m_combo = nullptr;
     Pad* m_pad = nullptr;
     QStringList m_noted;
+    QStringList m_seen;  ///< the messages, as code and extra word
 
     /// What the player says at the end: empty when the session was played to its end.
     QString play(const QString& text)
@@ -68,10 +68,15 @@ class TestSessionPlayer : public QObject {
             return error;
         }
         HostState host(m_window.get());
-        SessionPlayer player(session, &host, m_window.get());
+        MessageLog log;
+        SessionPlayer player(session, &host, m_window.get(), &log);
         const QSignalSpy finished(&player, &SessionPlayer::finished);
         const QSignalSpy failed(&player, &SessionPlayer::failed);
         const QSignalSpy noted(&player, &SessionPlayer::noted);
+        m_seen.clear();
+        connect(&log, &MessageLog::appended, this, [this](const MessageRecord& message) {
+            m_seen.append(QString("%1 %2").arg(message.code).arg(message.extra));
+        });
         player.setPatience(500);
         player.start();
         if (!QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 15000)) {
@@ -165,15 +170,10 @@ private Q_SLOTS:
 
     void messages()
     {
-        QStringList seen;
-        CanvasHost::setObserver([&](const CanvasHost::Transfer& transfer) {
-            seen.append(QString("%1 %2").arg(transfer.message.code).arg(transfer.message.extra));
-        });
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no module"));
         QCOMPARE(play("send 20000206 extra=1\nsend 20002400 JobName=demo StepName=pcb\n"),
                  QString());
-        CanvasHost::setObserver({});
-        QCOMPARE(seen, (QStringList{"20000206 1", "20002400 0"}));
+        QCOMPARE(m_seen, (QStringList{"20000206 1", "20002400 0"}));
     }
 
     void picturesAndWaits()
