@@ -113,10 +113,18 @@ void wheel(QWidget* widget, const QPoint& position, double notches)
 void doubleClick(QWidget* widget, const QPoint& position)
 {
     Mouse mouse(widget, position);
+    const QPoint inWindow = widget->mapTo(widget->window(), position);
+    QWidget* const child = widget->window()->childAt(inWindow);
+    const QPointer<QWidget> hit = child ? child : widget->window();
     mouse.send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
-    for (const QEvent::Type press : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
-        mouse.send(press, Qt::LeftButton, Qt::LeftButton);
-        mouse.send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    mouse.send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    mouse.send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    mouse.send(QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton);
+    if (hit) {
+        // Qt passes a release on only after a press; of a double click it has seen none.
+        QMouseEvent release(QEvent::MouseButtonRelease, hit->mapFrom(hit->window(), inWindow),
+                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(hit, &release);
     }
 }
 

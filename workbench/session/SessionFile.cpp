@@ -24,6 +24,7 @@ QString quoted(QString text)
 
 bool SessionFile::open(const QString& file, QString* error)
 {
+    m_file.close();
     m_file.setFileName(file);
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         *error = m_file.errorString();

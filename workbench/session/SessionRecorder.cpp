@@ -190,6 +190,12 @@ void SessionRecorder::readWidgetEvent(QWidget* widget, QEvent* event)
         if (auto* const box = qobject_cast<QMessageBox*>(widget)) {
             watchBox(box);
         }
+    } else if (event->type() == QEvent::ShortcutOverride) {
+        // A list takes the choice by it, and the key itself goes to the combo box.
+        QWidget* const popup = QApplication::activePopupWidget();
+        if (popup && comboOf(popup)) {
+            popupKey(popup, static_cast<const QKeyEvent*>(event));
+        }
     } else if (event->type() == QEvent::Close && event->spontaneous() && widget->isWindow() &&
                widget != m_window && !isInBox(widget)) {
         if (const QWidget* const named = RecordedPlace::named(widget)) {
@@ -369,7 +375,12 @@ void SessionRecorder::chooseItem(QComboBox* combo, const QModelIndex& index)
         m_file.comment(QStringLiteral("A choice in a list without a name was not recorded."));
         return;
     }
-    m_file.append({QStringLiteral("choose"), combo->objectName(), combo->itemText(index.row())});
+    const QStringList words{QStringLiteral("choose"), combo->objectName(),
+                            combo->itemText(index.row())};
+    if (m_file.last() == words) {
+        return;  // the same event, passed on
+    }
+    m_file.append(words);
     unlessClosed(combo->view(), {});
 }
 
