@@ -294,6 +294,26 @@ StepAction pickItem(const QString& name, const QString& item)
     };
 }
 
+StepAction setItem(const QString& name, const QString& item)
+{
+    return [=](const StepContext&) -> StepResult {
+        StepResult result;
+        QWidget* const widget = reach(name, &result);
+        auto* const combo = qobject_cast<QComboBox*>(widget);
+        if (!combo) {
+            return widget ? failed(QStringLiteral("\"%1\" is no combo box").arg(name)) : result;
+        }
+        const int index = combo->findText(item);
+        if (index < 0) {
+            QString reason;
+            itemIndex(combo, item, &reason);
+            return again(reason);
+        }
+        combo->setCurrentIndex(index);
+        return {};
+    };
+}
+
 StepAction picture(const QString& file, const QString& name)
 {
     return [=](const StepContext& context) -> StepResult {

@@ -39,6 +39,9 @@ StepAction openList(const QString& name, const QString& item);
 /// Clicks `item` in the list that is open.
 StepAction pickItem(const QString& name, const QString& item);
 
+/// Makes `item` the one that is shown in a combo box, as a program may also when it is greyed.
+StepAction setItem(const QString& name, const QString& item);
+
 /// Saves a picture of a widget; without a name, of the host's window.
 StepAction picture(const QString& file, const QString& name);
 

@@ -86,6 +86,11 @@ StepActionList waitActions(const QStringList& arguments)
     }};
 }
 
+StepActionList setActions(const QStringList& arguments)
+{
+    return {StepActions::setItem(arguments[0], arguments[1])};
+}
+
 StepActionList menuActions(const QStringList& arguments)
 {
     return {StepActions::openBarMenu(arguments[0]), StepActions::pickEntry(arguments[1])};
@@ -111,6 +116,7 @@ const std::vector<StepKind>& kinds()
         {"type", "type NAME TEXT", 2, 2, nullptr, typeActions},
         {"key", "key NAME KEY", 2, 2, checkKey, keyActions},
         {"choose", "choose NAME ITEM", 2, 2, nullptr, chooseActions},
+        {"set", "set NAME ITEM", 2, 2, nullptr, setActions},
         {"menu", "menu NAME ENTRY", 2, 2, nullptr, menuActions},
         {"close", "close NAME", 1, 1, nullptr, closeActions},
         {"send", "send CODE [key=value ...] [extra=N]", 1, INT_MAX, checkMessage, sendActions},
