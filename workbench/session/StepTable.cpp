@@ -32,8 +32,9 @@ QString checkMessage(const QStringList& arguments)
 
 QString checkPicture(const QStringList& arguments)
 {
+    static const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
     const QByteArray suffix = QFileInfo(arguments[0]).suffix().toLower().toLatin1();
-    return QImageWriter::supportedImageFormats().contains(suffix)
+    return formats.contains(suffix)
                ? QString()
                : QStringLiteral("\"%1\" does not end like a picture (.png)").arg(arguments[0]);
 }

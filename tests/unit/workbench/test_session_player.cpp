@@ -1,10 +1,7 @@
 // Sessions played on a small window of their own: each kind of step, and each way to fail.
 
 #include "Main.h"
-#include "messages/MessageLog.h"
-#include "session/SessionParser.h"
-#include "session/SessionPlayer.h"
-#include "window/HostState.h"
+#include "PlaySession.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -61,32 +58,10 @@ class TestSessionPlayer : public QObject {
     /// What the player says at the end: empty when the session was played to its end.
     QString play(const QString& text)
     {
-        Session session;
-        session.file = "demo";
-        QString error;
-        if (!SessionParser::read(text, &session, &error)) {
-            return error;
-        }
-        HostState host(m_window.get());
-        MessageLog log;
-        SessionPlayer player(session, &host, m_window.get(), &log);
-        const QSignalSpy finished(&player, &SessionPlayer::finished);
-        const QSignalSpy failed(&player, &SessionPlayer::failed);
-        const QSignalSpy noted(&player, &SessionPlayer::noted);
-        m_seen.clear();
-        connect(&log, &MessageLog::appended, this, [this](const MessageRecord& message) {
-            m_seen.append(QString("%1 %2").arg(message.code).arg(message.extra));
-        });
-        player.setPatience(500);
-        player.start();
-        if (!QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 15000)) {
-            return "the player does not end";
-        }
-        m_noted.clear();
-        for (const QVariantList& note : noted) {
-            m_noted.append(note[0].toString());
-        }
-        return failed.isEmpty() ? QString() : failed[0][0].toString();
+        const Played played = playSession(text, m_window.get());
+        m_noted = played.notes;
+        m_seen = played.messages;
+        return played.error;
     }
 
 private Q_SLOTS:
