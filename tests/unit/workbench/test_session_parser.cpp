@@ -65,6 +65,17 @@ private Q_SLOTS:
         QCOMPARE(session.steps[9].arguments, (QStringList{"m_pA", "größer als"}));
     }
 
+    void eachStepIsDescribed()
+    {
+        QFile page(SOURCE_DIR "/docs/sessions.md");
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(page.readAll());
+        for (const QString& name : StepTable::names()) {
+            const bool hasRow = text.contains("\n| `" + name + " ");
+            QVERIFY2(hasRow, qPrintable(name));
+        }
+    }
+
     void cutAtEveryByte()
     {
         Session whole;
