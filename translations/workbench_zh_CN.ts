@@ -29,6 +29,85 @@
     </message>
 </context>
 <context>
+    <name>ComposeDialog</name>
+    <message>
+        <source>Number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number</source>
+        <translation>“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list NUMBER=SYMBOL,...</source>
+        <translation>“%1”不是“编号=符号,…”形式的列表</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list NAME=VALUE,...</source>
+        <translation>“%1”不是“名称=值,…”形式的列表</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no message code</source>
+        <translation>“%1”不是消息代码</translation>
+    </message>
+    <message>
+        <source>message %1 takes: %2</source>
+        <translation>消息 %1 需要：%2</translation>
+    </message>
+    <message>
+        <source>Message %1 was sent.</source>
+        <translation>消息 %1 已发送。</translation>
+    </message>
+    <message>
+        <source>Compose Message</source>
+        <translation>编写消息</translation>
+    </message>
+    <message>
+        <source>&amp;Code</source>
+        <translation>代码(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Sender</source>
+        <translation>发送方(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Payload</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>&amp;Add Entry</source>
+        <translation>添加条目(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Entry</source>
+        <translation>删除条目(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Extra word</source>
+        <translation>附加字(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Se&amp;nd</source>
+        <translation>发送(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>JobTreePane</name>
     <message>
         <source>Double-click a step to open it.</source>
@@ -60,6 +139,57 @@
     <message>
         <source>dx %1   dy %2</source>
         <translation>dx %1   dy %2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageDialog</name>
+    <message>
+        <source>by address</source>
+        <translation>按地址</translation>
+    </message>
+    <message>
+        <source>Message %1</source>
+        <translation>消息 %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>发送方</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>接收方</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Extra</source>
+        <translation>附加字</translation>
+    </message>
+    <message>
+        <source>Delivered</source>
+        <translation>已送达</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -158,6 +288,10 @@
     <message>
         <source>Type</source>
         <translation>类型</translation>
+    </message>
+    <message>
+        <source>Compose...</source>
+        <translation>编写...</translation>
     </message>
 </context>
 <context>
@@ -428,6 +562,61 @@
     <message>
         <source>Symbols</source>
         <translation>符号</translation>
+    </message>
+</context>
+<context>
+    <name>PayloadTable</name>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>integer</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number</source>
+        <translation>“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>小数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number</source>
+        <translation>“%1”不是数字</translation>
+    </message>
+    <message>
+        <source>truth</source>
+        <translation>真假</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false</source>
+        <translation>“%1”既不是 true 也不是 false</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>the key is missing</source>
+        <translation>缺少键</translation>
+    </message>
+    <message>
+        <source>the key &quot;%1&quot; stands there twice</source>
+        <translation>键“%1”出现了两次</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 #include "messages/MessageTrace.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
+#include "session/SessionRecorder.h"
 #include "window/Options.h"
 #include "window/WindowPicture.h"
 #include "window/WorkbenchWindow.h"
@@ -9,6 +10,7 @@
 #include <CamApiStandIn.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QPixmap>
 #include <QStyleFactory>
 #include <QTimer>
@@ -78,6 +80,11 @@ QString readInputs(int argc, char* argv[], Inputs* inputs)
         !SessionParser::readFile(options.sessionFile, &inputs->session, &error)) {
         return inputs->session.file.isEmpty() ? ours(error) : error;
     }
+    if (!options.recordFile.isEmpty() && QFileInfo::exists(options.recordFile) &&
+        QFileInfo(options.recordFile) == QFileInfo(options.sessionFile)) {
+        return ours(QStringLiteral("%1: a session is not recorded over the one that is played")
+                        .arg(options.recordFile));
+    }
     if (!options.traceFile.isEmpty() && !inputs->trace.open(options.traceFile)) {
         return ours(QStringLiteral("%1: %2").arg(options.traceFile, inputs->trace.errorText()));
     }
@@ -135,7 +142,13 @@ int main(int argc, char* argv[])
         complain(ours(error));
         return BadInput;
     }
-    SessionPlayer player(inputs.session, window.host(), &window);
+    SessionRecorder recorder(&window);
+    const QString record = inputs.options.recordFile;
+    if (!record.isEmpty() && !recorder.start(record, &error)) {
+        complain(ours(QStringLiteral("%1: %2").arg(record, error)));
+        return BadInput;
+    }
+    SessionPlayer player(inputs.session, window.host(), &window, &log);
     QObject::connect(&player, &SessionPlayer::noted, &application, complain);
     QObject::connect(&player, &SessionPlayer::failed, &application, [](const QString& text) {
         complain(text);

@@ -30,6 +30,10 @@ printf 'click m_pMarkTB\njump\n' >"$dir/jump.session"
 printf '\n\nclick m_p\377\n' >"$dir/binary.session"
 printf 'send 20001811 extra=77\n' >"$dir/address.session"
 printf 'click m_pMarkTB\nclick m_pMarkTC\n' >"$dir/absent-widget.session"
+printf 'click m_pMoveFeatureTB\nexpect message 20000207 extra=1\n' >"$dir/extra.session"
+printf 'expect state m_pMarkTB checked=true\n' >"$dir/state.session"
+printf 'click m_pAddFeatureTB\nclick m_pPadTB\ntype m_pSymbolTextLE x\nkey m_pSymbolTextLE Enter\nbox accept title=x\n' \
+    >"$dir/box.session"
 mkdir "$dir/modules"
 cp "$modules"/Canvas_Viewer.* "$dir/modules/"
 echo "no library" >"$dir/modules/Canvas_JobTree.so"
@@ -54,8 +58,22 @@ expect 2 "$dir/modules/Canvas_JobTree.so: " --modules "$dir/modules"
 expect 2 "$dir/no/picture.png" --screenshot "$dir/no/picture.png"
 expect 1 "$dir/absent-widget.session:2: no widget \"m_pMarkTC\"; there is m_pMarkTB" \
     --play "$dir/absent-widget.session"
+expect 1 "$dir/extra.session:2: expected message 20000207 with extra=1, got message 20000207 with extra=0" \
+    --play "$dir/extra.session"
+expect 1 "$dir/state.session:1: expected checked=\"true\" of \"m_pMarkTB\", got \"false\"" \
+    --play "$dir/state.session"
+expect 1 "$dir/box.session:5: expected a box of the title \"x\", got \"Illegal Input\"" \
+    --play "$dir/box.session"
+expect 2 "$dir/no/a.session" --record "$dir/no/a.session"
+expect 2 "a session is not recorded over the one that is played" \
+    --play "$dir/state.session" --record "$dir/state.session"
+grep -q expect "$dir/state.session" || {
+    echo "the session was recorded over"
+    failed=1
+}
 
-"$workbench" --help >"$dir/help" 2>"$dir/err" && grep -q -- "--play <file>" "$dir/help" || {
+"$workbench" --help >"$dir/help" 2>"$dir/err" && grep -q -- "--play <file>" "$dir/help" &&
+    grep -q -- "--record <file>" "$dir/help" || {
     echo "--help: no help, or a wrong exit status"
     failed=1
 }

@@ -1,5 +1,6 @@
 #include "messages/MessageMonitor.h"
 
+#include "messages/MessageDialog.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
@@ -74,6 +75,7 @@ QWidget* MessageMonitor::createTable()
     m_pMonitorFilterLE = named(new QLineEdit(side), "m_pMonitorFilterLE");
     m_pMonitorFilterLE->setClearButtonEnabled(true);
     m_pMonitorCountLB = named(new QLabel(side), "m_pMonitorCountLB");
+    m_pMonitorComposePB = named(new QPushButton(side), "m_pMonitorComposePB");
     m_pMonitorClearPB = named(new QPushButton(side), "m_pMonitorClearPB");
     m_pMonitorSavePB = named(new QPushButton(side), "m_pMonitorSavePB");
     m_pMonitorTV = named(new QTableView(side), "m_pMonitorTV");
@@ -90,6 +92,7 @@ QWidget* MessageMonitor::createTable()
     row->addWidget(m_pMonitorFilterLE, 1);
     row->addWidget(m_pMonitorCountLB);
     row->addSpacing(8);
+    row->addWidget(m_pMonitorComposePB);
     row->addWidget(m_pMonitorClearPB);
     row->addWidget(m_pMonitorSavePB);
     auto* const layout = new QVBoxLayout(side);
@@ -120,6 +123,8 @@ void MessageMonitor::connectAll()
         m_filtered->setFilterFixedString(text);
         showCount();
     });
+    connect(m_pMonitorComposePB, &QPushButton::clicked, this, &MessageMonitor::composeAsked);
+    connect(m_pMonitorTV, &QTableView::doubleClicked, this, &MessageMonitor::showWhole);
     connect(m_pMonitorClearPB, &QPushButton::clicked, m_log, &MessageLog::clear);
     connect(m_pMonitorSavePB, &QPushButton::clicked, this, &MessageMonitor::saveTrace);
     connect(m_pMonitorTV->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -176,6 +181,14 @@ void MessageMonitor::showSelected()
     m_pMessageTW->showRows(rows);
 }
 
+void MessageMonitor::showWhole(const QModelIndex& index)
+{
+    auto* const dialog =
+        new MessageDialog(m_model->message(m_filtered->mapToSource(index).row()), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+}
+
 void MessageMonitor::saveTrace()
 {
     const QString file =
@@ -200,6 +213,7 @@ void MessageMonitor::changeEvent(QEvent* event)
 void MessageMonitor::retranslate()
 {
     m_pMonitorFilterLE->setPlaceholderText(tr("Filter: any text of a message"));
+    m_pMonitorComposePB->setText(tr("Compose..."));
     m_pMonitorClearPB->setText(tr("Clear"));
     m_pMonitorSavePB->setText(tr("Save..."));
     m_pMessageTW->setHorizontalHeaderLabels({tr("Key"), tr("Value"), tr("Type")});

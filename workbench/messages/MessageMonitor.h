@@ -6,6 +6,7 @@ class MessageLog;
 class MessageModel;
 class QLabel;
 class QLineEdit;
+class QModelIndex;
 class QPushButton;
 class QSortFilterProxyModel;
 class QTableView;
@@ -22,6 +23,10 @@ public:
     /// Asks for a file and writes the trace of all messages to it.
     void saveTrace();
 
+Q_SIGNALS:
+    /// The user wants to write a message.
+    void composeAsked();
+
 protected:
     void changeEvent(QEvent* event) override;
 
@@ -31,6 +36,7 @@ private:
     void connectAll();
     void followNewest();
     void showSelected();
+    void showWhole(const QModelIndex& index);
     void showCount();
     void retranslate();
 
@@ -40,6 +46,7 @@ private:
     QTableView* m_pMonitorTV;
     QLineEdit* m_pMonitorFilterLE;
     QLabel* m_pMonitorCountLB;
+    QPushButton* m_pMonitorComposePB;
     QPushButton* m_pMonitorClearPB;
     QPushButton* m_pMonitorSavePB;
     QLabel* m_pMessageLB;

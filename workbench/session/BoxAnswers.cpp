@@ -9,15 +9,27 @@
 
 namespace {
 
-QAbstractButton* acceptButton(const QMessageBox* box)
+QAbstractButton* buttonFor(const QMessageBox* box, bool accept)
 {
     for (QAbstractButton* const button : box->buttons()) {
-        const QMessageBox::ButtonRole role = box->buttonRole(button);
-        if (role == QMessageBox::AcceptRole || role == QMessageBox::YesRole) {
+        if (BoxAnswers::meaning(box, button) == accept) {
             return button;
         }
     }
-    return box->buttons().value(0);
+    return accept ? box->buttons().value(0) : nullptr;
+}
+
+QString faultOf(const BoxExpectation& expected, const QMessageBox* box)
+{
+    const auto fault = [](const char* part, const std::optional<QString>& wanted,
+                          const QString& got) {
+        return !wanted || wanted->simplified() == got
+                   ? QString()
+                   : QStringLiteral("expected a box of the %1 \"%2\", got \"%3\"")
+                         .arg(QLatin1String(part), wanted->simplified(), got);
+    };
+    const QString title = fault("title", expected.title, box->windowTitle().simplified());
+    return title.isEmpty() ? fault("text", expected.text, BoxAnswers::textOf(box)) : title;
 }
 
 }  // namespace
@@ -28,19 +40,44 @@ QMessageBox* BoxAnswers::waiting()
     return box && box->isVisible() ? box : nullptr;
 }
 
-bool BoxAnswers::answer(QMessageBox* box, QString* note)
+QString BoxAnswers::textOf(const QMessageBox* box)
 {
-    const bool expected = m_expected > 0;
-    m_expected -= expected ? 1 : 0;
-    QAbstractButton* const button = acceptButton(box);
-    if (!expected) {
-        *note = QStringLiteral("answered the box \"%1\": %2")
-                    .arg(box->windowTitle(), box->text().simplified());
+    return box->text().simplified();
+}
+
+std::optional<bool> BoxAnswers::meaning(const QMessageBox* box, QAbstractButton* button)
+{
+    switch (box->buttonRole(button)) {
+        case QMessageBox::AcceptRole:
+        case QMessageBox::YesRole:
+            return true;
+        case QMessageBox::RejectRole:
+        case QMessageBox::NoRole:
+            return false;
+        default:
+            return {};
     }
-    if (button) {
+}
+
+BoxAnswers::Answer BoxAnswers::answer(QMessageBox* box)
+{
+    Answer answer;
+    bool accept = true;
+    if (m_expected.empty()) {
+        answer.note =
+            QStringLiteral("answered the box \"%1\": %2").arg(box->windowTitle(), textOf(box));
+    } else {
+        const BoxExpectation expected = m_expected.front();
+        m_expected.pop_front();
+        accept = expected.accept;
+        answer.expected = true;
+        answer.line = expected.line;
+        answer.fault = faultOf(expected, box);
+    }
+    if (QAbstractButton* const button = buttonFor(box, accept)) {
         InputEvents::click(button, button->rect().center());
     } else {
-        box->accept();
+        box->done(accept ? QDialog::Accepted : QDialog::Rejected);
     }
-    return expected;
+    return answer;
 }

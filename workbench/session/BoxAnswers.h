@@ -1,21 +1,48 @@
 #pragma once
 
+#include <QString>
+
+#include <deque>
+#include <optional>
+
+class QAbstractButton;
 class QMessageBox;
-class QString;
+
+/// A message box that a session expects, and how it is answered.
+struct BoxExpectation {
+    bool accept = true;
+    std::optional<QString> title;
+    std::optional<QString> text;
+    int line = 0;  ///< where the session says so
+};
 
 /// Answers message boxes: those that a session expects, and those that it does not.
 class BoxAnswers {
 public:
+    /// What came of a box.
+    struct Answer {
+        bool expected = false;
+        int line = 0;   ///< of the expectation
+        QString fault;  ///< "expected ..., got ..."; empty when the box was as expected
+        QString note;   ///< of a box that nobody expected: what was answered
+    };
+
     /// The box that waits for the user now; null when none does.
     static QMessageBox* waiting();
+    /// The text of a box on one line.
+    static QString textOf(const QMessageBox* box);
+    /// Whether a click on `button` answers yes (true), no (false), or something else (none).
+    static std::optional<bool> meaning(const QMessageBox* box, QAbstractButton* button);
 
     /// The next box is expected, or the one that waits now.
-    void expect() { ++m_expected; }
-    int expected() const { return m_expected; }
+    void expect(const BoxExpectation& box) { m_expected.push_back(box); }
+    bool anyExpected() const { return !m_expected.empty(); }
+    /// The line of the first expectation.
+    int firstLine() const { return m_expected.front().line; }
 
-    /// Accepts `box`. False when nobody expected it; `note` then says what was answered.
-    bool answer(QMessageBox* box, QString* note);
+    /// Answers `box` as is expected, or accepts it. The box may be gone afterwards.
+    Answer answer(QMessageBox* box);
 
 private:
-    int m_expected = 0;
+    std::deque<BoxExpectation> m_expected;
 };

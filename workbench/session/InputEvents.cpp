@@ -1,9 +1,10 @@
 #include "session/InputEvents.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -33,6 +34,13 @@ private:
     QPointF m_local;
     QPointF m_global;
 };
+
+Qt::MouseButtons withoutOne(Qt::MouseButton button)
+{
+    Qt::MouseButtons others = QGuiApplication::mouseButtons();
+    others.setFlag(button, false);
+    return others;
+}
 
 void sendKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
@@ -72,13 +80,51 @@ void click(QWidget* widget, const QPoint& position, Qt::MouseButton button)
     mouse.send(QEvent::MouseButtonRelease, button, Qt::NoButton);
 }
 
+void press(QWidget* widget, const QPoint& position, Qt::MouseButton button)
+{
+    Mouse mouse(widget, position);
+    mouse.send(QEvent::MouseMove, Qt::NoButton, QGuiApplication::mouseButtons());
+    mouse.send(QEvent::MouseButtonPress, button, QGuiApplication::mouseButtons() | button);
+}
+
+void move(QWidget* widget, const QPoint& position)
+{
+    Mouse(widget, position).send(QEvent::MouseMove, Qt::NoButton, QGuiApplication::mouseButtons());
+}
+
+void release(QWidget* widget, const QPoint& position, Qt::MouseButton button)
+{
+    Mouse(widget, position).send(QEvent::MouseButtonRelease, button, withoutOne(button));
+}
+
+void wheel(QWidget* widget, const QPoint& position, double notches)
+{
+    constexpr double eighthsOfDegree = 120.0;  // of a notch
+    QWindow* const window = widget->window()->windowHandle();
+    if (window) {
+        QWheelEvent event(widget->mapTo(widget->window(), position), widget->mapToGlobal(position),
+                          QPoint(), QPoint(0, qRound(notches * eighthsOfDegree)),
+                          QGuiApplication::mouseButtons(), Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(window, &event);
+    }
+}
+
 void doubleClick(QWidget* widget, const QPoint& position)
 {
     Mouse mouse(widget, position);
+    const QPoint inWindow = widget->mapTo(widget->window(), position);
+    QWidget* const child = widget->window()->childAt(inWindow);
+    const QPointer<QWidget> hit = child ? child : widget->window();
     mouse.send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
-    for (const QEvent::Type press : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
-        mouse.send(press, Qt::LeftButton, Qt::LeftButton);
-        mouse.send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    mouse.send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    mouse.send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    mouse.send(QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton);
+    if (hit) {
+        // Qt passes a release on only after a press; of a double click it has seen none.
+        QMouseEvent release(QEvent::MouseButtonRelease, hit->mapFrom(hit->window(), inWindow),
+                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(hit, &release);
     }
 }
 

@@ -14,6 +14,14 @@ namespace InputEvents {
 void click(QWidget* widget, const QPoint& position, Qt::MouseButton button = Qt::LeftButton);
 void doubleClick(QWidget* widget, const QPoint& position);
 
+/// The parts of a drag. What is held counts from press() to release(); a move may leave the widget.
+void press(QWidget* widget, const QPoint& position, Qt::MouseButton button);
+void move(QWidget* widget, const QPoint& position);
+void release(QWidget* widget, const QPoint& position, Qt::MouseButton button);
+
+/// `notches` away from the user are positive; a part of one is what a fine wheel reports.
+void wheel(QWidget* widget, const QPoint& position, double notches);
+
 /// To the widget of `window` that has the focus. `combination` is one key with its modifiers.
 void key(QWidget* window, const QKeySequence& combination);
 void type(QWidget* window, const QString& text);

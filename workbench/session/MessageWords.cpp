@@ -10,48 +10,6 @@ namespace {
 
 using MessageNames::Extra;
 
-/// A word "key:type=value" taken apart; the type may be absent.
-struct Word {
-    QString key;
-    QString type;
-    QString value;
-};
-
-bool take(const QString& text, Word* word)
-{
-    const int equals = text.indexOf(QLatin1Char('='));
-    if (equals < 1) {
-        return false;
-    }
-    const QString left = text.left(equals);
-    // Keys may hold a colon themselves: the last one begins the type.
-    const int colon = left.lastIndexOf(QLatin1Char(':'));
-    word->key = left.left(colon < 0 ? left.size() : colon);
-    word->type = colon < 0 ? QString() : left.mid(colon + 1);
-    word->value = text.mid(equals + 1);
-    return !word->key.isEmpty();
-}
-
-QVariant payloadValue(const Word& word, bool* ok)
-{
-    *ok = true;
-    if (word.type.isEmpty() || word.type == QLatin1String("text")) {
-        return word.value;
-    }
-    if (word.type == QLatin1String("int")) {
-        return word.value.toInt(ok);
-    }
-    if (word.type == QLatin1String("decimal")) {
-        return word.value.toDouble(ok);
-    }
-    if (word.type == QLatin1String("bool")) {
-        *ok = word.value == QLatin1String("true") || word.value == QLatin1String("false");
-        return word.value == QLatin1String("true");
-    }
-    *ok = false;
-    return {};
-}
-
 /// "a=1,b=2"
 bool readPairs(const QString& text, QList<QPair<QString, QString>>* pairs)
 {
@@ -63,43 +21,6 @@ bool readPairs(const QString& text, QList<QPair<QString, QString>>* pairs)
         pairs->append({part.left(equals), part.mid(equals + 1)});
     }
     return true;
-}
-
-bool readExtra(const Word& word, HostMessage* message, Extra* kind)
-{
-    static const QHash<QString, Extra> kinds{{QString(), Extra::Number},
-                                             {QStringLiteral("string"), Extra::String},
-                                             {QStringLiteral("symbols"), Extra::Symbols},
-                                             {QStringLiteral("attributes"), Extra::Attributes}};
-    if (!kinds.contains(word.type)) {
-        return false;
-    }
-    *kind = kinds.value(word.type);
-    bool ok = true;
-    QList<QPair<QString, QString>> pairs;
-    if (*kind == Extra::Number) {
-        message->extra = word.value.toLongLong(&ok);
-    } else if (*kind == Extra::String) {
-        message->extra = word.value.toStdString();
-    } else if (!readPairs(word.value, &pairs)) {
-        return false;
-    } else if (*kind == Extra::Attributes) {
-        HostMessage::Attributes attributes;
-        for (const auto& [name, value] : pairs) {
-            attributes[name.toStdString()] = value.toStdString();
-        }
-        message->extra = attributes;
-    } else {
-        HostMessage::Symbols symbols;
-        for (const auto& [number, symbol] : pairs) {
-            symbols[number.toInt(&ok)] = symbol.toStdString();
-            if (!ok) {
-                return false;
-            }
-        }
-        message->extra = symbols;
-    }
-    return ok;
 }
 
 QString needed(Extra kind)
@@ -118,6 +39,91 @@ QString needed(Extra kind)
 
 }  // namespace
 
+bool take(const QString& text, Word* word)
+{
+    const int equals = text.indexOf(QLatin1Char('='));
+    if (equals < 1) {
+        return false;
+    }
+    const QString left = text.left(equals);
+    // Keys may hold a colon themselves: the last one begins the type.
+    const int colon = left.lastIndexOf(QLatin1Char(':'));
+    word->key = left.left(colon < 0 ? left.size() : colon);
+    word->type = colon < 0 ? QString() : left.mid(colon + 1);
+    word->value = text.mid(equals + 1);
+    return !word->key.isEmpty();
+}
+
+QVariant payloadValue(const QString& type, const QString& text, bool* ok)
+{
+    *ok = true;
+    if (type.isEmpty() || type == QLatin1String("text")) {
+        return text;
+    }
+    if (type == QLatin1String("int")) {
+        return text.toInt(ok);
+    }
+    if (type == QLatin1String("decimal")) {
+        return text.toDouble(ok);
+    }
+    if (type == QLatin1String("bool")) {
+        *ok = text == QLatin1String("true") || text == QLatin1String("false");
+        return text == QLatin1String("true");
+    }
+    *ok = false;
+    return {};
+}
+
+bool extraKind(const QString& type, Extra* kind)
+{
+    static const QHash<QString, Extra> kinds{{QString(), Extra::Number},
+                                             {QStringLiteral("string"), Extra::String},
+                                             {QStringLiteral("symbols"), Extra::Symbols},
+                                             {QStringLiteral("attributes"), Extra::Attributes}};
+    *kind = kinds.value(type);
+    return kinds.contains(type);
+}
+
+bool extraValue(Extra kind, const QString& text, HostMessage::ExtraWord* extra)
+{
+    bool ok = true;
+    QList<QPair<QString, QString>> pairs;
+    if (kind == Extra::Number) {
+        *extra = text.toLongLong(&ok);
+        return ok;
+    }
+    if (kind == Extra::String) {
+        *extra = text.toStdString();
+        return true;
+    }
+    if (!readPairs(text, &pairs)) {
+        return false;
+    }
+    if (kind == Extra::Attributes) {
+        HostMessage::Attributes attributes;
+        for (const auto& [name, value] : pairs) {
+            attributes[name.toStdString()] = value.toStdString();
+        }
+        *extra = attributes;
+        return true;
+    }
+    HostMessage::Symbols symbols;
+    for (const auto& [number, symbol] : pairs) {
+        symbols[number.toInt(&ok)] = symbol.toStdString();
+        if (!ok) {
+            return false;
+        }
+    }
+    *extra = symbols;
+    return true;
+}
+
+Extra wantedExtra(int code)
+{
+    const MessageNames::Row* const row = MessageNames::find(ModuleNames::toolStrip, code);
+    return row ? row->extra : Extra::Number;
+}
+
 bool read(const QStringList& words, HostMessage* message, QString* reason)
 {
     bool ok = false;
@@ -131,9 +137,9 @@ bool read(const QStringList& words, HostMessage* message, QString* reason)
         Word word;
         ok = take(text, &word);
         if (ok && word.key == QLatin1String("extra")) {
-            ok = readExtra(word, message, &given);
+            ok = extraKind(word.type, &given) && extraValue(given, word.value, &message->extra);
         } else if (ok) {
-            message->payload.insert(word.key, payloadValue(word, &ok));
+            message->payload.insert(word.key, payloadValue(word.type, word.value, &ok));
         }
         if (!ok) {
             *reason = QStringLiteral("\"%1\" is no entry of a message").arg(text);
@@ -141,8 +147,7 @@ bool read(const QStringList& words, HostMessage* message, QString* reason)
         }
     }
     // A wrong address would end the program, not the step.
-    const MessageNames::Row* const row = MessageNames::find(ModuleNames::toolStrip, message->code);
-    const Extra wanted = row ? row->extra : Extra::Number;
+    const Extra wanted = wantedExtra(message->code);
     if (given != wanted) {
         *reason = QStringLiteral("message %1 takes %2").arg(message->code).arg(needed(wanted));
         return false;

@@ -138,14 +138,19 @@ bool SessionParser::readFile(const QString& file, Session* session, QString* err
         *error = QStringLiteral("%1: %2").arg(file, in.errorString());
         return false;
     }
+    session->file = file;
+    return readBytes(bytes, session, error);
+}
+
+bool SessionParser::readBytes(const QByteArray& bytes, Session* session, QString* error)
+{
     QTextCodec::ConverterState state;
     const QString text =
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    session->file = file;
     if (state.invalidChars > 0 || state.remainingChars > 0) {
         *error =
             QStringLiteral("%1:%2: the text is not UTF-8")
-                .arg(file)
+                .arg(session->file)
                 .arg(text.left(text.indexOf(QChar::ReplacementCharacter)).count(QLatin1Char('\n')) +
                      1);
         return false;

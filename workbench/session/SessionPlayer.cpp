@@ -1,5 +1,7 @@
 #include "session/SessionPlayer.h"
 
+#include "session/SentMessages.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
@@ -16,8 +18,11 @@ bool innerLoop()
 }  // namespace
 
 SessionPlayer::SessionPlayer(const Session& session, HostState* host, QWidget* window,
-                             QObject* parent)
-    : QObject(parent), m_file(session.file), m_context{host, window, &m_boxes}
+                             const MessageLog* log, QObject* parent)
+    : QObject(parent),
+      m_file(session.file),
+      m_log(log),
+      m_context{host, window, &m_boxes, nullptr, 0}
 {
     for (const SessionStep& step : session.steps) {
         const StepKind* const kind = StepTable::find(step.command);
@@ -29,6 +34,8 @@ SessionPlayer::SessionPlayer(const Session& session, HostState* host, QWidget* w
 
 void SessionPlayer::start()
 {
+    // What was said before is not part of the story.
+    m_context.sent = new SentMessages(m_log, this);
     m_waiting.start();
     schedule(0);
 }
@@ -65,14 +72,17 @@ bool SessionPlayer::answerBox()
     if (!box) {
         return false;
     }
-    if (m_boxes.expected() == 0 && !m_entries.empty() && m_entries.front().answersBox) {
+    if (!m_boxes.anyExpected() && !m_entries.empty() && m_entries.front().answersBox) {
         runNext();
     }
-    QString note;
-    if (!m_boxes.answer(box, &note)) {
-        Q_EMIT noted(at(note));
-    }
+    const BoxAnswers::Answer answer = m_boxes.answer(box);
     m_waiting.restart();
+    if (!answer.expected) {
+        Q_EMIT noted(at(answer.note));
+    } else if (!answer.fault.isEmpty()) {
+        m_line = answer.line;
+        fail(answer.fault);
+    }
     return true;
 }
 
@@ -82,6 +92,7 @@ void SessionPlayer::runNext()
     m_entries.pop_front();
     m_line = entry.line;
     m_pause = 0;
+    m_context.line = entry.line;
     ++m_running;
     const StepResult result = entry.action(m_context);
     --m_running;
@@ -101,12 +112,16 @@ void SessionPlayer::runNext()
 
 void SessionPlayer::tryToFinish()
 {
-    if (m_running == 0 && m_boxes.expected() == 0) {
+    if (m_running == 0 && !m_boxes.anyExpected()) {
         m_over = true;
         Q_EMIT finished();
     } else if (waitedTooLong()) {
-        fail(m_boxes.expected() > 0 ? QStringLiteral("the expected box did not appear")
-                                    : QStringLiteral("the session ends in an open menu or window"));
+        if (m_boxes.anyExpected()) {
+            m_line = m_boxes.firstLine();
+            fail(QStringLiteral("the expected box did not appear"));
+        } else {
+            fail(QStringLiteral("the session ends in an open menu or window"));
+        }
     }
 }
 

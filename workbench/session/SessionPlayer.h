@@ -9,14 +9,16 @@
 
 #include <deque>
 
+class MessageLog;
+
 /// Plays a session from the event loop, through menus, boxes and dialogs that run loops of their
 /// own. Emits exactly one of finished() and failed().
 class SessionPlayer : public QObject {
     Q_OBJECT
 
 public:
-    /// `host` and `window` are not owned and must outlive the player.
-    SessionPlayer(const Session& session, HostState* host, QWidget* window,
+    /// `host`, `window` and `log` are not owned and must outlive the player.
+    SessionPlayer(const Session& session, HostState* host, QWidget* window, const MessageLog* log,
                   QObject* parent = nullptr);
 
     /// How long a step waits for what it needs; 3000 unless set.
@@ -49,6 +51,7 @@ private:
     QString m_file;
     std::deque<Entry> m_entries;
     BoxAnswers m_boxes;
+    const MessageLog* m_log;
     StepContext m_context;
     QElapsedTimer m_waiting;  ///< since the next action is due
     int m_patience = 3000;

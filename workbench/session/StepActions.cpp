@@ -1,95 +1,40 @@
 #include "session/StepActions.h"
 
 #include "session/InputEvents.h"
+#include "session/MenuEntries.h"
+#include "session/TextWidgets.h"
 #include "session/WidgetFinder.h"
 #include "window/WindowPicture.h"
 
 #include <QAbstractItemView>
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QCursor>
-#include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPixmap>
-#include <QPlainTextEdit>
 #include <QPointer>
-#include <QTextEdit>
 
 namespace StepActions {
+
+using StepReach::again;
+using StepReach::failed;
+using StepReach::reach;
+
 namespace {
-
-StepResult again(const QString& reason)
-{
-    return {StepResult::Again, reason};
-}
-
-StepResult failed(const QString& reason)
-{
-    return {StepResult::Failed, reason};
-}
-
-/// The widget called `name` when a user could work on it now; null with the reason otherwise.
-QWidget* reach(const QString& name, StepResult* result)
-{
-    QWidget* const widget = WidgetFinder::find(name);
-    if (!widget) {
-        const QStringList similar = WidgetFinder::similarNames(name);
-        *result =
-            again(QStringLiteral("no widget \"%1\"%2")
-                      .arg(name, similar.isEmpty() ? QString()
-                                                   : QStringLiteral("; there is %1")
-                                                         .arg(similar.join(QStringLiteral(", ")))));
-        return nullptr;
-    }
-    const QString obstacle = WidgetFinder::obstacle(widget);
-    if (!obstacle.isEmpty()) {
-        *result = again(obstacle);
-        return nullptr;
-    }
-    // A window manager makes a window active when it is clicked. Menus and lists never are.
-    QWidget* const window = widget->window();
-    if (!window->isActiveWindow() && window->windowType() != Qt::Popup) {
-        window->raise();
-        window->activateWindow();
-        QApplication::setActiveWindow(window);
-    }
-    return widget;
-}
 
 using Press = void (*)(QWidget* widget, const QPoint& position);
 
-StepAction press(const Target& target, Press press)
+StepAction atPlace(const Target& target, Press press)
 {
     return [=](const StepContext&) -> StepResult {
         StepResult result;
-        QWidget* const widget = reach(target.name, &result);
-        if (!widget) {
-            return result;
+        QPoint position;
+        if (QWidget* const widget = reach(target, &position, &result)) {
+            press(widget, position);
         }
-        const QPoint position = target.centre ? widget->rect().center() : target.position;
-        if (!widget->rect().contains(position)) {
-            return failed(QStringLiteral("\"%1\" is only %2 x %3 wide and high")
-                              .arg(target.name)
-                              .arg(widget->width())
-                              .arg(widget->height()));
-        }
-        const QPoint inWindow = widget->mapTo(widget->window(), position);
-        QWidget* const hit = widget->window()->childAt(inWindow);
-        if (widget != widget->window() && hit != widget && !widget->isAncestorOf(hit)) {
-            return again(QStringLiteral("\"%1\" is covered or out of sight").arg(target.name));
-        }
-        press(widget, position);
-        return {};
+        return result;
     };
-}
-
-QString plainText(const QAction* action)
-{
-    QString text = action->text().section(QLatin1Char('\t'), 0, 0);
-    return text.replace(QLatin1String("&&"), QLatin1String("\x01"))
-        .remove(QLatin1Char('&'))
-        .replace(QLatin1Char('\x01'), QLatin1Char('&'));
 }
 
 QMenu* openMenu()
@@ -105,14 +50,6 @@ bool focus(QWidget* widget, StepResult* result)
     }
     *result = again(QStringLiteral("\"%1\" does not take the focus").arg(widget->objectName()));
     return false;
-}
-
-bool hasText(const QWidget* widget)
-{
-    const auto* const combo = qobject_cast<const QComboBox*>(widget);
-    return (combo && combo->isEditable()) || qobject_cast<const QLineEdit*>(widget) ||
-           qobject_cast<const QAbstractSpinBox*>(widget) ||
-           qobject_cast<const QTextEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget);
 }
 
 /// The index of `item` when it can be chosen; -1 with the reason otherwise.
@@ -139,56 +76,83 @@ int itemIndex(const QComboBox* combo, const QString& item, QString* reason)
 
 }  // namespace
 
-Target target(const QStringList& words)
-{
-    if (words.size() < 3) {
-        return {words.value(0), {}, true};
-    }
-    return {words[0], {words[1].toInt(), words[2].toInt()}, false};
-}
-
 StepAction click(const Target& target)
 {
-    return press(target, [](QWidget* widget, const QPoint& position) {
+    return atPlace(target, [](QWidget* widget, const QPoint& position) {
         InputEvents::click(widget, position);
     });
 }
 
+StepAction press(const Target& target, Qt::MouseButton button)
+{
+    return [=](const StepContext&) -> StepResult {
+        StepResult result;
+        QPoint position;
+        if (QWidget* const widget = reach(target, &position, &result)) {
+            InputEvents::press(widget, position, button);
+        }
+        return result;
+    };
+}
+
+StepAction move(const Target& target)
+{
+    return atPlace(target, InputEvents::move);
+}
+
+StepAction release(const Target& target, Qt::MouseButton button)
+{
+    return [=](const StepContext&) -> StepResult {
+        StepResult result;
+        QPoint position;
+        if (QWidget* const widget = reach(target, &position, &result)) {
+            InputEvents::release(widget, position, button);
+        }
+        return result;
+    };
+}
+
+StepAction wheel(const Target& target, double notches)
+{
+    return [=](const StepContext&) -> StepResult {
+        StepResult result;
+        QPoint position;
+        if (QWidget* const widget = reach(target, &position, &result)) {
+            InputEvents::wheel(widget, position, notches);
+        }
+        return result;
+    };
+}
+
 StepAction doubleClick(const Target& target)
 {
-    return press(target, InputEvents::doubleClick);
+    return atPlace(target, InputEvents::doubleClick);
 }
 
 StepAction rightClick(const Target& target)
 {
-    return press(target, [](QWidget* widget, const QPoint& position) {
+    return atPlace(target, [](QWidget* widget, const QPoint& position) {
         // A menu opens where the mouse stands.
         QCursor::setPos(widget->mapToGlobal(position));
         InputEvents::click(widget, position, Qt::RightButton);
     });
 }
 
-StepAction pickEntry(const QString& text)
+StepAction pickEntry(const QString& entry)
 {
     return [=](const StepContext&) -> StepResult {
         QMenu* const menu = openMenu();
         if (!menu) {
             return again(QStringLiteral("no menu opened"));
         }
-        QStringList entries;
-        for (QAction* const action : menu->actions()) {
-            const QString entry = plainText(action);
-            if (entry == text && action->isEnabled()) {
-                InputEvents::click(menu, menu->actionGeometry(action).center());
-                return {};
-            }
-            if (!action->isSeparator()) {
-                entries.append(entry);
-            }
+        QString reason;
+        QAction* const action = MenuEntries::find(menu, entry, &reason);
+        if (!action) {
+            menu->close();
+            return failed(reason);
         }
-        menu->close();
-        return failed(QStringLiteral("no entry \"%1\" to choose in the menu; there is %2")
-                          .arg(text, entries.join(QStringLiteral(", "))));
+        InputEvents::click(menu, menu->actionGeometry(action).center());
+        return {};
     };
 }
 
@@ -204,6 +168,50 @@ StepAction dismissMenu()
     };
 }
 
+StepAction dismissMenuIfAny()
+{
+    return [](const StepContext&) -> StepResult {
+        if (QMenu* const menu = openMenu()) {
+            InputEvents::key(menu, Qt::Key_Escape);
+        }
+        return {};
+    };
+}
+
+StepAction openBarMenu(const QString& name)
+{
+    return [=](const StepContext&) -> StepResult {
+        StepResult result;
+        auto* const menu = qobject_cast<QMenu*>(StepReach::find(name, &result));
+        if (!menu) {
+            return result.kind == StepResult::Again
+                       ? result
+                       : failed(QStringLiteral("\"%1\" is no menu").arg(name));
+        }
+        QMenuBar* const bar = MenuEntries::barOf(menu);
+        if (!bar) {
+            return failed(QStringLiteral("\"%1\" stands in no menu bar").arg(name));
+        }
+        const QString obstacle = WidgetFinder::obstacle(bar);
+        if (!obstacle.isEmpty()) {
+            return again(obstacle);
+        }
+        InputEvents::click(bar, bar->actionGeometry(menu->menuAction()).center());
+        return {};
+    };
+}
+
+StepAction closeWindow(const QString& name)
+{
+    return [=](const StepContext&) -> StepResult {
+        StepResult result;
+        if (QWidget* const widget = reach(name, &result)) {
+            widget->window()->close();
+        }
+        return result;
+    };
+}
+
 StepAction type(const QString& name, const QString& text)
 {
     return [=](const StepContext&) -> StepResult {
@@ -213,7 +221,7 @@ StepAction type(const QString& name, const QString& text)
             return result;
         }
         QWidget* const window = widget->window();
-        if (hasText(widget)) {
+        if (TextWidgets::hasText(widget)) {
             InputEvents::key(window, QKeySequence(QStringLiteral("Ctrl+A")));
         }
         if (text.isEmpty()) {
@@ -282,6 +290,26 @@ StepAction pickItem(const QString& name, const QString& item)
             chosen->hidePopup();
             return failed(QStringLiteral("\"%1\" in \"%2\" cannot be chosen").arg(item, name));
         }
+        return {};
+    };
+}
+
+StepAction setItem(const QString& name, const QString& item)
+{
+    return [=](const StepContext&) -> StepResult {
+        StepResult result;
+        QWidget* const widget = reach(name, &result);
+        auto* const combo = qobject_cast<QComboBox*>(widget);
+        if (!combo) {
+            return widget ? failed(QStringLiteral("\"%1\" is no combo box").arg(name)) : result;
+        }
+        const int index = combo->findText(item);
+        if (index < 0) {
+            QString reason;
+            itemIndex(combo, item, &reason);
+            return again(reason);
+        }
+        combo->setCurrentIndex(index);
         return {};
     };
 }

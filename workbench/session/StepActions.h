@@ -1,29 +1,33 @@
 #pragma once
 
-#include "session/StepTable.h"
+#include "session/StepReach.h"
 
 #include <QKeySequence>
-#include <QPoint>
 
 /// The actions of which steps are made. Each looks for its widget when it runs.
 namespace StepActions {
 
-/// A place on a widget; a null point stands for its centre.
-struct Target {
-    QString name;
-    QPoint position;
-    bool centre = true;
-};
-/// Of the words "NAME [x y]".
-Target target(const QStringList& words);
+using StepReach::Target;
 
 StepAction click(const Target& target);
 StepAction doubleClick(const Target& target);
 StepAction rightClick(const Target& target);
+/// The parts of a drag.
+StepAction press(const Target& target, Qt::MouseButton button);
+StepAction move(const Target& target);
+StepAction release(const Target& target, Qt::MouseButton button);
+/// Turns the wheel by notches, away from the user when positive.
+StepAction wheel(const Target& target, double notches);
 
-/// In the menu that is open.
-StepAction pickEntry(const QString& text);
+/// In the menu that is open; an entry by its text or its object name.
+StepAction pickEntry(const QString& entry);
 StepAction dismissMenu();
+StepAction dismissMenuIfAny();
+/// Opens the menu of that object name in its menu bar.
+StepAction openBarMenu(const QString& name);
+
+/// Closes the window that holds the widget.
+StepAction closeWindow(const QString& name);
 
 /// Gives the widget the focus and types over its text.
 StepAction type(const QString& name, const QString& text);
@@ -34,6 +38,9 @@ StepAction key(const QString& name, const QKeySequence& combination);
 StepAction openList(const QString& name, const QString& item);
 /// Clicks `item` in the list that is open.
 StepAction pickItem(const QString& name, const QString& item);
+
+/// Makes `item` the one that is shown in a combo box, as a program may also when it is greyed.
+StepAction setItem(const QString& name, const QString& item);
 
 /// Saves a picture of a widget; without a name, of the host's window.
 StepAction picture(const QString& file, const QString& name);

@@ -1,8 +1,9 @@
 #include "session/StepTable.h"
 
-#include "session/BoxAnswers.h"
+#include "session/ExpectSteps.h"
 #include "session/InputEvents.h"
 #include "session/MessageWords.h"
+#include "session/MouseSteps.h"
 #include "session/StepActions.h"
 #include "window/HostState.h"
 
@@ -13,20 +14,6 @@
 #include <climits>
 
 namespace {
-
-using Actions = std::vector<StepAction>;
-
-QString checkPosition(const QStringList& arguments)
-{
-    if (arguments.size() == 1) {
-        return {};
-    }
-    bool x = false;
-    bool y = false;
-    arguments[1].toInt(&x);
-    arguments.value(2).toInt(&y);
-    return x && y ? QString() : QStringLiteral("a position is two whole numbers: x y");
-}
 
 QString checkKey(const QStringList& arguments)
 {
@@ -45,8 +32,9 @@ QString checkMessage(const QStringList& arguments)
 
 QString checkPicture(const QStringList& arguments)
 {
+    static const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
     const QByteArray suffix = QFileInfo(arguments[0]).suffix().toLower().toLatin1();
-    return QImageWriter::supportedImageFormats().contains(suffix)
+    return formats.contains(suffix)
                ? QString()
                : QStringLiteral("\"%1\" does not end like a picture (.png)").arg(arguments[0]);
 }
@@ -60,47 +48,23 @@ QString checkWait(const QStringList& arguments)
                : QStringLiteral("\"%1\" is no time in milliseconds").arg(arguments[0]);
 }
 
-QString checkBox(const QStringList& arguments)
-{
-    return arguments[0] == QLatin1String("accept")
-               ? QString()
-               : QStringLiteral("\"%1\" is no answer; known is accept").arg(arguments[0]);
-}
-
-Actions clickActions(const QStringList& arguments)
-{
-    return {StepActions::click(StepActions::target(arguments))};
-}
-
-Actions doubleClickActions(const QStringList& arguments)
-{
-    return {StepActions::doubleClick(StepActions::target(arguments))};
-}
-
-Actions rightClickActions(const QStringList& arguments)
-{
-    const StepAction open = StepActions::rightClick(StepActions::target(arguments.mid(0, 1)));
-    return {open, arguments.size() > 1 ? StepActions::pickEntry(arguments[1])
-                                       : StepActions::dismissMenu()};
-}
-
-Actions typeActions(const QStringList& arguments)
+StepActionList typeActions(const QStringList& arguments)
 {
     return {StepActions::type(arguments[0], arguments[1])};
 }
 
-Actions keyActions(const QStringList& arguments)
+StepActionList keyActions(const QStringList& arguments)
 {
     return {StepActions::key(arguments[0], InputEvents::keyOfName(arguments[1]))};
 }
 
-Actions chooseActions(const QStringList& arguments)
+StepActionList chooseActions(const QStringList& arguments)
 {
     return {StepActions::openList(arguments[0], arguments[1]),
             StepActions::pickItem(arguments[0], arguments[1])};
 }
 
-Actions sendActions(const QStringList& arguments)
+StepActionList sendActions(const QStringList& arguments)
 {
     HostMessage message;
     QString reason;
@@ -111,40 +75,58 @@ Actions sendActions(const QStringList& arguments)
     }};
 }
 
-Actions pictureActions(const QStringList& arguments)
+StepActionList pictureActions(const QStringList& arguments)
 {
     return {StepActions::picture(arguments[0], arguments.value(1))};
 }
 
-Actions waitActions(const QStringList& arguments)
+StepActionList waitActions(const QStringList& arguments)
 {
     return {[pause = arguments[0].toInt()](const StepContext&) {
         return StepResult{StepResult::Done, {}, pause};
     }};
 }
 
-Actions boxActions(const QStringList&)
+StepActionList setActions(const QStringList& arguments)
 {
-    return {[](const StepContext& context) {
-        context.boxes->expect();
-        return StepResult{};
-    }};
+    return {StepActions::setItem(arguments[0], arguments[1])};
+}
+
+StepActionList menuActions(const QStringList& arguments)
+{
+    return {StepActions::openBarMenu(arguments[0]), StepActions::pickEntry(arguments[1])};
+}
+
+StepActionList closeActions(const QStringList& arguments)
+{
+    return {StepActions::closeWindow(arguments[0])};
 }
 
 const std::vector<StepKind>& kinds()
 {
+    // clang-format off
     static const std::vector<StepKind> all{
-        {"click", "click NAME [x y]", 1, 3, checkPosition, clickActions},
-        {"doubleclick", "doubleclick NAME [x y]", 1, 3, checkPosition, doubleClickActions},
-        {"rightclick", "rightclick NAME [ENTRY]", 1, 2, nullptr, rightClickActions},
+        {"click", "click NAME [x y]", 1, 3, MouseSteps::checkClick, MouseSteps::click},
+        {"doubleclick", "doubleclick NAME [x y]", 1, 3, MouseSteps::checkClick, MouseSteps::doubleClick},
+        {"rightclick", "rightclick NAME [x y] [ENTRY]", 1, 4, MouseSteps::checkRightClick, MouseSteps::rightClick},
+        {"press", "press NAME x y [BUTTON]", 3, 4, MouseSteps::checkPress, MouseSteps::press},
+        {"move", "move NAME x y", 3, 3, MouseSteps::checkMove, MouseSteps::move},
+        {"release", "release NAME x y [BUTTON]", 3, 4, MouseSteps::checkPress, MouseSteps::release},
+        {"wheel", "wheel NAME NOTCHES [x y]", 2, 4, MouseSteps::checkWheel, MouseSteps::wheel},
+        {"canvas", "canvas STEP X Y [...]", 3, 4, MouseSteps::checkCanvas, MouseSteps::canvas},
         {"type", "type NAME TEXT", 2, 2, nullptr, typeActions},
         {"key", "key NAME KEY", 2, 2, checkKey, keyActions},
         {"choose", "choose NAME ITEM", 2, 2, nullptr, chooseActions},
+        {"set", "set NAME ITEM", 2, 2, nullptr, setActions},
+        {"menu", "menu NAME ENTRY", 2, 2, nullptr, menuActions},
+        {"close", "close NAME", 1, 1, nullptr, closeActions},
         {"send", "send CODE [key=value ...] [extra=N]", 1, INT_MAX, checkMessage, sendActions},
         {"picture", "picture FILE [NAME]", 1, 2, checkPicture, pictureActions},
         {"wait", "wait MILLISECONDS", 1, 1, checkWait, waitActions},
-        {"box", "box accept", 1, 1, checkBox, boxActions, true},
+        {"box", "box accept|reject [title=TEXT] [text=TEXT]", 1, 3, ExpectSteps::checkBox, ExpectSteps::box, true},
+        {"expect", "expect message|nothing|state ...", 1, INT_MAX, ExpectSteps::checkExpect, ExpectSteps::expect},
     };
+    // clang-format on
     return all;
 }
 

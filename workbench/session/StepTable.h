@@ -8,6 +8,7 @@
 class BoxAnswers;
 class HostState;
 class QWidget;
+class SentMessages;
 
 /// What came of an action.
 struct StepResult {
@@ -26,11 +27,14 @@ struct StepContext {
     HostState* host;
     QWidget* window;  ///< the host's window
     BoxAnswers* boxes;
+    SentMessages* sent;
+    int line;  ///< of the step in its file
 };
 
 /// A part of a step that runs in one go. One that opens a menu or a box returns after that is
 /// closed; the next action runs meanwhile.
 using StepAction = std::function<StepResult(const StepContext&)>;
+using StepActionList = std::vector<StepAction>;
 
 struct StepKind {
     const char* name;
@@ -38,7 +42,7 @@ struct StepKind {
     int least;  ///< bounds of the number of arguments
     int most;
     QString (*check)(const QStringList& arguments);  ///< a reason, or empty; may be null
-    std::vector<StepAction> (*actions)(const QStringList& arguments);
+    StepActionList (*actions)(const QStringList& arguments);
     bool answersBox = false;  ///< may run while a message box waits
 };
 

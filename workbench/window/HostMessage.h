@@ -13,8 +13,11 @@ struct HostMessage {
     using Symbols = std::map<int, std::string>;
     using Attributes = std::map<std::string, std::string>;
 
+    using ExtraWord = std::variant<qint64, std::string, Symbols, Attributes>;
+
     int code = -1;
     QMap<QString, QVariant> payload;
     /// A number, or an object whose address goes into the extra word.
-    std::variant<qint64, std::string, Symbols, Attributes> extra = qint64(0);
+    ExtraWord extra = qint64(0);
+    QString sender = {};  ///< empty: the host
 };

@@ -26,7 +26,8 @@ HostState::HostState(QWidget* window) : QObject(window), m_window(window) {}
 
 void HostState::send(const HostMessage& message)
 {
-    PluginMetaData envelope(hostName, ModuleNames::toolStrip);
+    PluginMetaData envelope(message.sender.isEmpty() ? hostName : message.sender,
+                            ModuleNames::toolStrip);
     envelope.code = message.code;
     envelope.payload = message.payload;
     envelope.extra = std::visit(

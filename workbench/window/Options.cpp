@@ -28,6 +28,10 @@ const QCommandLineOption screenshotOption(
 const QCommandLineOption playOption(QStringLiteral("play"),
                                     QStringLiteral("Play the session <file>."),
                                     QStringLiteral("file"));
+const QCommandLineOption recordOption(
+    QStringLiteral("record"),
+    QStringLiteral("Write what mouse and keyboard do to <file>, as a session to be played."),
+    QStringLiteral("file"));
 const QCommandLineOption exitOption(QStringLiteral("exit"),
                                     QStringLiteral("Leave after playing, or the first paint."));
 const QCommandLineOption unitOption(QStringLiteral("unit"),
@@ -144,8 +148,8 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     parser.setApplicationDescription(
         QStringLiteral("A small host application for the Canvas Tool Strip."));
     parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
-                       exitOption, unitOption, languageOption, darkOption, fontSizeOption,
-                       helpOption});
+                       recordOption, exitOption, unitOption, languageOption, darkOption,
+                       fontSizeOption, helpOption});
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
         *error = parser.errorText();
@@ -169,6 +173,7 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     options.traceFile = parser.value(traceOption);
     options.screenshotFile = parser.value(screenshotOption);
     options.sessionFile = parser.value(playOption);
+    options.recordFile = parser.value(recordOption);
     options.exit = parser.isSet(exitOption);
     options.language = parser.value(languageOption);
     options.isDark = parser.isSet(darkOption);

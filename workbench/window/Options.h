@@ -28,6 +28,7 @@ struct Options {
     QString traceFile;       ///< empty: no trace
     QString screenshotFile;  ///< empty: no picture
     QString sessionFile;     ///< empty: nothing is played
+    QString recordFile;      ///< empty: nothing is recorded
     bool exit = false;       ///< leave after playing, or after the first paint
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
     QString language = QStringLiteral("en");

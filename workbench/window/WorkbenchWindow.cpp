@@ -1,6 +1,7 @@
 #include "window/WorkbenchWindow.h"
 
 #include "HostName.h"
+#include "compose/ComposeDialog.h"
 #include "messages/MessageMonitor.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
@@ -88,6 +89,7 @@ void WorkbenchWindow::connectControls()
     connect(m_pHostUnitCMB, changed, this,
             [this](int index) { m_host->setUnit(unitChoices().at(size_t(index)).unit); });
     connect(m_pHostLanguageCMB, changed, this, &WorkbenchWindow::changeLanguage);
+    connect(m_monitor, &MessageMonitor::composeAsked, this, &WorkbenchWindow::compose);
     connect(m_pHostEqCB, &QCheckBox::toggled, this, &WorkbenchWindow::showEq);
 }
 
@@ -148,6 +150,16 @@ void WorkbenchWindow::openDimensions()
     }
     m_dimensions->show();
     m_dimensions->raise();
+}
+
+void WorkbenchWindow::compose()
+{
+    if (!m_compose) {
+        m_compose = new ComposeDialog(m_host, this);
+    }
+    m_compose->show();
+    m_compose->raise();
+    m_compose->activateWindow();
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event)

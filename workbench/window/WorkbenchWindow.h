@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class ComposeDialog;
 class HostState;
 class MessageLog;
 class MessageMonitor;
@@ -60,6 +61,7 @@ private:
     void showEq(bool visible);
     void savePicture();
     void openDimensions();
+    void compose();
     void retranslate();
 
     Options m_options;
@@ -83,7 +85,8 @@ private:
     QMenu* m_viewMenu;
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
-    QPointer<QWidget> m_dimensions;  // a window of its own, made when it is first asked for
+    ComposeDialog* m_compose = nullptr;  // made when it is first asked for
+    QPointer<QWidget> m_dimensions;      // a window of its own, made when it is first asked for
     std::unique_ptr<ModulePlace> m_strip;
     std::unique_ptr<ModulePlace> m_viewer;
     std::unique_ptr<ModulePlace> m_jobTree;

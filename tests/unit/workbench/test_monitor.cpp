@@ -2,12 +2,14 @@
 
 #include "FindChild.h"
 #include "Main.h"
+#include "messages/MessageDialog.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageMonitor.h"
 
 #include <QTpluginsManger4CAM.h>
 
+#include <QClipboard>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
@@ -129,6 +131,32 @@ private Q_SLOTS:
         table.selectRow(2);
         send(20000203);
         QCOMPARE(table.currentIndex().row(), 3);
+    }
+
+    void showsAMessageWhole()
+    {
+        MessageLog log;
+        MessageMonitor monitor(&log);
+        monitor.resize(1200, 300);
+        monitor.show();
+        auto& table = findNamed<QTableView>(monitor, "m_pMonitorTV");
+        send(20000207);
+        send(50, {{"Features", 2}, {"SymbolText", QString("r10")}, {"On", true}});
+        const QPoint place = table.visualRect(table.model()->index(1, 0)).center();
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, place);
+        const auto* const dialog = monitor.findChild<MessageDialog*>();
+        QVERIFY(dialog && dialog->isVisible());
+        const auto text = [&](const char* name) { return findNamed<QLabel>(*dialog, name).text(); };
+        QCOMPARE(text("m_pMessageFromLB"), QString("Canvas_Tool_Strip.dll"));
+        QCOMPARE(text("m_pMessageToLB"), QString("Canvas_Viewer.dll"));
+        QCOMPARE(text("m_pMessageCodeLB"), QString("50 Record (Feature record)"));
+        QCOMPARE(text("m_pMessageExtraLB"), QString("0"));
+        QVERIFY(
+            dialog->text().endsWith("Features\t2\tinteger\nOn\ttrue\ttruth\n"
+                                    "SymbolText\tr10\ttext"));
+        QTest::mouseClick(&findNamed(*dialog, "m_pMessageCopyPB"), Qt::LeftButton);
+        QCOMPARE(QApplication::clipboard()->text(), dialog->text());
     }
 
     void savesATrace()

@@ -1,11 +1,7 @@
 // Sessions played on a small window of their own: each kind of step, and each way to fail.
 
 #include "Main.h"
-#include "session/SessionParser.h"
-#include "session/SessionPlayer.h"
-#include "window/HostState.h"
-
-#include <PluginManagerStandIn.h>
+#include "PlaySession.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -57,31 +53,15 @@ class TestSessionPlayer : public QObject {
     QComboBox* m_combo = nullptr;
     Pad* m_pad = nullptr;
     QStringList m_noted;
+    QStringList m_seen;  ///< the messages, as code and extra word
 
     /// What the player says at the end: empty when the session was played to its end.
     QString play(const QString& text)
     {
-        Session session;
-        session.file = "demo";
-        QString error;
-        if (!SessionParser::read(text, &session, &error)) {
-            return error;
-        }
-        HostState host(m_window.get());
-        SessionPlayer player(session, &host, m_window.get());
-        const QSignalSpy finished(&player, &SessionPlayer::finished);
-        const QSignalSpy failed(&player, &SessionPlayer::failed);
-        const QSignalSpy noted(&player, &SessionPlayer::noted);
-        player.setPatience(500);
-        player.start();
-        if (!QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 15000)) {
-            return "the player does not end";
-        }
-        m_noted.clear();
-        for (const QVariantList& note : noted) {
-            m_noted.append(note[0].toString());
-        }
-        return failed.isEmpty() ? QString() : failed[0][0].toString();
+        const Played played = playSession(text, m_window.get());
+        m_noted = played.notes;
+        m_seen = played.messages;
+        return played.error;
     }
 
 private Q_SLOTS:
@@ -165,15 +145,10 @@ private Q_SLOTS:
 
     void messages()
     {
-        QStringList seen;
-        CanvasHost::setObserver([&](const CanvasHost::Transfer& transfer) {
-            seen.append(QString("%1 %2").arg(transfer.message.code).arg(transfer.message.extra));
-        });
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no module"));
         QCOMPARE(play("send 20000206 extra=1\nsend 20002400 JobName=demo StepName=pcb\n"),
                  QString());
-        CanvasHost::setObserver({});
-        QCOMPARE(seen, (QStringList{"20000206 1", "20002400 0"}));
+        QCOMPARE(m_seen, (QStringList{"20000206 1", "20002400 0"}));
     }
 
     void picturesAndWaits()

@@ -1,0 +1,177 @@
+// What a user's hands do on a real desktop is recorded; played again, the module sends the same.
+
+#include "Desktop.h"
+#include "FindChild.h"
+#include "Main.h"
+#include "messages/MessageLog.h"
+#include "session/SessionParser.h"
+#include "session/SessionPlayer.h"
+#include "session/SessionRecorder.h"
+#include "window/WorkbenchWindow.h"
+
+#include <CamApiStandIn.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTemporaryDir>
+
+#include <memory>
+
+class TestRecording : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<MessageLog> m_log;
+    std::unique_ptr<WorkbenchWindow> m_window;
+
+    void openWindow()
+    {
+        QString error;
+        QVERIFY2(CanvasHost::loadJobs(JOB_FILE, &error), qPrintable(error));
+        Options options;
+        options.moduleDirectory = MODULE_DIR;
+        m_log = std::make_unique<MessageLog>();
+        m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
+        QVERIFY2(m_window->start(&error), qPrintable(error));
+        m_window->move(20, 40);
+        m_window->show();
+        Desktop::waitForWindow(m_window.get());
+        m_log->clear();
+    }
+
+    void closeWindow()
+    {
+        m_window.reset();
+        m_log.reset();
+    }
+
+    /// What the module sent, with payload and object.
+    QStringList trace() const
+    {
+        QStringList lines;
+        for (const MessageRecord& message : m_log->messages()) {
+            if (message.sender.startsWith("Canvas_Tool_Strip")) {
+                QStringList entries;
+                for (auto entry = message.payload.begin(); entry != message.payload.end();
+                     ++entry) {
+                    entries.append(
+                        QString("%1:%2=%3").arg(entry.key(), entry->typeName(), entry->toString()));
+                }
+                lines.append(QString("%1 %2 %3")
+                                 .arg(message.code)
+                                 .arg(message.hasAddress() ? message.extraText()
+                                                           : QString::number(message.extra),
+                                      entries.join(' ')));
+            }
+        }
+        return lines;
+    }
+
+    QWidget& the(const char* name) const { return findNamed<QWidget>(*m_window, name); }
+
+    /// Calls `act` as soon as there is a popup or a box of that kind.
+    template <class T>
+    void whenOpen(const std::function<void(T*)>& act)
+    {
+        QTimer::singleShot(60, this, [=] {
+            auto* window = qobject_cast<T*>(QApplication::activePopupWidget());
+            window = window ? window : qobject_cast<T*>(QApplication::activeModalWidget());
+            if (window && window->isVisible()) {
+                act(window);
+            } else {
+                whenOpen(act);
+            }
+        });
+    }
+
+    void choose(const char* name, int row)
+    {
+        auto& combo = findNamed<QComboBox>(*m_window, name);
+        Desktop::click(combo);
+        QTRY_VERIFY(combo.view()->isVisible());
+        // Qt takes a click so soon after the first for the rest of that.
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        const QWidget* const view = combo.view()->viewport();
+        Desktop::clickAt(
+            view->mapToGlobal(combo.view()->visualRect(combo.model()->index(row, 0)).center()));
+        QTRY_VERIFY(!combo.view()->isVisible());
+    }
+
+    void useTools()
+    {
+        Desktop::click(the("m_pMoveFeatureTB"));
+        whenOpen<QMenu>([](QMenu* menu) {
+            const QRect entry = menu->actionGeometry(menu->actions().value(1));
+            Desktop::clickAt(menu->mapToGlobal(entry.center()));
+        });
+        Desktop::click(the("m_pDeleteFeatTB"), 3);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+        whenOpen<QMenu>([](QMenu*) { Desktop::key("Escape"); });
+        Desktop::click(the("m_pMarkTB"), 3);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+    }
+
+    void describePad()
+    {
+        Desktop::click(the("m_pAddFeatureTB"));
+        Desktop::waitForWindow(&the("AddFeature"));
+        Desktop::click(the("m_pPadTB"));
+        Desktop::click(the("m_pSymbolTextLE"));
+        Desktop::type("nonsense");
+        whenOpen<QMessageBox>([](QMessageBox*) { Desktop::key("Return"); });
+        Desktop::key("Return");
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        Desktop::click(the("m_pSymbolTextLE"));
+        Desktop::key("ctrl+a");
+        Desktop::type("rect20x40");
+        Desktop::key("Return");
+        Desktop::click(the("m_pDrilNxLE"));
+        Desktop::key("ctrl+a");
+        Desktop::type("3");
+        Desktop::key("Tab");
+        choose("m_pMirrorCMB", 0);
+        Desktop::click(the("m_pAttributesCB"), 1, {8, 10});
+    }
+
+private Q_SLOTS:
+    void init() { openWindow(); }
+    void cleanup() { closeWindow(); }
+
+    void handsAndTheirRecording()
+    {
+        const QString file = m_folder.filePath("hands.session");
+        QString error;
+        {
+            SessionRecorder recorder(m_window.get());
+            QVERIFY2(recorder.start(file, &error), qPrintable(error));
+            useTools();
+            describePad();
+        }
+        const QStringList sent = trace();
+        QVERIFY(sent.size() > 8);
+        closeWindow();
+
+        openWindow();
+        Session session;
+        QVERIFY2(SessionParser::readFile(file, &session, &error), qPrintable(error));
+        QStringList commands;
+        for (const SessionStep& step : session.steps) {
+            commands.append(step.command);
+        }
+        for (const char* const command : {"click", "rightclick", "type", "key", "choose", "box"}) {
+            QVERIFY2(commands.contains(command), qPrintable(commands.join(' ')));
+        }
+        SessionPlayer player(session, m_window->host(), m_window.get(), m_log.get());
+        const QSignalSpy finished(&player, &SessionPlayer::finished);
+        const QSignalSpy failed(&player, &SessionPlayer::failed);
+        player.start();
+        QVERIFY(QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 30000));
+        QVERIFY2(failed.isEmpty(), qPrintable(failed.value(0).value(0).toString()));
+        QCOMPARE(trace(), sent);
+    }
+};
+
+CTS_MAIN(TestRecording)
+#include "test_recording.moc"

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "messages/MessageLog.h"
+#include "session/SessionParser.h"
+#include "session/SessionPlayer.h"
+#include "window/HostState.h"
+
+#include <QtTest>
+
+/// What came of a session.
+struct Played {
+    QString error;         ///< empty when it was played to its end
+    QStringList notes;     ///< what the player noted
+    QStringList messages;  ///< each message as code and extra word
+};
+
+/// Plays `text`, called "demo", on `window`.
+inline Played playSession(const QString& text, QWidget* window)
+{
+    Played played;
+    Session session;
+    session.file = "demo";
+    if (!SessionParser::read(text, &session, &played.error)) {
+        return played;
+    }
+    HostState host(window);
+    MessageLog log;
+    SessionPlayer player(session, &host, window, &log);
+    const QSignalSpy finished(&player, &SessionPlayer::finished);
+    const QSignalSpy failed(&player, &SessionPlayer::failed);
+    QObject::connect(&player, &SessionPlayer::noted, &player,
+                     [&](const QString& note) { played.notes.append(note); });
+    QObject::connect(&log, &MessageLog::appended, &player, [&](const MessageRecord& message) {
+        played.messages.append(QString("%1 %2").arg(message.code).arg(message.extra));
+    });
+    player.setPatience(500);
+    player.start();
+    if (!QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 15000)) {
+        played.error = "the player does not end";
+    } else if (!failed.isEmpty()) {
+        played.error = failed[0][0].toString();
+    }
+    return played;
+}

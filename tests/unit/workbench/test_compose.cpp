@@ -1,0 +1,169 @@
+// The dialog that composes a message: what it sends, and how it names what is wrong.
+
+#include "FindChild.h"
+#include "Main.h"
+#include "compose/ComposeDialog.h"
+#include "messages/MessageLog.h"
+#include "window/HostState.h"
+
+#include <PluginManagerStandIn.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableWidget>
+
+class TestCompose : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QWidget> m_window;
+    HostState* m_host = nullptr;  // the window owns it
+    std::unique_ptr<MessageLog> m_log;
+    std::unique_ptr<ComposeDialog> m_dialog;
+    char m_strip = 0;  // what the manager knows as the tool strip
+
+    static void receive(void*, PluginMetaData) {}
+
+    void code(const QString& text)
+    {
+        findNamed<QComboBox>(*m_dialog, "m_pComposeCodeCMB").setEditText(text);
+    }
+    void extra(const QString& text)
+    {
+        findNamed<QLineEdit>(*m_dialog, "m_pComposeExtraLE").setText(text);
+    }
+    void entry(const QString& key, int type, const QString& value)
+    {
+        QTest::mouseClick(&findNamed(*m_dialog, "m_pComposeAddPB"), Qt::LeftButton);
+        const QString row =
+            QString::number(findNamed<QTableWidget>(*m_dialog, "m_pComposePayloadTW").rowCount());
+        findNamed<QLineEdit>(*m_dialog, "m_pComposeKeyLE" + row).setText(key);
+        findNamed<QComboBox>(*m_dialog, "m_pComposeTypeCMB" + row).setCurrentIndex(type);
+        findNamed<QLineEdit>(*m_dialog, "m_pComposeValueLE" + row).setText(value);
+    }
+    /// Presses Send; the errors that are shown then.
+    QStringList send()
+    {
+        QTest::mouseClick(&findNamed(*m_dialog, "m_pComposeSendPB"), Qt::LeftButton);
+        QStringList errors;
+        for (const char* const name :
+             {"m_pComposeCodeErrorLB", "m_pComposePayloadErrorLB", "m_pComposeExtraErrorLB"}) {
+            const auto& label = findNamed<QLabel>(*m_dialog, name);
+            if (label.isVisible()) {
+                errors.append(label.text());
+            }
+        }
+        return errors;
+    }
+    const MessageRecord& last() { return m_log->messages().back(); }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window = std::make_unique<QWidget>();
+        m_host = new HostState(m_window.get());
+        m_log = std::make_unique<MessageLog>();
+        m_dialog = std::make_unique<ComposeDialog>(m_host);
+        m_dialog->show();
+        CanvasHost::addInstance("Canvas_Tool_Strip.dll", &m_strip, &receive);
+    }
+
+    void cleanup()
+    {
+        CanvasHost::removeInstance(&m_strip);
+        m_dialog.reset();
+        m_log.reset();
+        m_window.reset();
+    }
+
+    void payloadOfEveryType()
+    {
+        code("20002400");
+        findNamed<QLineEdit>(*m_dialog, "m_pComposeSenderLE").setText("Canvas_JobTree.dll");
+        entry("Text", 0, "a b=c");
+        entry("Whole", 1, "-7");
+        entry("Decimal", 2, "0.5");
+        entry("Truth", 3, "true");
+        extra("12");
+        QCOMPARE(send(), QStringList());
+        QCOMPARE(m_log->messages().size(), size_t(1));
+        QCOMPARE(last().sender, QString("Canvas_JobTree.dll"));
+        QCOMPARE(last().receiver, QString("Canvas_Tool_Strip.dll"));
+        QCOMPARE(last().code, 20002400);
+        QCOMPARE(last().extra, qint64(12));
+        const QMap<QString, QVariant> expected{
+            {"Text", QString("a b=c")}, {"Whole", -7}, {"Decimal", 0.5}, {"Truth", true}};
+        QCOMPARE(last().payload, expected);
+        for (auto value = expected.begin(); value != expected.end(); ++value) {
+            QCOMPARE(last().payload[value.key()].userType(), value->userType());
+        }
+    }
+
+    void objectsInTheExtraWord()
+    {
+        code("20002003 JobName");
+        extra("demo");
+        QCOMPARE(send(), QStringList());
+        QCOMPARE(last().pointedAt[""], QString("demo"));
+        code("20001811");
+        extra("1=r10,2=s20");
+        QCOMPARE(send(), QStringList());
+        QCOMPARE(last().pointedAt, (QMap<QString, QString>{{"1", "r10"}, {"2", "s20"}}));
+        code("20001807");
+        extra(".net=gnd,.smd=");
+        QCOMPARE(send(), QStringList());
+        QCOMPARE(last().pointedAt, (QMap<QString, QString>{{".net", "gnd"}, {".smd", ""}}));
+    }
+
+    void mistakesAreNamedInPlace()
+    {
+        code("move");
+        entry("", 0, "x");
+        entry("N", 1, "1.5");
+        QCOMPARE(send(), (QStringList{"\"move\" is no message code", "Row 1: the key is missing"}));
+        QVERIFY(!findNamed(*m_dialog, "m_pComposeKeyLE1").toolTip().isEmpty());
+        QCOMPARE(findNamed(*m_dialog, "m_pComposeValueLE2").toolTip(),
+                 QString("\"1.5\" is no whole number"));
+        code("20000201");
+        findNamed<QLineEdit>(*m_dialog, "m_pComposeKeyLE1").setText("T");
+        findNamed<QComboBox>(*m_dialog, "m_pComposeTypeCMB1").setCurrentIndex(3);
+        extra("much");
+        QCOMPARE(send(), (QStringList{"Row 1: \"x\" is neither true nor false",
+                                      "\"much\" is no whole number"}));
+        QVERIFY(m_log->messages().empty());
+    }
+
+    void aWrongAddressIsNeverSent()
+    {
+        auto& kind = findNamed<QComboBox>(*m_dialog, "m_pComposeExtraCMB");
+        code("20001811");
+        QCOMPARE(kind.currentIndex(), 2);
+        kind.setCurrentIndex(0);
+        extra("77");
+        QCOMPARE(send(), QStringList("message 20001811 takes: Symbols"));
+        kind.setCurrentIndex(2);
+        extra("a=r10");
+        QCOMPARE(send(), QStringList("\"a=r10\" is no list NUMBER=SYMBOL,..."));
+        code("20001807");
+        extra("gnd");
+        QCOMPARE(send(), QStringList("\"gnd\" is no list NAME=VALUE,..."));
+        QVERIFY(m_log->messages().empty());
+    }
+
+    void entriesAreRemoved()
+    {
+        code("20002400");
+        entry("A", 0, "1");
+        entry("B", 0, "2");
+        entry("C", 0, "3");
+        m_dialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+        findNamed(*m_dialog, "m_pComposeValueLE2").setFocus();
+        QTest::mouseClick(&findNamed(*m_dialog, "m_pComposeRemovePB"), Qt::LeftButton);
+        QCOMPARE(send(), QStringList());
+        QCOMPARE(last().payload.keys(), (QStringList{"A", "C"}));
+    }
+};
+
+CTS_MAIN(TestCompose)
+#include "test_compose.moc"

@@ -1,0 +1,172 @@
+// Session files that are wrong, or cut anywhere.
+
+#include "Main.h"
+#include "session/SessionParser.h"
+#include "session/StepTable.h"
+
+namespace {
+
+/// One of each step, with quotes, comments and letters of several bytes.
+const char* const full =
+    "# Ein Stück Arbeit\n"
+    "click m_pA 1 2\n"
+    "doubleclick m_pA\n"
+    "rightclick m_pA 3 4 \"Save \\\"all\\\"\"   # a comment\n"
+    "press m_pA 1 2 middle\n"
+    "move m_pA 3 4\n"
+    "release m_pA 3 4 middle\n"
+    "wheel m_pA -1.5 3 4\n"
+    "canvas click 1.5mm -20\n"
+    "canvas wheel 1 2 3\n"
+    "type m_pA 'größer als'\n"
+    "key m_pA Shift+Tab\n"
+    "choose m_pLanguage 简体中文\n"
+    "set m_pA b\\ c\n"
+    "menu m_pA b\n"
+    "close m_pA\n"
+    "send 20001811 extra:symbols=1=r10,2=s20\n"
+    "picture a.png\n"
+    "wait 10\n"
+    "box accept \"title=Illegal Input\" text=x\n"
+    "expect message 50 to=Canvas_Viewer.dll Features:int=2 extra=0 total=45\n"
+    "expect state m_pA checked=true \"text=a b\"\n"
+    "expect nothing";
+
+bool same(const SessionStep& a, const SessionStep& b)
+{
+    return a.line == b.line && a.command == b.command && a.arguments == b.arguments;
+}
+
+}  // namespace
+
+class TestSessionParser : public QObject {
+    Q_OBJECT
+
+    static bool read(const QByteArray& bytes, Session* session, QString* error)
+    {
+        session->file = "demo";
+        return SessionParser::readBytes(bytes, session, error);
+    }
+
+private Q_SLOTS:
+    void holdsEachStep()
+    {
+        Session session;
+        QString error;
+        QVERIFY2(read(full, &session, &error), qPrintable(error));
+        QStringList commands;
+        for (const SessionStep& step : session.steps) {
+            commands.append(step.command);
+        }
+        for (const QString& name : StepTable::names()) {
+            QVERIFY2(commands.contains(name), qPrintable(name));
+        }
+        QCOMPARE(session.steps[2].arguments, (QStringList{"m_pA", "3", "4", "Save \"all\""}));
+        QCOMPARE(session.steps[9].arguments, (QStringList{"m_pA", "größer als"}));
+    }
+
+    void eachStepIsDescribed()
+    {
+        QFile page(SOURCE_DIR "/docs/sessions.md");
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(page.readAll());
+        for (const QString& name : StepTable::names()) {
+            const bool hasRow = text.contains("\n| `" + name + " ");
+            QVERIFY2(hasRow, qPrintable(name));
+        }
+    }
+
+    void cutAtEveryByte()
+    {
+        Session whole;
+        QString error;
+        QVERIFY2(read(full, &whole, &error), qPrintable(error));
+        const QByteArray bytes = full;
+        for (int size = 0; size < bytes.size(); ++size) {
+            Session session;
+            error.clear();
+            const QByteArray cut = bytes.left(size);
+            const int lastLine = cut.count('\n') + 1;
+            const bool ok = read(cut, &session, &error);
+            const QString place = QString("%1:%2: ").arg(session.file).arg(lastLine);
+            QVERIFY2(ok == error.isEmpty(), qPrintable(QString::number(size)));
+            QVERIFY2(ok || (error.startsWith(place) && error.size() > place.size()),
+                     qPrintable(QString("%1: %2").arg(size).arg(error)));
+            // All before the line that is cut is as it was.
+            for (size_t i = 0; i < session.steps.size(); ++i) {
+                const bool inCutLine = session.steps[i].line == lastLine;
+                QVERIFY2(inCutLine || same(session.steps[i], whole.steps[i]),
+                         qPrintable(QString::number(size)));
+            }
+        }
+    }
+
+    void anyByteInAnyPlace()
+    {
+        // Whatever stands there, the file is read or the mistake has a line.
+        const QByteArray bytes = full;
+        for (const char other : {'\0', '"', '\'', '\\', '\n', '\xff', '='}) {
+            for (int at = 0; at < bytes.size(); ++at) {
+                QByteArray changed = bytes;
+                changed[at] = other;
+                Session session;
+                QString error;
+                if (!read(changed, &session, &error)) {
+                    const QRegularExpression place(QRegularExpression::escape(session.file) +
+                                                   ":[0-9]+: .");
+                    QVERIFY2(error.contains(place), qPrintable(error));
+                }
+            }
+        }
+    }
+
+    void wrongSteps_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("reason");
+        const auto row = [](const char* text, const char* reason) {
+            QTest::newRow(text) << QString(text) << QString(reason);
+        };
+        row("click", "wrong number of words; usage: click NAME [x y]");
+        row("click m_pA 1", "a position is two whole numbers: x y");
+        row("click m_pA 1 b", "a position is two whole numbers: x y");
+        row("rightclick m_pA b c", "a position is two whole numbers: x y");
+        row("press m_pA 1 2 thumb", "\"thumb\" is no button; known are left, middle, right");
+        row("wheel m_pA far", "\"far\" is no number of notches");
+        row("wheel m_pA nan", "\"nan\" is no number of notches");
+        row("wheel m_pA 1 2", "a position is two whole numbers: x y");
+        row("canvas jump 1 2",
+            "unknown step \"jump\" of the canvas; known are click, doubleclick, rightclick, move, "
+            "press, release, wheel");
+        row("canvas click 1 2cm", "\"2cm\" is no length (a number, and um, mm, mil or inch)");
+        row("canvas click inf 2", "\"inf\" is no length (a number, and um, mm, mil or inch)");
+        row("canvas click 1 2 3", "wrong number of words; usage: canvas click X Y");
+        row("canvas wheel 1 2", "wrong number of words; usage: canvas wheel X Y NOTCHES");
+        row("box open", "\"open\" is no answer; known are accept, reject");
+        row("box accept colour=red", "\"colour=red\" is neither title=... nor text=...");
+        row("expect rain", "\"rain\" cannot be expected; known are message, nothing, state");
+        row("expect message", "\"\" is no message code");
+        row("expect message fifty", "\"fifty\" is no message code");
+        row("expect message 50 N:int=x", "\"N:int=x\" cannot be expected of a message");
+        row("expect message 50 total=x", "\"total=x\" cannot be expected of a message");
+        row("expect message 50 extra:list=x", "\"extra:list=x\" cannot be expected of a message");
+        row("expect message 50 Features", "\"Features\" cannot be expected of a message");
+        row("expect nothing more", "nothing follows \"nothing\"");
+        row("expect state m_pA", "usage: expect state NAME PROPERTY=VALUE ...");
+        row("expect state m_pA checked", "\"checked\" is no state PROPERTY=VALUE");
+    }
+
+    void wrongSteps()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, reason);
+        Session session;
+        session.file = "demo";
+        QString error;
+        QVERIFY(!SessionParser::read("wait 1\n" + text + "\n", &session, &error));
+        QCOMPARE(error, "demo:2: " + reason);
+    }
+};
+
+CTS_MAIN(TestSessionParser)
+#include "test_session_parser.moc"

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "window/HostMessage.h"
+
+#include <QDialog>
+
+class HostState;
+class PayloadTable;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+/// Composes a message and sends it to the tool strip, as a host or a sibling would: code, sender,
+/// entries of the payload, and the extra word as a number or as an object.
+class ComposeDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// `host` sends; it is not owned and must outlive the dialog.
+    explicit ComposeDialog(HostState* host, QWidget* parent = nullptr);
+
+    /// Sends what is composed, when all of it is right; otherwise each mistake is named where it
+    /// stands, and nothing is sent.
+    bool send();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void createCode();
+    void createPayload();
+    void createExtra();
+    void createButtons();
+    void codeChanged();
+    bool readCode(HostMessage* message);
+    bool readExtra(HostMessage* message);
+    void showExtraHint();
+    void retranslate();
+
+    HostState* m_host;
+    QLabel* m_pComposeCodeTitleLB;
+    QComboBox* m_pComposeCodeCMB;
+    QLabel* m_pComposeCodeErrorLB;
+    QLabel* m_pComposeSenderTitleLB;
+    QLineEdit* m_pComposeSenderLE;
+    QLabel* m_pComposePayloadTitleLB;
+    PayloadTable* m_pComposePayloadTW;
+    QLabel* m_pComposePayloadErrorLB;
+    QPushButton* m_pComposeAddPB;
+    QPushButton* m_pComposeRemovePB;
+    QLabel* m_pComposeExtraTitleLB;
+    QComboBox* m_pComposeExtraCMB;
+    QLineEdit* m_pComposeExtraLE;
+    QLabel* m_pComposeExtraErrorLB;
+    QLabel* m_pComposeSentLB;
+    QPushButton* m_pComposeSendPB;
+    QPushButton* m_pComposeClosePB;
+};

@@ -1,0 +1,138 @@
+#include "compose/PayloadTable.h"
+
+#include "compose/FaultMark.h"
+#include "session/MessageWords.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLineEdit>
+
+namespace {
+
+enum Column { Key, Type, Value };
+
+/// A type of an entry, by the word that sessions have for it.
+struct TypeChoice {
+    const char* word;
+    const char* text;
+    const char* fault;
+};
+const TypeChoice types[] = {
+    {"text", QT_TRANSLATE_NOOP("PayloadTable", "text"), ""},
+    {"int", QT_TRANSLATE_NOOP("PayloadTable", "integer"),
+     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is no whole number")},
+    {"decimal", QT_TRANSLATE_NOOP("PayloadTable", "decimal"),
+     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is no number")},
+    {"bool", QT_TRANSLATE_NOOP("PayloadTable", "truth"),
+     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is neither true nor false")},
+};
+
+}  // namespace
+
+PayloadTable::PayloadTable(const char* name, QWidget* parent) : QTableWidget(0, 3, parent)
+{
+    setObjectName(QLatin1String(name));
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setFocusPolicy(Qt::NoFocus);
+    setShowGrid(false);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 14);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionResizeMode(Value, QHeaderView::Stretch);
+    setColumnWidth(Key, 20 * fontMetrics().averageCharWidth());
+    setColumnWidth(Type, 14 * fontMetrics().averageCharWidth());
+    retranslate();
+}
+
+QLineEdit* PayloadTable::field(int row, int column) const
+{
+    return static_cast<QLineEdit*>(cellWidget(row, column));
+}
+
+QComboBox* PayloadTable::type(int row) const
+{
+    return static_cast<QComboBox*>(cellWidget(row, Type));
+}
+
+void PayloadTable::addEntry()
+{
+    const int row = rowCount();
+    insertRow(row);
+    setCellWidget(row, Key, new QLineEdit(this));
+    auto* const combo = new QComboBox(this);
+    for (const TypeChoice& choice : types) {
+        combo->addItem(tr(choice.text));
+    }
+    setCellWidget(row, Type, combo);
+    setCellWidget(row, Value, new QLineEdit(this));
+    nameFields();
+    scrollToBottom();
+    field(row, Key)->setFocus();
+}
+
+void PayloadTable::removeEntry()
+{
+    if (rowCount() == 0) {
+        return;
+    }
+    int row = rowCount() - 1;
+    for (int other = 0; other < rowCount(); ++other) {
+        for (const int column : {Key, Type, Value}) {
+            row = cellWidget(other, column)->hasFocus() ? other : row;
+        }
+    }
+    removeRow(row);
+    nameFields();
+}
+
+void PayloadTable::nameFields()
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        field(row, Key)->setObjectName(QStringLiteral("m_pComposeKeyLE%1").arg(row + 1));
+        type(row)->setObjectName(QStringLiteral("m_pComposeTypeCMB%1").arg(row + 1));
+        field(row, Value)->setObjectName(QStringLiteral("m_pComposeValueLE%1").arg(row + 1));
+    }
+}
+
+bool PayloadTable::read(QMap<QString, QVariant>* payload, QString* error)
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        const QString fault = readRow(row, payload);
+        if (!fault.isEmpty() && error->isEmpty()) {
+            *error = tr("Row %1: %2").arg(row + 1).arg(fault);
+        }
+    }
+    return error->isEmpty();
+}
+
+QString PayloadTable::readRow(int row, QMap<QString, QVariant>* payload)
+{
+    const QString key = field(row, Key)->text();
+    QString keyFault;
+    if (key.isEmpty()) {
+        keyFault = tr("the key is missing");
+    } else if (payload->contains(key)) {
+        keyFault = tr("the key \"%1\" stands there twice").arg(key);
+    }
+    FaultMark::set(field(row, Key), keyFault);
+
+    const TypeChoice& choice = types[type(row)->currentIndex()];
+    const QString text = field(row, Value)->text();
+    bool ok = false;
+    const QVariant value = MessageWords::payloadValue(QLatin1String(choice.word), text, &ok);
+    const QString valueFault = ok ? QString() : tr(choice.fault).arg(text);
+    FaultMark::set(field(row, Value), valueFault);
+    if (keyFault.isEmpty()) {
+        payload->insert(key, value);
+    }
+    return keyFault.isEmpty() ? valueFault : keyFault;
+}
+
+void PayloadTable::retranslate()
+{
+    setHorizontalHeaderLabels({tr("Key"), tr("Type"), tr("Value")});
+    for (int row = 0; row < rowCount(); ++row) {
+        for (int index = 0; index < type(row)->count(); ++index) {
+            type(row)->setItemText(index, tr(types[index].text));
+        }
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "messages/MessageRecord.h"
+
+#include <QDialog>
+
+class QLabel;
+class QPushButton;
+class RecordTable;
+
+/// Shows one message whole: sender, receiver, code and name, extra word, and every entry of the
+/// payload with its type.
+class MessageDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit MessageDialog(const MessageRecord& message, QWidget* parent = nullptr);
+
+    /// All that the dialog shows, one entry a line, as it is copied.
+    QString text() const;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    /// A line above the table.
+    struct Field {
+        QLabel* title;
+        QLabel* value;
+    };
+
+    void createFields();
+    void createTable();
+    Field addField(const char* titleName, const char* valueName);
+    QString codeText() const;
+    void copy() const;
+    void retranslate();
+
+    MessageRecord m_message;
+    QVector<Field> m_fields;  ///< time, from, to, code, extra, delivered
+    RecordTable* m_pMessageDialogTW = nullptr;
+    QPushButton* m_pMessageCopyPB = nullptr;
+    QPushButton* m_pMessageClosePB = nullptr;
+};

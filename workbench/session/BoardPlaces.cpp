@@ -1,0 +1,84 @@
+#include "session/BoardPlaces.h"
+
+#include <QMetaObject>
+#include <QWidget>
+
+#include <cmath>
+
+namespace BoardPlaces {
+namespace {
+
+struct Unit {
+    const char* suffix;
+    double micrometres;
+};
+constexpr Unit units[] = {{"um", 1.0}, {"mm", 1000.0}, {"mil", 25.4}, {"inch", 25400.0}};
+
+bool offers(const QWidget* canvas, const char* signature)
+{
+    return canvas->metaObject()->indexOfMethod(signature) >= 0;
+}
+
+QString number(double value)
+{
+    // A nanometre is less than any board is made to.
+    QString digits = QString::number(value, 'f', 3);
+    while (digits.endsWith(QLatin1Char('0'))) {
+        digits.chop(1);
+    }
+    if (digits.endsWith(QLatin1Char('.'))) {
+        digits.chop(1);
+    }
+    return digits == QLatin1String("-0") ? QStringLiteral("0") : digits;
+}
+
+}  // namespace
+
+const QString canvasName = QStringLiteral("m_pBoardView");
+
+bool toWidget(const QWidget* canvas, const QPointF& place, QPoint* position, QString* reason)
+{
+    if (!offers(canvas, "viewPoint(double,double)") ||
+        !QMetaObject::invokeMethod(const_cast<QWidget*>(canvas), "viewPoint", Qt::DirectConnection,
+                                   Q_RETURN_ARG(QPoint, *position), Q_ARG(double, place.x()),
+                                   Q_ARG(double, place.y()))) {
+        *reason = QStringLiteral(
+                      "\"%1\" does not know places on the board: it has no method "
+                      "viewPoint(double,double)")
+                      .arg(canvas->objectName());
+        return false;
+    }
+    return true;
+}
+
+bool toBoard(const QWidget* canvas, const QPoint& position, QPointF* place)
+{
+    return offers(canvas, "boardPoint(QPoint)") && offers(canvas, "viewPoint(double,double)") &&
+           QMetaObject::invokeMethod(const_cast<QWidget*>(canvas), "boardPoint",
+                                     Qt::DirectConnection, Q_RETURN_ARG(QPointF, *place),
+                                     Q_ARG(QPoint, position));
+}
+
+bool readLength(const QString& text, double* micrometres)
+{
+    double factor = 1.0;
+    QString digits = text;
+    for (const Unit& unit : units) {
+        const QLatin1String suffix(unit.suffix);
+        if (text.endsWith(suffix)) {
+            factor = unit.micrometres;
+            digits = text.chopped(suffix.size());
+            break;
+        }
+    }
+    bool ok = false;
+    *micrometres = digits.toDouble(&ok) * factor;
+    return ok && std::isfinite(*micrometres);
+}
+
+QString text(const QPointF& place)
+{
+    return number(place.x()) + QLatin1Char(' ') + number(place.y());
+}
+
+}  // namespace BoardPlaces

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QFile>
+#include <QStringList>
+
+/// A session that is being written. Each line is in the file at once; the last one can still be
+/// amended, so that what is typed becomes one step and yet survives whatever comes after.
+class SessionFile {
+public:
+    /// Empties `file`, or makes it. False, with a reason, when it cannot be written.
+    bool open(const QString& file, QString* error);
+
+    void append(const QStringList& words);
+    /// A line that players pass over.
+    void comment(const QString& text);
+    /// Writes `words` in place of the last line.
+    void amend(const QStringList& words);
+    /// Takes the last line out.
+    void drop();
+    /// The words of the last line; empty after a comment or a drop.
+    const QStringList& last() const { return m_last; }
+
+    /// The words as one line of a session, quoted where they must be.
+    static QString lineOf(const QStringList& words);
+
+private:
+    void write(const QString& line);
+
+    QFile m_file;
+    qint64 m_lastBegin = 0;
+    QStringList m_last;
+};

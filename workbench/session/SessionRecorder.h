@@ -1,0 +1,59 @@
+#pragma once
+
+#include "session/RecordedPlace.h"
+#include "session/SessionFile.h"
+
+#include <QObject>
+
+class QComboBox;
+class QKeyEvent;
+class QLineEdit;
+class QMenu;
+class QMessageBox;
+class QMouseEvent;
+class QWheelEvent;
+
+/// Writes what the hand does in all windows of the program as a session: it reads the events of
+/// mouse and keyboard as the window system sends them, before anything is done with them.
+class SessionRecorder : public QObject {
+    Q_OBJECT
+
+public:
+    /// `window` is the host's; closing it is not a step. Not owned.
+    explicit SessionRecorder(QWidget* window, QObject* parent = nullptr);
+
+    /// Records into `file` from now on, what was there is lost. False, with a reason, when it
+    /// cannot be written.
+    bool start(const QString& file, QString* error);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void readWindowEvent(QObject* watched, QEvent* event);
+    void readWidgetEvent(QWidget* widget, QEvent* event);
+
+    void press(QWidget* hit, const QMouseEvent* event);
+    void doubleClick(QWidget* hit, const QMouseEvent* event);
+    void move(const QMouseEvent* event);
+    void release(const QMouseEvent* event);
+    void wheel(QWidget* hit, const QWheelEvent* event);
+    void key(const QKeyEvent* event);
+
+    void popupRelease(QWidget* popup, const QMouseEvent* event);
+    void popupKey(QWidget* popup, const QKeyEvent* event);
+    void chooseEntry(QMenu* menu, const QAction* action);
+    void chooseItem(QComboBox* combo, const QModelIndex& index);
+    /// Takes the last line back, or puts `before` in its place, when `popup` stays open.
+    void unlessClosed(QWidget* popup, const QStringList& before);
+
+    void watchText(QWidget* focus);
+    void typed(QWidget* widget, const QString& text);
+    void watchBox(QMessageBox* box);
+
+    QWidget* m_window;
+    SessionFile m_file;
+    RecordedPlace m_pressed;  ///< valid from a press to its release
+    RecordedPlace m_rightClick;
+    bool m_dragged = false;
+    QMetaObject::Connection m_text;
+};

@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+/// The widgets into which text is typed.
+namespace TextWidgets {
+
+/// Whether all that is typed into `widget` becomes its text.
+bool hasText(const QWidget* widget);
+
+}  // namespace TextWidgets
