@@ -104,9 +104,28 @@ void whenPainted(QWidget* window, const std::function<void()>& then)
     });
 }
 
+/// Has the canvas open or export a file; what went wrong, empty when nothing did. The canvas is a
+/// module, known by its name and methods alone.
+QString askCanvas(QWidget* window, const char* method, const QString& file)
+{
+    auto* const canvas = window->findChild<QWidget*>(QStringLiteral("m_pViewer"));
+    QString error;
+    const bool isKnown =
+        canvas && QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(QString, error),
+                                            Q_ARG(QString, file));
+    return isKnown ? error : QStringLiteral("%1: the canvas knows no %2").arg(file, method);
+}
+
 void end(const Options& options, QWidget* window)
 {
     int status = Good;
+    if (!options.exportFile.isEmpty()) {
+        const QString error = askCanvas(window, "exportBoard", options.exportFile);
+        if (!error.isEmpty()) {
+            complain(error);
+            status = BadInput;
+        }
+    }
     if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
         complain(
             ours(QStringLiteral("%1: the picture cannot be written").arg(options.screenshotFile)));
@@ -141,6 +160,13 @@ int main(int argc, char* argv[])
     if (!window.start(&error)) {
         complain(ours(error));
         return BadInput;
+    }
+    if (!inputs.options.boardFile.isEmpty()) {
+        error = askCanvas(&window, "openBoard", inputs.options.boardFile);
+        if (!error.isEmpty()) {
+            complain(error);
+            return BadInput;
+        }
     }
     SessionRecorder recorder(&window);
     const QString record = inputs.options.recordFile;

@@ -93,6 +93,10 @@ const std::vector<Row> sentRows = {
     {Sent::SelectFromEditor, "SelectFromEditor", QT_TRANSLATE_NOOP("MessageNames", "Select attributes on the board")},
 };
 
+// What the canvas is told by the host, not by the tool strip.
+const Row canvasJobOpened = {Accepted::JobOpened, "JobOpened",
+                             QT_TRANSLATE_NOOP("MessageNames", "Job and step opened")};
+
 // What a sibling may ask of the host itself.
 const std::vector<Row> hostRows = {
     {Accepted::JobOpened, "JobOpened", QT_TRANSLATE_NOOP("MessageNames", "Open job and step")},
@@ -121,6 +125,9 @@ const std::vector<Row>& sent()
 
 const Row* find(const QString& receiver, int code)
 {
+    if (receiver == ModuleNames::viewer && code == canvasJobOpened.code) {
+        return &canvasJobOpened;
+    }
     const std::vector<Row>& rows = rowsOf(receiver);
     const auto found =
         std::find_if(rows.begin(), rows.end(), [=](const Row& row) { return row.code == code; });

@@ -26,8 +26,12 @@ HostState::HostState(QWidget* window) : QObject(window), m_window(window) {}
 
 void HostState::send(const HostMessage& message)
 {
-    PluginMetaData envelope(message.sender.isEmpty() ? hostName : message.sender,
-                            ModuleNames::toolStrip);
+    sendTo(ModuleNames::toolStrip, message);
+}
+
+void HostState::sendTo(const QString& module, const HostMessage& message)
+{
+    PluginMetaData envelope(message.sender.isEmpty() ? hostName : message.sender, module);
     envelope.code = message.code;
     envelope.payload = message.payload;
     envelope.extra = std::visit(
@@ -86,7 +90,10 @@ void HostState::openStep(const QString& job, const QString& step)
 
 void HostState::announceJob()
 {
-    send({Accepted::JobOpened, jobPayload(m_job, QStringLiteral("StepName"), m_step), 0});
+    const HostMessage opened{Accepted::JobOpened,
+                             jobPayload(m_job, QStringLiteral("StepName"), m_step), 0};
+    send(opened);
+    sendTo(ModuleNames::viewer, opened);
 }
 
 void HostState::setUnit(CanvasHost::DisplayUnit unit)

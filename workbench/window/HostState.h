@@ -22,7 +22,7 @@ public:
     /// job's first one. Nothing happens for a job that is not known.
     void openStep(const QString& job, const QString& step = {});
     void setUnit(CanvasHost::DisplayUnit unit);
-    /// Tells the tool strip of job and step, which a new one does not know.
+    /// Tells tool strip and canvas of job and step, which a new one does not know.
     void announceJob();
     /// Sends a message to the tool strip.
     void send(const HostMessage& message);
@@ -34,6 +34,8 @@ Q_SIGNALS:
     void stepOpened(const QString& job, const QString& step);
 
 private:
+    void sendTo(const QString& module, const HostMessage& message);
+
     QWidget* m_window;
     QString m_job;
     QString m_step;

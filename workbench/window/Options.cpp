@@ -32,6 +32,14 @@ const QCommandLineOption recordOption(
     QStringLiteral("record"),
     QStringLiteral("Write what mouse and keyboard do to <file>, as a session to be played."),
     QStringLiteral("file"));
+const QCommandLineOption boardOption(QStringLiteral("board"),
+                                     QStringLiteral("Show the board <file> (JSON) on the canvas."),
+                                     QStringLiteral("file"));
+const QCommandLineOption exportOption(
+    QStringLiteral("export"),
+    QStringLiteral("Write the board to <file>, after playing or the first paint: .json, .gbr "
+                   "(Gerber), .png or .svg."),
+    QStringLiteral("file"));
 const QCommandLineOption exitOption(QStringLiteral("exit"),
                                     QStringLiteral("Leave after playing, or the first paint."));
 const QCommandLineOption unitOption(QStringLiteral("unit"),
@@ -148,8 +156,8 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     parser.setApplicationDescription(
         QStringLiteral("A small host application for the Canvas Tool Strip."));
     parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
-                       recordOption, exitOption, unitOption, languageOption, darkOption,
-                       fontSizeOption, helpOption});
+                       recordOption, boardOption, exportOption, exitOption, unitOption,
+                       languageOption, darkOption, fontSizeOption, helpOption});
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
         *error = parser.errorText();
@@ -174,6 +182,8 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     options.screenshotFile = parser.value(screenshotOption);
     options.sessionFile = parser.value(playOption);
     options.recordFile = parser.value(recordOption);
+    options.boardFile = parser.value(boardOption);
+    options.exportFile = parser.value(exportOption);
     options.exit = parser.isSet(exitOption);
     options.language = parser.value(languageOption);
     options.isDark = parser.isSet(darkOption);

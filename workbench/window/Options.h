@@ -29,6 +29,8 @@ struct Options {
     QString screenshotFile;  ///< empty: no picture
     QString sessionFile;     ///< empty: nothing is played
     QString recordFile;      ///< empty: nothing is recorded
+    QString boardFile;       ///< empty: the canvas begins with its own
+    QString exportFile;      ///< empty: nothing is exported
     bool exit = false;       ///< leave after playing, or after the first paint
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
     QString language = QStringLiteral("en");

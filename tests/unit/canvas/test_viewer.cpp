@@ -3,6 +3,7 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "messages/MessageLog.h"
+#include "viewer/BoardView.h"
 #include "viewer/ViewerPane.h"
 
 #include <common_widgets.h>
@@ -32,15 +33,11 @@ class TestViewer : public QObject {
         m_viewer->receive(message);
     }
     QString text(const char* label) const { return findNamed<QLabel>(*m_viewer, label).text(); }
-    /// A place of the board, which is 20 x 14 millimetres, as a part of its width and height.
+    /// In millimetres.
     void clickBoard(double x, double y)
     {
-        auto& board = findNamed(*m_viewer, "m_pBoardView");
-        // The board stands in the middle, 24 pixels from the nearer edges.
-        const double scale = qMin((board.width() - 48) / 20.0, (board.height() - 48) / 14.0);
-        const QPointF place(board.width() / 2.0 + (x - 10) * scale,
-                            board.height() / 2.0 - (y - 7) * scale);
-        QTest::mouseClick(&board, Qt::LeftButton, {}, place.toPoint());
+        const auto& view = findNamed<BoardView>(*m_viewer, "m_pBoardView");
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewPoint(x * 1000, y * 1000));
     }
 
 private Q_SLOTS:
@@ -57,6 +54,7 @@ private Q_SLOTS:
         m_viewer = new ViewerPane(m_window.get());
         m_viewer->resize(m_window->size());
         m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
     void cleanup()
     {

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "FindChild.h"
+#include "viewer/BoardView.h"
+#include "viewer/ViewerPane.h"
+
+#include <PluginManagerStandIn.h>
+
+#include <QLabel>
+#include <QtTest>
+
+#include <memory>
+
+/// A canvas with a board of the test's own: what a hand does on it, in micrometres.
+class CanvasFixture {
+public:
+    explicit CanvasFixture(const Pcb::Features& features = {})
+    {
+        CanvasHost::addInstance("Canvas_Tool_Strip.dll", this, [](void*, PluginMetaData) {});
+        window.resize(1000, 700);
+        pane->resize(window.size());
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window)) {
+            qFatal("the window does not appear");
+        }
+        const QVector<QPointF> outline{{0, 0}, {20000, 0}, {20000, 14000}, {0, 14000}};
+        document().replace({"job", "step", QPolygonF(outline), features});
+        view().fit();
+    }
+    ~CanvasFixture() { CanvasHost::removeInstance(this); }
+    CanvasFixture(const CanvasFixture&) = delete;
+    CanvasFixture& operator=(const CanvasFixture&) = delete;
+
+    BoardView& view() const { return findNamed<BoardView>(*pane, "m_pBoardView"); }
+    Document& document() const { return pane->canvas().document(); }
+    const CanvasState& state() const { return document().state(); }
+    const Pcb::Features& features() const { return document().board().features; }
+    QString text(const char* label) const { return findNamed<QLabel>(*pane, label).text(); }
+
+    void receive(int code, qint64 extra = 0, const QMap<QString, QVariant>& payload = {}) const
+    {
+        PluginMetaData message("Canvas_Tool_Strip.dll", "Canvas_Viewer.dll");
+        message.code = code;
+        message.extra = extra;
+        message.payload = payload;
+        pane->receive(message);
+    }
+    QPoint at(double x, double y) const { return view().viewPoint(x, y); }
+    void click(double x, double y, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        move(x, y);
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, modifiers, at(x, y));
+    }
+    void move(double x, double y) const { QTest::mouseMove(view().viewport(), at(x, y)); }
+    void rightClick(double x, double y) const
+    {
+        QTest::mouseClick(view().viewport(), Qt::RightButton, {}, at(x, y));
+    }
+    void drag(double x1, double y1, double x2, double y2) const
+    {
+        QTest::mousePress(view().viewport(), Qt::LeftButton, {}, at(x1, y1));
+        QTest::mouseMove(view().viewport(), at(x2, y2));
+        QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, at(x2, y2));
+    }
+
+    QWidget window;
+    ViewerPane* pane = new ViewerPane(&window);
+};
+
+/// A pixel of the view may be some micrometres.
+inline bool isNear(const QPointF& a, const QPointF& b, double distance = 60)
+{
+    return QLineF(a, b).length() <= distance;
+}

@@ -1,0 +1,379 @@
+// Each tool of the canvas, by hand: what it does to the board, that it can be undone, and what it
+// says where there is nothing for it to do.
+
+#include "CanvasFixture.h"
+#include "Main.h"
+
+#include <QToolButton>
+
+using Pcb::Feature;
+using Pcb::Features;
+
+namespace {
+
+Feature onNet(Pcb::Geometry geometry, const char* net)
+{
+    geometry.attributes[".net"] = net;
+    return Feature(geometry);
+}
+
+/// 0: a line along x, 1: one that crosses it, 2: a pad apart, 3: a pad on the first line's end.
+Features cross()
+{
+    return {onNet(Pcb::lineGeometry("r20", {2000, 5000}, {12000, 5000}), "A"),
+            onNet(Pcb::lineGeometry("r20", {8000, 2000}, {8000, 8000}), "B"),
+            onNet(Pcb::padGeometry("r60", {16000, 10000}), "A"),
+            Feature(Pcb::padGeometry("s50", {2000, 5000}))};
+}
+
+QVector<QPointF> pointsOf(const CanvasFixture& fixture, int feature)
+{
+    return fixture.features().at(size_t(feature)).geometry().points;
+}
+
+bool areNear(const QVector<QPointF>& actual, const QVector<QPointF>& expected)
+{
+    bool near = actual.size() == expected.size();
+    for (int i = 0; near && i < actual.size(); ++i) {
+        near = isNear(actual[i], expected[i]);
+    }
+    return near;
+}
+
+}  // namespace
+
+class TestTools : public QObject {
+    Q_OBJECT
+
+    /// What was done is one entry of the history: undone and done again.
+    static void compareHistory(const CanvasFixture& fixture, const CanvasState& before,
+                               const char* name)
+    {
+        const CanvasState after = fixture.state();
+        QVERIFY(!(after == before));
+        QCOMPARE(fixture.document().history().undoText(), QString(name));
+        QTest::mouseClick(&findNamed(*fixture.pane, "m_pUndoTB"), Qt::LeftButton);
+        QVERIFY(fixture.state() == before);
+        QTest::mouseClick(&findNamed(*fixture.pane, "m_pRedoTB"), Qt::LeftButton);
+        QVERIFY(fixture.state() == after);
+    }
+
+private Q_SLOTS:
+    void deletes()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000206, 0);
+        fixture.click(16000, 10000);
+        QCOMPARE(fixture.features().size(), size_t(3));
+        QVERIFY(fixture.features()[2] == before.board.features[3]);
+        compareHistory(fixture, before, "Delete feature");
+        fixture.click(18000, 13000);
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("There is no feature."));
+        QCOMPARE(fixture.features().size(), size_t(3));
+    }
+
+    void deletesTheSelectionThatIsClicked()
+    {
+        const CanvasFixture fixture(cross());
+        fixture.receive(20000202);
+        fixture.click(16000, 10000);
+        fixture.click(8000, 7500, Qt::ControlModifier);
+        QCOMPARE(fixture.state().selected, (Pcb::Indexes{1, 2}));
+        fixture.receive(20000206, 0);
+        fixture.click(16000, 10000);
+        QCOMPARE(fixture.features().size(), size_t(2));
+        QCOMPARE(fixture.state().selected, Pcb::Indexes());
+    }
+
+    void deletesToTheIntersection()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000206, 1);
+        fixture.click(11000, 5000);
+        QCOMPARE(fixture.features().size(), size_t(4));
+        QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {8000, 5000}}));
+        compareHistory(fixture, before, "Delete to intersection");
+        fixture.click(16000, 10000);
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"),
+                 QString("Delete to intersection is for lines and arcs."));
+    }
+
+    void moves_data()
+    {
+        QTest::addColumn<bool>("isDragged");
+        QTest::newRow("two clicks") << false;
+        QTest::newRow("dragged") << true;
+    }
+    void moves()
+    {
+        QFETCH(bool, isDragged);
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000207);
+        if (isDragged) {
+            fixture.drag(16000, 10000, 14000, 12000);
+        } else {
+            fixture.click(16000, 10000);
+            fixture.move(15000, 11000);
+            const Features preview = fixture.pane->canvas().scene().overlay().preview;
+            QCOMPARE(preview.size(), size_t(1));
+            QVERIFY(isNear(preview[0].bounds().center(), {15000, 11000}));
+            fixture.click(14000, 12000);
+        }
+        QVERIFY(areNear(pointsOf(fixture, 2), {{14000, 12000}}));
+        QCOMPARE(fixture.features().size(), size_t(4));
+        compareHistory(fixture, before, "Move feature");
+    }
+
+    void copies()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000208);
+        fixture.click(16000, 10000);
+        fixture.click(14000, 12000);
+        QCOMPARE(fixture.features().size(), size_t(5));
+        QVERIFY(areNear(pointsOf(fixture, 2), {{16000, 10000}}));
+        QVERIFY(areNear(pointsOf(fixture, 4), {{14000, 12000}}));
+        compareHistory(fixture, before, "Copy feature");
+    }
+
+    void movingIsGivenUp()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000207);
+        fixture.click(16000, 10000);
+        fixture.rightClick(15000, 11000);
+        fixture.move(14000, 12000);
+        QVERIFY(fixture.pane->canvas().scene().overlay().preview.empty());
+        fixture.click(16000, 10000);
+        QTest::keyClick(&fixture.view(), Qt::Key_Escape);
+        QVERIFY(fixture.state() == before);
+    }
+
+    void inverts()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000215);
+        fixture.click(16000, 10000);
+        QVERIFY(!fixture.features()[2].isPositive());
+        compareHistory(fixture, before, "Invert feature");
+    }
+
+    void turnsAndMirrors()
+    {
+        const CanvasFixture fixture(
+            {Feature(Pcb::padGeometry("rect80x20", {5000, 5000})),
+             Feature(Pcb::lineGeometry("r20", {8000, 2000}, {12000, 6000}))});
+        fixture.receive(20000213);
+        fixture.click(5000, 5000);
+        QVERIFY(fixture.features()[0].bounds().height() > fixture.features()[0].bounds().width());
+        QVERIFY(isNear(fixture.features()[0].bounds().center(), {5000, 5000}));
+        fixture.receive(20000214);
+        fixture.click(10000, 4000);
+        QVERIFY(areNear(pointsOf(fixture, 1), {{12000, 2000}, {8000, 6000}}));
+    }
+
+    void breaks()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000216);
+        fixture.click(5000, 5000);
+        QCOMPARE(fixture.features().size(), size_t(5));
+        QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {5000, 5000}}));
+        QVERIFY(areNear(pointsOf(fixture, 1), {{5000, 5000}, {12000, 5000}}));
+        compareHistory(fixture, before, "Break line");
+        fixture.click(16000, 10000);
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("Break line is for lines and arcs."));
+    }
+
+    void stretches()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000212);
+        fixture.click(11800, 5000);
+        fixture.click(15000, 7000);
+        QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {15000, 7000}}));
+        compareHistory(fixture, before, "Stretch line");
+        fixture.click(16000, 10000);
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("Click near the end of a line."));
+    }
+
+    void changesTheAngle()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000211);
+        fixture.click(11800, 5000);
+        fixture.click(2000, 9000);  // straight up from the end that stays
+        QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {2000, 15000}}));
+        compareHistory(fixture, before, "Change line angle");
+    }
+
+    void selects()
+    {
+        const CanvasFixture fixture(cross());
+        fixture.receive(20000202);
+        fixture.click(16000, 10000);
+        QCOMPARE(fixture.state().selected, Pcb::Indexes{2});
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("1 feature(s) selected."));
+        fixture.click(8000, 7500, Qt::ControlModifier);
+        QCOMPARE(fixture.state().selected, (Pcb::Indexes{1, 2}));
+        fixture.click(16000, 10000, Qt::ControlModifier);
+        QCOMPARE(fixture.state().selected, Pcb::Indexes{1});
+        const CanvasState before = fixture.state();
+        fixture.click(18000, 13000);
+        QCOMPARE(fixture.state().selected, Pcb::Indexes());
+        compareHistory(fixture, before, "Select nothing");
+    }
+
+    void selectsARectangle()
+    {
+        const CanvasFixture fixture(cross());
+        fixture.receive(20000203);
+        fixture.drag(7000, 1000, 18000, 12000);
+        QCOMPARE(fixture.state().selected, (Pcb::Indexes{1, 2}));
+        fixture.click(500, 13000);
+        fixture.move(5000, 5000);
+        QVERIFY(!fixture.pane->canvas().scene().overlay().rubber.isEmpty());
+        fixture.click(13000, 3500);
+        QCOMPARE(fixture.state().selected, (Pcb::Indexes{0, 3}));
+    }
+
+    void selectsAPolygon()
+    {
+        const CanvasFixture fixture(cross());
+        fixture.receive(20000223);
+        fixture.click(14000, 8000);
+        fixture.click(19000, 8000);
+        fixture.click(16000, 13500);
+        fixture.rightClick(100, 100);
+        QCOMPARE(fixture.state().selected, Pcb::Indexes{2});
+        fixture.click(1000, 1000);
+        fixture.rightClick(1000, 1000);  // no polygon: nothing changes
+        QCOMPARE(fixture.state().selected, Pcb::Indexes{2});
+    }
+
+    void selectsByNet_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QList<int>>("selected");
+        QTest::newRow("touching") << 20000244 << QList<int>{0, 1, 3};
+        QTest::newRow("net") << 20000245 << QList<int>{0, 1, 2, 3};
+        QTest::newRow("polyline") << 20000242 << QList<int>{0};
+    }
+    void selectsByNet()
+    {
+        QFETCH(int, code);
+        QFETCH(QList<int>, selected);
+        const CanvasFixture fixture(cross());
+        fixture.receive(code);
+        fixture.click(5000, 5000);
+        QCOMPARE(fixture.state().selected, Pcb::Indexes(selected.begin(), selected.end()));
+    }
+
+    void highlights()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(20000227);
+        fixture.click(16000, 10000);
+        QCOMPARE(fixture.state().highlighted, (Pcb::Indexes{0, 1, 2, 3}));
+        compareHistory(fixture, before, "Highlight");
+        fixture.click(16000, 10000);
+        QCOMPARE(fixture.state().highlighted, Pcb::Indexes());
+    }
+
+    void marks_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("said");
+        QTest::newRow("orthogonal") << 0 << "^Along x 118\\.\\d mil, along y 157\\.\\d mil\\.$";
+        QTest::newRow("point to point") << 1 << "^Distance 19[67]\\.\\d mil\\.$";
+    }
+    void marks()
+    {
+        QFETCH(int, mode);
+        QFETCH(QString, said);
+        const CanvasFixture fixture;
+        const CanvasState before = fixture.state();
+        fixture.receive(20000266, mode);
+        fixture.click(2000, 2000);
+        fixture.click(5000, 6000);
+        QCOMPARE(fixture.state().marks.size(), size_t(1));
+        QCOMPARE(fixture.state().marks[0].orthogonal, mode == 0);
+        QVERIFY(isNear(fixture.state().marks[0].line.p2(), {5000, 6000}));
+        const QString words = fixture.text("m_pCanvasStatusLB");
+        QVERIFY2(QRegularExpression(said).match(words).hasMatch(), qPrintable(words));
+        compareHistory(fixture, before, "Mark");
+        fixture.rightClick(5000, 5000);
+        QVERIFY(fixture.state().marks.empty());
+    }
+
+    void zoomsToAnArea()
+    {
+        const CanvasFixture fixture;
+        fixture.receive(20000201);
+        const double before = fixture.view().pixelSize();
+        fixture.drag(4000, 4000, 8000, 6000);
+        QVERIFY(fixture.view().pixelSize() < before / 3);
+        const QPoint middle = fixture.view().rect().center();
+        QVERIFY(isNear(fixture.view().boardPoint(middle), {6000, 5000}, 30));
+        QTest::mouseClick(&findNamed(*fixture.pane, "m_pFitTB"), Qt::LeftButton);
+        QVERIFY(qAbs(fixture.view().pixelSize() - before) < 0.01);
+    }
+
+    void opensASecondView()
+    {
+        const CanvasFixture fixture(cross());
+        fixture.receive(20000225);
+        QWidget* second = nullptr;
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == "m_pSecondView" && window->isVisible()) {
+                second = window;
+            }
+        }
+        QVERIFY(second);
+        // The tool works in both.
+        fixture.receive(20000206, 0);
+        auto* const view = qobject_cast<BoardView*>(second);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->viewPoint(16000, 10000));
+        QCOMPARE(fixture.features().size(), size_t(3));
+    }
+
+    void saysWhatItDoesNotDo_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("dimension") << 20000217 << "Rout dimension";
+        QTest::newRow("contour") << 20000218 << "Contour editor";
+        QTest::newRow("pull") << 20000219 << "Pull line";
+        QTest::newRow("junction") << 20000220 << "Move junction";
+        QTest::newRow("triplet") << 20000221 << "Move triplet";
+        QTest::newRow("reroute") << 20000222 << "Reroute trace";
+        QTest::newRow("EQ") << 20004801 << "EQ";
+    }
+    void saysWhatItDoesNotDo()
+    {
+        QFETCH(int, code);
+        QFETCH(QString, name);
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(code);
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"),
+                 QString("This canvas does not perform \"%1\".").arg(name));
+        fixture.click(16000, 10000);
+        QVERIFY(fixture.state() == before);
+        fixture.receive(20000207);
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString());
+    }
+};
+
+CTS_MAIN(TestTools)
+#include "test_tools.moc"
