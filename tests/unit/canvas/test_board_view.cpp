@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("beginning");
-        QTest::newRow("Gerber") << "board.gbr" << QByteArray("G04");
+        QTest::newRow("Gerber") << "board.gbr" << QByteArray("%FSLAX46Y46*%");
         QTest::newRow("PNG") << "board.png" << QByteArray("\x89PNG");
         QTest::newRow("SVG") << "board.svg" << QByteArray("<?xml");
         QTest::newRow("board") << "copy.json" << QByteArray("{");

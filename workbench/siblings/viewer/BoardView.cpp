@@ -115,19 +115,29 @@ void BoardView::mousePressEvent(QMouseEvent* event)
 
 void BoardView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_isPanning) {
-        const QPoint by = event->pos() - m_panFrom;
-        m_panFrom = event->pos();
-        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - by.x());
-        verticalScrollBar()->setValue(verticalScrollBar()->value() - by.y());
+    panTo(event->pos());
+    Q_EMIT moved(viewportTransform().inverted().map(event->localPos()));
+}
+
+void BoardView::panTo(const QPoint& position)
+{
+    if (m_isPanning && position != m_panFrom) {
+        scrollBy(m_panFrom - position);
+        m_panFrom = position;
         m_fits = false;
     }
-    Q_EMIT moved(viewportTransform().inverted().map(event->localPos()));
+}
+
+void BoardView::scrollBy(const QPoint& pixels)
+{
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + pixels.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + pixels.y());
 }
 
 void BoardView::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::MiddleButton) {
+        panTo(event->pos());
         m_isPanning = false;
         viewport()->unsetCursor();
     } else if (event->button() == Qt::LeftButton) {
@@ -141,9 +151,7 @@ void BoardView::wheelEvent(QWheelEvent* event)
     const QPointF before = mapToScene(cursor);
     zoom(std::pow(notchFactor, event->angleDelta().y() / notch));
     // What was under the cursor stays there.
-    const QPoint shift = mapFromScene(before) - cursor;
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + shift.x());
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + shift.y());
+    scrollBy(mapFromScene(before) - cursor);
     event->accept();
 }
 

@@ -47,6 +47,8 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    void panTo(const QPoint& position);
+    void scrollBy(const QPoint& pixels);
     void setScale(double pixelsPerMicrometre, const QPointF& centre);
     void drawGrid(QPainter* painter, const QRectF& area) const;
 

@@ -43,7 +43,7 @@ void ViewerPane::receive(const PluginMetaData& message)
                          &ViewerPane::sendAttributes);
             break;
         case Sent::DialogsClosed:
-            m_canvas.cancel();
+            startTool(m_tool, m_mode);  // what was begun, or asked for, is given up
             break;
         case Accepted::JobOpened:
             openStep(message);
