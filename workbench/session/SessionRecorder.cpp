@@ -208,7 +208,7 @@ void SessionRecorder::press(QWidget* hit, const QMouseEvent* event)
 {
     // The press before a double click is sent twice, the widget sees only the second.
     const bool doubled = event->flags() & Qt::MouseEventCreatedDoubleClick;
-    m_pressed = {};
+    m_held = false;
     m_dragged = false;
     if (!hit || doubled || QApplication::activePopupWidget() || isInBox(hit)) {
         return;
@@ -225,13 +225,14 @@ void SessionRecorder::press(QWidget* hit, const QMouseEvent* event)
         m_file.append(place.exact(QStringLiteral("rightclick")));
     } else {
         m_pressed = place;
+        m_held = true;
         m_file.append(place.exact(QStringLiteral("press"), buttonName(event->button())));
     }
 }
 
 void SessionRecorder::doubleClick(QWidget* hit, const QMouseEvent* event)
 {
-    m_pressed = {};
+    m_held = false;
     if (!hit || QApplication::activePopupWidget() || isInBox(hit) || onlyOpens(hit)) {
         return;
     }
@@ -249,7 +250,7 @@ void SessionRecorder::doubleClick(QWidget* hit, const QMouseEvent* event)
 
 void SessionRecorder::move(const QMouseEvent* event)
 {
-    if (!m_pressed.isValid() || event->buttons() == Qt::NoButton) {
+    if (!m_held || !m_pressed.isValid() || event->buttons() == Qt::NoButton) {
         return;
     }
     const QPoint way = event->globalPos() - m_pressed.global();
@@ -266,17 +267,20 @@ void SessionRecorder::release(const QMouseEvent* event)
         popupRelease(popup, event);
         return;
     }
-    if (!m_pressed.isValid() || event->button() == Qt::RightButton) {
+    if (!m_held || event->button() == Qt::RightButton) {
         return;
     }
-    const RecordedPlace place = m_pressed;
-    m_pressed = {};
+    m_held = false;
+    if (!m_pressed.isValid()) {
+        return;  // gone since it was pressed
+    }
     const QString button = buttonName(event->button());
-    const bool still = m_file.last() == place.exact(QStringLiteral("press"), button);
+    const bool still = m_file.last() == m_pressed.exact(QStringLiteral("press"), button);
     if (still && !m_dragged && event->button() == Qt::LeftButton) {
-        m_file.amend(place.click(QStringLiteral("click")));
+        m_file.amend(m_pressed.click(QStringLiteral("click")));
     } else {
-        m_file.append(place.movedTo(event->globalPos()).exact(QStringLiteral("release"), button));
+        m_file.append(
+            m_pressed.movedTo(event->globalPos()).exact(QStringLiteral("release"), button));
     }
 }
 

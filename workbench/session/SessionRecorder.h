@@ -52,8 +52,9 @@ private:
 
     QWidget* m_window;
     SessionFile m_file;
-    RecordedPlace m_pressed;  ///< valid from a press to its release
+    RecordedPlace m_pressed;  ///< where a button was pressed last
     RecordedPlace m_rightClick;
-    bool m_dragged = false;
+    bool m_held = false;     ///< that button is held
+    bool m_dragged = false;  ///< ... and the mouse was moved since
     QMetaObject::Connection m_text;
 };
