@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QShortcutEvent>
 #include <QTextEdit>
 #include <QTimer>
 #include <QWheelEvent>
@@ -143,7 +144,9 @@ bool SessionRecorder::start(const QString& file, QString* error)
 bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
 {
     // Windows get each event once; widgets may pass theirs on to what holds them.
-    if (watched->isWindowType()) {
+    if (event->type() == QEvent::Shortcut) {
+        shortcut(watched, static_cast<const QShortcutEvent*>(event));
+    } else if (watched->isWindowType()) {
         readWindowEvent(watched, event);
     } else if (watched->isWidgetType()) {
         readWidgetEvent(static_cast<QWidget*>(watched), event);
@@ -307,12 +310,26 @@ void SessionRecorder::key(const QKeyEvent* event)
         (TextWidgets::hasText(focus) && !leavesText(event->key()))) {
         return;
     }
+    writeKey(focus, keyName(event));
+}
+
+void SessionRecorder::shortcut(const QObject* receiver, const QShortcutEvent* event)
+{
+    // A menu that it opens is a step by what is chosen in it.
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus && !isInBox(focus) && !qobject_cast<const QMenuBar*>(receiver)) {
+        writeKey(focus, event->key().toString(QKeySequence::PortableText));
+    }
+}
+
+void SessionRecorder::writeKey(QWidget* focus, const QString& key)
+{
     QWidget* const named = RecordedPlace::named(focus);
     if (named && (named == focus || named->focusProxy() == focus)) {
-        m_file.append({QStringLiteral("key"), named->objectName(), keyName(event)});
+        m_file.append({QStringLiteral("key"), named->objectName(), key});
     } else {
-        m_file.comment(QStringLiteral("The key %1 to something without a name was not recorded.")
-                           .arg(keyName(event)));
+        m_file.comment(
+            QStringLiteral("The key %1 to something without a name was not recorded.").arg(key));
     }
 }
 
