@@ -22,6 +22,7 @@ holds "$module" canvas-tool-strip/modules/Canvas_Tool_Strip.so \
 holds "$workbench" bin/workbench canvas-tool-strip/modules/Canvas_Viewer.so \
     canvas-tool-strip/modules/Canvas_JobTree.so canvas-tool-strip/modules/Canvas_Dimensions.so \
     canvas-tool-strip/translations/workbench_zh_CN.qm canvas-tool-strip/samples/board.json \
+    canvas-tool-strip/samples/sessions/unit.session \
     libCanvasHostPluginManager.so.2
 if dpkg-deb -c "$module" | grep -E '\.h$|CanvasHost|workbench'; then
     echo "the module's package holds more than the module"

@@ -1,12 +1,20 @@
 #include "session/InputEvents.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
+
+// As Qt's own tests send keys: a shortcut is tried before the key reaches a widget.
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key,
+                                               Qt::KeyboardModifiers modifiers,
+                                               const QString& text = QString(),
+                                               bool repeated = false, ushort count = 1);
+QT_END_NAMESPACE
 
 namespace InputEvents {
 namespace {
@@ -134,7 +142,13 @@ void key(QWidget* window, const QKeySequence& combination)
     const Qt::KeyboardModifiers modifiers(combination[0] &
                                           static_cast<int>(Qt::KeyboardModifierMask));
     const bool plain = !(modifiers & ~Qt::KeyboardModifiers(Qt::ShiftModifier));
-    sendKey(window, code, modifiers, plain ? textOf(code) : QString());
+    const QString text = plain ? textOf(code) : QString();
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus && !QApplication::activePopupWidget() &&
+        qt_sendShortcutOverrideEvent(focus, 0, code, modifiers, text)) {
+        return;
+    }
+    sendKey(window, code, modifiers, text);
 }
 
 void type(QWidget* window, const QString& text)

@@ -22,7 +22,8 @@ void release(QWidget* widget, const QPoint& position, Qt::MouseButton button);
 /// `notches` away from the user are positive; a part of one is what a fine wheel reports.
 void wheel(QWidget* widget, const QPoint& position, double notches);
 
-/// To the widget of `window` that has the focus. `combination` is one key with its modifiers.
+/// To the widget of `window` that has the focus, or to the shortcut that takes it. `combination` is
+/// one key with its modifiers.
 void key(QWidget* window, const QKeySequence& combination);
 void type(QWidget* window, const QString& text);
 

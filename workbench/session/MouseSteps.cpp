@@ -172,7 +172,7 @@ QString checkMove(const QStringList& arguments)
 
 QString checkWheel(const QStringList& arguments)
 {
-    const QString fault = notchesFault(arguments[1]);
+    QString fault = notchesFault(arguments[1]);
     if (!fault.isEmpty()) {
         return fault;
     }

@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QShortcutEvent>
 #include <QTextEdit>
 #include <QTimer>
 #include <QWheelEvent>
@@ -143,7 +144,9 @@ bool SessionRecorder::start(const QString& file, QString* error)
 bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
 {
     // Windows get each event once; widgets may pass theirs on to what holds them.
-    if (watched->isWindowType()) {
+    if (event->type() == QEvent::Shortcut) {
+        shortcut(watched, static_cast<const QShortcutEvent*>(event));
+    } else if (watched->isWindowType()) {
         readWindowEvent(watched, event);
     } else if (watched->isWidgetType()) {
         readWidgetEvent(static_cast<QWidget*>(watched), event);
@@ -208,7 +211,7 @@ void SessionRecorder::press(QWidget* hit, const QMouseEvent* event)
 {
     // The press before a double click is sent twice, the widget sees only the second.
     const bool doubled = event->flags() & Qt::MouseEventCreatedDoubleClick;
-    m_pressed = {};
+    m_held = false;
     m_dragged = false;
     if (!hit || doubled || QApplication::activePopupWidget() || isInBox(hit)) {
         return;
@@ -225,13 +228,14 @@ void SessionRecorder::press(QWidget* hit, const QMouseEvent* event)
         m_file.append(place.exact(QStringLiteral("rightclick")));
     } else {
         m_pressed = place;
+        m_held = true;
         m_file.append(place.exact(QStringLiteral("press"), buttonName(event->button())));
     }
 }
 
 void SessionRecorder::doubleClick(QWidget* hit, const QMouseEvent* event)
 {
-    m_pressed = {};
+    m_held = false;
     if (!hit || QApplication::activePopupWidget() || isInBox(hit) || onlyOpens(hit)) {
         return;
     }
@@ -249,7 +253,7 @@ void SessionRecorder::doubleClick(QWidget* hit, const QMouseEvent* event)
 
 void SessionRecorder::move(const QMouseEvent* event)
 {
-    if (!m_pressed.isValid() || event->buttons() == Qt::NoButton) {
+    if (!m_held || !m_pressed.isValid() || event->buttons() == Qt::NoButton) {
         return;
     }
     const QPoint way = event->globalPos() - m_pressed.global();
@@ -266,17 +270,20 @@ void SessionRecorder::release(const QMouseEvent* event)
         popupRelease(popup, event);
         return;
     }
-    if (!m_pressed.isValid() || event->button() == Qt::RightButton) {
+    if (!m_held || event->button() == Qt::RightButton) {
         return;
     }
-    const RecordedPlace place = m_pressed;
-    m_pressed = {};
+    m_held = false;
+    if (!m_pressed.isValid()) {
+        return;  // gone since it was pressed
+    }
     const QString button = buttonName(event->button());
-    const bool still = m_file.last() == place.exact(QStringLiteral("press"), button);
+    const bool still = m_file.last() == m_pressed.exact(QStringLiteral("press"), button);
     if (still && !m_dragged && event->button() == Qt::LeftButton) {
-        m_file.amend(place.click(QStringLiteral("click")));
+        m_file.amend(m_pressed.click(QStringLiteral("click")));
     } else {
-        m_file.append(place.movedTo(event->globalPos()).exact(QStringLiteral("release"), button));
+        m_file.append(
+            m_pressed.movedTo(event->globalPos()).exact(QStringLiteral("release"), button));
     }
 }
 
@@ -303,12 +310,26 @@ void SessionRecorder::key(const QKeyEvent* event)
         (TextWidgets::hasText(focus) && !leavesText(event->key()))) {
         return;
     }
+    writeKey(focus, keyName(event));
+}
+
+void SessionRecorder::shortcut(const QObject* receiver, const QShortcutEvent* event)
+{
+    // A menu that it opens is a step by what is chosen in it.
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus && !isInBox(focus) && !qobject_cast<const QMenuBar*>(receiver)) {
+        writeKey(focus, event->key().toString(QKeySequence::PortableText));
+    }
+}
+
+void SessionRecorder::writeKey(QWidget* focus, const QString& key)
+{
     QWidget* const named = RecordedPlace::named(focus);
     if (named && (named == focus || named->focusProxy() == focus)) {
-        m_file.append({QStringLiteral("key"), named->objectName(), keyName(event)});
+        m_file.append({QStringLiteral("key"), named->objectName(), key});
     } else {
-        m_file.comment(QStringLiteral("The key %1 to something without a name was not recorded.")
-                           .arg(keyName(event)));
+        m_file.comment(
+            QStringLiteral("The key %1 to something without a name was not recorded.").arg(key));
     }
 }
 

@@ -11,6 +11,7 @@ class QLineEdit;
 class QMenu;
 class QMessageBox;
 class QMouseEvent;
+class QShortcutEvent;
 class QWheelEvent;
 
 /// Writes what the hand does in all windows of the program as a session: it reads the events of
@@ -38,6 +39,8 @@ private:
     void release(const QMouseEvent* event);
     void wheel(QWidget* hit, const QWheelEvent* event);
     void key(const QKeyEvent* event);
+    void shortcut(const QObject* receiver, const QShortcutEvent* event);
+    void writeKey(QWidget* focus, const QString& key);
 
     void popupRelease(QWidget* popup, const QMouseEvent* event);
     void popupKey(QWidget* popup, const QKeyEvent* event);
@@ -52,8 +55,9 @@ private:
 
     QWidget* m_window;
     SessionFile m_file;
-    RecordedPlace m_pressed;  ///< valid from a press to its release
+    RecordedPlace m_pressed;  ///< where a button was pressed last
     RecordedPlace m_rightClick;
-    bool m_dragged = false;
+    bool m_held = false;     ///< that button is held
+    bool m_dragged = false;  ///< ... and the mouse was moved since
     QMetaObject::Connection m_text;
 };

@@ -112,6 +112,10 @@ class TestSessionRecorder : public QObject {
         QAction* const entry = menu->addAction("&Start");
         entry->setObjectName("m_pStartAct");
         connect(entry, &QAction::triggered, this, [this] { send(1, "started"); });
+        auto* const undo = new QAction(m_window.get());
+        undo->setShortcut(QKeySequence("Ctrl+K"));
+        m_window->addAction(undo);
+        connect(undo, &QAction::triggered, this, [this] { send(9, "shortcut"); });
         connect(add<QPushButton>("m_pSendPB"), &QPushButton::clicked, this,
                 [this] { send(2, "clicked"); });
         connect(add<QPushButton>("m_pBoxPB"), &QPushButton::clicked, this, [this] {
@@ -264,6 +268,18 @@ private Q_SLOTS:
         QCOMPARE(trace.first(), QString("2 clicked"));
         QVERIFY(trace.contains("4 r10 #\"a"));
         QCOMPARE(trace.last(), QString("6 on"));
+        QCOMPARE(replay(), QString());
+        QCOMPARE(m_trace, trace);
+    }
+
+    void shortcuts()
+    {
+        the("m_pSendPB")->setFocus();
+        const QStringList lines =
+            record([this] { QTest::keyClick(handle(), Qt::Key_K, Qt::ControlModifier); });
+        QCOMPARE(lines, QStringList("key m_pSendPB Ctrl+K"));
+        const QStringList trace = m_trace;
+        QCOMPARE(trace, QStringList("9 shortcut"));
         QCOMPARE(replay(), QString());
         QCOMPARE(m_trace, trace);
     }

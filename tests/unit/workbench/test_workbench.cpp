@@ -186,8 +186,8 @@ private Q_SLOTS:
                               << "demo:1: \"-1\" is no time";
         QTest::newRow("picture") << "picture a.xyz\n"
                                  << "demo:1: \"a.xyz\" does not end";
-        QTest::newRow("box") << "box reject\n"
-                             << "demo:1: \"reject\" is no answer";
+        QTest::newRow("box") << "box refuse\n"
+                             << "demo:1: \"refuse\" is no answer";
     }
 
     void wrongSessions()
