@@ -245,7 +245,7 @@ QString resolveSpecialText(const QString& content, const QMap<QString, QString>&
     if (!content.startsWith(QLatin1String("$$"))) {
         return content;
     }
-    const QString name = content.mid(2);
+    QString name = content.mid(2);
     for (auto entry = values.begin(); entry != values.end(); ++entry) {
         if (entry.key().compare(name, Qt::CaseInsensitive) == 0) {
             return entry.value();
