@@ -230,13 +230,11 @@ QPainterPath coveredBy(const TextDrawing& drawing)
     for (const QPolygonF& stroke : drawing.strokes) {
         middle.addPolygon(stroke);
     }
-    QPainterPath area = roundStroke(middle, drawing.lineWidth);
-    if (drawing.areas.isEmpty()) {
-        return area;
+    if (drawing.strokes.isEmpty()) {
+        return drawing.areas;
     }
-    area = area.simplified();
-    area.setFillRule(Qt::OddEvenFill);
-    area.addPath(drawing.areas);
+    QPainterPath area = roundStroke(middle, drawing.lineWidth);
+    area.addPath(byWinding(drawing.areas));
     return area;
 }
 
