@@ -48,6 +48,22 @@ Indexes reached(const Board& board, const Indexes& seeds, IsJoined isJoined)
     return found;
 }
 
+/// The area of some features in their order, filled by the winding rule.
+QPainterPath composed(const Board& board, const Indexes& group)
+{
+    QPainterPath area;
+    for (const int index : group) {
+        const Feature& feature = at(board, index);
+        const QPainterPath shape = byWinding(feature.area());
+        if (!feature.isPositive()) {
+            area = area.subtracted(shape);
+        } else {
+            area = area.isEmpty() ? shape : area.united(shape);
+        }
+    }
+    return byWinding(area);
+}
+
 bool conducts(const Feature& a, const Feature& b)
 {
     return a.isPositive() && b.isPositive() && touch(a, b);
@@ -105,15 +121,24 @@ QRectF boundsOf(const Board& board)
 
 QPainterPath coveredArea(const Board& board)
 {
-    QPainterPath area;
-    for (const Feature& feature : board.features) {
-        if (feature.isPositive()) {
-            area = area.united(feature.area());
-        } else if (area.boundingRect().intersects(feature.bounds())) {
-            area = area.subtracted(feature.area());
+    // What overlaps nothing need not be united with anything, which takes long.
+    const auto overlaps = [](const Feature& a, const Feature& b) {
+        return a.bounds().intersects(b.bounds());
+    };
+    std::vector<bool> isDone(board.features.size(), false);
+    QPainterPath whole;
+    whole.setFillRule(Qt::WindingFill);
+    for (int index = 0; exists(board, index); ++index) {
+        if (isDone[static_cast<size_t>(index)]) {
+            continue;
         }
+        const Indexes group = reached(board, {index}, overlaps);
+        for (const int member : group) {
+            isDone[static_cast<size_t>(member)] = true;
+        }
+        whole.addPath(composed(board, group));
     }
-    return area;
+    return whole;
 }
 
 int featureAt(const Board& board, const QPointF& point, double tolerance)

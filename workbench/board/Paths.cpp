@@ -1,10 +1,13 @@
 #include "board/Paths.h"
 
 #include <QLineF>
+#include <QMap>
 #include <QtMath>
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <vector>
 
 namespace Pcb {
 namespace {
@@ -68,23 +71,112 @@ QPolygonF withTurn(QPolygonF polygon, bool counterclockwise)
     return polygon;
 }
 
-/// The outlines of the area, none of which crosses another or itself.
-QVector<QPolygonF> cleanOutlines(const QPainterPath& path)
+QVector<QPolygonF> simplified(const QVector<QPolygonF>& polygons, Qt::FillRule rule)
 {
     QPainterPath straight;
-    straight.setFillRule(path.fillRule());
-    for (const QPolygonF& polygon : flattened(path)) {
+    straight.setFillRule(rule);
+    for (const QPolygonF& polygon : polygons) {
         straight.addPolygon(polygon);
         straight.closeSubpath();
     }
-    constexpr double smallestArea = 0.01;
-    QVector<QPolygonF> outlines;
-    for (const QPolygonF& polygon : flattened(straight.simplified())) {
-        if (polygon.size() > 2 && std::abs(signedArea(polygon)) > smallestArea) {
-            outlines.append(polygon);
+    return flattened(straight.simplified());
+}
+
+bool isConvex(const QPolygonF& polygon)
+{
+    const double hull = signedArea(convexHull(polygon));
+    return std::abs(std::abs(signedArea(polygon)) - hull) <= 1e-9 * hull;
+}
+
+/// An outline with what tells quickly that it crosses no other one.
+struct Outline {
+    QPolygonF polygon;
+    QRectF bounds;
+    bool isBox = false;
+
+    explicit Outline(const QPolygonF& corners)
+        : polygon(corners), bounds(corners.boundingRect()), isBox(corners.size() == 4)
+    {
+        for (int i = 0; isBox && i < corners.size(); ++i) {
+            const QPointF side = corners.at((i + 1) % 4) - corners.at(i);
+            isBox = side.x() == 0 || side.y() == 0;
         }
     }
-    return outlines;
+
+    bool isAround(const Outline& other) const
+    {
+        return isBox && bounds.adjusted(1, 1, -1, -1).contains(other.bounds);
+    }
+};
+
+/// Sets of outlines that may cross each other; by the odd-even rule boxes may also stand around
+/// others without having to do with them.
+QVector<QVector<QPolygonF>> crossingSets(const std::vector<Outline>& outlines, Qt::FillRule rule)
+{
+    std::vector<size_t> leader(outlines.size());
+    std::iota(leader.begin(), leader.end(), size_t(0));
+    const auto leaderOf = [&leader](size_t i) {
+        while (leader[i] != i) {
+            i = leader[i] = leader[leader[i]];
+        }
+        return i;
+    };
+    for (size_t i = 0; i < outlines.size(); ++i) {
+        for (size_t k = 0; k < i; ++k) {
+            const Outline& a = outlines[i];
+            const Outline& b = outlines[k];
+            const bool isNested = rule == Qt::OddEvenFill && (a.isAround(b) || b.isAround(a));
+            if (a.bounds.adjusted(-1, -1, 1, 1).intersects(b.bounds) && !isNested) {
+                leader[leaderOf(i)] = leaderOf(k);
+            }
+        }
+    }
+    QMap<size_t, QVector<QPolygonF>> sets;
+    for (size_t i = 0; i < outlines.size(); ++i) {
+        sets[leaderOf(i)].append(outlines[i].polygon);
+    }
+    return sets.values().toVector();
+}
+
+/// The outlines of the area, none of which crosses another or itself. Simplifying takes long for
+/// many outlines, so each set that may cross is done by itself.
+QVector<QPolygonF> cleanOutlines(const QPainterPath& path)
+{
+    constexpr double smallestArea = 0.01;
+    std::vector<Outline> outlines;
+    for (const QPolygonF& polygon : flattened(path)) {
+        outlines.emplace_back(polygon);
+    }
+    QVector<QPolygonF> clean;
+    for (const QVector<QPolygonF>& set : crossingSets(outlines, path.fillRule())) {
+        const bool isClean = set.size() == 1 && isConvex(set.first());
+        for (const QPolygonF& polygon : isClean ? set : simplified(set, path.fillRule())) {
+            if (polygon.size() > 2 && std::abs(signedArea(polygon)) > smallestArea) {
+                clean.append(polygon);
+            }
+        }
+    }
+    return clean;
+}
+
+/// For each outline the indexes of those that it lies in.
+QVector<QVector<int>> surroundings(const QVector<QPolygonF>& outlines)
+{
+    QVector<QRectF> bounds;
+    for (const QPolygonF& outline : outlines) {
+        bounds.append(outline.boundingRect());
+    }
+    QVector<QVector<int>> around(outlines.size());
+    for (int inner = 0; inner < outlines.size(); ++inner) {
+        const QPointF probe = middleOfLongestEdge(outlines.at(inner));
+        for (int outer = 0; outer < outlines.size(); ++outer) {
+            if (outer != inner && bounds.at(outer).contains(probe) &&
+                outlines.at(outer).containsPoint(probe, Qt::OddEvenFill)) {
+                around[inner].append(outer);
+            }
+        }
+    }
+    return around;
 }
 
 /// Where the outline is met first on the way from `point` to the left: the edge's index and place.
@@ -250,16 +342,7 @@ QVector<QPolygonF> flattened(const QPainterPath& path)
 QVector<Island> islands(const QPainterPath& path)
 {
     const QVector<QPolygonF> outlines = cleanOutlines(path);
-    QVector<QVector<int>> around(outlines.size());
-    for (int inner = 0; inner < outlines.size(); ++inner) {
-        const QPointF probe = middleOfLongestEdge(outlines.at(inner));
-        for (int outer = 0; outer < outlines.size(); ++outer) {
-            if (outer != inner && outlines.at(outer).boundingRect().contains(probe) &&
-                outlines.at(outer).containsPoint(probe, Qt::OddEvenFill)) {
-                around[inner].append(outer);
-            }
-        }
-    }
+    const QVector<QVector<int>> around = surroundings(outlines);
     QVector<Island> found;
     QVector<int> islandOf(outlines.size(), -1);
     for (int i = 0; i < outlines.size(); ++i) {

@@ -230,13 +230,11 @@ QPainterPath coveredBy(const TextDrawing& drawing)
     for (const QPolygonF& stroke : drawing.strokes) {
         middle.addPolygon(stroke);
     }
-    QPainterPath area = roundStroke(middle, drawing.lineWidth);
-    if (drawing.areas.isEmpty()) {
-        return area;
+    if (drawing.strokes.isEmpty()) {
+        return drawing.areas;
     }
-    area = area.simplified();
-    area.setFillRule(Qt::OddEvenFill);
-    area.addPath(drawing.areas);
+    QPainterPath area = roundStroke(middle, drawing.lineWidth);
+    area.addPath(byWinding(drawing.areas));
     return area;
 }
 
@@ -245,7 +243,7 @@ QString resolveSpecialText(const QString& content, const QMap<QString, QString>&
     if (!content.startsWith(QLatin1String("$$"))) {
         return content;
     }
-    const QString name = content.mid(2);
+    QString name = content.mid(2);
     for (auto entry = values.begin(); entry != values.end(); ++entry) {
         if (entry.key().compare(name, Qt::CaseInsensitive) == 0) {
             return entry.value();

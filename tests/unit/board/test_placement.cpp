@@ -183,7 +183,7 @@ private slots:
         QVERIFY(placed(brush, {{0, 0}, {0, 400}}).empty());
     }
 
-    void slots_()
+    void slot()
     {
         Brush brush = lineBrush(LineMode::Slot);
         brush.slotLength = 2000;
