@@ -29,6 +29,120 @@
     </message>
 </context>
 <context>
+    <name>BoardFiles</name>
+    <message>
+        <source>%1: the name must end in .json, .gbr, .png or .svg</source>
+        <translation>%1：文件名必须以 .json、.gbr、.png 或 .svg 结尾</translation>
+    </message>
+</context>
+<context>
+    <name>CanvasBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适合窗口</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>打开...</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>保存...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>导出...</translation>
+    </message>
+    <message>
+        <source>Show the whole board</source>
+        <translation>显示整块板</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Open a board file</source>
+        <translation>打开板文件</translation>
+    </message>
+    <message>
+        <source>Save the board as a file</source>
+        <translation>将板保存为文件</translation>
+    </message>
+    <message>
+        <source>Export the board as Gerber or as a picture</source>
+        <translation>将板导出为 Gerber 或图片</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>撤销：%1</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>重做：%1</translation>
+    </message>
+    <message>
+        <source>Export board</source>
+        <translation>导出板</translation>
+    </message>
+    <message>
+        <source>Gerber (*.gbr)</source>
+        <translation>Gerber (*.gbr)</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>图片 (*.png)</translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg)</source>
+        <translation>矢量图 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Open board</source>
+        <translation>打开板</translation>
+    </message>
+    <message>
+        <source>Save board</source>
+        <translation>保存板</translation>
+    </message>
+    <message>
+        <source>Board (*.json)</source>
+        <translation>板 (*.json)</translation>
+    </message>
+    <message>
+        <source>Opened %1.</source>
+        <translation>已打开 %1。</translation>
+    </message>
+    <message>
+        <source>Wrote %1.</source>
+        <translation>已写入 %1。</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>板</translation>
+    </message>
+</context>
+<context>
     <name>ComposeDialog</name>
     <message>
         <source>Number</source>
@@ -108,6 +222,124 @@
     </message>
 </context>
 <context>
+    <name>EditTools</name>
+    <message>
+        <source>There is no feature.</source>
+        <translation>此处没有图形。</translation>
+    </message>
+    <message>
+        <source>%1 is for lines and arcs.</source>
+        <translation>“%1”只用于线和弧。</translation>
+    </message>
+    <message>
+        <source>Delete feature</source>
+        <translation>删除图形</translation>
+    </message>
+    <message>
+        <source>Delete to intersection</source>
+        <translation>删除到交点</translation>
+    </message>
+    <message>
+        <source>Invert feature</source>
+        <translation>反转图形极性</translation>
+    </message>
+    <message>
+        <source>Rotate feature</source>
+        <translation>旋转图形</translation>
+    </message>
+    <message>
+        <source>Mirror feature</source>
+        <translation>镜像图形</translation>
+    </message>
+    <message>
+        <source>Break line</source>
+        <translation>打断线</translation>
+    </message>
+    <message>
+        <source>Click a feature to delete it.</source>
+        <translation>单击要删除的图形。</translation>
+    </message>
+    <message>
+        <source>Click the part of a line that is to go.</source>
+        <translation>单击线上要删除的部分。</translation>
+    </message>
+    <message>
+        <source>Click a feature to invert its polarity.</source>
+        <translation>单击图形以反转其极性。</translation>
+    </message>
+    <message>
+        <source>Click a feature to turn it by 90 degrees.</source>
+        <translation>单击图形以旋转 90 度。</translation>
+    </message>
+    <message>
+        <source>Click a feature to mirror it.</source>
+        <translation>单击要镜像的图形。</translation>
+    </message>
+    <message>
+        <source>Click the place where a line is to break.</source>
+        <translation>单击线上要打断的位置。</translation>
+    </message>
+    <message>
+        <source>Move feature</source>
+        <translation>移动图形</translation>
+    </message>
+    <message>
+        <source>Copy feature</source>
+        <translation>复制图形</translation>
+    </message>
+    <message>
+        <source>Click the place where it is to go; a right click gives it up.</source>
+        <translation>单击目标位置；右键单击取消。</translation>
+    </message>
+    <message>
+        <source>Click a feature to move it.</source>
+        <translation>单击要移动的图形。</translation>
+    </message>
+    <message>
+        <source>Click a feature to copy it.</source>
+        <translation>单击要复制的图形。</translation>
+    </message>
+    <message>
+        <source>Click near the end of a line.</source>
+        <translation>请单击线的端点附近。</translation>
+    </message>
+    <message>
+        <source>Change line angle</source>
+        <translation>改变线角度</translation>
+    </message>
+    <message>
+        <source>Stretch line</source>
+        <translation>拉伸线</translation>
+    </message>
+    <message>
+        <source>Click near the end of a line that is to move.</source>
+        <translation>单击要移动的线端点附近。</translation>
+    </message>
+    <message>
+        <source>Click the direction that it is to have.</source>
+        <translation>单击线的新方向。</translation>
+    </message>
+    <message>
+        <source>Click the place of the end.</source>
+        <translation>单击端点的新位置。</translation>
+    </message>
+</context>
+<context>
+    <name>Inspector</name>
+    <message>
+        <source>Feature record (message %1)</source>
+        <translation>图形参数记录（消息 %1）</translation>
+    </message>
+    <message>
+        <source>Feature record (none yet)</source>
+        <translation>图形参数记录（尚无）</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+</context>
+<context>
     <name>JobTreePane</name>
     <message>
         <source>Double-click a step to open it.</source>
@@ -119,7 +351,44 @@
     </message>
     <message numerus="yes">
         <source>Add Feature was started %n time(s).</source>
-        <translation><numerusform>添加图元已启动 %n 次。</numerusform></translation>
+        <translation>
+            <numerusform>添加图元已启动 %n 次。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Lengths</name>
+    <message>
+        <source>%1 mil</source>
+        <translation>%1 mil</translation>
+    </message>
+    <message>
+        <source>%1, %2 mil</source>
+        <translation>%1, %2 mil</translation>
+    </message>
+    <message>
+        <source>%1 inch</source>
+        <translation>%1 英寸</translation>
+    </message>
+    <message>
+        <source>%1, %2 inch</source>
+        <translation>%1, %2 英寸</translation>
+    </message>
+    <message>
+        <source>%1 um</source>
+        <translation>%1 微米</translation>
+    </message>
+    <message>
+        <source>%1, %2 um</source>
+        <translation>%1, %2 微米</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 毫米</translation>
+    </message>
+    <message>
+        <source>%1, %2 mm</source>
+        <translation>%1, %2 毫米</translation>
     </message>
 </context>
 <context>
@@ -239,7 +508,9 @@
     <name>MessageMonitor</name>
     <message numerus="yes">
         <source>%n message(s)</source>
-        <translation><numerusform>%n 条消息</numerusform></translation>
+        <translation>
+            <numerusform>%n 条消息</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 messages</source>
@@ -620,6 +891,25 @@
     </message>
 </context>
 <context>
+    <name>PlaceTool</name>
+    <message>
+        <source>Add feature</source>
+        <translation>添加图形</translation>
+    </message>
+    <message>
+        <source>Click the next point; a right click ends it.</source>
+        <translation>单击下一点；右键单击结束。</translation>
+    </message>
+    <message>
+        <source>Click the next point; a right click gives it up.</source>
+        <translation>单击下一点；右键单击取消。</translation>
+    </message>
+    <message>
+        <source>Click where the feature begins.</source>
+        <translation>单击图形的起点。</translation>
+    </message>
+</context>
+<context>
     <name>RecordTable</name>
     <message>
         <source>Key</source>
@@ -635,6 +925,63 @@
     </message>
 </context>
 <context>
+    <name>SelectionTools</name>
+    <message numerus="yes">
+        <source>%n feature(s) selected.</source>
+        <translation>
+            <numerusform>已选择 %n 个图形。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>取消选择</translation>
+    </message>
+    <message>
+        <source>Click a feature to select it; with Ctrl one more.</source>
+        <translation>单击以选择图形；按住 Ctrl 可多选。</translation>
+    </message>
+    <message>
+        <source>Click a feature to select all that touches it.</source>
+        <translation>单击图形以选择与其相连的全部图形。</translation>
+    </message>
+    <message>
+        <source>Click a feature to select its net.</source>
+        <translation>单击图形以选择其网络。</translation>
+    </message>
+    <message>
+        <source>Click a line to select its polyline.</source>
+        <translation>单击线以选择其所在折线。</translation>
+    </message>
+    <message>
+        <source>Select a rectangle</source>
+        <translation>矩形选择</translation>
+    </message>
+    <message>
+        <source>Click the opposite corner.</source>
+        <translation>单击对角点。</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle, or click two corners.</source>
+        <translation>拖出一个矩形，或单击两个角点。</translation>
+    </message>
+    <message>
+        <source>Select a polygon</source>
+        <translation>多边形选择</translation>
+    </message>
+    <message>
+        <source>Click the corners of a polygon.</source>
+        <translation>依次单击多边形的顶点。</translation>
+    </message>
+    <message>
+        <source>Click the next corner; a right click ends the polygon.</source>
+        <translation>单击下一个顶点；右键单击结束多边形。</translation>
+    </message>
+</context>
+<context>
     <name>UiApi</name>
     <message>
         <source>The value must lie between %1 and %2.</source>
@@ -646,23 +993,62 @@
     </message>
 </context>
 <context>
+    <name>ViewTools</name>
+    <message>
+        <source>Click the opposite corner.</source>
+        <translation>单击对角点。</translation>
+    </message>
+    <message>
+        <source>Drag the area to show, or click two corners of it.</source>
+        <translation>拖出要显示的区域，或单击其两个角点。</translation>
+    </message>
+    <message>
+        <source>Highlight nothing</source>
+        <translation>取消高亮</translation>
+    </message>
+    <message>
+        <source>Highlight</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
+        <source>Click a feature to highlight its net; once more to end that.</source>
+        <translation>单击图形以高亮其网络；再次单击取消。</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Along x %1, along y %2.</source>
+        <translation>X 方向 %1，Y 方向 %2。</translation>
+    </message>
+    <message>
+        <source>Distance %1.</source>
+        <translation>距离 %1。</translation>
+    </message>
+    <message>
+        <source>Take marks away</source>
+        <translation>清除标记</translation>
+    </message>
+    <message>
+        <source>Click the second point to mark.</source>
+        <translation>单击要标记的第二点。</translation>
+    </message>
+    <message>
+        <source>Click the first point to mark; a right click takes the marks away.</source>
+        <translation>单击要标记的第一点；右键单击清除标记。</translation>
+    </message>
+    <message>
+        <source>Click the second point to measure to.</source>
+        <translation>单击测量的终点。</translation>
+    </message>
+    <message>
+        <source>Click the first point to measure from.</source>
+        <translation>单击测量的起点。</translation>
+    </message>
+</context>
+<context>
     <name>ViewerPane</name>
-    <message>
-        <source>%1, %2 mil</source>
-        <translation>%1, %2 mil</translation>
-    </message>
-    <message>
-        <source>%1, %2 inch</source>
-        <translation>%1, %2 inch</translation>
-    </message>
-    <message>
-        <source>%1, %2 um</source>
-        <translation>%1, %2 μm</translation>
-    </message>
-    <message>
-        <source>%1, %2 mm</source>
-        <translation>%1, %2 mm</translation>
-    </message>
     <message>
         <source>none</source>
         <translation>无</translation>
@@ -684,24 +1070,24 @@
         <translation>点击图元以取得其属性。</translation>
     </message>
     <message>
-        <source>Click the first point to measure from.</source>
-        <translation>点击测量的起点。</translation>
+        <source>This canvas has nothing to set for marks.</source>
+        <translation>此画布没有标记设置。</translation>
     </message>
     <message>
-        <source>Click the second point to measure to.</source>
-        <translation>点击测量的终点。</translation>
+        <source>This canvas does not perform &quot;%1&quot;.</source>
+        <translation>此画布不支持“%1”。</translation>
     </message>
     <message>
-        <source>Feature record (message %1)</source>
-        <translation>图元记录 (消息 %1)</translation>
+        <source>negative</source>
+        <translation>负极性</translation>
     </message>
     <message>
-        <source>Feature record (none yet)</source>
-        <translation>图元记录 (尚无)</translation>
+        <source>Board</source>
+        <translation>板</translation>
     </message>
     <message>
-        <source>Attributes</source>
-        <translation>属性</translation>
+        <source>Second view</source>
+        <translation>第二视图</translation>
     </message>
 </context>
 <context>

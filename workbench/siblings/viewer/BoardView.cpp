@@ -186,7 +186,7 @@ void BoardView::drawBackground(QPainter* painter, const QRectF& area)
 void BoardView::drawGrid(QPainter* painter, const QRectF& area) const
 {
     const double step = gridStep(leastGrid * pixelSize());
-    const QRectF board = Pcb::boundsOf(m_scene->document()->board()) & area;
+    const QRectF board = m_scene->document()->board().outline.boundingRect() & area;
     QVector<QLineF> lines;
     QVector<QPointF> points;
     for (double x = std::ceil(board.left() / step) * step; x <= board.right(); x += step) {

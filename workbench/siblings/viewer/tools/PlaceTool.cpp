@@ -38,7 +38,12 @@ void PlaceTool::add(const Pcb::Features& features)
 
 Overlay PlaceTool::overlay() const
 {
-    return {m_placement.preview(), m_placement.previewPath(), {}};
+    Overlay overlay;
+    overlay.preview = m_placement.preview();
+    if (overlay.preview.empty()) {
+        overlay.rubber = m_placement.previewPath();
+    }
+    return overlay;
 }
 
 QString PlaceTool::hint() const
