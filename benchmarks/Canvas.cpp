@@ -2,30 +2,20 @@
 
 #include <QTpluginsManger4CAM.h>
 
-#include <utility>
-
 namespace {
 
-Receiver* theReceiver = nullptr;
+Canvas* theCanvas = nullptr;
 
 }  // namespace
 
-void Canvas::receive(PluginMetaData message)
+Connected::Connected(Canvas& canvas)
 {
-    ++m_count;
-    if (m_keeps) {
-        m_last = std::move(message);
-    }
-}
-
-Connected::Connected(Receiver& receiver)
-{
-    theReceiver = &receiver;
+    theCanvas = &canvas;
 }
 
 Connected::~Connected()
 {
-    theReceiver = nullptr;
+    theCanvas = nullptr;
 }
 
 QTpluginsManger4CAM* QTpluginsManger4CAM::instance()
@@ -36,7 +26,7 @@ QTpluginsManger4CAM* QTpluginsManger4CAM::instance()
 
 void QTpluginsManger4CAM::recMegToPlugin(void* /*sender*/, PluginMetaData message)
 {
-    if (theReceiver) {
-        theReceiver->receive(std::move(message));
+    if (theCanvas) {
+        theCanvas->take(message);
     }
 }

@@ -2,7 +2,9 @@
 
 #include <PluginMetaData.h>
 
-/// Who receives the messages of either side: the one virtual call that both of them end with.
+#include <utility>
+
+/// Who receives the messages of a floor, by value and through a virtual call.
 class Receiver {
 public:
     virtual ~Receiver() = default;
@@ -13,7 +15,16 @@ public:
 class Canvas : public Receiver {
 public:
     explicit Canvas(bool keeps = true) : m_keeps(keeps) {}
-    void receive(PluginMetaData message) override;
+    void receive(PluginMetaData message) override { take(message); }
+
+    /// What becomes of a message that has arrived, by either way.
+    void take(PluginMetaData& message)
+    {
+        ++m_count;
+        if (m_keeps) {
+            m_last = std::move(message);
+        }
+    }
 
     long count() const { return m_count; }
     const PluginMetaData& last() const { return m_last; }
@@ -24,12 +35,12 @@ private:
     PluginMetaData m_last{{}, {}};
 };
 
-/// While it lives, the plug-in manager that the module is linked with hands every message straight
-/// to `receiver`. The manager of the stand-ins looks instances up and shows messages to an
-/// observer, which is no work of the module's.
+/// While it lives, the plug-in manager that the module is linked with gives every message, which it
+/// gets by value, straight to `canvas`. The manager of the stand-ins looks instances up and shows
+/// messages to an observer, which is no work of the module's.
 class Connected {
 public:
-    explicit Connected(Receiver& receiver);
+    explicit Connected(Canvas& canvas);
     ~Connected();
     Connected(const Connected&) = delete;
     Connected& operator=(const Connected&) = delete;

@@ -10,6 +10,8 @@
 #include "plugin/PluginEntry.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
+#include <QLineEdit>
+
 namespace {
 
 namespace Accepted = MessageCodes::Accepted;
@@ -114,8 +116,9 @@ void deliverToSwitch(benchmark::State& state, int code)
     panel.showPainted();
     PlainRecord record(window.canvas.last().payload, " ", &panel, canvas);
     auto* const dialog = new QWidget(&panel, Qt::Window);
+    auto* const symbol = new QLineEdit(dialog);
     dialog->show();
-    plain.setDialog(dialog, &record);
+    plain.setDialog(dialog, symbol, &record);
     deliver(state, Plain::receive, &plain, code);
 }
 

@@ -121,7 +121,6 @@ private:
     void activate(Tool tool, qint64 extra = 0);
     void activateVariant(Tool tool, const Variant& variant);
     void send(int code, qint64 extra = 0);
-    void send(PluginMetaData message, int code, qint64 extra = 0);
     QMenu* createMenu(Tool owner, const char* objectName, std::initializer_list<MenuEntry> entries);
 
     // Incoming messages

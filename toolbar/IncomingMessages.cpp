@@ -12,9 +12,10 @@ namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
-std::string payloadText(const PluginMetaData& message, const char* key)
+std::string payloadText(const PluginMetaData& message, const QString& key)
 {
-    return message.payload.value(QLatin1String(key)).toString().toStdString();
+    const auto found = message.payload.constFind(key);
+    return found == message.payload.constEnd() ? std::string() : found->toString().toStdString();
 }
 
 /// The object whose address the extra word holds; null for a message without one.
@@ -101,14 +102,14 @@ void Canvas_Tool_Strip::showAddFeatureActive()
 
 void Canvas_Tool_Strip::setJobAndStep(const PluginMetaData& message)
 {
-    m_job = payloadText(message, "JobName");
-    m_step = payloadText(message, "Step");
+    m_job = payloadText(message, QStringLiteral("JobName"));
+    m_step = payloadText(message, QStringLiteral("Step"));
 }
 
 void Canvas_Tool_Strip::update_job_info(const PluginMetaData& message)
 {
-    m_job = payloadText(message, "JobName");
-    m_step = payloadText(message, "StepName");
+    m_job = payloadText(message, QStringLiteral("JobName"));
+    m_step = payloadText(message, QStringLiteral("StepName"));
     if (!m_job.empty() && !m_step.empty()) {
         Q_EMIT send_job_info(m_job, m_step);
     }

@@ -31,16 +31,22 @@ bool Canvas_Tool_Strip::isToolButtonChecked(int index) const
     return index >= 0 && index < m_buttons.size() && m_buttons[index]->isChecked();
 }
 
-void Canvas_Tool_Strip::send(PluginMetaData message, int code, qint64 extra)
+namespace {
+
+PluginMetaData envelope(const QString& sender, const QString& receiver, int code, qint64 extra = 0)
 {
+    PluginMetaData message(sender, receiver);
     message.code = code;
     message.extra = extra;
-    QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, std::move(message));
+    return message;
 }
+
+}  // namespace
 
 void Canvas_Tool_Strip::send(int code, qint64 extra)
 {
-    send({ModuleNames::toolStrip, ModuleNames::viewer}, code, extra);
+    QTpluginsManger4CAM::instance()->recMegToPlugin(
+        m_parent, envelope(ModuleNames::toolStrip, ModuleNames::viewer, code, extra));
 }
 
 void Canvas_Tool_Strip::activate(Tool tool, qint64 extra)
@@ -64,7 +70,9 @@ void Canvas_Tool_Strip::On_FeatHighLight_Clicked()
 {
     SetAllButtonchecked(false, button(Tool::FeatureHighLight));
     // Without ".dll": the canvas knows this one message by that sender. Deliberate.
-    send({QStringLiteral("Canvas_Tool_Strip"), ModuleNames::viewer}, Sent::FeatureHighLight);
+    QTpluginsManger4CAM::instance()->recMegToPlugin(
+        m_parent,
+        envelope(QStringLiteral("Canvas_Tool_Strip"), ModuleNames::viewer, Sent::FeatureHighLight));
 }
 
 void Canvas_Tool_Strip::On_DeleteFeat_Clicked()
@@ -210,7 +218,8 @@ void Canvas_Tool_Strip::On_SelectPolyline_Clicked(int datatype)
 
 void Canvas_Tool_Strip::On_AddFeature_Clicked()
 {
-    send({ModuleNames::toolStrip, ModuleNames::jobTree}, Sent::AddFeatureStarted);
+    QTpluginsManger4CAM::instance()->recMegToPlugin(
+        m_parent, envelope(ModuleNames::toolStrip, ModuleNames::jobTree, Sent::AddFeatureStarted));
     SetAllButtonchecked(false, button(Tool::AddFeature));
     if (m_addFeature) {
         Q_EMIT reselect_Add_feature();

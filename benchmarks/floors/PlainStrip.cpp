@@ -24,7 +24,9 @@ PlainStrip::PlainStrip(QWidget* parent, Receiver& receiver) : m_receiver(receive
     for (const PlainTool& tool : plainTools()) {
         const int index = m_buttons.size();
         auto* const button = new QToolButton(index == 0 ? parent : nullptr);
+        button->setObjectName(tool.name);
         button->setToolTip(tr(tool.tip, tool.note));
+        button->setAccessibleName(button->toolTip());
         button->setFixedSize(40, 40);
         button->setCheckable(true);
         button->setAutoRaise(true);

@@ -6,6 +6,7 @@
 #include <common_widgets.h>
 #include <ui_api.h>
 
+#include <QLineEdit>
 #include <QToolButton>
 
 namespace Accepted = MessageCodes::Accepted;
@@ -37,9 +38,10 @@ PlainSwitch::PlainSwitch(QWidget* panel, Receiver& receiver)
 {
 }
 
-void PlainSwitch::setDialog(QWidget* dialog, PlainRecord* record)
+void PlainSwitch::setDialog(QWidget* dialog, QLineEdit* symbol, PlainRecord* record)
 {
     m_dialog = dialog;
+    m_symbol = symbol;
     m_record = record;
 }
 
@@ -81,7 +83,7 @@ void PlainSwitch::addFeature()
     message.code = Sent::AddFeatureStarted;
     m_receiver.receive(std::move(message));
     m_strip->checkOnly(m_strip->buttons()[Add]);
-    m_record->send(QString());
+    m_record->send(m_symbol->text());
     m_dialog->raise();
     m_dialog->show();
 }

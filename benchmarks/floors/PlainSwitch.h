@@ -11,6 +11,7 @@
 #include <vector>
 
 class Grc_Tbe_measurepopup;
+class QLineEdit;
 
 /// Floor of the incoming messages: a plain strip, and one switch over the codes behind a function
 /// pointer.
@@ -20,8 +21,8 @@ public:
     PlainSwitch(QWidget* panel, Receiver& receiver);
 
     PlainStrip* strip() const { return m_strip; }
-    /// What Add Feature opens and resends; both are null before there is one.
-    void setDialog(QWidget* dialog, PlainRecord* record);
+    /// What Add Feature opens, checks and resends; null before.
+    void setDialog(QWidget* dialog, QLineEdit* symbol, PlainRecord* record);
 
     /// The entry point; `instance` is a PlainSwitch.
     static void receive(void* instance, PluginMetaData message);
@@ -46,6 +47,7 @@ private:
     Receiver& m_receiver;
     PlainStrip* m_strip;
     QWidget* m_dialog = nullptr;
+    QLineEdit* m_symbol = nullptr;
     PlainRecord* m_record = nullptr;
     Grc_Tbe_measurepopup* m_popup = nullptr;
     std::string m_job;

@@ -6,6 +6,7 @@
 
 /// What a plain button needs to look and act like a tool; everything is put together beforehand.
 struct PlainTool {
+    QString name;
     const char* tip;
     const char* note;  ///< disambiguation of the tip; null: none
     QString sheet;
