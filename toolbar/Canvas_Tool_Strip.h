@@ -39,6 +39,9 @@ public:
     /// Takes a message of a sibling module; an unknown code does nothing.
     void recMsgFromManager(PluginMetaData message);
 
+    /// The same, for a caller that has a copy of its own: the exported entry point.
+    void handleMessage(const PluginMetaData& message);
+
     /// Sets every button's checked state to `checked`, but `except`, which is checked. Null: none
     /// is excepted.
     void SetAllButtonchecked(bool checked, QToolButton* except);
@@ -117,7 +120,7 @@ private:
     void createAddFeatureDialog();
     void createMeasurePopup();
 
-    QToolButton* button(Tool tool) const;
+    QToolButton* button(Tool tool) const { return m_buttons[static_cast<int>(tool)]; }
     void activate(Tool tool, qint64 extra = 0);
     void activateVariant(Tool tool, const Variant& variant);
     void send(int code, qint64 extra = 0);

@@ -5,8 +5,8 @@
 
 #include <QToolButton>
 
-#include <algorithm>
-#include <iterator>
+#include <cstddef>
+#include <cstdint>
 
 namespace Accepted = MessageCodes::Accepted;
 
@@ -25,6 +25,47 @@ const T* passedObject(const PluginMetaData& message)
     return reinterpret_cast<const T*>(static_cast<quintptr>(message.extra));
 }
 
+/// Where the rows of a table of codes stand, for a look-up in one step: the codes are multiplied by
+/// a number that lets no two of them fall into one slot.
+template <size_t Count>
+class CodeIndex {
+public:
+    /// The number is looked for at compile time.
+    template <class Row>
+    constexpr explicit CodeIndex(const Row (&rows)[Count])
+    {
+        while (!fill(rows)) {
+            m_factor += 2;
+        }
+    }
+
+    /// The one row that may be that of `code`.
+    constexpr size_t candidate(int code) const { return m_rows[slot(code)]; }
+
+private:
+    static constexpr int bits = 7;
+
+    constexpr size_t slot(int code) const { return (uint32_t(code) * m_factor) >> (32 - bits); }
+
+    template <class Row>
+    constexpr bool fill(const Row (&rows)[Count])
+    {
+        bool taken[size_t(1) << bits] = {};
+        for (size_t row = 0; row < Count; ++row) {
+            const size_t at = slot(rows[row].code);
+            if (taken[at]) {
+                return false;
+            }
+            taken[at] = true;
+            m_rows[at] = uint8_t(row);
+        }
+        return true;
+    }
+
+    uint32_t m_factor = 0x9E3779B1;  // spreads well, and is odd
+    uint8_t m_rows[size_t(1) << bits] = {};
+};
+
 }  // namespace
 
 /// What each accepted code does.
@@ -40,7 +81,6 @@ struct Canvas_Tool_Strip::Incoming {
 
 const Canvas_Tool_Strip::Incoming* Canvas_Tool_Strip::Incoming::find(int code)
 {
-    // In ascending order of the codes, for the look-up.
     // clang-format off
     static constexpr Incoming rows[] = {
         {Accepted::ReleaseAll, [](Strip& strip, Message) { strip.SetAllButtonchecked(false, nullptr); }},
@@ -68,13 +108,17 @@ const Canvas_Tool_Strip::Incoming* Canvas_Tool_Strip::Incoming::find(int code)
         {Accepted::MoveFeature, [](Strip& strip, Message) { strip.On_MoveFeature_Clicked(); }},
     };
     // clang-format on
-    const auto* const found =
-        std::lower_bound(std::begin(rows), std::end(rows), code,
-                         [](const Incoming& row, int wanted) { return row.code < wanted; });
-    return found != std::end(rows) && found->code == code ? found : nullptr;
+    static constexpr CodeIndex index(rows);
+    const Incoming& row = rows[index.candidate(code)];
+    return row.code == code ? &row : nullptr;
 }
 
 void Canvas_Tool_Strip::recMsgFromManager(PluginMetaData message)
+{
+    handleMessage(message);
+}
+
+void Canvas_Tool_Strip::handleMessage(const PluginMetaData& message)
 {
     if (const Incoming* const incoming = Incoming::find(message.code)) {
         incoming->act(*this, message);
