@@ -5,6 +5,14 @@
 #include <cstdlib>
 #include <cstring>
 
+namespace {
+
+// What the allocator may keep for itself, which counts as held. A leak of the least block in each
+// click or send would be at least twice as much, even in a quick run.
+constexpr double allocatorCaches = 16384;
+
+}  // namespace
+
 const std::vector<Figure>& figures()
 {
     // clang-format off
@@ -25,7 +33,7 @@ const std::vector<Figure>& figures()
         {"grow-20001811",   "symbols in one 20001811",                            Kind::Exponent, 1.1},
         {"grow-special",    "special symbols of the job at send",                 Kind::Exponent, 1.1},
         {"grow-strips",     "strips in one process",                              Kind::Exponent, 1.1},
-        {"memory",          "heap after all clicks and sends",                    Kind::Bytes, 0},
+        {"memory",          "heap after all clicks and sends",                    Kind::Bytes, allocatorCaches},
         {"host-calls",      "calls of any one host function in a send",           Kind::Count, 1},
     };
     // clang-format on

@@ -7,12 +7,12 @@
 
 namespace {
 
-/// Starts a process that opens `library`; the time is the one that it tells.
-void startProcess(benchmark::State& state, const char* library)
+/// Starts a process that opens the library named last; the time is the one that it tells.
+void startProcess(benchmark::State& state, const QStringList& arguments)
 {
     for (auto _ : state) {
         QProcess process;
-        process.start(QStringLiteral(FRESH_PROCESS), {QString::fromLocal8Bit(library)});
+        process.start(QStringLiteral(FRESH_PROCESS), arguments);
         bool isNumber = false;
         const bool ended = process.waitForFinished();
         const double nanoseconds = process.readAllStandardOutput().trimmed().toDouble(&isNumber);
@@ -28,7 +28,13 @@ void startProcess(benchmark::State& state, const char* library)
 
 void addProcessFigures(Runner& runner)
 {
-    runner.addTimedPair(
-        "process", [](benchmark::State& state) { startProcess(state, MODULE_LIBRARY); },
-        [](benchmark::State& state) { startProcess(state, MINIMAL_LIBRARY); });
+    for (const bool hasLog : {true, false}) {
+        const QStringList log = hasLog ? QStringList{QStringLiteral("log")} : QStringList{};
+        const QStringList project = log + QStringList{QStringLiteral(MODULE_LIBRARY)};
+        const QStringList floor = log + QStringList{QStringLiteral(MINIMAL_LIBRARY)};
+        runner.addTimedPair(
+            "process", hasLog ? "host has its log" : "host without log",
+            [=](benchmark::State& state) { startProcess(state, project); },
+            [=](benchmark::State& state) { startProcess(state, floor); });
+    }
 }

@@ -46,6 +46,8 @@ private:
     std::map<std::string, std::vector<double>> m_times;
 };
 
+constexpr int growthRepetitions = 9;
+
 double at(const std::vector<double>& sorted, double share)
 {
     return sorted[static_cast<size_t>(std::lround(share * double(sorted.size() - 1)))];
@@ -96,9 +98,10 @@ void Runner::addPair(const char* id, const std::string& part, const Body& projec
         [=](const std::string& name) { return measurePair(name, project, floor, false); });
 }
 
-void Runner::addTimedPair(const char* id, const Body& project, const Body& floor)
+void Runner::addTimedPair(const char* id, const std::string& part, const Body& project,
+                          const Body& floor)
 {
-    add(id, {}, [=](const std::string& name) { return measurePair(name, project, floor, true); });
+    add(id, part, [=](const std::string& name) { return measurePair(name, project, floor, true); });
 }
 
 void Runner::addGrowth(const char* id, long least, long most, const Body& body)
@@ -151,7 +154,7 @@ Result Runner::measureGrowth(const std::string& name, long least, long most, con
     for (const long size : sizes) {
         benchmark::RegisterBenchmark((name + "/project").c_str(), body)
             ->Arg(size)
-            ->Repetitions(m_effort.repetitions)
+            ->Repetitions(std::min(m_effort.repetitions, growthRepetitions))
             ->MinTime(m_effort.growthSeconds);
     }
     Collector collector;

@@ -41,7 +41,8 @@ public:
     /// Both sides do the same work per iteration.
     void addPair(const char* id, const std::string& part, const Body& project, const Body& floor);
     /// As addPair(), for sides that measure by themselves and set the time of each iteration.
-    void addTimedPair(const char* id, const Body& project, const Body& floor);
+    void addTimedPair(const char* id, const std::string& part, const Body& project,
+                      const Body& floor);
     /// `body` does work of the size state.range(0).
     void addGrowth(const char* id, long least, long most, const Body& body);
     /// Fills project, value and note.
