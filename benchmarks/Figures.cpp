@@ -7,9 +7,9 @@
 
 namespace {
 
-// What the allocator may keep for itself, which counts as held. A leak of the least block in each
-// click or send would be at least twice as much, even in a quick run.
-constexpr double allocatorCaches = 16384;
+// What allocator and platform may keep for themselves, which counts as held. A leak of the least
+// block in each click or send would be several times as much, even in a quick run.
+constexpr double allocatorCaches = 65536;
 
 }  // namespace
 

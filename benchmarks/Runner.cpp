@@ -110,12 +110,11 @@ void Runner::addGrowth(const char* id, long least, long most, const Body& body)
         [=](const std::string& name) { return measureGrowth(name, least, most, body); });
 }
 
-void Runner::addCheck(const char* id, const std::string& part,
-                      const std::function<void(Result&)>& run)
+void Runner::addCheck(const char* id, const std::string& part, const std::function<double()>& count)
 {
     add(id, part, [=](const std::string& /*name*/) {
         Result result;
-        run(result);
+        result.value = count();
         return result;
     });
 }

@@ -21,11 +21,10 @@ struct Effort {
 struct Result {
     const Figure* figure = nullptr;
     std::string part;    ///< what of the figure; empty when it has no parts
-    double project = 0;  ///< nanoseconds, or the bytes or calls themselves
+    double project = 0;  ///< nanoseconds; of an exponent the largest size's time
     double floor = 0;    ///< nanoseconds; of an exponent the least size's time
     double value = 0;    ///< what is compared with the target
     double spread = 0;   ///< of a ratio: half the middle half of the repetitions, over the median
-    std::string note;
     bool holds() const { return value <= figure->target; }
 };
 
@@ -45,8 +44,8 @@ public:
                       const Body& floor);
     /// `body` does work of the size state.range(0).
     void addGrowth(const char* id, long least, long most, const Body& body);
-    /// Fills project, value and note.
-    void addCheck(const char* id, const std::string& part, const std::function<void(Result&)>& run);
+    /// `count` returns the bytes or calls; it runs once.
+    void addCheck(const char* id, const std::string& part, const std::function<double()>& count);
 
     /// Runs everything wanted, and tells the progress on stderr.
     std::vector<Result> run();

@@ -122,6 +122,10 @@ int main(int argc, char** argv)
         add(runner);
     }
     const std::vector<Result> results = runner.run();
+    if (results.empty()) {
+        std::fprintf(stderr, "no figure's id contains \"%s\"\n", effort.only.c_str());
+        return EXIT_FAILURE;
+    }
     std::fputs(qUtf8Printable(resultTable(results)), stdout);
     if (!jsonFile.isEmpty() && !writeJson(results, effort, jsonFile)) {
         return EXIT_FAILURE;
