@@ -16,7 +16,7 @@ void startProcess(benchmark::State& state, const QStringList& arguments)
         bool isNumber = false;
         const bool ended = process.waitForFinished();
         const double nanoseconds = process.readAllStandardOutput().trimmed().toDouble(&isNumber);
-        if (!ended || !isNumber) {
+        if (!ended || process.exitCode() != 0 || !isNumber) {
             state.SkipWithError(process.readAllStandardError() + process.errorString().toUtf8());
             return;
         }
