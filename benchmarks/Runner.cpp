@@ -159,6 +159,7 @@ Result Runner::measureGrowth(const std::string& name, long least, long most, con
     Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector, '^' + name + "/project");
     std::vector<std::pair<double, double>> points;
+    points.reserve(sizes.size());
     for (const long size : sizes) {
         points.emplace_back(size,
                             median(collector.times(name + "/project/" + std::to_string(size))));
