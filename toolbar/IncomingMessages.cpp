@@ -176,6 +176,11 @@ void Canvas_Tool_Strip::set_symbolLE_text(const PluginMetaData& message)
 void Canvas_Tool_Strip::send_AttributePoint_Info(const PluginMetaData& message)
 {
     if (const auto* const attributes = passedObject<std::map<std::string, std::string>>(message)) {
-        Q_EMIT send_Attribute_Info({attributes->begin(), attributes->end()});
+        std::vector<std::pair<std::string, std::string>> list;
+        list.reserve(attributes->size());  // else the map is walked once only to be counted
+        for (const auto& attribute : *attributes) {
+            list.emplace_back(attribute);
+        }
+        Q_EMIT send_Attribute_Info(std::move(list));
     }
 }
