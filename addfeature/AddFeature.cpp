@@ -258,10 +258,12 @@ void AddFeature::getChangeCurrentTool()
     m_closing = false;
     const FeatureType type = featureType();
     const bool hasSymbol = type != FeatureType::Surface && type != FeatureType::Text;
-    if (hasSymbol && !m_symbol->isSpecial(m_symbol->text()) &&
-        !m_checks.symbolSizes(m_symbol->text())) {
-        m_symbol->clear();
-        return;
+    if (hasSymbol) {
+        const QString symbol = m_symbol->text();
+        if (!m_symbol->isSpecial(symbol) && !m_checks.symbolSizes(symbol)) {
+            m_symbol->clear();
+            return;
+        }
     }
     m_canvas.sendRecord(m_record.map());
 }

@@ -14,6 +14,8 @@
 #include "addfeature/pages/SurfacePage.h"
 #include "addfeature/pages/TextPage.h"
 
+#include <utility>
+
 void AddFeature::receive_text(QString symbolName)
 {
     m_symbol->chosen(symbolName);
@@ -21,7 +23,7 @@ void AddFeature::receive_text(QString symbolName)
 
 void AddFeature::forward_Attribute_Info(std::vector<std::pair<std::string, std::string>> att)
 {
-    Q_EMIT send_attributeinfo_list(att);
+    Q_EMIT send_attributeinfo_list(std::move(att));
 }
 
 void AddFeature::refresh_symbolselection_user_list()
@@ -301,7 +303,7 @@ void AddFeature::reset_attribute_color()
 
 void AddFeature::get_attribute_list(std::vector<std::pair<std::string, std::string>> attr_list)
 {
-    m_attributes->setList(attr_list);
+    m_attributes->setList(std::move(attr_list));
 }
 
 void AddFeature::on_m_pSelectFromEditorPB_clicked()

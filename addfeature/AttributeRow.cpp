@@ -10,6 +10,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include <utility>
+
 AttributeRow::AttributeRow(FeatureRecord& record, const CanvasLink& canvas, QWidget* dialog)
     : QWidget(dialog),
       m_record(record),
@@ -108,12 +110,16 @@ void AttributeRow::resetColor()
     m_pValuesPB->setStyleSheet(QStringLiteral("background-color:none"));
 }
 
-void AttributeRow::setList(const std::vector<std::pair<std::string, std::string>>& attributes)
+void AttributeRow::setList(std::vector<std::pair<std::string, std::string>> attributes)
 {
     if (!m_pAttributesCB->isChecked()) {
         return;
     }
-    m_attributes = {attributes.begin(), attributes.end()};
+    m_attributes.clear();
+    for (auto& [name, value] : attributes) {
+        // Names mostly come in order.
+        m_attributes.emplace_hint(m_attributes.end(), std::move(name), std::move(value));
+    }
     m_canvas.sendAttributes(m_attributes);
 }
 

@@ -6,6 +6,7 @@
 #include <QTpluginsManger4CAM.h>
 
 #include <QLoggingCategory>
+#include <QStringBuilder>
 
 #include <utility>
 
@@ -28,9 +29,13 @@ void logEntries(const QMap<QString, QVariant>& payload)
     if (!recordLog().isDebugEnabled()) {
         return;
     }
+    // Handed over as text: formatting the lines would cost more than all else that a send does.
+    const QMessageLogContext context(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC,
+                                     recordLog().categoryName());
     for (auto entry = payload.cbegin(); entry != payload.cend(); ++entry) {
-        qCDebug(recordLog, "name: %s value %s", qUtf8Printable(entry.key()),
-                qUtf8Printable(entry.value().toString()));
+        qt_message_output(QtDebugMsg, context,
+                          QLatin1String("name: ") % entry.key() % QLatin1String(" value ") %
+                              entry.value().toString());
     }
 }
 

@@ -3,7 +3,6 @@
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <new>
-#include <utility>
 
 void* GetPluginInstance(QWidget* parent)
 {
@@ -12,5 +11,5 @@ void* GetPluginInstance(QWidget* parent)
 
 void recMsgFromManager(void* instance, PluginMetaData message)
 {
-    static_cast<Canvas_Tool_Strip*>(instance)->recMsgFromManager(std::move(message));
+    static_cast<Canvas_Tool_Strip*>(instance)->handleMessage(message);
 }

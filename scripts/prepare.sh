@@ -27,13 +27,24 @@ need_packages() {
     rm -f "$log"
 }
 
+# is_configured PRESET TARGET...: whether the build knows these targets; what needs a package that
+# was not installed when it was configured is not among them.
+is_configured() {
+    local rules=build/$1/build.ninja target
+    shift
+    [ -f "$rules" ] || return 1
+    for target in "$@"; do
+        grep -q "^build $target:" "$rules" || return 1
+    done
+}
+
 # build PRESET TARGET...: configures once, then builds what changed.
 build() {
     local preset=$1 options=() target targets=() log
     shift
     [ -n "${CI:-}" ] && options+=(-DCTS_WERROR=ON)
     log=$(mktemp)
-    if [ ! -f "build/$preset/build.ninja" ] || [ -n "${CI:-}" ]; then
+    if [ -n "${CI:-}" ] || ! is_configured "$preset" "$@"; then
         cmake --preset "$preset" "${options[@]}" >"$log" 2>&1 || {
             cat "$log" >&2
             exit 1

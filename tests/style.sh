@@ -2,7 +2,7 @@
 # Every source file is formatted as .clang-format says, and none grows beyond 500 lines.
 set -u
 cd "$1" || exit 1
-mapfile -t files < <(find addfeature dimensions host plugin Resources tests toolbar workbench \
+mapfile -t files < <(find addfeature benchmarks dimensions host plugin Resources tests toolbar workbench \
     -name '*.cpp' -o -name '*.h')
 clang-format --dry-run -Werror "${files[@]}" || exit 1
 awk 'FNR == 501 { print FILENAME ": more than 500 lines"; bad = 1 } END { exit bad }' "${files[@]}"

@@ -39,6 +39,9 @@ public:
     /// Takes a message of a sibling module; an unknown code does nothing.
     void recMsgFromManager(PluginMetaData message);
 
+    /// The same, for a caller that has a copy of its own: the exported entry point.
+    void handleMessage(const PluginMetaData& message);
+
     /// Sets every button's checked state to `checked`, but `except`, which is checked. Null: none
     /// is excepted.
     void SetAllButtonchecked(bool checked, QToolButton* except);
@@ -117,13 +120,14 @@ private:
     void createAddFeatureDialog();
     void createMeasurePopup();
 
-    QToolButton* button(Tool tool) const;  // null when the parent widget took it along
+    // Null when the parent widget took it along.
+    QToolButton* button(Tool tool) const { return m_buttons[static_cast<int>(tool)]; }
     void check(Tool tool);
     void setStyleSheet(Tool tool, const QString& styleSheet);
     void activate(Tool tool, qint64 extra = 0);
     void activateVariant(Tool tool, const Variant& variant);
     void send(int code, qint64 extra = 0);
-    void send(PluginMetaData message, int code, qint64 extra = 0);
+    void sendAs(const QString& sender, const QString& receiver, int code, qint64 extra = 0);
     QMenu* createMenu(Tool owner, const char* objectName, std::initializer_list<MenuEntry> entries);
 
     // Incoming messages

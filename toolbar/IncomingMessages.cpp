@@ -5,16 +5,17 @@
 
 #include <QToolButton>
 
-#include <algorithm>
-#include <iterator>
+#include <cstddef>
+#include <cstdint>
 
 namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
-std::string payloadText(const PluginMetaData& message, const char* key)
+std::string payloadText(const PluginMetaData& message, const QString& key)
 {
-    return message.payload.value(QLatin1String(key)).toString().toStdString();
+    const auto found = message.payload.constFind(key);
+    return found == message.payload.constEnd() ? std::string() : found->toString().toStdString();
 }
 
 /// The object whose address the extra word holds; null for a message without one.
@@ -23,6 +24,47 @@ const T* passedObject(const PluginMetaData& message)
 {
     return reinterpret_cast<const T*>(static_cast<quintptr>(message.extra));
 }
+
+/// Where the rows of a table of codes stand, for a look-up in one step: the codes are multiplied by
+/// a number that lets no two of them fall into one slot.
+template <size_t Count>
+class CodeIndex {
+public:
+    /// The number is looked for at compile time.
+    template <class Row>
+    constexpr explicit CodeIndex(const Row (&rows)[Count])
+    {
+        while (!fill(rows)) {
+            m_factor += 2;
+        }
+    }
+
+    /// The one row that may be that of `code`.
+    constexpr size_t candidate(int code) const { return m_rows[slot(code)]; }
+
+private:
+    static constexpr int bits = 7;
+
+    constexpr size_t slot(int code) const { return (uint32_t(code) * m_factor) >> (32 - bits); }
+
+    template <class Row>
+    constexpr bool fill(const Row (&rows)[Count])
+    {
+        bool taken[size_t(1) << bits] = {};
+        for (size_t row = 0; row < Count; ++row) {
+            const size_t at = slot(rows[row].code);
+            if (taken[at]) {
+                return false;
+            }
+            taken[at] = true;
+            m_rows[at] = uint8_t(row);
+        }
+        return true;
+    }
+
+    uint32_t m_factor = 0x9E3779B1;  // spreads well, and is odd
+    uint8_t m_rows[size_t(1) << bits] = {};
+};
 
 }  // namespace
 
@@ -39,7 +81,6 @@ struct Canvas_Tool_Strip::Incoming {
 
 const Canvas_Tool_Strip::Incoming* Canvas_Tool_Strip::Incoming::find(int code)
 {
-    // In ascending order of the codes, for the look-up.
     // clang-format off
     static constexpr Incoming rows[] = {
         {Accepted::ReleaseAll, [](Strip& strip, Message) { strip.SetAllButtonchecked(false, nullptr); }},
@@ -67,13 +108,17 @@ const Canvas_Tool_Strip::Incoming* Canvas_Tool_Strip::Incoming::find(int code)
         {Accepted::MoveFeature, [](Strip& strip, Message) { strip.On_MoveFeature_Clicked(); }},
     };
     // clang-format on
-    const auto* const found =
-        std::lower_bound(std::begin(rows), std::end(rows), code,
-                         [](const Incoming& row, int wanted) { return row.code < wanted; });
-    return found != std::end(rows) && found->code == code ? found : nullptr;
+    static constexpr CodeIndex index(rows);
+    const Incoming& row = rows[index.candidate(code)];
+    return row.code == code ? &row : nullptr;
 }
 
 void Canvas_Tool_Strip::recMsgFromManager(PluginMetaData message)
+{
+    handleMessage(message);
+}
+
+void Canvas_Tool_Strip::handleMessage(const PluginMetaData& message)
 {
     if (const Incoming* const incoming = Incoming::find(message.code)) {
         incoming->act(*this, message);
@@ -101,14 +146,14 @@ void Canvas_Tool_Strip::showAddFeatureActive()
 
 void Canvas_Tool_Strip::setJobAndStep(const PluginMetaData& message)
 {
-    m_job = payloadText(message, "JobName");
-    m_step = payloadText(message, "Step");
+    m_job = payloadText(message, QStringLiteral("JobName"));
+    m_step = payloadText(message, QStringLiteral("Step"));
 }
 
 void Canvas_Tool_Strip::update_job_info(const PluginMetaData& message)
 {
-    m_job = payloadText(message, "JobName");
-    m_step = payloadText(message, "StepName");
+    m_job = payloadText(message, QStringLiteral("JobName"));
+    m_step = payloadText(message, QStringLiteral("StepName"));
     if (!m_job.empty() && !m_step.empty()) {
         Q_EMIT send_job_info(m_job, m_step);
     }
@@ -131,6 +176,11 @@ void Canvas_Tool_Strip::set_symbolLE_text(const PluginMetaData& message)
 void Canvas_Tool_Strip::send_AttributePoint_Info(const PluginMetaData& message)
 {
     if (const auto* const attributes = passedObject<std::map<std::string, std::string>>(message)) {
-        Q_EMIT send_Attribute_Info({attributes->begin(), attributes->end()});
+        std::vector<std::pair<std::string, std::string>> list;
+        list.reserve(attributes->size());  // else the map is walked once only to be counted
+        for (const auto& attribute : *attributes) {
+            list.emplace_back(attribute);
+        }
+        Q_EMIT send_Attribute_Info(std::move(list));
     }
 }

@@ -14,11 +14,6 @@
 
 namespace Sent = MessageCodes::Sent;
 
-QToolButton* Canvas_Tool_Strip::button(Tool tool) const
-{
-    return m_buttons[static_cast<int>(tool)];
-}
-
 void Canvas_Tool_Strip::SetAllButtonchecked(bool checked, QToolButton* except)
 {
     for (QToolButton* const tool : std::as_const(m_buttons)) {
@@ -48,8 +43,10 @@ bool Canvas_Tool_Strip::isToolButtonChecked(int index) const
     return isKnown && m_buttons[index]->isChecked();
 }
 
-void Canvas_Tool_Strip::send(PluginMetaData message, int code, qint64 extra)
+void Canvas_Tool_Strip::sendAs(const QString& sender, const QString& receiver, int code,
+                               qint64 extra)
 {
+    PluginMetaData message(sender, receiver);
     message.code = code;
     message.extra = extra;
     QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, std::move(message));
@@ -57,7 +54,7 @@ void Canvas_Tool_Strip::send(PluginMetaData message, int code, qint64 extra)
 
 void Canvas_Tool_Strip::send(int code, qint64 extra)
 {
-    send({ModuleNames::toolStrip, ModuleNames::viewer}, code, extra);
+    sendAs(ModuleNames::toolStrip, ModuleNames::viewer, code, extra);
 }
 
 void Canvas_Tool_Strip::activate(Tool tool, qint64 extra)
@@ -81,7 +78,7 @@ void Canvas_Tool_Strip::On_OpenPopView_Clicked()
 void Canvas_Tool_Strip::On_FeatHighLight_Clicked()
 {
     SetAllButtonchecked(false, button(Tool::FeatureHighLight));
-    send({ModuleNames::bareToolStrip, ModuleNames::viewer}, Sent::FeatureHighLight);
+    sendAs(ModuleNames::bareToolStrip, ModuleNames::viewer, Sent::FeatureHighLight);
 }
 
 void Canvas_Tool_Strip::On_DeleteFeat_Clicked()
@@ -226,7 +223,7 @@ void Canvas_Tool_Strip::On_SelectPolyline_Clicked(int datatype)
 
 void Canvas_Tool_Strip::On_AddFeature_Clicked()
 {
-    send({ModuleNames::toolStrip, ModuleNames::jobTree}, Sent::AddFeatureStarted);
+    sendAs(ModuleNames::toolStrip, ModuleNames::jobTree, Sent::AddFeatureStarted);
     SetAllButtonchecked(false, button(Tool::AddFeature));
     if (m_addFeature) {
         Q_EMIT reselect_Add_feature();

@@ -3,6 +3,7 @@
 #include "plugin/MessageCodes.h"
 
 #include <QObject>
+#include <QStringBuilder>
 
 namespace ToolTable {
 namespace {
@@ -92,11 +93,6 @@ const std::array<Row, toolCount> theRows = {{
 }};
 // clang-format on
 
-QString picture(const char* file)
-{
-    return QStringLiteral(":/Canvas_Tool_Strip/Resources/") + QLatin1String(file);
-}
-
 }  // namespace
 
 const std::array<Row, toolCount>& rows()
@@ -111,8 +107,12 @@ const Row& row(Tool tool)
 
 QString styleSheet(const char* image, const char* checkedImage, const char* property)
 {
-    return QStringLiteral("QToolButton{%1:url(%2);}QToolButton::checked{%1:url(%3);}")
-        .arg(QLatin1String(property), picture(image), picture(checkedImage));
+    // Made in one piece: 26 of them stand in every start.
+    const QLatin1String url(":url(:/Canvas_Tool_Strip/Resources/");
+    const QLatin1String end(");}");
+    return QLatin1String("QToolButton{") % QLatin1String(property) % url % QLatin1String(image) %
+           end % QLatin1String("QToolButton::checked{") % QLatin1String(property) % url %
+           QLatin1String(checkedImage) % end;
 }
 
 }  // namespace ToolTable

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <PluginMetaData.h>
+
+#include <utility>
+
+/// Who receives the messages of a floor, by value and through a virtual call.
+class Receiver {
+public:
+    virtual ~Receiver() = default;
+    virtual void receive(PluginMetaData message) = 0;
+};
+
+/// A receiver that keeps the last message, as a canvas does, or drops it.
+class Canvas : public Receiver {
+public:
+    explicit Canvas(bool keeps = true) : m_keeps(keeps) {}
+    void receive(PluginMetaData message) override { take(message); }
+
+    /// What becomes of a message that has arrived, by either way.
+    void take(PluginMetaData& message)
+    {
+        ++m_count;
+        if (m_keeps) {
+            m_last = std::move(message);
+        }
+    }
+
+    long count() const { return m_count; }
+    const PluginMetaData& last() const { return m_last; }
+
+private:
+    bool m_keeps;
+    long m_count = 0;
+    PluginMetaData m_last{{}, {}};
+};
+
+/// While it lives, the plug-in manager that the module is linked with gives every message, which it
+/// gets by value, straight to `canvas`. The manager of the stand-ins looks instances up and shows
+/// messages to an observer, which is no work of the module's.
+class Connected {
+public:
+    explicit Connected(Canvas& canvas);
+    ~Connected();
+    Connected(const Connected&) = delete;
+    Connected& operator=(const Connected&) = delete;
+};

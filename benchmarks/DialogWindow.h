@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Canvas.h"
+#include "Panel.h"
+
+class AddFeature;
+class Canvas_Tool_Strip;
+
+/// A job with two special symbols becomes the only one; the unit is mil.
+void openBenchmarkJob(int specialSymbols = 2);
+
+/// A shown strip with Add Feature as its tool, and the shown dialog with the symbol r10. Messages
+/// go to the canvas.
+struct DialogWindow {
+    explicit DialogWindow(bool canvasKeeps = true);
+
+    Canvas canvas;
+    Connected connected;
+    Panel panel;
+    Canvas_Tool_Strip* strip;
+    AddFeature* dialog;
+};

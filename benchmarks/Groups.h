@@ -1,0 +1,15 @@
+#pragma once
+
+class Runner;
+
+// The figures by group; each adds its own to the runner.
+void addStripFigures(Runner& runner);
+void addClickFigures(Runner& runner);
+void addIncomingFigures(Runner& runner);
+void addRecordFigures(Runner& runner);
+void addDialogFigures(Runner& runner);
+void addKeyFigures(Runner& runner);
+void addProcessFigures(Runner& runner);
+void addGrowthFigures(Runner& runner);
+void addMemoryFigures(Runner& runner);
+void addHostCallFigures(Runner& runner);

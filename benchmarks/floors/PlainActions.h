@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QVector>
+
+class QAction;
+class Receiver;
+
+/// The usual way to have a tool bar: 26 actions in an exclusive group. Triggering one sends its
+/// code.
+class PlainActions : public QMainWindow {
+public:
+    explicit PlainActions(Receiver& receiver);
+    QAction* action(int index) const { return m_actions[index]; }
+
+private:
+    QVector<QAction*> m_actions;
+};

@@ -1,0 +1,41 @@
+#include "PlainRecord.h"
+
+#include <cam_api.h>
+#include <ui_api.h>
+
+#include <QDebug>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr int record = 50;
+const QString toolStrip = QStringLiteral("Canvas_Tool_Strip.dll");
+const QString viewer = QStringLiteral("Canvas_Viewer.dll");
+
+}  // namespace
+
+bool PlainRecord::isSpecial(const QString& symbol) const
+{
+    std::vector<std::string> names;
+    ZENTRA::API::get_special_symbol_names(m_job, names);
+    return std::find(names.begin(), names.end(), symbol.toStdString()) != names.end();
+}
+
+void PlainRecord::send(const QString& symbol, bool logs)
+{
+    if (!isSpecial(symbol) && !ZENTRA::UIAPI::isSymbolValueLegal(symbol, 0, 50000, m_context)) {
+        return;
+    }
+    if (logs) {
+        for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
+            qDebug().noquote() << "name:" << entry.key() << "value" << entry.value().toString();
+        }
+    }
+    PluginMetaData message(toolStrip, viewer);
+    message.code = record;
+    message.payload = m_entries;
+    m_receiver.receive(std::move(message));
+}

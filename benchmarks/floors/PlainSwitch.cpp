@@ -1,0 +1,161 @@
+#include "PlainSwitch.h"
+
+#include "PlainTools.h"
+#include "plugin/MessageCodes.h"
+
+#include <common_widgets.h>
+#include <ui_api.h>
+
+#include <QLineEdit>
+#include <QToolButton>
+
+namespace Accepted = MessageCodes::Accepted;
+namespace Sent = MessageCodes::Sent;
+
+namespace {
+
+enum Index { Zoom, Measure = 2, Add = 4, Delete, Move, Feature = 20, Rectangle, Polygon, Net };
+
+template <class T>
+const T* passed(const PluginMetaData& message)
+{
+    return reinterpret_cast<const T*>(static_cast<quintptr>(message.extra));
+}
+
+std::string text(const PluginMetaData& message, const QString& key)
+{
+    return message.payload.value(key).toString().toStdString();
+}
+
+const QString jobKey = QStringLiteral("JobName");
+const QString stepKey = QStringLiteral("Step");
+const QString stepNameKey = QStringLiteral("StepName");
+
+}  // namespace
+
+PlainSwitch::PlainSwitch(QWidget* panel, Receiver& receiver)
+    : m_panel(panel), m_receiver(receiver), m_strip(new PlainStrip(panel, receiver))
+{
+}
+
+void PlainSwitch::setDialog(QWidget* dialog, QLineEdit* symbol, PlainRecord* record)
+{
+    m_dialog = dialog;
+    m_symbol = symbol;
+    m_record = record;
+}
+
+void PlainSwitch::receive(void* instance, PluginMetaData message)
+{
+    static_cast<PlainSwitch*>(instance)->handle(message);
+}
+
+void PlainSwitch::activate(int index)
+{
+    m_strip->checkOnly(m_strip->buttons()[index]);
+    m_strip->send(plainTools()[static_cast<size_t>(index)].code);
+}
+
+void PlainSwitch::selectByNet(int code, int sheet)
+{
+    m_strip->checkOnly(m_strip->buttons()[Net]);
+    m_netMode = code;
+    m_strip->buttons()[Net]->setStyleSheet(plainNetSheets()[static_cast<size_t>(sheet)]);
+    m_strip->send(code);
+}
+
+void PlainSwitch::measure()
+{
+    if (!m_popup) {
+        m_popup = new Grc_Tbe_measurepopup(nullptr, m_panel);
+    }
+    m_popup->raise();
+    m_popup->show();
+    m_strip->checkOnly(m_strip->buttons()[Measure]);
+    m_popup->onMeasureButtonClicked();
+}
+
+void PlainSwitch::addFeature()
+{
+    static const QString toolStrip = QStringLiteral("Canvas_Tool_Strip.dll");
+    static const QString jobTree = QStringLiteral("Canvas_JobTree.dll");
+    PluginMetaData message(toolStrip, jobTree);
+    message.code = Sent::AddFeatureStarted;
+    m_receiver.receive(std::move(message));
+    m_strip->checkOnly(m_strip->buttons()[Add]);
+    m_record->send(m_symbol->text());
+    m_dialog->raise();
+    m_dialog->show();
+}
+
+void PlainSwitch::handle(const PluginMetaData& message)
+{
+    switch (message.code) {
+        case Accepted::ReleaseAll:
+            return m_strip->checkOnly(nullptr);
+        case Accepted::AreaZoom:
+            return activate(Zoom);
+        case Accepted::FeatureSelection:
+            return activate(Feature);
+        case Accepted::RectangleSelection:
+            return activate(Rectangle);
+        case Accepted::PolygonSelection:
+            return activate(Polygon);
+        case Accepted::AddFeatureActive:
+            if (!m_strip->buttons()[Add]->isChecked()) {
+                m_strip->checkOnly(m_strip->buttons()[Add]);
+            }
+            return;
+        case Accepted::SelectPolyline:
+            return selectByNet(message.code, 0);
+        case Accepted::SelectLayerNet:
+            return selectByNet(message.code, 1);
+        case Accepted::SelectBoardNet:
+            return selectByNet(message.code, 2);
+        case Accepted::CheckAndMeasure:
+        case Accepted::Measure:
+            return measure();
+        case Accepted::AddFeature:
+            return addFeature();
+        case Accepted::DeleteFeature:
+            return activate(Delete);
+        case Accepted::MoveFeature:
+            return activate(Move);
+        case Accepted::CloseDialogs:
+            return m_strip->send(Sent::DialogsClosed);
+        default:
+            handleData(message);
+    }
+}
+
+void PlainSwitch::handleData(const PluginMetaData& message)
+{
+    switch (message.code) {
+        case Accepted::JobAndStep:
+            m_job = text(message, jobKey);
+            m_step = text(message, stepKey);
+            return;
+        case Accepted::AttributesPicked: {
+            const auto& picked = *passed<std::map<std::string, std::string>>(message);
+            return attributesPicked({picked.begin(), picked.end()});
+        }
+        case Accepted::SymbolsPicked:
+            return symbolsPicked(*passed<std::map<int, std::string>>(message));
+        case Accepted::UserSymbolsChanged:
+            return userSymbolsChanged();
+        case Accepted::JobName:
+            m_job = *passed<std::string>(message);
+            return;
+        case Accepted::UnitChanged:
+            return unitChanged(ZENTRA::UIAPI::getUnitString(m_panel) == QLatin1String("MM"));
+        case Accepted::LanguageChanged:
+            Q_EMIT languageChanged();
+            return m_strip->retranslate();
+        case Accepted::JobOpened:
+            m_job = text(message, jobKey);
+            m_step = text(message, stepNameKey);
+            return jobOpened(m_job, m_step);
+        default:
+            return;
+    }
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+/// What a plain button needs to look and act like a tool; everything is put together beforehand.
+struct PlainTool {
+    QString name;
+    const char* tip;
+    const char* note;  ///< disambiguation of the tip; null: none
+    QString sheet;
+    bool enabled;
+    int code;
+};
+
+/// The 26 tools, in grid order.
+const std::array<PlainTool, 26>& plainTools();
+
+/// The sheets of Select By Net: polyline, layer net, board net.
+const std::array<QString, 3>& plainNetSheets();

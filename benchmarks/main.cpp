@@ -1,0 +1,138 @@
+// Measures every figure beside its floor, and prints one table.
+
+#include "Groups.h"
+#include "Runner.h"
+#include "Table.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLoggingCategory>
+
+#include <glog/logging.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+
+#include <malloc.h>
+
+namespace {
+
+/// Nothing is logged while figures are measured, but where a figure says so. The windowless
+/// platform would tell at each raise() that it does not support it.
+void silenceLogs(char* program)
+{
+    FLAGS_stderrthreshold = google::NUM_SEVERITIES;
+    for (google::LogSeverity severity = 0; severity < google::NUM_SEVERITIES; ++severity) {
+        google::SetLogDestination(severity, "");
+    }
+    google::InitGoogleLogging(program);
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("canvastoolstrip.*=false\ndefault.warning=false"));
+}
+
+/// Memory that was got once is kept, as in a host that runs for long: what the kernel does to hand
+/// out empty pages anew is no work of either side.
+void keepMemory()
+{
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    mallopt(M_MMAP_MAX, 0);
+}
+
+void startBenchmarks(char* program)
+{
+    // The two sides of a pair take turns in random order.
+    static char interleaving[] = "--benchmark_enable_random_interleaving=true";
+    char* arguments[] = {program, interleaving, nullptr};
+    int count = 2;
+    benchmark::Initialize(&count, arguments);
+}
+
+/// Ends the program where an option is not understood.
+Effort readOptions(const QApplication& application, QString* jsonFile)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Measures the module beside the least code that does the same work."));
+    parser.addHelpOption();
+    const QCommandLineOption json(QStringLiteral("json"),
+                                  QStringLiteral("Write the figures to FILE as well."),
+                                  QStringLiteral("FILE"));
+    const QCommandLineOption only(QStringLiteral("only"),
+                                  QStringLiteral("Measure the figures whose id contains TEXT."),
+                                  QStringLiteral("TEXT"));
+    const QCommandLineOption repetitions(QStringLiteral("repetitions"),
+                                         QStringLiteral("Measure each side N times."),
+                                         QStringLiteral("N"), QStringLiteral("15"));
+    const QCommandLineOption quick(
+        QStringLiteral("quick"),
+        QStringLiteral("Measure once and shortly, to see that everything works."));
+    parser.addOptions({json, only, repetitions, quick});
+    parser.process(application);
+
+    Effort effort;
+    effort.only = parser.value(only).toStdString();
+    effort.repetitions = std::max(1, parser.value(repetitions).toInt());
+    if (parser.isSet(quick)) {
+        effort.quick = true;
+        effort.repetitions = 1;
+        effort.seconds = effort.growthSeconds = 1e-6;
+    }
+    *jsonFile = parser.value(json);
+    return effort;
+}
+
+/// What has no time in it holds always, however busy the machine.
+bool untimedHold(const std::vector<Result>& results)
+{
+    return std::all_of(results.begin(), results.end(), [](const Result& result) {
+        const Kind kind = result.figure->kind;
+        return result.holds() || kind == Kind::Ratio || kind == Kind::Exponent;
+    });
+}
+
+bool complete(const std::vector<Result>& results)
+{
+    return std::all_of(figures().begin(), figures().end(), [&](const Figure& wanted) {
+        return std::any_of(results.begin(), results.end(),
+                           [&](const Result& result) { return result.figure == &wanted; });
+    });
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    keepMemory();
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QString jsonFile;
+    const Effort effort = readOptions(application, &jsonFile);
+    silenceLogs(argv[0]);
+    startBenchmarks(argv[0]);
+
+    Runner runner(effort);
+    for (const auto add : {addStripFigures, addClickFigures, addIncomingFigures, addRecordFigures,
+                           addDialogFigures, addKeyFigures, addProcessFigures, addGrowthFigures,
+                           addMemoryFigures, addHostCallFigures}) {
+        add(runner);
+    }
+    const std::vector<Result> results = runner.run();
+    if (results.empty()) {
+        std::fprintf(stderr, "no figure's id contains \"%s\"\n", effort.only.c_str());
+        return EXIT_FAILURE;
+    }
+    std::fputs(qUtf8Printable(resultTable(results)), stdout);
+    if (!jsonFile.isEmpty() && !writeJson(results, effort, jsonFile)) {
+        return EXIT_FAILURE;
+    }
+    if (effort.only.empty() && !complete(results)) {
+        std::fputs("a figure is missing\n", stderr);
+        return EXIT_FAILURE;
+    }
+    return untimedHold(results) ? EXIT_SUCCESS : EXIT_FAILURE;
+}
