@@ -64,7 +64,7 @@ Effort readOptions(const QApplication& application, QString* jsonFile)
                                   QStringLiteral("TEXT"));
     const QCommandLineOption repetitions(QStringLiteral("repetitions"),
                                          QStringLiteral("Measure each side N times."),
-                                         QStringLiteral("N"), QStringLiteral("15"));
+                                         QStringLiteral("N"), QString::number(Effort().repetitions));
     const QCommandLineOption quick(
         QStringLiteral("quick"),
         QStringLiteral("Measure once and shortly, to see that everything works."));
