@@ -11,8 +11,8 @@
 /// How long and how often is measured.
 struct Effort {
     bool quick = false;            ///< once, with minimal time: shows that everything works
-    int repetitions = 15;          ///< of each side of a pair
-    double seconds = 0.05;         ///< of each repetition of a side
+    int repetitions = 31;          ///< of each side of a pair
+    double seconds = 0.03;         ///< of each repetition of a side
     double growthSeconds = 0.005;  ///< of each repetition of a size
     std::string only;              ///< part of the ids that are wanted; empty: all
 };

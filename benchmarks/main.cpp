@@ -62,9 +62,9 @@ Effort readOptions(const QApplication& application, QString* jsonFile)
     const QCommandLineOption only(QStringLiteral("only"),
                                   QStringLiteral("Measure the figures whose id contains TEXT."),
                                   QStringLiteral("TEXT"));
-    const QCommandLineOption repetitions(QStringLiteral("repetitions"),
-                                         QStringLiteral("Measure each side N times."),
-                                         QStringLiteral("N"), QStringLiteral("15"));
+    const QCommandLineOption repetitions(
+        QStringLiteral("repetitions"), QStringLiteral("Measure each side N times."),
+        QStringLiteral("N"), QString::number(Effort().repetitions));
     const QCommandLineOption quick(
         QStringLiteral("quick"),
         QStringLiteral("Measure once and shortly, to see that everything works."));
