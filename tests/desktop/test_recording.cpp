@@ -19,6 +19,12 @@
 
 #include <memory>
 
+namespace {
+
+constexpr int settleTime = 250;  // milliseconds after which a menu or box takes a click
+
+}  // namespace
+
 class TestRecording : public QObject {
     Q_OBJECT
 
@@ -71,17 +77,23 @@ class TestRecording : public QObject {
 
     QWidget& the(const char* name) const { return findNamed<QWidget>(*m_window, name); }
 
-    /// Calls `act` as soon as there is a popup or a box of that kind.
+    /// Calls `act` when there is a popup or a box of that kind, and again should it stay open: what
+    /// comes too soon after its opening is taken for a part of that.
     template <class T>
-    void whenOpen(const std::function<void(T*)>& act)
+    void whenOpen(const std::function<void(T*)>& act, const QPointer<T>& seen = {})
     {
-        QTimer::singleShot(60, this, [=] {
+        QTimer::singleShot(settleTime, this, [=] {
             auto* window = qobject_cast<T*>(QApplication::activePopupWidget());
             window = window ? window : qobject_cast<T*>(QApplication::activeModalWidget());
-            if (window && window->isVisible()) {
-                act(window);
-            } else {
+            const bool open = window && window->isVisible();
+            if (!open && !seen) {
                 whenOpen(act);
+            } else if (open && (!seen || seen == window)) {
+                const QPointer<T> first = window;
+                act(window);
+                if (first) {
+                    whenOpen(act, first);
+                }
             }
         });
     }
