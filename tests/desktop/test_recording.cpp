@@ -12,6 +12,7 @@
 #include <CamApiStandIn.h>
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QMenu>
 #include <QMessageBox>
@@ -65,11 +66,15 @@ class TestRecording : public QObject {
                     entries.append(
                         QString("%1:%2=%3").arg(entry.key(), entry->typeName(), entry->toString()));
                 }
-                lines.append(QString("%1 %2 %3")
-                                 .arg(message.code)
-                                 .arg(message.hasAddress() ? message.extraText()
-                                                           : QString::number(message.extra),
-                                      entries.join(' ')));
+                const QString line = QString("%1 %2 %3")
+                                         .arg(message.code)
+                                         .arg(message.hasAddress() ? message.extraText()
+                                                                   : QString::number(message.extra),
+                                              entries.join(' '));
+                // A window manager that moves the focus makes a field report its entry once more.
+                if (lines.isEmpty() || lines.last() != line) {
+                    lines.append(line);
+                }
             }
         }
         return lines;
@@ -145,6 +150,7 @@ class TestRecording : public QObject {
         Desktop::key("Tab");
         choose("m_pMirrorCMB", 0);
         Desktop::click(the("m_pAttributesCB"), 1, {8, 10});
+        QTRY_VERIFY(findNamed<QCheckBox>(*m_window, "m_pAttributesCB").isChecked());
     }
 
 private Q_SLOTS:
@@ -181,7 +187,11 @@ private Q_SLOTS:
         player.start();
         QVERIFY(QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 30000));
         QVERIFY2(failed.isEmpty(), qPrintable(failed.value(0).value(0).toString()));
-        QCOMPARE(trace(), sent);
+        QFile recorded(file);
+        QVERIFY(recorded.open(QIODevice::ReadOnly));
+        const QByteArray steps = recorded.readAll();
+        QVERIFY2(trace() == sent, steps + "\n" + sent.join('\n').toUtf8() + "\nplayed:\n" +
+                                      trace().join('\n').toUtf8());
     }
 };
 
