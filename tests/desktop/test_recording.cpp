@@ -12,12 +12,19 @@
 #include <CamApiStandIn.h>
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTemporaryDir>
 
 #include <memory>
+
+namespace {
+
+constexpr int settleTime = 250;  // milliseconds after which a menu or box takes a click
+
+}  // namespace
 
 class TestRecording : public QObject {
     Q_OBJECT
@@ -59,11 +66,15 @@ class TestRecording : public QObject {
                     entries.append(
                         QString("%1:%2=%3").arg(entry.key(), entry->typeName(), entry->toString()));
                 }
-                lines.append(QString("%1 %2 %3")
-                                 .arg(message.code)
-                                 .arg(message.hasAddress() ? message.extraText()
-                                                           : QString::number(message.extra),
-                                      entries.join(' ')));
+                const QString line = QString("%1 %2 %3")
+                                         .arg(message.code)
+                                         .arg(message.hasAddress() ? message.extraText()
+                                                                   : QString::number(message.extra),
+                                              entries.join(' '));
+                // A window manager that moves the focus makes a field report its entry once more.
+                if (lines.isEmpty() || lines.last() != line) {
+                    lines.append(line);
+                }
             }
         }
         return lines;
@@ -71,17 +82,23 @@ class TestRecording : public QObject {
 
     QWidget& the(const char* name) const { return findNamed<QWidget>(*m_window, name); }
 
-    /// Calls `act` as soon as there is a popup or a box of that kind.
+    /// Calls `act` when there is a popup or a box of that kind, and again should it stay open: what
+    /// comes too soon after its opening is taken for a part of that.
     template <class T>
-    void whenOpen(const std::function<void(T*)>& act)
+    void whenOpen(const std::function<void(T*)>& act, const QPointer<T>& seen = {})
     {
-        QTimer::singleShot(60, this, [=] {
+        QTimer::singleShot(settleTime, this, [=] {
             auto* window = qobject_cast<T*>(QApplication::activePopupWidget());
             window = window ? window : qobject_cast<T*>(QApplication::activeModalWidget());
-            if (window && window->isVisible()) {
-                act(window);
-            } else {
+            const bool open = window && window->isVisible();
+            if (!open && !seen) {
                 whenOpen(act);
+            } else if (open && (!seen || seen == window)) {
+                const QPointer<T> first = window;
+                act(window);
+                if (first) {
+                    whenOpen(act, first);
+                }
             }
         });
     }
@@ -133,6 +150,7 @@ class TestRecording : public QObject {
         Desktop::key("Tab");
         choose("m_pMirrorCMB", 0);
         Desktop::click(the("m_pAttributesCB"), 1, {8, 10});
+        QTRY_VERIFY(findNamed<QCheckBox>(*m_window, "m_pAttributesCB").isChecked());
     }
 
 private Q_SLOTS:
@@ -169,7 +187,11 @@ private Q_SLOTS:
         player.start();
         QVERIFY(QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 30000));
         QVERIFY2(failed.isEmpty(), qPrintable(failed.value(0).value(0).toString()));
-        QCOMPARE(trace(), sent);
+        QFile recorded(file);
+        QVERIFY(recorded.open(QIODevice::ReadOnly));
+        const QByteArray steps = recorded.readAll();
+        QVERIFY2(trace() == sent, steps + "\n" + sent.join('\n').toUtf8() + "\nplayed:\n" +
+                                      trace().join('\n').toUtf8());
     }
 };
 

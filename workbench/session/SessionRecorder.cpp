@@ -160,19 +160,19 @@ void SessionRecorder::readWindowEvent(QObject* watched, QEvent* event)
         QWidget* const window = widgetOf(watched);
         return window ? hitBy(window, global) : nullptr;
     };
-    const auto* const mouse = static_cast<const QMouseEvent*>(event);
+    const auto mouse = [&] { return static_cast<const QMouseEvent*>(event); };
     switch (event->type()) {
         case QEvent::MouseButtonPress:
-            press(hit(mouse->globalPos()), mouse);
+            press(hit(mouse()->globalPos()), mouse());
             break;
         case QEvent::MouseButtonDblClick:
-            doubleClick(hit(mouse->globalPos()), mouse);
+            doubleClick(hit(mouse()->globalPos()), mouse());
             break;
         case QEvent::MouseMove:
-            move(mouse);
+            move(mouse());
             break;
         case QEvent::MouseButtonRelease:
-            release(mouse);
+            release(mouse());
             break;
         case QEvent::Wheel: {
             const auto* const turned = static_cast<const QWheelEvent*>(event);
