@@ -120,8 +120,7 @@ private:
     void createAddFeatureDialog();
     void createMeasurePopup();
 
-    // Null when the parent widget took it along.
-    QToolButton* button(Tool tool) const { return m_buttons[static_cast<int>(tool)]; }
+    QToolButton* button(Tool tool) const;  // null when the parent widget took it along
     void check(Tool tool);
     void setStyleSheet(Tool tool, const QString& styleSheet);
     void activate(Tool tool, qint64 extra = 0);

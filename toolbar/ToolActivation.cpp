@@ -14,6 +14,11 @@
 
 namespace Sent = MessageCodes::Sent;
 
+QToolButton* Canvas_Tool_Strip::button(Tool tool) const
+{
+    return m_buttons[static_cast<int>(tool)];
+}
+
 void Canvas_Tool_Strip::SetAllButtonchecked(bool checked, QToolButton* except)
 {
     for (QToolButton* const tool : std::as_const(m_buttons)) {
