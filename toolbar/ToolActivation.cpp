@@ -48,13 +48,23 @@ bool Canvas_Tool_Strip::isToolButtonChecked(int index) const
     return isKnown && m_buttons[index]->isChecked();
 }
 
-void Canvas_Tool_Strip::sendAs(const QString& sender, const QString& receiver, int code,
-                               qint64 extra)
+namespace {
+
+PluginMetaData envelope(const QString& sender, const QString& receiver, int code, qint64 extra)
 {
     PluginMetaData message(sender, receiver);
     message.code = code;
     message.extra = extra;
-    QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, std::move(message));
+    return message;
+}
+
+}  // namespace
+
+void Canvas_Tool_Strip::sendAs(const QString& sender, const QString& receiver, int code,
+                               qint64 extra)
+{
+    QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent,
+                                                    envelope(sender, receiver, code, extra));
 }
 
 void Canvas_Tool_Strip::send(int code, qint64 extra)

@@ -39,7 +39,10 @@ void CanvasController::openStep(const QString& job, const QString& step)
     m_histories.setActiveStack(&m_document->history());
     m_scene.setDocument(m_document);
     // What was begun refers to features that may be others now.
-    connect(m_document, &Document::changed, this, &CanvasController::cancel);
+    connect(m_document, &Document::changed, this, [this] {
+        cancel();
+        hover(m_cursor);
+    });
     Q_EMIT documentOpened();
 }
 
@@ -72,10 +75,7 @@ void CanvasController::connectView(BoardView* view)
         }
         refresh();
     });
-    connect(view, &BoardView::left, this, [this] {
-        m_scene.setHovered(-1);
-        Q_EMIT hovered(-1);
-    });
+    connect(view, &BoardView::left, this, [this] { hover({}); });
 }
 
 void CanvasController::setTool(std::unique_ptr<CanvasTool> tool)
@@ -115,11 +115,10 @@ void CanvasController::showArea(const QRectF& area)
     }
 }
 
-void CanvasController::hover(const QPointF& point)
+void CanvasController::hover(const std::optional<QPointF>& cursor)
 {
-    const int feature = featureAt(point);
-    if (feature != m_scene.hovered()) {
-        m_scene.setHovered(feature);
-        Q_EMIT hovered(feature);
-    }
+    m_cursor = cursor;
+    const int feature = cursor ? featureAt(*cursor) : -1;
+    m_scene.setHovered(feature);
+    Q_EMIT hovered(feature);
 }

@@ -9,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 class BoardView;
 
@@ -53,7 +54,8 @@ Q_SIGNALS:
     void hovered(int feature);  ///< -1: none
 
 private:
-    void hover(const QPointF& point);
+    /// Nothing: the mouse is outside all views.
+    void hover(const std::optional<QPointF>& cursor);
 
     BoardScene m_scene;
     QUndoGroup m_histories;
@@ -61,4 +63,5 @@ private:
     Document* m_document = nullptr;
     BoardView* m_view = nullptr;
     std::unique_ptr<CanvasTool> m_tool;
+    std::optional<QPointF> m_cursor;
 };
