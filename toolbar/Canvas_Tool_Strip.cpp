@@ -39,6 +39,7 @@ Canvas_Tool_Strip::Canvas_Tool_Strip(QWidget* parent)
 {
     if (m_parent) {
         m_parent->setFocusPolicy(Qt::NoFocus);
+        connect(m_parent, &QObject::destroyed, this, &Canvas_Tool_Strip::forgetParent);
     }
     createButtons();
     connect(button(Tool::DeleteFeature), SIGNAL(customContextMenuRequested(QPoint)), this,
@@ -78,6 +79,13 @@ void Canvas_Tool_Strip::createButtons()
     if (!isEqVisible) {
         button(Tool::Eq)->hide();
     }
+}
+
+/// A host that never placed the strip deletes only the button that is the parent's own child. One
+/// that did place it deletes the strip before the buttons.
+void Canvas_Tool_Strip::forgetParent()
+{
+    m_buttons[static_cast<int>(Tool::AreaZoom)] = nullptr;
 }
 
 void Canvas_Tool_Strip::setText()

@@ -117,12 +117,11 @@ private:
     struct Variant;
 
     void createButtons();
+    void forgetParent();
     void createAddFeatureDialog();
     void createMeasurePopup();
 
-    QToolButton* button(Tool tool) const;  // null when the parent widget took it along
-    void check(Tool tool);
-    void setStyleSheet(Tool tool, const QString& styleSheet);
+    QToolButton* button(Tool tool) const;  // null for Area Zoom when the parent widget is gone
     void activate(Tool tool, qint64 extra = 0);
     void activateVariant(Tool tool, const Variant& variant);
     void send(int code, qint64 extra = 0);
@@ -143,8 +142,8 @@ private:
 
     // The parent widget may go before this object does, and takes its children with it.
     QPointer<QWidget> m_parent;
-    QList<QPointer<QToolButton>> m_buttons;  // in the order of Tool
-    QPointer<QMenu> m_deleteMenu;            // the menus are made on the first right-click
+    QList<QToolButton*> m_buttons;  // in the order of Tool; see forgetParent()
+    QPointer<QMenu> m_deleteMenu;   // the menus are made on the first right-click
     QPointer<QMenu> m_netMenu;
     QPointer<QMenu> m_markMenu;
     QPointer<AddFeature> m_addFeature;

@@ -127,13 +127,13 @@ void Canvas_Tool_Strip::handleMessage(const PluginMetaData& message)
 
 void Canvas_Tool_Strip::checkAndRun(Tool tool, void (Canvas_Tool_Strip::*handler)())
 {
-    check(tool);
+    button(tool)->setChecked(true);
     (this->*handler)();
 }
 
 void Canvas_Tool_Strip::selectByNet(const PluginMetaData& message)
 {
-    check(Tool::SelectByNet);
+    button(Tool::SelectByNet)->setChecked(true);
     On_SelectPolyline_Clicked(message.code);
 }
 

@@ -28,20 +28,6 @@ void Canvas_Tool_Strip::SetAllButtonchecked(bool checked, QToolButton* except)
     }
 }
 
-void Canvas_Tool_Strip::check(Tool tool)
-{
-    if (QToolButton* const checked = button(tool)) {
-        checked->setChecked(true);
-    }
-}
-
-void Canvas_Tool_Strip::setStyleSheet(Tool tool, const QString& styleSheet)
-{
-    if (QToolButton* const dressed = button(tool)) {
-        dressed->setStyleSheet(styleSheet);
-    }
-}
-
 bool Canvas_Tool_Strip::isToolButtonChecked(int index) const
 {
     const bool isKnown = index >= 0 && index < m_buttons.size() && m_buttons[index];
@@ -229,8 +215,9 @@ void Canvas_Tool_Strip::On_SelectPolyline_Clicked(int datatype)
     for (const NetMode& mode : netModes) {
         if (mode.code == datatype) {
             code = mode.code;
-            setStyleSheet(Tool::SelectByNet, ToolTable::styleSheet(mode.image, mode.checkedImage) +
-                                                 QLatin1String(mode.trailingStyle));
+            button(Tool::SelectByNet)
+                ->setStyleSheet(ToolTable::styleSheet(mode.image, mode.checkedImage) +
+                                QLatin1String(mode.trailingStyle));
         }
     }
     send(code);

@@ -80,7 +80,7 @@ void Canvas_Tool_Strip::on_mark_customContextMenuRequested(QPoint /*pos*/)
 
 void Canvas_Tool_Strip::activateVariant(Tool tool, const Variant& variant)
 {
-    setStyleSheet(tool, ToolTable::styleSheet(variant.image, variant.checkedImage));
+    button(tool)->setStyleSheet(ToolTable::styleSheet(variant.image, variant.checkedImage));
     activate(tool, variant.mode);
 }
 

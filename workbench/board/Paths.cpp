@@ -268,9 +268,14 @@ QPainterPath circlePath(const QPointF& centre, double radius)
 
 QPainterPath roundStroke(const QPainterPath& middle, double width)
 {
+    return roundStrokes(middle.toSubpathPolygons().toVector(), width);
+}
+
+QPainterPath roundStrokes(const QVector<QPolygonF>& strokes, double width)
+{
     QPainterPath area;
     area.setFillRule(Qt::WindingFill);
-    for (const QPolygonF& part : middle.toSubpathPolygons()) {
+    for (const QPolygonF& part : strokes) {
         if (part.size() == 1) {
             appendCapsule(area, part.first(), part.first(), width / 2);
         }

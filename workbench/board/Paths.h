@@ -33,6 +33,8 @@ QPainterPath circlePath(const QPointF& centre, double radius);
 
 /// The area that a round pen of `width` covers along `middle`; a single point gives a disc.
 QPainterPath roundStroke(const QPainterPath& middle, double width);
+/// The same of strokes, of which one of a single point is a dot: a path would drop it.
+QPainterPath roundStrokes(const QVector<QPolygonF>& strokes, double width);
 
 /// The convex hull, counterclockwise, without its first corner repeated. Fewer than three points
 /// are given back as they are.

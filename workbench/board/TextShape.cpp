@@ -226,14 +226,10 @@ TextDrawing drawText(const TextSpec& given)
 
 QPainterPath coveredBy(const TextDrawing& drawing)
 {
-    QPainterPath middle;
-    for (const QPolygonF& stroke : drawing.strokes) {
-        middle.addPolygon(stroke);
-    }
     if (drawing.strokes.isEmpty()) {
         return drawing.areas;
     }
-    QPainterPath area = roundStroke(middle, drawing.lineWidth);
+    QPainterPath area = roundStrokes(drawing.strokes, drawing.lineWidth);
     area.addPath(byWinding(drawing.areas));
     return area;
 }

@@ -84,6 +84,19 @@ private slots:
         QCOMPARE(glyphDots(QLatin1Char('+'), 5).size(), 5 + 4);
     }
 
+    /// A dot is a stroke of one point, also between others.
+    void dotsAreDrawn()
+    {
+        TextSpec text;
+        text.content = QStringLiteral(".i.");
+        text.xSize = text.ySize = 1000;
+        text.lineWidth = 200;
+        const QPainterPath area = coveredBy(drawText(text));
+        // Each character is one and a half wide, the dot in its middle.
+        QVERIFY(area.contains(QPointF(500, 0)));
+        QVERIFY(area.contains(QPointF(3500, 0)));
+    }
+
     void stringsTakeTheirSizes()
     {
         TextSpec text;
