@@ -139,7 +139,7 @@ void Canvas_Tool_Strip::selectByNet(const PluginMetaData& message)
 
 void Canvas_Tool_Strip::showAddFeatureActive()
 {
-    if (!isToolButtonChecked(static_cast<int>(Tool::AddFeature))) {
+    if (!button(Tool::AddFeature)->isChecked()) {
         SetAllButtonchecked(false, button(Tool::AddFeature));
     }
 }
