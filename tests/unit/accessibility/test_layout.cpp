@@ -4,10 +4,13 @@
 #include "Main.h"
 
 #include <QAbstractButton>
+#include <QFile>
 #include <QFont>
 #include <QLabel>
 #include <QSpinBox>
 #include <QTranslator>
+
+#include <algorithm>
 
 namespace {
 
@@ -24,6 +27,50 @@ QList<QWidget*> visibleControls(const QWidget& dialog)
         }
     }
     return controls;
+}
+
+/// What stands beside each other from left to right, row by row from above, by object name. Rows
+/// are what overlaps vertically.
+QStringList rowsOf(const QWidget& dialog)
+{
+    QList<QPair<QRect, QString>> places;
+    for (const QWidget* const control : visibleControls(dialog)) {
+        places.append(
+            {{control->mapTo(&dialog, QPoint()), control->size()}, control->objectName()});
+    }
+    std::sort(places.begin(), places.end(), [](const auto& a, const auto& b) {
+        return a.first.center().y() < b.first.center().y();
+    });
+    QStringList rows;
+    while (!places.isEmpty()) {
+        const int middle = places.first().first.center().y();
+        QMap<int, QString> row;
+        while (!places.isEmpty() && places.first().first.top() < middle) {
+            const auto place = places.takeFirst();
+            row.insert(place.first.left(), place.second);
+        }
+        rows.append(QStringList(row.values()).join(' '));
+    }
+    return rows;
+}
+
+/// The file's parts: a line "[name]", then the lines that belong to it.
+QMap<QString, QStringList> readParts(const QString& file)
+{
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly)) {
+        qFatal("%s: %s", qPrintable(file), qPrintable(source.errorString()));
+    }
+    QMap<QString, QStringList> parts;
+    QString part;
+    for (const QString& line : QString::fromUtf8(source.readAll()).split('\n')) {
+        if (line.startsWith('[')) {
+            part = line.mid(1, line.size() - 2);
+        } else if (!line.isEmpty() && !line.startsWith('#')) {
+            parts[part].append(line);
+        }
+    }
+    return parts;
 }
 
 }  // namespace
@@ -73,6 +120,82 @@ private Q_SLOTS:
         }
         QCoreApplication::removeTranslator(&m_chinese);
         QApplication::setFont(before);
+    }
+
+    void everythingHasItsPlace_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("combo");
+        QTest::addColumn<int>("item");
+        QTest::newRow("single line") << "m_pLineTB"
+                                     << "m_pLineCMB" << 0;
+        QTest::newRow("rectangle") << "m_pLineTB"
+                                   << "m_pLineCMB" << 2;
+        QTest::newRow("slot") << "m_pLineTB"
+                              << "m_pLineCMB" << 3;
+        QTest::newRow("pad") << "m_pPadTB"
+                             << "" << 0;
+        QTest::newRow("surface") << "m_pSurfaceTB"
+                                 << "" << 0;
+        QTest::newRow("arc") << "m_pArcTB"
+                             << "" << 0;
+        QTest::newRow("string") << "m_pTextTB"
+                                << "m_pTextFormatCMB" << 0;
+        QTest::newRow("barcode") << "m_pTextTB"
+                                 << "m_pTextFormatCMB" << 1;
+        QTest::newRow("plot stamp") << "m_pTextTB"
+                                    << "m_pTextFormatCMB" << 2;
+        QTest::newRow("canned text") << "m_pTextTB"
+                                     << "m_pTextFormatCMB" << 3;
+    }
+
+    void everythingHasItsPlace()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, combo);
+        QFETCH(int, item);
+        DialogFixture fixture;
+        fixture.find<QAbstractButton>("m_pAttributesCB").setChecked(true);
+        fixture.click(type);
+        if (!combo.isEmpty()) {
+            fixture.find<QComboBox>(combo).setCurrentIndex(item);
+        }
+        QTest::qWait(20);
+        const QStringList rows = rowsOf(*fixture.dialog);
+        const QStringList expected = readParts(ROWS_FILE).value(QTest::currentDataTag());
+        for (int row = 0; row < qMin(rows.size(), expected.size()); ++row) {
+            QCOMPARE(rows[row], expected[row]);
+        }
+        QCOMPARE(rows.size(), expected.size());
+    }
+
+    /// What may grow takes the room that is left; the rest keeps to its side.
+    void fieldsTakeTheRoom_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<int>("least");
+        QTest::newRow("symbol") << "m_pLineTB"
+                                << "m_pSymbolTextLE" << 180;
+        QTest::newRow("polarity") << "m_pLineTB"
+                                  << "m_pPolarityCMB" << 320;
+        QTest::newRow("text") << "m_pTextTB"
+                              << "m_pTextLE" << 220;
+        QTest::newRow("size") << "m_pTextTB"
+                              << "m_pXSizeLE" << 170;
+        QTest::newRow("count") << "m_pPadTB"
+                               << "m_pDrilNxLE" << 60;
+    }
+    void fieldsTakeTheRoom()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, field);
+        QFETCH(int, least);
+        DialogFixture fixture;
+        fixture.click(type);
+        QTest::qWait(20);
+        const int width = fixture.find(field).width();
+        QVERIFY2(width >= least, qPrintable(QString::number(width)));
     }
 
 private:

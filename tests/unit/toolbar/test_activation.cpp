@@ -4,6 +4,7 @@
 #include "Main.h"
 #include "StripFixture.h"
 
+#include <CommonWidgetsStandIn.h>
 #include <common_widgets.h>
 
 #include <QSignalSpy>
@@ -149,6 +150,8 @@ private Q_SLOTS:
         // At the signal the popup is shown and the tool is checked already.
         QList<int> checkedAtSignal;
         bool shownAtSignal = false;
+        int measured = 0;  // what the popup was told
+        CanvasHost::setMeasureStarted([&] { ++measured; });
         connect(fixture.strip, &Canvas_Tool_Strip::GetRulerinfo, fixture.strip, [&] {
             checkedAtSignal = fixture.checked();
             shownAtSignal = fixture.panel.findChild<Grc_Tbe_measurepopup*>()->isVisible();
@@ -157,10 +160,12 @@ private Q_SLOTS:
             QTest::mouseClick(fixture.button(2), Qt::LeftButton);
             QCOMPARE(fixture.panel.findChildren<Grc_Tbe_measurepopup*>().size(), 1);
             QCOMPARE(started.size(), round);
+            QCOMPARE(measured, round);
             QCOMPARE(checkedAtSignal, QList<int>{2});
             QVERIFY(shownAtSignal);
             QCOMPARE(fixture.checked(), QList<int>{2});
         }
+        CanvasHost::setMeasureStarted({});
         QVERIFY(fixture.recorder.messages().isEmpty());
     }
 
