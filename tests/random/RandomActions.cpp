@@ -226,8 +226,10 @@ void RandomUser::enterText(QLineEdit* field)
     m_story += QStringLiteral(" %1 \"%2\" %3")
                    .arg(byKeys ? "type" : "paste", text, key == Qt::Key_Tab ? "Tab" : "Enter");
     const QString type = dialog() ? Refusals::chosenType(*dialog()) : QString();
-    m_mayRefuse =
-        m_mayRefuse || !Refusals::isSurelyLegal(field->objectName(), text, type, m_isMetric);
+    // A validator leaves out what it does not take: of "12.5" a count keeps "125".
+    static const QRegularExpression kept("\\A[a-z0-9]*\\z");
+    m_mayRefuse = m_mayRefuse || !kept.match(text).hasMatch() ||
+                  !Refusals::isSurelyLegal(field->objectName(), text, type, m_isMetric);
     const QPointer<QLineEdit> left(field);
     field->selectAll();
     if (byKeys) {
