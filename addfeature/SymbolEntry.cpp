@@ -70,11 +70,12 @@ SymbolEntry::SymbolEntry(SymbolHost& host, QObject* slotOwner, QWidget* parent)
       m_pSymbolTextLE(new ZTLineEdit(static_cast<ZTERegExp>(freeText),
                                      static_cast<QWidget*>(host.ownerContext()))),
       m_pSelectFromEditorPB(new QPushButton(this)),
-      m_lineValidator(
-          new QRegExpValidator(QRegExp(QStringLiteral("^[rs]?|[rs][0-9]+(\\.[0-9]+)?$")), this)),
-      m_padValidator(new QRegExpValidator(QRegExp(QStringLiteral("^[a-z0-9_.+-]*$")), this)),
+      // No literals: Qt keeps the patterns of QRegExp beyond the life of the library.
+      m_lineValidator(new QRegExpValidator(
+          QRegExp(QString::fromLatin1("^[rs]?|[rs][0-9]+(\\.[0-9]+)?$")), this)),
+      m_padValidator(new QRegExpValidator(QRegExp(QString::fromLatin1("^[a-z0-9_.+-]*$")), this)),
       m_arcValidator(
-          new QRegExpValidator(QRegExp(QStringLiteral("[r]?|[r][0-9]+(\\.[0-9]+)?$")), this))
+          new QRegExpValidator(QRegExp(QString::fromLatin1("[r]?|[r][0-9]+(\\.[0-9]+)?$")), this))
 {
     setObjectName(QStringLiteral("m_pSymbolWidget"));
     m_pSymbolPB->setObjectName(QStringLiteral("m_pSymbolPB"));

@@ -176,7 +176,7 @@ void LinePage::createCornerGroup()
     m_cornerType = createCombo(QStringLiteral("m_pCornerTypeCMB"), corners, m_cornerGroup);
     m_cornerRadius = createNumber(QStringLiteral("m_pCornerRadiusLE"), m_cornerGroup);
     m_cornerRadius->setValidator(
-        new QRegExpValidator(QRegExp(QStringLiteral("^[1-9][0-9]*|0$")), m_cornerRadius));
+        new QRegExpValidator(QRegExp(QLatin1String("^[1-9][0-9]*|0$")), m_cornerRadius));
     m_cornerRadius->setText(FeatureValues::zero);
     m_cornerTypeLabel =
         Fields::createLabel(QStringLiteral("m_pCornerTypeLB"), m_cornerGroup, m_cornerType);

@@ -19,7 +19,7 @@ constexpr double largestSize = 10000.0;
 constexpr double characterSize = 200.0;
 constexpr double strokeWidth = 24.0;
 
-const QString unsignedPattern = QStringLiteral("^[0-9]*(\\.[0-9]+)?$");
+constexpr char unsignedPattern[] = "^[0-9]*(\\.[0-9]+)?$";
 
 }  // namespace
 
@@ -45,7 +45,8 @@ StringPage::Size StringPage::addSize(QGridLayout* grid, const QString& name, dou
         Fields::create(m_host, Fields::Pattern::Decimal, QStringLiteral("m_p%1LE").arg(name), this);
     size.field->setText(Units::format(m_isMetric ? mils * Units::factor : mils));
     if (!m_isMetric) {
-        size.field->setValidator(new QRegExpValidator(QRegExp(unsignedPattern), size.field));
+        size.field->setValidator(
+            new QRegExpValidator(QRegExp(QLatin1String(unsignedPattern)), size.field));
     }
     size.label = Fields::createLabel(QStringLiteral("m_p%1LB").arg(name), this, size.field);
     size.unit = Fields::createLabel(QStringLiteral("m_p%1UnitLB").arg(name), this);

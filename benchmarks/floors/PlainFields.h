@@ -3,13 +3,15 @@
 #include "Panel.h"
 #include "PlainRecord.h"
 
-class QLineEdit;
+#include <QLineEdit>
 
 /// Floor of a symbol field: Return stores, checks and sends the symbol, and once more when Qt says
 /// that editing has finished.
 class PlainSymbolWindow : public Panel {
 public:
     PlainSymbolWindow(PlainRecord& record, const QString& symbol);
+    /// A window that goes takes the focus from its field, which reports that.
+    ~PlainSymbolWindow() override { m_field->disconnect(); }
     QLineEdit* field() const { return m_field; }
 
 private:
