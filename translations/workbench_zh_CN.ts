@@ -225,7 +225,7 @@
     <name>EditTools</name>
     <message>
         <source>There is no feature.</source>
-        <translation>此处没有图形。</translation>
+        <translation>此处没有图元。</translation>
     </message>
     <message>
         <source>%1 is for lines and arcs.</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Delete feature</source>
-        <translation>删除图形</translation>
+        <translation>删除图元</translation>
     </message>
     <message>
         <source>Delete to intersection</source>
@@ -241,15 +241,15 @@
     </message>
     <message>
         <source>Invert feature</source>
-        <translation>反转图形极性</translation>
+        <translation>反转图元极性</translation>
     </message>
     <message>
         <source>Rotate feature</source>
-        <translation>旋转图形</translation>
+        <translation>旋转图元</translation>
     </message>
     <message>
         <source>Mirror feature</source>
-        <translation>镜像图形</translation>
+        <translation>镜像图元</translation>
     </message>
     <message>
         <source>Break line</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Click a feature to delete it.</source>
-        <translation>单击要删除的图形。</translation>
+        <translation>单击要删除的图元。</translation>
     </message>
     <message>
         <source>Click the part of a line that is to go.</source>
@@ -265,15 +265,15 @@
     </message>
     <message>
         <source>Click a feature to invert its polarity.</source>
-        <translation>单击图形以反转其极性。</translation>
+        <translation>单击图元以反转其极性。</translation>
     </message>
     <message>
         <source>Click a feature to turn it by 90 degrees.</source>
-        <translation>单击图形以旋转 90 度。</translation>
+        <translation>单击图元以旋转 90 度。</translation>
     </message>
     <message>
         <source>Click a feature to mirror it.</source>
-        <translation>单击要镜像的图形。</translation>
+        <translation>单击要镜像的图元。</translation>
     </message>
     <message>
         <source>Click the place where a line is to break.</source>
@@ -281,11 +281,11 @@
     </message>
     <message>
         <source>Move feature</source>
-        <translation>移动图形</translation>
+        <translation>移动图元</translation>
     </message>
     <message>
         <source>Copy feature</source>
-        <translation>复制图形</translation>
+        <translation>复制图元</translation>
     </message>
     <message>
         <source>Click the place where it is to go; a right click gives it up.</source>
@@ -293,11 +293,11 @@
     </message>
     <message>
         <source>Click a feature to move it.</source>
-        <translation>单击要移动的图形。</translation>
+        <translation>单击要移动的图元。</translation>
     </message>
     <message>
         <source>Click a feature to copy it.</source>
-        <translation>单击要复制的图形。</translation>
+        <translation>单击要复制的图元。</translation>
     </message>
     <message>
         <source>Click near the end of a line.</source>
@@ -328,11 +328,11 @@
     <name>Inspector</name>
     <message>
         <source>Feature record (message %1)</source>
-        <translation>图形参数记录（消息 %1）</translation>
+        <translation>图元记录（消息 %1）</translation>
     </message>
     <message>
         <source>Feature record (none yet)</source>
-        <translation>图形参数记录（尚无）</translation>
+        <translation>图元记录（尚无）</translation>
     </message>
     <message>
         <source>Attributes</source>
@@ -894,7 +894,7 @@
     <name>PlaceTool</name>
     <message>
         <source>Add feature</source>
-        <translation>添加图形</translation>
+        <translation>添加图元</translation>
     </message>
     <message>
         <source>Click the next point; a right click ends it.</source>
@@ -906,7 +906,7 @@
     </message>
     <message>
         <source>Click where the feature begins.</source>
-        <translation>单击图形的起点。</translation>
+        <translation>单击图元的起点。</translation>
     </message>
 </context>
 <context>
@@ -929,7 +929,7 @@
     <message numerus="yes">
         <source>%n feature(s) selected.</source>
         <translation>
-            <numerusform>已选择 %n 个图形。</numerusform>
+            <numerusform>已选择 %n 个图元。</numerusform>
         </translation>
     </message>
     <message>
@@ -942,15 +942,15 @@
     </message>
     <message>
         <source>Click a feature to select it; with Ctrl one more.</source>
-        <translation>单击以选择图形；按住 Ctrl 可多选。</translation>
+        <translation>单击以选择图元；按住 Ctrl 可多选。</translation>
     </message>
     <message>
         <source>Click a feature to select all that touches it.</source>
-        <translation>单击图形以选择与其相连的全部图形。</translation>
+        <translation>单击图元以选择与其相连的全部图元。</translation>
     </message>
     <message>
         <source>Click a feature to select its net.</source>
-        <translation>单击图形以选择其网络。</translation>
+        <translation>单击图元以选择其网络。</translation>
     </message>
     <message>
         <source>Click a line to select its polyline.</source>
@@ -1012,7 +1012,7 @@
     </message>
     <message>
         <source>Click a feature to highlight its net; once more to end that.</source>
-        <translation>单击图形以高亮其网络；再次单击取消。</translation>
+        <translation>单击图元以高亮其网络；再次单击取消。</translation>
     </message>
     <message>
         <source>Mark</source>
