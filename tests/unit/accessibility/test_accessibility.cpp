@@ -81,6 +81,32 @@ private Q_SLOTS:
         QCOMPARE(nameless, QStringList());
     }
 
+    /// Controls without a label or a text of their own say what they are for.
+    void controlsAreNamedForWhatTheyDo_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const auto& [control, name] :
+             {std::pair("m_pPolarityCMB", "Polarity"), std::pair("m_pMirrorCMB", "Mirror"),
+              std::pair("m_pAngleValueSB", "Rotation"), std::pair("m_pSymbolTextLE", "Symbol"),
+              std::pair("m_pSelectFromEditorPB", "Select from editor"),
+              std::pair("m_pCannedHoleSizeLE", "Hole size"),
+              std::pair("m_pPositionCMB", "Position of the string"),
+              std::pair("m_pMatrixLE", "Matrix"), std::pair("m_pSurfShapeCMB", "Surface shape"),
+              std::pair("m_pArcAndCircleCMB", "Arc or circle"),
+              std::pair("m_pArcCMB", "Arc method"), std::pair("m_pCircleCMB", "Circle method"),
+              std::pair("m_pTextFormatCMB", "Text format"), std::pair("m_pUPCCMB", "Barcode type"),
+              std::pair("m_pFontLE", "Font"), std::pair("m_pTextLE", "Text"),
+              std::pair("m_pLineCMB", "Kind of line"), std::pair("m_pSlotPlatedCMB", "Plating")}) {
+            QTest::newRow(control) << name;
+        }
+    }
+    void controlsAreNamedForWhatTheyDo()
+    {
+        QFETCH(QString, name);
+        const DialogFixture fixture;
+        QCOMPARE(fixture.find(QTest::currentDataTag()).accessibleName(), name);
+    }
+
     void everyControlOfThePopupHasAName()
     {
         for (int slot = 0; slot < 7; ++slot) {

@@ -169,6 +169,33 @@ private Q_SLOTS:
         QCOMPARE(rows.size(), expected.size());
     }
 
+    /// Fields below each other begin at one line, and so do their units.
+    void columnsAreAligned_data() { everythingHasItsPlace_data(); }
+
+    void columnsAreAligned()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, combo);
+        QFETCH(int, item);
+        DialogFixture fixture;
+        fixture.click(type);
+        if (!combo.isEmpty()) {
+            fixture.find<QComboBox>(combo).setCurrentIndex(item);
+        }
+        QTest::qWait(20);
+        // Of each column of labels: where the labels' fields begin.
+        QMap<QPair<QWidget*, int>, QSet<int>> columns;
+        for (const QLabel* const label : fixture.dialog->findChildren<QLabel*>()) {
+            if (label->isVisibleTo(fixture.dialog) && label->buddy()) {
+                columns[{label->parentWidget(), label->x()}].insert(
+                    label->buddy()->mapTo(fixture.dialog, QPoint()).x());
+            }
+        }
+        for (auto column = columns.begin(); column != columns.end(); ++column) {
+            QCOMPARE(column->size(), 1);
+        }
+    }
+
     /// What may grow takes the room that is left; the rest keeps to its side.
     void fieldsTakeTheRoom_data()
     {
