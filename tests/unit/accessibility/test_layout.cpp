@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFont>
 #include <QLabel>
+#include <QLayout>
 #include <QSpinBox>
 #include <QTranslator>
 
@@ -193,6 +194,34 @@ private Q_SLOTS:
         }
         for (auto column = columns.begin(); column != columns.end(); ++column) {
             QCOMPARE(column->size(), 1);
+        }
+    }
+
+    /// Every row begins where the window's margin ends, and none goes beyond it on the right.
+    void rowsKeepTheMargins_data() { everythingHasItsPlace_data(); }
+
+    void rowsKeepTheMargins()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, combo);
+        QFETCH(int, item);
+        DialogFixture fixture;
+        fixture.find<QAbstractButton>("m_pAttributesCB").setChecked(true);
+        fixture.click(type);
+        if (!combo.isEmpty()) {
+            fixture.find<QComboBox>(combo).setCurrentIndex(item);
+        }
+        QTest::qWait(20);
+        const QMargins margins = fixture.dialog->layout()->contentsMargins();
+        for (const QString& row : rowsOf(*fixture.dialog)) {
+            const QWidget& first = fixture.find(row.section(' ', 0, 0));
+            const QWidget& last = fixture.find(row.section(' ', -1, -1));
+            const int left = first.mapTo(fixture.dialog, QPoint()).x();
+            // The fixed angle is indented below the direction that it belongs to.
+            const bool isIndented = first.objectName() == QLatin1String("m_pAngleLB");
+            QVERIFY2(isIndented ? left > margins.left() : left == margins.left(), qPrintable(row));
+            const int right = last.mapTo(fixture.dialog, QPoint(last.width(), 0)).x();
+            QVERIFY2(right <= fixture.dialog->width() - margins.right(), qPrintable(row));
         }
     }
 
