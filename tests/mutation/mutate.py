@@ -2,7 +2,7 @@
 """Changes one constant, operator, string or call of the module at a time, and sees whether a test
 fails. The tree itself stays as it is: the changes are made in copies under build/mutation.
 
-Usage: tests/mutation/mutate.py [--count N] [--seed N] [--jobs N] [--only PATH]
+Usage: tests/mutation/mutate.py [--count N] [--seed N] [--jobs N] [--only TEXT] [--living]
 Results are kept as they come (build/mutation/results.json); a second run goes on where the first
 stopped. Exit status 1 when fewer than 95 % of the mutants are caught."""
 
@@ -167,6 +167,7 @@ def main():
     parser.add_argument("--seed", type=int, default=1, help="which of all mutants (default 1)")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="copies that work at once")
     parser.add_argument("--only", default="", help="only mutants whose name contains this text")
+    parser.add_argument("--living", action="store_true", help="try those again that lived")
     parser.add_argument("--fresh", action="store_true", help="forget earlier results")
     arguments = parser.parse_args()
 
@@ -176,6 +177,8 @@ def main():
     print(f"{len(candidates)} mutants in all, {len(chosen)} chosen")
     kept = WORK / "results.json"
     results = json.loads(kept.read_text()) if kept.exists() and not arguments.fresh else {}
+    if arguments.living:
+        results = {name: catcher for name, catcher in results.items() if catcher}
     todo = [mutant for mutant in chosen if mutant.name not in results]
     if todo:
         copies = [Copy(number) for number in range(min(arguments.jobs, len(todo)))]
