@@ -193,6 +193,12 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{20000246, 50}));
         QCOMPARE(reselected.size(), 1);
         QCOMPARE(fixture.panel.findChildren<QWidget*>("AddFeature").size(), 1);
+
+        // The dialog asks for a symbol on the board through the strip.
+        fixture.recorder.clear();
+        QTest::mouseClick(&findNamed(*dialog, "m_pSelectFromEditorPB"), Qt::LeftButton);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{20001405});
+        QCOMPARE(fixture.recorder.last(20001405).sender, static_cast<void*>(&fixture.panel));
     }
 
     void addFeatureTakesItsStepsInOrder()
