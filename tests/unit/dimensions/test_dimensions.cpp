@@ -303,6 +303,26 @@ private Q_SLOTS:
         popup->on_pushButton_clicked();
     }
 
+    /// The form has slots for what a later host may connect; they change nothing.
+    void slotsThatDoNothing()
+    {
+        const auto popup = createPopup();
+        const QImage before = popup->grab().toImage();
+        QAbstractButton* const none = nullptr;
+        for (const char* const slot :
+             {"on_m_pSourcesRBGroup_clicked", "on_m_pCreateNewEleRBGroup_clicked"}) {
+            QVERIFY2(QMetaObject::invokeMethod(popup.get(), slot, Q_ARG(QAbstractButton*, none)),
+                     slot);
+        }
+        for (const char* const slot :
+             {"on_m_pLinePBGroup_clicked", "on_m_pRectPBGroup_buttonClicked",
+              "on_m_pSlotPBGroup_buttonClicked"}) {
+            QVERIFY2(QMetaObject::invokeMethod(popup.get(), slot, Q_ARG(int, 1)), slot);
+        }
+        QVERIFY(QMetaObject::invokeMethod(popup.get(), "on_m_pAddDstEleShapeCMB_ComboBox_Changed"));
+        QCOMPARE(popup->grab().toImage(), before);
+    }
+
     void language()
     {
         const auto popup = createPopup();
