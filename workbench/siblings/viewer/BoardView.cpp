@@ -34,6 +34,18 @@ double gridStep(double length)
     return step;
 }
 
+/// The multiples of `step` from `first` to `last`.
+QVector<double> multiples(double first, double last, double step)
+{
+    const double begin = std::ceil(first / step) * step;
+    const int count = begin > last ? 0 : static_cast<int>((last - begin) / step) + 1;
+    QVector<double> all;
+    for (int i = 0; i < count; ++i) {
+        all.append(begin + i * step);
+    }
+    return all;
+}
+
 }  // namespace
 
 BoardView::BoardView(BoardScene* scene, QWidget* parent)
@@ -189,15 +201,16 @@ void BoardView::drawGrid(QPainter* painter, const QRectF& area) const
     const QRectF board = m_scene->document()->board().outline.boundingRect() & area;
     QVector<QLineF> lines;
     QVector<QPointF> points;
-    for (double x = std::ceil(board.left() / step) * step; x <= board.right(); x += step) {
+    for (const double x : multiples(board.left(), board.right(), step)) {
         lines.append({x, board.top(), x, board.bottom()});
     }
-    for (double y = std::ceil(board.top() / step) * step; y <= board.bottom(); y += step) {
+    for (const double y : multiples(board.top(), board.bottom(), step)) {
         lines.append({board.left(), y, board.right(), y});
     }
     const double wide = 5 * step;
-    for (double x = std::ceil(board.left() / wide) * wide; x <= board.right(); x += wide) {
-        for (double y = std::ceil(board.top() / wide) * wide; y <= board.bottom(); y += wide) {
+    const QVector<double> wideRows = multiples(board.top(), board.bottom(), wide);
+    for (const double x : multiples(board.left(), board.right(), wide)) {
+        for (const double y : wideRows) {
             points.append({x, y});
         }
     }

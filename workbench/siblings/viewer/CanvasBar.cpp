@@ -22,7 +22,7 @@ CanvasBar::CanvasBar(CanvasController& canvas, BoardView& view, QWidget* parent)
     m_undo = add("m_pUndoTB", QKeySequence::Undo);
     m_redo = add("m_pRedoTB", QKeySequence::Redo);
     addSeparator();
-    m_fit = add("m_pFitTB", QKeySequence(Qt::CTRL | Qt::Key_0));
+    m_fit = add("m_pFitTB", QKeySequence(QStringLiteral("Ctrl+0")));
     m_zoomIn = add("m_pZoomInTB", QKeySequence::ZoomIn);
     m_zoomOut = add("m_pZoomOutTB", QKeySequence::ZoomOut);
     addSeparator();

@@ -7,21 +7,21 @@
 namespace {
 
 struct Unit {
-    CanvasHost::DisplayUnit unit;
     double micrometres;
-    int decimals;
     const char* one;
     const char* two;
+    CanvasHost::DisplayUnit unit;
+    int decimals;
 };
 const Unit units[] = {
-    {CanvasHost::DisplayUnit::Mil, 25.4, 1, QT_TRANSLATE_NOOP("Lengths", "%1 mil"),
-     QT_TRANSLATE_NOOP("Lengths", "%1, %2 mil")},
-    {CanvasHost::DisplayUnit::Inch, 25400, 4, QT_TRANSLATE_NOOP("Lengths", "%1 inch"),
-     QT_TRANSLATE_NOOP("Lengths", "%1, %2 inch")},
-    {CanvasHost::DisplayUnit::Micrometre, 1, 0, QT_TRANSLATE_NOOP("Lengths", "%1 um"),
-     QT_TRANSLATE_NOOP("Lengths", "%1, %2 um")},
-    {CanvasHost::DisplayUnit::Millimetre, 1000, 3, QT_TRANSLATE_NOOP("Lengths", "%1 mm"),
-     QT_TRANSLATE_NOOP("Lengths", "%1, %2 mm")},
+    {25.4, QT_TRANSLATE_NOOP("Lengths", "%1 mil"), QT_TRANSLATE_NOOP("Lengths", "%1, %2 mil"),
+     CanvasHost::DisplayUnit::Mil, 1},
+    {25400, QT_TRANSLATE_NOOP("Lengths", "%1 inch"), QT_TRANSLATE_NOOP("Lengths", "%1, %2 inch"),
+     CanvasHost::DisplayUnit::Inch, 4},
+    {1, QT_TRANSLATE_NOOP("Lengths", "%1 um"), QT_TRANSLATE_NOOP("Lengths", "%1, %2 um"),
+     CanvasHost::DisplayUnit::Micrometre, 0},
+    {1000, QT_TRANSLATE_NOOP("Lengths", "%1 mm"), QT_TRANSLATE_NOOP("Lengths", "%1, %2 mm"),
+     CanvasHost::DisplayUnit::Millimetre, 3},
 };
 
 const Unit& current()

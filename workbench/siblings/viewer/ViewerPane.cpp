@@ -107,7 +107,7 @@ void ViewerPane::connectCanvas()
 
 QString ViewerPane::openBoard(const QString& file)
 {
-    const QString error = BoardFiles::open(m_canvas.document(), file);
+    QString error = BoardFiles::open(m_canvas.document(), file);
     m_view->fit();
     return error;
 }

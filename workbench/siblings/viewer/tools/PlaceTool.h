@@ -3,6 +3,8 @@
 #include "board/Placement.h"
 #include "viewer/CanvasTool.h"
 
+#include <QCoreApplication>
+
 /// Draws what the last feature record describes.
 class PlaceTool : public CanvasTool {
     Q_DECLARE_TR_FUNCTIONS(PlaceTool)
