@@ -99,7 +99,7 @@ private slots:
 
     void text()
     {
-        const TextSpec spec =
+        const TextSpec text =
             readBrush({{QStringLiteral("TextFormat"), QStringLiteral("BarcodeMode")},
                        {QStringLiteral("TextContains"), QStringLiteral("ABC")},
                        {QStringLiteral("StringTextFont"), QStringLiteral("simplex")},
@@ -119,21 +119,21 @@ private slots:
                        {QStringLiteral("CannedHoleMode"), QStringLiteral("2")},
                        {QStringLiteral("CannedHoleSize"), QStringLiteral("508")}})
                 .text;
-        QCOMPARE(spec.format, TextFormat::Barcode);
-        QCOMPARE(spec.content, QStringLiteral("ABC"));
-        QCOMPARE(spec.font, QStringLiteral("simplex"));
-        QCOMPARE(spec.xSize, 1000.0);
-        QCOMPARE(spec.ySize, 2000.0);
-        QCOMPARE(spec.lineWidth, 609.6);  // a width of nothing is none
-        QCOMPARE(spec.barcode, BarcodeType::Matrix);
-        QVERIFY(spec.addString && spec.addBackground && spec.addMarkers && !spec.stringOnTop);
-        QCOMPARE(spec.barcodeHeight, 1.27e6);
-        QCOMPARE(spec.matrix, QStringLiteral("16x16"));
-        QVERIFY(spec.stampBarcode);
-        QCOMPARE(spec.stampFontSize, 4);
-        QCOMPARE(spec.stampZoom, 7);
-        QCOMPARE(spec.cannedColumns, 6);
-        QCOMPARE(spec.holeSize, 508.0);
+        QCOMPARE(text.format, TextFormat::Barcode);
+        QCOMPARE(text.content, QStringLiteral("ABC"));
+        QCOMPARE(text.font, QStringLiteral("simplex"));
+        QCOMPARE(text.xSize, 1000.0);
+        QCOMPARE(text.ySize, 2000.0);
+        QCOMPARE(text.lineWidth, 609.6);  // a width of nothing is none
+        QCOMPARE(text.barcode, BarcodeType::Matrix);
+        QVERIFY(text.addString && text.addBackground && text.addMarkers && !text.stringOnTop);
+        QCOMPARE(text.barcodeHeight, 1.27e6);
+        QCOMPARE(text.matrix, QStringLiteral("16x16"));
+        QVERIFY(text.stampBarcode);
+        QCOMPARE(text.stampFontSize, 4);
+        QCOMPARE(text.stampZoom, 7);
+        QCOMPARE(text.cannedColumns, 6);
+        QCOMPARE(text.holeSize, 508.0);
         QCOMPARE(read("TextFormat", QStringLiteral("3")).text.format, TextFormat::PlotStamp);
         QCOMPARE(read("TextFormat", QStringLiteral("4")).text.format, TextFormat::Canned);
         QCOMPARE(read("TextFormat", QStringLiteral("2")).text.format, TextFormat::String);

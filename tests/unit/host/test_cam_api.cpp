@@ -104,7 +104,6 @@ private Q_SLOTS:
     void jobFile();
     void emptyJobList();
     void escapedTextsKeepTheirLines();
-    void everyTruncationIsAnErrorWithItsLine();
     void faultyJobFile_data();
     void faultyJobFile();
     void unreadableJobFile();
@@ -368,23 +367,6 @@ void TestCamApi::emptyJobList()
     QVERIFY(CanvasHost::loadJobs(write(R"({"format":1,"jobs":[]})")));
     QVERIFY(CanvasHost::jobs().empty());
     QVERIFY(!CanvasHost::currentJob());
-}
-
-void TestCamApi::everyTruncationIsAnErrorWithItsLine()
-{
-    const QByteArray whole = validFile().join('\n').toUtf8().trimmed();
-    QVERIFY(CanvasHost::loadJobs(write(whole)));
-    for (int size = 0; size < whole.size(); ++size) {
-        const QString file = write(whole.left(size));
-        QString error;
-        QVERIFY2(!CanvasHost::loadJobs(file, &error), qPrintable(QString::number(size)));
-        const QRegularExpression place('^' + QRegularExpression::escape(file) + ":([0-9]+): .");
-        const QRegularExpressionMatch match = place.match(error);
-        QVERIFY2(match.hasMatch(), qPrintable(error));
-        QVERIFY2(match.captured(1).toInt() <= whole.count('\n') + 1, qPrintable(error));
-        // What was loaded before stays.
-        QCOMPARE(CanvasHost::jobs().size(), size_t(2));
-    }
 }
 
 void TestCamApi::escapedTextsKeepTheirLines()

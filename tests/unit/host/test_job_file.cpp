@@ -1,0 +1,49 @@
+// A job file that was cut off, anywhere, is refused with its line.
+
+#include "Main.h"
+
+#include <CamApiStandIn.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+class TestJobFile : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_directory;
+
+    QString write(const QByteArray& text) const
+    {
+        const QString name = m_directory.filePath("jobs.json");
+        QFile file(name);
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
+            qFatal("%s: %s", qPrintable(name), qPrintable(file.errorString()));
+        }
+        return name;
+    }
+
+private Q_SLOTS:
+    void everyTruncationIsAnErrorWithItsLine()
+    {
+        QFile sample(SAMPLE_FILE);
+        QVERIFY(sample.open(QIODevice::ReadOnly));
+        const QByteArray whole = sample.readAll().trimmed();
+        QVERIFY(CanvasHost::loadJobs(write(whole)));
+        const size_t jobs = CanvasHost::jobs().size();
+        for (int size = 0; size < whole.size(); ++size) {
+            const QString file = write(whole.left(size));
+            QString error;
+            QVERIFY2(!CanvasHost::loadJobs(file, &error), qPrintable(QString::number(size)));
+            const QRegularExpression place('^' + QRegularExpression::escape(file) + ":([0-9]+): .");
+            const QRegularExpressionMatch match = place.match(error);
+            QVERIFY2(match.hasMatch(), qPrintable(error));
+            QVERIFY2(match.captured(1).toInt() <= whole.left(size).count('\n') + 1,
+                     qPrintable(error));
+            QCOMPARE(CanvasHost::jobs().size(), jobs);  // what was loaded before stays
+        }
+    }
+};
+
+CTS_MAIN(TestJobFile)
+#include "test_job_file.moc"
