@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QSpinBox>
+#include <QToolButton>
 #include <QTranslator>
 
 #include <algorithm>
@@ -222,6 +223,30 @@ private Q_SLOTS:
             QVERIFY2(isIndented ? left > margins.left() : left == margins.left(), qPrintable(row));
             const int right = last.mapTo(fixture.dialog, QPoint(last.width(), 0)).x();
             QVERIFY2(right <= fixture.dialog->width() - margins.right(), qPrintable(row));
+        }
+    }
+
+    /// The window alone has margins: a page within a page would stand farther in than others.
+    void pagesHaveNoMargins()
+    {
+        const DialogFixture fixture;
+        int pages = 0;
+        for (const QWidget* const widget : fixture.dialog->findChildren<QWidget*>()) {
+            if (widget->objectName().endsWith("Page") && widget->layout()) {
+                ++pages;
+                QVERIFY2(widget->layout()->contentsMargins().isNull(),
+                         qPrintable(widget->objectName()));
+            }
+        }
+        QCOMPARE(pages, 9);
+    }
+
+    void typeButtonsAreFlat()
+    {
+        const DialogFixture fixture;
+        for (const char* const type :
+             {"m_pLineTB", "m_pPadTB", "m_pSurfaceTB", "m_pArcTB", "m_pTextTB"}) {
+            QVERIFY(fixture.find<QToolButton>(type).autoRaise());
         }
     }
 
