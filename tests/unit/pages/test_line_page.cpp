@@ -187,6 +187,23 @@ class TestLinePage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void connections()
+    {
+        const char* const index = SIGNAL(currentIndexChanged(QString));
+        const char* const edited = SIGNAL(editingFinished());
+        PageCases::compareConnections(
+            {{"m_pLineCMB", index, SLOT(on_Line_ComboBox_Changed())},
+             {"m_pClosedCB", SIGNAL(stateChanged(int)),
+              SLOT(on_m_pClosedCB_CheckState_Changed(int))},
+             {"m_pAngleLE", edited, SLOT(on_m_pAngleLE_editingFinished())},
+             {"m_pCornerTypeCMB", index, SLOT(on_CornerTypre_ComboBox_Changed())},
+             {"m_pCornerRadiusLE", edited, SLOT(on_m_pCornerRadiusLE_editingFinished())},
+             {"m_pSlotPlatedCMB", index, SLOT(on_m_pSlotPlatedCMB_ComboBox_Changed())},
+             {"m_pLengthLE", edited, SLOT(on_m_pLengthLE_editingFinished())},
+             {"m_pSlotAngleLE", edited, SLOT(on_m_pSlotAngleLE_editingFinished())},
+             {"m_pSlotDecodeLE", edited, SLOT(on_m_pSlotDecodeLE_editingFinished())}});
+    }
+
     void table_data()
     {
         PageCases::addRows(kinds() + directionRows() + angles() + corners() + silent() + closed());
