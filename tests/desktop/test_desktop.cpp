@@ -4,10 +4,7 @@
 #include "Desktop.h"
 #include "FindChild.h"
 #include "Main.h"
-#include "messages/MessageLog.h"
-#include "window/WorkbenchWindow.h"
-
-#include <CamApiStandIn.h>
+#include "OpenWindow.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -103,17 +100,8 @@ private:
 private Q_SLOTS:
     void init()
     {
-        QString error;
-        QVERIFY2(CanvasHost::loadJobs(JOB_FILE, &error), qPrintable(error));
-        Options options;
-        options.moduleDirectory = MODULE_DIR;
         m_log = std::make_unique<MessageLog>();
-        m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
-        QVERIFY2(m_window->start(&error), qPrintable(error));
-        m_window->move(20, 40);
-        m_window->show();
-        Desktop::waitForWindow(m_window.get());
-        m_log->clear();
+        m_window = openWindow(*m_log);
     }
 
     void cleanup()

@@ -3,13 +3,10 @@
 #include "Desktop.h"
 #include "FindChild.h"
 #include "Main.h"
-#include "messages/MessageLog.h"
+#include "OpenWindow.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
-#include "window/WorkbenchWindow.h"
-
-#include <CamApiStandIn.h>
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -35,17 +32,8 @@ class TestRecording : public QObject {
 
     void openWindow()
     {
-        QString error;
-        QVERIFY2(CanvasHost::loadJobs(JOB_FILE, &error), qPrintable(error));
-        Options options;
-        options.moduleDirectory = MODULE_DIR;
         m_log = std::make_unique<MessageLog>();
-        m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
-        QVERIFY2(m_window->start(&error), qPrintable(error));
-        m_window->move(20, 40);
-        m_window->show();
-        Desktop::waitForWindow(m_window.get());
-        m_log->clear();
+        m_window = ::openWindow(*m_log);
     }
 
     void closeWindow()

@@ -1,10 +1,10 @@
 #include "RandomUser.h"
 
+#include "DemoJobs.h"
 #include "Invariants.h"
 #include "Refusals.h"
 #include "plugin/PluginEntry.h"
 
-#include <CamApiStandIn.h>
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 #include <UiApiStandIn.h>
@@ -19,20 +19,6 @@ namespace {
 constexpr int toolCount = 26;
 constexpr int symbolsPicked = 20001811;
 
-CanvasHost::Job demoJob(const char* name, std::vector<std::string> specialSymbols)
-{
-    CanvasHost::Job job;
-    job.name = name;
-    job.steps = {"step"};
-    job.fonts = {"simple", "standard"};
-    job.specialSymbols = std::move(specialSymbols);
-    job.userSymbols = {"logo"};
-    job.specialTexts = {"JOB", "DATE"};
-    job.attributes = {{".net", CanvasHost::AttributeKind::Text, {}},
-                      {".smd", CanvasHost::AttributeKind::Flag, {}}};
-    return job;
-}
-
 }  // namespace
 
 QString& RandomUser::complaint()
@@ -44,9 +30,7 @@ QString& RandomUser::complaint()
 RandomUser::RandomUser(std::optional<int> forbiddenCode)
     : m_window(std::make_unique<QWidget>()), m_forbiddenCode(forbiddenCode)
 {
-    CanvasHost::clearJobs();
-    CanvasHost::addJob(demoJob("job", {"fiducial_cross", "Target 1"}));
-    CanvasHost::addJob(demoJob("other", {"coupon"}));
+    openDemoJobs();
     CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
 
     m_strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(m_window.get()));

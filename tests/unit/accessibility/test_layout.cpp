@@ -124,45 +124,12 @@ private Q_SLOTS:
         QApplication::setFont(before);
     }
 
-    void everythingHasItsPlace_data()
-    {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("combo");
-        QTest::addColumn<int>("item");
-        QTest::newRow("single line") << "m_pLineTB"
-                                     << "m_pLineCMB" << 0;
-        QTest::newRow("rectangle") << "m_pLineTB"
-                                   << "m_pLineCMB" << 2;
-        QTest::newRow("slot") << "m_pLineTB"
-                              << "m_pLineCMB" << 3;
-        QTest::newRow("pad") << "m_pPadTB"
-                             << "" << 0;
-        QTest::newRow("surface") << "m_pSurfaceTB"
-                                 << "" << 0;
-        QTest::newRow("arc") << "m_pArcTB"
-                             << "" << 0;
-        QTest::newRow("string") << "m_pTextTB"
-                                << "m_pTextFormatCMB" << 0;
-        QTest::newRow("barcode") << "m_pTextTB"
-                                 << "m_pTextFormatCMB" << 1;
-        QTest::newRow("plot stamp") << "m_pTextTB"
-                                    << "m_pTextFormatCMB" << 2;
-        QTest::newRow("canned text") << "m_pTextTB"
-                                     << "m_pTextFormatCMB" << 3;
-    }
+    void everythingHasItsPlace_data() { addPages(); }
 
     void everythingHasItsPlace()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, combo);
-        QFETCH(int, item);
         DialogFixture fixture;
-        fixture.find<QAbstractButton>("m_pAttributesCB").setChecked(true);
-        fixture.click(type);
-        if (!combo.isEmpty()) {
-            fixture.find<QComboBox>(combo).setCurrentIndex(item);
-        }
-        QTest::qWait(20);
+        showPage(fixture);
         const QStringList rows = rowsOf(*fixture.dialog);
         const QStringList expected = readParts(ROWS_FILE).value(QTest::currentDataTag());
         for (int row = 0; row < qMin(rows.size(), expected.size()); ++row) {
@@ -172,19 +139,12 @@ private Q_SLOTS:
     }
 
     /// Fields below each other begin at one line, and so do their units.
-    void columnsAreAligned_data() { everythingHasItsPlace_data(); }
+    void columnsAreAligned_data() { addPages(); }
 
     void columnsAreAligned()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, combo);
-        QFETCH(int, item);
         DialogFixture fixture;
-        fixture.click(type);
-        if (!combo.isEmpty()) {
-            fixture.find<QComboBox>(combo).setCurrentIndex(item);
-        }
-        QTest::qWait(20);
+        showPage(fixture);
         // Of each column of labels: where the labels' fields begin.
         QMap<QPair<QWidget*, int>, QSet<int>> columns;
         for (const QLabel* const label : fixture.dialog->findChildren<QLabel*>()) {
@@ -199,20 +159,12 @@ private Q_SLOTS:
     }
 
     /// Every row begins where the window's margin ends, and none goes beyond it on the right.
-    void rowsKeepTheMargins_data() { everythingHasItsPlace_data(); }
+    void rowsKeepTheMargins_data() { addPages(); }
 
     void rowsKeepTheMargins()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, combo);
-        QFETCH(int, item);
         DialogFixture fixture;
-        fixture.find<QAbstractButton>("m_pAttributesCB").setChecked(true);
-        fixture.click(type);
-        if (!combo.isEmpty()) {
-            fixture.find<QComboBox>(combo).setCurrentIndex(item);
-        }
-        QTest::qWait(20);
+        showPage(fixture);
         const QMargins margins = fixture.dialog->layout()->contentsMargins();
         for (const QString& row : rowsOf(*fixture.dialog)) {
             const QWidget& first = fixture.find(row.section(' ', 0, 0));
@@ -280,6 +232,48 @@ private Q_SLOTS:
     }
 
 private:
+    /// A row for each state of the dialog that shows other controls.
+    static void addPages()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("combo");
+        QTest::addColumn<int>("item");
+        QTest::newRow("single line") << "m_pLineTB"
+                                     << "m_pLineCMB" << 0;
+        QTest::newRow("rectangle") << "m_pLineTB"
+                                   << "m_pLineCMB" << 2;
+        QTest::newRow("slot") << "m_pLineTB"
+                              << "m_pLineCMB" << 3;
+        QTest::newRow("pad") << "m_pPadTB"
+                             << "" << 0;
+        QTest::newRow("surface") << "m_pSurfaceTB"
+                                 << "" << 0;
+        QTest::newRow("arc") << "m_pArcTB"
+                             << "" << 0;
+        QTest::newRow("string") << "m_pTextTB"
+                                << "m_pTextFormatCMB" << 0;
+        QTest::newRow("barcode") << "m_pTextTB"
+                                 << "m_pTextFormatCMB" << 1;
+        QTest::newRow("plot stamp") << "m_pTextTB"
+                                    << "m_pTextFormatCMB" << 2;
+        QTest::newRow("canned text") << "m_pTextTB"
+                                     << "m_pTextFormatCMB" << 3;
+    }
+
+    /// Brings the dialog into the state of the current row.
+    static void showPage(const DialogFixture& fixture)
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, combo);
+        QFETCH(int, item);
+        fixture.find<QAbstractButton>("m_pAttributesCB").setChecked(true);
+        fixture.click(type);
+        if (!combo.isEmpty()) {
+            fixture.find<QComboBox>(combo).setCurrentIndex(item);
+        }
+        QTest::qWait(20);
+    }
+
     static void compare(const QWidget& dialog)
     {
         const QList<QWidget*> controls = visibleControls(dialog);

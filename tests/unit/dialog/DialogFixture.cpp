@@ -1,5 +1,7 @@
 #include "DialogFixture.h"
 
+#include "DemoJobs.h"
+
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
 
@@ -9,30 +11,14 @@ namespace {
 
 constexpr int addFeatureTool = 4;
 
-CanvasHost::Job demoJob(const char* name, std::vector<std::string> specialSymbols)
-{
-    CanvasHost::Job job;
-    job.name = name;
-    job.steps = {"step"};
-    job.fonts = {"simple", "standard"};
-    job.specialSymbols = std::move(specialSymbols);
-    job.userSymbols = {"logo"};
-    job.specialTexts = {"JOB", "DATE"};
-    job.attributes = {{".net", CanvasHost::AttributeKind::Text, {}},
-                      {".smd", CanvasHost::AttributeKind::Flag, {}}};
-    return job;
-}
-
 }  // namespace
 
 DialogFixture::DialogFixture(bool metric)
 {
     using CanvasHost::DisplayUnit;
-    CanvasHost::clearJobs();
+    openDemoJobs();
     CanvasHost::camApiOverrides() = {};
     CanvasHost::uiApiOverrides() = {};
-    CanvasHost::addJob(demoJob("job", {"fiducial_cross", "Target 1"}));
-    CanvasHost::addJob(demoJob("other", {"coupon"}));
     CanvasHost::setDisplayUnit(metric ? DisplayUnit::Micrometre : DisplayUnit::Mil);
 
     window.setLayout(strip);

@@ -75,31 +75,15 @@ QString NetSelectionTool::hint() const
     return {};
 }
 
-void RectangleSelectionTool::press(const QPointF& point, bool extends)
+void RectangleSelectionTool::take(const QRectF& rectangle, bool extends)
 {
-    m_extends = extends;
-    if (const auto rectangle = m_drag.press(point)) {
-        select(*rectangle);
-    }
-}
-
-void RectangleSelectionTool::release(const QPointF& point)
-{
-    if (const auto rectangle = m_drag.release(point, canvas().tolerance())) {
-        select(*rectangle);
-    }
-}
-
-void RectangleSelectionTool::select(const QRectF& rectangle)
-{
-    selectOn(canvas(), tr("Select a rectangle"), Pcb::insideRectangle(board(), rectangle),
-             m_extends);
+    selectOn(canvas(), tr("Select a rectangle"), Pcb::insideRectangle(board(), rectangle), extends);
 }
 
 QString RectangleSelectionTool::hint() const
 {
-    return m_drag.isActive() ? tr("Click the opposite corner.")
-                             : tr("Drag a rectangle, or click two corners.");
+    return isActive() ? tr("Click the opposite corner.")
+                      : tr("Drag a rectangle, or click two corners.");
 }
 
 void PolygonSelectionTool::press(const QPointF& point, bool extends)

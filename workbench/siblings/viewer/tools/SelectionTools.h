@@ -1,7 +1,7 @@
 #pragma once
 
 #include "viewer/CanvasTool.h"
-#include "viewer/tools/RectangleDrag.h"
+#include "viewer/tools/RectangleTool.h"
 
 #include <QCoreApplication>
 #include <QPolygonF>
@@ -40,24 +40,16 @@ private:
 };
 
 /// Selects what lies wholly in a rectangle.
-class RectangleSelectionTool : public CanvasTool {
+class RectangleSelectionTool : public RectangleTool {
     Q_DECLARE_TR_FUNCTIONS(SelectionTools)
 
 public:
-    using CanvasTool::CanvasTool;
+    using RectangleTool::RectangleTool;
 
-    void press(const QPointF& point, bool extends) override;
-    void move(const QPointF& point) override { m_drag.move(point); }
-    void release(const QPointF& point) override;
-    void cancel() override { m_drag.cancel(); }
-    Overlay overlay() const override { return {{}, m_drag.path(), {}}; }
     QString hint() const override;
 
-private:
-    void select(const QRectF& rectangle);
-
-    RectangleDrag m_drag;
-    bool m_extends = false;
+protected:
+    void take(const QRectF& rectangle, bool extends) override;
 };
 
 /// Selects what lies wholly in a polygon, which a right click ends.

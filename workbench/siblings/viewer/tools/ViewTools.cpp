@@ -5,24 +5,10 @@
 #include <algorithm>
 #include <iterator>
 
-void AreaZoomTool::press(const QPointF& point, bool /*extends*/)
-{
-    if (const auto area = m_drag.press(point)) {
-        canvas().showArea(*area);
-    }
-}
-
-void AreaZoomTool::release(const QPointF& point)
-{
-    if (const auto area = m_drag.release(point, canvas().tolerance())) {
-        canvas().showArea(*area);
-    }
-}
-
 QString AreaZoomTool::hint() const
 {
-    return m_drag.isActive() ? tr("Click the opposite corner.")
-                             : tr("Drag the area to show, or click two corners of it.");
+    return isActive() ? tr("Click the opposite corner.")
+                      : tr("Drag the area to show, or click two corners of it.");
 }
 
 void HighlightTool::press(const QPointF& point, bool /*extends*/)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "viewer/CanvasTool.h"
-#include "viewer/tools/RectangleDrag.h"
+#include "viewer/tools/RectangleTool.h"
 
 #include <QCoreApplication>
 
@@ -10,21 +10,16 @@
 #include <utility>
 
 /// Shows a rectangle of the board as large as can be.
-class AreaZoomTool : public CanvasTool {
+class AreaZoomTool : public RectangleTool {
     Q_DECLARE_TR_FUNCTIONS(ViewTools)
 
 public:
-    using CanvasTool::CanvasTool;
+    using RectangleTool::RectangleTool;
 
-    void press(const QPointF& point, bool extends) override;
-    void move(const QPointF& point) override { m_drag.move(point); }
-    void release(const QPointF& point) override;
-    void cancel() override { m_drag.cancel(); }
-    Overlay overlay() const override { return {{}, m_drag.path(), {}}; }
     QString hint() const override;
 
-private:
-    RectangleDrag m_drag;
+protected:
+    void take(const QRectF& rectangle, bool /*extends*/) override { canvas().showArea(rectangle); }
 };
 
 /// Lets what belongs to a feature's net stand out, until it is clicked again.

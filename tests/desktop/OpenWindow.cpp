@@ -1,0 +1,21 @@
+#include "OpenWindow.h"
+
+#include "Desktop.h"
+
+#include <CamApiStandIn.h>
+
+std::unique_ptr<WorkbenchWindow> openWindow(MessageLog& log)
+{
+    QString error;
+    Options options;
+    options.moduleDirectory = MODULE_DIR;
+    auto window = std::make_unique<WorkbenchWindow>(options, &log);
+    if (!CanvasHost::loadJobs(JOB_FILE, &error) || !window->start(&error)) {
+        qFatal("%s", qPrintable(error));
+    }
+    window->move(20, 40);
+    window->show();
+    Desktop::waitForWindow(window.get());
+    log.clear();
+    return window;
+}
