@@ -15,11 +15,14 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLoggingCategory>
+#include <QScopeGuard>
 #include <QSpinBox>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <utility>
 
@@ -150,6 +153,16 @@ void AddFeature::connectFrame()
             SLOT(on_m_pAngleValueSB_editingFinished()));
     connect(m_pPolarityCMB, SIGNAL(currentIndexChanged(int)), this,
             SLOT(on_m_pPolarityCMB_ComboBox_Changed()));
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &AddFeature::stayAbove);
+}
+
+/// Not every window system keeps the dialog above the host's window when that is clicked.
+void AddFeature::stayAbove(const QWindow* active)
+{
+    const QWidget* const host = parentWidget() ? parentWidget()->window() : nullptr;
+    if (active && host && host->windowHandle() == active && isVisible()) {
+        raise();
+    }
 }
 
 void AddFeature::setToolStrip(Canvas_Tool_Strip* toolStrip)
@@ -227,45 +240,91 @@ void AddFeature::setRowVisible(CommonRow row, bool visible)
 
 void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
 {
-    const FeatureType type = featureType();
-    if (!restoreCommonRows()) {
+    // The order can be seen: hiding the control that has the focus ends its editing, and sends.
+    const QPointer<AddFeature> self(this);
+    m_pPolarityCMB->show();
+    m_symbol->setControlsVisible(true);
+    if (!restoreCommonRows() || !hidePlacing()) {
         return;
     }
-    m_attributes->setFillEnabled(type == FeatureType::Surface);
-    const bool isPlaced = type == FeatureType::Pad || type == FeatureType::Text;
-    m_pMirrorCMB->setVisible(isPlaced);
-    m_pAngleValueSB->setVisible(isPlaced);
-
+    const FeatureType type = featureType();
     const int id = static_cast<int>(type);
     m_record.set(FeatureKeys::features, id + 1);
     if (id >= 0 && id < m_pages.size()) {
+        const bool isPlaced = type == FeatureType::Pad || type == FeatureType::Text;
         m_symbol->applyFeatureType();
-        m_symbol->setControlsVisible(type != FeatureType::Surface && type != FeatureType::Text);
-        showPage(m_pages[id]);
+        m_pMirrorCMB->setVisible(isPlaced);
+        m_pAngleValueSB->setVisible(isPlaced);
+        m_attributes->setFillEnabled(type == FeatureType::Surface);
+        m_symbol->setControlsVisible(hasSymbol());
+        if (!self || !showPage(m_pages[id])) {
+            return;
+        }
     }
     getChangeCurrentTool();
 }
 
-void AddFeature::showPage(const Page* chosen)
+/// Greys "Fill..." and hides mirror and rotation. False when a receiver of what this makes the
+/// rotation send has deleted the dialog.
+bool AddFeature::hidePlacing()
 {
-    for (Page* const page : std::as_const(m_pages)) {
+    const QPointer<AddFeature> self(this);
+    m_attributes->setFillEnabled(false);
+    m_pMirrorCMB->hide();
+    m_pAngleValueSB->hide();
+    return self;
+}
+
+/// False when a receiver of what a hidden field sends has deleted the dialog.
+bool AddFeature::showPage(const Page* chosen)
+{
+    const QPointer<AddFeature> self(this);
+    const QList<Page*> pages = m_pages;
+    for (Page* const page : pages) {
         page->setVisible(page == chosen);
+        if (!self) {
+            return false;
+        }
     }
+    return true;
+}
+
+bool AddFeature::hasSymbol() const
+{
+    const FeatureType type = featureType();
+    return type != FeatureType::Surface && type != FeatureType::Text;
+}
+
+/// Has the host check the symbol, and takes a refused one out of field and record.
+bool AddFeature::isSymbolAccepted()
+{
+    if (m_isSymbolChecked) {
+        return false;  // asked by a message that arrives while the box of its refusal is open
+    }
+    bool isAccepted = false;
+    m_refusals.run(m_symbol->field(), [this, &isAccepted] {
+        const QPointer<AddFeature> self(this);
+        const auto checked = qScopeGuard([self] {
+            if (self) {
+                self->m_isSymbolChecked = false;
+            }
+        });
+        m_isSymbolChecked = true;
+        const QString symbol = m_symbol->text();
+        isAccepted = m_symbol->isSpecial(symbol) || m_checks.symbolSizes(symbol);
+        if (self && !isAccepted) {
+            m_symbol->dropRefused();
+        }
+    });
+    return isAccepted;
 }
 
 void AddFeature::getChangeCurrentTool()
 {
     m_closing = false;
-    const FeatureType type = featureType();
-    const bool hasSymbol = type != FeatureType::Surface && type != FeatureType::Text;
-    if (hasSymbol) {
-        const QString symbol = m_symbol->text();
-        if (!m_symbol->isSpecial(symbol) && !m_checks.symbolSizes(symbol)) {
-            m_symbol->clear();
-            return;
-        }
+    if (!hasSymbol() || isSymbolAccepted()) {
+        m_canvas.sendRecord(m_record.map());
     }
-    m_canvas.sendRecord(m_record.map());
 }
 
 void AddFeature::on_m_pPolarityCMB_ComboBox_Changed()
@@ -286,9 +345,11 @@ void AddFeature::on_m_pMirrorCMB_ComboBox_Changed()
 
 void AddFeature::on_m_pAngleValueSB_editingFinished()
 {
-    if (m_refusals.isOpen()) {
-        return;
-    }
+    finish("m_pAngleValueSB", this, &AddFeature::storeRotation);
+}
+
+void AddFeature::storeRotation()
+{
     m_record.set(FeatureKeys::mirrorRotate,
                  QString::number(qint64(rotation()) + m_symbol->suffixDegrees()));
     getChangeCurrentTool();
@@ -298,15 +359,21 @@ void AddFeature::on_m_pSymbolTextLE_editingFinished()
 {
     // Closing the window takes the focus from the field: no entry of the user's.
     if (!m_closing) {
-        finish(m_symbol, &SymbolEntry::editingFinished);
+        finish("m_pSymbolTextLE", m_symbol, &SymbolEntry::editingFinished);
     }
 }
 
 void AddFeature::on_m_pSymbolTextLE_textChanged(QString text)
 {
-    guarded({"AddFeature.cpp", __LINE__}, [&] {
-        qCDebug(dialogLog).noquote().nospace() << "text is " << text;
-        m_symbol->keepText(text);
+    m_refusals.run(m_symbol->field(), [&] {
+        m_refusals.box([&] {
+            guarded({"AddFeature", QT_TRANSLATE_NOOP("AddFeature", "Information"), "AddFeature.cpp",
+                     __LINE__},
+                    [&] {
+                        qCDebug(dialogLog).noquote().nospace() << "text is " << text;
+                        m_symbol->keepText(text);
+                    });
+        });
     });
 }
 

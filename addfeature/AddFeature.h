@@ -27,6 +27,7 @@ class QButtonGroup;
 class QComboBox;
 class QSpinBox;
 class QVBoxLayout;
+class QWindow;
 class SurfacePage;
 class SymbolEntry;
 class TextPage;
@@ -170,15 +171,19 @@ private:
     void buildPages(QVBoxLayout* layout);
     void connectFrame();
     void retranslateFrame();
-    void showPage(const Page* chosen);
+    void stayAbove(const QWindow* active);
+    bool hidePlacing();
+    bool showPage(const Page* chosen);
+    bool hasSymbol() const;
+    bool isSymbolAccepted();
+    void storeRotation();
 
-    /// Handles an entry that has been finished, but for one that a refusal's box finishes again.
+    /// Handles the entry that has been finished in `field`.
     template <class Owner>
-    void finish(Owner* owner, void (Owner::*handler)())
+    void finish(const char* field, Owner* owner, void (Owner::*handler)())
     {
-        if (!m_refusals.isOpen()) {
-            (owner->*handler)();
-        }
+        m_refusals.report(findChild<QObject*>(QLatin1String(field)),
+                          [owner, handler] { (owner->*handler)(); });
     }
 
     void* m_ownerContext;
@@ -187,6 +192,7 @@ private:
     std::string m_step;
     bool m_metric = false;
     bool m_closing = false;
+    bool m_isSymbolChecked = false;  // while the host checks it, with a box or without
     FeatureRecord m_record;
     CanvasLink m_canvas;
     RefusalGuard m_refusals;

@@ -188,102 +188,107 @@ void AddFeature::Enter_Symbol_Text()
 
 void AddFeature::on_m_pAngleLE_editingFinished()
 {
-    finish(m_line, &LinePage::angleEdited);
+    finish("m_pAngleLE", m_line, &LinePage::angleEdited);
 }
 
 void AddFeature::on_m_pCornerRadiusLE_editingFinished()
 {
-    finish(m_line, &LinePage::cornerRadiusEdited);
+    finish("m_pCornerRadiusLE", m_line, &LinePage::cornerRadiusEdited);
 }
 
 void AddFeature::on_m_pLengthLE_editingFinished()
 {
-    finish(m_line, &LinePage::slotLengthEdited);
+    finish("m_pLengthLE", m_line, &LinePage::slotLengthEdited);
 }
 
 void AddFeature::on_m_pSlotAngleLE_editingFinished()
 {
-    finish(m_line, &LinePage::slotAngleEdited);
+    finish("m_pSlotAngleLE", m_line, &LinePage::slotAngleEdited);
 }
 
 void AddFeature::on_m_pSlotDecodeLE_editingFinished()
 {
-    finish(m_line, &LinePage::slotDecodeEdited);
+    finish("m_pSlotDecodeLE", m_line, &LinePage::slotDecodeEdited);
 }
 
 void AddFeature::on_m_pDrilNxLE_editingFinished(const QString& text)
 {
-    m_pad->nxChanged(text);
+    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pDrilNxLE")),
+                   [&] { m_pad->nxChanged(text); });
 }
 
 void AddFeature::on_m_pDrilDxLE_editingFinished()
 {
-    finish(m_pad, &PadPage::dxEdited);
+    finish("m_pDrilDxLE", m_pad, &PadPage::dxEdited);
 }
 
 void AddFeature::on_m_pDrilXsclLE_editingFinished(const QString& text)
 {
-    m_pad->xsclChanged(text);
+    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pDrilXsclLE")),
+                   [&] { m_pad->xsclChanged(text); });
 }
 
 void AddFeature::on_m_pDrilNyLE_editingFinished(const QString& text)
 {
-    m_pad->nyChanged(text);
+    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pDrilNyLE")),
+                   [&] { m_pad->nyChanged(text); });
 }
 
 void AddFeature::on_m_pDrilDyLE_editingFinished()
 {
-    finish(m_pad, &PadPage::dyEdited);
+    finish("m_pDrilDyLE", m_pad, &PadPage::dyEdited);
 }
 
 void AddFeature::on_m_pDrilYsclLE_editingFinished(const QString& text)
 {
-    m_pad->ysclChanged(text);
+    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pDrilYsclLE")),
+                   [&] { m_pad->ysclChanged(text); });
 }
 
 void AddFeature::on_m_pFontLE_editingFinished()
 {
-    finish(m_text, &TextPage::fontEdited);
+    finish("m_pFontLE", m_text, &TextPage::fontEdited);
 }
 
 void AddFeature::on_m_pTextLE_editingFinished()
 {
-    finish(m_text, &TextPage::textEdited);
+    finish("m_pTextLE", m_text, &TextPage::textEdited);
 }
 
 void AddFeature::on_m_pXSizeLE_editingFinished()
 {
-    finish(&m_text->strings(), &StringPage::xSizeEdited);
+    finish("m_pXSizeLE", &m_text->strings(), &StringPage::xSizeEdited);
 }
 
 void AddFeature::on_m_pYSizeLE_editingFinished()
 {
-    finish(&m_text->strings(), &StringPage::ySizeEdited);
+    finish("m_pYSizeLE", &m_text->strings(), &StringPage::ySizeEdited);
 }
 
 void AddFeature::on_m_pLineWidthLE_editingFinished()
 {
-    finish(&m_text->strings(), &StringPage::lineWidthEdited);
+    finish("m_pLineWidthLE", &m_text->strings(), &StringPage::lineWidthEdited);
 }
 
 void AddFeature::on_m_pHeightLE_editingFinished()
 {
-    finish(&m_text->barcode(), &BarcodePage::heightEdited);
+    finish("m_pHeightLE", &m_text->barcode(), &BarcodePage::heightEdited);
 }
 
 void AddFeature::on_m_pMatrixLE_editingFinished()
 {
-    finish(&m_text->barcode(), &BarcodePage::matrixEdited);
+    finish("m_pMatrixLE", &m_text->barcode(), &BarcodePage::matrixEdited);
 }
 
 void AddFeature::on_m_pCannedHoleSizeLE_editingFinished()
 {
-    finish(&m_text->cannedText(), &CannedTextPage::holeSizeEdited);
+    finish("m_pCannedHoleSizeLE", &m_text->cannedText(), &CannedTextPage::holeSizeEdited);
 }
 
 void AddFeature::on_m_pSymbolTextLE_returnPressed()
 {
-    m_symbol->returnPressed();
+    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pSymbolTextLE")),
+                   [&] { m_symbol->returnPressed(); });
 }
 
 void AddFeature::on_m_pFillPB_clicked()

@@ -1,34 +1,71 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <utility>
+#include <vector>
 
-/// Knows while a check of the host or of the dialog may have a box open.
+class QObject;
+
+/// Sees to it that each entry is handled exactly once, whatever boxes open meanwhile.
 ///
-/// A box takes the focus from the field that is being checked, and Qt then reports that editing has
-/// finished once more. A handler that asks this guard first handles each entry once.
+/// A box takes the focus from whichever field has it, and Qt then reports that editing has
+/// finished. For the field whose handler opened the box that is the same entry once more: it is
+/// swallowed. For any other field it is an entry that was still pending, and Qt will not report it
+/// again: it is handled when the handler that opened the box has come to its end.
 class RefusalGuard {
 public:
-    bool isOpen() const { return m_depth > 0; }
+    using Handler = std::function<void()>;
 
-    /// Runs `check`, which may open a box, and returns its result.
+    RefusalGuard() : m_state(std::make_shared<State>()) {}
+    ~RefusalGuard() { m_state->isAlive = false; }
+    RefusalGuard(const RefusalGuard&) = delete;
+    RefusalGuard& operator=(const RefusalGuard&) = delete;
+
+    /// Takes the report that editing has finished in `field`: `handler` runs now, after the box
+    /// that is open, or not at all.
+    void report(const QObject* field, Handler handler);
+
+    /// Runs `handler`, which may open a box; `field`, which may be null, is what it is about.
+    void run(const QObject* field, const Handler& handler);
+
+    /// Runs `check`, which may show a box, and returns its result.
     template <class Check>
-    auto run(Check&& check)
+    auto box(Check&& check)
     {
-        const Scope scope(m_depth);
+        const Box scope(m_state);
         return std::forward<Check>(check)();
     }
 
 private:
-    class Scope {
+    struct Report {
+        const QObject* field;
+        Handler handler;
+    };
+    /// Outlives the guard where a receiver deletes the dialog inside a handler.
+    struct State {
+        bool isAlive = true;
+        int openBoxes = 0;
+        std::vector<const QObject*> handled;  // the fields whose handlers run, innermost last
+        std::vector<Report> pending;
+    };
+    class Box {
     public:
-        explicit Scope(int& depth) : m_depth(depth) { ++m_depth; }
-        ~Scope() { --m_depth; }
-        Scope(const Scope&) = delete;
-        Scope& operator=(const Scope&) = delete;
+        explicit Box(std::shared_ptr<State> state) : m_state(std::move(state))
+        {
+            ++m_state->openBoxes;
+        }
+        ~Box() { --m_state->openBoxes; }
+        Box(const Box&) = delete;
+        Box& operator=(const Box&) = delete;
 
     private:
-        int& m_depth;
+        std::shared_ptr<State> m_state;
     };
 
-    int m_depth = 0;
+    // The state by value: the guard may go inside a handler.
+    static void run(std::shared_ptr<State> state, const QObject* field, const Handler& handler);
+    static void leave(const std::shared_ptr<State>& state);
+
+    std::shared_ptr<State> m_state;
 };

@@ -112,9 +112,26 @@ QString SymbolEntry::text() const
     return m_pSymbolTextLE->text();
 }
 
-void SymbolEntry::clear()
+const QObject* SymbolEntry::field() const
 {
+    return m_pSymbolTextLE;
+}
+
+void SymbolEntry::dropRefused()
+{
+    const QString name = text();
     m_pSymbolTextLE->setText(QString());
+    FeatureRecord& record = m_host.record();
+    if (isStoredForm(record.text(FeatureKeys::symbolText), name)) {
+        record.set(FeatureKeys::symbolText, QString());
+    }
+}
+
+/// Whether `symbol` is what an entry or a pick of `name` writes.
+bool SymbolEntry::isStoredForm(const QString& symbol, const QString& name) const
+{
+    return symbol == name || symbol == stored(name) ||
+           (m_hasSuffix && symbol == stored(name.left(name.lastIndexOf(QLatin1Char('_')))));
 }
 
 void SymbolEntry::retranslate()
@@ -180,8 +197,8 @@ void SymbolEntry::storeRotation(int suffixDegrees)
 
 void SymbolEntry::refuse(const QString& title, const QString& text)
 {
-    m_host.refusals().run([&] { QMessageBox::warning(this, title, text); });
-    clear();
+    m_host.refusals().box([&] { QMessageBox::warning(this, title, text); });
+    m_pSymbolTextLE->setText(QString());
     m_host.record().set(FeatureKeys::symbolText, this->text());
 }
 
@@ -293,9 +310,7 @@ void SymbolEntry::picked(const std::map<int, std::string>& symbols)
         }
         QString name = QString::fromStdString(symbol.second);
         if (m_host.featureType() == FeatureType::Arc && !isRound(name)) {
-            m_host.refusals().run([&] {
-                QMessageBox::warning(this, tr("Dialog Box"), tr("Illegal symbol name: ") + name);
-            });
+            refusePick(name);
             continue;
         }
         if (isMetric()) {
@@ -306,6 +321,17 @@ void SymbolEntry::picked(const std::map<int, std::string>& symbols)
         togglePick();
         m_host.sendRecord();
     }
+}
+
+/// A handler of its own: what was pending in a field is taken before the next pick.
+void SymbolEntry::refusePick(const QString& name)
+{
+    RefusalGuard& refusals = m_host.refusals();
+    refusals.run(nullptr, [&] {
+        refusals.box([&] {
+            QMessageBox::warning(this, tr("Dialog Box"), tr("Illegal symbol name: ") + name);
+        });
+    });
 }
 
 void SymbolEntry::togglePick()

@@ -29,7 +29,10 @@ public:
     SymbolEntry(SymbolHost& host, QObject* slotOwner, QWidget* parent);
 
     QString text() const;
-    void clear();
+    /// The name field, as the guard of refusals knows it.
+    const QObject* field() const;
+    /// Empties the field, and the record's symbol where it is the one that the field shows.
+    void dropRefused();
     void retranslate();
     /// Lets the field accept what the chosen feature type accepts.
     void applyFeatureType();
@@ -64,6 +67,8 @@ private:
     void storeRotation(int suffixDegrees);
     void storeEntry();
     void refuse(const QString& title, const QString& text);
+    void refusePick(const QString& name);
+    bool isStoredForm(const QString& symbol, const QString& name) const;
 
     SymbolHost& m_host;
     QObject* m_slotOwner;

@@ -34,7 +34,7 @@ bool ValueChecks::length(const QString& text, double boundInMil, bool isMetric) 
     if (isNumber && within(isMetric ? value / Units::factor : value, 0, boundInMil)) {
         return true;
     }
-    m_refusals.run([&] {
+    m_refusals.box([&] {
         const double bound = ZENTRA::UIAPI::getUnitJudgeDouble(m_ownerContext, boundInMil);
         QMessageBox::information(m_window, tr("Information"),
                                  tr("The current text box can only enter a value from 0 to") +
@@ -49,7 +49,7 @@ bool ValueChecks::coordinate(double value, bool isMetric) const
     if (within(value, -bound, bound)) {
         return true;
     }
-    m_refusals.run([&] {
+    m_refusals.box([&] {
         QMessageBox::warning(m_window, tr("Information"),
                              tr("The current value out of range:") +
                                  QStringLiteral("%1 to %2").arg(-bound).arg(bound));
@@ -59,13 +59,13 @@ bool ValueChecks::coordinate(double value, bool isMetric) const
 
 bool ValueChecks::number(double value, double minimum, double maximum) const
 {
-    return m_refusals.run(
+    return m_refusals.box(
         [&] { return ZENTRA::UIAPI::isNumValueLegal(value, minimum, maximum, m_ownerContext); });
 }
 
 bool ValueChecks::symbolSizes(const QString& name) const
 {
-    return m_refusals.run([&] {
+    return m_refusals.box([&] {
         return ZENTRA::UIAPI::isSymbolValueLegal(name, symbolSizeMinimum, symbolSizeMaximum,
                                                  m_ownerContext);
     });

@@ -11,9 +11,9 @@ namespace {
 constexpr char positionPrefix[] = "\xD2\xEC\xB3\xA3\xCE\xBB\xD6\xC3\xA3\xBA";
 constexpr char descriptionPrefix[] = "\xD2\xEC\xB3\xA3\xC3\xE8\xCA\xF6\xA3\xBA";
 
-void show(const char* text)
+void show(const GuardPosition& position, const char* text)
 {
-    QMessageBox::information(nullptr, QCoreApplication::translate("Guard", "Information"),
+    QMessageBox::information(nullptr, QCoreApplication::translate(position.context, position.title),
                              QString::fromUtf8(text), QMessageBox::Ok);
 }
 
@@ -25,10 +25,10 @@ void reportThrownText(const GuardPosition& position, const char* text)
         << positionPrefix << position.file << " : " << position.line;
     google::LogMessage(position.file, position.line, google::GLOG_ERROR).stream()
         << descriptionPrefix << text;
-    show(text);
+    show(position, text);
 }
 
-void reportException(const std::exception& exception)
+void reportException(const GuardPosition& position, const std::exception& exception)
 {
-    show(exception.what());
+    show(position, exception.what());
 }

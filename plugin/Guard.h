@@ -2,9 +2,11 @@
 
 #include <exception>
 
-/// Where a guard stands, for the log.
+/// Where a guard stands.
 struct GuardPosition {
-    const char* file;
+    const char* context;  ///< of translation: the class whose slot is guarded
+    const char* title;    ///< of the box, marked with QT_TRANSLATE_NOOP in that context
+    const char* file;     ///< for the log, as the line
     int line;
 };
 
@@ -12,7 +14,7 @@ struct GuardPosition {
 void reportThrownText(const GuardPosition& position, const char* text);
 
 /// Shows the message of a standard exception in the same box.
-void reportException(const std::exception& exception);
+void reportException(const GuardPosition& position, const std::exception& exception);
 
 /// Runs `action`, which calls the host, and reports what it throws: a text or a standard exception.
 /// Anything else passes on. True when `action` came to its end.
@@ -25,7 +27,7 @@ bool guarded(const GuardPosition& position, Action&& action)
     } catch (const char* text) {
         reportThrownText(position, text);
     } catch (const std::exception& exception) {
-        reportException(exception);
+        reportException(position, exception);
     }
     return false;
 }

@@ -11,5 +11,5 @@ void* GetPluginInstance(QWidget* parent)
 
 void recMsgFromManager(void* instance, PluginMetaData message)
 {
-    static_cast<Canvas_Tool_Strip*>(instance)->handleMessage(message);
+    static_cast<Canvas_Tool_Strip*>(instance)->recMsgFromManager(message);
 }

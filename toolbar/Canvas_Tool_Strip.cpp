@@ -118,8 +118,10 @@ void Canvas_Tool_Strip::setText()
 void Canvas_Tool_Strip::change_unit()
 {
     QString unit;
-    const bool known = guarded({"Canvas_Tool_Strip.cpp", __LINE__},
-                               [&] { unit = ZENTRA::UIAPI::getUnitString(m_parent); });
+    const bool known =
+        guarded({"Canvas_Tool_Strip", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Information"),
+                 "Canvas_Tool_Strip.cpp", __LINE__},
+                [&] { unit = ZENTRA::UIAPI::getUnitString(m_parent); });
     if (known) {
         Q_EMIT Current_Unit_Changed(unit == QLatin1String("MM"));
     }

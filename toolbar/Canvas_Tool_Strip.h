@@ -39,9 +39,6 @@ public:
     /// Takes a message of a sibling module; an unknown code does nothing.
     void recMsgFromManager(PluginMetaData message);
 
-    /// The same, for a caller that has a copy of its own: the exported entry point.
-    void handleMessage(const PluginMetaData& message);
-
     /// Sets every button's checked state to `checked`, but `except`, which is checked. Null: none
     /// is excepted.
     void SetAllButtonchecked(bool checked, QToolButton* except);

@@ -115,11 +115,6 @@ const Canvas_Tool_Strip::Incoming* Canvas_Tool_Strip::Incoming::find(int code)
 
 void Canvas_Tool_Strip::recMsgFromManager(PluginMetaData message)
 {
-    handleMessage(message);
-}
-
-void Canvas_Tool_Strip::handleMessage(const PluginMetaData& message)
-{
     if (const Incoming* const incoming = Incoming::find(message.code)) {
         incoming->act(*this, message);
     }

@@ -615,9 +615,6 @@
         <source>EQ</source>
         <translation>EQ</translation>
     </message>
-</context>
-<context>
-    <name>Guard</name>
     <message>
         <source>Information</source>
         <translation>提示</translation>

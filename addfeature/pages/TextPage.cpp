@@ -15,7 +15,7 @@
 #include <ui_api.h>
 
 #include <QComboBox>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QRegExpValidator>
 
@@ -39,6 +39,14 @@ constexpr int fontList = 17;
 constexpr int shownCharacters = 6;
 const QString standardFont = QStringLiteral("standard");
 const char textPattern[] = "^[A-Za-z0-9`~!@#$%^&*()\\-_=+<>,./ ]{0,}$";
+
+QLayout* fieldRow(QWidget* button, QWidget* field)
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(button);
+    row->addWidget(field, 1);
+    return row;
+}
 
 void present(QWidget* window)
 {
@@ -111,12 +119,6 @@ void TextPage::layOut()
     formatRow->addWidget(m_format);
     formatRow->addWidget(m_barcodeType);
 
-    auto* fields = new QGridLayout;
-    fields->addWidget(m_fontButton, 0, 0);
-    fields->addWidget(m_font, 0, 1);
-    fields->addWidget(m_textButton, 1, 0);
-    fields->addWidget(m_text, 1, 1);
-
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addLayout(formatRow);
@@ -124,7 +126,8 @@ void TextPage::layOut()
         rows->addWidget(page);
     }
     rows->addItem(new QSpacerItem(1, 2, QSizePolicy::Minimum, QSizePolicy::Expanding));
-    rows->addLayout(fields);
+    rows->addLayout(fieldRow(m_fontButton, m_font));
+    rows->addLayout(fieldRow(m_textButton, m_text));
 }
 
 void TextPage::writeDefaults()
@@ -158,6 +161,10 @@ void TextPage::retranslate()
     m_font->setAccessibleName(tr("Font"));
     m_textButton->setText(tr("Text\t\t:"));
     m_text->setAccessibleName(tr("Text"));
+    // Rows of their own, whose fields begin at one line.
+    const int width = qMax(m_fontButton->sizeHint().width(), m_textButton->sizeHint().width());
+    m_fontButton->setMinimumWidth(width);
+    m_textButton->setMinimumWidth(width);
     for (Page* page : m_subPages) {
         page->retranslate();
     }

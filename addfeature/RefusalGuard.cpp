@@ -1,0 +1,48 @@
+#include "addfeature/RefusalGuard.h"
+
+#include <algorithm>
+
+void RefusalGuard::report(const QObject* field, Handler handler)
+{
+    if (m_state->openBoxes == 0) {
+        run(field, handler);
+        return;
+    }
+    const std::vector<const QObject*>& handled = m_state->handled;
+    const bool isTheSameEntry = std::find(handled.begin(), handled.end(), field) != handled.end();
+    std::vector<Report>& pending = m_state->pending;
+    const bool isNoted = std::any_of(pending.begin(), pending.end(), [field](const Report& report) {
+        return report.field == field;
+    });
+    if (!isTheSameEntry && !isNoted) {
+        pending.push_back({field, std::move(handler)});
+    }
+}
+
+void RefusalGuard::run(const QObject* field, const Handler& handler)
+{
+    run(m_state, field, handler);
+}
+
+void RefusalGuard::run(std::shared_ptr<State> state, const QObject* field, const Handler& handler)
+{
+    state->handled.push_back(field);
+    try {
+        handler();
+    } catch (...) {
+        leave(state);
+        throw;
+    }
+    leave(state);
+}
+
+/// When the outermost handler ends, what was reported while its boxes were open has its turn.
+void RefusalGuard::leave(const std::shared_ptr<State>& state)
+{
+    state->handled.pop_back();
+    if (state->isAlive && state->handled.empty() && !state->pending.empty()) {
+        const Report next = std::move(state->pending.front());
+        state->pending.erase(state->pending.begin());
+        run(state, next.field, next.handler);
+    }
+}
