@@ -1,9 +1,9 @@
 #include "addfeature/SymbolEntry.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/RefusalGuard.h"
 #include "addfeature/SymbolHost.h"
+#include "plugin/RecordKeys.h"
 
 #include <cam_api.h>
 #include <common_widgets.h>
@@ -174,7 +174,7 @@ int SymbolEntry::suffixDegrees() const
 
 void SymbolEntry::storeRotation(int suffixDegrees)
 {
-    m_host.record().set(FeatureKeys::mirrorRotate,
+    m_host.record().set(RecordKeys::mirrorRotate,
                         QString::number(qint64(m_host.rotation()) + suffixDegrees));
 }
 
@@ -182,7 +182,7 @@ void SymbolEntry::refuse(const QString& title, const QString& text)
 {
     m_host.refusals().run([&] { QMessageBox::warning(this, title, text); });
     clear();
-    m_host.record().set(FeatureKeys::symbolText, this->text());
+    m_host.record().set(RecordKeys::symbolText, this->text());
 }
 
 void SymbolEntry::chosen(const QString& name)
@@ -196,7 +196,7 @@ void SymbolEntry::enterText()
     if (text().isEmpty()) {
         return;
     }
-    m_host.record().set(FeatureKeys::symbolText, stored(text()));
+    m_host.record().set(RecordKeys::symbolText, stored(text()));
     storeRotation(0);
     m_host.sendRecord();
 }
@@ -235,11 +235,11 @@ void SymbolEntry::storeEntry()
         name.truncate(name.lastIndexOf(QLatin1Char('_')));
     }
     if (isStandard(name, type == FeatureType::Arc)) {
-        m_host.record().set(FeatureKeys::symbolText, stored(name));
+        m_host.record().set(RecordKeys::symbolText, stored(name));
     } else if (isSpecial(name)) {
-        m_host.record().set(FeatureKeys::symbolText, name);
+        m_host.record().set(RecordKeys::symbolText, name);
     } else if (text().isEmpty()) {
-        m_host.record().set(FeatureKeys::symbolText, QString());
+        m_host.record().set(RecordKeys::symbolText, QString());
     } else {
         refuse(tr("Illegal Input"), tr("Unable to create special symbol!"));
     }
@@ -249,7 +249,7 @@ void SymbolEntry::returnPressed()
 {
     const QString typed = text().left(m_pSymbolTextLE->cursorPosition());
     m_pSymbolTextLE->setText(typed);
-    m_host.record().set(FeatureKeys::symbolText, stored(typed));
+    m_host.record().set(RecordKeys::symbolText, stored(typed));
     m_host.sendRecord();
 }
 
@@ -302,7 +302,7 @@ void SymbolEntry::picked(const std::map<int, std::string>& symbols)
             name = ZENTRA::UIAPI::setSymbolUIData(name, storedToMetric);
         }
         m_pSymbolTextLE->setText(name);
-        m_host.record().set(FeatureKeys::symbolText, name);
+        m_host.record().set(RecordKeys::symbolText, name);
         togglePick();
         m_host.sendRecord();
     }
