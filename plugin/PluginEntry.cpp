@@ -3,6 +3,7 @@
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <new>
+#include <utility>
 
 void* GetPluginInstance(QWidget* parent)
 {
@@ -11,5 +12,5 @@ void* GetPluginInstance(QWidget* parent)
 
 void recMsgFromManager(void* instance, PluginMetaData message)
 {
-    static_cast<Canvas_Tool_Strip*>(instance)->handleMessage(message);
+    static_cast<Canvas_Tool_Strip*>(instance)->recMsgFromManager(std::move(message));
 }
