@@ -1,7 +1,6 @@
 #include "addfeature/AddFeature.h"
 
 #include "addfeature/AttributeRow.h"
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/SymbolEntry.h"
 #include "addfeature/pages/ArcPage.h"
 #include "addfeature/pages/Choices.h"
@@ -10,6 +9,7 @@
 #include "addfeature/pages/SurfacePage.h"
 #include "addfeature/pages/TextPage.h"
 #include "plugin/Guard.h"
+#include "plugin/RecordKeys.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <QButtonGroup>
@@ -48,10 +48,10 @@ constexpr TypeButton typeButtons[] = {
     {"m_pTextTB", "Text1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Text")},
 };
 
-const Choices polarities = {{QT_TRANSLATE_NOOP("AddFeature", "Positive"), FeatureValues::one},
-                            {QT_TRANSLATE_NOOP("AddFeature", "Negative"), FeatureValues::zero}};
-const Choices mirrors = {{QT_TRANSLATE_NOOP("AddFeature", "Mir"), FeatureValues::one},
-                         {QT_TRANSLATE_NOOP("AddFeature", "No Mir"), FeatureValues::two}};
+const Choices polarities = {{QT_TRANSLATE_NOOP("AddFeature", "Positive"), RecordValues::one},
+                            {QT_TRANSLATE_NOOP("AddFeature", "Negative"), RecordValues::zero}};
+const Choices mirrors = {{QT_TRANSLATE_NOOP("AddFeature", "Mir"), RecordValues::one},
+                         {QT_TRANSLATE_NOOP("AddFeature", "No Mir"), RecordValues::two}};
 constexpr int notMirrored = 1;
 
 }  // namespace
@@ -95,7 +95,7 @@ void AddFeature::buildTypeRow(QVBoxLayout* layout)
     row->addStretch();
     layout->addLayout(row);
     m_featureGroup->button(static_cast<int>(FeatureType::Line))->setChecked(true);
-    m_record.set(FeatureKeys::features, FeatureValues::one);
+    m_record.set(RecordKeys::features, RecordValues::one);
 }
 
 void AddFeature::buildCommonRows(QVBoxLayout* layout)
@@ -107,7 +107,7 @@ void AddFeature::buildCommonRows(QVBoxLayout* layout)
     m_pPolarityCMB->setObjectName(QStringLiteral("m_pPolarityCMB"));
     fillChoices(m_pPolarityCMB, polarities);
     layout->addWidget(m_pPolarityCMB);
-    m_record.set(FeatureKeys::polarity, FeatureValues::one);
+    m_record.set(RecordKeys::polarity, RecordValues::one);
 
     m_pMirrorCMB = new QComboBox(this);
     m_pMirrorCMB->setObjectName(QStringLiteral("m_pMirrorCMB"));
@@ -115,18 +115,18 @@ void AddFeature::buildCommonRows(QVBoxLayout* layout)
     m_pMirrorCMB->setCurrentIndex(notMirrored);
     m_pMirrorCMB->hide();
     layout->addWidget(m_pMirrorCMB);
-    m_record.set(FeatureKeys::mirror, FeatureValues::two);
+    m_record.set(RecordKeys::mirror, RecordValues::two);
 
     m_pAngleValueSB = new QSpinBox(this);
     m_pAngleValueSB->setObjectName(QStringLiteral("m_pAngleValueSB"));
     m_pAngleValueSB->setRange(0, maximumRotation);
     m_pAngleValueSB->hide();
     layout->addWidget(m_pAngleValueSB);
-    m_record.set(FeatureKeys::mirrorRotate, QString::number(m_pAngleValueSB->value()));
+    m_record.set(RecordKeys::mirrorRotate, QString::number(m_pAngleValueSB->value()));
 
     m_symbol = new SymbolEntry(*this, this, this);
     layout->addWidget(m_symbol);
-    m_record.set(FeatureKeys::symbolText, m_symbol->text());
+    m_record.set(RecordKeys::symbolText, m_symbol->text());
 }
 
 void AddFeature::buildPages(QVBoxLayout* layout)
@@ -249,7 +249,7 @@ void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
     }
     const FeatureType type = featureType();
     const int id = static_cast<int>(type);
-    m_record.set(FeatureKeys::features, id + 1);
+    m_record.set(RecordKeys::features, id + 1);
     if (id >= 0 && id < m_pages.size()) {
         const bool isPlaced = type == FeatureType::Pad || type == FeatureType::Text;
         m_symbol->applyFeatureType();
@@ -330,7 +330,7 @@ void AddFeature::getChangeCurrentTool()
 void AddFeature::on_m_pPolarityCMB_ComboBox_Changed()
 {
     if (const Choice* const polarity = currentChoice(m_pPolarityCMB, polarities)) {
-        m_record.set(FeatureKeys::polarity, polarity->value);
+        m_record.set(RecordKeys::polarity, polarity->value);
     }
     getChangeCurrentTool();
 }
@@ -338,7 +338,7 @@ void AddFeature::on_m_pPolarityCMB_ComboBox_Changed()
 void AddFeature::on_m_pMirrorCMB_ComboBox_Changed()
 {
     if (const Choice* const mirror = currentChoice(m_pMirrorCMB, mirrors)) {
-        m_record.set(FeatureKeys::mirror, mirror->value);
+        m_record.set(RecordKeys::mirror, mirror->value);
     }
     getChangeCurrentTool();
 }
@@ -350,7 +350,7 @@ void AddFeature::on_m_pAngleValueSB_editingFinished()
 
 void AddFeature::storeRotation()
 {
-    m_record.set(FeatureKeys::mirrorRotate,
+    m_record.set(RecordKeys::mirrorRotate,
                  QString::number(qint64(rotation()) + m_symbol->suffixDegrees()));
     getChangeCurrentTool();
 }

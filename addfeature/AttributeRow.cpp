@@ -1,8 +1,8 @@
 #include "addfeature/AttributeRow.h"
 
 #include "addfeature/CanvasLink.h"
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
+#include "plugin/RecordKeys.h"
 
 #include <common_widgets.h>
 
@@ -34,7 +34,7 @@ AttributeRow::AttributeRow(FeatureRecord& record, const CanvasLink& canvas, QWid
     row->addWidget(m_pValuesPB);
     row->addWidget(m_pFillPB);
     retranslate();
-    m_record.set(FeatureKeys::attributes, FeatureValues::zero);
+    m_record.set(RecordKeys::attributes, RecordValues::zero);
 
     connect(m_pAttributesCB, SIGNAL(stateChanged(int)), dialog,
             SLOT(on_Attribute_CheckState_Changed(int)));
@@ -72,7 +72,7 @@ void AttributeRow::setFillEnabled(bool enabled)
 void AttributeRow::stateChanged()
 {
     const bool checked = m_pAttributesCB->isChecked();
-    m_record.set(FeatureKeys::attributes, checked ? FeatureValues::one : FeatureValues::zero);
+    m_record.set(RecordKeys::attributes, checked ? RecordValues::one : RecordValues::zero);
     m_pValuesPB->setVisible(checked);
     if (!checked) {
         m_attributes.clear();

@@ -1,5 +1,6 @@
 #include "addfeature/CanvasLink.h"
 
+#include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 
@@ -60,7 +61,7 @@ void CanvasLink::sendDirection(const QMap<QString, QVariant>& record) const
 void CanvasLink::sendAttributes(const std::map<std::string, std::string>& attributes) const
 {
     PluginMetaData message = messageToCanvas(Sent::AttributeMap);
-    message.extra = static_cast<qint64>(reinterpret_cast<quintptr>(&attributes));
+    message.extra = ExtraWord::pointingAt(attributes);
     hand(m_sender, std::move(message));
 }
 

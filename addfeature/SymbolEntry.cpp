@@ -1,9 +1,9 @@
 #include "addfeature/SymbolEntry.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/RefusalGuard.h"
 #include "addfeature/SymbolHost.h"
+#include "plugin/RecordKeys.h"
 
 #include <cam_api.h>
 #include <common_widgets.h>
@@ -122,8 +122,8 @@ void SymbolEntry::dropRefused()
     const QString name = text();
     m_pSymbolTextLE->setText(QString());
     FeatureRecord& record = m_host.record();
-    if (isStoredForm(record.text(FeatureKeys::symbolText), name)) {
-        record.set(FeatureKeys::symbolText, QString());
+    if (isStoredForm(record.text(RecordKeys::symbolText), name)) {
+        record.set(RecordKeys::symbolText, QString());
     }
 }
 
@@ -191,7 +191,7 @@ int SymbolEntry::suffixDegrees() const
 
 void SymbolEntry::storeRotation(int suffixDegrees)
 {
-    m_host.record().set(FeatureKeys::mirrorRotate,
+    m_host.record().set(RecordKeys::mirrorRotate,
                         QString::number(qint64(m_host.rotation()) + suffixDegrees));
 }
 
@@ -199,7 +199,7 @@ void SymbolEntry::refuse(const QString& title, const QString& text)
 {
     m_host.refusals().box([&] { QMessageBox::warning(this, title, text); });
     m_pSymbolTextLE->setText(QString());
-    m_host.record().set(FeatureKeys::symbolText, this->text());
+    m_host.record().set(RecordKeys::symbolText, this->text());
 }
 
 void SymbolEntry::chosen(const QString& name)
@@ -213,7 +213,7 @@ void SymbolEntry::enterText()
     if (text().isEmpty()) {
         return;
     }
-    m_host.record().set(FeatureKeys::symbolText, stored(text()));
+    m_host.record().set(RecordKeys::symbolText, stored(text()));
     storeRotation(0);
     m_host.sendRecord();
 }
@@ -252,11 +252,11 @@ void SymbolEntry::storeEntry()
         name.truncate(name.lastIndexOf(QLatin1Char('_')));
     }
     if (isStandard(name, type == FeatureType::Arc)) {
-        m_host.record().set(FeatureKeys::symbolText, stored(name));
+        m_host.record().set(RecordKeys::symbolText, stored(name));
     } else if (isSpecial(name)) {
-        m_host.record().set(FeatureKeys::symbolText, name);
+        m_host.record().set(RecordKeys::symbolText, name);
     } else if (text().isEmpty()) {
-        m_host.record().set(FeatureKeys::symbolText, QString());
+        m_host.record().set(RecordKeys::symbolText, QString());
     } else {
         refuse(tr("Illegal Input"), tr("Unable to create special symbol!"));
     }
@@ -266,7 +266,7 @@ void SymbolEntry::returnPressed()
 {
     const QString typed = text().left(m_pSymbolTextLE->cursorPosition());
     m_pSymbolTextLE->setText(typed);
-    m_host.record().set(FeatureKeys::symbolText, stored(typed));
+    m_host.record().set(RecordKeys::symbolText, stored(typed));
     m_host.sendRecord();
 }
 
@@ -317,7 +317,7 @@ void SymbolEntry::picked(const std::map<int, std::string>& symbols)
             name = ZENTRA::UIAPI::setSymbolUIData(name, storedToMetric);
         }
         m_pSymbolTextLE->setText(name);
-        m_host.record().set(FeatureKeys::symbolText, name);
+        m_host.record().set(RecordKeys::symbolText, name);
         togglePick();
         m_host.sendRecord();
     }

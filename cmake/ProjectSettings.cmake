@@ -47,9 +47,9 @@ endif()
 
 set(CTS_PRECOMPILED_HEADERS <QtWidgets> <map> <string> <vector>)
 
-# cts_library(<target> <SHARED|OBJECT> <sources...>): the settings above, and Qt's headers precompiled.
+# cts_library(<target> <SHARED|STATIC|OBJECT> <sources...>): the settings above, and Qt's headers precompiled.
 function(cts_library target kind)
     add_library(${target} ${kind} ${ARGN})
-    target_link_libraries(${target} PRIVATE cts_settings)
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:cts_settings>)
     target_precompile_headers(${target} PRIVATE ${CTS_PRECOMPILED_HEADERS})
 endfunction()

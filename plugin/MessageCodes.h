@@ -1,11 +1,16 @@
 #pragma once
 
-/// Every message code that this module sends or accepts. Nowhere else do the numbers stand.
+#include <QObject>
+
+/// Every message code that this module sends or accepts. Nowhere else do the numbers stand. Both
+/// enumerations are known to Qt, so that programs for people can show a code by its name here.
 namespace MessageCodes {
 
 /// To "Canvas_Viewer.dll" (AddFeatureStarted alone goes to "Canvas_JobTree.dll"). A tool with a
 /// second code, ...Off, sends it when its button is not checked at the moment of sending.
 namespace Sent {
+Q_NAMESPACE
+
 enum Code : int {
     Unset = -1,  ///< a message that was built and given no code
 
@@ -57,10 +62,16 @@ enum Code : int {
     Fill = 53,                    ///< fill the surface that is being drawn
     SelectFromEditor = 20002838,  ///< asks for attributes; sent under "Canvas_RuleMenu.dll"
 };
+Q_ENUM_NS(Code)
+
+/// The name of `code` as it stands above; null for any other number.
+const char* nameOf(int code);
 }  // namespace Sent
 
 /// From siblings, through the exported recMsgFromManager. Any other code is ignored.
 namespace Accepted {
+Q_NAMESPACE
+
 enum Code : int {
     ReleaseAll = 10000205,
     AreaZoom = 20000201,
@@ -86,6 +97,10 @@ enum Code : int {
     DeleteFeature = 20004603,
     MoveFeature = 20004604,
 };
+Q_ENUM_NS(Code)
+
+/// The name of `code` as it stands above; null for any other number.
+const char* nameOf(int code);
 }  // namespace Accepted
 
 }  // namespace MessageCodes

@@ -8,12 +8,11 @@
 /// a receiver may keep what it was sent.
 namespace ModuleNames {
 
-inline const QString toolStrip = QString::fromLatin1("Canvas_Tool_Strip.dll");  ///< this module
-inline const QString viewer = QString::fromLatin1("Canvas_Viewer.dll");         ///< the canvas
-inline const QString jobTree = QString::fromLatin1("Canvas_JobTree.dll");  ///< told of Add Feature
-inline const QString ruleMenu =
-    QString::fromLatin1("Canvas_RuleMenu.dll");  ///< see SelectFromEditor
+inline const QString toolStrip(QLatin1String("Canvas_Tool_Strip.dll"));  ///< this module
+inline const QString viewer(QLatin1String("Canvas_Viewer.dll"));         ///< the canvas
+inline const QString jobTree(QLatin1String("Canvas_JobTree.dll"));       ///< told of Add Feature
+inline const QString ruleMenu(QLatin1String("Canvas_RuleMenu.dll"));     ///< see SelectFromEditor
 /// The sender of FeatureHighLight: without ".dll", which is how the canvas knows it. Deliberate.
-inline const QString bareToolStrip = QString::fromLatin1("Canvas_Tool_Strip");
+inline const QString bareToolStrip(QLatin1String("Canvas_Tool_Strip"));
 
 }  // namespace ModuleNames

@@ -42,12 +42,11 @@ Canvas_Tool_Strip::Canvas_Tool_Strip(QWidget* parent)
         connect(m_parent, &QObject::destroyed, this, &Canvas_Tool_Strip::forgetParent);
     }
     createButtons();
-    connect(button(Tool::DeleteFeature), SIGNAL(customContextMenuRequested(QPoint)), this,
-            SLOT(On_DeleteFeat_customContextMenuRequested(QPoint)));
-    connect(button(Tool::SelectByNet), SIGNAL(customContextMenuRequested(QPoint)), this,
-            SLOT(On_SelectPolyline_customContextMenuRequested(QPoint)));
-    connect(button(Tool::Mark), SIGNAL(customContextMenuRequested(QPoint)), this,
-            SLOT(on_mark_customContextMenuRequested(QPoint)));
+    for (const ToolTable::Menu& menu : ToolTable::menus()) {
+        button(menu.owner)->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(button(menu.owner), SIGNAL(customContextMenuRequested(QPoint)), this,
+                menu.openSlot);
+    }
     SetAllButtonchecked(false, button(Tool::AreaZoom));
 }
 
@@ -72,9 +71,6 @@ void Canvas_Tool_Strip::createButtons()
         m_buttons.append(tool);
         connect(tool, SIGNAL(clicked()), this, row.clickSlot);
     }
-    for (const Tool tool : {Tool::DeleteFeature, Tool::SelectByNet, Tool::Mark}) {
-        button(tool)->setContextMenuPolicy(Qt::CustomContextMenu);
-    }
     // Only ever hidden: showing a button that has no parent yet would open a window.
     if (!isEqVisible) {
         button(Tool::Eq)->hide();
@@ -91,28 +87,14 @@ void Canvas_Tool_Strip::forgetParent()
 void Canvas_Tool_Strip::setText()
 {
     Q_EMIT language_changed();
-    for (int index = 0; index < ToolTable::toolCount; ++index) {
-        const ToolTable::Tip& tip = ToolTable::row(static_cast<Tool>(index)).tip;
-        if (static_cast<Tool>(index) == Tool::SelectByNet) {
-            // A capital N, unlike at construction: deliberate.
-            nameTool(m_buttons[index], tr("Select By Net"));
-        } else if (static_cast<Tool>(index) != Tool::Eq) {
-            nameTool(m_buttons[index], tr(tip.text, tip.note));
+    for (int tool = 0; tool < ToolTable::toolCount; ++tool) {
+        const ToolTable::Row& row = ToolTable::rows()[tool];
+        const ToolTable::Tip tip = row.laterTip.value_or(row.tip);
+        if (tip.text) {
+            nameTool(m_buttons[tool], tr(tip.text, tip.note));
         }
     }
-    // The delete entries and "Setting" keep their texts, and "Select_Polyline" gains its
-    // underscore: deliberate.
-    if (m_netMenu) {
-        const QList<QAction*> entries = m_netMenu->actions();
-        entries[0]->setText(tr("Select Layer Net"));
-        entries[1]->setText(tr("Select Board Net"));
-        entries[2]->setText(tr("Select_Polyline"));
-    }
-    if (m_markMenu) {
-        const QList<QAction*> entries = m_markMenu->actions();
-        entries[0]->setText(tr("Mark Orthogonal"));
-        entries[1]->setText(tr("Mark Point to Point"));
-    }
+    retitleMenus();
 }
 
 void Canvas_Tool_Strip::change_unit()

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QString>
 
+#include <array>
 #include <map>
 #include <string>
 #include <utility>
@@ -22,8 +23,8 @@ class QMenu;
 class QPoint;
 class QToolButton;
 
-/// The edit toolbar: a grid of 26 checkable tool buttons. It tells the canvas which tool is active,
-/// and opens the Add Feature dialog and the measure popup; the canvas does the rest.
+/// The edit toolbar: a grid of checkable tool buttons, one a tool. It tells the canvas which tool
+/// is active, and opens the Add Feature dialog and the measure popup; the canvas does the rest.
 ///
 /// It is a layout, which the host places in the widget that it passed to the constructor. The
 /// buttons, menus and windows are children of that widget and go with it. GUI thread only.
@@ -43,7 +44,7 @@ public:
     /// is excepted.
     void SetAllButtonchecked(bool checked, QToolButton* except);
 
-    /// Whether the tool at `index` (0 to 25, grid order) is checked; false outside.
+    /// Whether the tool at `index` (from 0, grid order) is checked; false outside.
     bool isToolButtonChecked(int index) const;
 
     /// Starts area zoom from the canvas's right-click: every button ends released.
@@ -88,8 +89,8 @@ public Q_SLOTS:
     void On_RectSelection_Clicked();
     void On_PolygonSelection_Clicked();
     void On_SelectPolyline_Clicked();
-    /// Selects by net in the mode `datatype`: 20000242, 20000244 or 20000245. Any other value is
-    /// stored too, and sent as code -1.
+    /// Selects by net in the mode `datatype`: the code SelectPolyline, SelectLayerNet or
+    /// SelectBoardNet. Any other value is stored too, and sent as Unset.
     void On_SelectPolyline_Clicked(int datatype);
     void on_mark_clicked();
     void on_m_pEqTB_clecked();  // spelled so deliberately: hosts know it by this name
@@ -109,8 +110,6 @@ public Q_SLOTS:
     void on_m_mark_setting_clicked();
 
 private:
-    struct Incoming;
-    struct MenuEntry;
     struct Variant;
 
     void createButtons();
@@ -123,26 +122,34 @@ private:
     void activateVariant(Tool tool, const Variant& variant);
     void send(int code, qint64 extra = 0);
     void sendAs(const QString& sender, const QString& receiver, int code, qint64 extra = 0);
-    QMenu* createMenu(Tool owner, const char* objectName, std::initializer_list<MenuEntry> entries);
+    QMenu* createMenu(const ToolTable::Menu& row);
+    void openMenu(ToolMenu which);
+    void retitleMenus();
 
     // Incoming messages
     void checkAndRun(Tool tool, void (Canvas_Tool_Strip::*handler)());
-    void selectByNet(const PluginMetaData& message);
+    void selectByNet(int mode);
     void showAddFeatureActive();
+    /// Stores job and step for the dialog that is made next; tells nobody.
     void setJobAndStep(const PluginMetaData& message);
+    /// Stores job and step, and tells the dialog when both have a name.
     void update_job_info(const PluginMetaData& message);
+    /// Takes the job's name from the extra word; the step stays, and nobody is told.
     void get_job_name(const PluginMetaData& message);
+    /// Hands symbols that were picked on the board to the dialog, whose symbol field shows one.
     void set_symbolLE_text(const PluginMetaData& message);
+    /// Hands attributes that were picked on the board to the dialog.
     void send_AttributePoint_Info(const PluginMetaData& message);
+    /// Asks the host for the unit, and tells the dialog whether it is metric.
     void change_unit();
+    /// Reads every text again in the language that is set now, the dialog's before its own.
     void setText();
 
     // The parent widget may go before this object does, and takes its children with it.
     QPointer<QWidget> m_parent;
     QList<QToolButton*> m_buttons;  // in the order of Tool; see forgetParent()
-    QPointer<QMenu> m_deleteMenu;   // the menus are made on the first right-click
-    QPointer<QMenu> m_netMenu;
-    QPointer<QMenu> m_markMenu;
+    // In the order of ToolMenu; each is made on its first right-click.
+    std::array<QPointer<QMenu>, ToolTable::menuCount> m_menus;
     QPointer<AddFeature> m_addFeature;
     QPointer<Grc_Tbe_measurepopup> m_measurePopup;
     std::string m_job = " ";

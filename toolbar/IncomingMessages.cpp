@@ -1,12 +1,11 @@
 // What a message of a sibling module does.
 
+#include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <QToolButton>
-
-#include <cstddef>
-#include <cstdint>
 
 namespace Accepted = MessageCodes::Accepted;
 
@@ -18,106 +17,39 @@ std::string payloadText(const PluginMetaData& message, const QString& key)
     return found == message.payload.constEnd() ? std::string() : found->toString().toStdString();
 }
 
-/// The object whose address the extra word holds; null for a message without one.
-template <class T>
-const T* passedObject(const PluginMetaData& message)
-{
-    return reinterpret_cast<const T*>(static_cast<quintptr>(message.extra));
-}
-
-/// Where the rows of a table of codes stand, for a look-up in one step: the codes are multiplied by
-/// a number that lets no two of them fall into one slot.
-template <size_t Count>
-class CodeIndex {
-public:
-    /// The number is looked for at compile time.
-    template <class Row>
-    constexpr explicit CodeIndex(const Row (&rows)[Count])
-    {
-        while (!fill(rows)) {
-            m_factor += 2;
-        }
-    }
-
-    /// The one row that may be that of `code`.
-    constexpr size_t candidate(int code) const { return m_rows[slot(code)]; }
-
-private:
-    static constexpr int bits = 7;
-
-    constexpr size_t slot(int code) const { return (uint32_t(code) * m_factor) >> (32 - bits); }
-
-    template <class Row>
-    constexpr bool fill(const Row (&rows)[Count])
-    {
-        bool taken[size_t(1) << bits] = {};
-        for (size_t row = 0; row < Count; ++row) {
-            const size_t at = slot(rows[row].code);
-            if (taken[at]) {
-                return false;
-            }
-            taken[at] = true;
-            m_rows[at] = uint8_t(row);
-        }
-        return true;
-    }
-
-    uint32_t m_factor = 0x9E3779B1;  // spreads well, and is odd
-    uint8_t m_rows[size_t(1) << bits] = {};
-};
-
 }  // namespace
-
-/// What each accepted code does.
-struct Canvas_Tool_Strip::Incoming {
-    using Strip = Canvas_Tool_Strip;
-    using Message = const PluginMetaData&;
-
-    int code;
-    void (*act)(Strip& strip, Message message);
-
-    static const Incoming* find(int code);
-};
-
-const Canvas_Tool_Strip::Incoming* Canvas_Tool_Strip::Incoming::find(int code)
-{
-    // clang-format off
-    static constexpr Incoming rows[] = {
-        {Accepted::ReleaseAll, [](Strip& strip, Message) { strip.SetAllButtonchecked(false, nullptr); }},
-        {Accepted::AreaZoom, [](Strip& strip, Message) { strip.On_AreaZoom_Clicked(); }},
-        {Accepted::FeatureSelection, [](Strip& strip, Message) { strip.checkAndRun(Tool::FeatureSelection, &Strip::On_FeatureSelection_Clicked); }},
-        {Accepted::RectangleSelection, [](Strip& strip, Message) { strip.checkAndRun(Tool::RectangleSelection, &Strip::On_RectSelection_Clicked); }},
-        {Accepted::PolygonSelection, [](Strip& strip, Message) { strip.checkAndRun(Tool::PolygonSelection, &Strip::On_PolygonSelection_Clicked); }},
-        {Accepted::AddFeatureActive, [](Strip& strip, Message) { strip.showAddFeatureActive(); }},
-        {Accepted::SelectPolyline, [](Strip& strip, Message message) { strip.selectByNet(message); }},
-        {Accepted::SelectLayerNet, [](Strip& strip, Message message) { strip.selectByNet(message); }},
-        {Accepted::SelectBoardNet, [](Strip& strip, Message message) { strip.selectByNet(message); }},
-        {Accepted::CheckAndMeasure, [](Strip& strip, Message) { strip.checkAndRun(Tool::Measure, &Strip::On_Measure_Clicked); }},
-        {Accepted::JobAndStep, [](Strip& strip, Message message) { strip.setJobAndStep(message); }},
-        {Accepted::Measure, [](Strip& strip, Message) { strip.On_Measure_Clicked(); }},
-        {Accepted::AttributesPicked, [](Strip& strip, Message message) { strip.send_AttributePoint_Info(message); }},
-        {Accepted::SymbolsPicked, [](Strip& strip, Message message) { strip.set_symbolLE_text(message); }},
-        {Accepted::UserSymbolsChanged, [](Strip& strip, Message) { Q_EMIT strip.refresh_user_list(); }},
-        {Accepted::JobName, [](Strip& strip, Message message) { strip.get_job_name(message); }},
-        {Accepted::UnitChanged, [](Strip& strip, Message) { strip.change_unit(); }},
-        {Accepted::LanguageChanged, [](Strip& strip, Message) { strip.setText(); }},
-        {Accepted::JobOpened, [](Strip& strip, Message message) { strip.update_job_info(message); }},
-        {Accepted::CloseDialogs, [](Strip& strip, Message) { strip.close_all_Dialogs(); }},
-        {Accepted::AddFeature, [](Strip& strip, Message) { strip.On_AddFeature_Clicked(); }},
-        {Accepted::DeleteFeature, [](Strip& strip, Message) { strip.On_DeleteFeat_Clicked(); }},
-        {Accepted::MoveFeature, [](Strip& strip, Message) { strip.On_MoveFeature_Clicked(); }},
-    };
-    // clang-format on
-    static constexpr CodeIndex index(rows);
-    const Incoming& row = rows[index.candidate(code)];
-    return row.code == code ? &row : nullptr;
-}
 
 void Canvas_Tool_Strip::recMsgFromManager(PluginMetaData message)
 {
-    if (const Incoming* const incoming = Incoming::find(message.code)) {
-        incoming->act(*this, message);
+    using Strip = Canvas_Tool_Strip;
+    // clang-format off
+    switch (message.code) {
+        case Accepted::ReleaseAll: SetAllButtonchecked(false, nullptr); break;
+        case Accepted::AreaZoom: On_AreaZoom_Clicked(); break;
+        case Accepted::FeatureSelection: checkAndRun(Tool::FeatureSelection, &Strip::On_FeatureSelection_Clicked); break;
+        case Accepted::RectangleSelection: checkAndRun(Tool::RectangleSelection, &Strip::On_RectSelection_Clicked); break;
+        case Accepted::PolygonSelection: checkAndRun(Tool::PolygonSelection, &Strip::On_PolygonSelection_Clicked); break;
+        case Accepted::AddFeatureActive: showAddFeatureActive(); break;
+        case Accepted::SelectPolyline:
+        case Accepted::SelectLayerNet:
+        case Accepted::SelectBoardNet: selectByNet(message.code); break;
+        case Accepted::CheckAndMeasure: checkAndRun(Tool::Measure, &Strip::On_Measure_Clicked); break;
+        case Accepted::JobAndStep: setJobAndStep(message); break;
+        case Accepted::Measure: On_Measure_Clicked(); break;
+        case Accepted::AttributesPicked: send_AttributePoint_Info(message); break;
+        case Accepted::SymbolsPicked: set_symbolLE_text(message); break;
+        case Accepted::UserSymbolsChanged: Q_EMIT refresh_user_list(); break;
+        case Accepted::JobName: get_job_name(message); break;
+        case Accepted::UnitChanged: change_unit(); break;
+        case Accepted::LanguageChanged: setText(); break;
+        case Accepted::JobOpened: update_job_info(message); break;
+        case Accepted::CloseDialogs: close_all_Dialogs(); break;
+        case Accepted::AddFeature: On_AddFeature_Clicked(); break;
+        case Accepted::DeleteFeature: On_DeleteFeat_Clicked(); break;
+        case Accepted::MoveFeature: On_MoveFeature_Clicked(); break;
+        default: break;
     }
+    // clang-format on
 }
 
 void Canvas_Tool_Strip::checkAndRun(Tool tool, void (Canvas_Tool_Strip::*handler)())
@@ -126,10 +58,10 @@ void Canvas_Tool_Strip::checkAndRun(Tool tool, void (Canvas_Tool_Strip::*handler
     (this->*handler)();
 }
 
-void Canvas_Tool_Strip::selectByNet(const PluginMetaData& message)
+void Canvas_Tool_Strip::selectByNet(int mode)
 {
     button(Tool::SelectByNet)->setChecked(true);
-    On_SelectPolyline_Clicked(message.code);
+    On_SelectPolyline_Clicked(mode);
 }
 
 void Canvas_Tool_Strip::showAddFeatureActive()
@@ -141,14 +73,14 @@ void Canvas_Tool_Strip::showAddFeatureActive()
 
 void Canvas_Tool_Strip::setJobAndStep(const PluginMetaData& message)
 {
-    m_job = payloadText(message, QStringLiteral("JobName"));
-    m_step = payloadText(message, QStringLiteral("Step"));
+    m_job = payloadText(message, PayloadKeys::jobName);
+    m_step = payloadText(message, PayloadKeys::step);
 }
 
 void Canvas_Tool_Strip::update_job_info(const PluginMetaData& message)
 {
-    m_job = payloadText(message, QStringLiteral("JobName"));
-    m_step = payloadText(message, QStringLiteral("StepName"));
+    m_job = payloadText(message, PayloadKeys::jobName);
+    m_step = payloadText(message, PayloadKeys::stepName);
     if (!m_job.empty() && !m_step.empty()) {
         Q_EMIT send_job_info(m_job, m_step);
     }
@@ -156,21 +88,22 @@ void Canvas_Tool_Strip::update_job_info(const PluginMetaData& message)
 
 void Canvas_Tool_Strip::get_job_name(const PluginMetaData& message)
 {
-    if (const auto* const job = passedObject<std::string>(message)) {
+    if (const auto* const job = ExtraWord::object<std::string>(message.extra)) {
         m_job = *job;
     }
 }
 
 void Canvas_Tool_Strip::set_symbolLE_text(const PluginMetaData& message)
 {
-    if (const auto* const symbols = passedObject<std::map<int, std::string>>(message)) {
+    if (const auto* const symbols = ExtraWord::object<std::map<int, std::string>>(message.extra)) {
         Q_EMIT send_Symbol_Info(*symbols);
     }
 }
 
 void Canvas_Tool_Strip::send_AttributePoint_Info(const PluginMetaData& message)
 {
-    if (const auto* const attributes = passedObject<std::map<std::string, std::string>>(message)) {
+    if (const auto* const attributes =
+            ExtraWord::object<std::map<std::string, std::string>>(message.extra)) {
         std::vector<std::pair<std::string, std::string>> list;
         list.reserve(attributes->size());  // else the map is walked once only to be counted
         for (const auto& attribute : *attributes) {

@@ -63,7 +63,7 @@ void Canvas_Tool_Strip::activate(Tool tool, qint64 extra)
     SetAllButtonchecked(false, button(tool));
     const ToolTable::Row& row = ToolTable::row(tool);
     const bool isChecked = isToolButtonChecked(static_cast<int>(tool));
-    send(isChecked ? row.onCode : row.offCode, extra);
+    sendAs(*row.sender, ModuleNames::viewer, isChecked ? row.onCode : row.offCode, extra);
 }
 
 void Canvas_Tool_Strip::On_AreaZoom_Clicked()
@@ -78,8 +78,7 @@ void Canvas_Tool_Strip::On_OpenPopView_Clicked()
 
 void Canvas_Tool_Strip::On_FeatHighLight_Clicked()
 {
-    SetAllButtonchecked(false, button(Tool::FeatureHighLight));
-    sendAs(ModuleNames::bareToolStrip, ModuleNames::viewer, Sent::FeatureHighLight);
+    activate(Tool::FeatureHighLight);
 }
 
 void Canvas_Tool_Strip::On_DeleteFeat_Clicked()

@@ -10,13 +10,6 @@
 
 namespace Sent = MessageCodes::Sent;
 
-/// An entry of a menu.
-struct Canvas_Tool_Strip::MenuEntry {
-    const char* objectName;
-    QString text;
-    const char* slot;  ///< SLOT(…) that triggered(bool) is connected to
-};
-
 /// A variant of a tool: its pictures, and the mode that goes out in the extra word.
 struct Canvas_Tool_Strip::Variant {
     int mode;
@@ -24,58 +17,53 @@ struct Canvas_Tool_Strip::Variant {
     const char* checkedImage;
 };
 
-QMenu* Canvas_Tool_Strip::createMenu(Tool owner, const char* objectName,
-                                     std::initializer_list<MenuEntry> entries)
+QMenu* Canvas_Tool_Strip::createMenu(const ToolTable::Menu& row)
 {
-    auto* const menu = new QMenu(button(owner));
-    menu->setObjectName(QLatin1String(objectName));
-    for (const MenuEntry& entry : entries) {
-        QAction* const action = menu->addAction(entry.text);
+    auto* const menu = new QMenu(button(row.parent));
+    menu->setObjectName(QLatin1String(row.objectName));
+    for (const ToolTable::MenuEntry& entry : row.entries) {
+        QAction* const action = menu->addAction(tr(entry.text));
         action->setObjectName(QLatin1String(entry.objectName));
         connect(action, SIGNAL(triggered(bool)), this, entry.slot);
     }
     return menu;
 }
 
+void Canvas_Tool_Strip::openMenu(ToolMenu which)
+{
+    QPointer<QMenu>& menu = m_menus[static_cast<size_t>(which)];
+    if (!menu) {
+        menu = createMenu(ToolTable::menu(which));
+    }
+    menu->exec(QCursor::pos());
+}
+
+void Canvas_Tool_Strip::retitleMenus()
+{
+    for (size_t which = 0; which < m_menus.size(); ++which) {
+        for (const ToolTable::MenuEntry& entry : ToolTable::menus()[which].entries) {
+            if (m_menus[which] && entry.laterText) {
+                m_menus[which]
+                    ->findChild<QAction*>(QLatin1String(entry.objectName))
+                    ->setText(tr(entry.laterText));
+            }
+        }
+    }
+}
+
 void Canvas_Tool_Strip::On_DeleteFeat_customContextMenuRequested(QPoint /*pos*/)
 {
-    if (!m_deleteMenu) {
-        // A child of Select By Net, like the net menu: deliberate.
-        m_deleteMenu = createMenu(
-            Tool::SelectByNet, "m_pDeleteMenu",
-            {{"m_pDeleteFeatureAct", tr("Delete Feature"), SLOT(on_m_delete_feature_clicked())},
-             {"m_pDeleteToIntersectionAct", tr("Delete to Intersection"),
-              SLOT(on_m_delete_to_intersection_clicked())}});
-    }
-    m_deleteMenu->exec(QCursor::pos());
+    openMenu(ToolMenu::Delete);
 }
 
 void Canvas_Tool_Strip::On_SelectPolyline_customContextMenuRequested(QPoint /*pos*/)
 {
-    if (!m_netMenu) {
-        m_netMenu = createMenu(Tool::SelectByNet, "m_pNetMenu",
-                               {{"m_pSelectLayerNetAct", tr("Select Layer Net"),
-                                 SLOT(On_pSelect_layer_net_triggered())},
-                                {"m_pSelectBoardNetAct", tr("Select Board Net"),
-                                 SLOT(On_pSelect_board_net_triggered())},
-                                {"m_pSelectPolylineAct", tr("Select Polyline"),
-                                 SLOT(On_Select_polyline_triggered())}});
-    }
-    m_netMenu->exec(QCursor::pos());
+    openMenu(ToolMenu::Net);
 }
 
 void Canvas_Tool_Strip::on_mark_customContextMenuRequested(QPoint /*pos*/)
 {
-    if (!m_markMenu) {
-        m_markMenu =
-            createMenu(Tool::Mark, "m_pMarkMenu",
-                       {{"m_pMarkOrthogonalAct", tr("Mark Orthogonal"),
-                         SLOT(on_m_mark_horizontalandvertical_clicked())},
-                        {"m_pMarkPointToPointAct", tr("Mark Point to Point"),
-                         SLOT(on_m_mark_point2point_clicked())},
-                        {"m_pMarkSettingAct", tr("Setting"), SLOT(on_m_mark_setting_clicked())}});
-    }
-    m_markMenu->exec(QCursor::pos());
+    openMenu(ToolMenu::Mark);
 }
 
 void Canvas_Tool_Strip::activateVariant(Tool tool, const Variant& variant)

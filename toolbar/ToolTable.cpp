@@ -5,13 +5,18 @@
 #include <QObject>
 #include <QStringBuilder>
 
+#include <iterator>
+
 namespace ToolTable {
 namespace {
 
 namespace Sent = MessageCodes::Sent;
 
+constexpr Tip keepsItsTip{nullptr, nullptr};
+constexpr const char* keepsItsText = nullptr;
+
 // clang-format off
-const std::array<Row, toolCount> theRows = {{
+const Row theRows[] = {
     {"m_pAreaZoomTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Area Zoom"), nullptr},
      "Area zoom2.jpg", "Area zoom3.jpg", Start::Enabled,
      SLOT(On_AreaZoom_Clicked()), Sent::AreaZoom, Sent::AreaZoom},
@@ -23,7 +28,8 @@ const std::array<Row, toolCount> theRows = {{
      SLOT(On_Measure_Clicked()), Sent::Unset, Sent::Unset},
     {"m_pFeatHighLightTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Feature HighLight"), nullptr},
      "Feature highlight-2.jpg", "Feature highlight-3.jpg", Start::Untouched,
-     SLOT(On_FeatHighLight_Clicked()), Sent::FeatureHighLight, Sent::FeatureHighLight},
+     SLOT(On_FeatHighLight_Clicked()), Sent::FeatureHighLight, Sent::FeatureHighLight,
+     std::nullopt, "background-image", &ModuleNames::bareToolStrip},
     {"m_pAddFeatureTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Add Feature"), nullptr},
      "Add Feature.jpg", "Add Feature1.jpg", Start::Enabled,
      SLOT(On_AddFeature_Clicked()), Sent::Unset, Sent::Unset},
@@ -83,31 +89,73 @@ const std::array<Row, toolCount> theRows = {{
      SLOT(On_PolygonSelection_Clicked()), Sent::PolygonSelection, Sent::PolygonSelectionOff},
     {"m_pSelectPolylineTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select By net"), nullptr},
      "Net selection2.jpg", "Net selection1.jpg", Start::Enabled,
-     SLOT(On_SelectPolyline_Clicked()), Sent::Unset, Sent::Unset},
+     SLOT(On_SelectPolyline_Clicked()), Sent::Unset, Sent::Unset,
+     // A capital N, unlike at the start: deliberate.
+     Tip{QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select By Net"), nullptr}},
     {"m_pMarkTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Mark"), nullptr},
      "markgry.png", "markgre.png", Start::Enabled,
      SLOT(on_mark_clicked()), Sent::Mark, Sent::Mark},
     {"m_pEqTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "EQ"), nullptr},
      "EQ-1.jpg", "EQ-2.jpg", Start::Untouched,
-     SLOT(on_m_pEqTB_clecked()), Sent::Eq, Sent::Eq, "border-image"},
-}};
+     SLOT(on_m_pEqTB_clecked()), Sent::Eq, Sent::Eq, keepsItsTip, "border-image"},
+};
+static_assert(std::size(theRows) == toolCount, "one row a tool");
+
+const Menu theMenus[] = {
+    // A child of Select By Net, like the net menu: deliberate.
+    {"m_pDeleteMenu", Tool::DeleteFeature, Tool::SelectByNet,
+     SLOT(On_DeleteFeat_customContextMenuRequested(QPoint)),
+     {{"m_pDeleteFeatureAct", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Delete Feature"), keepsItsText,
+       SLOT(on_m_delete_feature_clicked())},
+      {"m_pDeleteToIntersectionAct", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Delete to Intersection"), keepsItsText,
+       SLOT(on_m_delete_to_intersection_clicked())}}},
+    {"m_pNetMenu", Tool::SelectByNet, Tool::SelectByNet,
+     SLOT(On_SelectPolyline_customContextMenuRequested(QPoint)),
+     {{"m_pSelectLayerNetAct", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select Layer Net"), "Select Layer Net",
+       SLOT(On_pSelect_layer_net_triggered())},
+      {"m_pSelectBoardNetAct", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select Board Net"), "Select Board Net",
+       SLOT(On_pSelect_board_net_triggered())},
+      // It gains an underscore: deliberate.
+      {"m_pSelectPolylineAct", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select Polyline"),
+       QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select_Polyline"),
+       SLOT(On_Select_polyline_triggered())}}},
+    {"m_pMarkMenu", Tool::Mark, Tool::Mark,
+     SLOT(on_mark_customContextMenuRequested(QPoint)),
+     {{"m_pMarkOrthogonalAct", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Mark Orthogonal"), "Mark Orthogonal",
+       SLOT(on_m_mark_horizontalandvertical_clicked())},
+      {"m_pMarkPointToPointAct", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Mark Point to Point"), "Mark Point to Point",
+       SLOT(on_m_mark_point2point_clicked())},
+      {"m_pMarkSettingAct", QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Setting"), keepsItsText,
+       SLOT(on_m_mark_setting_clicked())}}},
+};
+static_assert(std::size(theMenus) == menuCount, "one row a menu");
 // clang-format on
 
 }  // namespace
 
-const std::array<Row, toolCount>& rows()
+const Rows& rows()
 {
     return theRows;
 }
 
 const Row& row(Tool tool)
 {
-    return theRows[static_cast<size_t>(tool)];
+    return theRows[static_cast<int>(tool)];
+}
+
+const Menus& menus()
+{
+    return theMenus;
+}
+
+const Menu& menu(ToolMenu menu)
+{
+    return theMenus[static_cast<int>(menu)];
 }
 
 QString styleSheet(const char* image, const char* checkedImage, const char* property)
 {
-    // Made in one piece: 26 of them stand in every start.
+    // Made in one piece: every start makes one for each tool.
     const QLatin1String url(":url(:/Canvas_Tool_Strip/Resources/");
     const QLatin1String end(");}");
     return QLatin1String("QToolButton{") % QLatin1String(property) % url % QLatin1String(image) %

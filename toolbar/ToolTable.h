@@ -1,8 +1,11 @@
 #pragma once
 
+#include "plugin/ModuleNames.h"
+
 #include <QString>
 
-#include <array>
+#include <optional>
+#include <vector>
 
 /// The tools in list and grid order; the values are the indices of isToolButtonChecked().
 enum class Tool : int {
@@ -32,18 +35,25 @@ enum class Tool : int {
     SelectByNet,
     Mark,
     Eq,
+    Count  ///< no tool: how many there are
 };
 
+/// The right-click menus.
+enum class ToolMenu : int { Delete, Net, Mark, Count };
+
+/// Everything in which the tools differ. The texts are translated in the context
+/// "Canvas_Tool_Strip".
 namespace ToolTable {
 
-constexpr int toolCount = 26;
+constexpr int toolCount = static_cast<int>(Tool::Count);
+constexpr int menuCount = static_cast<int>(ToolMenu::Count);
 
 /// What the start does to a button's enabled state.
 enum class Start { Untouched, Enabled, Disabled };
 
 /// A text to translate.
 struct Tip {
-    const char* text;
+    const char* text;  ///< null: none
     const char* note;  ///< disambiguation; null: none
 };
 
@@ -58,11 +68,39 @@ struct Row {
     int onCode;             ///< sent by a standard handler while the button is checked; Unset:
                             ///< the tool's handler is its own
     int offCode;            ///< sent otherwise; equal to onCode for a tool with one code
-    const char* imageProperty = "background-image";  ///< of the style sheet
+    /// The tip after a language change, where it is not `tip` again; one without a text leaves the
+    /// button as it is.
+    std::optional<Tip> laterTip = std::nullopt;
+    const char* imageProperty = "background-image";   ///< of the style sheet
+    const QString* sender = &ModuleNames::toolStrip;  ///< the name that its messages go under
 };
 
-const std::array<Row, toolCount>& rows();
+/// An entry of a menu.
+struct MenuEntry {
+    const char* objectName;
+    const char* text;
+    const char* laterText;  ///< after a language change; null: it keeps its text
+    const char* slot;       ///< SLOT(…) that triggered(bool) is connected to
+};
+
+/// A right-click menu.
+struct Menu {
+    const char* objectName;
+    Tool owner;            ///< whose button opens it
+    Tool parent;           ///< whose button it is a child of
+    const char* openSlot;  ///< SLOT(…) that customContextMenuRequested(QPoint) is connected to
+    std::vector<MenuEntry> entries;
+};
+
+using Rows = Row[toolCount];
+using Menus = Menu[menuCount];
+
+/// In the order of Tool.
+const Rows& rows();
 const Row& row(Tool tool);
+/// In the order of ToolMenu.
+const Menus& menus();
+const Menu& menu(ToolMenu menu);
 
 /// The sheet that shows `image`, and `checkedImage` while the button is checked, as `property`.
 QString styleSheet(const char* image, const char* checkedImage,

@@ -1,9 +1,9 @@
 #include "addfeature/pages/ArcPage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/pages/Choices.h"
+#include "plugin/RecordKeys.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -13,25 +13,25 @@
 namespace {
 
 const Choices families = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Arc"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Circle"), FeatureValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "Arc"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Circle"), RecordValues::two},
 };
 
 const Choices arcMethods = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, End"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Edge"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Center"), FeatureValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, Angle"), FeatureValues::four, false},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, Length"), FeatureValues::five, false},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Angle"), FeatureValues::six, false},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Radius"), FeatureValues::seven, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, End"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Edge"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Center"), RecordValues::three},
+    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, Angle"), RecordValues::four, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, Length"), RecordValues::five, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Angle"), RecordValues::six, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Radius"), RecordValues::seven, false},
 };
 
 const Choices circleMethods = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Center, Radius"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Center, Point"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Point, Center"), FeatureValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "Three Points"), FeatureValues::four, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Center, Radius"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Center, Point"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "Point, Center"), RecordValues::three},
+    {QT_TRANSLATE_NOOP("AddFeature", "Three Points"), RecordValues::four, false},
 };
 
 }  // namespace
@@ -76,9 +76,9 @@ void ArcPage::layOut()
 
 void ArcPage::writeDefaults()
 {
-    for (const QString& key : {FeatureKeys::arcAndCircle, FeatureKeys::arcMode,
-                               FeatureKeys::circleMode, FeatureKeys::clockWise}) {
-        m_host.record().set(key, FeatureValues::one);
+    for (const QString& key : {RecordKeys::arcAndCircle, RecordKeys::arcMode,
+                               RecordKeys::circleMode, RecordKeys::clockWise}) {
+        m_host.record().set(key, RecordValues::one);
     }
 }
 
@@ -109,8 +109,8 @@ void ArcPage::retranslate()
 void ArcPage::arcOrCircleChanged()
 {
     if (const Choice* choice = currentChoice(m_arcOrCircle, families)) {
-        const bool isArc = choice->value == FeatureValues::one;
-        m_host.record().set(FeatureKeys::arcAndCircle, choice->value);
+        const bool isArc = choice->value == RecordValues::one;
+        m_host.record().set(RecordKeys::arcAndCircle, choice->value);
         m_arcMethod->setEnabled(isArc);
         m_circleMethod->setEnabled(!isArc);
     }
@@ -120,7 +120,7 @@ void ArcPage::arcOrCircleChanged()
 void ArcPage::arcMethodChanged()
 {
     if (const Choice* choice = currentChoice(m_arcMethod, arcMethods)) {
-        m_host.record().set(FeatureKeys::arcMode, choice->value);
+        m_host.record().set(RecordKeys::arcMode, choice->value);
     }
     m_host.sendRecord();
 }
@@ -128,14 +128,14 @@ void ArcPage::arcMethodChanged()
 void ArcPage::circleMethodChanged()
 {
     if (const Choice* choice = currentChoice(m_circleMethod, circleMethods)) {
-        m_host.record().set(FeatureKeys::circleMode, choice->value);
+        m_host.record().set(RecordKeys::circleMode, choice->value);
     }
     m_host.sendRecord();
 }
 
 void ArcPage::clockWiseChanged()
 {
-    m_host.record().set(FeatureKeys::clockWise,
-                        m_clockWise->isChecked() ? FeatureValues::one : FeatureValues::two);
+    m_host.record().set(RecordKeys::clockWise,
+                        m_clockWise->isChecked() ? RecordValues::one : RecordValues::two);
     m_host.sendRecord();
 }

@@ -1,12 +1,12 @@
 #include "addfeature/pages/BarcodePage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/Units.h"
 #include "addfeature/pages/Choices.h"
 #include "addfeature/pages/Entries.h"
 #include "addfeature/pages/Fields.h"
+#include "plugin/RecordKeys.h"
 
 #include <ui_api.h>
 
@@ -23,22 +23,22 @@ constexpr double largestHeight = 50000.0;
 // The one type that is a matrix; the values are the items' numbers.
 constexpr int matrixType = 4;
 const Choices types = {
-    {QT_TRANSLATE_NOOP("AddFeature", "UPC39"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "UPC39 ascii"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "CODE128B"), FeatureValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "CODE128C"), FeatureValues::four},
-    {QT_TRANSLATE_NOOP("AddFeature", "ECC-200"), FeatureValues::five},
+    {QT_TRANSLATE_NOOP("AddFeature", "UPC39"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "UPC39 ascii"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "CODE128B"), RecordValues::three},
+    {QT_TRANSLATE_NOOP("AddFeature", "CODE128C"), RecordValues::four},
+    {QT_TRANSLATE_NOOP("AddFeature", "ECC-200"), RecordValues::five},
 };
 
 // The values run against the order of the items.
 const Choices positions = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Top"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Bottom"), FeatureValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Top"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "Bottom"), RecordValues::one},
 };
 
 const QString& onOff(const QCheckBox* box)
 {
-    return box->isChecked() ? FeatureValues::one : FeatureValues::two;
+    return box->isChecked() ? RecordValues::one : RecordValues::two;
 }
 
 }  // namespace
@@ -103,13 +103,13 @@ void BarcodePage::layOut()
 void BarcodePage::writeDefaults()
 {
     FeatureRecord& record = m_host.record();
-    record.set(FeatureKeys::addString, FeatureValues::two);
-    record.set(FeatureKeys::addBackground, FeatureValues::two);
-    record.set(FeatureKeys::stringPosition, FeatureValues::two);
-    record.set(FeatureKeys::addMarkers, FeatureValues::two);
-    record.set(FeatureKeys::barcodeMatrix, m_matrix->text());
+    record.set(RecordKeys::addString, RecordValues::two);
+    record.set(RecordKeys::addBackground, RecordValues::two);
+    record.set(RecordKeys::stringPosition, RecordValues::two);
+    record.set(RecordKeys::addMarkers, RecordValues::two);
+    record.set(RecordKeys::barcodeMatrix, m_matrix->text());
     // The first height is one in mil, whatever the unit.
-    record.set(FeatureKeys::barcodeHeight, Units::toStored(m_height->text(), false));
+    record.set(RecordKeys::barcodeHeight, Units::toStored(m_height->text(), false));
 }
 
 void BarcodePage::connectControls()
@@ -150,7 +150,7 @@ void BarcodePage::changeUnit(bool isMetric)
 void BarcodePage::barcodeTypeChanged()
 {
     const int type = m_type->currentIndex();
-    m_host.record().set(FeatureKeys::barcodeMode, type + 1);
+    m_host.record().set(RecordKeys::barcodeMode, type + 1);
     enableMatrix(type == matrixType);
 }
 
@@ -163,34 +163,34 @@ void BarcodePage::enableMatrix(bool enabled)
 
 void BarcodePage::addStringChanged()
 {
-    m_host.record().set(FeatureKeys::addString, onOff(m_addString));
+    m_host.record().set(RecordKeys::addString, onOff(m_addString));
     m_position->setEnabled(m_addString->isChecked());
 }
 
 void BarcodePage::positionChanged()
 {
     if (const Choice* choice = currentChoice(m_position, positions)) {
-        m_host.record().set(FeatureKeys::stringPosition, choice->value);
+        m_host.record().set(RecordKeys::stringPosition, choice->value);
     }
 }
 
 void BarcodePage::backgroundChanged()
 {
     // Deliberately not the Background box itself: the one for the markers decides.
-    m_host.record().set(FeatureKeys::addBackground, onOff(m_addMarkers));
+    m_host.record().set(RecordKeys::addBackground, onOff(m_addMarkers));
 }
 
 void BarcodePage::addMarkersChanged()
 {
-    m_host.record().set(FeatureKeys::addMarkers, onOff(m_addMarkers));
+    m_host.record().set(RecordKeys::addMarkers, onOff(m_addMarkers));
 }
 
 void BarcodePage::heightEdited()
 {
-    finishLength(m_host, {m_height, FeatureKeys::barcodeHeight, largestHeight, false, false});
+    finishLength(m_host, {m_height, RecordKeys::barcodeHeight, largestHeight, false, false});
 }
 
 void BarcodePage::matrixEdited()
 {
-    m_host.record().set(FeatureKeys::barcodeMatrix, m_matrix->text());
+    m_host.record().set(RecordKeys::barcodeMatrix, m_matrix->text());
 }

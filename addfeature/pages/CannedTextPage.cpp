@@ -1,6 +1,5 @@
 #include "addfeature/pages/CannedTextPage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/Units.h"
@@ -8,6 +7,7 @@
 #include "addfeature/pages/Entries.h"
 #include "addfeature/pages/Fields.h"
 #include "addfeature/pages/PlotStampPage.h"
+#include "plugin/RecordKeys.h"
 
 #include <ui_api.h>
 
@@ -20,8 +20,8 @@ namespace {
 constexpr double largestHoleSize = 50000.0;
 
 const Choices holeModes = {
-    {QT_TRANSLATE_NOOP("AddFeature", "5 X 7"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "6 X 7"), FeatureValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "5 X 7"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "6 X 7"), RecordValues::two},
 };
 
 }  // namespace
@@ -58,9 +58,9 @@ void CannedTextPage::layOut()
 
 void CannedTextPage::writeDefaults()
 {
-    m_host.record().set(FeatureKeys::cannedHoleMode, FeatureValues::one);
+    m_host.record().set(RecordKeys::cannedHoleMode, RecordValues::one);
     // The first size is one in mil, whatever the unit.
-    m_host.record().set(FeatureKeys::cannedHoleSize, Units::toStored(m_holeSize->text(), false));
+    m_host.record().set(RecordKeys::cannedHoleSize, Units::toStored(m_holeSize->text(), false));
 }
 
 void CannedTextPage::connectControls()
@@ -87,13 +87,13 @@ void CannedTextPage::changeUnit(bool isMetric)
 
 void CannedTextPage::holeModeChanged()
 {
-    m_host.record().set(FeatureKeys::orbotechZoom, m_plotStamp.zoom());
+    m_host.record().set(RecordKeys::orbotechZoom, m_plotStamp.zoom());
     if (const Choice* choice = currentChoice(m_holeMode, holeModes)) {
-        m_host.record().set(FeatureKeys::cannedHoleMode, choice->value);
+        m_host.record().set(RecordKeys::cannedHoleMode, choice->value);
     }
 }
 
 void CannedTextPage::holeSizeEdited()
 {
-    finishLength(m_host, {m_holeSize, FeatureKeys::cannedHoleSize, largestHoleSize, false, false});
+    finishLength(m_host, {m_holeSize, RecordKeys::cannedHoleSize, largestHoleSize, false, false});
 }

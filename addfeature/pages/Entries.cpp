@@ -1,9 +1,9 @@
 #include "addfeature/pages/Entries.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/Units.h"
+#include "plugin/RecordKeys.h"
 
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -12,10 +12,10 @@ void finishLength(PageHost& host, const LengthEntry& entry)
 {
     const bool accepted = host.checkLength(entry.field->text(), entry.boundInMil);
     if (!accepted) {
-        entry.field->setText(FeatureValues::zero);
+        entry.field->setText(RecordValues::zero);
     }
     host.record().set(entry.key, accepted ? Units::toStored(entry.field->text(), host.isMetric())
-                                          : FeatureValues::zero);
+                                          : RecordValues::zero);
     if (accepted ? entry.sendsWhenAccepted : entry.sendsWhenRefused) {
         host.sendRecord();
     }
@@ -36,10 +36,10 @@ void changeNumber(PageHost& host, const NumberEntry& entry, const QString& text)
 void finishPitch(PageHost& host, QLineEdit* field, const QString& key)
 {
     if (field->text().isEmpty()) {
-        field->setText(FeatureValues::zero);
+        field->setText(RecordValues::zero);
     }
     if (!host.checkCoordinate(field->text().toDouble())) {
-        field->setText(FeatureValues::zero);
+        field->setText(RecordValues::zero);
         return;
     }
     host.record().set(key, Units::toStored(field->text(), host.isMetric()));

@@ -1,12 +1,12 @@
 #include "addfeature/pages/LinePage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/Units.h"
 #include "addfeature/pages/Choices.h"
 #include "addfeature/pages/Entries.h"
 #include "addfeature/pages/Fields.h"
+#include "plugin/RecordKeys.h"
 
 #include <ui_api.h>
 
@@ -26,23 +26,23 @@ constexpr double largestAngle = 360.0;
 
 enum Kind { SingleLine, Polyline, Rectangle, Slot };
 const Choices kinds = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Single Line"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Polyline"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Rectangle"), FeatureValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "Slot"), FeatureValues::four, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Single Line"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Polyline"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "Rectangle"), RecordValues::three},
+    {QT_TRANSLATE_NOOP("AddFeature", "Slot"), RecordValues::four, false},
 };
 
 enum Corner { Straight, Round, Chamfer, Oblong };
 const Choices corners = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Straight"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Round"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Chamfer"), FeatureValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "Oblong"), FeatureValues::four},
+    {QT_TRANSLATE_NOOP("AddFeature", "Straight"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Round"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "Chamfer"), RecordValues::three},
+    {QT_TRANSLATE_NOOP("AddFeature", "Oblong"), RecordValues::four},
 };
 
 const Choices platings = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Plated"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Non Plated"), FeatureValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "Plated"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Non Plated"), RecordValues::two},
 };
 
 constexpr int fixedAngle = 5;
@@ -177,7 +177,7 @@ void LinePage::createCornerGroup()
     m_cornerRadius = createNumber(QStringLiteral("m_pCornerRadiusLE"), m_cornerGroup);
     m_cornerRadius->setValidator(
         new QRegExpValidator(QRegExp(QLatin1String("^[1-9][0-9]*|0$")), m_cornerRadius));
-    m_cornerRadius->setText(FeatureValues::zero);
+    m_cornerRadius->setText(RecordValues::zero);
     m_cornerTypeLabel =
         Fields::createLabel(QStringLiteral("m_pCornerTypeLB"), m_cornerGroup, m_cornerType);
     m_cornerRadiusLabel =
@@ -215,7 +215,7 @@ void LinePage::createSlotGroup()
     for (const auto& [label, field] :
          {std::pair(m_slotLengthLabel, m_slotLength), std::pair(m_slotAngleLabel, m_slotAngle),
           std::pair(m_slotDecodeLabel, m_slotDecode)}) {
-        field->setText(FeatureValues::zero);
+        field->setText(RecordValues::zero);
         grid->addWidget(label, row, 0);
         grid->addWidget(field, row, 1);
         ++row;
@@ -228,16 +228,16 @@ void LinePage::writeDefaults()
 {
     FeatureRecord& record = m_host.record();
     const bool isMetric = m_host.isMetric();
-    record.set(FeatureKeys::closed, FeatureValues::zero);
-    record.set(FeatureKeys::line, FeatureValues::one);
-    record.set(FeatureKeys::angleGroup, FeatureValues::one);
-    record.set(FeatureKeys::angle, m_angle->text());
-    record.set(FeatureKeys::cornerType, FeatureValues::one);
-    record.set(FeatureKeys::cornerRadius, Units::toStored(m_cornerRadius->text(), isMetric));
-    record.set(FeatureKeys::slotPlated, FeatureValues::one);
-    record.set(FeatureKeys::slotLength, Units::toStored(m_slotLength->text(), isMetric));
-    record.set(FeatureKeys::slotAngle, m_slotAngle->text());
-    record.set(FeatureKeys::slotDecode, m_slotDecode->text());
+    record.set(RecordKeys::closed, RecordValues::zero);
+    record.set(RecordKeys::line, RecordValues::one);
+    record.set(RecordKeys::angleGroup, RecordValues::one);
+    record.set(RecordKeys::angle, m_angle->text());
+    record.set(RecordKeys::cornerType, RecordValues::one);
+    record.set(RecordKeys::cornerRadius, Units::toStored(m_cornerRadius->text(), isMetric));
+    record.set(RecordKeys::slotPlated, RecordValues::one);
+    record.set(RecordKeys::slotLength, Units::toStored(m_slotLength->text(), isMetric));
+    record.set(RecordKeys::slotAngle, m_slotAngle->text());
+    record.set(RecordKeys::slotDecode, m_slotDecode->text());
 }
 
 void LinePage::connectControls()
@@ -311,7 +311,7 @@ void LinePage::lineKindChanged()
         return;
     }
     if (const Choice* choice = currentChoice(m_kind, kinds)) {
-        m_host.record().set(FeatureKeys::line, choice->value);
+        m_host.record().set(RecordKeys::line, choice->value);
         showKind(m_kind->currentIndex());
     }
     m_host.sendRecord();
@@ -336,15 +336,15 @@ void LinePage::showKind(int kind)
 
 void LinePage::closedChanged()
 {
-    m_host.record().set(FeatureKeys::closed,
-                        m_closed->isChecked() ? FeatureValues::one : FeatureValues::zero);
+    m_host.record().set(RecordKeys::closed,
+                        m_closed->isChecked() ? RecordValues::one : RecordValues::zero);
     m_host.sendRecord();
 }
 
 void LinePage::directionChosen()
 {
     const int id = m_directions->checkedId();
-    m_host.record().set(FeatureKeys::angleGroup, id + 1);
+    m_host.record().set(RecordKeys::angleGroup, id + 1);
     m_angleLabel->setEnabled(id == fixedAngle);
     m_angle->setEnabled(id == fixedAngle);
     m_host.sendDirection();
@@ -353,17 +353,17 @@ void LinePage::directionChosen()
 void LinePage::angleEdited()
 {
     if (!m_host.checkNumber(m_angle->text().toDouble(), 0.0, largestAngle)) {
-        m_angle->setText(m_host.record().text(FeatureKeys::angle));
+        m_angle->setText(m_host.record().text(RecordKeys::angle));
         return;
     }
-    m_host.record().set(FeatureKeys::angle, m_angle->text());
+    m_host.record().set(RecordKeys::angle, m_angle->text());
     m_host.sendDirection();
 }
 
 void LinePage::cornerTypeChanged()
 {
     const int corner = m_cornerType->currentIndex();
-    m_host.record().set(FeatureKeys::cornerType, corner + 1);
+    m_host.record().set(RecordKeys::cornerType, corner + 1);
     enableRadius(corner == Round || corner == Chamfer);
     m_host.sendRecord();
 }
@@ -377,27 +377,27 @@ void LinePage::enableRadius(bool enabled)
 
 void LinePage::cornerRadiusEdited()
 {
-    finishLength(m_host, {m_cornerRadius, FeatureKeys::cornerRadius, largestLength, true, false});
+    finishLength(m_host, {m_cornerRadius, RecordKeys::cornerRadius, largestLength, true, false});
 }
 
 void LinePage::slotLengthEdited()
 {
-    finishLength(m_host, {m_slotLength, FeatureKeys::slotLength, largestLength, false, false});
+    finishLength(m_host, {m_slotLength, RecordKeys::slotLength, largestLength, false, false});
 }
 
 void LinePage::slotAngleEdited()
 {
-    m_host.record().set(FeatureKeys::slotAngle, m_slotAngle->text());
+    m_host.record().set(RecordKeys::slotAngle, m_slotAngle->text());
 }
 
 void LinePage::slotDecodeEdited()
 {
-    m_host.record().set(FeatureKeys::slotDecode, m_slotDecode->text());
+    m_host.record().set(RecordKeys::slotDecode, m_slotDecode->text());
 }
 
 void LinePage::slotPlatedChanged()
 {
     if (const Choice* choice = currentChoice(m_slotPlated, platings)) {
-        m_host.record().set(FeatureKeys::slotPlated, choice->value);
+        m_host.record().set(RecordKeys::slotPlated, choice->value);
     }
 }

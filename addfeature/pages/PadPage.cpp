@@ -1,11 +1,11 @@
 #include "addfeature/pages/PadPage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/Units.h"
 #include "addfeature/pages/Entries.h"
 #include "addfeature/pages/Fields.h"
+#include "plugin/RecordKeys.h"
 
 #include <ui_api.h>
 
@@ -55,9 +55,9 @@ PadPage::Axis PadPage::createAxis(const QString& count, const QString& pitch, co
     };
 
     Axis axis{};
-    axis.count = field(Fields::Pattern::Decimal, count, FeatureValues::one);
-    axis.pitch = field(Fields::Pattern::Length, pitch, FeatureValues::zero);
-    axis.factor = field(Fields::Pattern::Decimal, factor, FeatureValues::one);
+    axis.count = field(Fields::Pattern::Decimal, count, RecordValues::one);
+    axis.pitch = field(Fields::Pattern::Length, pitch, RecordValues::zero);
+    axis.factor = field(Fields::Pattern::Decimal, factor, RecordValues::one);
     axis.countLabel = label(count, axis.count);
     axis.pitchLabel = label(pitch, axis.pitch);
     axis.factorLabel = label(factor, axis.factor);
@@ -115,12 +115,12 @@ QGridLayout* PadPage::column(const Axis& axis)
 void PadPage::writeDefaults()
 {
     FeatureRecord& record = m_host.record();
-    record.set(FeatureKeys::padNx, m_x.count->text());
-    record.set(FeatureKeys::padDx, Units::toStored(m_x.pitch->text(), m_host.isMetric()));
-    record.set(FeatureKeys::padXscl, m_x.factor->text());
-    record.set(FeatureKeys::padNy, m_y.count->text());
-    record.set(FeatureKeys::padDy, Units::toStored(m_y.pitch->text(), m_host.isMetric()));
-    record.set(FeatureKeys::padYscl, m_y.factor->text());
+    record.set(RecordKeys::padNx, m_x.count->text());
+    record.set(RecordKeys::padDx, Units::toStored(m_x.pitch->text(), m_host.isMetric()));
+    record.set(RecordKeys::padXscl, m_x.factor->text());
+    record.set(RecordKeys::padNy, m_y.count->text());
+    record.set(RecordKeys::padDy, Units::toStored(m_y.pitch->text(), m_host.isMetric()));
+    record.set(RecordKeys::padYscl, m_y.factor->text());
 }
 
 void PadPage::connectControls()
@@ -165,30 +165,30 @@ void PadPage::showUnits()
 
 void PadPage::nxChanged(const QString& text)
 {
-    changeNumber(m_host, {m_x.count, FeatureKeys::padNx, 0.0, largestCount}, text);
+    changeNumber(m_host, {m_x.count, RecordKeys::padNx, 0.0, largestCount}, text);
 }
 
 void PadPage::nyChanged(const QString& text)
 {
-    changeNumber(m_host, {m_y.count, FeatureKeys::padNy, 0.0, largestCount}, text);
+    changeNumber(m_host, {m_y.count, RecordKeys::padNy, 0.0, largestCount}, text);
 }
 
 void PadPage::xsclChanged(const QString& text)
 {
-    changeNumber(m_host, {m_x.factor, FeatureKeys::padXscl, -largestFactor, largestFactor}, text);
+    changeNumber(m_host, {m_x.factor, RecordKeys::padXscl, -largestFactor, largestFactor}, text);
 }
 
 void PadPage::ysclChanged(const QString& text)
 {
-    changeNumber(m_host, {m_y.factor, FeatureKeys::padYscl, -largestFactor, largestFactor}, text);
+    changeNumber(m_host, {m_y.factor, RecordKeys::padYscl, -largestFactor, largestFactor}, text);
 }
 
 void PadPage::dxEdited()
 {
-    finishPitch(m_host, m_x.pitch, FeatureKeys::padDx);
+    finishPitch(m_host, m_x.pitch, RecordKeys::padDx);
 }
 
 void PadPage::dyEdited()
 {
-    finishPitch(m_host, m_y.pitch, FeatureKeys::padDy);
+    finishPitch(m_host, m_y.pitch, RecordKeys::padDy);
 }

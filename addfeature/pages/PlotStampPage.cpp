@@ -1,10 +1,10 @@
 #include "addfeature/pages/PlotStampPage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/pages/Choices.h"
 #include "addfeature/pages/Fields.h"
+#include "plugin/RecordKeys.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -13,25 +13,25 @@
 namespace {
 
 const Choices types = {
-    {QT_TRANSLATE_NOOP("AddFeature", "String"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Barcode"), FeatureValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "String"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Barcode"), RecordValues::two},
 };
 
 const Choices fontSizes = {
-    {QT_TRANSLATE_NOOP("AddFeature", "1"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "2"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "3"), FeatureValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "4"), FeatureValues::four},
+    {QT_TRANSLATE_NOOP("AddFeature", "1"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "2"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "3"), RecordValues::three},
+    {QT_TRANSLATE_NOOP("AddFeature", "4"), RecordValues::four},
 };
 
 const Choices zooms = {
-    {QT_TRANSLATE_NOOP("AddFeature", "1"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "2"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "3"), FeatureValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "4"), FeatureValues::four},
-    {QT_TRANSLATE_NOOP("AddFeature", "5"), FeatureValues::five},
-    {QT_TRANSLATE_NOOP("AddFeature", "6"), FeatureValues::six},
-    {QT_TRANSLATE_NOOP("AddFeature", "7"), FeatureValues::seven},
+    {QT_TRANSLATE_NOOP("AddFeature", "1"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "2"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "3"), RecordValues::three},
+    {QT_TRANSLATE_NOOP("AddFeature", "4"), RecordValues::four},
+    {QT_TRANSLATE_NOOP("AddFeature", "5"), RecordValues::five},
+    {QT_TRANSLATE_NOOP("AddFeature", "6"), RecordValues::six},
+    {QT_TRANSLATE_NOOP("AddFeature", "7"), RecordValues::seven},
 };
 
 }  // namespace
@@ -75,9 +75,9 @@ void PlotStampPage::layOut()
 
 void PlotStampPage::writeDefaults()
 {
-    m_host.record().set(FeatureKeys::orbotechType, FeatureValues::one);
-    m_host.record().set(FeatureKeys::orbotechFontSize, fontSize());
-    m_host.record().set(FeatureKeys::orbotechZoom, zoom());
+    m_host.record().set(RecordKeys::orbotechType, RecordValues::one);
+    m_host.record().set(RecordKeys::orbotechFontSize, fontSize());
+    m_host.record().set(RecordKeys::orbotechZoom, zoom());
 }
 
 void PlotStampPage::connectControls()
@@ -103,21 +103,21 @@ void PlotStampPage::retranslate()
 
 void PlotStampPage::typeChanged()
 {
-    m_host.record().set(FeatureKeys::orbotechType, m_type->currentIndex() + 1);
+    m_host.record().set(RecordKeys::orbotechType, m_type->currentIndex() + 1);
     // A known type is stored as text; the number stays only for an index outside the list.
     if (const Choice* choice = currentChoice(m_type, types)) {
-        m_host.record().set(FeatureKeys::orbotechType, choice->value);
+        m_host.record().set(RecordKeys::orbotechType, choice->value);
     }
 }
 
 void PlotStampPage::fontSizeChanged()
 {
-    m_host.record().set(FeatureKeys::orbotechFontSize, fontSize());
+    m_host.record().set(RecordKeys::orbotechFontSize, fontSize());
 }
 
 void PlotStampPage::zoomChanged()
 {
-    m_host.record().set(FeatureKeys::orbotechZoom, zoom());
+    m_host.record().set(RecordKeys::orbotechZoom, zoom());
 }
 
 int PlotStampPage::fontSize() const

@@ -1,11 +1,11 @@
 #include "addfeature/pages/StringPage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/Units.h"
 #include "addfeature/pages/Entries.h"
 #include "addfeature/pages/Fields.h"
+#include "plugin/RecordKeys.h"
 
 #include <ui_api.h>
 
@@ -61,10 +61,9 @@ StringPage::Size StringPage::addSize(QGridLayout* grid, const QString& name, dou
 void StringPage::writeDefaults()
 {
     FeatureRecord& record = m_host.record();
-    record.set(FeatureKeys::stringXSize, Units::toStored(m_xSize.field->text(), m_isMetric));
-    record.set(FeatureKeys::stringYSize, Units::toStored(m_ySize.field->text(), m_isMetric));
-    record.set(FeatureKeys::stringLineWidth,
-               Units::toStored(m_lineWidth.field->text(), m_isMetric));
+    record.set(RecordKeys::stringXSize, Units::toStored(m_xSize.field->text(), m_isMetric));
+    record.set(RecordKeys::stringYSize, Units::toStored(m_ySize.field->text(), m_isMetric));
+    record.set(RecordKeys::stringLineWidth, Units::toStored(m_lineWidth.field->text(), m_isMetric));
 }
 
 void StringPage::connectControls()
@@ -102,17 +101,17 @@ void StringPage::showUnits()
 
 void StringPage::xSizeEdited()
 {
-    finish(m_xSize, FeatureKeys::stringXSize);
+    finish(m_xSize, RecordKeys::stringXSize);
 }
 
 void StringPage::ySizeEdited()
 {
-    finish(m_ySize, FeatureKeys::stringYSize);
+    finish(m_ySize, RecordKeys::stringYSize);
 }
 
 void StringPage::lineWidthEdited()
 {
-    finish(m_lineWidth, FeatureKeys::stringLineWidth);
+    finish(m_lineWidth, RecordKeys::stringLineWidth);
 }
 
 void StringPage::finish(const Size& size, const QString& key)

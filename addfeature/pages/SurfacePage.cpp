@@ -1,9 +1,9 @@
 #include "addfeature/pages/SurfacePage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/pages/Choices.h"
+#include "plugin/RecordKeys.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -11,9 +11,9 @@
 namespace {
 
 const Choices shapes = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Rectangle"), FeatureValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Polygon"), FeatureValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Circle"), FeatureValues::three},
+    {QT_TRANSLATE_NOOP("AddFeature", "Rectangle"), RecordValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "Polygon"), RecordValues::two},
+    {QT_TRANSLATE_NOOP("AddFeature", "Circle"), RecordValues::three},
 };
 
 }  // namespace
@@ -31,7 +31,7 @@ SurfacePage::SurfacePage(PageHost& host, QWidget* parent)
     row->addStretch();
 
     retranslate();
-    m_host.record().set(FeatureKeys::surfaceShape, FeatureValues::one);
+    m_host.record().set(RecordKeys::surfaceShape, RecordValues::one);
     connect(m_shape, SIGNAL(currentIndexChanged(QString)), m_host.slotOwner(),
             SLOT(on_SurfShape_ComboBox_Changed()));
 }
@@ -45,7 +45,7 @@ void SurfacePage::retranslate()
 void SurfacePage::shapeChanged()
 {
     if (const Choice* choice = currentChoice(m_shape, shapes)) {
-        m_host.record().set(FeatureKeys::surfaceShape, choice->value);
+        m_host.record().set(RecordKeys::surfaceShape, choice->value);
     }
     m_host.sendRecord();
 }

@@ -1,6 +1,5 @@
 #include "addfeature/pages/TextPage.h"
 
-#include "addfeature/FeatureKeys.h"
 #include "addfeature/FeatureRecord.h"
 #include "addfeature/PageHost.h"
 #include "addfeature/pages/BarcodePage.h"
@@ -9,6 +8,7 @@
 #include "addfeature/pages/Fields.h"
 #include "addfeature/pages/PlotStampPage.h"
 #include "addfeature/pages/StringPage.h"
+#include "plugin/RecordKeys.h"
 
 #include <cam_api.h>
 #include <common_widgets.h>
@@ -25,11 +25,11 @@ namespace {
 
 enum Format { String, Barcode, PlotStamp, CannedText };
 const Choices formats = {
-    {QT_TRANSLATE_NOOP("AddFeature", "String"), FeatureValues::one},
+    {QT_TRANSLATE_NOOP("AddFeature", "String"), RecordValues::one},
     // The barcode format is told by the name of its own key; there is no "2".
-    {QT_TRANSLATE_NOOP("AddFeature", "Barcode"), FeatureKeys::barcodeMode, false},
-    {QT_TRANSLATE_NOOP("AddFeature", "Orbotech Plot Stamp"), FeatureValues::three, false},
-    {QT_TRANSLATE_NOOP("AddFeature", "Canned Text"), FeatureValues::four, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Barcode"), RecordKeys::barcodeMode, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Orbotech Plot Stamp"), RecordValues::three, false},
+    {QT_TRANSLATE_NOOP("AddFeature", "Canned Text"), RecordValues::four, false},
 };
 
 // What the host's list window lists.
@@ -133,10 +133,10 @@ void TextPage::layOut()
 void TextPage::writeDefaults()
 {
     FeatureRecord& record = m_host.record();
-    record.set(FeatureKeys::textFormat, FeatureValues::one);
-    record.set(FeatureKeys::barcodeMode, FeatureValues::one);
-    record.set(FeatureKeys::stringTextFont, m_font->text());
-    record.set(FeatureKeys::textContains, m_text->text());
+    record.set(RecordKeys::textFormat, RecordValues::one);
+    record.set(RecordKeys::barcodeMode, RecordValues::one);
+    record.set(RecordKeys::stringTextFont, m_font->text());
+    record.set(RecordKeys::textContains, m_text->text());
 }
 
 void TextPage::connectControls()
@@ -192,7 +192,7 @@ void TextPage::formatChanged()
     if (format == Barcode) {
         m_barcode->barcodeTypeChanged();
     }
-    m_host.record().set(FeatureKeys::textFormat, choice->value);
+    m_host.record().set(RecordKeys::textFormat, choice->value);
     showSubPage(m_subPages[static_cast<size_t>(format)]);
 }
 
@@ -216,7 +216,7 @@ void TextPage::fontClicked()
 void TextPage::setFont(const QString& name)
 {
     m_font->setText(name);
-    m_host.record().set(FeatureKeys::stringTextFont, m_font->text());
+    m_host.record().set(RecordKeys::stringTextFont, m_font->text());
     m_host.sendRecord();
 }
 
@@ -226,7 +226,7 @@ void TextPage::fontEdited()
         m_font->clear();
         return;
     }
-    m_host.record().set(FeatureKeys::stringTextFont, m_font->text());
+    m_host.record().set(RecordKeys::stringTextFont, m_font->text());
     m_host.sendRecord();
 }
 
@@ -251,13 +251,13 @@ void TextPage::specialTextClicked()
 void TextPage::setSpecialText(const QString& text)
 {
     m_text->setText(QStringLiteral("$$") + text);
-    m_host.record().set(FeatureKeys::textContains, m_text->text());
+    m_host.record().set(RecordKeys::textContains, m_text->text());
     m_host.sendRecord();
 }
 
 void TextPage::textEdited()
 {
-    m_host.record().set(FeatureKeys::textContains, m_text->text());
+    m_host.record().set(RecordKeys::textContains, m_text->text());
     m_host.sendRecord();
 }
 
