@@ -2,8 +2,8 @@
 
 #include "addfeature/AttributeRow.h"
 #include "addfeature/SymbolEntry.h"
+#include "addfeature/fields/ChoiceField.h"
 #include "addfeature/pages/ArcPage.h"
-#include "addfeature/pages/Choices.h"
 #include "addfeature/pages/LinePage.h"
 #include "addfeature/pages/PadPage.h"
 #include "addfeature/pages/SurfacePage.h"
@@ -14,7 +14,6 @@
 
 #include <QButtonGroup>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLoggingCategory>
@@ -33,6 +32,7 @@ Q_LOGGING_CATEGORY(dialogLog, "canvastoolstrip.addfeature")
 constexpr int dialogWidth = 350;
 constexpr int typeIconSize = 32;
 constexpr int maximumRotation = 360;
+constexpr int notMirrored = 1;
 
 /// A feature type's button, in the order of FeatureType.
 struct TypeButton {
@@ -47,12 +47,6 @@ constexpr TypeButton typeButtons[] = {
     {"m_pArcTB", "Arc1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Arc")},
     {"m_pTextTB", "Text1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Text")},
 };
-
-const Choices polarities = {{QT_TRANSLATE_NOOP("AddFeature", "Positive"), RecordValues::one},
-                            {QT_TRANSLATE_NOOP("AddFeature", "Negative"), RecordValues::zero}};
-const Choices mirrors = {{QT_TRANSLATE_NOOP("AddFeature", "Mir"), RecordValues::one},
-                         {QT_TRANSLATE_NOOP("AddFeature", "No Mir"), RecordValues::two}};
-constexpr int notMirrored = 1;
 
 }  // namespace
 
@@ -72,7 +66,9 @@ AddFeature::AddFeature(void* ownerContext, std::string job, std::string step, QW
     buildPages(layout);
     layout->addStretch();
     retranslateFrame();
-    connectFrame();
+    connect(m_featureGroup, SIGNAL(buttonClicked(QAbstractButton*)), this,
+            SLOT(onFeatureButtonClicked(QAbstractButton*)));
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &AddFeature::stayAbove);
 }
 
 AddFeature::~AddFeature() = default;
@@ -95,27 +91,31 @@ void AddFeature::buildTypeRow(QVBoxLayout* layout)
     row->addStretch();
     layout->addLayout(row);
     m_featureGroup->button(static_cast<int>(FeatureType::Line))->setChecked(true);
-    m_record.set(RecordKeys::features, RecordValues::one);
+    m_record.set(RecordKeys::features, FeatureKind::line);
 }
 
 void AddFeature::buildCommonRows(QVBoxLayout* layout)
 {
-    m_attributes = new AttributeRow(m_record, m_canvas, this);
+    m_attributes = new AttributeRow(*this, this);
     layout->addWidget(m_attributes);
 
-    m_pPolarityCMB = new QComboBox(this);
-    m_pPolarityCMB->setObjectName(QStringLiteral("m_pPolarityCMB"));
-    fillChoices(m_pPolarityCMB, polarities);
+    m_pPolarityCMB =
+        new ChoiceField(*this, this,
+                        {"m_pPolarityCMB", Caption::spoken(QT_TR_NOOP("Polarity")),
+                         RecordKeys::polarity, SLOT(on_m_pPolarityCMB_ComboBox_Changed())},
+                        {{QT_TR_NOOP("Positive"), Polarity::positive},
+                         {QT_TR_NOOP("Negative"), Polarity::negative}},
+                        ChoiceField::Stores::Text, Sends::Always);
     layout->addWidget(m_pPolarityCMB);
-    m_record.set(RecordKeys::polarity, RecordValues::one);
 
-    m_pMirrorCMB = new QComboBox(this);
-    m_pMirrorCMB->setObjectName(QStringLiteral("m_pMirrorCMB"));
-    fillChoices(m_pMirrorCMB, mirrors);
-    m_pMirrorCMB->setCurrentIndex(notMirrored);
+    m_pMirrorCMB =
+        new ChoiceField(*this, this,
+                        {"m_pMirrorCMB", Caption::spoken(QT_TR_NOOP("Mirror")), RecordKeys::mirror,
+                         SLOT(on_m_pMirrorCMB_ComboBox_Changed())},
+                        {{QT_TR_NOOP("Mir"), Mirror::yes}, {QT_TR_NOOP("No Mir"), Mirror::no}},
+                        ChoiceField::Stores::Text, Sends::Always, notMirrored);
     m_pMirrorCMB->hide();
     layout->addWidget(m_pMirrorCMB);
-    m_record.set(RecordKeys::mirror, RecordValues::two);
 
     m_pAngleValueSB = new QSpinBox(this);
     m_pAngleValueSB->setObjectName(QStringLiteral("m_pAngleValueSB"));
@@ -123,8 +123,10 @@ void AddFeature::buildCommonRows(QVBoxLayout* layout)
     m_pAngleValueSB->hide();
     layout->addWidget(m_pAngleValueSB);
     m_record.set(RecordKeys::mirrorRotate, QString::number(m_pAngleValueSB->value()));
+    connect(m_pAngleValueSB, SIGNAL(editingFinished()), this,
+            SLOT(on_m_pAngleValueSB_editingFinished()));
 
-    m_symbol = new SymbolEntry(*this, this, this);
+    m_symbol = new SymbolEntry(*this, this);
     layout->addWidget(m_symbol);
     m_record.set(RecordKeys::symbolText, m_symbol->text());
 }
@@ -141,19 +143,6 @@ void AddFeature::buildPages(QVBoxLayout* layout)
         layout->addWidget(page);
     }
     showPage(m_line);
-}
-
-void AddFeature::connectFrame()
-{
-    connect(m_featureGroup, SIGNAL(buttonClicked(QAbstractButton*)), this,
-            SLOT(onFeatureButtonClicked(QAbstractButton*)));
-    connect(m_pMirrorCMB, SIGNAL(currentIndexChanged(int)), this,
-            SLOT(on_m_pMirrorCMB_ComboBox_Changed()));
-    connect(m_pAngleValueSB, SIGNAL(editingFinished()), this,
-            SLOT(on_m_pAngleValueSB_editingFinished()));
-    connect(m_pPolarityCMB, SIGNAL(currentIndexChanged(int)), this,
-            SLOT(on_m_pPolarityCMB_ComboBox_Changed()));
-    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &AddFeature::stayAbove);
 }
 
 /// Not every window system keeps the dialog above the host's window when that is clicked.
@@ -185,6 +174,11 @@ bool AddFeature::isToolActive() const
     return m_toolStrip && m_toolStrip->isToolButtonChecked(static_cast<int>(Tool::AddFeature));
 }
 
+void AddFeature::sendAttributes(const std::map<std::string, std::string>& attributes)
+{
+    m_canvas.sendAttributes(attributes);
+}
+
 bool AddFeature::checkLength(const QString& text, double boundInMil)
 {
     return m_checks.length(text, boundInMil, m_metric);
@@ -198,6 +192,21 @@ bool AddFeature::checkCoordinate(double value)
 bool AddFeature::checkNumber(double value, double minimum, double maximum)
 {
     return m_checks.number(value, minimum, maximum);
+}
+
+void AddFeature::connectToSlot(QObject* sender, const char* signal, const char* slot)
+{
+    connect(sender, signal, this, slot);
+}
+
+void AddFeature::disconnectFromSlot(QObject* sender, const char* signal, const char* slot)
+{
+    disconnect(sender, signal, this, slot);
+}
+
+void AddFeature::connectSignal(const char* signal, QObject* receiver, const char* slot)
+{
+    connect(this, signal, receiver, slot);
 }
 
 bool AddFeature::restoreCommonRows()
@@ -241,52 +250,35 @@ void AddFeature::setRowVisible(CommonRow row, bool visible)
 void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
 {
     // The order can be seen: hiding the control that has the focus ends its editing, and sends.
-    const QPointer<AddFeature> self(this);
     m_pPolarityCMB->show();
     m_symbol->setControlsVisible(true);
-    if (!restoreCommonRows() || !hidePlacing()) {
+    if (!restoreCommonRows()) {
         return;
     }
+    m_attributes->setFillEnabled(false);
+    m_pMirrorCMB->hide();
+    m_pAngleValueSB->hide();
+
     const FeatureType type = featureType();
     const int id = static_cast<int>(type);
     m_record.set(RecordKeys::features, id + 1);
     if (id >= 0 && id < m_pages.size()) {
         const bool isPlaced = type == FeatureType::Pad || type == FeatureType::Text;
         m_symbol->applyFeatureType();
+        m_symbol->setControlsVisible(hasSymbol());
+        m_attributes->setFillEnabled(type == FeatureType::Surface);
         m_pMirrorCMB->setVisible(isPlaced);
         m_pAngleValueSB->setVisible(isPlaced);
-        m_attributes->setFillEnabled(type == FeatureType::Surface);
-        m_symbol->setControlsVisible(hasSymbol());
-        if (!self || !showPage(m_pages[id])) {
-            return;
-        }
+        showPage(m_pages[id]);
     }
     getChangeCurrentTool();
 }
 
-/// Greys "Fill..." and hides mirror and rotation. False when a receiver of what this makes the
-/// rotation send has deleted the dialog.
-bool AddFeature::hidePlacing()
+void AddFeature::showPage(const Page* chosen)
 {
-    const QPointer<AddFeature> self(this);
-    m_attributes->setFillEnabled(false);
-    m_pMirrorCMB->hide();
-    m_pAngleValueSB->hide();
-    return self;
-}
-
-/// False when a receiver of what a hidden field sends has deleted the dialog.
-bool AddFeature::showPage(const Page* chosen)
-{
-    const QPointer<AddFeature> self(this);
-    const QList<Page*> pages = m_pages;
-    for (Page* const page : pages) {
+    for (Page* const page : std::as_const(m_pages)) {
         page->setVisible(page == chosen);
-        if (!self) {
-            return false;
-        }
     }
-    return true;
 }
 
 bool AddFeature::hasSymbol() const
@@ -327,25 +319,9 @@ void AddFeature::getChangeCurrentTool()
     }
 }
 
-void AddFeature::on_m_pPolarityCMB_ComboBox_Changed()
-{
-    if (const Choice* const polarity = currentChoice(m_pPolarityCMB, polarities)) {
-        m_record.set(RecordKeys::polarity, polarity->value);
-    }
-    getChangeCurrentTool();
-}
-
-void AddFeature::on_m_pMirrorCMB_ComboBox_Changed()
-{
-    if (const Choice* const mirror = currentChoice(m_pMirrorCMB, mirrors)) {
-        m_record.set(RecordKeys::mirror, mirror->value);
-    }
-    getChangeCurrentTool();
-}
-
 void AddFeature::on_m_pAngleValueSB_editingFinished()
 {
-    finish("m_pAngleValueSB", this, &AddFeature::storeRotation);
+    m_refusals.report(m_pAngleValueSB, [this] { storeRotation(); });
 }
 
 void AddFeature::storeRotation()
@@ -359,7 +335,7 @@ void AddFeature::on_m_pSymbolTextLE_editingFinished()
 {
     // Closing the window takes the focus from the field: no entry of the user's.
     if (!m_closing) {
-        finish("m_pSymbolTextLE", m_symbol, &SymbolEntry::editingFinished);
+        m_symbol->finish();
     }
 }
 
@@ -410,11 +386,10 @@ void AddFeature::retranslateFrame()
         m_featureGroup->button(id)->setToolTip(tr(typeButtons[id].name));
     }
     m_attributes->retranslate();
-    retranslateChoices(m_pPolarityCMB, polarities);
-    retranslateChoices(m_pMirrorCMB, mirrors);
-    m_pPolarityCMB->setAccessibleName(tr("Polarity"));
-    m_pMirrorCMB->setAccessibleName(tr("Mirror"));
+    m_pPolarityCMB->retranslate();
+    m_pMirrorCMB->retranslate();
     m_pAngleValueSB->setAccessibleName(tr("Rotation"));
+    m_pAngleValueSB->setToolTip(tr("Rotation"));
     m_symbol->retranslate();
 }
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "addfeature/CanvasLink.h"
-#include "addfeature/FeatureRecord.h"
-#include "addfeature/PageHost.h"
-#include "addfeature/RefusalGuard.h"
-#include "addfeature/SymbolHost.h"
-#include "addfeature/ValueChecks.h"
+#include "addfeature/record/CanvasLink.h"
+#include "addfeature/record/DialogDoor.h"
+#include "addfeature/record/FeatureRecord.h"
+#include "addfeature/record/RefusalGuard.h"
+#include "addfeature/record/ValueChecks.h"
 
 #include <QList>
 #include <QPointer>
@@ -19,12 +18,12 @@
 class ArcPage;
 class AttributeRow;
 class Canvas_Tool_Strip;
+class ChoiceField;
 class LinePage;
 class PadPage;
 class Page;
 class QAbstractButton;
 class QButtonGroup;
-class QComboBox;
 class QSpinBox;
 class QVBoxLayout;
 class QWindow;
@@ -36,7 +35,7 @@ class TextPage;
 ///
 /// It keeps one parameter record and sends it to the canvas after each change. The frame holds what
 /// is common to all features; each feature type has a page of its own. GUI thread only.
-class AddFeature : public QWidget, private PageHost, private SymbolHost {
+class AddFeature : public QWidget, private DialogDoor {
     Q_OBJECT
 
 public:
@@ -148,43 +147,37 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // The door
     FeatureRecord& record() override { return m_record; }
+    RefusalGuard& refusals() override { return m_refusals; }
     bool isMetric() const override { return m_metric; }
     void* ownerContext() const override { return m_ownerContext; }
     const std::string& job() const override { return m_job; }
     const std::string& step() const override { return m_step; }
+    FeatureType featureType() const override;
+    int rotation() const override;
+    bool isToolActive() const override;
     void sendRecord() override { getChangeCurrentTool(); }
     void sendDirection() override { m_canvas.sendDirection(m_record.map()); }
+    void sendAttributes(const std::map<std::string, std::string>& attributes) override;
     bool checkLength(const QString& text, double boundInMil) override;
     bool checkCoordinate(double value) override;
     bool checkNumber(double value, double minimum, double maximum) override;
     bool restoreCommonRows() override;
     void setRowVisible(CommonRow row, bool visible) override;
-    QObject* slotOwner() override { return this; }
-    RefusalGuard& refusals() override { return m_refusals; }
-    FeatureType featureType() const override;
-    int rotation() const override;
-    bool isToolActive() const override;
+    void connectToSlot(QObject* sender, const char* signal, const char* slot) override;
+    void disconnectFromSlot(QObject* sender, const char* signal, const char* slot) override;
+    void connectSignal(const char* signal, QObject* receiver, const char* slot) override;
 
     void buildTypeRow(QVBoxLayout* layout);
     void buildCommonRows(QVBoxLayout* layout);
     void buildPages(QVBoxLayout* layout);
-    void connectFrame();
     void retranslateFrame();
+    void showPage(const Page* chosen);
     void stayAbove(const QWindow* active);
-    bool hidePlacing();
-    bool showPage(const Page* chosen);
     bool hasSymbol() const;
     bool isSymbolAccepted();
     void storeRotation();
-
-    /// Handles the entry that has been finished in `field`.
-    template <class Owner>
-    void finish(const char* field, Owner* owner, void (Owner::*handler)())
-    {
-        m_refusals.report(findChild<QObject*>(QLatin1String(field)),
-                          [owner, handler] { (owner->*handler)(); });
-    }
 
     void* m_ownerContext;
     QPointer<Canvas_Tool_Strip> m_toolStrip;
@@ -200,8 +193,8 @@ private:
 
     QButtonGroup* m_featureGroup = nullptr;
     AttributeRow* m_attributes = nullptr;
-    QComboBox* m_pPolarityCMB = nullptr;
-    QComboBox* m_pMirrorCMB = nullptr;
+    ChoiceField* m_pPolarityCMB = nullptr;
+    ChoiceField* m_pMirrorCMB = nullptr;
     QSpinBox* m_pAngleValueSB = nullptr;
     SymbolEntry* m_symbol = nullptr;
     LinePage* m_line = nullptr;

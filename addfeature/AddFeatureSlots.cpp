@@ -1,5 +1,5 @@
-// The dialog's named slots, each a forward to the page or row that owns the control. They stand in
-// the order of the header; the frame's own handlers are in AddFeature.cpp.
+// The dialog's named slots, each of which names the field, or the rule of a page or row, that it is
+// for. They stand in the order of the header; the frame's own handlers are in AddFeature.cpp.
 
 #include "addfeature/AddFeature.h"
 #include "addfeature/AttributeRow.h"
@@ -38,97 +38,107 @@ void AddFeature::get_ChangeSymbol_Info(std::map<int, std::string> symbols)
 
 void AddFeature::on_Line_Button_Clicked(QAbstractButton* /*button*/)
 {
-    m_line->directionChosen();
+    m_line->chooseDirection();
 }
 
 void AddFeature::on_Text_clicked()
 {
-    m_text->specialTextClicked();
+    m_text->openSpecialTexts();
 }
 
 void AddFeature::get_font_name(QString name)
 {
-    m_text->setFont(name);
+    m_text->m_pFontLE->enter(name);
 }
 
 void AddFeature::get_Special_TEXT(QString s)
 {
-    m_text->setSpecialText(s);
+    m_text->m_pTextLE->enter(QStringLiteral("$$") + s);
+}
+
+void AddFeature::on_m_pPolarityCMB_ComboBox_Changed()
+{
+    m_pPolarityCMB->change();
+}
+
+void AddFeature::on_m_pMirrorCMB_ComboBox_Changed()
+{
+    m_pMirrorCMB->change();
 }
 
 void AddFeature::on_Line_ComboBox_Changed()
 {
-    m_line->lineKindChanged();
+    m_line->chooseKind();
 }
 
 void AddFeature::on_CornerTypre_ComboBox_Changed()
 {
-    m_line->cornerTypeChanged();
+    m_line->chooseCorner();
 }
 
 void AddFeature::on_m_pSlotPlatedCMB_ComboBox_Changed()
 {
-    m_line->slotPlatedChanged();
+    m_line->m_pSlotPlatedCMB->change();
 }
 
 void AddFeature::on_SurfShape_ComboBox_Changed()
 {
-    m_surface->shapeChanged();
+    m_surface->m_pSurfShapeCMB->change();
 }
 
 void AddFeature::on_ArcAndCircle_ComboBox_Changed()
 {
-    m_arc->arcOrCircleChanged();
+    m_arc->chooseArcOrCircle();
 }
 
 void AddFeature::on_Arc_ComboBox_Changed()
 {
-    m_arc->arcMethodChanged();
+    m_arc->m_pArcCMB->change();
 }
 
 void AddFeature::on_Circle_ComboBox_Changed()
 {
-    m_arc->circleMethodChanged();
+    m_arc->m_pCircleCMB->change();
 }
 
 void AddFeature::on_Textformart_ComboBox_Changed()
 {
-    m_text->formatChanged();
+    m_text->chooseFormat();
 }
 
 void AddFeature::on_UPC_ComboBox_Changed()
 {
-    m_text->barcode().barcodeTypeChanged();
+    m_text->m_barcode->chooseType();
 }
 
 void AddFeature::on_m_pPositionCMB_ComboBox_Changed()
 {
-    m_text->barcode().positionChanged();
+    m_text->m_barcode->m_pPositionCMB->change();
 }
 
 void AddFeature::on_m_pOrbotechTypeCMB_ComboBox_Changed()
 {
-    m_text->plotStamp().typeChanged();
+    m_text->m_plotStamp->m_pOrbotechTypeCMB->change();
 }
 
 void AddFeature::on_m_pOrbotechFontSizeCMB_ComboBox_Changed()
 {
-    m_text->plotStamp().fontSizeChanged();
+    m_text->m_plotStamp->m_pOrbotechFontSizeCMB->change();
 }
 
 void AddFeature::on_m_pOrbotechZoomCMB_ComboBox_Changed()
 {
-    m_text->plotStamp().zoomChanged();
+    m_text->m_plotStamp->m_pOrbotechZoomCMB->change();
 }
 
 void AddFeature::on_m_pCannedHoleSizeCMB_ComboBox_Changed()
 {
-    m_text->cannedText().holeModeChanged();
+    m_text->m_cannedText->chooseHoleMode();
 }
 
 void AddFeature::on_ClockWise_CheckState_Changed(int /*arg1*/)
 {
-    m_arc->clockWiseChanged();
+    m_arc->m_pClockWiseCB->change();
 }
 
 void AddFeature::on_Attribute_CheckState_Changed(int /*arg1*/)
@@ -138,22 +148,22 @@ void AddFeature::on_Attribute_CheckState_Changed(int /*arg1*/)
 
 void AddFeature::on_m_pClosedCB_CheckState_Changed(int /*arg1*/)
 {
-    m_line->closedChanged();
+    m_line->m_pClosedCB->change();
 }
 
 void AddFeature::on_AddString_CheckState_Changed(int /*arg1*/)
 {
-    m_text->barcode().addStringChanged();
+    m_text->m_barcode->chooseString();
 }
 
 void AddFeature::on_m_pBackgroundCB_CheckState_Changed(int /*arg1*/)
 {
-    m_text->barcode().backgroundChanged();
+    m_text->m_barcode->chooseBackground();
 }
 
 void AddFeature::on_m_pAddMarkersCB_CheckState_Changed(int /*arg1*/)
 {
-    m_text->barcode().addMarkersChanged();
+    m_text->m_barcode->m_pAddMarkersCB->change();
 }
 
 void AddFeature::on_m_pValuesPB_clicked()
@@ -168,7 +178,7 @@ void AddFeature::on_m_pSymbolPB_clicked()
 
 void AddFeature::on_m_pFontPB_clicked()
 {
-    m_text->fontClicked();
+    m_text->openFonts();
 }
 
 void AddFeature::on_m_pTextPB_clicked()
@@ -188,107 +198,102 @@ void AddFeature::Enter_Symbol_Text()
 
 void AddFeature::on_m_pAngleLE_editingFinished()
 {
-    finish("m_pAngleLE", m_line, &LinePage::angleEdited);
+    m_line->m_pAngleLE->finish();
 }
 
 void AddFeature::on_m_pCornerRadiusLE_editingFinished()
 {
-    finish("m_pCornerRadiusLE", m_line, &LinePage::cornerRadiusEdited);
+    m_line->m_pCornerRadiusLE->finish();
 }
 
 void AddFeature::on_m_pLengthLE_editingFinished()
 {
-    finish("m_pLengthLE", m_line, &LinePage::slotLengthEdited);
+    m_line->m_pLengthLE->finish();
 }
 
 void AddFeature::on_m_pSlotAngleLE_editingFinished()
 {
-    finish("m_pSlotAngleLE", m_line, &LinePage::slotAngleEdited);
+    m_line->m_pSlotAngleLE->finish();
 }
 
 void AddFeature::on_m_pSlotDecodeLE_editingFinished()
 {
-    finish("m_pSlotDecodeLE", m_line, &LinePage::slotDecodeEdited);
+    m_line->m_pSlotDecodeLE->finish();
 }
 
 void AddFeature::on_m_pDrilNxLE_editingFinished(const QString& text)
 {
-    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pDrilNxLE")),
-                   [&] { m_pad->nxChanged(text); });
+    m_pad->m_pDrilNxLE->change(text);
 }
 
 void AddFeature::on_m_pDrilDxLE_editingFinished()
 {
-    finish("m_pDrilDxLE", m_pad, &PadPage::dxEdited);
+    m_pad->m_pDrilDxLE->finish();
 }
 
 void AddFeature::on_m_pDrilXsclLE_editingFinished(const QString& text)
 {
-    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pDrilXsclLE")),
-                   [&] { m_pad->xsclChanged(text); });
+    m_pad->m_pDrilXsclLE->change(text);
 }
 
 void AddFeature::on_m_pDrilNyLE_editingFinished(const QString& text)
 {
-    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pDrilNyLE")),
-                   [&] { m_pad->nyChanged(text); });
+    m_pad->m_pDrilNyLE->change(text);
 }
 
 void AddFeature::on_m_pDrilDyLE_editingFinished()
 {
-    finish("m_pDrilDyLE", m_pad, &PadPage::dyEdited);
+    m_pad->m_pDrilDyLE->finish();
 }
 
 void AddFeature::on_m_pDrilYsclLE_editingFinished(const QString& text)
 {
-    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pDrilYsclLE")),
-                   [&] { m_pad->ysclChanged(text); });
+    m_pad->m_pDrilYsclLE->change(text);
 }
 
 void AddFeature::on_m_pFontLE_editingFinished()
 {
-    finish("m_pFontLE", m_text, &TextPage::fontEdited);
+    m_text->m_pFontLE->finish();
 }
 
 void AddFeature::on_m_pTextLE_editingFinished()
 {
-    finish("m_pTextLE", m_text, &TextPage::textEdited);
+    m_text->m_pTextLE->finish();
 }
 
 void AddFeature::on_m_pXSizeLE_editingFinished()
 {
-    finish("m_pXSizeLE", &m_text->strings(), &StringPage::xSizeEdited);
+    m_text->m_strings->m_pXSizeLE->finish();
 }
 
 void AddFeature::on_m_pYSizeLE_editingFinished()
 {
-    finish("m_pYSizeLE", &m_text->strings(), &StringPage::ySizeEdited);
+    m_text->m_strings->m_pYSizeLE->finish();
 }
 
 void AddFeature::on_m_pLineWidthLE_editingFinished()
 {
-    finish("m_pLineWidthLE", &m_text->strings(), &StringPage::lineWidthEdited);
+    m_text->m_strings->m_pLineWidthLE->finish();
 }
 
 void AddFeature::on_m_pHeightLE_editingFinished()
 {
-    finish("m_pHeightLE", &m_text->barcode(), &BarcodePage::heightEdited);
+    m_text->m_barcode->m_pHeightLE->finish();
 }
 
 void AddFeature::on_m_pMatrixLE_editingFinished()
 {
-    finish("m_pMatrixLE", &m_text->barcode(), &BarcodePage::matrixEdited);
+    m_text->m_barcode->m_pMatrixLE->finish();
 }
 
 void AddFeature::on_m_pCannedHoleSizeLE_editingFinished()
 {
-    finish("m_pCannedHoleSizeLE", &m_text->cannedText(), &CannedTextPage::holeSizeEdited);
+    m_text->m_cannedText->m_pCannedHoleSizeLE->finish();
 }
 
 void AddFeature::on_m_pSymbolTextLE_returnPressed()
 {
-    m_refusals.run(findChild<QObject*>(QStringLiteral("m_pSymbolTextLE")),
-                   [&] { m_symbol->returnPressed(); });
+    m_symbol->returnPressed();
 }
 
 void AddFeature::on_m_pFillPB_clicked()

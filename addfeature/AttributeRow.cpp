@@ -1,7 +1,7 @@
 #include "addfeature/AttributeRow.h"
 
-#include "addfeature/CanvasLink.h"
-#include "addfeature/FeatureRecord.h"
+#include "addfeature/record/DialogDoor.h"
+#include "addfeature/record/FeatureRecord.h"
 #include "plugin/RecordKeys.h"
 
 #include <common_widgets.h>
@@ -12,10 +12,9 @@
 
 #include <utility>
 
-AttributeRow::AttributeRow(FeatureRecord& record, const CanvasLink& canvas, QWidget* dialog)
+AttributeRow::AttributeRow(DialogDoor& door, QWidget* dialog)
     : QWidget(dialog),
-      m_record(record),
-      m_canvas(canvas),
+      m_door(door),
       m_dialog(dialog),
       m_pAttributesCB(new QCheckBox(this)),
       m_pValuesPB(new QPushButton(this)),
@@ -34,12 +33,12 @@ AttributeRow::AttributeRow(FeatureRecord& record, const CanvasLink& canvas, QWid
     row->addWidget(m_pValuesPB);
     row->addWidget(m_pFillPB);
     retranslate();
-    m_record.set(RecordKeys::attributes, RecordValues::zero);
+    m_door.record().set(RecordKeys::attributes, HasAttributes::no);
 
-    connect(m_pAttributesCB, SIGNAL(stateChanged(int)), dialog,
-            SLOT(on_Attribute_CheckState_Changed(int)));
-    connect(m_pValuesPB, SIGNAL(clicked()), dialog, SLOT(on_m_pValuesPB_clicked()));
-    connect(m_pFillPB, SIGNAL(clicked()), dialog, SLOT(on_m_pFillPB_clicked()));
+    door.connectToSlot(m_pAttributesCB, SIGNAL(stateChanged(int)),
+                       SLOT(on_Attribute_CheckState_Changed(int)));
+    door.connectToSlot(m_pValuesPB, SIGNAL(clicked()), SLOT(on_m_pValuesPB_clicked()));
+    door.connectToSlot(m_pFillPB, SIGNAL(clicked()), SLOT(on_m_pFillPB_clicked()));
 }
 
 void AttributeRow::retranslate()
@@ -51,17 +50,24 @@ void AttributeRow::retranslate()
 
 void AttributeRow::setCheckBoxVisible(bool visible)
 {
-    m_pAttributesCB->setVisible(visible);
+    setShown(m_pAttributesCB, visible);
 }
 
 void AttributeRow::setValuesVisible(bool visible)
 {
-    m_pValuesPB->setVisible(visible);
+    setShown(m_pValuesPB, visible);
 }
 
 void AttributeRow::setFillVisible(bool visible)
 {
-    m_pFillPB->setVisible(visible);
+    setShown(m_pFillPB, visible);
+}
+
+/// A row of which nothing is shown would leave a gap.
+void AttributeRow::setShown(QWidget* control, bool shown)
+{
+    control->setVisible(shown);
+    setVisible(!m_pAttributesCB->isHidden() || !m_pValuesPB->isHidden() || !m_pFillPB->isHidden());
 }
 
 void AttributeRow::setFillEnabled(bool enabled)
@@ -72,30 +78,32 @@ void AttributeRow::setFillEnabled(bool enabled)
 void AttributeRow::stateChanged()
 {
     const bool checked = m_pAttributesCB->isChecked();
-    m_record.set(RecordKeys::attributes, checked ? RecordValues::one : RecordValues::zero);
-    m_pValuesPB->setVisible(checked);
+    m_door.record().set(RecordKeys::attributes, checked ? HasAttributes::yes : HasAttributes::no);
+    setShown(m_pValuesPB, checked);
     if (!checked) {
         m_attributes.clear();
     } else if (m_window) {
         m_window->getAttributeData(m_attributes);
     }
-    m_canvas.sendAttributes(m_attributes);
+    m_door.sendAttributes(m_attributes);
 }
 
 void AttributeRow::openValues()
 {
     if (!m_window) {
         m_window = new Widget_Attributes(m_dialog);
-        connect(m_window, SIGNAL(change_button_color()), m_dialog, SLOT(set_attribute_color()));
-        connect(m_window, SIGNAL(remove_button_color()), m_dialog, SLOT(reset_attribute_color()));
-        connect(m_window, SIGNAL(send_attribute_signal()), m_dialog, SLOT(get_attribute_signal()));
-        connect(
+        m_door.connectToSlot(m_window, SIGNAL(change_button_color()), SLOT(set_attribute_color()));
+        m_door.connectToSlot(m_window, SIGNAL(remove_button_color()),
+                             SLOT(reset_attribute_color()));
+        m_door.connectToSlot(m_window, SIGNAL(send_attribute_signal()),
+                             SLOT(get_attribute_signal()));
+        m_door.connectToSlot(
             m_window, SIGNAL(send_attribute_list(std::vector<std::pair<std::string, std::string>>)),
-            m_dialog, SLOT(get_attribute_list(std::vector<std::pair<std::string, std::string>>)));
-        connect(m_dialog,
-                SIGNAL(send_attributeinfo_list(std::vector<std::pair<std::string, std::string>>)),
-                m_window,
-                SLOT(get_attributeinfo_list(std::vector<std::pair<std::string, std::string>>)));
+            SLOT(get_attribute_list(std::vector<std::pair<std::string, std::string>>)));
+        m_door.connectSignal(
+            SIGNAL(send_attributeinfo_list(std::vector<std::pair<std::string, std::string>>)),
+            m_window,
+            SLOT(get_attributeinfo_list(std::vector<std::pair<std::string, std::string>>)));
     }
     m_window->show();
 }
@@ -120,7 +128,7 @@ void AttributeRow::setList(std::vector<std::pair<std::string, std::string>> attr
         // Names mostly come in order.
         m_attributes.emplace_hint(m_attributes.end(), std::move(name), std::move(value));
     }
-    m_canvas.sendAttributes(m_attributes);
+    m_door.sendAttributes(m_attributes);
 }
 
 void AttributeRow::closePopups()

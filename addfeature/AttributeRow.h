@@ -9,8 +9,7 @@
 #include <utility>
 #include <vector>
 
-class CanvasLink;
-class FeatureRecord;
+class DialogDoor;
 class QCheckBox;
 class QPushButton;
 class Widget_Attributes;
@@ -18,11 +17,12 @@ class Widget_Attributes;
 /// The attribute row of the dialog: check box, "Values..." and "Fill..." buttons, and the attribute
 /// map that the canvas reads by address.
 ///
-/// The controls are connected to the named slots of `dialog`, which forward here.
+/// The controls are connected to the named slots of the dialog, which call the methods here.
 class AttributeRow : public QWidget {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 public:
-    AttributeRow(FeatureRecord& record, const CanvasLink& canvas, QWidget* dialog);
+    /// `dialog` becomes the owner of the attribute window as well.
+    AttributeRow(DialogDoor& door, QWidget* dialog);
 
     void retranslate();
     void setCheckBoxVisible(bool visible);
@@ -43,8 +43,9 @@ public:
     void closePopups();
 
 private:
-    FeatureRecord& m_record;
-    const CanvasLink& m_canvas;
+    void setShown(QWidget* control, bool shown);
+
+    DialogDoor& m_door;
     QWidget* m_dialog;
     QCheckBox* m_pAttributesCB;
     QPushButton* m_pValuesPB;

@@ -1,8 +1,8 @@
 #include "addfeature/SymbolEntry.h"
 
-#include "addfeature/FeatureRecord.h"
-#include "addfeature/RefusalGuard.h"
-#include "addfeature/SymbolHost.h"
+#include "addfeature/record/DialogDoor.h"
+#include "addfeature/record/FeatureRecord.h"
+#include "addfeature/record/RefusalGuard.h"
 #include "plugin/RecordKeys.h"
 
 #include <cam_api.h>
@@ -62,13 +62,12 @@ bool isRound(const QString& name)
 
 }  // namespace
 
-SymbolEntry::SymbolEntry(SymbolHost& host, QObject* slotOwner, QWidget* parent)
+SymbolEntry::SymbolEntry(DialogDoor& door, QWidget* parent)
     : QWidget(parent),
-      m_host(host),
-      m_slotOwner(slotOwner),
+      m_door(door),
       m_pSymbolPB(new QPushButton(this)),
       m_pSymbolTextLE(new ZTLineEdit(static_cast<ZTERegExp>(freeText),
-                                     static_cast<QWidget*>(host.ownerContext()))),
+                                     static_cast<QWidget*>(door.ownerContext()))),
       m_pSelectFromEditorPB(new QPushButton(this)),
       // No literals: Qt keeps the patterns of QRegExp beyond the life of the library.
       m_lineValidator(new QRegExpValidator(
@@ -96,15 +95,15 @@ SymbolEntry::SymbolEntry(SymbolHost& host, QObject* slotOwner, QWidget* parent)
     setTabOrder(m_pSymbolPB, m_pSymbolTextLE);
     retranslate();
 
-    connect(m_pSelectFromEditorPB, SIGNAL(clicked()), slotOwner,
-            SLOT(on_m_pSelectFromEditorPB_clicked()));
-    connect(m_pSymbolPB, SIGNAL(clicked()), slotOwner, SLOT(on_m_pSymbolPB_clicked()));
-    connect(m_pSymbolTextLE, SIGNAL(editingFinished()), slotOwner,
-            SLOT(on_m_pSymbolTextLE_editingFinished()));
-    connect(m_pSymbolTextLE, SIGNAL(textChanged(QString)), slotOwner,
-            SLOT(on_m_pSymbolTextLE_textChanged(QString)));
-    connect(m_pSymbolTextLE, SIGNAL(returnPressed()), slotOwner,
-            SLOT(on_m_pSymbolTextLE_returnPressed()));
+    door.connectToSlot(m_pSelectFromEditorPB, SIGNAL(clicked()),
+                       SLOT(on_m_pSelectFromEditorPB_clicked()));
+    door.connectToSlot(m_pSymbolPB, SIGNAL(clicked()), SLOT(on_m_pSymbolPB_clicked()));
+    door.connectToSlot(m_pSymbolTextLE, SIGNAL(editingFinished()),
+                       SLOT(on_m_pSymbolTextLE_editingFinished()));
+    door.connectToSlot(m_pSymbolTextLE, SIGNAL(textChanged(QString)),
+                       SLOT(on_m_pSymbolTextLE_textChanged(QString)));
+    door.connectToSlot(m_pSymbolTextLE, SIGNAL(returnPressed()),
+                       SLOT(on_m_pSymbolTextLE_returnPressed()));
 }
 
 QString SymbolEntry::text() const
@@ -121,7 +120,7 @@ void SymbolEntry::dropRefused()
 {
     const QString name = text();
     m_pSymbolTextLE->setText(QString());
-    FeatureRecord& record = m_host.record();
+    FeatureRecord& record = m_door.record();
     if (isStoredForm(record.text(RecordKeys::symbolText), name)) {
         record.set(RecordKeys::symbolText, QString());
     }
@@ -144,7 +143,7 @@ void SymbolEntry::retranslate()
 
 void SymbolEntry::applyFeatureType()
 {
-    switch (m_host.featureType()) {
+    switch (m_door.featureType()) {
         case FeatureType::Line:
             m_pSymbolTextLE->setValidator(m_lineValidator);
             break;
@@ -162,21 +161,23 @@ void SymbolEntry::applyFeatureType()
 
 void SymbolEntry::setControlsVisible(bool visible)
 {
-    m_pSymbolPB->setVisible(visible);
-    m_pSymbolTextLE->setVisible(visible);
-    m_pSelectFromEditorPB->setVisible(visible);
+    for (QWidget* const control :
+         std::initializer_list<QWidget*>{m_pSymbolPB, m_pSymbolTextLE, m_pSelectFromEditorPB}) {
+        control->setVisible(visible);
+    }
+    setVisible(visible);  // an empty row would leave a gap
 }
 
 bool SymbolEntry::isSpecial(const QString& name) const
 {
     std::vector<std::string> names;
-    ZENTRA::API::get_special_symbol_names(m_host.job(), names);
+    ZENTRA::API::get_special_symbol_names(m_door.job(), names);
     return std::find(names.begin(), names.end(), name.toStdString()) != names.end();
 }
 
 bool SymbolEntry::isMetric() const
 {
-    return ZENTRA::UIAPI::getUnit(m_host.ownerContext()) != 0;
+    return ZENTRA::UIAPI::getUnit(m_door.ownerContext()) != 0;
 }
 
 QString SymbolEntry::stored(const QString& name) const
@@ -191,15 +192,15 @@ int SymbolEntry::suffixDegrees() const
 
 void SymbolEntry::storeRotation(int suffixDegrees)
 {
-    m_host.record().set(RecordKeys::mirrorRotate,
-                        QString::number(qint64(m_host.rotation()) + suffixDegrees));
+    m_door.record().set(RecordKeys::mirrorRotate,
+                        QString::number(qint64(m_door.rotation()) + suffixDegrees));
 }
 
 void SymbolEntry::refuse(const QString& title, const QString& text)
 {
-    m_host.refusals().box([&] { QMessageBox::warning(this, title, text); });
+    m_door.refusals().box([&] { QMessageBox::warning(this, title, text); });
     m_pSymbolTextLE->setText(QString());
-    m_host.record().set(RecordKeys::symbolText, this->text());
+    m_door.record().set(RecordKeys::symbolText, this->text());
 }
 
 void SymbolEntry::chosen(const QString& name)
@@ -213,19 +214,24 @@ void SymbolEntry::enterText()
     if (text().isEmpty()) {
         return;
     }
-    m_host.record().set(RecordKeys::symbolText, stored(text()));
+    m_door.record().set(RecordKeys::symbolText, stored(text()));
     storeRotation(0);
-    m_host.sendRecord();
+    m_door.sendRecord();
 }
 
-void SymbolEntry::editingFinished()
+void SymbolEntry::finish()
 {
-    const bool sends = m_host.isToolActive();
+    m_door.refusals().report(m_pSymbolTextLE, [this] { takeEntry(); });
+}
+
+void SymbolEntry::takeEntry()
+{
+    const bool sends = m_door.isToolActive();
     m_hasSuffix = false;
     storeRotation(0);
     storeEntry();
     if (sends) {
-        m_host.sendRecord();
+        m_door.sendRecord();
     }
 }
 
@@ -234,7 +240,7 @@ void SymbolEntry::storeEntry()
     // The first two refusals show their texts untranslated, the last one translated: deliberate.
     const QString untranslatedTitle = QStringLiteral("Illegal Input");
     const QString untranslatedText = QStringLiteral("Unable to create special symbol!");
-    const FeatureType type = m_host.featureType();
+    const FeatureType type = m_door.featureType();
     QString name = text();
 
     if (type == FeatureType::Line && (name == QLatin1String("r") || name == QLatin1String("s"))) {
@@ -252,11 +258,11 @@ void SymbolEntry::storeEntry()
         name.truncate(name.lastIndexOf(QLatin1Char('_')));
     }
     if (isStandard(name, type == FeatureType::Arc)) {
-        m_host.record().set(RecordKeys::symbolText, stored(name));
+        m_door.record().set(RecordKeys::symbolText, stored(name));
     } else if (isSpecial(name)) {
-        m_host.record().set(RecordKeys::symbolText, name);
+        m_door.record().set(RecordKeys::symbolText, name);
     } else if (text().isEmpty()) {
-        m_host.record().set(RecordKeys::symbolText, QString());
+        m_door.record().set(RecordKeys::symbolText, QString());
     } else {
         refuse(tr("Illegal Input"), tr("Unable to create special symbol!"));
     }
@@ -264,10 +270,12 @@ void SymbolEntry::storeEntry()
 
 void SymbolEntry::returnPressed()
 {
-    const QString typed = text().left(m_pSymbolTextLE->cursorPosition());
-    m_pSymbolTextLE->setText(typed);
-    m_host.record().set(RecordKeys::symbolText, stored(typed));
-    m_host.sendRecord();
+    m_door.refusals().run(m_pSymbolTextLE, [this] {
+        const QString typed = text().left(m_pSymbolTextLE->cursorPosition());
+        m_pSymbolTextLE->setText(typed);
+        m_door.record().set(RecordKeys::symbolText, stored(typed));
+        m_door.sendRecord();
+    });
 }
 
 void SymbolEntry::keepText(const QString& text)
@@ -286,9 +294,9 @@ void SymbolEntry::changeUnit(bool isMetric)
     }
     // Not typed by the user: the kept texts stay.
     const char* const slot = SLOT(on_m_pSymbolTextLE_textChanged(QString));
-    disconnect(m_pSymbolTextLE, SIGNAL(textChanged(QString)), m_slotOwner, slot);
+    m_door.disconnectFromSlot(m_pSymbolTextLE, SIGNAL(textChanged(QString)), slot);
     m_pSymbolTextLE->setText(kept);
-    connect(m_pSymbolTextLE, SIGNAL(textChanged(QString)), m_slotOwner, slot);
+    m_door.connectToSlot(m_pSymbolTextLE, SIGNAL(textChanged(QString)), slot);
 }
 
 QString SymbolEntry::converted(const QString& name, int direction) const
@@ -309,7 +317,7 @@ void SymbolEntry::picked(const std::map<int, std::string>& symbols)
             return;  // a receiver of what was sent has deleted the dialog
         }
         QString name = QString::fromStdString(symbol.second);
-        if (m_host.featureType() == FeatureType::Arc && !isRound(name)) {
+        if (m_door.featureType() == FeatureType::Arc && !isRound(name)) {
             refusePick(name);
             continue;
         }
@@ -317,16 +325,16 @@ void SymbolEntry::picked(const std::map<int, std::string>& symbols)
             name = ZENTRA::UIAPI::setSymbolUIData(name, storedToMetric);
         }
         m_pSymbolTextLE->setText(name);
-        m_host.record().set(RecordKeys::symbolText, name);
+        m_door.record().set(RecordKeys::symbolText, name);
         togglePick();
-        m_host.sendRecord();
+        m_door.sendRecord();
     }
 }
 
 /// A handler of its own: what was pending in a field is taken before the next pick.
 void SymbolEntry::refusePick(const QString& name)
 {
-    RefusalGuard& refusals = m_host.refusals();
+    RefusalGuard& refusals = m_door.refusals();
     refusals.run(nullptr, [&] {
         refusals.box([&] {
             QMessageBox::warning(this, tr("Dialog Box"), tr("Illegal symbol name: ") + name);
@@ -343,12 +351,12 @@ void SymbolEntry::togglePick()
 void SymbolEntry::openChooser()
 {
     if (!m_chooser) {
-        auto* const owner = static_cast<QWidget*>(m_host.ownerContext());
-        m_chooser = new Widget_SymbolSelection(m_host.job(), owner, owner);
-        connect(m_chooser, SIGNAL(sendText(QString)), m_slotOwner, SLOT(receive_text(QString)));
-        connect(m_slotOwner, SIGNAL(unit_changed()), m_chooser, SLOT(change_unit()));
+        auto* const owner = static_cast<QWidget*>(m_door.ownerContext());
+        m_chooser = new Widget_SymbolSelection(m_door.job(), owner, owner);
+        m_door.connectToSlot(m_chooser, SIGNAL(sendText(QString)), SLOT(receive_text(QString)));
+        m_door.connectSignal(SIGNAL(unit_changed()), m_chooser, SLOT(change_unit()));
     }
-    const FeatureType type = m_host.featureType();
+    const FeatureType type = m_door.featureType();
     const bool roundAndSquareOnly = type == FeatureType::Line || type == FeatureType::Arc;
     m_chooser->changeAvailableItemView(roundAndSquareOnly ? 0 : 1);
     m_chooser->show();
@@ -358,7 +366,7 @@ void SymbolEntry::openChooser()
 void SymbolEntry::jobChanged()
 {
     if (m_chooser) {
-        m_chooser->setJob(m_host.job());
+        m_chooser->setJob(m_door.job());
     }
 }
 

@@ -8,9 +8,9 @@
 #include <map>
 #include <string>
 
+class DialogDoor;
 class QPushButton;
 class QRegExpValidator;
-class SymbolHost;
 class Widget_SymbolSelection;
 
 namespace ZENTRA {
@@ -22,11 +22,11 @@ class ZTLineEdit;
 /// The symbol row of the dialog: chooser button, name field, pick-from-board button. It turns what
 /// is typed, chosen or picked into the record's symbol and rotation.
 ///
-/// The controls are connected to the named slots of `slotOwner`, which forward here.
+/// The controls are connected to the named slots of the dialog, which call the methods here.
 class SymbolEntry : public QWidget {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 public:
-    SymbolEntry(SymbolHost& host, QObject* slotOwner, QWidget* parent);
+    SymbolEntry(DialogDoor& door, QWidget* parent);
 
     QString text() const;
     /// The name field, as the guard of refusals knows it.
@@ -47,8 +47,11 @@ public:
     // The named slots of the dialog forward to these.
     void chosen(const QString& name);
     void enterText();
-    void editingFinished();
+    /// Takes over the entry that the user has finished; see RefusalGuard.
+    void finish();
+    /// Keeps what stands in the field for a change of the unit. What the host throws passes on.
     void keepText(const QString& text);
+    /// Cuts the entry at the cursor and sends it.
     void returnPressed();
     void togglePick();
     void openChooser();
@@ -65,13 +68,13 @@ private:
     QString stored(const QString& name) const;
     QString converted(const QString& name, int direction) const;
     void storeRotation(int suffixDegrees);
+    void takeEntry();
     void storeEntry();
     void refuse(const QString& title, const QString& text);
     void refusePick(const QString& name);
     bool isStoredForm(const QString& symbol, const QString& name) const;
 
-    SymbolHost& m_host;
-    QObject* m_slotOwner;
+    DialogDoor& m_door;
     QPushButton* m_pSymbolPB;
     ZENTRA::UIAPI::ZTLineEdit* m_pSymbolTextLE;
     QPushButton* m_pSelectFromEditorPB;

@@ -1,141 +1,60 @@
 #include "addfeature/pages/ArcPage.h"
 
-#include "addfeature/FeatureRecord.h"
-#include "addfeature/PageHost.h"
-#include "addfeature/pages/Choices.h"
 #include "plugin/RecordKeys.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-namespace {
-
-const Choices families = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Arc"), RecordValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Circle"), RecordValues::two},
-};
-
-const Choices arcMethods = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, End"), RecordValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Edge"), RecordValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Center"), RecordValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, Angle"), RecordValues::four, false},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, Center, Length"), RecordValues::five, false},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Angle"), RecordValues::six, false},
-    {QT_TRANSLATE_NOOP("AddFeature", "Start, End, Radius"), RecordValues::seven, false},
-};
-
-const Choices circleMethods = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Center, Radius"), RecordValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Center, Point"), RecordValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Point, Center"), RecordValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "Three Points"), RecordValues::four, false},
-};
-
-}  // namespace
-
-ArcPage::ArcPage(PageHost& host, QWidget* parent)
-    : Page(host, parent),
-      m_arcOrCircle(new QComboBox(this)),
-      m_clockWise(new QCheckBox(this)),
-      m_arcMethod(new QComboBox(this)),
-      m_circleMethod(new QComboBox(this))
+ArcPage::ArcPage(DialogDoor& door, QWidget* parent)
+    : Page(door, "m_pArcPage", parent),
+      m_pArcAndCircleCMB(add<ChoiceField>(
+          Field::Details{"m_pArcAndCircleCMB", Caption::spoken(QT_TR_NOOP("Arc or circle")),
+                         RecordKeys::arcAndCircle, SLOT(on_ArcAndCircle_ComboBox_Changed())},
+          Choices{{QT_TR_NOOP("Arc"), ArcOrCircle::arc},
+                  {QT_TR_NOOP("Circle"), ArcOrCircle::circle}},
+          ChoiceField::Stores::Text, Sends::Always)),
+      m_pClockWiseCB(add<FlagField>(
+          Field::Details{"m_pClockWiseCB", Caption::own(QT_TR_NOOP("ClockWise")),
+                         RecordKeys::clockWise, SLOT(on_ClockWise_CheckState_Changed(int))},
+          true, FlagField::Values{ClockWise::yes, ClockWise::no}, Sends::Always)),
+      m_pArcCMB(add<ChoiceField>(
+          Field::Details{"m_pArcCMB", Caption::spoken(QT_TR_NOOP("Arc method")),
+                         RecordKeys::arcMode, SLOT(on_Arc_ComboBox_Changed())},
+          Choices{{QT_TR_NOOP("Start, Center, End"), ArcMode::startCenterEnd},
+                  {QT_TR_NOOP("Start, End, Edge"), ArcMode::startEndEdge},
+                  {QT_TR_NOOP("Start, End, Center"), ArcMode::startEndCenter},
+                  {QT_TR_NOOP("Start, Center, Angle"), ArcMode::startCenterAngle, false},
+                  {QT_TR_NOOP("Start, Center, Length"), ArcMode::startCenterLength, false},
+                  {QT_TR_NOOP("Start, End, Angle"), ArcMode::startEndAngle, false},
+                  {QT_TR_NOOP("Start, End, Radius"), ArcMode::startEndRadius, false}},
+          ChoiceField::Stores::Text, Sends::Always)),
+      m_pCircleCMB(add<ChoiceField>(
+          Field::Details{"m_pCircleCMB", Caption::spoken(QT_TR_NOOP("Circle method")),
+                         RecordKeys::circleMode, SLOT(on_Circle_ComboBox_Changed())},
+          Choices{{QT_TR_NOOP("Center, Radius"), CircleMode::centerRadius},
+                  {QT_TR_NOOP("Center, Point"), CircleMode::centerPoint},
+                  {QT_TR_NOOP("Point, Center"), CircleMode::pointCenter},
+                  {QT_TR_NOOP("Three Points"), CircleMode::threePoints, false}},
+          ChoiceField::Stores::Text, Sends::Always))
 {
-    setObjectName(QStringLiteral("m_pArcPage"));
-    m_arcOrCircle->setObjectName(QStringLiteral("m_pArcAndCircleCMB"));
-    m_clockWise->setObjectName(QStringLiteral("m_pClockWiseCB"));
-    m_arcMethod->setObjectName(QStringLiteral("m_pArcCMB"));
-    m_circleMethod->setObjectName(QStringLiteral("m_pCircleCMB"));
-    fillChoices(m_arcOrCircle, families);
-    fillChoices(m_arcMethod, arcMethods);
-    fillChoices(m_circleMethod, circleMethods);
-    m_clockWise->setChecked(true);
-    m_circleMethod->setEnabled(false);
+    m_pCircleCMB->setEnabled(false);
 
-    layOut();
-    retranslate();
-    writeDefaults();
-    connectControls();
-}
-
-void ArcPage::layOut()
-{
-    auto* firstRow = new QHBoxLayout;
-    firstRow->addWidget(m_arcOrCircle);
-    firstRow->addWidget(m_clockWise);
+    auto* const firstRow = new QHBoxLayout;
+    firstRow->addWidget(m_pArcAndCircleCMB);
+    firstRow->addWidget(m_pClockWiseCB);
     firstRow->addStretch();
-
-    auto* rows = new QVBoxLayout(this);
+    auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addLayout(firstRow);
-    rows->addWidget(m_arcMethod);
-    rows->addWidget(m_circleMethod);
+    rows->addWidget(m_pArcCMB);
+    rows->addWidget(m_pCircleCMB);
 }
 
-void ArcPage::writeDefaults()
+void ArcPage::chooseArcOrCircle()
 {
-    for (const QString& key : {RecordKeys::arcAndCircle, RecordKeys::arcMode,
-                               RecordKeys::circleMode, RecordKeys::clockWise}) {
-        m_host.record().set(key, RecordValues::one);
+    if (m_pArcAndCircleCMB->storeChoice()) {
+        m_pArcCMB->setEnabled(m_pArcAndCircleCMB->is(ArcOrCircle::arc));
+        m_pCircleCMB->setEnabled(m_pArcAndCircleCMB->is(ArcOrCircle::circle));
     }
-}
-
-void ArcPage::connectControls()
-{
-    QObject* const owner = m_host.slotOwner();
-    connect(m_arcOrCircle, SIGNAL(currentIndexChanged(QString)), owner,
-            SLOT(on_ArcAndCircle_ComboBox_Changed()));
-    connect(m_arcMethod, SIGNAL(currentIndexChanged(QString)), owner,
-            SLOT(on_Arc_ComboBox_Changed()));
-    connect(m_circleMethod, SIGNAL(currentIndexChanged(QString)), owner,
-            SLOT(on_Circle_ComboBox_Changed()));
-    connect(m_clockWise, SIGNAL(stateChanged(int)), owner,
-            SLOT(on_ClockWise_CheckState_Changed(int)));
-}
-
-void ArcPage::retranslate()
-{
-    retranslateChoices(m_arcOrCircle, families);
-    retranslateChoices(m_arcMethod, arcMethods);
-    retranslateChoices(m_circleMethod, circleMethods);
-    m_clockWise->setText(tr("ClockWise"));
-    m_arcOrCircle->setAccessibleName(tr("Arc or circle"));
-    m_arcMethod->setAccessibleName(tr("Arc method"));
-    m_circleMethod->setAccessibleName(tr("Circle method"));
-}
-
-void ArcPage::arcOrCircleChanged()
-{
-    if (const Choice* choice = currentChoice(m_arcOrCircle, families)) {
-        const bool isArc = choice->value == RecordValues::one;
-        m_host.record().set(RecordKeys::arcAndCircle, choice->value);
-        m_arcMethod->setEnabled(isArc);
-        m_circleMethod->setEnabled(!isArc);
-    }
-    m_host.sendRecord();
-}
-
-void ArcPage::arcMethodChanged()
-{
-    if (const Choice* choice = currentChoice(m_arcMethod, arcMethods)) {
-        m_host.record().set(RecordKeys::arcMode, choice->value);
-    }
-    m_host.sendRecord();
-}
-
-void ArcPage::circleMethodChanged()
-{
-    if (const Choice* choice = currentChoice(m_circleMethod, circleMethods)) {
-        m_host.record().set(RecordKeys::circleMode, choice->value);
-    }
-    m_host.sendRecord();
-}
-
-void ArcPage::clockWiseChanged()
-{
-    m_host.record().set(RecordKeys::clockWise,
-                        m_clockWise->isChecked() ? RecordValues::one : RecordValues::two);
-    m_host.sendRecord();
+    m_door.sendRecord();
 }

@@ -1,33 +1,23 @@
 #pragma once
 
+#include "addfeature/fields/ChoiceField.h"
+#include "addfeature/fields/FlagField.h"
 #include "addfeature/pages/Page.h"
 
 #include <QCoreApplication>
-
-class QCheckBox;
-class QComboBox;
 
 /// Arc or circle, the points that the user will click for it, and the direction.
 class ArcPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:
-    explicit ArcPage(PageHost& host, QWidget* parent = nullptr);
+    explicit ArcPage(DialogDoor& door, QWidget* parent = nullptr);
 
-    void retranslate() override;
+    /// The method of the other kind is greyed; its value stays in the record.
+    void chooseArcOrCircle();
 
-    void arcOrCircleChanged();
-    void arcMethodChanged();
-    void circleMethodChanged();
-    void clockWiseChanged();
-
-private:
-    void layOut();
-    void writeDefaults();
-    void connectControls();
-
-    QComboBox* m_arcOrCircle;
-    QCheckBox* m_clockWise;
-    QComboBox* m_arcMethod;
-    QComboBox* m_circleMethod;
+    ChoiceField* const m_pArcAndCircleCMB;
+    FlagField* const m_pClockWiseCB;
+    ChoiceField* const m_pArcCMB;
+    ChoiceField* const m_pCircleCMB;
 };

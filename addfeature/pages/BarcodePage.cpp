@@ -1,196 +1,113 @@
 #include "addfeature/pages/BarcodePage.h"
 
-#include "addfeature/FeatureRecord.h"
-#include "addfeature/PageHost.h"
-#include "addfeature/Units.h"
-#include "addfeature/pages/Choices.h"
-#include "addfeature/pages/Entries.h"
-#include "addfeature/pages/Fields.h"
 #include "plugin/RecordKeys.h"
 
-#include <ui_api.h>
-
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
 namespace {
 
-constexpr double largestHeight = 50000.0;
+constexpr double largestHeight = 50000.0;  // mil
 
-// The one type that is a matrix; the values are the items' numbers.
-constexpr int matrixType = 4;
-const Choices types = {
-    {QT_TRANSLATE_NOOP("AddFeature", "UPC39"), RecordValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "UPC39 ascii"), RecordValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "CODE128B"), RecordValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "CODE128C"), RecordValues::four},
-    {QT_TRANSLATE_NOOP("AddFeature", "ECC-200"), RecordValues::five},
-};
-
-// The values run against the order of the items.
-const Choices positions = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Top"), RecordValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Bottom"), RecordValues::one},
-};
-
-const QString& onOff(const QCheckBox* box)
-{
-    return box->isChecked() ? RecordValues::one : RecordValues::two;
-}
+const FlagField::Values added = {Added::yes, Added::no};
 
 }  // namespace
 
-BarcodePage::BarcodePage(PageHost& host, QComboBox* type, QWidget* parent)
-    : Page(host, parent), m_type(type)
+BarcodePage::BarcodePage(DialogDoor& door, QWidget* parent)
+    : Page(door, "m_pBarcodePage", parent),
+      m_pUPCCMB(
+          add<ChoiceField>(Field::Details{"m_pUPCCMB", Caption::spoken(QT_TR_NOOP("Barcode type")),
+                                          RecordKeys::barcodeMode, SLOT(on_UPC_ComboBox_Changed())},
+                           Choices{{QT_TR_NOOP("UPC39"), Symbology::upc39},
+                                   {QT_TR_NOOP("UPC39 ascii"), Symbology::upc39Ascii},
+                                   {QT_TR_NOOP("CODE128B"), Symbology::code128B},
+                                   {QT_TR_NOOP("CODE128C"), Symbology::code128C},
+                                   {QT_TR_NOOP("ECC-200"), Symbology::ecc200}},
+                           ChoiceField::Stores::TextThenNumber, Sends::Never)),
+      m_pAddStringCB(add<FlagField>(
+          Field::Details{"m_pAddStringCB", Caption::own(QT_TR_NOOP("Add String")),
+                         RecordKeys::addString, SLOT(on_AddString_CheckState_Changed(int))},
+          false, added, Sends::Never)),
+      m_pPositionCMB(add<ChoiceField>(
+          Field::Details{"m_pPositionCMB", Caption::spoken(QT_TR_NOOP("Position of the string")),
+                         RecordKeys::stringPosition, SLOT(on_m_pPositionCMB_ComboBox_Changed())},
+          Choices{{QT_TR_NOOP("Top"), StringPosition::top},
+                  {QT_TR_NOOP("Bottom"), StringPosition::bottom}},
+          ChoiceField::Stores::Text, Sends::Never)),
+      m_pBackgroundCB(
+          add<FlagField>(Field::Details{"m_pBackgroundCB", Caption::own(QT_TR_NOOP("Background")),
+                                        RecordKeys::addBackground,
+                                        SLOT(on_m_pBackgroundCB_CheckState_Changed(int))},
+                         false, added, Sends::Never)),
+      m_pAddMarkersCB(add<FlagField>(
+          Field::Details{"m_pAddMarkersCB", Caption::own(QT_TR_NOOP("Add Markers")),
+                         RecordKeys::addMarkers, SLOT(on_m_pAddMarkersCB_CheckState_Changed(int))},
+          false, added, Sends::Never)),
+      m_pHeightLE(add<LengthField>(
+          Field::Details{"m_pHeightLE", Caption::label(QT_TR_NOOP("Height\t:")),
+                         RecordKeys::barcodeHeight, SLOT(on_m_pHeightLE_editingFinished())},
+          QStringLiteral("250"), largestHeight, Sends::Never, LengthField::Unit::MilByLabel)),
+      m_pMatrixPB(new QPushButton(this)),
+      m_pMatrixLE(add<TextField>(
+          LineField::Pattern::Text,
+          Field::Details{"m_pMatrixLE", Caption::spoken(QT_TR_NOOP("Matrix")),
+                         RecordKeys::barcodeMatrix, SLOT(on_m_pMatrixLE_editingFinished())},
+          QStringLiteral("Minimal"), Sends::Never))
 {
-    setObjectName(QStringLiteral("m_pBarcodePage"));
-    fillChoices(m_type, types);
-    createControls();
-    layOut();
-    retranslate();
-    writeDefaults();
-    connectControls();
-}
-
-void BarcodePage::createControls()
-{
-    m_addString = new QCheckBox(this);
-    m_addString->setObjectName(QStringLiteral("m_pAddStringCB"));
-    m_position = new QComboBox(this);
-    m_position->setObjectName(QStringLiteral("m_pPositionCMB"));
-    m_position->setEnabled(false);
-    fillChoices(m_position, positions);
-    m_background = new QCheckBox(this);
-    m_background->setObjectName(QStringLiteral("m_pBackgroundCB"));
-    m_addMarkers = new QCheckBox(this);
-    m_addMarkers->setObjectName(QStringLiteral("m_pAddMarkersCB"));
-
-    m_height =
-        Fields::create(m_host, Fields::Pattern::Decimal, QStringLiteral("m_pHeightLE"), this);
-    m_height->setText(QStringLiteral("250"));
-    m_heightLabel = Fields::createLabel(QStringLiteral("m_pHeightLB"), this, m_height);
-    m_heightUnit = Fields::createLabel(QStringLiteral("m_pHeightUnitLB"), this);
-
-    m_matrixButton = new QPushButton(this);
-    m_matrixButton->setObjectName(QStringLiteral("m_pMatrixPB"));
-    m_matrix = Fields::create(m_host, Fields::Pattern::Text, QStringLiteral("m_pMatrixLE"), this);
-    m_matrix->setText(QStringLiteral("Minimal"));
+    m_pMatrixPB->setObjectName(QStringLiteral("m_pMatrixPB"));
+    m_door.connectToSlot(m_pMatrixPB, SIGNAL(clicked()), SLOT(on_m_pMatrixPB_clicked()));
+    m_pPositionCMB->setEnabled(false);
     enableMatrix(false);
+    layOut();
+    BarcodePage::retranslate();
 }
 
 void BarcodePage::layOut()
 {
-    auto* height = new QHBoxLayout;
-    height->addWidget(m_height);
-    height->addWidget(m_heightUnit);
+    auto* const height = new QHBoxLayout;
+    height->addWidget(m_pHeightLE);
+    height->addWidget(m_pHeightLE->unitLabel());
 
-    auto* grid = new QGridLayout(this);
+    auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnStretch(1, 1);
-    grid->addWidget(m_addString, 0, 0);
-    grid->addWidget(m_position, 0, 1);
-    grid->addWidget(m_background, 1, 0);
-    grid->addWidget(m_addMarkers, 1, 1);
-    grid->addWidget(m_heightLabel, 2, 0);
+    grid->addWidget(m_pAddStringCB, 0, 0);
+    grid->addWidget(m_pPositionCMB, 0, 1);
+    grid->addWidget(m_pBackgroundCB, 1, 0);
+    grid->addWidget(m_pAddMarkersCB, 1, 1);
+    grid->addWidget(m_pHeightLE->label(), 2, 0);
     grid->addLayout(height, 2, 1);
-    grid->addWidget(m_matrixButton, 3, 0);
-    grid->addWidget(m_matrix, 3, 1);
-}
-
-void BarcodePage::writeDefaults()
-{
-    FeatureRecord& record = m_host.record();
-    record.set(RecordKeys::addString, RecordValues::two);
-    record.set(RecordKeys::addBackground, RecordValues::two);
-    record.set(RecordKeys::stringPosition, RecordValues::two);
-    record.set(RecordKeys::addMarkers, RecordValues::two);
-    record.set(RecordKeys::barcodeMatrix, m_matrix->text());
-    // The first height is one in mil, whatever the unit.
-    record.set(RecordKeys::barcodeHeight, Units::toStored(m_height->text(), false));
-}
-
-void BarcodePage::connectControls()
-{
-    QObject* const owner = m_host.slotOwner();
-    connect(m_addString, SIGNAL(stateChanged(int)), owner,
-            SLOT(on_AddString_CheckState_Changed(int)));
-    connect(m_position, SIGNAL(currentIndexChanged(QString)), owner,
-            SLOT(on_m_pPositionCMB_ComboBox_Changed()));
-    connect(m_background, SIGNAL(stateChanged(int)), owner,
-            SLOT(on_m_pBackgroundCB_CheckState_Changed(int)));
-    connect(m_addMarkers, SIGNAL(stateChanged(int)), owner,
-            SLOT(on_m_pAddMarkersCB_CheckState_Changed(int)));
-    connect(m_height, SIGNAL(editingFinished()), owner, SLOT(on_m_pHeightLE_editingFinished()));
-    connect(m_matrix, SIGNAL(editingFinished()), owner, SLOT(on_m_pMatrixLE_editingFinished()));
-    connect(m_matrixButton, SIGNAL(clicked()), owner, SLOT(on_m_pMatrixPB_clicked()));
+    grid->addWidget(m_pMatrixPB, 3, 0);
+    grid->addWidget(m_pMatrixLE, 3, 1);
 }
 
 void BarcodePage::retranslate()
 {
-    retranslateChoices(m_type, types);
-    retranslateChoices(m_position, positions);
-    m_addString->setText(tr("Add String"));
-    m_position->setAccessibleName(tr("Position of the string"));
-    m_background->setText(tr("Background"));
-    m_addMarkers->setText(tr("Add Markers"));
-    m_heightLabel->setText(tr("Height\t:"));
-    m_heightUnit->setText(tr("mil"));
-    m_matrixButton->setText(tr("Matrix\t:"));
-    m_matrix->setAccessibleName(tr("Matrix"));
+    Page::retranslate();
+    m_pMatrixPB->setText(tr("Matrix\t:"));
 }
 
-void BarcodePage::changeUnit(bool isMetric)
+void BarcodePage::chooseType()
 {
-    m_height->changeunit(isMetric);  // the label beside it reads "mil" in both
-}
-
-void BarcodePage::barcodeTypeChanged()
-{
-    const int type = m_type->currentIndex();
-    m_host.record().set(RecordKeys::barcodeMode, type + 1);
-    enableMatrix(type == matrixType);
+    m_pUPCCMB->storeChoice();
+    enableMatrix(m_pUPCCMB->is(Symbology::ecc200));
 }
 
 void BarcodePage::enableMatrix(bool enabled)
 {
-    m_addMarkers->setEnabled(enabled);
-    m_matrixButton->setEnabled(enabled);
-    m_matrix->setEnabled(enabled);
+    m_pAddMarkersCB->setEnabled(enabled);
+    m_pMatrixPB->setEnabled(enabled);
+    m_pMatrixLE->setEnabled(enabled);
 }
 
-void BarcodePage::addStringChanged()
+void BarcodePage::chooseString()
 {
-    m_host.record().set(RecordKeys::addString, onOff(m_addString));
-    m_position->setEnabled(m_addString->isChecked());
+    m_pAddStringCB->change();
+    m_pPositionCMB->setEnabled(m_pAddStringCB->isChecked());
 }
 
-void BarcodePage::positionChanged()
+void BarcodePage::chooseBackground()
 {
-    if (const Choice* choice = currentChoice(m_position, positions)) {
-        m_host.record().set(RecordKeys::stringPosition, choice->value);
-    }
-}
-
-void BarcodePage::backgroundChanged()
-{
-    // Deliberately not the Background box itself: the one for the markers decides.
-    m_host.record().set(RecordKeys::addBackground, onOff(m_addMarkers));
-}
-
-void BarcodePage::addMarkersChanged()
-{
-    m_host.record().set(RecordKeys::addMarkers, onOff(m_addMarkers));
-}
-
-void BarcodePage::heightEdited()
-{
-    finishLength(m_host, {m_height, RecordKeys::barcodeHeight, largestHeight, false, false});
-}
-
-void BarcodePage::matrixEdited()
-{
-    m_host.record().set(RecordKeys::barcodeMatrix, m_matrix->text());
+    m_pBackgroundCB->storeAs(m_pAddMarkersCB->isChecked());
 }

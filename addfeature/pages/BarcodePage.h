@@ -1,55 +1,42 @@
 #pragma once
 
+#include "addfeature/fields/ChoiceField.h"
+#include "addfeature/fields/FlagField.h"
+#include "addfeature/fields/LengthField.h"
+#include "addfeature/fields/TextField.h"
 #include "addfeature/pages/Page.h"
 
 #include <QCoreApplication>
 
-class QCheckBox;
-class QComboBox;
-class QLabel;
 class QPushButton;
 
-namespace ZENTRA {
-namespace UIAPI {
-class ZTLineEdit;
-}  // namespace UIAPI
-}  // namespace ZENTRA
-
-/// The settings of a barcode. Its handlers store only: the values travel with the next record that
-/// another control sends.
+/// The settings of a barcode. They are stored only: they travel with the next record that another
+/// control sends.
 class BarcodePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:
-    /// `type` is an empty combo box beside the page, not owned; the page fills it.
-    BarcodePage(PageHost& host, QComboBox* type, QWidget* parent = nullptr);
+    explicit BarcodePage(DialogDoor& door, QWidget* parent = nullptr);
 
     void retranslate() override;
-    void changeUnit(bool isMetric) override;
 
-    void barcodeTypeChanged();
-    void addStringChanged();
-    void positionChanged();
-    void backgroundChanged();
-    void addMarkersChanged();
-    void heightEdited();
-    void matrixEdited();
+    /// Markers and matrix belong to the one code that is a matrix.
+    void chooseType();
+    /// A string that is added has a position.
+    void chooseString();
+    /// Deliberately not the Background box itself: the one for the markers decides.
+    void chooseBackground();
+
+    ChoiceField* const m_pUPCCMB;  ///< to be placed beside the page by the one that makes it
+    FlagField* const m_pAddStringCB;
+    ChoiceField* const m_pPositionCMB;
+    FlagField* const m_pBackgroundCB;
+    FlagField* const m_pAddMarkersCB;
+    LengthField* const m_pHeightLE;
+    QPushButton* const m_pMatrixPB;
+    TextField* const m_pMatrixLE;
 
 private:
-    void createControls();
     void layOut();
-    void writeDefaults();
-    void connectControls();
     void enableMatrix(bool enabled);
-
-    QComboBox* m_type = nullptr;
-    QCheckBox* m_addString = nullptr;
-    QComboBox* m_position = nullptr;
-    QCheckBox* m_background = nullptr;
-    QCheckBox* m_addMarkers = nullptr;
-    ZENTRA::UIAPI::ZTLineEdit* m_height = nullptr;
-    QLabel* m_heightLabel = nullptr;
-    QLabel* m_heightUnit = nullptr;
-    QPushButton* m_matrixButton = nullptr;
-    ZENTRA::UIAPI::ZTLineEdit* m_matrix = nullptr;
 };

@@ -1,42 +1,28 @@
 #pragma once
 
+#include "addfeature/fields/ChoiceField.h"
+#include "addfeature/fields/LengthField.h"
 #include "addfeature/pages/Page.h"
 
 #include <QCoreApplication>
 
 class PlotStampPage;
-class QComboBox;
-class QLabel;
 
-namespace ZENTRA {
-namespace UIAPI {
-class ZTLineEdit;
-}  // namespace UIAPI
-}  // namespace ZENTRA
-
-/// The settings of text drilled as dots. Its handlers store only: the values travel with the next
-/// record that another control sends.
+/// The settings of text drilled as dots. They are stored only: they travel with the next record
+/// that another control sends.
 class CannedTextPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:
-    /// `plotStamp` tells the zoom, which is stored along with the mode; it must live as long.
-    CannedTextPage(PageHost& host, const PlotStampPage& plotStamp, QWidget* parent = nullptr);
+    /// `plotStamp` tells the zoom; it must live as long.
+    CannedTextPage(DialogDoor& door, PlotStampPage& plotStamp, QWidget* parent = nullptr);
 
-    void retranslate() override;
-    void changeUnit(bool isMetric) override;
+    /// The plot stamp's zoom is stored along with the mode: deliberate.
+    void chooseHoleMode();
 
-    void holeModeChanged();
-    void holeSizeEdited();
+    ChoiceField* const m_pCannedHoleSizeCMB;
+    LengthField* const m_pCannedHoleSizeLE;
 
 private:
-    void layOut();
-    void writeDefaults();
-    void connectControls();
-
-    const PlotStampPage& m_plotStamp;
-    QComboBox* m_holeMode;
-    ZENTRA::UIAPI::ZTLineEdit* m_holeSize;
-    QLabel* m_typeLabel;
-    QLabel* m_holeSizeUnit;
+    PlotStampPage& m_plotStamp;
 };

@@ -1,93 +1,32 @@
 #include "addfeature/pages/LinePage.h"
 
-#include "addfeature/FeatureRecord.h"
-#include "addfeature/PageHost.h"
-#include "addfeature/Units.h"
-#include "addfeature/pages/Choices.h"
-#include "addfeature/pages/Entries.h"
-#include "addfeature/pages/Fields.h"
 #include "plugin/RecordKeys.h"
 
-#include <ui_api.h>
-
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QRadioButton>
-#include <QRegExpValidator>
+#include <QVBoxLayout>
 
 namespace {
 
-constexpr double largestLength = 50000.0;
-constexpr double largestAngle = 360.0;
-
-enum Kind { SingleLine, Polyline, Rectangle, Slot };
-const Choices kinds = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Single Line"), RecordValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Polyline"), RecordValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Rectangle"), RecordValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "Slot"), RecordValues::four, false},
-};
-
-enum Corner { Straight, Round, Chamfer, Oblong };
-const Choices corners = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Straight"), RecordValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Round"), RecordValues::two},
-    {QT_TRANSLATE_NOOP("AddFeature", "Chamfer"), RecordValues::three},
-    {QT_TRANSLATE_NOOP("AddFeature", "Oblong"), RecordValues::four},
-};
-
-const Choices platings = {
-    {QT_TRANSLATE_NOOP("AddFeature", "Plated"), RecordValues::one},
-    {QT_TRANSLATE_NOOP("AddFeature", "Non Plated"), RecordValues::two},
-};
-
+constexpr double largestLength = 50000.0;  // mil
 constexpr int fixedAngle = 5;
-constexpr int directionIconSize = 24;
-struct Direction {
-    const char* objectName;
-    const char* icon;
-    const char* spokenName;
-};
-const Direction directions[] = {
-    {"m_pFreeDirectionRB", "Free1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Free direction")},
-    {"m_pVerticalRB", "Ver1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Vertical")},
-    {"m_pHorizontalRB", "Hori1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Horizontal")},
-    {"m_pVerticalHorizontalRB", "VH1.jpg",
-     QT_TRANSLATE_NOOP("AddFeature", "Vertical, then horizontal")},
-    {"m_pEightDirectionsRB", "8 Dir1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Eight directions")},
-    {"m_pFixedAngleRB", "Fixed1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Fixed angle")},
-};
 
-QIcon directionIcon(const Direction& direction)
+QWidget* createGroup(const char* name, QWidget* page)
 {
-    return QIcon(
-        QStringLiteral(":/Canvas_Tool_Strip/Resources/%1").arg(QLatin1String(direction.icon)));
-}
-
-QWidget* createGroup(const QString& name, QWidget* page)
-{
-    auto* group = new QWidget(page);
-    group->setObjectName(name);
-    auto* rows = new QVBoxLayout(group);
+    auto* const group = new QWidget(page);
+    group->setObjectName(QLatin1String(name));
+    auto* const rows = new QVBoxLayout(group);
     rows->setContentsMargins(0, 0, 0, 0);
     return group;
 }
 
-QComboBox* createCombo(const QString& name, const Choices& choices, QWidget* parent)
+QGridLayout* addGrid(QWidget* group, const std::initializer_list<Field*>& fields)
 {
-    auto* combo = new QComboBox(parent);
-    combo->setObjectName(name);
-    fillChoices(combo, choices);
-    return combo;
-}
-
-QGridLayout* addGrid(QWidget* group)
-{
-    auto* grid = new QGridLayout;
+    auto* const grid = new QGridLayout;
+    for (Field* const field : fields) {
+        field->addRow(grid);
+    }
     grid->setColumnStretch(1, 1);
     static_cast<QVBoxLayout*>(group->layout())->addLayout(grid);
     return grid;
@@ -95,309 +34,159 @@ QGridLayout* addGrid(QWidget* group)
 
 }  // namespace
 
-LinePage::LinePage(PageHost& host, QWidget* parent) : Page(host, parent)
+LinePage::LinePage(DialogDoor& door, QWidget* parent)
+    : Page(door, "m_pLinePage", parent),
+      m_pLineCMB(
+          add<ChoiceField>(Field::Details{"m_pLineCMB", Caption::spoken(QT_TR_NOOP("Kind of line")),
+                                          RecordKeys::line, SLOT(on_Line_ComboBox_Changed())},
+                           Choices{{QT_TR_NOOP("Single Line"), LineKind::single},
+                                   {QT_TR_NOOP("Polyline"), LineKind::polyline},
+                                   {QT_TR_NOOP("Rectangle"), LineKind::rectangle},
+                                   {QT_TR_NOOP("Slot"), LineKind::slot, false}},
+                           ChoiceField::Stores::Text, Sends::Always)),
+      m_pClosedCB(add<FlagField>(
+          Field::Details{"m_pClosedCB", Caption::own(QT_TR_NOOP("Closed")), RecordKeys::closed,
+                         SLOT(on_m_pClosedCB_CheckState_Changed(int))},
+          false, FlagField::Values{Closed::yes, Closed::no}, Sends::Always)),
+      m_pDirectionBG(add<RadioField>(
+          Field::Details{"m_pDirectionBG", Caption::spoken(""), RecordKeys::angleGroup,
+                         SLOT(on_Line_Button_Clicked(QAbstractButton*))},
+          std::vector<RadioChoice>{
+              {"m_pFreeDirectionRB", "Free1.jpg", QT_TR_NOOP("Free direction")},
+              {"m_pVerticalRB", "Ver1.jpg", QT_TR_NOOP("Vertical")},
+              {"m_pHorizontalRB", "Hori1.jpg", QT_TR_NOOP("Horizontal")},
+              {"m_pVerticalHorizontalRB", "VH1.jpg", QT_TR_NOOP("Vertical, then horizontal")},
+              {"m_pEightDirectionsRB", "8 Dir1.jpg", QT_TR_NOOP("Eight directions")},
+              {"m_pFixedAngleRB", "Fixed1.jpg", QT_TR_NOOP("Fixed angle")}})),
+      m_pAngleLE(
+          add<NumberField>(Field::Details{"m_pAngleLE", Caption::label(QT_TR_NOOP("Angle (deg)")),
+                                          RecordKeys::angle, SLOT(on_m_pAngleLE_editingFinished())},
+                           QString(), NumberField::Bounds{0.0, 360.0},
+                           NumberField::Checked::WhenFinished, NumberField::Message::Direction)),
+      m_pCornerTypeCMB(add<ChoiceField>(
+          Field::Details{"m_pCornerTypeCMB", Caption::label(QT_TR_NOOP("Corner Type : ")),
+                         RecordKeys::cornerType, SLOT(on_CornerTypre_ComboBox_Changed())},
+          Choices{{QT_TR_NOOP("Straight"), CornerType::straight},
+                  {QT_TR_NOOP("Round"), CornerType::round},
+                  {QT_TR_NOOP("Chamfer"), CornerType::chamfer},
+                  {QT_TR_NOOP("Oblong"), CornerType::oblong}},
+          ChoiceField::Stores::TextThenNumber, Sends::Always)),
+      m_pCornerRadiusLE(add<LengthField>(
+          Field::Details{"m_pCornerRadiusLE", Caption::label(QT_TR_NOOP("Corner Radius : ")),
+                         RecordKeys::cornerRadius, SLOT(on_m_pCornerRadiusLE_editingFinished())},
+          RecordValues::zero, largestLength, Sends::WhenAccepted)),
+      m_pLengthLE(add<LengthField>(
+          Field::Details{"m_pLengthLE", Caption::label(QT_TR_NOOP("Length : ")),
+                         RecordKeys::slotLength, SLOT(on_m_pLengthLE_editingFinished())},
+          RecordValues::zero, largestLength, Sends::Never, LengthField::Unit::PlainInch)),
+      m_pSlotAngleLE(add<TextField>(
+          LineField::Pattern::Decimal,
+          Field::Details{"m_pSlotAngleLE", Caption::label(QT_TR_NOOP("Angle (deg) : ")),
+                         RecordKeys::slotAngle, SLOT(on_m_pSlotAngleLE_editingFinished())},
+          RecordValues::zero, Sends::Never)),
+      m_pSlotDecodeLE(add<TextField>(
+          LineField::Pattern::Decimal,
+          Field::Details{"m_pSlotDecodeLE", Caption::label(QT_TR_NOOP("Decode: ")),
+                         RecordKeys::slotDecode, SLOT(on_m_pSlotDecodeLE_editingFinished())},
+          RecordValues::zero, Sends::Never)),
+      m_pSlotPlatedCMB(add<ChoiceField>(
+          Field::Details{"m_pSlotPlatedCMB", Caption::spoken(QT_TR_NOOP("Plating")),
+                         RecordKeys::slotPlated, SLOT(on_m_pSlotPlatedCMB_ComboBox_Changed())},
+          Choices{{QT_TR_NOOP("Plated"), SlotPlated::yes},
+                  {QT_TR_NOOP("Non Plated"), SlotPlated::no}},
+          ChoiceField::Stores::Text, Sends::Never)),
+      m_pDirectionGroup(createDirectionGroup()),
+      m_pCornerGroup(createCornerGroup()),
+      m_pSlotGroup(createSlotGroup())
 {
-    setObjectName(QStringLiteral("m_pLinePage"));
-    auto* rows = new QVBoxLayout(this);
+    m_pClosedCB->setEnabled(false);
+
+    auto* const kindRow = new QHBoxLayout;
+    kindRow->addWidget(m_pLineCMB);
+    kindRow->addWidget(m_pClosedCB);
+    kindRow->addStretch();
+    auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->addLayout(createKindRow());
-    createDirectionGroup();
-    createCornerGroup();
-    createSlotGroup();
-    for (QWidget* group : {m_directionGroup, m_cornerGroup, m_slotGroup}) {
+    rows->addLayout(kindRow);
+    for (QWidget* const group : {m_pDirectionGroup, m_pCornerGroup, m_pSlotGroup}) {
         rows->addWidget(group);
     }
-    m_cornerGroup->hide();
-    m_slotGroup->hide();
-
-    retranslate();
-    writeDefaults();
-    connectControls();
 }
 
-LinePage::ZTLineEdit* LinePage::createNumber(const QString& name, QWidget* group)
+QWidget* LinePage::createDirectionGroup()
 {
-    return Fields::create(m_host, Fields::Pattern::Decimal, name, group);
-}
-
-QLayout* LinePage::createKindRow()
-{
-    m_kind = createCombo(QStringLiteral("m_pLineCMB"), kinds, this);
-    m_closed = new QCheckBox(this);
-    m_closed->setObjectName(QStringLiteral("m_pClosedCB"));
-    m_closed->setEnabled(false);
-
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_kind);
-    row->addWidget(m_closed);
-    row->addStretch();
-    return row;
-}
-
-void LinePage::createDirectionGroup()
-{
-    m_directionGroup = createGroup(QStringLiteral("m_pDirectionGroup"), this);
-    QLayout* const buttons = createDirectionRow();
-    m_angle = createNumber(QStringLiteral("m_pAngleLE"), m_directionGroup);
-    m_angleLabel = Fields::createLabel(QStringLiteral("m_pAngleLB"), m_directionGroup, m_angle);
-    m_angle->setEnabled(false);
-    m_angleLabel->setEnabled(false);
-
-    auto* angleRow = new QHBoxLayout;
+    QWidget* const group = createGroup("m_pDirectionGroup", this);
+    auto* const angleRow = new QHBoxLayout;
     angleRow->addStretch();
-    angleRow->addWidget(m_angleLabel);
-    angleRow->addWidget(m_angle);
-    auto* rows = static_cast<QVBoxLayout*>(m_directionGroup->layout());
-    rows->addLayout(buttons);
+    angleRow->addWidget(m_pAngleLE->label());
+    angleRow->addWidget(m_pAngleLE);
+    m_pAngleLE->setRowEnabled(false);
+    auto* const rows = static_cast<QVBoxLayout*>(group->layout());
+    rows->addLayout(m_pDirectionBG->createRow());
     rows->addLayout(angleRow);
+    return group;
 }
 
-QLayout* LinePage::createDirectionRow()
+QWidget* LinePage::createCornerGroup()
 {
-    m_directions = new QButtonGroup(this);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(0);  // six of them just fit
-    int id = 0;
-    for (const Direction& direction : directions) {
-        auto* button = new QRadioButton(m_directionGroup);
-        button->setObjectName(QLatin1String(direction.objectName));
-        button->setIcon(directionIcon(direction));
-        button->setIconSize({directionIconSize, directionIconSize});
-        m_directions->addButton(button, id++);
-        row->addWidget(button);
-    }
-    m_directions->button(0)->setChecked(true);
-    return row;
+    QWidget* const group = createGroup("m_pCornerGroup", this);
+    m_pCornerRadiusLE->setPattern("^[1-9][0-9]*|0$");
+    m_pCornerRadiusLE->setRowEnabled(false);
+    addGrid(group, {m_pCornerTypeCMB, m_pCornerRadiusLE});
+    group->hide();
+    return group;
 }
 
-void LinePage::createCornerGroup()
+QWidget* LinePage::createSlotGroup()
 {
-    m_cornerGroup = createGroup(QStringLiteral("m_pCornerGroup"), this);
-    m_cornerType = createCombo(QStringLiteral("m_pCornerTypeCMB"), corners, m_cornerGroup);
-    m_cornerRadius = createNumber(QStringLiteral("m_pCornerRadiusLE"), m_cornerGroup);
-    m_cornerRadius->setValidator(
-        new QRegExpValidator(QRegExp(QLatin1String("^[1-9][0-9]*|0$")), m_cornerRadius));
-    m_cornerRadius->setText(RecordValues::zero);
-    m_cornerTypeLabel =
-        Fields::createLabel(QStringLiteral("m_pCornerTypeLB"), m_cornerGroup, m_cornerType);
-    m_cornerRadiusLabel =
-        Fields::createLabel(QStringLiteral("m_pCornerRadiusLB"), m_cornerGroup, m_cornerRadius);
-    m_cornerRadiusUnit =
-        Fields::createLabel(QStringLiteral("m_pCornerRadiusUnitLB"), m_cornerGroup);
-    enableRadius(false);
-
-    QGridLayout* const grid = addGrid(m_cornerGroup);
-    grid->addWidget(m_cornerTypeLabel, 0, 0);
-    grid->addWidget(m_cornerType, 0, 1);
-    grid->addWidget(m_cornerRadiusLabel, 1, 0);
-    grid->addWidget(m_cornerRadius, 1, 1);
-    grid->addWidget(m_cornerRadiusUnit, 1, 2);
+    QWidget* const group = createGroup("m_pSlotGroup", this);
+    addGrid(group, {m_pLengthLE, m_pSlotAngleLE, m_pSlotDecodeLE});
+    group->layout()->addWidget(m_pSlotPlatedCMB);
+    group->hide();
+    return group;
 }
 
-void LinePage::createSlotGroup()
+void LinePage::chooseKind()
 {
-    m_slotGroup = createGroup(QStringLiteral("m_pSlotGroup"), this);
-    m_slotLength = createNumber(QStringLiteral("m_pLengthLE"), m_slotGroup);
-    m_slotAngle = createNumber(QStringLiteral("m_pSlotAngleLE"), m_slotGroup);
-    m_slotDecode = createNumber(QStringLiteral("m_pSlotDecodeLE"), m_slotGroup);
-    m_plainSlotLength = PlainLength(m_slotLength);
-    m_slotLengthLabel =
-        Fields::createLabel(QStringLiteral("m_pLengthLB"), m_slotGroup, m_slotLength);
-    m_slotAngleLabel =
-        Fields::createLabel(QStringLiteral("m_pSlotAngleLB"), m_slotGroup, m_slotAngle);
-    m_slotDecodeLabel =
-        Fields::createLabel(QStringLiteral("m_pSlotDecodeLB"), m_slotGroup, m_slotDecode);
-    m_slotLengthUnit = Fields::createLabel(QStringLiteral("m_pLengthUnitLB"), m_slotGroup);
-    m_slotPlated = createCombo(QStringLiteral("m_pSlotPlatedCMB"), platings, m_slotGroup);
-
-    QGridLayout* const grid = addGrid(m_slotGroup);
-    int row = 0;
-    for (const auto& [label, field] :
-         {std::pair(m_slotLengthLabel, m_slotLength), std::pair(m_slotAngleLabel, m_slotAngle),
-          std::pair(m_slotDecodeLabel, m_slotDecode)}) {
-        field->setText(RecordValues::zero);
-        grid->addWidget(label, row, 0);
-        grid->addWidget(field, row, 1);
-        ++row;
-    }
-    grid->addWidget(m_slotLengthUnit, 0, 2);
-    m_slotGroup->layout()->addWidget(m_slotPlated);
-}
-
-void LinePage::writeDefaults()
-{
-    FeatureRecord& record = m_host.record();
-    const bool isMetric = m_host.isMetric();
-    record.set(RecordKeys::closed, RecordValues::zero);
-    record.set(RecordKeys::line, RecordValues::one);
-    record.set(RecordKeys::angleGroup, RecordValues::one);
-    record.set(RecordKeys::angle, m_angle->text());
-    record.set(RecordKeys::cornerType, RecordValues::one);
-    record.set(RecordKeys::cornerRadius, Units::toStored(m_cornerRadius->text(), isMetric));
-    record.set(RecordKeys::slotPlated, RecordValues::one);
-    record.set(RecordKeys::slotLength, Units::toStored(m_slotLength->text(), isMetric));
-    record.set(RecordKeys::slotAngle, m_slotAngle->text());
-    record.set(RecordKeys::slotDecode, m_slotDecode->text());
-}
-
-void LinePage::connectControls()
-{
-    QObject* const owner = m_host.slotOwner();
-    connect(m_directions, SIGNAL(buttonClicked(QAbstractButton*)), owner,
-            SLOT(on_Line_Button_Clicked(QAbstractButton*)));
-    connect(m_angle, SIGNAL(editingFinished()), owner, SLOT(on_m_pAngleLE_editingFinished()));
-    connect(m_cornerType, SIGNAL(currentIndexChanged(QString)), owner,
-            SLOT(on_CornerTypre_ComboBox_Changed()));
-    connect(m_cornerRadius, SIGNAL(editingFinished()), owner,
-            SLOT(on_m_pCornerRadiusLE_editingFinished()));
-    connect(m_slotPlated, SIGNAL(currentIndexChanged(QString)), owner,
-            SLOT(on_m_pSlotPlatedCMB_ComboBox_Changed()));
-    connect(m_slotLength, SIGNAL(editingFinished()), owner, SLOT(on_m_pLengthLE_editingFinished()));
-    connect(m_slotAngle, SIGNAL(editingFinished()), owner,
-            SLOT(on_m_pSlotAngleLE_editingFinished()));
-    connect(m_slotDecode, SIGNAL(editingFinished()), owner,
-            SLOT(on_m_pSlotDecodeLE_editingFinished()));
-    connect(m_kind, SIGNAL(currentIndexChanged(QString)), owner, SLOT(on_Line_ComboBox_Changed()));
-    connect(m_closed, SIGNAL(stateChanged(int)), owner,
-            SLOT(on_m_pClosedCB_CheckState_Changed(int)));
-}
-
-void LinePage::retranslate()
-{
-    retranslateChoices(m_kind, kinds);
-    retranslateChoices(m_cornerType, corners);
-    retranslateChoices(m_slotPlated, platings);
-    retranslateDirections();
-    m_kind->setAccessibleName(tr("Kind of line"));
-    m_closed->setText(tr("Closed"));
-    m_angleLabel->setText(tr("Angle (deg)"));
-    m_cornerTypeLabel->setText(tr("Corner Type : "));
-    m_cornerRadiusLabel->setText(tr("Corner Radius : "));
-    m_slotLengthLabel->setText(tr("Length : "));
-    m_slotAngleLabel->setText(tr("Angle (deg) : "));
-    m_slotDecodeLabel->setText(tr("Decode: "));
-    m_slotPlated->setAccessibleName(tr("Plating"));
-    showUnits();
-}
-
-void LinePage::retranslateDirections()
-{
-    int id = 0;
-    for (const Direction& direction : directions) {
-        const QString name = tr(direction.spokenName);
-        QAbstractButton* const button = m_directions->button(id++);
-        button->setAccessibleName(name);
-        button->setToolTip(name);
-    }
-}
-
-void LinePage::changeUnit(bool isMetric)
-{
-    m_cornerRadius->changeunit(isMetric);
-    m_plainSlotLength.changeUnit(isMetric);
-    m_isMetric = isMetric;
-    showUnits();
-}
-
-void LinePage::showUnits()
-{
-    m_cornerRadiusUnit->setText(Units::lengthLabel(m_isMetric));
-    m_slotLengthUnit->setText(Units::largeLengthLabel(m_isMetric));
-}
-
-void LinePage::lineKindChanged()
-{
-    if (!m_host.restoreCommonRows()) {
+    if (!m_door.restoreCommonRows()) {
         return;
     }
-    if (const Choice* choice = currentChoice(m_kind, kinds)) {
-        m_host.record().set(RecordKeys::line, choice->value);
-        showKind(m_kind->currentIndex());
+    if (m_pLineCMB->storeChoice()) {
+        showKind();
     }
-    m_host.sendRecord();
+    m_door.sendRecord();
 }
 
-void LinePage::showKind(int kind)
+void LinePage::showKind()
 {
-    using Row = PageHost::CommonRow;
-    if (kind == Slot) {
+    using Row = DialogDoor::CommonRow;
+    const bool isRectangle = m_pLineCMB->is(LineKind::rectangle);
+    const bool isSlot = m_pLineCMB->is(LineKind::slot);
+    if (isSlot) {
         for (const Row row : {Row::Attributes, Row::Values, Row::Fill, Row::Polarity}) {
-            m_host.setRowVisible(row, false);
+            m_door.setRowVisible(row, false);
         }
     }
-    m_host.setRowVisible(Row::Mirror, false);
-    m_host.setRowVisible(Row::Rotation, false);
+    m_door.setRowVisible(Row::Mirror, false);
+    m_door.setRowVisible(Row::Rotation, false);
 
-    m_closed->setEnabled(kind == Polyline);
-    m_directionGroup->setVisible(kind == SingleLine || kind == Polyline);
-    m_cornerGroup->setVisible(kind == Rectangle);
-    m_slotGroup->setVisible(kind == Slot);
+    m_pClosedCB->setEnabled(m_pLineCMB->is(LineKind::polyline));
+    m_pDirectionGroup->setVisible(!isRectangle && !isSlot);
+    m_pCornerGroup->setVisible(isRectangle);
+    m_pSlotGroup->setVisible(isSlot);
 }
 
-void LinePage::closedChanged()
+void LinePage::chooseDirection()
 {
-    m_host.record().set(RecordKeys::closed,
-                        m_closed->isChecked() ? RecordValues::one : RecordValues::zero);
-    m_host.sendRecord();
+    m_pDirectionBG->storeChoice();
+    m_pAngleLE->setRowEnabled(m_pDirectionBG->checkedId() == fixedAngle);
+    m_door.sendDirection();
 }
 
-void LinePage::directionChosen()
+void LinePage::chooseCorner()
 {
-    const int id = m_directions->checkedId();
-    m_host.record().set(RecordKeys::angleGroup, id + 1);
-    m_angleLabel->setEnabled(id == fixedAngle);
-    m_angle->setEnabled(id == fixedAngle);
-    m_host.sendDirection();
-}
-
-void LinePage::angleEdited()
-{
-    if (!m_host.checkNumber(m_angle->text().toDouble(), 0.0, largestAngle)) {
-        m_angle->setText(m_host.record().text(RecordKeys::angle));
-        return;
-    }
-    m_host.record().set(RecordKeys::angle, m_angle->text());
-    m_host.sendDirection();
-}
-
-void LinePage::cornerTypeChanged()
-{
-    const int corner = m_cornerType->currentIndex();
-    m_host.record().set(RecordKeys::cornerType, corner + 1);
-    enableRadius(corner == Round || corner == Chamfer);
-    m_host.sendRecord();
-}
-
-void LinePage::enableRadius(bool enabled)
-{
-    m_cornerRadiusLabel->setEnabled(enabled);
-    m_cornerRadius->setEnabled(enabled);
-    m_cornerRadiusUnit->setEnabled(enabled);
-}
-
-void LinePage::cornerRadiusEdited()
-{
-    finishLength(m_host, {m_cornerRadius, RecordKeys::cornerRadius, largestLength, true, false});
-}
-
-void LinePage::slotLengthEdited()
-{
-    finishLength(m_host, {m_slotLength, RecordKeys::slotLength, largestLength, false, false});
-}
-
-void LinePage::slotAngleEdited()
-{
-    m_host.record().set(RecordKeys::slotAngle, m_slotAngle->text());
-}
-
-void LinePage::slotDecodeEdited()
-{
-    m_host.record().set(RecordKeys::slotDecode, m_slotDecode->text());
-}
-
-void LinePage::slotPlatedChanged()
-{
-    if (const Choice* choice = currentChoice(m_slotPlated, platings)) {
-        m_host.record().set(RecordKeys::slotPlated, choice->value);
-    }
+    m_pCornerTypeCMB->storeChoice();
+    m_pCornerRadiusLE->setRowEnabled(m_pCornerTypeCMB->is(CornerType::round) ||
+                                     m_pCornerTypeCMB->is(CornerType::chamfer));
+    m_door.sendRecord();
 }

@@ -1,21 +1,14 @@
 #pragma once
 
+#include "addfeature/fields/ChoiceField.h"
+#include "addfeature/fields/FlagField.h"
+#include "addfeature/fields/LengthField.h"
+#include "addfeature/fields/NumberField.h"
+#include "addfeature/fields/RadioField.h"
+#include "addfeature/fields/TextField.h"
 #include "addfeature/pages/Page.h"
-#include "addfeature/pages/PlainLength.h"
 
 #include <QCoreApplication>
-
-class QButtonGroup;
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QLayout;
-
-namespace ZENTRA {
-namespace UIAPI {
-class ZTLineEdit;
-}  // namespace UIAPI
-}  // namespace ZENTRA
 
 /// The kind of line, and what belongs to it: the direction of drawing, the corners of a rectangle,
 /// the measures of a slot.
@@ -23,63 +16,33 @@ class LinePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
 public:
-    explicit LinePage(PageHost& host, QWidget* parent = nullptr);
+    explicit LinePage(DialogDoor& door, QWidget* parent = nullptr);
 
-    void retranslate() override;
-    void changeUnit(bool isMetric) override;
+    /// Shows what belongs to the kind, here and in the rows above the page.
+    void chooseKind();
+    /// The angle can be typed for the fixed direction only.
+    void chooseDirection();
+    /// The radius can be typed for round and chamfered corners only.
+    void chooseCorner();
 
-    void lineKindChanged();
-    void closedChanged();
-    void directionChosen();
-    void angleEdited();
-    void cornerTypeChanged();
-    void cornerRadiusEdited();
-    void slotLengthEdited();
-    void slotAngleEdited();
-    void slotDecodeEdited();
-    void slotPlatedChanged();
+    ChoiceField* const m_pLineCMB;
+    FlagField* const m_pClosedCB;
+    RadioField* const m_pDirectionBG;
+    NumberField* const m_pAngleLE;
+    ChoiceField* const m_pCornerTypeCMB;
+    LengthField* const m_pCornerRadiusLE;
+    LengthField* const m_pLengthLE;
+    TextField* const m_pSlotAngleLE;
+    TextField* const m_pSlotDecodeLE;
+    ChoiceField* const m_pSlotPlatedCMB;
 
 private:
-    using ZTLineEdit = ZENTRA::UIAPI::ZTLineEdit;
+    QWidget* createDirectionGroup();
+    QWidget* createCornerGroup();
+    QWidget* createSlotGroup();
+    void showKind();
 
-    ZTLineEdit* createNumber(const QString& name, QWidget* group);
-    QLayout* createKindRow();
-    void createDirectionGroup();
-    QLayout* createDirectionRow();
-    void createCornerGroup();
-    void createSlotGroup();
-    void writeDefaults();
-    void connectControls();
-    void retranslateDirections();
-    void showKind(int kind);
-    void enableRadius(bool enabled);
-    void showUnits();
-
-    QComboBox* m_kind = nullptr;
-    QCheckBox* m_closed = nullptr;
-
-    QWidget* m_directionGroup = nullptr;
-    QButtonGroup* m_directions = nullptr;
-    ZTLineEdit* m_angle = nullptr;
-    QLabel* m_angleLabel = nullptr;
-
-    QWidget* m_cornerGroup = nullptr;
-    QComboBox* m_cornerType = nullptr;
-    ZTLineEdit* m_cornerRadius = nullptr;
-    QLabel* m_cornerTypeLabel = nullptr;
-    QLabel* m_cornerRadiusLabel = nullptr;
-    QLabel* m_cornerRadiusUnit = nullptr;
-
-    QWidget* m_slotGroup = nullptr;
-    ZTLineEdit* m_slotLength = nullptr;
-    ZTLineEdit* m_slotAngle = nullptr;
-    ZTLineEdit* m_slotDecode = nullptr;
-    QComboBox* m_slotPlated = nullptr;
-    QLabel* m_slotLengthLabel = nullptr;
-    QLabel* m_slotLengthUnit = nullptr;
-    QLabel* m_slotAngleLabel = nullptr;
-    QLabel* m_slotDecodeLabel = nullptr;
-
-    PlainLength m_plainSlotLength;
-    bool m_isMetric = false;
+    QWidget* m_pDirectionGroup;
+    QWidget* m_pCornerGroup;
+    QWidget* m_pSlotGroup;
 };

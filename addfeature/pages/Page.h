@@ -1,22 +1,41 @@
 #pragma once
 
+#include "addfeature/record/DialogDoor.h"
+
 #include <QWidget>
 
-class PageHost;
+#include <utility>
+#include <vector>
 
-/// A page of the dialog, or one of the text page's own pages: it owns its widgets, writes their
-/// defaults into the record when it is built, and has one short method per control, to which the
-/// dialog's named slots forward.
+class Field;
+
+/// A page of the dialog, or one of the text page's own pages: its fields, their layout, and the
+/// rules between them, each of which is a method that a named slot of the dialog calls.
 class Page : public QWidget {
 public:
-    explicit Page(PageHost& host, QWidget* parent = nullptr) : QWidget(parent), m_host(host) {}
+    /// `door` must outlive the page.
+    Page(DialogDoor& door, const char* name, QWidget* parent);
 
     /// Sets every visible text in the current language. Changes no value and sends nothing.
-    virtual void retranslate() = 0;
-
+    virtual void retranslate();
     /// Shows lengths and their labels in the other system of units. Changes no value of the record.
-    virtual void changeUnit(bool /*isMetric*/) {}
+    virtual void changeUnit(bool isMetric);
 
 protected:
-    PageHost& m_host;
+    /// A new field of the page, owned by it.
+    template <class AnyField, class... Arguments>
+    AnyField* add(Arguments&&... arguments)
+    {
+        auto* const field = new AnyField(m_door, this, std::forward<Arguments>(arguments)...);
+        m_fields.push_back(field);
+        return field;
+    }
+
+    /// Whether the host shows lengths in metric units.
+    static bool isShownMetric(const DialogDoor& door);
+
+    DialogDoor& m_door;
+
+private:
+    std::vector<Field*> m_fields;
 };

@@ -1,4 +1,4 @@
-#include "addfeature/CanvasLink.h"
+#include "addfeature/record/CanvasLink.h"
 
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"

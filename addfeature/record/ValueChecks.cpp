@@ -1,7 +1,7 @@
-#include "addfeature/ValueChecks.h"
+#include "addfeature/record/ValueChecks.h"
 
-#include "addfeature/RefusalGuard.h"
-#include "addfeature/Units.h"
+#include "addfeature/record/RefusalGuard.h"
+#include "addfeature/record/Units.h"
 
 #include <ui_api.h>
 

@@ -1,4 +1,4 @@
-#include "addfeature/Units.h"
+#include "addfeature/record/Units.h"
 
 #include <QCoreApplication>
 

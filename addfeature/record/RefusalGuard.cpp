@@ -1,4 +1,4 @@
-#include "addfeature/RefusalGuard.h"
+#include "addfeature/record/RefusalGuard.h"
 
 #include <algorithm>
 

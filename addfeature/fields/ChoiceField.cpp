@@ -1,0 +1,76 @@
+#include "addfeature/fields/ChoiceField.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+
+namespace {
+
+// The role just below Qt::UserRole holds a standard item's flags: at 0 none are left.
+constexpr int flagsRole = Qt::UserRole - 1;
+
+QString translated(const Choice& choice)
+{
+    return QCoreApplication::translate("AddFeature", choice.text);
+}
+
+}  // namespace
+
+ChoiceField::ChoiceField(DialogDoor& door, QWidget* page, const Details& details,
+                         const Choices& choices, Stores stores, Sends sends, int index)
+    : QComboBox(page),
+      Field(door, this, details),
+      m_choices(choices),
+      m_stores(stores),
+      m_sends(sends)
+{
+    for (const Choice& choice : m_choices) {
+        addItem(QIcon(), translated(choice));
+        if (!choice.isSelectable) {
+            setItemData(count() - 1, 0, flagsRole);
+        }
+    }
+    setCurrentIndex(index);
+    if (m_stores == Stores::TextThenNumber) {
+        store(chosen()->value);
+    } else {
+        storeChoice();
+    }
+    ChoiceField::retranslate();
+    connectSignal(SIGNAL(currentIndexChanged(QString)));
+}
+
+void ChoiceField::retranslate()
+{
+    Field::retranslate();
+    // In place: no item goes, so that neither index nor record changes.
+    for (int index = 0; index < count(); ++index) {
+        setItemText(index, translated(m_choices[static_cast<size_t>(index)]));
+    }
+}
+
+const Choice* ChoiceField::chosen() const
+{
+    return currentIndex() < 0 ? nullptr : &m_choices[static_cast<size_t>(currentIndex())];
+}
+
+bool ChoiceField::is(const QString& value) const
+{
+    return chosen() && chosen()->value == value;
+}
+
+bool ChoiceField::storeChoice()
+{
+    const bool isText = m_stores == Stores::Text || m_stores == Stores::TextElseNumber;
+    if (isText && chosen()) {
+        store(chosen()->value);
+    } else if (m_stores != Stores::Text) {
+        store(currentIndex() + 1);
+    }
+    return chosen();
+}
+
+void ChoiceField::take()
+{
+    storeChoice();
+    sendWhen(m_sends != Sends::Never);
+}

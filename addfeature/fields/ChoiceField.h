@@ -1,0 +1,49 @@
+#pragma once
+
+#include "addfeature/fields/Field.h"
+
+#include <QComboBox>
+
+#include <vector>
+
+/// One item of a combo box.
+struct Choice {
+    const char* text;    ///< marked for translation in the context "AddFeature"
+    QString value = {};  ///< what the record holds while it is chosen
+    bool isSelectable = true;
+};
+using Choices = std::vector<Choice>;
+
+/// A choice among some.
+class ChoiceField final : public QComboBox, public Field {
+public:
+    /// What is stored of the chosen item, and what of an index outside the list.
+    enum class Stores {
+        Text,            ///< the item's value; nothing
+        Number,          ///< the item's number from 1; 0
+        TextThenNumber,  ///< at first the item's value, after a choice as Number
+        TextElseNumber,  ///< the item's value; 0
+    };
+
+    /// The first item is chosen, or that at `index`. Those that must not be chosen are greyed:
+    /// listed, but not to be reached by hand; a program can still set their index.
+    ChoiceField(DialogDoor& door, QWidget* page, const Details& details, const Choices& choices,
+                Stores stores, Sends sends, int index = 0);
+
+    void retranslate() override;
+
+    /// Whether the item with that value is chosen.
+    bool is(const QString& value) const;
+    /// Stores the choice and sends nothing. False for an index outside the list.
+    bool storeChoice();
+
+protected:
+    void take() override;
+
+private:
+    const Choice* chosen() const;
+
+    const Choices m_choices;
+    const Stores m_stores;
+    const Sends m_sends;
+};

@@ -1,0 +1,111 @@
+#include "addfeature/fields/Field.h"
+
+#include "addfeature/record/FeatureRecord.h"
+#include "addfeature/record/RefusalGuard.h"
+
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+
+QString Caption::translated() const
+{
+    return QCoreApplication::translate("AddFeature", text);
+}
+
+Field::Field(DialogDoor& door, QObject* control, const Details& details)
+    : m_door(door), m_details(details), m_control(control)
+{
+    m_control->setObjectName(QLatin1String(m_details.name));
+    if (m_details.caption.kind == Caption::Kind::Label) {
+        m_label = createLabel("LB");
+        m_label->setBuddy(widget());
+    }
+}
+
+void Field::finish()
+{
+    m_door.refusals().report(m_control, [this] { take(); });
+}
+
+void Field::change()
+{
+    m_door.refusals().run(m_control, [this] { take(); });
+}
+
+void Field::retranslate()
+{
+    const QString text = m_details.caption.translated();
+    if (m_label) {
+        m_label->setText(text);
+    } else if (m_details.caption.kind == Caption::Kind::Spoken) {
+        widget()->setAccessibleName(text);
+        widget()->setToolTip(text);
+    }
+}
+
+void Field::setRowEnabled(bool enabled)
+{
+    for (QWidget* const part :
+         {static_cast<QWidget*>(m_label), widget(), static_cast<QWidget*>(m_unitLabel)}) {
+        if (part) {
+            part->setEnabled(enabled);
+        }
+    }
+}
+
+void Field::addRow(QGridLayout* grid)
+{
+    const int row = grid->count() == 0 ? 0 : grid->rowCount();
+    int column = 0;
+    for (QWidget* const part :
+         {static_cast<QWidget*>(m_label), widget(), static_cast<QWidget*>(m_unitLabel)}) {
+        if (part) {
+            grid->addWidget(part, row, column);
+        }
+        ++column;
+    }
+}
+
+void Field::connectSignal(const char* signal)
+{
+    m_door.connectToSlot(m_control, signal, m_details.slot);
+}
+
+void Field::addUnitLabel()
+{
+    m_unitLabel = createLabel("UnitLB");
+}
+
+QWidget* Field::widget() const
+{
+    return qobject_cast<QWidget*>(m_control);
+}
+
+/// The control's name with another ending: "m_pLengthLE" has "m_pLengthLB" beside it.
+QLabel* Field::createLabel(const char* suffix) const
+{
+    QString name = m_control->objectName();
+    while (name.back().isUpper()) {
+        name.chop(1);
+    }
+    auto* const label = new QLabel(widget()->parentWidget());
+    label->setObjectName(name + QLatin1String(suffix));
+    return label;
+}
+
+void Field::store(const QString& value)
+{
+    m_door.record().set(m_details.key, value);
+}
+
+void Field::store(int value)
+{
+    m_door.record().set(m_details.key, value);
+}
+
+void Field::sendWhen(bool condition)
+{
+    if (condition) {
+        m_door.sendRecord();
+    }
+}

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "addfeature/record/DialogDoor.h"
+
+#include <QString>
+
+class QGridLayout;
+class QLabel;
+class QWidget;
+
+/// When a change is sent to the canvas. What is not sent travels with the next record.
+enum class Sends { Never, WhenAccepted, Always };
+
+/// What tells the user which control it is.
+struct Caption {
+    enum class Kind {
+        Label,   ///< a label in front of the control
+        Own,     ///< the control's own text
+        Spoken,  ///< nothing that is always seen: the accessible name, and the tool tip
+    };
+    Kind kind;
+    const char* text;  ///< marked for translation in the context "AddFeature"
+
+    static constexpr Caption label(const char* text) { return {Kind::Label, text}; }
+    static constexpr Caption own(const char* text) { return {Kind::Own, text}; }
+    static constexpr Caption spoken(const char* text) { return {Kind::Spoken, text}; }
+
+    QString translated() const;
+};
+
+/// One entry of the record and the control by which it is set. The classes derived from it are the
+/// controls themselves, each with all that is to be said of it.
+class Field {
+public:
+    /// What every field states.
+    struct Details {
+        const char* name;  ///< of the member that points at it, and of the object
+        Caption caption;
+        QString key;       ///< in the record
+        const char* slot;  ///< SLOT() of the dialog, to which its signal is connected
+    };
+
+    virtual ~Field() = default;
+    Field(const Field&) = delete;
+    Field& operator=(const Field&) = delete;
+
+    /// Takes over what an entry that the user has finished says. Called for each report of the
+    /// control; see RefusalGuard.
+    void finish();
+    /// Takes over what the control says now.
+    void change();
+
+    /// Sets its texts in the current language. Changes no value and sends nothing.
+    virtual void retranslate();
+    /// Shows a length and its label in the other system of units. Changes no value of the record.
+    virtual void changeUnit(bool /*isMetric*/) {}
+
+    /// Enables the control with its labels.
+    void setRowEnabled(bool enabled);
+    /// Adds label, control and unit label as a row of three columns.
+    void addRow(QGridLayout* grid);
+
+    QLabel* label() const { return m_label; }          ///< null without a visible label
+    QLabel* unitLabel() const { return m_unitLabel; }  ///< null for what has no unit
+
+protected:
+    /// `control` is the derived object, not owned; it is named, and must have its parent.
+    Field(DialogDoor& door, QObject* control, const Details& details);
+
+    /// Stores what the control says, or refuses it, and sends.
+    virtual void take() = 0;
+
+    /// Called last in a constructor: building a field sends nothing.
+    void connectSignal(const char* signal);
+    void addUnitLabel();
+    void store(const QString& value);
+    void store(int value);
+    void sendWhen(bool condition);
+
+    DialogDoor& m_door;
+    const Details m_details;
+
+private:
+    QWidget* widget() const;
+    QLabel* createLabel(const char* suffix) const;
+
+    QObject* m_control;  // a widget, or a group of them
+    QLabel* m_label = nullptr;
+    QLabel* m_unitLabel = nullptr;
+};

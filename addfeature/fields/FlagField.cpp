@@ -1,0 +1,27 @@
+#include "addfeature/fields/FlagField.h"
+
+FlagField::FlagField(DialogDoor& door, QWidget* page, const Details& details, bool isOn,
+                     const Values& values, Sends sends)
+    : QCheckBox(page), Field(door, this, details), m_values(values), m_sends(sends)
+{
+    setChecked(isOn);
+    storeAs(isOn);
+    FlagField::retranslate();
+    connectSignal(SIGNAL(stateChanged(int)));
+}
+
+void FlagField::retranslate()
+{
+    setText(m_details.caption.translated());
+}
+
+void FlagField::storeAs(bool isOn)
+{
+    store(isOn ? m_values.on : m_values.off);
+}
+
+void FlagField::take()
+{
+    storeAs(isChecked());
+    sendWhen(m_sends != Sends::Never);
+}

@@ -1,0 +1,25 @@
+#include "addfeature/fields/LengthField.h"
+
+#include "plugin/RecordValues.h"
+
+LengthField::LengthField(DialogDoor& door, QWidget* page, const Details& details,
+                         const QString& text, double largestInMil, Sends sends, Unit unit,
+                         bool isMetric)
+    : UnitField(door, page, Pattern::Decimal, details, unit, isMetric),
+      m_largest(largestInMil),
+      m_sends(sends)
+{
+    start(text);
+}
+
+void LengthField::take()
+{
+    const bool isAccepted = m_door.checkLength(text(), m_largest);
+    if (isAccepted) {
+        storeLength();
+    } else {
+        setText(RecordValues::zero);
+        store(RecordValues::zero);
+    }
+    sendWhen(m_sends == Sends::Always || (m_sends == Sends::WhenAccepted && isAccepted));
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "addfeature/fields/Field.h"
+
+#include <ui_api.h>
+
+/// A field that is typed into: a line edit of the host's.
+class LineField : public ZENTRA::UIAPI::ZTLineEdit, public Field {
+public:
+    /// What the host lets the user type, by the host's number for it.
+    enum class Pattern { Length = 1, Decimal = 3, Text = 6 };
+
+    /// Restricts what can be typed to a regular expression, case sensitive.
+    void setPattern(const char* expression);
+
+protected:
+    LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details);
+};

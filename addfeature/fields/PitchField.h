@@ -1,0 +1,14 @@
+#pragma once
+
+#include "addfeature/fields/UnitField.h"
+
+/// The distance of neighbours along one axis, signed. It is sent when it is accepted. A refusal
+/// leaves "0" in the field; the record keeps the old pitch.
+class PitchField final : public UnitField {
+public:
+    /// `isMetric` tells which unit the label names at first.
+    PitchField(DialogDoor& door, QWidget* page, const Details& details, bool isMetric);
+
+protected:
+    void take() override;
+};

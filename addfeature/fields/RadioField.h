@@ -1,0 +1,37 @@
+#pragma once
+
+#include "addfeature/fields/Field.h"
+
+#include <QButtonGroup>
+
+#include <vector>
+
+class QHBoxLayout;
+
+/// One button of a group.
+struct RadioChoice {
+    const char* name;    ///< of the object
+    const char* icon;    ///< file name in the resource tree
+    const char* spoken;  ///< marked for translation in the context "AddFeature"
+};
+
+/// A choice among pictures, of which the first is chosen at the start. The record holds its number
+/// from 1: as text at the start, as an integer once it is chosen.
+class RadioField final : public QButtonGroup, public Field {
+public:
+    RadioField(DialogDoor& door, QWidget* page, const Details& details,
+               const std::vector<RadioChoice>& choices);
+
+    void retranslate() override;
+
+    /// The buttons side by side. The caller owns the layout.
+    QHBoxLayout* createRow() const;
+    /// Stores the choice and sends nothing.
+    void storeChoice();
+
+protected:
+    void take() override;
+
+private:
+    const std::vector<RadioChoice> m_choices;
+};

@@ -1,0 +1,32 @@
+#include "addfeature/fields/TextField.h"
+
+TextField::TextField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details,
+                     const QString& text, Sends sends)
+    : LineField(door, page, pattern, details), m_sends(sends)
+{
+    setText(text);
+    store(text);
+    retranslate();
+    connectSignal(SIGNAL(editingFinished()));
+}
+
+void TextField::enter(const QString& text)
+{
+    setText(text);
+    storeAndSend();
+}
+
+void TextField::take()
+{
+    if (m_accepts && !m_accepts(text())) {
+        clear();
+        return;
+    }
+    storeAndSend();
+}
+
+void TextField::storeAndSend()
+{
+    store(text());
+    sendWhen(m_sends != Sends::Never);
+}

@@ -1,0 +1,77 @@
+#include "addfeature/fields/UnitField.h"
+
+#include "addfeature/record/Units.h"
+
+#include <QLabel>
+
+#include <cmath>
+#include <utility>
+
+UnitField::UnitField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details,
+                     Unit unit, bool isMetric)
+    : LineField(door, page, pattern, details), m_unit(unit), m_isMetric(isMetric)
+{
+    addUnitLabel();
+}
+
+void UnitField::start(const QString& text)
+{
+    setText(text);
+    // What is labelled mil starts as one, whatever the unit.
+    store(Units::toStored(text, m_isMetric && m_unit != Unit::MilByLabel));
+    retranslate();
+    connectSignal(SIGNAL(editingFinished()));
+}
+
+void UnitField::storeLength()
+{
+    store(Units::toStored(text(), m_door.isMetric()));
+}
+
+void UnitField::retranslate()
+{
+    Field::retranslate();
+    showUnit();
+}
+
+void UnitField::showUnit()
+{
+    unitLabel()->setText(m_unit == Unit::PlainInch
+                             ? Units::largeLengthLabel(m_isMetric)
+                             : Units::lengthLabel(m_isMetric && m_unit == Unit::Mil));
+}
+
+void UnitField::changeUnit(bool isMetric)
+{
+    if (m_unit == Unit::PlainInch) {
+        convertPlain(isMetric);
+    } else {
+        changeunit(isMetric);
+    }
+    m_isMetric = isMetric;
+    showUnit();
+}
+
+/// Does nothing when the length is shown in that unit already. A text that is no number stays.
+/// Switching back gives the text that stood there before, unless it was edited meanwhile.
+void UnitField::convertPlain(bool isMetric)
+{
+    if (isMetric == m_isMetric) {
+        return;
+    }
+    const QString current = text();
+    const bool isUntouched = !m_shown.isEmpty() && current == m_shown;
+    m_shown = isUntouched ? m_previous : converted(isMetric);
+    m_previous = current;
+    if (!m_shown.isEmpty()) {
+        setText(m_shown);
+    }
+}
+
+QString UnitField::converted(bool isMetric) const
+{
+    bool isNumber = false;
+    const double value = text().toDouble(&isNumber);
+    const double other = isMetric ? value * Units::factor : value / Units::factor;
+    return isNumber && std::isfinite(other) ? Units::format(other) : QString();
+}

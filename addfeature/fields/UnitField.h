@@ -1,0 +1,35 @@
+#pragma once
+
+#include "addfeature/fields/LineField.h"
+
+/// A field for a length, with the label of its unit.
+class UnitField : public LineField {
+public:
+    enum class Unit {
+        Mil,         ///< mil or micrometres
+        MilByLabel,  ///< the same, but the label reads "mil" in both
+        PlainInch,   ///< inch or millimetres, which the line edit does not know: converted here
+    };
+
+    void retranslate() override;
+    void changeUnit(bool isMetric) override;
+
+protected:
+    /// `isMetric` tells the unit in which the first text will be.
+    UnitField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details, Unit unit,
+              bool isMetric);
+
+    /// Shows the first text, and stores what it stands for.
+    void start(const QString& text);
+    void storeLength();
+
+private:
+    void showUnit();
+    void convertPlain(bool isMetric);
+    QString converted(bool isMetric) const;
+
+    const Unit m_unit;
+    bool m_isMetric;
+    QString m_shown;     // what convertPlain() last wrote
+    QString m_previous;  // what stood there before it
+};

@@ -1,0 +1,32 @@
+#include "addfeature/pages/Page.h"
+
+#include "addfeature/fields/Field.h"
+
+#include <cam_api.h>
+#include <ui_api.h>
+
+Page::Page(DialogDoor& door, const char* name, QWidget* parent) : QWidget(parent), m_door(door)
+{
+    setObjectName(QLatin1String(name));
+}
+
+void Page::retranslate()
+{
+    for (Field* const field : m_fields) {
+        field->retranslate();
+    }
+}
+
+void Page::changeUnit(bool isMetric)
+{
+    for (Field* const field : m_fields) {
+        field->changeUnit(isMetric);
+    }
+}
+
+bool Page::isShownMetric(const DialogDoor& door)
+{
+    ZENTRA::API::show_param shown{};
+    ZENTRA::UIAPI::getShowPara(door.ownerContext(), shown);
+    return shown.metric;
+}

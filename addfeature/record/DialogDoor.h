@@ -1,0 +1,69 @@
+#pragma once
+
+#include "addfeature/record/FeatureType.h"
+
+#include <QString>
+
+#include <map>
+#include <string>
+
+class FeatureRecord;
+class QObject;
+class RefusalGuard;
+
+/// All that the dialog's fields, pages and rows see of the dialog in which they stand.
+class DialogDoor {
+public:
+    /// The rows above the page that a line kind shows and hides.
+    enum class CommonRow { Attributes, Values, Fill, Polarity, Mirror, Rotation };
+
+    virtual ~DialogDoor() = default;
+
+    virtual FeatureRecord& record() = 0;
+    virtual RefusalGuard& refusals() = 0;
+
+    /// True: lengths are typed in micrometres (the slot length in millimetres); false: in mil
+    /// (inch).
+    virtual bool isMetric() const = 0;
+    /// The host widget that holds the toolbar; context of the host's unit functions. Not owned.
+    virtual void* ownerContext() const = 0;
+    /// UTF-8, as the step.
+    virtual const std::string& job() const = 0;
+    virtual const std::string& step() const = 0;
+    virtual FeatureType featureType() const = 0;
+    /// The rotation spin box, in degrees.
+    virtual int rotation() const = 0;
+    /// Whether Add Feature is the active tool of the toolbar.
+    virtual bool isToolActive() const = 0;
+
+    // A receiver of what is sent may delete the dialog, and the caller with it.
+
+    /// The whole record (code 50), after a check of the symbol that may refuse to.
+    virtual void sendRecord() = 0;
+    /// The whole record as a change of direction (code 52), unchecked.
+    virtual void sendDirection() = 0;
+    /// The attributes by address (code 51); the canvas reads them during the call.
+    virtual void sendAttributes(const std::map<std::string, std::string>& attributes) = 0;
+
+    // The checks report a refusal to the user in exactly one box before they return false.
+
+    /// A number from 0 to `boundInMil`; metric text is divided by 25.4 before it is compared.
+    virtual bool checkLength(const QString& text, double boundInMil) = 0;
+    /// A coordinate in the user's unit, at most 100000 mil or 2540000 micrometres either way.
+    virtual bool checkCoordinate(double value) = 0;
+    /// A plain number without a unit.
+    virtual bool checkNumber(double value, double minimum, double maximum) = 0;
+
+    /// Shows the common controls again and tells the canvas the state of the attributes. False when
+    /// a receiver of that has deleted the dialog, and the caller with it.
+    virtual bool restoreCommonRows() = 0;
+    virtual void setRowVisible(CommonRow row, bool visible) = 0;
+
+    // By the names that SIGNAL() and SLOT() make.
+
+    /// Connects a control to the dialog's slot, or parts them again.
+    virtual void connectToSlot(QObject* sender, const char* signal, const char* slot) = 0;
+    virtual void disconnectFromSlot(QObject* sender, const char* signal, const char* slot) = 0;
+    /// Connects the dialog's signal to a window that the host supplies.
+    virtual void connectSignal(const char* signal, QObject* receiver, const char* slot) = 0;
+};
