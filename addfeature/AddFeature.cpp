@@ -3,6 +3,7 @@
 #include "addfeature/AttributeRow.h"
 #include "addfeature/SymbolEntry.h"
 #include "addfeature/fields/ChoiceField.h"
+#include "addfeature/fields/RadioField.h"
 #include "addfeature/pages/ArcPage.h"
 #include "addfeature/pages/LinePage.h"
 #include "addfeature/pages/PadPage.h"
@@ -12,14 +13,12 @@
 #include "plugin/RecordKeys.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
-#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLoggingCategory>
 #include <QScopeGuard>
 #include <QSpinBox>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -30,23 +29,8 @@ namespace {
 Q_LOGGING_CATEGORY(dialogLog, "canvastoolstrip.addfeature")
 
 constexpr int dialogWidth = 350;
-constexpr int typeIconSize = 32;
 constexpr int maximumRotation = 360;
 constexpr int notMirrored = 1;
-
-/// A feature type's button, in the order of FeatureType.
-struct TypeButton {
-    const char* objectName;
-    const char* icon;
-    const char* name;
-};
-constexpr TypeButton typeButtons[] = {
-    {"m_pLineTB", "Line1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Line")},
-    {"m_pPadTB", "Pad1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Pad")},
-    {"m_pSurfaceTB", "Surf1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Surface")},
-    {"m_pArcTB", "Arc1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Arc")},
-    {"m_pTextTB", "Text1.jpg", QT_TRANSLATE_NOOP("AddFeature", "Text")},
-};
 
 }  // namespace
 
@@ -66,8 +50,6 @@ AddFeature::AddFeature(void* ownerContext, std::string job, std::string step, QW
     buildPages(layout);
     layout->addStretch();
     retranslateFrame();
-    connect(m_featureGroup, SIGNAL(buttonClicked(QAbstractButton*)), this,
-            SLOT(onFeatureButtonClicked(QAbstractButton*)));
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &AddFeature::stayAbove);
 }
 
@@ -75,23 +57,18 @@ AddFeature::~AddFeature() = default;
 
 void AddFeature::buildTypeRow(QVBoxLayout* layout)
 {
-    m_featureGroup = new QButtonGroup(this);
-    auto* const row = new QHBoxLayout;
-    for (const TypeButton& type : typeButtons) {
-        auto* const button = new QToolButton(this);
-        button->setObjectName(QLatin1String(type.objectName));
-        button->setCheckable(true);
-        button->setAutoRaise(true);  // only the chosen one has a frame
-        button->setIconSize({typeIconSize, typeIconSize});
-        button->setIcon(
-            QIcon(QStringLiteral(":/Canvas_Tool_Strip/Resources/") + QLatin1String(type.icon)));
-        m_featureGroup->addButton(button, m_featureGroup->buttons().size());
-        row->addWidget(button);
-    }
+    m_pFeatureBG = new RadioField(*this, this,
+                                  {"m_pFeatureBG", Caption::none(), RecordKeys::features,
+                                   SLOT(onFeatureButtonClicked(QAbstractButton*))},
+                                  RadioField::Look::Tool,
+                                  {{"m_pLineTB", "Line1.jpg", QT_TR_NOOP("Line")},
+                                   {"m_pPadTB", "Pad1.jpg", QT_TR_NOOP("Pad")},
+                                   {"m_pSurfaceTB", "Surf1.jpg", QT_TR_NOOP("Surface")},
+                                   {"m_pArcTB", "Arc1.jpg", QT_TR_NOOP("Arc")},
+                                   {"m_pTextTB", "Text1.jpg", QT_TR_NOOP("Text")}});
+    QHBoxLayout* const row = m_pFeatureBG->createRow();
     row->addStretch();
     layout->addLayout(row);
-    m_featureGroup->button(static_cast<int>(FeatureType::Line))->setChecked(true);
-    m_record.set(RecordKeys::features, FeatureKind::line);
 }
 
 void AddFeature::buildCommonRows(QVBoxLayout* layout)
@@ -161,7 +138,7 @@ void AddFeature::setToolStrip(Canvas_Tool_Strip* toolStrip)
 
 FeatureType AddFeature::featureType() const
 {
-    return static_cast<FeatureType>(m_featureGroup->checkedId());
+    return static_cast<FeatureType>(m_pFeatureBG->checkedId());
 }
 
 int AddFeature::rotation() const
@@ -261,7 +238,7 @@ void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
 
     const FeatureType type = featureType();
     const int id = static_cast<int>(type);
-    m_record.set(RecordKeys::features, id + 1);
+    m_pFeatureBG->storeChoice();
     if (id >= 0 && id < m_pages.size()) {
         const bool isPlaced = type == FeatureType::Pad || type == FeatureType::Text;
         m_symbol->applyFeatureType();
@@ -381,10 +358,7 @@ void AddFeature::change_language()
 void AddFeature::retranslateFrame()
 {
     setWindowTitle(tr("Add Feature"));
-    for (int id = 0; id < m_featureGroup->buttons().size(); ++id) {
-        m_featureGroup->button(id)->setAccessibleName(tr(typeButtons[id].name));
-        m_featureGroup->button(id)->setToolTip(tr(typeButtons[id].name));
-    }
+    m_pFeatureBG->retranslate();
     m_attributes->retranslate();
     m_pPolarityCMB->retranslate();
     m_pMirrorCMB->retranslate();

@@ -23,10 +23,10 @@ class LinePage;
 class PadPage;
 class Page;
 class QAbstractButton;
-class QButtonGroup;
 class QSpinBox;
 class QVBoxLayout;
 class QWindow;
+class RadioField;
 class SurfacePage;
 class SymbolEntry;
 class TextPage;
@@ -191,7 +191,7 @@ private:
     RefusalGuard m_refusals;
     ValueChecks m_checks;
 
-    QButtonGroup* m_featureGroup = nullptr;
+    RadioField* m_pFeatureBG = nullptr;  // in the order of FeatureType
     AttributeRow* m_attributes = nullptr;
     ChoiceField* m_pPolarityCMB = nullptr;
     ChoiceField* m_pMirrorCMB = nullptr;

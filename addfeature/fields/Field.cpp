@@ -34,12 +34,11 @@ void Field::change()
 
 void Field::retranslate()
 {
-    const QString text = m_details.caption.translated();
     if (m_label) {
-        m_label->setText(text);
+        m_label->setText(m_details.caption.translated());
     } else if (m_details.caption.kind == Caption::Kind::Spoken) {
-        widget()->setAccessibleName(text);
-        widget()->setToolTip(text);
+        widget()->setAccessibleName(m_details.caption.translated());
+        widget()->setToolTip(m_details.caption.translated());
     }
 }
 

@@ -17,6 +17,7 @@ struct Caption {
         Label,   ///< a label in front of the control
         Own,     ///< the control's own text
         Spoken,  ///< nothing that is always seen: the accessible name, and the tool tip
+        None,    ///< its parts have captions of their own
     };
     Kind kind;
     const char* text;  ///< marked for translation in the context "AddFeature"
@@ -24,6 +25,8 @@ struct Caption {
     static constexpr Caption label(const char* text) { return {Kind::Label, text}; }
     static constexpr Caption own(const char* text) { return {Kind::Own, text}; }
     static constexpr Caption spoken(const char* text) { return {Kind::Spoken, text}; }
+
+    static constexpr Caption none() { return {Kind::None, nullptr}; }
 
     QString translated() const;
 };

@@ -6,24 +6,39 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QRadioButton>
+#include <QToolButton>
 
 namespace {
 
-constexpr int iconSize = 24;
+constexpr int radioIconSize = 24;
+constexpr int toolIconSize = 32;
+
+QAbstractButton* createButton(RadioField::Look look, QWidget* page)
+{
+    if (look == RadioField::Look::Radio) {
+        auto* const radio = new QRadioButton(page);
+        radio->setIconSize({radioIconSize, radioIconSize});
+        return radio;
+    }
+    auto* const tool = new QToolButton(page);
+    tool->setCheckable(true);
+    tool->setAutoRaise(true);  // only the chosen one has a frame
+    tool->setIconSize({toolIconSize, toolIconSize});
+    return tool;
+}
 
 }  // namespace
 
-RadioField::RadioField(DialogDoor& door, QWidget* page, const Details& details,
+RadioField::RadioField(DialogDoor& door, QWidget* page, const Details& details, Look look,
                        const std::vector<RadioChoice>& choices)
     : QButtonGroup(page), Field(door, this, details), m_choices(choices)
 {
     for (const RadioChoice& choice : m_choices) {
-        auto* const radio = new QRadioButton(page);
-        radio->setObjectName(QLatin1String(choice.name));
-        radio->setIcon(QIcon(
+        QAbstractButton* const button = createButton(look, page);
+        button->setObjectName(QLatin1String(choice.name));
+        button->setIcon(QIcon(
             QStringLiteral(":/Canvas_Tool_Strip/Resources/%1").arg(QLatin1String(choice.icon))));
-        radio->setIconSize({iconSize, iconSize});
-        addButton(radio, buttons().size());
+        addButton(button, buttons().size());
     }
     button(0)->setChecked(true);
     store(RecordValues::one);
@@ -44,9 +59,8 @@ void RadioField::retranslate()
 QHBoxLayout* RadioField::createRow() const
 {
     auto* const row = new QHBoxLayout;
-    row->setSpacing(0);  // six of them just fit
-    for (QAbstractButton* const radio : buttons()) {
-        row->addWidget(radio);
+    for (QAbstractButton* const button : buttons()) {
+        row->addWidget(button);
     }
     return row;
 }

@@ -15,11 +15,13 @@ struct RadioChoice {
     const char* spoken;  ///< marked for translation in the context "AddFeature"
 };
 
-/// A choice among pictures, of which the first is chosen at the start. The record holds its number
-/// from 1: as text at the start, as an integer once it is chosen.
+/// A choice among buttons with pictures, of which the first is chosen at the start. The record
+/// holds its number from 1: as text at the start, as an integer once it is chosen.
 class RadioField final : public QButtonGroup, public Field {
 public:
-    RadioField(DialogDoor& door, QWidget* page, const Details& details,
+    enum class Look { Radio, Tool };
+
+    RadioField(DialogDoor& door, QWidget* page, const Details& details, Look look,
                const std::vector<RadioChoice>& choices);
 
     void retranslate() override;

@@ -49,8 +49,9 @@ LinePage::LinePage(DialogDoor& door, QWidget* parent)
                          SLOT(on_m_pClosedCB_CheckState_Changed(int))},
           false, FlagField::Values{Closed::yes, Closed::no}, Sends::Always)),
       m_pDirectionBG(add<RadioField>(
-          Field::Details{"m_pDirectionBG", Caption::spoken(""), RecordKeys::angleGroup,
+          Field::Details{"m_pDirectionBG", Caption::none(), RecordKeys::angleGroup,
                          SLOT(on_Line_Button_Clicked(QAbstractButton*))},
+          RadioField::Look::Radio,
           std::vector<RadioChoice>{
               {"m_pFreeDirectionRB", "Free1.jpg", QT_TR_NOOP("Free direction")},
               {"m_pVerticalRB", "Ver1.jpg", QT_TR_NOOP("Vertical")},
@@ -121,8 +122,10 @@ QWidget* LinePage::createDirectionGroup()
     angleRow->addWidget(m_pAngleLE->label());
     angleRow->addWidget(m_pAngleLE);
     m_pAngleLE->setRowEnabled(false);
+    QHBoxLayout* const directionRow = m_pDirectionBG->createRow();
+    directionRow->setSpacing(0);  // six of them just fit
     auto* const rows = static_cast<QVBoxLayout*>(group->layout());
-    rows->addLayout(m_pDirectionBG->createRow());
+    rows->addLayout(directionRow);
     rows->addLayout(angleRow);
     return group;
 }

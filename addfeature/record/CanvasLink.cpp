@@ -7,7 +7,6 @@
 #include <QTpluginsManger4CAM.h>
 
 #include <QLoggingCategory>
-#include <QStringBuilder>
 
 #include <utility>
 
@@ -27,16 +26,9 @@ PluginMetaData messageToCanvas(int code, const QMap<QString, QVariant>& payload 
 
 void logEntries(const QMap<QString, QVariant>& payload)
 {
-    if (!recordLog().isDebugEnabled()) {
-        return;
-    }
-    // Handed over as text: formatting the lines would cost more than all else that a send does.
-    const QMessageLogContext context(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC,
-                                     recordLog().categoryName());
     for (auto entry = payload.cbegin(); entry != payload.cend(); ++entry) {
-        qt_message_output(QtDebugMsg, context,
-                          QLatin1String("name: ") % entry.key() % QLatin1String(" value ") %
-                              entry.value().toString());
+        qCDebug(recordLog).noquote().nospace()
+            << "name: " << entry.key() << " value " << entry.value().toString();
     }
 }
 
