@@ -1,0 +1,121 @@
+#include "FakeDoor.h"
+
+#include "addfeature/fields/Field.h"
+
+#include <utility>
+
+namespace {
+
+/// What SIGNAL() or SLOT() was given.
+QString signature(const char* code)
+{
+    return QString::fromLatin1(code + 1);
+}
+
+}  // namespace
+
+QStringList FakeDoor::takeCalls()
+{
+    return std::exchange(m_calls, {});
+}
+
+void FakeDoor::route(const char* slot, std::function<void()> rule)
+{
+    m_routes[signature(slot)] = std::move(rule);
+}
+
+void FakeDoor::sendRecord()
+{
+    m_calls.append("record");
+    if (onSend) {
+        onSend();
+    }
+}
+
+void FakeDoor::sendDirection()
+{
+    m_calls.append("direction");
+    if (onSend) {
+        onSend();
+    }
+}
+
+void FakeDoor::sendAttributes(const std::map<std::string, std::string>& /*attributes*/)
+{
+    m_calls.append("attributes");
+}
+
+bool FakeDoor::answer(const QString& call)
+{
+    m_calls.append(call);
+    if (!accepts && onBox) {
+        m_refusals.box([this] {
+            onBox();
+            return true;
+        });
+    }
+    return accepts;
+}
+
+bool FakeDoor::checkLength(const QString& text, double boundInMil)
+{
+    return answer(QStringLiteral("length %1 up to %2").arg(text).arg(boundInMil));
+}
+
+bool FakeDoor::checkCoordinate(double value)
+{
+    return answer(QStringLiteral("coordinate %1").arg(value));
+}
+
+bool FakeDoor::checkNumber(double value, double minimum, double maximum)
+{
+    return answer(QStringLiteral("number %1 from %2 to %3").arg(value).arg(minimum).arg(maximum));
+}
+
+bool FakeDoor::restoreCommonRows()
+{
+    m_calls.append("restore");
+    return survives;
+}
+
+void FakeDoor::setRowVisible(CommonRow row, bool visible)
+{
+    static const char* const names[] = {"Attributes", "Values", "Fill",
+                                        "Polarity",   "Mirror", "Rotation"};
+    m_calls.append((visible ? "show " : "hide ") + QString(names[static_cast<int>(row)]));
+}
+
+void FakeDoor::connectToSlot(QObject* sender, const char* signal, const char* slot)
+{
+    m_connections.append(
+        QStringList{sender->objectName(), signature(signal), signature(slot)}.join(' '));
+    m_slots[sender] = signature(slot);
+    connect(sender, signal, this, SLOT(take()));
+}
+
+void FakeDoor::disconnectFromSlot(QObject* sender, const char* signal, const char* /*slot*/)
+{
+    disconnect(sender, signal, this, SLOT(take()));
+}
+
+void FakeDoor::connectSignal(const char* signal, QObject* receiver, const char* slot)
+{
+    m_connections.append(
+        QStringList{signature(signal), receiver->objectName(), signature(slot)}.join(' '));
+}
+
+void FakeDoor::take()
+{
+    if (const auto rule = m_routes.value(m_slots.value(sender()))) {
+        rule();
+        return;
+    }
+    auto* const field = dynamic_cast<Field*>(sender());
+    if (!field) {
+        m_calls.append(m_slots.value(sender()));
+    } else if (m_slots.value(sender()).endsWith("_editingFinished()")) {
+        field->finish();
+    } else {
+        field->change();
+    }
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "addfeature/record/DialogDoor.h"
+#include "addfeature/record/FeatureRecord.h"
+#include "addfeature/record/RefusalGuard.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <functional>
+
+/// The dialog as a field or page sees it, without strip, window or host: it notes what it is asked,
+/// answers the checks as it is told, and routes each signal straight to the field that sends it.
+class FakeDoor : public QObject, public DialogDoor {
+    Q_OBJECT
+
+public:
+    /// What was done since the last call: "record", "direction", "attributes", "restore",
+    /// "hide Mirror", "length 50000", "coordinate", "number 0 to 50", in order.
+    QStringList takeCalls();
+    /// Each connection as "object signal slot", without the codes of SIGNAL() and SLOT().
+    const QStringList& connections() const { return m_connections; }
+    /// Runs `rule` instead of the field when the signal for `slot` comes.
+    void route(const char* slot, std::function<void()> rule);
+
+    bool accepts = true;   ///< what every check answers
+    bool metric = false;   ///< the user's unit
+    bool survives = true;  ///< what restoreCommonRows() answers
+    std::string jobName = "job";
+    /// Called while a refusal's box would be open.
+    std::function<void()> onBox;
+    /// Called at each record or direction that is sent.
+    std::function<void()> onSend;
+
+    FeatureRecord& record() override { return m_record; }
+    RefusalGuard& refusals() override { return m_refusals; }
+    bool isMetric() const override { return metric; }
+    void* ownerContext() const override { return nullptr; }
+    const std::string& job() const override { return jobName; }
+    const std::string& step() const override { return m_step; }
+    FeatureType featureType() const override { return FeatureType::Line; }
+    int rotation() const override { return 0; }
+    bool isToolActive() const override { return true; }
+    void sendRecord() override;
+    void sendDirection() override;
+    void sendAttributes(const std::map<std::string, std::string>& attributes) override;
+    bool checkLength(const QString& text, double boundInMil) override;
+    bool checkCoordinate(double value) override;
+    bool checkNumber(double value, double minimum, double maximum) override;
+    bool restoreCommonRows() override;
+    void setRowVisible(CommonRow row, bool visible) override;
+    void connectToSlot(QObject* sender, const char* signal, const char* slot) override;
+    void disconnectFromSlot(QObject* sender, const char* signal, const char* slot) override;
+    void connectSignal(const char* signal, QObject* receiver, const char* slot) override;
+
+private Q_SLOTS:
+    void take();
+
+private:
+    bool answer(const QString& call);
+
+    FeatureRecord m_record;
+    RefusalGuard m_refusals;
+    std::string m_step = "step";
+    QStringList m_calls;
+    QStringList m_connections;
+    QMap<QObject*, QString> m_slots;  // of each sender
+    QMap<QString, std::function<void()>> m_routes;
+};

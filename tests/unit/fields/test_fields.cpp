@@ -1,0 +1,432 @@
+// What each kind of field stores, refuses and sends, without a dialog around it.
+
+#include "FakeDoor.h"
+#include "Main.h"
+#include "addfeature/fields/ChoiceField.h"
+#include "addfeature/fields/FlagField.h"
+#include "addfeature/fields/LengthField.h"
+#include "addfeature/fields/NumberField.h"
+#include "addfeature/fields/PitchField.h"
+#include "addfeature/fields/RadioField.h"
+#include "addfeature/fields/TextField.h"
+
+#include <QLabel>
+#include <QToolButton>
+
+Q_DECLARE_METATYPE(Sends)
+Q_DECLARE_METATYPE(ChoiceField::Stores)
+Q_DECLARE_METATYPE(UnitField::Unit)
+
+namespace {
+
+const QString key("Key");
+constexpr char finishSlot[] = SLOT(on_m_pAnyLE_editingFinished());
+
+Field::Details line(const char* name = "m_pAnyLE")
+{
+    return {name, Caption::label("Any : "), key, finishSlot};
+}
+
+void type(QLineEdit& field, const QString& text)
+{
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClicks(&field, text);
+}
+
+}  // namespace
+
+class TestFields : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void buildingStoresAndSendsNothing()
+    {
+        FakeDoor door;
+        QWidget page;
+        const LengthField length(door, &page, line(), "250", 50000, Sends::Always);
+        QCOMPARE(door.record().text(key), QString("6350"));
+        QCOMPARE(door.takeCalls(), QStringList());
+        QCOMPARE(door.connections(),
+                 QStringList("m_pAnyLE editingFinished() on_m_pAnyLE_editingFinished()"));
+        QCOMPARE(length.objectName(), QString("m_pAnyLE"));
+        QCOMPARE(length.label()->objectName(), QString("m_pAnyLB"));
+        QCOMPARE(length.label()->text(), QString("Any : "));
+        QCOMPARE(length.label()->buddy(), static_cast<const QWidget*>(&length));
+        QCOMPARE(length.unitLabel()->objectName(), QString("m_pAnyUnitLB"));
+        QCOMPARE(length.parentWidget(), &page);
+    }
+
+    void length_data()
+    {
+        QTest::addColumn<Sends>("sends");
+        QTest::addColumn<bool>("accepts");
+        QTest::addColumn<bool>("metric");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("isSent");
+        QTest::newRow("mil") << Sends::WhenAccepted << true << false << "10"
+                             << "254" << true;
+        QTest::newRow("metric") << Sends::WhenAccepted << true << true << "10"
+                                << "10" << true;
+        QTest::newRow("never") << Sends::Never << true << false << "10"
+                               << "254" << false;
+        QTest::newRow("refused") << Sends::WhenAccepted << false << false << "0"
+                                 << "0" << false;
+        QTest::newRow("refused, always") << Sends::Always << false << false << "0"
+                                         << "0" << true;
+        QTest::newRow("refused, never") << Sends::Never << false << true << "0"
+                                        << "0" << false;
+    }
+
+    void length()
+    {
+        QFETCH(Sends, sends);
+        QFETCH(bool, accepts);
+        QFETCH(bool, metric);
+        QFETCH(QString, shown);
+        QFETCH(QString, stored);
+        QFETCH(bool, isSent);
+        FakeDoor door;
+        QWidget page;
+        LengthField field(door, &page, line(), "5", 50000, sends);
+        door.accepts = accepts;
+        door.metric = metric;
+        QString whenSent;
+        door.onSend = [&] { whenSent = door.record().text(key); };
+        type(field, "10");
+        QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(field.text(), shown);
+        QCOMPARE(door.record().text(key), stored);
+        QCOMPARE(door.takeCalls(), QStringList("length 10 up to 50000") +
+                                       (isSent ? QStringList("record") : QStringList()));
+        QCOMPARE(whenSent, isSent ? stored : QString());
+    }
+
+    void unit_data()
+    {
+        QTest::addColumn<UnitField::Unit>("unit");
+        QTest::addColumn<QStringList>("labels");
+        QTest::addColumn<QString>("metric");
+        QTest::newRow("mil") << UnitField::Unit::Mil << QStringList{"mil", "my", "mil"} << "254";
+        QTest::newRow("mil by its label")
+            << UnitField::Unit::MilByLabel << QStringList{"mil", "mil", "mil"} << "254";
+        QTest::newRow("inch") << UnitField::Unit::PlainInch << QStringList{"\"", "mm", "\""}
+                              << "254";
+    }
+
+    void unit()
+    {
+        QFETCH(UnitField::Unit, unit);
+        QFETCH(QStringList, labels);
+        QFETCH(QString, metric);
+        FakeDoor door;
+        QWidget page;
+        LengthField field(door, &page, line(), "10", 50000, Sends::Always, unit);
+        QCOMPARE(field.unitLabel()->text(), labels[0]);
+        for (int twice = 0; twice < 2; ++twice) {
+            field.changeUnit(true);
+            QCOMPARE(field.unitLabel()->text(), labels[1]);
+            QCOMPARE(field.text(), metric);
+        }
+        field.changeUnit(false);
+        QCOMPARE(field.unitLabel()->text(), labels[2]);
+        QCOMPARE(field.text(), QString("10"));
+        QCOMPARE(door.record().text(key), QString("254"));
+        QCOMPARE(door.takeCalls(), QStringList());
+    }
+
+    void plainInchKeepsWhatIsNoNumberAndTakesEdits()
+    {
+        FakeDoor door;
+        QWidget page;
+        LengthField field(door, &page, line(), "1", 50000, Sends::Never,
+                          UnitField::Unit::PlainInch);
+        field.changeUnit(true);
+        QCOMPARE(field.text(), QString("25.4"));
+        field.setText("50.8");
+        field.changeUnit(false);
+        QCOMPARE(field.text(), QString("2"));
+        field.setText("abc");
+        field.changeUnit(true);
+        QCOMPARE(field.text(), QString("abc"));
+    }
+
+    void pitch()
+    {
+        FakeDoor door;
+        QWidget page;
+        PitchField field(door, &page, line(), true);
+        QCOMPARE(field.unitLabel()->text(), QString("my"));
+        QCOMPARE(door.record().text(key), QString("0"));
+        type(field, "-10");
+        QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(door.record().text(key), QString("-254"));
+        QCOMPARE(door.takeCalls(), (QStringList{"coordinate -10", "record"}));
+
+        door.accepts = false;
+        type(field, "99");
+        QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(field.text(), QString("0"));
+        QCOMPARE(door.record().text(key), QString("-254"));  // only the field falls back
+        QCOMPARE(door.takeCalls(), QStringList("coordinate 99"));
+
+        door.accepts = true;
+        field.clear();
+        field.finish();
+        QCOMPARE(field.text(), QString("0"));
+        QCOMPARE(door.record().text(key), QString("0"));
+    }
+
+    void number_data()
+    {
+        QTest::addColumn<bool>("atEachChange");
+        QTest::newRow("at each change") << true;
+        QTest::newRow("when finished") << false;
+    }
+
+    void number()
+    {
+        QFETCH(bool, atEachChange);
+        FakeDoor door;
+        QWidget page;
+        NumberField field(
+            door, &page, line(), "1", {-1, 50},
+            atEachChange ? NumberField::Checked::AtEachChange : NumberField::Checked::WhenFinished,
+            atEachChange ? NumberField::Message::Record : NumberField::Message::Direction);
+        const QString sent = atEachChange ? "record" : "direction";
+        field.setText("7");
+        if (!atEachChange) {
+            QCOMPARE(door.takeCalls(), QStringList());
+            field.finish();
+        }
+        QCOMPARE(door.takeCalls(), (QStringList{"number 7 from -1 to 50", sent}));
+        QCOMPARE(door.record().text(key), QString("7"));
+
+        door.accepts = false;
+        field.setText("99");
+        if (!atEachChange) {
+            field.finish();
+        }
+        QCOMPARE(door.takeCalls(), QStringList("number 99 from -1 to 50"));  // once, and unsent
+        QCOMPARE(field.text(), QString("7"));
+        QCOMPARE(door.record().text(key), QString("7"));
+    }
+
+    void text()
+    {
+        FakeDoor door;
+        QWidget page;
+        TextField field(door, &page, LineField::Pattern::Text, line(), "a", Sends::Always);
+        type(field, "word");
+        QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(door.record().text(key), QString("word"));
+        QCOMPARE(door.takeCalls(), QStringList("record"));
+
+        field.accept([](const QString& text) { return text == "good"; });
+        field.setText("bad");
+        field.finish();
+        QCOMPARE(field.text(), QString());
+        QCOMPARE(door.record().text(key), QString("word"));
+        QCOMPARE(door.takeCalls(), QStringList());
+        field.enter("bad");  // chosen elsewhere: not asked
+        QCOMPARE(door.record().text(key), QString("bad"));
+        QCOMPARE(door.takeCalls(), QStringList("record"));
+    }
+
+    void textThatIsNotSent()
+    {
+        FakeDoor door;
+        QWidget page;
+        TextField field(door, &page, LineField::Pattern::Text, line(), "a", Sends::Never);
+        field.enter("b");
+        QCOMPARE(door.record().text(key), QString("b"));
+        QCOMPARE(door.takeCalls(), QStringList());
+    }
+
+    void choice_data()
+    {
+        using Stores = ChoiceField::Stores;
+        QTest::addColumn<Stores>("stores");
+        QTest::addColumn<QVariant>("atFirst");
+        QTest::addColumn<QVariant>("chosen");
+        QTest::addColumn<QVariant>("none");  // after the second item was chosen
+        const QVariant x("x");
+        const QVariant y("y");
+        QTest::newRow("text") << Stores::Text << x << y << y;
+        QTest::newRow("number") << Stores::Number << QVariant(1) << QVariant(2) << QVariant(0);
+        QTest::newRow("text, then number")
+            << Stores::TextThenNumber << x << QVariant(2) << QVariant(0);
+        QTest::newRow("text, else number") << Stores::TextElseNumber << x << y << QVariant(0);
+    }
+
+    void choice()
+    {
+        QFETCH(ChoiceField::Stores, stores);
+        QFETCH(QVariant, atFirst);
+        QFETCH(QVariant, chosen);
+        QFETCH(QVariant, none);
+        FakeDoor door;
+        QWidget page;
+        ChoiceField field(door, &page,
+                          {"m_pAnyCMB", Caption::spoken("Any"), key, SLOT(on_Any_Changed())},
+                          {{"first", "x"}, {"second", "y", false}}, stores, Sends::Always);
+        const auto value = [&] { return door.record().map().value(key); };
+        QCOMPARE(value(), atFirst);
+        QCOMPARE(value().type(), atFirst.type());
+        QCOMPARE(field.accessibleName(), QString("Any"));
+        QCOMPARE(field.toolTip(), QString("Any"));
+        QVERIFY(!field.label());
+        QCOMPARE(field.itemData(1, Qt::UserRole - 1), QVariant(0));
+        QVERIFY(field.is("x") && !field.is("y"));
+
+        field.setCurrentIndex(1);
+        QCOMPARE(value(), chosen);
+        QCOMPARE(value().type(), chosen.type());
+        QVERIFY(field.is("y"));
+        field.setCurrentIndex(-1);
+        QCOMPARE(value(), none);
+        QCOMPARE(value().type(), none.type());
+        QVERIFY(!field.is("y") && !field.is(""));
+        QCOMPARE(door.takeCalls(), (QStringList{"record", "record"}));
+    }
+
+    void choiceThatIsNotSentAndStartsElsewhere()
+    {
+        FakeDoor door;
+        QWidget page;
+        ChoiceField field(
+            door, &page, {"m_pAnyCMB", Caption::label("Any"), key, SLOT(on_Any_Changed())},
+            {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, Sends::Never, 1);
+        QCOMPARE(door.record().text(key), QString("y"));
+        field.setCurrentIndex(0);
+        QCOMPARE(door.record().text(key), QString("x"));
+        QCOMPARE(door.takeCalls(), QStringList());
+        field.setCurrentIndex(1);
+        field.retranslate();
+        QCOMPARE(field.currentIndex(), 1);
+        QCOMPARE(door.takeCalls(), QStringList());
+    }
+
+    void flag()
+    {
+        FakeDoor door;
+        QWidget page;
+        FlagField field(door, &page,
+                        {"m_pAnyCB", Caption::own("Any"), key, SLOT(on_Any_Changed(int))}, true,
+                        {"yes", "no"}, Sends::Always);
+        QCOMPARE(field.text(), QString("Any"));
+        QVERIFY(field.isChecked());
+        QCOMPARE(door.record().text(key), QString("yes"));
+        field.setChecked(false);
+        QCOMPARE(door.record().text(key), QString("no"));
+        QCOMPARE(door.takeCalls(), QStringList("record"));
+        field.storeAs(true);
+        QCOMPARE(door.record().text(key), QString("yes"));
+        QCOMPARE(door.takeCalls(), QStringList());
+    }
+
+    void radio()
+    {
+        FakeDoor door;
+        QWidget page;
+        RadioField field(door, &page,
+                         {"m_pAnyBG", Caption::none(), key, SLOT(on_Any_Clicked(QAbstractButton*))},
+                         RadioField::Look::Tool,
+                         {{"m_pOneTB", "Free1.jpg", "One"}, {"m_pTwoTB", "Ver1.jpg", "Two"}});
+        QCOMPARE(door.record().map().value(key), QVariant("1"));
+        QCOMPARE(field.checkedId(), 0);
+        QCOMPARE(field.button(1)->toolTip(), QString("Two"));
+        QCOMPARE(field.button(1)->accessibleName(), QString("Two"));
+        QVERIFY(qobject_cast<QToolButton*>(field.button(1))->autoRaise());
+        field.button(1)->click();
+        QCOMPARE(door.record().map().value(key), QVariant(2));
+        QCOMPARE(door.takeCalls(), QStringList("direction"));
+    }
+
+    void aRefusalIsHandledOnceAndWhatIsPendingElsewhereAfterIt()
+    {
+        FakeDoor door;
+        QWidget page;
+        LengthField refused(door, &page, line(), "5", 50000, Sends::Never);
+        TextField pending(door, &page, LineField::Pattern::Text,
+                          {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot}, "a",
+                          Sends::Always);
+        pending.setText("b");
+        door.accepts = false;
+        door.onBox = [&] {
+            refused.finish();  // the box takes the focus
+            pending.finish();
+            pending.finish();
+            QCOMPARE(door.record().text("Other"), QString("a"));
+        };
+        refused.setText("99");
+        refused.finish();
+        QCOMPARE(door.takeCalls(), (QStringList{"length 99 up to 50000", "record"}));
+        QCOMPARE(door.record().text(key), QString("0"));
+        QCOMPARE(door.record().text("Other"), QString("b"));
+    }
+
+    void anEntryThatIsPendingIsCheckedItself()
+    {
+        FakeDoor door;
+        QWidget page;
+        LengthField first(door, &page, line(), "5", 50000, Sends::Never);
+        LengthField second(door, &page,
+                           {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot}, "5", 10000,
+                           Sends::Never);
+        door.accepts = false;
+        bool isFirstBox = true;
+        door.onBox = [&] {
+            if (std::exchange(isFirstBox, false)) {
+                second.finish();
+            } else {
+                second.finish();  // its own box, its own report
+            }
+        };
+        first.setText("98");
+        second.setText("99");
+        first.finish();
+        QCOMPARE(door.takeCalls(), (QStringList{"length 98 up to 50000", "length 99 up to 10000"}));
+        QCOMPARE(second.text(), QString("0"));
+    }
+
+    void aHandlerThatThrowsLosesNothing()
+    {
+        FakeDoor door;
+        QWidget page;
+        TextField pending(door, &page, LineField::Pattern::Text,
+                          {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot}, "a",
+                          Sends::Never);
+        pending.setText("b");
+        bool hasThrown = false;
+        try {
+            door.refusals().run(nullptr, [&] {
+                door.refusals().box([&] { pending.finish(); });
+                throw 7;
+            });
+        } catch (int) {
+            hasThrown = true;
+        }
+        QVERIFY(hasThrown);
+        QCOMPARE(door.record().text("Other"), QString("b"));
+        pending.setText("c");
+        pending.finish();  // and the next entry is taken at once
+        QCOMPARE(door.record().text("Other"), QString("c"));
+    }
+
+    void aRowIsEnabledWhole()
+    {
+        FakeDoor door;
+        QWidget page;
+        LengthField field(door, &page, line(), "5", 50000, Sends::Never);
+        field.setRowEnabled(false);
+        QVERIFY(!field.isEnabled() && !field.label()->isEnabled() &&
+                !field.unitLabel()->isEnabled());
+        field.setRowEnabled(true);
+        QVERIFY(field.isEnabled() && field.label()->isEnabled() && field.unitLabel()->isEnabled());
+    }
+};
+
+CTS_MAIN(TestFields)
+#include "test_fields.moc"

@@ -1,0 +1,261 @@
+// The rules between the fields of each page, without a dialog around it.
+
+#include "FakeDoor.h"
+#include "Main.h"
+#include "addfeature/pages/ArcPage.h"
+#include "addfeature/pages/BarcodePage.h"
+#include "addfeature/pages/CannedTextPage.h"
+#include "addfeature/pages/LinePage.h"
+#include "addfeature/pages/PadPage.h"
+#include "addfeature/pages/PlotStampPage.h"
+#include "addfeature/pages/StringPage.h"
+#include "addfeature/pages/SurfacePage.h"
+#include "addfeature/pages/TextPage.h"
+#include "plugin/RecordKeys.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+QStringList shownGroups(const LinePage& page)
+{
+    QStringList shown;
+    for (const char* const name : {"m_pDirectionGroup", "m_pCornerGroup", "m_pSlotGroup"}) {
+        if (page.findChild<QWidget*>(name)->isVisibleTo(&page)) {
+            shown.append(name);
+        }
+    }
+    return shown;
+}
+
+}  // namespace
+
+class TestRules : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lineKind_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("group");
+        QTest::addColumn<bool>("mayBeClosed");
+        QTest::addColumn<QStringList>("hidden");
+        const QStringList placing = {"hide Mirror", "hide Rotation"};
+        const QStringList all =
+            QStringList{"hide Attributes", "hide Values", "hide Fill", "hide Polarity"} + placing;
+        QTest::newRow("single") << 0 << LineKind::single << "m_pDirectionGroup" << false << placing;
+        QTest::newRow("polyline") << 1 << LineKind::polyline << "m_pDirectionGroup" << true
+                                  << placing;
+        QTest::newRow("rectangle")
+            << 2 << LineKind::rectangle << "m_pCornerGroup" << false << placing;
+        QTest::newRow("slot") << 3 << LineKind::slot << "m_pSlotGroup" << false << all;
+    }
+
+    void lineKind()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, value);
+        QFETCH(QString, group);
+        QFETCH(bool, mayBeClosed);
+        QFETCH(QStringList, hidden);
+        FakeDoor door;
+        LinePage page(door);
+        door.route(SLOT(on_Line_ComboBox_Changed()), [&] { page.chooseKind(); });
+        page.m_pLineCMB->setCurrentIndex(index == 0 ? 1 : 0);
+        door.takeCalls();
+        page.m_pLineCMB->setCurrentIndex(index);
+        QCOMPARE(door.takeCalls(), QStringList("restore") + hidden + QStringList("record"));
+        QCOMPARE(door.record().text(RecordKeys::line), value);
+        QCOMPARE(shownGroups(page), QStringList(group));
+        QCOMPARE(page.m_pClosedCB->isEnabled(), mayBeClosed);
+    }
+
+    void noLineKind()
+    {
+        FakeDoor door;
+        LinePage page(door);
+        door.route(SLOT(on_Line_ComboBox_Changed()), [&] { page.chooseKind(); });
+        page.m_pLineCMB->setCurrentIndex(1);
+        door.takeCalls();
+        page.m_pLineCMB->setCurrentIndex(-1);
+        QCOMPARE(door.takeCalls(), (QStringList{"restore", "record"}));
+        QCOMPARE(door.record().text(RecordKeys::line), LineKind::polyline);
+        QVERIFY(page.m_pClosedCB->isEnabled());
+    }
+
+    void aDialogThatIsGoneSendsNothing()
+    {
+        FakeDoor door;
+        LinePage page(door);
+        door.survives = false;
+        page.chooseKind();
+        QCOMPARE(door.takeCalls(), QStringList("restore"));
+    }
+
+    void theFixedDirectionHasAnAngle()
+    {
+        FakeDoor door;
+        LinePage page(door);
+        QVERIFY(!page.m_pAngleLE->isEnabled());
+        for (int id = 5; id >= 0; --id) {
+            page.m_pDirectionBG->button(id)->setChecked(true);
+            page.chooseDirection();
+            QCOMPARE(door.record().map().value(RecordKeys::angleGroup), QVariant(id + 1));
+            QCOMPARE(page.m_pAngleLE->isEnabled(), id == 5);
+            QCOMPARE(page.m_pAngleLE->label()->isEnabled(), id == 5);
+            QCOMPARE(door.takeCalls(), QStringList("direction"));
+        }
+    }
+
+    void roundAndChamferedCornersHaveARadius()
+    {
+        FakeDoor door;
+        LinePage page(door);
+        door.route(SLOT(on_CornerTypre_ComboBox_Changed()), [&] { page.chooseCorner(); });
+        QVERIFY(!page.m_pCornerRadiusLE->isEnabled());
+        const int corners[] = {1, 2, 3, 0, -1};
+        for (const int corner : corners) {
+            page.m_pCornerTypeCMB->setCurrentIndex(corner);
+            const bool hasRadius = corner == 1 || corner == 2;
+            QCOMPARE(page.m_pCornerRadiusLE->isEnabled(), hasRadius);
+            QCOMPARE(page.m_pCornerRadiusLE->unitLabel()->isEnabled(), hasRadius);
+            QCOMPARE(door.record().map().value(RecordKeys::cornerType), QVariant(corner + 1));
+            QCOMPARE(door.takeCalls(), QStringList("record"));
+        }
+    }
+
+    void theOtherMethodIsGreyed()
+    {
+        FakeDoor door;
+        ArcPage page(door);
+        door.route(SLOT(on_ArcAndCircle_ComboBox_Changed()), [&] { page.chooseArcOrCircle(); });
+        QVERIFY(page.m_pArcCMB->isEnabled() && !page.m_pCircleCMB->isEnabled());
+        page.m_pArcAndCircleCMB->setCurrentIndex(1);
+        QVERIFY(!page.m_pArcCMB->isEnabled() && page.m_pCircleCMB->isEnabled());
+        QCOMPARE(door.record().text(RecordKeys::arcAndCircle), ArcOrCircle::circle);
+        page.m_pArcAndCircleCMB->setCurrentIndex(-1);
+        QVERIFY(!page.m_pArcCMB->isEnabled() && page.m_pCircleCMB->isEnabled());
+        QCOMPARE(door.record().text(RecordKeys::arcAndCircle), ArcOrCircle::circle);
+        QCOMPARE(door.takeCalls(), (QStringList{"record", "record"}));
+    }
+
+    void onlyAMatrixHasMarkers()
+    {
+        FakeDoor door;
+        BarcodePage page(door);
+        door.route(SLOT(on_UPC_ComboBox_Changed()), [&] { page.chooseType(); });
+        QVERIFY(!page.m_pAddMarkersCB->isEnabled());
+        for (int type = 4; type >= 0; --type) {
+            page.m_pUPCCMB->setCurrentIndex(type);
+            QCOMPARE(door.record().map().value(RecordKeys::barcodeMode), QVariant(type + 1));
+            QCOMPARE(page.m_pAddMarkersCB->isEnabled(), type == 4);
+            QCOMPARE(page.m_pMatrixPB->isEnabled(), type == 4);
+            QCOMPARE(page.m_pMatrixLE->isEnabled(), type == 4);
+        }
+        QCOMPARE(door.takeCalls(), QStringList());
+    }
+
+    void aStringHasAPosition()
+    {
+        FakeDoor door;
+        BarcodePage page(door);
+        door.route(SLOT(on_AddString_CheckState_Changed(int)), [&] { page.chooseString(); });
+        page.m_pAddStringCB->setChecked(true);
+        QVERIFY(page.m_pPositionCMB->isEnabled());
+        QCOMPARE(door.record().text(RecordKeys::addString), Added::yes);
+        page.m_pAddStringCB->setChecked(false);
+        QVERIFY(!page.m_pPositionCMB->isEnabled());
+        QCOMPARE(door.record().text(RecordKeys::addString), Added::no);
+    }
+
+    void theMarkersDecideOnTheBackground()
+    {
+        FakeDoor door;
+        BarcodePage page(door);
+        door.route(SLOT(on_m_pBackgroundCB_CheckState_Changed(int)),
+                   [&] { page.chooseBackground(); });
+        page.m_pBackgroundCB->setChecked(true);
+        QCOMPARE(door.record().text(RecordKeys::addBackground), Added::no);
+        page.m_pAddMarkersCB->setChecked(true);
+        page.m_pBackgroundCB->setChecked(false);
+        QCOMPARE(door.record().text(RecordKeys::addBackground), Added::yes);
+    }
+
+    void theHoleModeStoresTheZoom()
+    {
+        FakeDoor door;
+        PlotStampPage stamp(door);
+        CannedTextPage page(door, stamp);
+        door.route(SLOT(on_m_pCannedHoleSizeCMB_ComboBox_Changed()),
+                   [&] { page.chooseHoleMode(); });
+        stamp.m_pOrbotechZoomCMB->setCurrentIndex(6);
+        door.record().set(RecordKeys::orbotechZoom, 1);
+        page.m_pCannedHoleSizeCMB->setCurrentIndex(1);
+        QCOMPARE(door.record().map().value(RecordKeys::orbotechZoom), QVariant(7));
+        QCOMPARE(door.record().text(RecordKeys::cannedHoleMode), CannedHoleMode::sixBySeven);
+        QCOMPARE(door.takeCalls(), QStringList());
+    }
+
+    void aFormatShowsItsPage()
+    {
+        FakeDoor door;
+        TextPage page(door);
+        door.route(SLOT(on_Textformart_ComboBox_Changed()), [&] { page.chooseFormat(); });
+        const QWidget* const pages[] = {page.m_strings, page.m_barcode, page.m_plotStamp,
+                                        page.m_cannedText};
+        const QString values[] = {TextKind::string, TextKind::barcode, TextKind::plotStamp,
+                                  TextKind::cannedText};
+        for (int format = 3; format >= 0; --format) {
+            page.m_pTextFormatCMB->setCurrentIndex(format);
+            QCOMPARE(door.record().text(RecordKeys::textFormat), values[format]);
+            for (int other = 0; other < 4; ++other) {
+                QCOMPARE(pages[other]->isVisibleTo(&page), other == format);
+            }
+            QCOMPARE(page.m_pFontPB->isEnabled(), format == 0);
+            QCOMPARE(page.m_pFontLE->isEnabled(), format == 0);
+            QCOMPARE(page.m_barcode->m_pUPCCMB->isEnabled(), format == 1);
+        }
+        page.m_pTextFormatCMB->setCurrentIndex(-1);
+        QCOMPARE(door.record().text(RecordKeys::textFormat), TextKind::string);
+        QVERIFY(!page.m_pFontLE->isEnabled());
+        QCOMPARE(door.takeCalls(), QStringList());
+    }
+
+    void changingTheUnitOfAPageSendsAndStoresNothing()
+    {
+        FakeDoor door;
+        LinePage line(door);
+        PadPage pad(door);
+        TextPage text(door);
+        const QVariantMap before = door.record().map();
+        for (Page* const page : std::initializer_list<Page*>{&line, &pad, &text}) {
+            page->changeUnit(true);
+        }
+        QCOMPARE(line.m_pCornerRadiusLE->unitLabel()->text(), QString("my"));
+        QCOMPARE(line.m_pLengthLE->unitLabel()->text(), QString("mm"));
+        QCOMPARE(pad.m_pDrilDyLE->unitLabel()->text(), QString("my"));
+        QCOMPARE(text.m_strings->m_pXSizeLE->text(), QString("5080"));
+        QCOMPARE(text.m_barcode->m_pHeightLE->text(), QString("6350"));
+        QCOMPARE(text.m_barcode->m_pHeightLE->unitLabel()->text(), QString("mil"));
+        QCOMPARE(text.m_cannedText->m_pCannedHoleSizeLE->text(), QString("508"));
+        QCOMPARE(door.takeCalls(), QStringList());
+        QCOMPARE(door.record().map(), before);
+    }
+
+    void theRecordHasAKeyForEachFieldOfThePages()
+    {
+        FakeDoor door;
+        const LinePage line(door);
+        const PadPage pad(door);
+        const SurfacePage surface(door);
+        const ArcPage arc(door);
+        const TextPage text(door);
+        QCOMPARE(door.record().map().size(), 39);  // all but the frame's six
+        QCOMPARE(door.record().text(RecordKeys::surfaceShape), SurfaceKind::rectangle);
+    }
+};
+
+CTS_MAIN(TestRules)
+#include "test_rules.moc"
