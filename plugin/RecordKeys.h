@@ -65,7 +65,7 @@ inline const QString padYscl(QLatin1String("PadYscl"));
 
 // Surface
 
-/// Outline of the surface, SurfaceShape. Text.
+/// Outline of the surface, SurfaceKind. Text.
 inline const QString surfaceShape(QLatin1String("SurfaceShape"));
 
 // Arc
@@ -81,7 +81,7 @@ inline const QString clockWise(QLatin1String("ClockWise"));
 
 // Text
 
-/// What is written, TextFormat. Text.
+/// What is written, TextKind. Text.
 inline const QString textFormat(QLatin1String("TextFormat"));
 /// Name of a font of the job. Text.
 inline const QString stringTextFont(QLatin1String("StringTextFont"));
@@ -96,7 +96,7 @@ inline const QString stringLineWidth(QLatin1String("StringLineWidth"));
 
 // Barcode
 
-/// Symbology, BarcodeType. Text until chosen, then an integer.
+/// Type of the code, Symbology. Text until chosen, then an integer.
 inline const QString barcodeMode(QLatin1String("BarcodeMode"));
 /// Whether a readable string is added, Added. Text.
 inline const QString addString(QLatin1String("AddString"));

@@ -90,11 +90,11 @@ inline const QString no = RecordValues::two;
 }  // namespace SlotPlated
 
 /// Of "SurfaceShape".
-namespace SurfaceShape {
+namespace SurfaceKind {
 inline const QString rectangle = RecordValues::one;
 inline const QString polygon = RecordValues::two;
 inline const QString circle = RecordValues::three;
-}  // namespace SurfaceShape
+}  // namespace SurfaceKind
 
 /// Of "Arc&Circle".
 namespace ArcOrCircle {
@@ -128,21 +128,21 @@ inline const QString no = RecordValues::two;
 }  // namespace ClockWise
 
 /// Of "TextFormat".
-namespace TextFormat {
+namespace TextKind {
 inline const QString string = RecordValues::one;
 inline const QString barcode(QLatin1String("BarcodeMode"));  // not "2": deliberate
 inline const QString plotStamp = RecordValues::three;
 inline const QString cannedText = RecordValues::four;
-}  // namespace TextFormat
+}  // namespace TextKind
 
 /// Of "BarcodeMode".
-namespace BarcodeType {
+namespace Symbology {
 inline const QString upc39 = RecordValues::one;
 inline const QString upc39Ascii = RecordValues::two;
 inline const QString code128B = RecordValues::three;
 inline const QString code128C = RecordValues::four;
 inline const QString ecc200 = RecordValues::five;
-}  // namespace BarcodeType
+}  // namespace Symbology
 
 /// Of "AddString", "AddBackground" and "AddMarkers".
 namespace Added {

@@ -2,12 +2,15 @@
 
 #include "Main.h"
 #include "StripFixture.h"
+#include "plugin/MessageCodes.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QTimer>
 #include <QTranslator>
+
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -41,10 +44,10 @@ private Q_SLOTS:
         QString tipAtSignal;
         connect(fixture.strip, &Canvas_Tool_Strip::language_changed, fixture.strip,
                 [&] { tipAtSignal = fixture.button(0)->toolTip(); });
-        fixture.receive(20002201);
+        fixture.receive(Accepted::LanguageChanged);
         QApplication::removeTranslator(&translator);
         QCOMPARE(tipAtSignal, QString("Area Zoom"));  // the signal comes first
-        for (int index = 0; index < 26; ++index) {
+        for (int index = 0; index < ToolTable::toolCount; ++index) {
             const char* const tips[] = {"Area Zoom",
                                         "Open a Popview",
                                         "Measure",
@@ -87,7 +90,7 @@ private Q_SLOTS:
         }
         MarkingTranslator translator;
         QApplication::installTranslator(&translator);
-        fixture.receive(20002201);
+        fixture.receive(Accepted::LanguageChanged);
         QApplication::removeTranslator(&translator);
         const auto texts = [&](const char* menu) {
             QStringList list;
@@ -107,7 +110,7 @@ private Q_SLOTS:
     void beforeTheMenusExist()
     {
         StripFixture fixture;
-        fixture.receive(20002201);
+        fixture.receive(Accepted::LanguageChanged);
         QCOMPARE(fixture.button(23)->toolTip(), QString("Select By Net"));
         QVERIFY(fixture.panel.findChildren<QMenu*>().isEmpty());
     }
