@@ -10,38 +10,17 @@ namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-// Neither the tools that are disabled from the start nor the second codes: no click sends them.
-const QSet<int> sentCodes = {Sent::Unset,
-                             Sent::AreaZoom,
-                             Sent::FeatureSelection,
-                             Sent::RectangleSelection,
-                             Sent::DeleteFeature,
-                             Sent::MoveFeature,
-                             Sent::CopyFeature,
-                             Sent::ChangeLineAngle,
-                             Sent::StretchLine,
-                             Sent::InvertFeature,
-                             Sent::BreakLine,
-                             Sent::MoveTriplet,
-                             Sent::RerouteTrace,
-                             Sent::PolygonSelection,
-                             Sent::OpenPopView,
-                             Sent::FeatureHighLight,
-                             Sent::AddFeature,
-                             Sent::SelectPolyline,
-                             Sent::SelectLayerNet,
-                             Sent::SelectBoardNet,
-                             Sent::AddFeatureStarted,
-                             Sent::Mark,
-                             Sent::MarkSettings,
-                             Sent::SelectSymbol,
-                             Sent::DialogsClosed,
-                             Sent::Eq,
-                             Sent::Record,
-                             Sent::AttributeMap,
-                             Sent::DirectionRecord,
-                             Sent::Fill,
-                             Sent::SelectFromEditor};
+/// Whether use can make the strip or the dialog send `code`: not that of a tool which is disabled
+/// from the start, nor the second one of a tool that has two.
+bool isSent(int code)
+{
+    static const QSet<int> disabled = {Sent::RotateFeature, Sent::MirrorFeature,
+                                       Sent::RoutDimension, Sent::ContourEditor,
+                                       Sent::PullLine,      Sent::MoveJunction};
+    const char* const name = Sent::nameOf(code);
+    return name && !QByteArray(name).endsWith("Off") && !disabled.contains(code);
+}
+
 // The type of a plot stamp is an integer for an index outside its list only.
 const QSet<QString> integerKeys = {RecordKeys::orbotechType, RecordKeys::features,
                                    RecordKeys::angleGroup,   RecordKeys::cornerType,
@@ -106,7 +85,7 @@ QString Invariants::faultOf(const Recorder::Entry& entry)
     const QString receiver =
         code == Sent::AddFeatureStarted ? ModuleNames::jobTree : ModuleNames::viewer;
     const bool isRecord = code == Sent::Record || code == Sent::DirectionRecord;
-    if (!sentCodes.contains(code)) {
+    if (!isSent(code)) {
         return QStringLiteral("code %1").arg(code);
     }
     if (message.sender != sender || message.receiver != receiver) {

@@ -88,7 +88,7 @@ private Q_SLOTS:
     void tool_data()
     {
         QTest::addColumn<int>("row");
-        for (int row = 0; row < 24; ++row) {
+        for (int row = 0; row < int(std::size(tools)); ++row) {
             QTest::newRow(tools[row].slot) << row;
         }
     }

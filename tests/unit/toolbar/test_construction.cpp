@@ -54,6 +54,7 @@ const Expected tools[] = {
     {"m_pMarkTB", "Mark", true, "markgry.png", "markgre.png"},
     {"m_pEqTB", "EQ", true, "EQ-1.jpg", "EQ-2.jpg"},
 };
+static_assert(std::size(tools) == ToolTable::toolCount, "one row a tool");
 
 QString resource(const char* file)
 {
