@@ -6,6 +6,7 @@
 #include "Panel.h"
 #include "Runner.h"
 #include "addfeature/AddFeature.h"
+#include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/PluginEntry.h"
 #include "toolbar/Canvas_Tool_Strip.h"
@@ -34,12 +35,13 @@ Attributes attributes(long count)
     return list;
 }
 
-PluginMetaData message(int code, const void* object)
+template <class T>
+PluginMetaData message(int code, const T& object)
 {
     PluginMetaData built(QStringLiteral("Canvas_Viewer.dll"),
                          QStringLiteral("Canvas_Tool_Strip.dll"));
     built.code = code;
-    built.extra = static_cast<qint64>(reinterpret_cast<quintptr>(object));
+    built.extra = ExtraWord::pointingAt(object);
     return built;
 }
 
@@ -80,7 +82,7 @@ void receiveAttributes(benchmark::State& state)
                      [&heard](const Attributes& list) { heard += list.size(); });
     const Attributes list = attributes(state.range(0));
     const std::map<std::string, std::string> picked(list.begin(), list.end());
-    const PluginMetaData prepared = message(MessageCodes::Accepted::AttributesPicked, &picked);
+    const PluginMetaData prepared = message(MessageCodes::Accepted::AttributesPicked, picked);
     for (auto _ : state) {
         recMsgFromManager(window.strip, prepared);
     }
@@ -96,7 +98,7 @@ void receiveSymbols(benchmark::State& state)
     for (int i = 0; i < int(state.range(0)); ++i) {
         symbols.emplace(i, "r" + std::to_string(1 + i % 1000));
     }
-    const PluginMetaData prepared = message(MessageCodes::Accepted::SymbolsPicked, &symbols);
+    const PluginMetaData prepared = message(MessageCodes::Accepted::SymbolsPicked, symbols);
     const long before = window.canvas.count();
     for (auto _ : state) {
         recMsgFromManager(window.strip, prepared);

@@ -6,7 +6,9 @@
 #include "Panel.h"
 #include "Runner.h"
 #include "floors/PlainSwitch.h"
+#include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
 #include "plugin/PluginEntry.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
@@ -34,12 +36,6 @@ constexpr int codes[] = {
     Accepted::MoveFeature,        unknownCode,
 };
 
-template <class T>
-qint64 addressOf(const T& object)
-{
-    return static_cast<qint64>(reinterpret_cast<quintptr>(&object));
-}
-
 /// A message with what its code expects, as a sibling would send it.
 PluginMetaData message(int code)
 {
@@ -51,15 +47,15 @@ PluginMetaData message(int code)
                          QStringLiteral("Canvas_Tool_Strip.dll"));
     built.code = code;
     if (code == Accepted::AttributesPicked) {
-        built.extra = addressOf(attributes);
+        built.extra = ExtraWord::pointingAt(attributes);
     } else if (code == Accepted::SymbolsPicked) {
-        built.extra = addressOf(symbols);
+        built.extra = ExtraWord::pointingAt(symbols);
     } else if (code == Accepted::JobName) {
-        built.extra = addressOf(job);
+        built.extra = ExtraWord::pointingAt(job);
     } else if (code == Accepted::JobAndStep || code == Accepted::JobOpened) {
-        built.payload = {{QStringLiteral("JobName"), QString::fromStdString(job)},
-                         {QStringLiteral("Step"), QStringLiteral("step")},
-                         {QStringLiteral("StepName"), QStringLiteral("step")}};
+        built.payload = {{PayloadKeys::jobName, QString::fromStdString(job)},
+                         {PayloadKeys::step, QStringLiteral("step")},
+                         {PayloadKeys::stepName, QStringLiteral("step")}};
     }
     return built;
 }

@@ -5,6 +5,7 @@
 #include "Runner.h"
 #include "addfeature/AddFeature.h"
 #include "floors/PlainRecord.h"
+#include "plugin/RecordKeys.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -12,7 +13,7 @@
 
 namespace {
 
-const QString polarity = QStringLiteral("Polarity");
+using RecordKeys::polarity;
 
 void dropLine(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/) {}
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QVector>
 
 /// Every message code that this module sends or accepts. Nowhere else do the numbers stand. Both
 /// enumerations are known to Qt, so that programs for people can show a code by its name here.
@@ -66,6 +67,8 @@ Q_ENUM_NS(Code)
 
 /// The name of `code` as it stands above; null for any other number.
 const char* nameOf(int code);
+/// All codes, in the order above.
+QVector<int> all();
 }  // namespace Sent
 
 /// From siblings, through the exported recMsgFromManager. Any other code is ignored.
@@ -101,6 +104,8 @@ Q_ENUM_NS(Code)
 
 /// The name of `code` as it stands above; null for any other number.
 const char* nameOf(int code);
+/// All codes, in the order above.
+QVector<int> all();
 }  // namespace Accepted
 
 }  // namespace MessageCodes

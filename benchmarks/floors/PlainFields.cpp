@@ -1,4 +1,5 @@
 #include "PlainFields.h"
+#include "plugin/RecordKeys.h"
 
 #include <cam_api.h>
 #include <ui_api.h>
@@ -11,9 +12,9 @@
 namespace {
 
 constexpr char lineSymbol[] = "^[rs]?|[rs][0-9]+(\\.[0-9]+)?$";
-const QString symbolKey = QStringLiteral("SymbolText");
-const QString rotationKey = QStringLiteral("MirrorRotate");
-const QString countKey = QStringLiteral("PadNx");
+const QString symbolKey = RecordKeys::symbolText;
+const QString rotationKey = RecordKeys::mirrorRotate;
+const QString countKey = RecordKeys::padNx;
 const QString noRotation = QStringLiteral("0");
 
 /// As deep in its window as a field of the dialog: a key that is not used up passes there.

@@ -1,5 +1,7 @@
 #include "PlainRecord.h"
 
+#include "plugin/MessageCodes.h"
+
 #include <cam_api.h>
 #include <ui_api.h>
 
@@ -11,7 +13,6 @@
 
 namespace {
 
-constexpr int record = 50;
 const QString toolStrip = QStringLiteral("Canvas_Tool_Strip.dll");
 const QString viewer = QStringLiteral("Canvas_Viewer.dll");
 
@@ -35,7 +36,7 @@ void PlainRecord::send(const QString& symbol, bool logs)
         }
     }
     PluginMetaData message(toolStrip, viewer);
-    message.code = record;
+    message.code = MessageCodes::Sent::Record;
     message.payload = m_entries;
     m_receiver.receive(std::move(message));
 }

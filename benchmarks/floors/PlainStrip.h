@@ -6,7 +6,7 @@
 class QToolButton;
 class Receiver;
 
-/// Floor of the tool strip: 26 tool buttons with the same sheets, tips, names, sizes and
+/// Floor of the tool strip: a button a tool with the same sheets, tips, names, sizes and
 /// connections, made in the same order. A click checks the clicked one alone and sends its code.
 class PlainStrip : public QGridLayout {
 public:

@@ -1,7 +1,9 @@
 #include "PlainSwitch.h"
 
 #include "PlainTools.h"
+#include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
 
 #include <common_widgets.h>
 #include <ui_api.h>
@@ -16,20 +18,14 @@ namespace {
 
 enum Index { Zoom, Measure = 2, Add = 4, Delete, Move, Feature = 20, Rectangle, Polygon, Net };
 
-template <class T>
-const T* passed(const PluginMetaData& message)
-{
-    return reinterpret_cast<const T*>(static_cast<quintptr>(message.extra));
-}
-
 std::string text(const PluginMetaData& message, const QString& key)
 {
     return message.payload.value(key).toString().toStdString();
 }
 
-const QString jobKey = QStringLiteral("JobName");
-const QString stepKey = QStringLiteral("Step");
-const QString stepNameKey = QStringLiteral("StepName");
+const QString jobKey = PayloadKeys::jobName;
+const QString stepKey = PayloadKeys::step;
+const QString stepNameKey = PayloadKeys::stepName;
 
 }  // namespace
 
@@ -136,15 +132,16 @@ void PlainSwitch::handleData(const PluginMetaData& message)
             m_step = text(message, stepKey);
             return;
         case Accepted::AttributesPicked: {
-            const auto& picked = *passed<std::map<std::string, std::string>>(message);
+            const auto& picked =
+                *ExtraWord::object<std::map<std::string, std::string>>(message.extra);
             return attributesPicked({picked.begin(), picked.end()});
         }
         case Accepted::SymbolsPicked:
-            return symbolsPicked(*passed<std::map<int, std::string>>(message));
+            return symbolsPicked(*ExtraWord::object<std::map<int, std::string>>(message.extra));
         case Accepted::UserSymbolsChanged:
             return userSymbolsChanged();
         case Accepted::JobName:
-            m_job = *passed<std::string>(message);
+            m_job = *ExtraWord::object<std::string>(message.extra);
             return;
         case Accepted::UnitChanged:
             return unitChanged(ZENTRA::UIAPI::getUnitString(m_panel) == QLatin1String("MM"));

@@ -10,10 +10,10 @@ namespace Sent = MessageCodes::Sent;
         image) "}"                                      \
                "QToolButton::checked{" property ":" PICTURE(checkedImage) "}")
 
-const std::array<PlainTool, 26>& plainTools()
+const std::vector<PlainTool>& plainTools()
 {
     // clang-format off
-    static const std::array<PlainTool, 26> tools = {{
+    static const std::vector<PlainTool> tools = {
         {QStringLiteral("m_pAreaZoomTB"), "Area Zoom", nullptr, SHEET("background-image", "Area zoom2.jpg", "Area zoom3.jpg"), true, Sent::AreaZoom},
         {QStringLiteral("m_pOpenPopViewTB"), "Open a Popview", nullptr, SHEET("background-image", "Open a popview-1.jpg", "Open a popview-2.jpg"), true, Sent::OpenPopView},
         {QStringLiteral("m_pMeasureTB"), "Measure", "tool_edit", SHEET("background-image", "ruler.jpg", "ruler1.jpg"), true, Sent::Unset},
@@ -40,7 +40,7 @@ const std::array<PlainTool, 26>& plainTools()
         {QStringLiteral("m_pSelectPolylineTB"), "Select By net", nullptr, SHEET("background-image", "Net selection2.jpg", "Net selection1.jpg"), true, Sent::SelectLayerNet},
         {QStringLiteral("m_pMarkTB"), "Mark", nullptr, SHEET("background-image", "markgry.png", "markgre.png"), true, Sent::Mark},
         {QStringLiteral("m_pEqTB"), "EQ", nullptr, SHEET("border-image", "EQ-1.jpg", "EQ-2.jpg"), true, Sent::Eq},
-    }};
+    };
     // clang-format on
     return tools;
 }

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <array>
+#include <vector>
 
 /// What a plain button needs to look and act like a tool; everything is put together beforehand.
 struct PlainTool {
@@ -14,8 +15,8 @@ struct PlainTool {
     int code;
 };
 
-/// The 26 tools, in grid order.
-const std::array<PlainTool, 26>& plainTools();
+/// The tools, in grid order.
+const std::vector<PlainTool>& plainTools();
 
 /// The sheets of Select By Net: polyline, layer net, board net.
 const std::array<QString, 3>& plainNetSheets();

@@ -5,12 +5,15 @@
 #include "Recorder.h"
 #include "addfeature/AddFeature.h"
 #include "dimensions/Dimensious.h"
+#include "plugin/MessageCodes.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <CamApiStandIn.h>
 
 #include <QFile>
 #include <QMetaMethod>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -104,13 +107,13 @@ private Q_SLOTS:
         QWidget window;
         AddFeature dialog(&window, "job", "step", &window);
         dialog.getChangeCurrentTool();
-        QCOMPARE(recorder.codes(), QVector<int>{50});
+        QCOMPARE(recorder.codes(), QVector<int>{Sent::Record});
 
         QStringList expected;
         for (const QString& line : linesOf("record.txt")) {
             expected.append(line.simplified());
         }
-        QCOMPARE(recordLines(recorder.last(50).message.payload), expected);
+        QCOMPARE(recordLines(recorder.last(Sent::Record).message.payload), expected);
         QCOMPARE(expected.size(), 45);
     }
 };

@@ -1,9 +1,12 @@
 // The documents list what the code has: every message, every entry of the record.
 
 #include "Main.h"
-#include "messages/MessageNames.h"
+#include "plugin/MessageCodes.h"
 
 #include <QFile>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -36,11 +39,11 @@ QList<QStringList> rowsOf(const QString& file, const QString& heading = {})
     return rows;
 }
 
-QStringList messages(const std::vector<MessageNames::Row>& rows)
+QStringList messages(const QVector<int>& codes, const char* (*nameOf)(int))
 {
     QStringList list;
-    for (const MessageNames::Row& row : rows) {
-        list.append(QStringLiteral("%1 %2").arg(row.code).arg(row.name));
+    for (const int code : codes) {
+        list.append(QStringLiteral("%1 %2").arg(code).arg(nameOf(code)));
     }
     list.sort();
     return list;
@@ -65,9 +68,9 @@ private Q_SLOTS:
     void protocol()
     {
         QCOMPARE(messages(rowsOf("docs/protocol.md", "## What the tool strip sends")),
-                 messages(MessageNames::sent()));
+                 messages(Sent::all(), Sent::nameOf));
         QCOMPARE(messages(rowsOf("docs/protocol.md", "## What the tool strip accepts")),
-                 messages(MessageNames::accepted()));
+                 messages(Accepted::all(), Accepted::nameOf));
     }
 
     void record()

@@ -5,6 +5,8 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "OpenWindow.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -12,6 +14,8 @@
 #include <QToolButton>
 
 #include <memory>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -33,9 +37,24 @@ const char* const toolButtons[] = {"m_pAreaZoomTB",
                                    "m_pSelectPolylineTB",
                                    "m_pMarkTB",
                                    "m_pEqTB"};
-constexpr int toolCodes[] = {20000201, 20000225, 20000227, 20000206, 20000207, 20000208,
-                             20000211, 20000212, 20000215, 20000216, 20000221, 20000222,
-                             20000203, 20000223, 20000202, 20000244, 20000266, 20004801};
+constexpr int toolCodes[] = {Sent::AreaZoom,
+                             Sent::OpenPopView,
+                             Sent::FeatureHighLight,
+                             Sent::DeleteFeature,
+                             Sent::MoveFeature,
+                             Sent::CopyFeature,
+                             Sent::ChangeLineAngle,
+                             Sent::StretchLine,
+                             Sent::InvertFeature,
+                             Sent::BreakLine,
+                             Sent::MoveTriplet,
+                             Sent::RerouteTrace,
+                             Sent::RectangleSelection,
+                             Sent::PolygonSelection,
+                             Sent::FeatureSelection,
+                             Sent::SelectLayerNet,
+                             Sent::Mark,
+                             Sent::Eq};
 
 }  // namespace
 
@@ -141,7 +160,7 @@ private Q_SLOTS:
             const QRect entry = menu.actionGeometry(menu.actions()[1]);
             Desktop::clickAt(menu.mapToGlobal(entry.center()));
         });
-        QCOMPARE(sent(), QVector<int>{20000206});
+        QCOMPARE(sent(), QVector<int>{Sent::DeleteFeature});
         QCOMPARE(m_log->messages().back().extra, qint64(1));
         QVERIFY(tool("m_pDeleteFeatTB").isChecked());
         Desktop::click(tool("m_pAreaZoomTB"));
@@ -156,7 +175,7 @@ private Q_SLOTS:
             Desktop::key("Down");
             Desktop::key("Return");
         });
-        QCOMPARE(sent(), QVector<int>{20000245});
+        QCOMPARE(sent(), QVector<int>{Sent::SelectBoardNet});
         QVERIFY(tool("m_pSelectPolylineTB").isChecked());
     }
 
@@ -233,8 +252,9 @@ private Q_SLOTS:
         Desktop::click(findNamed(dialog, "m_pSymbolTextLE"));
         Desktop::type("r10");
         Desktop::key("Tab");
-        QCOMPARE(sent(), QVector<int>{50});
-        QCOMPARE(m_log->messages().back().payload.value("SymbolText"), QVariant(QString("r10")));
+        QCOMPARE(sent(), QVector<int>{Sent::Record});
+        QCOMPARE(m_log->messages().back().payload.value(RecordKeys::symbolText),
+                 QVariant(QString("r10")));
         QVERIFY(m_log->messages().back().delivered);
         dialog.close();
         QTRY_VERIFY(tool("m_pAreaZoomTB").isChecked());
@@ -245,15 +265,15 @@ private Q_SLOTS:
         QWidget& dialog = openDialog("m_pLineTB");
         auto& symbol = findNamed<QLineEdit>(dialog, "m_pSymbolTextLE");
         Desktop::click(findNamed(dialog, "m_pSelectFromEditorPB"));
-        QCOMPARE(sent(), QVector<int>{20001405});
+        QCOMPARE(sent(), QVector<int>{Sent::SelectSymbol});
         const auto& board = findNamed(*m_window, "m_pBoardView");
         dialog.move(m_window->x(), m_window->frameGeometry().bottom() + 10);
         Desktop::clickAt(bigPad(board));
         QTRY_VERIFY(!symbol.text().isEmpty());
         QVERIFY(symbol.text().startsWith('r'));
         const MessageRecord& record = m_log->messages().back();
-        QCOMPARE(record.code, 50);
-        QCOMPARE(record.payload.value("SymbolText"), QVariant(symbol.text()));
+        QCOMPARE(record.code, Sent::Record);
+        QCOMPARE(record.payload.value(RecordKeys::symbolText), QVariant(symbol.text()));
     }
 
     void attributesOfAPickedFeature()
@@ -273,7 +293,7 @@ private Q_SLOTS:
         Desktop::clickAt(bigPad(findNamed(*m_window, "m_pBoardView")));
         QTRY_VERIFY(findNamed(dialog, "m_pValuesPB").styleSheet().contains("rgb(255, 0, 0)"));
         Desktop::click(findNamed(values, "m_pApplyPB"));
-        QTRY_COMPARE(m_log->messages().back().code, 51);
+        QTRY_COMPARE(m_log->messages().back().code, Sent::AttributeMap);
         QVERIFY(!m_log->messages().back().pointedAt.isEmpty());
         QVERIFY(m_log->messages().front().sender == "Canvas_RuleMenu.dll");
     }
@@ -306,7 +326,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!dialog.isVisible());
         QTest::qWait(100);
         QVERIFY(boxes.takeTexts().isEmpty());
-        QCOMPARE(sent(), QVector<int>{20000201});
+        QCOMPARE(sent(), QVector<int>{Sent::AreaZoom});
     }
 };
 

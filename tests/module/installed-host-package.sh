@@ -1,6 +1,6 @@
 #!/bin/sh
-# Installs the host package, then builds the module a second time against what was installed, as an
-# integrator would. Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
+# Installs the packages, then builds the module a second time against what was installed, as an
+# integrator would, and a sibling of it. Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
 set -eu
 source=$1 build=$2 work=$3 type=$4 sanitize=$5
 
@@ -26,3 +26,15 @@ if ninja -C "$work/module" -t deps | grep -F "$source/host/"; then
     exit 1
 fi
 "$source/tests/module/exported-names.sh" "$work/module/modules/Canvas_Tool_Strip.so"
+
+cmake -S "$source/tests/module/sibling" -B "$work/sibling" -G Ninja \
+    -DCMAKE_PREFIX_PATH="$work/prefix" >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
+cmake --build "$work/sibling" >"$work/build.log" || { cat "$work/build.log"; exit 1; }
+if ninja -C "$work/sibling" -t deps | grep -F "$source/plugin/"; then
+    echo "the sibling reached into the tree's plugin/"
+    exit 1
+fi
+if nm -D --defined-only -C "$work/sibling/libSibling.so" | grep -E 'MessageCodes|staticMetaObject'; then
+    echo "the sibling exports what it has of the protocol"
+    exit 1
+fi

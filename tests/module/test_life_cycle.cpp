@@ -4,6 +4,8 @@
 #include "BoxCatcher.h"
 #include "Main.h"
 #include "Recorder.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
@@ -17,6 +19,8 @@
 
 #include <dlfcn.h>
 #include <malloc.h>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -103,7 +107,8 @@ private Q_SLOTS:
                 const Host host;
                 use(host);
             }
-            sent += recorder.last(50).message.payload.value("PadNx") == QVariant("12");
+            sent += recorder.last(Sent::Record).message.payload.value(RecordKeys::padNx) ==
+                    QVariant("12");
             QVERIFY(CanvasHost::unloadModule(moduleName));
             QVERIFY(!isInMemory());
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -131,8 +136,9 @@ private Q_SLOTS:
         QVERIFY(!one.tool("m_pAddFeatureTB").isChecked());
         QVERIFY(one.tool("m_pPadTB").isChecked());
         QVERIFY(!one.dialog()->isVisible());
-        QCOMPARE(recorder.last(50).sender, const_cast<QWidget*>(&two.window));
-        QCOMPARE(recorder.last(50).message.payload.value("PadNx"), QVariant("1"));
+        QCOMPARE(recorder.last(Sent::Record).sender, const_cast<QWidget*>(&two.window));
+        QCOMPARE(recorder.last(Sent::Record).message.payload.value(RecordKeys::padNx),
+                 QVariant("1"));
     }
 };
 

@@ -2,6 +2,8 @@
 
 #include "BoxCatcher.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
+#include "toolbar/ToolTable.h"
 
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
@@ -11,6 +13,9 @@
 #include <QGridLayout>
 #include <QToolButton>
 #include <QWidget>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -63,8 +68,8 @@ private Q_SLOTS:
         QVERIFY2(strip.instance, qPrintable(strip.error));
         auto* const grid = qobject_cast<QGridLayout*>(static_cast<QObject*>(strip.instance));
         QVERIFY(grid);
-        QCOMPARE(grid->count(), 26);
-        QCOMPARE(strip.panel.findChildren<QToolButton*>().size(), 26);
+        QCOMPARE(grid->count(), ToolTable::toolCount);
+        QCOMPARE(strip.panel.findChildren<QToolButton*>().size(), ToolTable::toolCount);
         QVERIFY(strip.isChecked("m_pAreaZoomTB"));
     }
 
@@ -74,7 +79,7 @@ private Q_SLOTS:
         LoadedStrip two;
         QVERIFY(one.instance && two.instance);
         QVERIFY(one.instance != two.instance);
-        sendTo(&two.panel, 10000205);
+        sendTo(&two.panel, Accepted::ReleaseAll);
         QVERIFY(one.isChecked("m_pAreaZoomTB"));
         QVERIFY(!two.isChecked("m_pAreaZoomTB"));
     }
@@ -87,7 +92,9 @@ private Q_SLOTS:
         CanvasHost::setObserver([&](const CanvasHost::Transfer& transfer) {
             sent += transfer.message.receiver != moduleName;
         });
-        for (const int code : {0, -1, 49, 50, 20000200, 20000243, 20000246, 2147483647}) {
+        for (const int code : std::initializer_list<int>{
+                 0, -1, Sent::Record - 1, Sent::Record, Accepted::AreaZoom - 1,
+                 Accepted::SelectPolyline + 1, Sent::AddFeatureStarted, 2147483647}) {
             sendTo(&strip.panel, code);
         }
         QCOMPARE(sent, 0);

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Every source file of the module compiles for Windows: with Debian's cross compiler against Qt's
 # headers, without linking. Status 77 where the compiler is missing.
-# Usage: windows-compile.sh SOURCE BUILD QT_HEADERS
+# Usage: windows-compile.sh INCLUDES SOURCES   (two files, a path a line: what the module is built of)
 set -u
-source=$1 build=$2 qt=$3
 compiler=$(command -v x86_64-w64-mingw32-g++-posix) || { echo "no cross compiler"; exit 77; }
-cd "$source" || exit 1
+mapfile -t includes < <(sort -u "$1")
+mapfile -t files < <(grep '\.cpp$' "$2")
 
 # Of this system's headers only the log's: the C library's are those of Windows.
 other=$(mktemp -d)
@@ -14,16 +14,17 @@ for name in glog gflags; do
     [ -e "/usr/include/$name" ] && ln -s "/usr/include/$name" "$other/$name"
 done
 options=(-std=c++17 -fsyntax-only -Wall -Wextra -DCANVAS_TOOL_STRIP_BUILD -DGOOGLE_GLOG_DLL_DECL=
-    -DGLOG_NO_ABBREVIATED_SEVERITIES -I. -Iplugin -I"$build/dimensions")
-for folder in . plugin_manager cam_api ui_api common_widgets; do
-    options+=(-I"host/$folder")
-done
-for folder in . QtCore QtGui QtWidgets; do
-    options+=(-isystem "$qt/$folder")
+    -DGLOG_NO_ABBREVIATED_SEVERITIES)
+for folder in "${includes[@]}"; do
+    case $folder in
+        /usr/include) ;;
+        /usr/*) options+=(-isystem "$folder") ;;
+        *) options+=(-I"$folder") ;;
+    esac
 done
 options+=(-isystem "$other")
 
-files=(plugin/*.cpp toolbar/*.cpp addfeature/*.cpp addfeature/pages/*.cpp dimensions/*.cpp)
+[ "${#files[@]}" -gt 0 ] || { echo "no files"; exit 1; }
 echo "${#files[@]} files"
 printf '%s\0' "${files[@]}" |
     xargs -0 -P "$(nproc)" -I FILE "$compiler" "${options[@]}" FILE

@@ -2,6 +2,9 @@
 
 #include "RandomUser.h"
 #include "Refusals.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
 
 #include <QTpluginsManger4CAM.h>
 #include <UiApiStandIn.h>
@@ -15,12 +18,11 @@
 #include <QTimer>
 #include <QtTest>
 
+namespace Accepted = MessageCodes::Accepted;
+
 namespace {
 
-const int acceptedCodes[] = {10000205, 20000201, 20000202, 20000203, 20000223, 20000241,
-                             20000242, 20000244, 20000245, 20000247, 20001637, 20001715,
-                             20001807, 20001811, 20001824, 20002003, 20002200, 20002201,
-                             20002400, 20002403, 20004602, 20004603, 20004604};
+const QVector<int> acceptedCodes = Accepted::all();
 
 }  // namespace
 
@@ -67,7 +69,7 @@ QString RandomUser::randomText()
 
 void RandomUser::clickTool()
 {
-    QWidget* const tool = m_strip->itemAt(below(26))->widget();
+    QWidget* const tool = m_strip->itemAt(below(ToolTable::toolCount))->widget();
     m_story = "click " + tool->objectName();
     QTest::mouseClick(tool, Qt::LeftButton);
 }
@@ -98,13 +100,14 @@ PluginMetaData RandomUser::message()
     message.code = below(4) > 0 ? oneOf(acceptedCodes) : int(m_random.generate());
     const QVariant values[] = {
         "job", "other", "", 7, QVariant(), 2.5, QStringList("a"), QString(5000, 'x')};
-    for (const char* const key : {"JobName", "Step", "StepName", "Odd"}) {
+    for (const QString& key :
+         {PayloadKeys::jobName, PayloadKeys::step, PayloadKeys::stepName, QString("Odd")}) {
         if (below(2)) {
             message.payload[key] = oneOf(values);
         }
     }
     prepareExtra(message);
-    if (message.code == 20002200) {
+    if (message.code == Accepted::UnitChanged) {
         const auto unit = CanvasHost::DisplayUnit(below(4));
         CanvasHost::setDisplayUnit(unit);
         m_story = QStringLiteral("unit %1 ").arg(int(unit));
@@ -123,11 +126,15 @@ void RandomUser::prepareExtra(PluginMetaData& message)
             m_attributes[below(2) ? ".net" : "Odd"] = oneOf(names);
         }
     }
-    const void* object = message.code == 20002003   ? static_cast<const void*>(&m_job)
-                         : message.code == 20001811 ? static_cast<const void*>(&m_symbols)
-                         : message.code == 20001807 ? static_cast<const void*>(&m_attributes)
-                                                    : nullptr;
-    message.extra = below(4) ? qint64(reinterpret_cast<quintptr>(object)) : 0;
+    qint64 address = 0;
+    if (message.code == Accepted::JobName) {
+        address = ExtraWord::pointingAt(m_job);
+    } else if (message.code == Accepted::SymbolsPicked) {
+        address = ExtraWord::pointingAt(m_symbols);
+    } else if (message.code == Accepted::AttributesPicked) {
+        address = ExtraWord::pointingAt(m_attributes);
+    }
+    message.extra = below(4) ? address : 0;
 }
 
 void RandomUser::receive()
@@ -135,7 +142,7 @@ void RandomUser::receive()
     const PluginMetaData sent = message();
     m_story += QStringLiteral("receive %1 with %2 entries").arg(sent.code).arg(sent.payload.size());
     // A picked symbol may be one that is refused.
-    m_mayRefuse = m_mayRefuse || sent.code == 20001811;
+    m_mayRefuse = m_mayRefuse || sent.code == Accepted::SymbolsPicked;
     QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, sent);
 }
 
@@ -169,7 +176,7 @@ void RandomUser::switchLanguage()
         m_translator = std::make_unique<QuotingTranslator>("AddFeature");
     }
     PluginMetaData changed("Sibling.dll", "Canvas_Tool_Strip.dll");
-    changed.code = 20002201;
+    changed.code = Accepted::LanguageChanged;
     QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, changed);
 }
 

@@ -3,6 +3,7 @@
 #include "DemoJobs.h"
 #include "Invariants.h"
 #include "Refusals.h"
+#include "plugin/MessageCodes.h"
 #include "plugin/PluginEntry.h"
 
 #include <PluginManagerStandIn.h>
@@ -14,10 +15,11 @@
 
 #include <utility>
 
+namespace Accepted = MessageCodes::Accepted;
+
 namespace {
 
-constexpr int toolCount = 26;
-constexpr int symbolsPicked = 20001811;
+using ToolTable::toolCount;
 
 }  // namespace
 
@@ -138,7 +140,7 @@ QVariantMap RandomUser::record()
 void RandomUser::receiveAnswer()
 {
     if (const std::optional<PluginMetaData> answer = std::exchange(m_answer, {})) {
-        m_mayRefuse = m_mayRefuse || answer->code == symbolsPicked;
+        m_mayRefuse = m_mayRefuse || answer->code == Accepted::SymbolsPicked;
         QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, *answer);
     }
 }

@@ -1,31 +1,46 @@
 #include "Invariants.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
+#include "plugin/RecordKeys.h"
 
 #include <QRegularExpression>
 #include <QSet>
 
+namespace Sent = MessageCodes::Sent;
+
 namespace {
 
-const QSet<int> sentCodes = {-1,       20000201, 20000202, 20000203, 20000206, 20000207, 20000208,
-                             20000211, 20000212, 20000215, 20000216, 20000221, 20000222, 20000223,
-                             20000225, 20000227, 20000241, 20000242, 20000244, 20000245, 20000246,
-                             20000266, 20000268, 20001405, 20003950, 20004801, 50,       51,
-                             52,       53,       20002838};
-// "OrbotechType" is an integer for an index outside its list only.
-const QSet<QString> integerKeys = {"OrbotechType", "Features",         "AngleGroup",  "CornerType",
-                                   "BarcodeMode",  "OrbotechFontSize", "OrbotechZoom"};
+/// Whether use can make the strip or the dialog send `code`: not that of a tool which is disabled
+/// from the start, nor the second one of a tool that has two.
+bool isSent(int code)
+{
+    static const QSet<int> disabled = {Sent::RotateFeature, Sent::MirrorFeature,
+                                       Sent::RoutDimension, Sent::ContourEditor,
+                                       Sent::PullLine,      Sent::MoveJunction};
+    const char* const name = Sent::nameOf(code);
+    return name && !QByteArray(name).endsWith("Off") && !disabled.contains(code);
+}
+
+// The type of a plot stamp is an integer for an index outside its list only.
+const QSet<QString> integerKeys = {RecordKeys::orbotechType, RecordKeys::features,
+                                   RecordKeys::angleGroup,   RecordKeys::cornerType,
+                                   RecordKeys::barcodeMode,  RecordKeys::orbotechFontSize,
+                                   RecordKeys::orbotechZoom};
 
 struct Bound {
-    const char* key;
+    QString key;
     double least;
     double most;
     bool isAsTyped = false;  ///< stored with each key: a part of a number ("-", "1e") counts as 0
 };
 const Bound bounds[] = {
-    {"CornerRadius", 0, 1270000},  {"SlotLength", 0, 1270000},     {"PadDx", -2540000, 2540000},
-    {"PadDy", -2540000, 2540000},  {"PadNx", 0, 50, true},         {"PadNy", 0, 50, true},
-    {"PadXscl", -100, 100, true},  {"PadYscl", -100, 100, true},   {"Angel(deg)", 0, 360, true},
-    {"StringXSize", 0, 254000},    {"StringYSize", 0, 254000},     {"StringLineWidth", 0, 254000},
-    {"BarcodeHeight", 0, 1270000}, {"CannedHoleSize", 0, 1270000},
+    {RecordKeys::cornerRadius, 0, 1270000},  {RecordKeys::slotLength, 0, 1270000},
+    {RecordKeys::padDx, -2540000, 2540000},  {RecordKeys::padDy, -2540000, 2540000},
+    {RecordKeys::padNx, 0, 50, true},        {RecordKeys::padNy, 0, 50, true},
+    {RecordKeys::padXscl, -100, 100, true},  {RecordKeys::padYscl, -100, 100, true},
+    {RecordKeys::angle, 0, 360, true},       {RecordKeys::stringXSize, 0, 254000},
+    {RecordKeys::stringYSize, 0, 254000},    {RecordKeys::stringLineWidth, 0, 254000},
+    {RecordKeys::barcodeHeight, 0, 1270000}, {RecordKeys::cannedHoleSize, 0, 1270000},
 };
 
 bool isPartOfNumber(const QString& text)
@@ -64,21 +79,22 @@ QString Invariants::faultOf(const Recorder::Entry& entry)
 {
     const PluginMetaData& message = entry.message;
     const int code = message.code;
-    const QString sender = code == 20002838   ? "Canvas_RuleMenu.dll"
-                           : code == 20000227 ? "Canvas_Tool_Strip"
-                                              : "Canvas_Tool_Strip.dll";
-    const QString receiver = code == 20000246 ? "Canvas_JobTree.dll" : "Canvas_Viewer.dll";
-    const bool isRecord = code == 50 || code == 52;
-    if (!sentCodes.contains(code)) {
+    const QString sender = code == Sent::SelectFromEditor   ? ModuleNames::ruleMenu
+                           : code == Sent::FeatureHighLight ? ModuleNames::bareToolStrip
+                                                            : ModuleNames::toolStrip;
+    const QString receiver =
+        code == Sent::AddFeatureStarted ? ModuleNames::jobTree : ModuleNames::viewer;
+    const bool isRecord = code == Sent::Record || code == Sent::DirectionRecord;
+    if (!isSent(code)) {
         return QStringLiteral("code %1").arg(code);
     }
     if (message.sender != sender || message.receiver != receiver) {
         return QStringLiteral("%1 from %2 to %3").arg(code).arg(message.sender, message.receiver);
     }
-    const bool hasMode = code == 20000206 || code == 20000266;
-    const bool isExtraGood = code == 51 ? message.extra != 0
-                             : hasMode  ? message.extra == 0 || message.extra == 1
-                                        : message.extra == 0;
+    const bool hasMode = code == Sent::DeleteFeature || code == Sent::Mark;
+    const bool isExtraGood = code == Sent::AttributeMap ? message.extra != 0
+                             : hasMode                  ? message.extra == 0 || message.extra == 1
+                                                        : message.extra == 0;
     if (!isExtraGood) {
         return QStringLiteral("%1 with extra %2").arg(code).arg(message.extra);
     }

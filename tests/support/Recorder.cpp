@@ -1,10 +1,12 @@
 #include "Recorder.h"
 
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
+
 #include <PluginManagerStandIn.h>
 
 namespace {
-
-constexpr int attributesCode = 51;
 
 void takeNote(void* /*instance*/, PluginMetaData /*message*/) {}
 
@@ -12,13 +14,13 @@ void takeNote(void* /*instance*/, PluginMetaData /*message*/) {}
 
 Recorder::Recorder()
 {
-    CanvasHost::addInstance(QStringLiteral("Canvas_Viewer.dll"), &m_canvas, takeNote);
-    CanvasHost::addInstance(QStringLiteral("Canvas_JobTree.dll"), &m_jobTree, takeNote);
+    CanvasHost::addInstance(ModuleNames::viewer, &m_canvas, takeNote);
+    CanvasHost::addInstance(ModuleNames::jobTree, &m_jobTree, takeNote);
     CanvasHost::setObserver([this](const CanvasHost::Transfer& transfer) {
         Entry entry{transfer.sender, transfer.message, transfer.delivered, {}};
-        if (entry.message.code == attributesCode && entry.message.extra != 0) {
-            entry.attributes = *reinterpret_cast<const std::map<std::string, std::string>*>(
-                static_cast<quintptr>(entry.message.extra));
+        if (entry.message.code == MessageCodes::Sent::AttributeMap && entry.message.extra != 0) {
+            entry.attributes =
+                *ExtraWord::object<std::map<std::string, std::string>>(entry.message.extra);
         }
         m_messages.append(entry);
         if (m_onMessage) {

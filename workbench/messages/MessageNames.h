@@ -12,10 +12,10 @@ enum class Extra { Number, String, Symbols, Attributes };
 
 struct Row {
     int code;
-    const char* name;  ///< as in MessageCodes.h
     const char* text;  ///< to be translated in the context "MessageNames"
     Extra extra = Extra::Number;
-    bool tool = false;  ///< the message announces the tool that is active now
+    bool tool = false;           ///< the message announces the tool that is active now
+    const char* name = nullptr;  ///< as in MessageCodes.h, from there
 };
 
 /// The messages that the tool strip accepts, in the order in which a menu offers them.

@@ -2,6 +2,7 @@
 
 #include "messages/MessageNames.h"
 #include "messages/Values.h"
+#include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 
@@ -23,12 +24,6 @@ Extra extraOf(const QString& receiver, int code)
     return row ? row->extra : Extra::Number;
 }
 
-template <typename T>
-const T& at(qint64 address)
-{
-    return *reinterpret_cast<const T*>(static_cast<quintptr>(address));
-}
-
 QMap<QString, QString> readExtra(Extra kind, qint64 address)
 {
     QMap<QString, QString> read;
@@ -36,15 +31,18 @@ QMap<QString, QString> readExtra(Extra kind, qint64 address)
         case Extra::Number:
             break;
         case Extra::String:
-            read.insert(QString(), QString::fromStdString(at<std::string>(address)));
+            read.insert(QString(),
+                        QString::fromStdString(*ExtraWord::object<std::string>(address)));
             break;
         case Extra::Symbols:
-            for (const auto& [number, symbol] : at<std::map<int, std::string>>(address)) {
+            for (const auto& [number, symbol] :
+                 *ExtraWord::object<std::map<int, std::string>>(address)) {
                 read.insert(QString::number(number), QString::fromStdString(symbol));
             }
             break;
         case Extra::Attributes:
-            for (const auto& [name, value] : at<std::map<std::string, std::string>>(address)) {
+            for (const auto& [name, value] :
+                 *ExtraWord::object<std::map<std::string, std::string>>(address)) {
                 read.insert(QString::fromStdString(name), QString::fromStdString(value));
             }
             break;

@@ -1,8 +1,10 @@
 #include "window/HostState.h"
 
 #include "HostName.h"
+#include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "plugin/PayloadKeys.h"
 
 #include <CamApiStandIn.h>
 #include <QTpluginsManger4CAM.h>
@@ -17,7 +19,7 @@ namespace {
 
 QMap<QString, QVariant> jobPayload(const QString& job, const QString& stepKey, const QString& step)
 {
-    return {{QStringLiteral("JobName"), job}, {stepKey, step}};
+    return {{PayloadKeys::jobName, job}, {stepKey, step}};
 }
 
 }  // namespace
@@ -39,7 +41,7 @@ void HostState::sendTo(const QString& module, const HostMessage& message)
             if constexpr (std::is_same_v<std::decay_t<decltype(extra)>, qint64>) {
                 return extra;
             } else {
-                return static_cast<qint64>(reinterpret_cast<quintptr>(&extra));
+                return ExtraWord::pointingAt(extra);
             }
         },
         message.extra);
@@ -53,7 +55,7 @@ void HostState::sendSample(int code)
             announceJob();
             break;
         case Accepted::JobAndStep:
-            send({code, jobPayload(m_job, QStringLiteral("Step"), m_step), 0});
+            send({code, jobPayload(m_job, PayloadKeys::step, m_step), 0});
             break;
         case Accepted::JobName:
             send({code, {}, m_job.toStdString()});
@@ -90,8 +92,8 @@ void HostState::openStep(const QString& job, const QString& step)
 
 void HostState::announceJob()
 {
-    const HostMessage opened{Accepted::JobOpened,
-                             jobPayload(m_job, QStringLiteral("StepName"), m_step), 0};
+    const HostMessage opened{Accepted::JobOpened, jobPayload(m_job, PayloadKeys::stepName, m_step),
+                             0};
     send(opened);
     sendTo(ModuleNames::viewer, opened);
 }

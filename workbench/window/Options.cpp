@@ -11,6 +11,15 @@ namespace {
 
 using CanvasHost::DisplayUnit;
 
+QString languageCodes()
+{
+    QStringList codes;
+    for (const LanguageChoice& choice : languageChoices()) {
+        codes.append(QLatin1String(choice.code));
+    }
+    return codes.join(QStringLiteral(" or "));
+}
+
 const QCommandLineOption modulesOption(QStringLiteral("modules"),
                                        QStringLiteral("Load the modules from <dir>."),
                                        QStringLiteral("dir"));
@@ -45,9 +54,9 @@ const QCommandLineOption exitOption(QStringLiteral("exit"),
 const QCommandLineOption unitOption(QStringLiteral("unit"),
                                     QStringLiteral("Start in <unit>: mil, inch, um or mm."),
                                     QStringLiteral("unit"), QStringLiteral("mil"));
-const QCommandLineOption languageOption(QStringLiteral("language"),
-                                        QStringLiteral("Start in <language>: en or zh_CN."),
-                                        QStringLiteral("language"), QStringLiteral("en"));
+const QCommandLineOption languageOption(
+    QStringLiteral("language"), QStringLiteral("Start in <language>: %1.").arg(languageCodes()),
+    QStringLiteral("language"), QStringLiteral("en"));
 const QCommandLineOption darkOption(QStringLiteral("dark"),
                                     QStringLiteral("Start with a dark palette."));
 const QCommandLineOption fontSizeOption(QStringLiteral("font-size"),

@@ -5,6 +5,7 @@
 #include "messages/MessageMonitor.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "plugin/PayloadKeys.h"
 #include "window/HostState.h"
 #include "window/WindowPicture.h"
 #include "window/WindowPlacer.h"
@@ -72,8 +73,8 @@ void WorkbenchWindow::receive(void* window, PluginMetaData message)
 {
     if (message.code == Accepted::JobOpened) {
         static_cast<WorkbenchWindow*>(window)->m_host->openStep(
-            message.payload.value(QStringLiteral("JobName")).toString(),
-            message.payload.value(QStringLiteral("StepName")).toString());
+            message.payload.value(PayloadKeys::jobName).toString(),
+            message.payload.value(PayloadKeys::stepName).toString());
     }
 }
 

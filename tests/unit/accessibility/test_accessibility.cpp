@@ -3,9 +3,12 @@
 #include "DialogFixture.h"
 #include "Main.h"
 #include "dimensions/Dimensious.h"
+#include "plugin/MessageCodes.h"
 
 #include <QAccessible>
 #include <QLabel>
+
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -76,7 +79,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         QStringList nameless;
-        QCOMPARE(walk(&fixture.window, &nameless), 26);
+        QCOMPARE(walk(&fixture.window, &nameless), ToolTable::toolCount);
         QVERIFY(walk(fixture.dialog, &nameless) > 60);
         QCOMPARE(nameless, QStringList());
     }
@@ -123,7 +126,7 @@ private Q_SLOTS:
         DialogFixture fixture;
         const QuotingTranslator translator("Canvas_Tool_Strip");
         PluginMetaData message("Host.dll", "Canvas_Tool_Strip.dll");
-        message.code = 20002201;
+        message.code = Accepted::LanguageChanged;
         fixture.strip->recMsgFromManager(message);
         QCOMPARE(fixture.strip->itemAt(7)->widget()->accessibleName(), QString("<Copy Feature>"));
         QCOMPARE(fixture.strip->itemAt(25)->widget()->accessibleName(), QString("EQ"));

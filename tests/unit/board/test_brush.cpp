@@ -1,5 +1,6 @@
 #include "Main.h"
 #include "board/Brush.h"
+#include "plugin/RecordKeys.h"
 
 #include <random>
 
@@ -8,9 +9,9 @@ using Record = QMap<QString, QVariant>;
 
 namespace {
 
-Brush read(const char* key, const QVariant& value)
+Brush read(const QString& key, const QVariant& value)
 {
-    return readBrush({{QLatin1String(key), value}});
+    return readBrush({{key, value}});
 }
 
 }  // namespace
@@ -23,42 +24,40 @@ private slots:
 
     void frame()
     {
-        const Brush brush =
-            readBrush({{QStringLiteral("Features"), 2},
-                       {QStringLiteral("Polarity"), QStringLiteral("0")},
-                       {QStringLiteral("Mirror"), QStringLiteral("1")},
-                       {QStringLiteral("MirrorRotate"), QStringLiteral("405")},
-                       {QStringLiteral("SymbolText"), QStringLiteral("rect20x40_45")}});
+        const Brush brush = readBrush({{RecordKeys::features, FeatureKind::pad.toInt()},
+                                       {RecordKeys::polarity, Polarity::negative},
+                                       {RecordKeys::mirror, Mirror::yes},
+                                       {RecordKeys::mirrorRotate, QStringLiteral("405")},
+                                       {RecordKeys::symbolText, QStringLiteral("rect20x40_45")}});
         QCOMPARE(brush.kind, Kind::Pad);
         QVERIFY(!brush.positive);
         QVERIFY(brush.mirror);
         QCOMPARE(brush.rotation, 45.0);
         QCOMPARE(brush.symbol, QStringLiteral("rect20x40"));
-        QCOMPARE(read("Features", QStringLiteral("5")).kind, Kind::Text);
-        QVERIFY(!read("Mirror", QStringLiteral("2")).mirror);
+        QCOMPARE(read(RecordKeys::features, FeatureKind::text).kind, Kind::Text);
+        QVERIFY(!read(RecordKeys::mirror, Mirror::no).mirror);
     }
 
     void attributesCountWhereTheRecordSaysSo()
     {
         const Attributes attributes = {{QStringLiteral(".net"), QStringLiteral("A")}};
         QVERIFY(readBrush({}, attributes).attributes.isEmpty());
-        QCOMPARE(
-            readBrush({{QStringLiteral("Attributes"), QStringLiteral("1")}}, attributes).attributes,
-            attributes);
+        QCOMPARE(readBrush({{RecordKeys::attributes, HasAttributes::yes}}, attributes).attributes,
+                 attributes);
     }
 
     void line()
     {
-        const Brush brush = readBrush({{QStringLiteral("Line"), QStringLiteral("4")},
-                                       {QStringLiteral("Closed"), QStringLiteral("1")},
-                                       {QStringLiteral("AngleGroup"), 6},
-                                       {QStringLiteral("Angel(deg)"), QStringLiteral("30.5")},
-                                       {QStringLiteral("CornerType"), 3},
-                                       {QStringLiteral("CornerRadius"), QStringLiteral("254")},
-                                       {QStringLiteral("SlotPlated"), QStringLiteral("2")},
-                                       {QStringLiteral("SlotLength"), QStringLiteral("2.54")},
-                                       {QStringLiteral("SlotAngle"), QStringLiteral("-90")},
-                                       {QStringLiteral("SlotDecode"), QStringLiteral("12")}});
+        const Brush brush = readBrush({{RecordKeys::line, LineKind::slot},
+                                       {RecordKeys::closed, Closed::yes},
+                                       {RecordKeys::angleGroup, LineDirection::fixed.toInt()},
+                                       {RecordKeys::angle, QStringLiteral("30.5")},
+                                       {RecordKeys::cornerType, CornerType::chamfer.toInt()},
+                                       {RecordKeys::cornerRadius, QStringLiteral("254")},
+                                       {RecordKeys::slotPlated, SlotPlated::no},
+                                       {RecordKeys::slotLength, QStringLiteral("2.54")},
+                                       {RecordKeys::slotAngle, QStringLiteral("-90")},
+                                       {RecordKeys::slotDecode, QStringLiteral("12")}});
         QCOMPARE(brush.line, LineMode::Slot);
         QVERIFY(brush.closed);
         QCOMPARE(brush.direction, Direction::Fixed);
@@ -73,17 +72,17 @@ private slots:
 
     void padSurfaceArc()
     {
-        const Brush brush = readBrush({{QStringLiteral("PadNx"), QStringLiteral("5")},
-                                       {QStringLiteral("PadNy"), QStringLiteral("50")},
-                                       {QStringLiteral("PadDx"), QStringLiteral("-254")},
-                                       {QStringLiteral("PadDy"), QStringLiteral("1.27e+06")},
-                                       {QStringLiteral("PadXscl"), QStringLiteral("-2.5")},
-                                       {QStringLiteral("PadYscl"), QStringLiteral("0.5")},
-                                       {QStringLiteral("SurfaceShape"), QStringLiteral("3")},
-                                       {QStringLiteral("Arc&Circle"), QStringLiteral("2")},
-                                       {QStringLiteral("ArcMode"), QStringLiteral("7")},
-                                       {QStringLiteral("CircleMode"), QStringLiteral("4")},
-                                       {QStringLiteral("ClockWise"), QStringLiteral("2")}});
+        const Brush brush = readBrush({{RecordKeys::padNx, QStringLiteral("5")},
+                                       {RecordKeys::padNy, QStringLiteral("50")},
+                                       {RecordKeys::padDx, QStringLiteral("-254")},
+                                       {RecordKeys::padDy, QStringLiteral("1.27e+06")},
+                                       {RecordKeys::padXscl, QStringLiteral("-2.5")},
+                                       {RecordKeys::padYscl, QStringLiteral("0.5")},
+                                       {RecordKeys::surfaceShape, SurfaceKind::circle},
+                                       {RecordKeys::arcAndCircle, ArcOrCircle::circle},
+                                       {RecordKeys::arcMode, ArcMode::startEndRadius},
+                                       {RecordKeys::circleMode, CircleMode::threePoints},
+                                       {RecordKeys::clockWise, ClockWise::no}});
         QCOMPARE(brush.padNx, 5);
         QCOMPARE(brush.padNy, 50);
         QCOMPARE(brush.padDx, -254.0);
@@ -99,26 +98,25 @@ private slots:
 
     void text()
     {
-        const TextSpec text =
-            readBrush({{QStringLiteral("TextFormat"), QStringLiteral("BarcodeMode")},
-                       {QStringLiteral("TextContains"), QStringLiteral("ABC")},
-                       {QStringLiteral("StringTextFont"), QStringLiteral("simplex")},
-                       {QStringLiteral("StringXSize"), QStringLiteral("1000")},
-                       {QStringLiteral("StringYSize"), QStringLiteral("2000")},
-                       {QStringLiteral("StringLineWidth"), QStringLiteral("0")},
-                       {QStringLiteral("BarcodeMode"), 5},
-                       {QStringLiteral("AddString"), QStringLiteral("1")},
-                       {QStringLiteral("AddBackground"), QStringLiteral("1")},
-                       {QStringLiteral("AddMarkers"), QStringLiteral("1")},
-                       {QStringLiteral("StringPosition"), QStringLiteral("1")},
-                       {QStringLiteral("BarcodeHeight"), QStringLiteral("1.27e+06")},
-                       {QStringLiteral("BarcodeMatrix"), QStringLiteral("16x16")},
-                       {QStringLiteral("OrbotechType"), QStringLiteral("2")},
-                       {QStringLiteral("OrbotechFontSize"), 4},
-                       {QStringLiteral("OrbotechZoom"), 7},
-                       {QStringLiteral("CannedHoleMode"), QStringLiteral("2")},
-                       {QStringLiteral("CannedHoleSize"), QStringLiteral("508")}})
-                .text;
+        const TextSpec text = readBrush({{RecordKeys::textFormat, TextKind::barcode},
+                                         {RecordKeys::textContains, QStringLiteral("ABC")},
+                                         {RecordKeys::stringTextFont, QStringLiteral("simplex")},
+                                         {RecordKeys::stringXSize, QStringLiteral("1000")},
+                                         {RecordKeys::stringYSize, QStringLiteral("2000")},
+                                         {RecordKeys::stringLineWidth, QStringLiteral("0")},
+                                         {RecordKeys::barcodeMode, Symbology::ecc200.toInt()},
+                                         {RecordKeys::addString, Added::yes},
+                                         {RecordKeys::addBackground, Added::yes},
+                                         {RecordKeys::addMarkers, Added::yes},
+                                         {RecordKeys::stringPosition, StringPosition::bottom},
+                                         {RecordKeys::barcodeHeight, QStringLiteral("1.27e+06")},
+                                         {RecordKeys::barcodeMatrix, QStringLiteral("16x16")},
+                                         {RecordKeys::orbotechType, PlotStampType::barcode},
+                                         {RecordKeys::orbotechFontSize, 4},
+                                         {RecordKeys::orbotechZoom, 7},
+                                         {RecordKeys::cannedHoleMode, CannedHoleMode::sixBySeven},
+                                         {RecordKeys::cannedHoleSize, QStringLiteral("508")}})
+                                  .text;
         QCOMPARE(text.format, TextFormat::Barcode);
         QCOMPARE(text.content, QStringLiteral("ABC"));
         QCOMPARE(text.font, QStringLiteral("simplex"));
@@ -134,43 +132,44 @@ private slots:
         QCOMPARE(text.stampZoom, 7);
         QCOMPARE(text.cannedColumns, 6);
         QCOMPARE(text.holeSize, 508.0);
-        QCOMPARE(read("TextFormat", QStringLiteral("3")).text.format, TextFormat::PlotStamp);
-        QCOMPARE(read("TextFormat", QStringLiteral("4")).text.format, TextFormat::Canned);
-        QCOMPARE(read("TextFormat", QStringLiteral("2")).text.format, TextFormat::String);
+        QCOMPARE(read(RecordKeys::textFormat, TextKind::plotStamp).text.format,
+                 TextFormat::PlotStamp);
+        QCOMPARE(read(RecordKeys::textFormat, TextKind::cannedText).text.format,
+                 TextFormat::Canned);
+        QCOMPARE(read(RecordKeys::textFormat, QStringLiteral("2")).text.format, TextFormat::String);
     }
 
     void absurdValuesGiveTheDefaults_data()
     {
         QTest::addColumn<QString>("key");
         QTest::addColumn<QVariant>("value");
-        const auto row = [](const char* key, const QVariant& value) {
-            QTest::addRow("%s %s", key, qPrintable(value.toString()))
-                << QString::fromLatin1(key) << value;
+        const auto row = [](const QString& key, const QVariant& value) {
+            QTest::addRow("%s %s", qPrintable(key), qPrintable(value.toString())) << key << value;
         };
-        row("Features", 0);
-        row("Features", 6);
-        row("Features", QStringLiteral("pad"));
-        row("Features", QVariantList{1, 2});
-        row("PadNx", QStringLiteral("51"));
-        row("PadNx", QStringLiteral("2147483648"));
-        row("PadNy", QStringLiteral("-1"));
-        row("PadNy", QStringLiteral("2.5"));
-        row("PadNy", QStringLiteral(""));
-        row("PadDx", QStringLiteral("1e300"));
-        row("PadDx", QStringLiteral("nan"));
-        row("PadDy", qInf());
-        row("PadXscl", QStringLiteral("0"));
-        row("PadYscl", QStringLiteral("101"));
-        row("CornerRadius", QStringLiteral("-5"));
-        row("SlotLength", QStringLiteral("1e9"));
-        row("MirrorRotate", QStringLiteral("inf"));
-        row("Angel(deg)", QStringLiteral("north"));
-        row("StringXSize", QStringLiteral("0"));
-        row("BarcodeHeight", QStringLiteral("-1"));
-        row("CannedHoleSize", QByteArray("\xff\x00", 2));
-        row("ArcMode", QStringLiteral("8"));
-        row("SymbolText", QStringLiteral("  "));
-        row("BarcodeMatrix", QVariant());
+        row(RecordKeys::features, 0);
+        row(RecordKeys::features, 6);
+        row(RecordKeys::features, QStringLiteral("pad"));
+        row(RecordKeys::features, QVariantList{1, 2});
+        row(RecordKeys::padNx, QStringLiteral("51"));
+        row(RecordKeys::padNx, QStringLiteral("2147483648"));
+        row(RecordKeys::padNy, QStringLiteral("-1"));
+        row(RecordKeys::padNy, QStringLiteral("2.5"));
+        row(RecordKeys::padNy, QStringLiteral(""));
+        row(RecordKeys::padDx, QStringLiteral("1e300"));
+        row(RecordKeys::padDx, QStringLiteral("nan"));
+        row(RecordKeys::padDy, qInf());
+        row(RecordKeys::padXscl, QStringLiteral("0"));
+        row(RecordKeys::padYscl, QStringLiteral("101"));
+        row(RecordKeys::cornerRadius, QStringLiteral("-5"));
+        row(RecordKeys::slotLength, QStringLiteral("1e9"));
+        row(RecordKeys::mirrorRotate, QStringLiteral("inf"));
+        row(RecordKeys::angle, QStringLiteral("north"));
+        row(RecordKeys::stringXSize, QStringLiteral("0"));
+        row(RecordKeys::barcodeHeight, QStringLiteral("-1"));
+        row(RecordKeys::cannedHoleSize, QByteArray("\xff\x00", 2));
+        row(RecordKeys::arcMode, QStringLiteral("8"));
+        row(RecordKeys::symbolText, QStringLiteral("  "));
+        row(RecordKeys::barcodeMatrix, QVariant());
     }
 
     void absurdValuesGiveTheDefaults()

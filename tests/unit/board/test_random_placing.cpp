@@ -3,6 +3,7 @@
 #include "board/EditOps.h"
 #include "board/GerberExport.h"
 #include "board/Placement.h"
+#include "plugin/RecordKeys.h"
 
 #include <random>
 
@@ -21,30 +22,37 @@ int upTo(Random& random, int most)
 QMap<QString, QVariant> anyRecord(Random& random)
 {
     struct Entry {
-        const char* key;
+        QString key;
         int most;
     };
-    static constexpr Entry entries[] = {
-        {"Features", 5},     {"Polarity", 1},      {"Mirror", 2},        {"MirrorRotate", 360},
-        {"Line", 4},         {"Closed", 1},        {"AngleGroup", 6},    {"Angel(deg)", 360},
-        {"CornerType", 4},   {"CornerRadius", 99}, {"SlotLength", 5},    {"SlotAngle", 90},
-        {"PadNx", 4},        {"PadNy", 4},         {"PadDx", 900},       {"PadDy", 900},
-        {"PadXscl", 3},      {"PadYscl", 3},       {"SurfaceShape", 3},  {"Arc&Circle", 2},
-        {"ArcMode", 7},      {"CircleMode", 4},    {"ClockWise", 2},     {"StringXSize", 900},
-        {"BarcodeMode", 5},  {"AddString", 2},     {"AddBackground", 2}, {"AddMarkers", 2},
-        {"OrbotechType", 2}, {"CannedHoleMode", 2}};
+    static const Entry entries[] = {
+        {RecordKeys::features, 5},      {RecordKeys::polarity, 1},
+        {RecordKeys::mirror, 2},        {RecordKeys::mirrorRotate, 360},
+        {RecordKeys::line, 4},          {RecordKeys::closed, 1},
+        {RecordKeys::angleGroup, 6},    {RecordKeys::angle, 360},
+        {RecordKeys::cornerType, 4},    {RecordKeys::cornerRadius, 99},
+        {RecordKeys::slotLength, 5},    {RecordKeys::slotAngle, 90},
+        {RecordKeys::padNx, 4},         {RecordKeys::padNy, 4},
+        {RecordKeys::padDx, 900},       {RecordKeys::padDy, 900},
+        {RecordKeys::padXscl, 3},       {RecordKeys::padYscl, 3},
+        {RecordKeys::surfaceShape, 3},  {RecordKeys::arcAndCircle, 2},
+        {RecordKeys::arcMode, 7},       {RecordKeys::circleMode, 4},
+        {RecordKeys::clockWise, 2},     {RecordKeys::stringXSize, 900},
+        {RecordKeys::barcodeMode, 5},   {RecordKeys::addString, 2},
+        {RecordKeys::addBackground, 2}, {RecordKeys::addMarkers, 2},
+        {RecordKeys::orbotechType, 2},  {RecordKeys::cannedHoleMode, 2}};
     QMap<QString, QVariant> record;
     for (const Entry& entry : entries) {
-        record.insert(QLatin1String(entry.key), QString::number(upTo(random, entry.most)));
+        record.insert(entry.key, QString::number(upTo(random, entry.most)));
     }
     const QStringList symbols = {QStringLiteral("r10"), QStringLiteral("s20"),
                                  QStringLiteral("ring_r60x30"), QStringLiteral("logo"),
                                  QStringLiteral("octagon80x50x10_30")};
-    const QStringList formats = {QStringLiteral("1"), QStringLiteral("BarcodeMode"),
-                                 QStringLiteral("3"), QStringLiteral("4")};
-    record.insert(QStringLiteral("SymbolText"), symbols.at(upTo(random, symbols.size() - 1)));
-    record.insert(QStringLiteral("TextFormat"), formats.at(upTo(random, formats.size() - 1)));
-    record.insert(QStringLiteral("TextContains"), QStringLiteral("A1"));
+    const QStringList formats = {TextKind::string, TextKind::barcode, TextKind::plotStamp,
+                                 TextKind::cannedText};
+    record.insert(RecordKeys::symbolText, symbols.at(upTo(random, symbols.size() - 1)));
+    record.insert(RecordKeys::textFormat, formats.at(upTo(random, formats.size() - 1)));
+    record.insert(RecordKeys::textContains, QStringLiteral("A1"));
     return record;
 }
 

@@ -2,8 +2,15 @@
 
 #include "CanvasFixture.h"
 #include "Main.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
+#include "plugin/RecordKeys.h"
 
 #include <map>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
 
 using Record = QMap<QString, QVariant>;
 
@@ -12,15 +19,18 @@ class TestPlacing : public QObject {
 
     static Record lineRecord(const QString& kind)
     {
-        return {{"Features", 1}, {"Line", kind}, {"SymbolText", "r20"}, {"Polarity", "1"}};
+        return {{RecordKeys::features, FeatureKind::line.toInt()},
+                {RecordKeys::line, kind},
+                {RecordKeys::symbolText, "r20"},
+                {RecordKeys::polarity, Polarity::positive}};
     }
 
 private Q_SLOTS:
     void line()
     {
         const CanvasFixture fixture;
-        fixture.receive(20000241);
-        fixture.receive(50, 0, lineRecord("1"));
+        fixture.receive(Sent::AddFeature);
+        fixture.receive(Sent::Record, 0, lineRecord(LineKind::single));
         fixture.click(2000, 2000);
         fixture.move(6000, 5000);
         const Overlay& overlay = fixture.pane->canvas().scene().overlay();
@@ -37,7 +47,7 @@ private Q_SLOTS:
     void polyline()
     {
         const CanvasFixture fixture;
-        fixture.receive(50, 0, lineRecord("2"));
+        fixture.receive(Sent::Record, 0, lineRecord(LineKind::polyline));
         for (const QPointF& corner :
              {QPointF(2000, 2000), QPointF(6000, 2000), QPointF(6000, 6000)}) {
             fixture.click(corner.x(), corner.y());
@@ -49,10 +59,10 @@ private Q_SLOTS:
     void directionOfTheLastMessage()
     {
         const CanvasFixture fixture;
-        Record record = lineRecord("1");
-        fixture.receive(50, 0, record);
-        record["AngleGroup"] = 3;  // horizontal
-        fixture.receive(52, 0, record);
+        Record record = lineRecord(LineKind::single);
+        fixture.receive(Sent::Record, 0, record);
+        record[RecordKeys::angleGroup] = LineDirection::horizontal.toInt();
+        fixture.receive(Sent::DirectionRecord, 0, record);
         fixture.click(2000, 2000);
         fixture.click(8000, 4000);
         QCOMPARE(fixture.features().size(), size_t(1));
@@ -64,17 +74,21 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture;
         const std::map<std::string, std::string> attributes{{".smd", ""}, {".net", "gnd"}};
-        const Record record{{"Features", 2},   {"SymbolText", "rect20x40"}, {"PadNx", "3"},
-                            {"PadDx", "2000"}, {"Attributes", "1"},         {"Polarity", "0"}};
-        fixture.receive(50, 0, record);
-        fixture.receive(51, qint64(reinterpret_cast<quintptr>(&attributes)));
+        const Record record{{RecordKeys::features, FeatureKind::pad.toInt()},
+                            {RecordKeys::symbolText, "rect20x40"},
+                            {RecordKeys::padNx, "3"},
+                            {RecordKeys::padDx, "2000"},
+                            {RecordKeys::attributes, HasAttributes::yes},
+                            {RecordKeys::polarity, Polarity::negative}};
+        fixture.receive(Sent::Record, 0, record);
+        fixture.receive(Sent::AttributeMap, ExtraWord::pointingAt(attributes));
         fixture.click(4000, 5000);
         QCOMPARE(fixture.features().size(), size_t(3));
         for (const Pcb::Feature& pad : fixture.features()) {
             QVERIFY(!pad.isPositive());
             QCOMPARE(pad.attributes(), (Pcb::Attributes{{".smd", ""}, {".net", "gnd"}}));
         }
-        fixture.receive(20000202);
+        fixture.receive(Sent::FeatureSelection);
         fixture.move(6000, 5000);
         QCOMPARE(fixture.text("m_pHoveredLB"), QString("rect20x40  negative  .net=gnd  .smd"));
     }
@@ -82,27 +96,29 @@ private Q_SLOTS:
     void fillEndsASurface()
     {
         const CanvasFixture fixture;
-        fixture.receive(50, 0, {{"Features", 3}, {"SurfaceShape", "2"}});
+        fixture.receive(Sent::Record, 0,
+                        {{RecordKeys::features, FeatureKind::surface.toInt()},
+                         {RecordKeys::surfaceShape, SurfaceKind::polygon}});
         fixture.click(2000, 2000);
         fixture.click(8000, 2000);
         fixture.click(5000, 7000);
         QVERIFY(fixture.features().empty());
-        fixture.receive(53);
+        fixture.receive(Sent::Fill);
         QCOMPARE(fixture.features().size(), size_t(1));
         QVERIFY(fixture.features()[0].area().contains(QPointF(5000, 4000)));
-        fixture.receive(53);  // nothing is being drawn
+        fixture.receive(Sent::Fill);  // nothing is being drawn
         QCOMPARE(fixture.features().size(), size_t(1));
     }
 
     void textOfTheStep()
     {
         const CanvasFixture fixture;
-        fixture.receive(50, 0,
-                        {{"Features", 5},
-                         {"TextFormat", "1"},
-                         {"TextContains", "$$JOB"},
-                         {"StringXSize", "2000"},
-                         {"StringYSize", "2000"}});
+        fixture.receive(Sent::Record, 0,
+                        {{RecordKeys::features, FeatureKind::text.toInt()},
+                         {RecordKeys::textFormat, TextKind::string},
+                         {RecordKeys::textContains, "$$JOB"},
+                         {RecordKeys::stringXSize, "2000"},
+                         {RecordKeys::stringYSize, "2000"}});
         fixture.click(4000, 5000);
         QCOMPARE(fixture.features().size(), size_t(1));
         QVERIFY(!fixture.features()[0].area().isEmpty());
@@ -112,8 +128,8 @@ private Q_SLOTS:
     void pickingLetsTheDrawingGoOn()
     {
         const CanvasFixture fixture({Pcb::Feature(Pcb::padGeometry("r60", {16000, 10000}))});
-        fixture.receive(50, 0, lineRecord("1"));
-        fixture.receive(20001405);
+        fixture.receive(Sent::Record, 0, lineRecord(LineKind::single));
+        fixture.receive(Sent::SelectSymbol);
         QVERIFY(!fixture.text("m_pPickHintLB").isEmpty());
         fixture.click(16000, 10000);
         fixture.click(2000, 2000);
@@ -125,25 +141,29 @@ private Q_SLOTS:
     {
         QTest::addColumn<Record>("record");
         QTest::newRow("empty") << Record();
-        QTest::newRow("types") << Record{
-            {"Features", QVariantList{1}}, {"SymbolText", 7}, {"PadNx", QVariantMap()}};
-        QTest::newRow("huge") << Record{{"Features", 2},        {"SymbolText", "r9999999999999"},
-                                        {"PadNx", "999999999"}, {"PadNy", "999999999"},
-                                        {"PadDx", "1e300"},     {"MirrorRotate", "1e99"}};
-        QTest::newRow("no numbers") << Record{{"Features", 5},
-                                              {"TextContains", QString(9999, 'W')},
-                                              {"StringXSize", "nan"},
-                                              {"StringYSize", "-1"}};
-        QTest::newRow("odd barcode") << Record{{"Features", 5},
-                                               {"TextFormat", "BarcodeMode"},
-                                               {"BarcodeMode", 99},
-                                               {"TextContains", "\u00e9"}};
+        QTest::newRow("types") << Record{{RecordKeys::features, QVariantList{1}},
+                                         {RecordKeys::symbolText, 7},
+                                         {RecordKeys::padNx, QVariantMap()}};
+        QTest::newRow("huge") << Record{{RecordKeys::features, FeatureKind::pad.toInt()},
+                                        {RecordKeys::symbolText, "r9999999999999"},
+                                        {RecordKeys::padNx, "999999999"},
+                                        {RecordKeys::padNy, "999999999"},
+                                        {RecordKeys::padDx, "1e300"},
+                                        {RecordKeys::mirrorRotate, "1e99"}};
+        QTest::newRow("no numbers") << Record{{RecordKeys::features, FeatureKind::text.toInt()},
+                                              {RecordKeys::textContains, QString(9999, 'W')},
+                                              {RecordKeys::stringXSize, "nan"},
+                                              {RecordKeys::stringYSize, "-1"}};
+        QTest::newRow("odd barcode") << Record{{RecordKeys::features, FeatureKind::text.toInt()},
+                                               {RecordKeys::textFormat, TextKind::barcode},
+                                               {RecordKeys::barcodeMode, 99},
+                                               {RecordKeys::textContains, "\u00e9"}};
     }
     void absurdRecordsAreSurvived()
     {
         QFETCH(Record, record);
         const CanvasFixture fixture;
-        fixture.receive(50, 0, record);
+        fixture.receive(Sent::Record, 0, record);
         for (int i = 0; i < 4; ++i) {
             fixture.click(3000 + 1500 * i, 3000 + 1000 * (i % 2));
         }
@@ -158,7 +178,8 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture;
         const auto open = [&](const char* job, const char* step) {
-            fixture.receive(20002400, 0, {{"JobName", job}, {"StepName", step}});
+            fixture.receive(Accepted::JobOpened, 0,
+                            {{PayloadKeys::jobName, job}, {PayloadKeys::stepName, step}});
         };
         open("demo", "pcb");
         fixture.document().replace({});

@@ -3,8 +3,11 @@
 
 #include "CanvasFixture.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
 
 #include <QToolButton>
+
+namespace Sent = MessageCodes::Sent;
 
 using Pcb::Feature;
 using Pcb::Features;
@@ -63,7 +66,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000206, 0);
+        fixture.receive(Sent::DeleteFeature, 0);
         fixture.click(16000, 10000);
         QCOMPARE(fixture.features().size(), size_t(3));
         QVERIFY(fixture.features()[2] == before.board.features[3]);
@@ -76,11 +79,11 @@ private Q_SLOTS:
     void deletesTheSelectionThatIsClicked()
     {
         const CanvasFixture fixture(cross());
-        fixture.receive(20000202);
+        fixture.receive(Sent::FeatureSelection);
         fixture.click(16000, 10000);
         fixture.click(8000, 7500, Qt::ControlModifier);
         QCOMPARE(fixture.state().selected, (Pcb::Indexes{1, 2}));
-        fixture.receive(20000206, 0);
+        fixture.receive(Sent::DeleteFeature, 0);
         fixture.click(16000, 10000);
         QCOMPARE(fixture.features().size(), size_t(2));
         QCOMPARE(fixture.state().selected, Pcb::Indexes());
@@ -90,7 +93,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000206, 1);
+        fixture.receive(Sent::DeleteFeature, 1);
         fixture.click(11000, 5000);
         QCOMPARE(fixture.features().size(), size_t(4));
         QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {8000, 5000}}));
@@ -111,7 +114,7 @@ private Q_SLOTS:
         QFETCH(bool, isDragged);
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000207);
+        fixture.receive(Sent::MoveFeature);
         if (isDragged) {
             fixture.drag(16000, 10000, 14000, 12000);
         } else {
@@ -131,7 +134,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000208);
+        fixture.receive(Sent::CopyFeature);
         fixture.click(16000, 10000);
         fixture.click(14000, 12000);
         QCOMPARE(fixture.features().size(), size_t(5));
@@ -144,7 +147,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000207);
+        fixture.receive(Sent::MoveFeature);
         fixture.click(16000, 10000);
         fixture.rightClick(15000, 11000);
         fixture.move(14000, 12000);
@@ -158,7 +161,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000215);
+        fixture.receive(Sent::InvertFeature);
         fixture.click(16000, 10000);
         QVERIFY(!fixture.features()[2].isPositive());
         compareHistory(fixture, before, "Invert feature");
@@ -169,11 +172,11 @@ private Q_SLOTS:
         const CanvasFixture fixture(
             {Feature(Pcb::padGeometry("rect80x20", {5000, 5000})),
              Feature(Pcb::lineGeometry("r20", {8000, 2000}, {12000, 6000}))});
-        fixture.receive(20000213);
+        fixture.receive(Sent::RotateFeature);
         fixture.click(5000, 5000);
         QVERIFY(fixture.features()[0].bounds().height() > fixture.features()[0].bounds().width());
         QVERIFY(isNear(fixture.features()[0].bounds().center(), {5000, 5000}));
-        fixture.receive(20000214);
+        fixture.receive(Sent::MirrorFeature);
         fixture.click(10000, 4000);
         QVERIFY(areNear(pointsOf(fixture, 1), {{12000, 2000}, {8000, 6000}}));
     }
@@ -182,7 +185,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000216);
+        fixture.receive(Sent::BreakLine);
         fixture.click(5000, 5000);
         QCOMPARE(fixture.features().size(), size_t(5));
         QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {5000, 5000}}));
@@ -196,7 +199,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000212);
+        fixture.receive(Sent::StretchLine);
         fixture.click(11800, 5000);
         fixture.click(15000, 7000);
         QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {15000, 7000}}));
@@ -209,7 +212,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000211);
+        fixture.receive(Sent::ChangeLineAngle);
         fixture.click(11800, 5000);
         fixture.click(2000, 9000);  // straight up from the end that stays
         QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {2000, 15000}}));
@@ -219,7 +222,7 @@ private Q_SLOTS:
     void selects()
     {
         const CanvasFixture fixture(cross());
-        fixture.receive(20000202);
+        fixture.receive(Sent::FeatureSelection);
         fixture.click(16000, 10000);
         QCOMPARE(fixture.state().selected, Pcb::Indexes{2});
         QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("1 feature(s) selected."));
@@ -236,7 +239,7 @@ private Q_SLOTS:
     void selectsARectangle()
     {
         const CanvasFixture fixture(cross());
-        fixture.receive(20000203);
+        fixture.receive(Sent::RectangleSelection);
         fixture.drag(7000, 1000, 18000, 12000);
         QCOMPARE(fixture.state().selected, (Pcb::Indexes{1, 2}));
         fixture.click(500, 13000);
@@ -249,7 +252,7 @@ private Q_SLOTS:
     void selectsAPolygon()
     {
         const CanvasFixture fixture(cross());
-        fixture.receive(20000223);
+        fixture.receive(Sent::PolygonSelection);
         fixture.click(14000, 8000);
         fixture.click(19000, 8000);
         fixture.click(16000, 13500);
@@ -264,9 +267,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("code");
         QTest::addColumn<QList<int>>("selected");
-        QTest::newRow("touching") << 20000244 << QList<int>{0, 1, 3};
-        QTest::newRow("net") << 20000245 << QList<int>{0, 1, 2, 3};
-        QTest::newRow("polyline") << 20000242 << QList<int>{0};
+        QTest::newRow("touching") << int(Sent::SelectLayerNet) << QList<int>{0, 1, 3};
+        QTest::newRow("net") << int(Sent::SelectBoardNet) << QList<int>{0, 1, 2, 3};
+        QTest::newRow("polyline") << int(Sent::SelectPolyline) << QList<int>{0};
     }
     void selectsByNet()
     {
@@ -282,7 +285,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(20000227);
+        fixture.receive(Sent::FeatureHighLight);
         fixture.click(16000, 10000);
         QCOMPARE(fixture.state().highlighted, (Pcb::Indexes{0, 1, 2, 3}));
         compareHistory(fixture, before, "Highlight");
@@ -304,7 +307,7 @@ private Q_SLOTS:
         QFETCH(QString, said);
         const CanvasFixture fixture;
         const CanvasState before = fixture.state();
-        fixture.receive(20000266, mode);
+        fixture.receive(Sent::Mark, mode);
         fixture.click(2000, 2000);
         fixture.click(5000, 6000);
         QCOMPARE(fixture.state().marks.size(), size_t(1));
@@ -320,7 +323,7 @@ private Q_SLOTS:
     void zoomsToAnArea()
     {
         const CanvasFixture fixture;
-        fixture.receive(20000201);
+        fixture.receive(Sent::AreaZoom);
         const double before = fixture.view().pixelSize();
         fixture.drag(4000, 4000, 8000, 6000);
         QVERIFY(fixture.view().pixelSize() < before / 3);
@@ -333,7 +336,7 @@ private Q_SLOTS:
     void opensASecondView()
     {
         const CanvasFixture fixture(cross());
-        fixture.receive(20000225);
+        fixture.receive(Sent::OpenPopView);
         QWidget* second = nullptr;
         for (QWidget* const window : QApplication::topLevelWidgets()) {
             if (window->objectName() == "m_pSecondView" && window->isVisible()) {
@@ -342,7 +345,7 @@ private Q_SLOTS:
         }
         QVERIFY(second);
         // The tool works in both.
-        fixture.receive(20000206, 0);
+        fixture.receive(Sent::DeleteFeature, 0);
         auto* const view = qobject_cast<BoardView*>(second);
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->viewPoint(16000, 10000));
         QCOMPARE(fixture.features().size(), size_t(3));
@@ -352,13 +355,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("name");
-        QTest::newRow("dimension") << 20000217 << "Rout dimension";
-        QTest::newRow("contour") << 20000218 << "Contour editor";
-        QTest::newRow("pull") << 20000219 << "Pull line";
-        QTest::newRow("junction") << 20000220 << "Move junction";
-        QTest::newRow("triplet") << 20000221 << "Move triplet";
-        QTest::newRow("reroute") << 20000222 << "Reroute trace";
-        QTest::newRow("EQ") << 20004801 << "EQ";
+        QTest::newRow("dimension") << int(Sent::RoutDimension) << "Rout dimension";
+        QTest::newRow("contour") << int(Sent::ContourEditor) << "Contour editor";
+        QTest::newRow("pull") << int(Sent::PullLine) << "Pull line";
+        QTest::newRow("junction") << int(Sent::MoveJunction) << "Move junction";
+        QTest::newRow("triplet") << int(Sent::MoveTriplet) << "Move triplet";
+        QTest::newRow("reroute") << int(Sent::RerouteTrace) << "Reroute trace";
+        QTest::newRow("EQ") << int(Sent::Eq) << "EQ";
     }
     void saysWhatItDoesNotDo()
     {
@@ -371,7 +374,7 @@ private Q_SLOTS:
                  QString("This canvas does not perform \"%1\".").arg(name));
         fixture.click(16000, 10000);
         QVERIFY(fixture.state() == before);
-        fixture.receive(20000207);
+        fixture.receive(Sent::MoveFeature);
         QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString());
     }
 };

@@ -3,6 +3,9 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "messages/MessageLog.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 #include "viewer/BoardView.h"
 #include "viewer/ViewerPane.h"
 
@@ -10,6 +13,9 @@
 
 #include <QLabel>
 #include <QTableWidget>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -65,17 +71,18 @@ private Q_SLOTS:
     void namesTheTool()
     {
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
-        receive(20000207);
+        receive(Sent::MoveFeature);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Move feature"));
-        receive(20000206, 1);
+        receive(Sent::DeleteFeature, 1);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Delete feature, mode 1"));
-        receive(20000241);
+        receive(Sent::AddFeature);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add feature"));
-        receive(20000202);
-        receive(50, 0, {{"Features", 1}});  // the dialog was there: no second 20000241
+        receive(Sent::FeatureSelection);
+        // The dialog was there: it is not announced again.
+        receive(Sent::Record, 0, {{RecordKeys::features, FeatureKind::line.toInt()}});
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add feature"));
-        receive(20000216);
-        receive(20000237);  // the same tool's second code
+        receive(Sent::BreakLine);
+        receive(Sent::BreakLineOff);  // the same tool's second code
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
         receive(12345);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
@@ -83,10 +90,10 @@ private Q_SLOTS:
 
     void answersAddFeatureWithTheUnit()
     {
-        receive(20000241);
+        receive(Sent::AddFeature);
         QCOMPARE(int(m_log->messages().size()), 1);
         const MessageRecord& answer = m_log->messages()[0];
-        QCOMPARE(answer.code, 20002200);
+        QCOMPARE(answer.code, Accepted::UnitChanged);
         QCOMPARE(answer.sender, QString("Canvas_Viewer.dll"));
         QCOMPARE(answer.receiver, QString("Canvas_Tool_Strip.dll"));
     }
@@ -95,33 +102,33 @@ private Q_SLOTS:
     {
         clickBoard(16, 11);
         QVERIFY(m_log->messages().empty());  // nobody asked
-        receive(20001405);
+        receive(Sent::SelectSymbol);
         clickBoard(0.3, 0.3);
         QVERIFY(m_log->messages().empty());  // no feature there
         QVERIFY(!text("m_pPickHintLB").isEmpty());
         clickBoard(16, 11);
         clickBoard(16, 11);
         QCOMPARE(int(m_log->messages().size()), 1);
-        QCOMPARE(m_log->messages()[0].code, 20001811);
+        QCOMPARE(m_log->messages()[0].code, Accepted::SymbolsPicked);
         QCOMPARE(m_log->messages()[0].pointedAt.values(), QStringList("r100"));
         QCOMPARE(text("m_pPickHintLB"), QString());
     }
 
     void aSurfaceHasNoSymbol()
     {
-        receive(20001405);
+        receive(Sent::SelectSymbol);
         clickBoard(2, 2);
-        QCOMPARE(m_log->messages().at(0).code, 20001811);
+        QCOMPARE(m_log->messages().at(0).code, Accepted::SymbolsPicked);
         QVERIFY(m_log->messages()[0].hasAddress());
         QCOMPARE(m_log->messages()[0].pointedAt, Pairs());
     }
 
     void attributes()
     {
-        receive(20002838);
+        receive(Sent::SelectFromEditor);
         clickBoard(17.5, 5.4);
         QCOMPARE(int(m_log->messages().size()), 1);
-        QCOMPARE(m_log->messages()[0].code, 20001807);
+        QCOMPARE(m_log->messages()[0].code, Accepted::AttributesPicked);
         QCOMPARE(m_log->messages()[0].pointedAt,
                  (Pairs{{".drill", "plated"}, {".pad_usage", "via"}}));
     }
@@ -129,15 +136,15 @@ private Q_SLOTS:
     void picksAreGivenUp_data()
     {
         QTest::addColumn<int>("code");
-        QTest::newRow("another tool") << 20000207;
-        QTest::newRow("tool off") << 20000237;
-        QTest::newRow("dialogs closed") << 20003950;
+        QTest::newRow("another tool") << int(Sent::MoveFeature);
+        QTest::newRow("tool off") << int(Sent::BreakLineOff);
+        QTest::newRow("dialogs closed") << int(Sent::DialogsClosed);
     }
 
     void picksAreGivenUp()
     {
         QFETCH(int, code);
-        receive(20001405);
+        receive(Sent::SelectSymbol);
         const QString hint = text("m_pPickHintLB");
         receive(code);
         QVERIFY(text("m_pPickHintLB") != hint);
@@ -148,7 +155,7 @@ private Q_SLOTS:
     void measuring()
     {
         Grc_Tbe_measurepopup popup(nullptr, m_window.get());
-        receive(20000207);
+        receive(Sent::MoveFeature);
         popup.onMeasureButtonClicked();
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Measure"));
         const QString first = text("m_pPickHintLB");
@@ -157,7 +164,7 @@ private Q_SLOTS:
         clickBoard(12, 2);
         QCOMPARE(text("m_pPickHintLB"), first);
         QVERIFY(m_log->messages().empty());
-        receive(20000208);
+        receive(Sent::CopyFeature);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Copy feature"));
         QCOMPARE(text("m_pPickHintLB"), QString("Click a feature to copy it."));
     }
@@ -165,21 +172,23 @@ private Q_SLOTS:
     void attributeMap()
     {
         const std::map<std::string, std::string> map{{".net", "gnd"}};
-        receive(51, qint64(reinterpret_cast<quintptr>(&map)));
+        receive(Sent::AttributeMap, ExtraWord::pointingAt(map));
         const auto& table = findNamed<QTableWidget>(*m_viewer, "m_pAttributesTW");
         QCOMPARE(table.rowCount(), 1);
         QCOMPARE(table.item(0, 0)->text(), QString(".net"));
         QCOMPARE(table.item(0, 1)->text(), QString("gnd"));
-        receive(51, 0);  // no map at all
+        receive(Sent::AttributeMap, 0);  // no map at all
         QCOMPARE(table.rowCount(), 1);
     }
 
     void recordWithItsCode()
     {
         const auto& table = findNamed<QTableWidget>(*m_viewer, "m_pRecordTW");
-        receive(50, 0, {{"Features", 1}});
+        receive(Sent::Record, 0, {{RecordKeys::features, FeatureKind::line.toInt()}});
         QCOMPARE(text("m_pRecordLB"), QString("Feature record (message 50)"));
-        receive(52, 0, {{"Features", 1}, {"AngleGroup", QString("2")}});
+        receive(Sent::DirectionRecord, 0,
+                {{RecordKeys::features, FeatureKind::line.toInt()},
+                 {RecordKeys::angleGroup, LineDirection::vertical}});
         QCOMPARE(text("m_pRecordLB"), QString("Feature record (message 52)"));
         QCOMPARE(table.rowCount(), 2);
         QVERIFY(table.item(0, 0)->font().bold());

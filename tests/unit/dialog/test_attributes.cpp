@@ -2,12 +2,16 @@
 
 #include "DialogFixture.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <CommonWidgetsStandIn.h>
 #include <common_widgets.h>
 
 #include <QCheckBox>
 #include <QPushButton>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -24,12 +28,12 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.click("m_pAttributesCB");
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{51});
-        QCOMPARE(fixture.record().value("Attributes"), QVariant(QString("1")));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AttributeMap});
+        QCOMPARE(fixture.record().value(RecordKeys::attributes), QVariant(HasAttributes::yes));
         QVERIFY(fixture.isShown("m_pValuesPB"));
         fixture.click("m_pAttributesCB");
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{51, 51}));
-        QCOMPARE(fixture.record().value("Attributes"), QVariant(QString("0")));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::AttributeMap}));
+        QCOMPARE(fixture.record().value(RecordKeys::attributes), QVariant(HasAttributes::no));
         QVERIFY(!fixture.isShown("m_pValuesPB"));
     }
 
@@ -38,12 +42,12 @@ private Q_SLOTS:
         DialogFixture fixture;
         QVariant attributesAtSend;
         fixture.recorder.setOnMessage([&](const Recorder::Entry& sent) {
-            if (sent.message.code == 51) {
-                attributesAtSend = fixture.record().value("Attributes");
+            if (sent.message.code == Sent::AttributeMap) {
+                attributesAtSend = fixture.record().value(RecordKeys::attributes);
             }
         });
         fixture.click("m_pAttributesCB");
-        const Recorder::Entry sent = fixture.recorder.last(51);
+        const Recorder::Entry sent = fixture.recorder.last(Sent::AttributeMap);
         QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
         QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
         QVERIFY(sent.message.payload.isEmpty());
@@ -53,7 +57,7 @@ private Q_SLOTS:
         fixture.click("m_pPadTB");
         fixture.dialog->get_attribute_list({{"a", "b"}});
         for (const Recorder::Entry& entry : fixture.recorder.messages()) {
-            if (entry.message.code == 51) {
+            if (entry.message.code == Sent::AttributeMap) {
                 QCOMPARE(entry.message.extra, sent.message.extra);
             }
         }
@@ -63,7 +67,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.dialog->on_Attribute_CheckState_Changed(Qt::Checked);
-        QCOMPARE(fixture.record().value("Attributes"), QVariant(QString("0")));
+        QCOMPARE(fixture.record().value(RecordKeys::attributes), QVariant(HasAttributes::no));
     }
 
     void list()
@@ -73,13 +77,14 @@ private Q_SLOTS:
         QVERIFY(fixture.recorder.messages().isEmpty());
         fixture.click("m_pAttributesCB");
         fixture.dialog->get_attribute_list({{".net", "gnd"}, {".smd", ""}});
-        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".net", "gnd"}, {".smd", ""}}));
+        QCOMPARE(fixture.recorder.last(Sent::AttributeMap).attributes,
+                 (Map{{".net", "gnd"}, {".smd", ""}}));
         fixture.dialog->get_attribute_list({{".drill", "via"}});
-        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".drill", "via"}}));
+        QCOMPARE(fixture.recorder.last(Sent::AttributeMap).attributes, (Map{{".drill", "via"}}));
         fixture.click("m_pLineTB");  // says the attributes again
-        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".drill", "via"}}));
+        QCOMPARE(fixture.recorder.last(Sent::AttributeMap).attributes, (Map{{".drill", "via"}}));
         fixture.click("m_pAttributesCB");
-        QVERIFY(fixture.recorder.last(51).attributes.empty());
+        QVERIFY(fixture.recorder.last(Sent::AttributeMap).attributes.empty());
     }
 
     void valuesWindow()
@@ -104,9 +109,9 @@ private Q_SLOTS:
         fixture.dialog->forward_Attribute_Info({{".net", "vcc"}});
         fixture.recorder.clear();
         fixture.click("m_pAttributesCB");
-        QVERIFY(fixture.recorder.last(51).attributes.empty());
+        QVERIFY(fixture.recorder.last(Sent::AttributeMap).attributes.empty());
         fixture.click("m_pAttributesCB");
-        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".net", "vcc"}}));
+        QCOMPARE(fixture.recorder.last(Sent::AttributeMap).attributes, (Map{{".net", "vcc"}}));
     }
 
     void color()
@@ -129,11 +134,12 @@ private Q_SLOTS:
         auto* const values = fixture.dialog->findChild<Widget_Attributes*>();
         fixture.recorder.clear();
         emit values->send_attribute_list(List{{".net", "gnd"}});
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{51});
-        QCOMPARE(fixture.recorder.last(51).attributes, (Map{{".net", "gnd"}}));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AttributeMap});
+        QCOMPARE(fixture.recorder.last(Sent::AttributeMap).attributes, (Map{{".net", "gnd"}}));
         emit values->send_attribute_signal();
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{51, 20002838}));
-        const Recorder::Entry sent = fixture.recorder.last(20002838);
+        QCOMPARE(fixture.recorder.codes(),
+                 (QVector<int>{Sent::AttributeMap, Sent::SelectFromEditor}));
+        const Recorder::Entry sent = fixture.recorder.last(Sent::SelectFromEditor);
         QCOMPARE(sent.message.sender, QString("Canvas_RuleMenu.dll"));
         QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
         QVERIFY(sent.message.payload.isEmpty());

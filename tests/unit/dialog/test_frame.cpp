@@ -2,6 +2,8 @@
 
 #include "DialogFixture.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -11,6 +13,8 @@
 #include <QRegExpValidator>
 #include <QSpinBox>
 #include <QToolButton>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -142,17 +146,18 @@ private Q_SLOTS:
         QFETCH(bool, isFilled);
         QFETCH(QString, pattern);
         DialogFixture fixture;
-        QCOMPARE(fixture.record().value("Features"), QVariant(QString("1")));
+        QCOMPARE(fixture.record().value(RecordKeys::features), QVariant(FeatureKind::line));
         QVariant featureAtAttributes;
         fixture.recorder.setOnMessage([&](const Recorder::Entry& sent) {
-            if (sent.message.code == 51) {
-                featureAtAttributes = fixture.record().value("Features");
+            if (sent.message.code == Sent::AttributeMap) {
+                featureAtAttributes = fixture.record().value(RecordKeys::features);
             }
         });
         fixture.click(button);
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{51, 50}));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
         QCOMPARE(featureAtAttributes, QVariant(QString("1")));
-        QCOMPARE(fixture.recorder.last(50).message.payload.value("Features"), QVariant(feature));
+        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::features),
+                 QVariant(feature));
 
         for (const QString& name : symbolControls) {
             QCOMPARE(fixture.isShown(name), hasSymbol);
@@ -175,7 +180,7 @@ private Q_SLOTS:
         // Once more on the chosen type: the same again, the type now an integer.
         fixture.recorder.clear();
         fixture.click(button);
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{51, 50}));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
         QCOMPARE(featureAtAttributes, QVariant(feature));
     }
 
@@ -185,9 +190,9 @@ private Q_SLOTS:
         fixture.click("m_pTextTB");
         fixture.dialog->get_Special_TEXT("JOB");
         fixture.click("m_pLineTB");
-        const QVariantMap sent = fixture.recorder.last(50).message.payload;
-        QCOMPARE(sent.value("TextContains"), QVariant(QString("$$JOB")));
-        QCOMPARE(sent.value("Features"), QVariant(1));
+        const QVariantMap sent = fixture.recorder.last(Sent::Record).message.payload;
+        QCOMPARE(sent.value(RecordKeys::textContains), QVariant(QString("$$JOB")));
+        QCOMPARE(sent.value(RecordKeys::features), QVariant(FeatureKind::line.toInt()));
         QCOMPARE(sent.size(), 45);
     }
 

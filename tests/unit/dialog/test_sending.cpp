@@ -2,6 +2,8 @@
 
 #include "DialogFixture.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
@@ -9,6 +11,8 @@
 #include <QComboBox>
 #include <QLoggingCategory>
 #include <QSpinBox>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -43,18 +47,13 @@ private Q_SLOTS:
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
-        QTest::newRow("negative") << "m_pPolarityCMB" << 0 << 1 << "Polarity"
-                                  << "0";
-        QTest::newRow("positive") << "m_pPolarityCMB" << 1 << 0 << "Polarity"
-                                  << "1";
-        QTest::newRow("no polarity") << "m_pPolarityCMB" << 1 << -1 << "Polarity"
-                                     << "0";
-        QTest::newRow("mirrored") << "m_pMirrorCMB" << 1 << 0 << "Mirror"
-                                  << "1";
-        QTest::newRow("not mirrored") << "m_pMirrorCMB" << 0 << 1 << "Mirror"
-                                      << "2";
-        QTest::newRow("no mirror") << "m_pMirrorCMB" << 0 << -1 << "Mirror"
-                                   << "1";
+        QTest::newRow("negative") << "m_pPolarityCMB" << 0 << 1 << "Polarity" << Polarity::negative;
+        QTest::newRow("positive") << "m_pPolarityCMB" << 1 << 0 << "Polarity" << Polarity::positive;
+        QTest::newRow("no polarity")
+            << "m_pPolarityCMB" << 1 << -1 << "Polarity" << Polarity::negative;
+        QTest::newRow("mirrored") << "m_pMirrorCMB" << 1 << 0 << "Mirror" << Mirror::yes;
+        QTest::newRow("not mirrored") << "m_pMirrorCMB" << 0 << 1 << "Mirror" << Mirror::no;
+        QTest::newRow("no mirror") << "m_pMirrorCMB" << 0 << -1 << "Mirror" << Mirror::yes;
     }
 
     void combo()
@@ -69,8 +68,8 @@ private Q_SLOTS:
         box.setCurrentIndex(before);
         fixture.recorder.clear();
         box.setCurrentIndex(index);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-        QCOMPARE(fixture.recorder.last(50).message.payload.value(key), QVariant(value));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(key), QVariant(value));
     }
 
     void rotation()
@@ -83,8 +82,8 @@ private Q_SLOTS:
         QTest::keyClicks(&spin, "30");
         QVERIFY(fixture.recorder.messages().isEmpty());
         QTest::keyClick(&spin, Qt::Key_Return);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-        QCOMPARE(fixture.record().value("MirrorRotate"), QVariant(QString("30")));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("30")));
         QTest::keyClicks(&spin, "999");
         QVERIFY(spin.value() <= 360);
     }
@@ -98,11 +97,11 @@ private Q_SLOTS:
         QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
         QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
         QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
-        QCOMPARE(sent.message.code, 50);
+        QCOMPARE(sent.message.code, Sent::Record);
         QCOMPARE(sent.message.extra, qint64(0));
         QCOMPARE(sent.message.payload.size(), 45);
-        QCOMPARE(sent.message.payload.value("SymbolText"), QVariant(QString("")));
-        QCOMPARE(sent.message.payload.value("Angel(deg)"), QVariant(QString("")));
+        QCOMPARE(sent.message.payload.value(RecordKeys::symbolText), QVariant(QString("")));
+        QCOMPARE(sent.message.payload.value(RecordKeys::angle), QVariant(QString("")));
     }
 
     void oneLogLinePerKeyInKeyOrder()
@@ -110,7 +109,7 @@ private Q_SLOTS:
         DialogFixture fixture;
         const QStringList lines = debugLinesOf([&] { fixture.dialog->getChangeCurrentTool(); });
         QStringList expected;
-        const QVariantMap payload = fixture.recorder.last(50).message.payload;
+        const QVariantMap payload = fixture.recorder.last(Sent::Record).message.payload;
         for (auto entry = payload.begin(); entry != payload.end(); ++entry) {
             expected.append("name: " + entry.key() + " value " + entry.value().toString());
         }
@@ -123,12 +122,12 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         QVERIFY(debugLinesOf([&] { fixture.dialog->on_m_pAngleLE_editingFinished(); }).isEmpty());
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{52});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::DirectionRecord});
         QLoggingCategory::setFilterRules("canvastoolstrip.record.debug=false");
         const QStringList lines = debugLinesOf([&] { fixture.dialog->getChangeCurrentTool(); });
         QLoggingCategory::setFilterRules({});
         QVERIFY(lines.isEmpty());
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{52, 50}));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::DirectionRecord, Sent::Record}));
     }
 
     void symbolIsChecked_data()
@@ -156,11 +155,12 @@ private Q_SLOTS:
         DialogFixture fixture;
         fixture.symbol().setText(symbol);
         fixture.click(button);
-        QCOMPARE(fixture.recorder.codes(), isSent ? (QVector<int>{51, 50}) : QVector<int>{51});
+        QCOMPARE(fixture.recorder.codes(), isSent ? (QVector<int>{Sent::AttributeMap, Sent::Record})
+                                                  : QVector<int>{Sent::AttributeMap});
         QCOMPARE(fixture.symbol().text(), isSent ? symbol : QString());
         QCOMPARE(fixture.boxes.take().size(), isSent ? 0 : 1);
-        QVERIFY(fixture.record().value("Features").toInt() > 0);
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("")));
+        QVERIFY(fixture.record().value(RecordKeys::features).toInt() > 0);
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("")));
     }
 
     void refusedSymbolStaysInTheRecord()
@@ -171,11 +171,11 @@ private Q_SLOTS:
         fixture.symbol().setText("r60000");
         fixture.recorder.clear();
         fixture.click("m_pPadTB");
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{51});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AttributeMap});
         QCOMPARE(fixture.boxes.take().size(), 1);
         QCOMPARE(fixture.symbol().text(), QString());
-        QCOMPARE(fixture.record().value("Features"), QVariant(2));
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r10")));
+        QCOMPARE(fixture.record().value(RecordKeys::features), QVariant(FeatureKind::pad.toInt()));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
         QVERIFY(fixture.isShown("m_pPadPage"));
     }
 
@@ -217,11 +217,11 @@ private Q_SLOTS:
         fixture.symbol().setText("Odd");
         known = {"Odd"};
         fixture.dialog->getChangeCurrentTool();
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         fixture.dialog->set_job_info("other", "step");
         known = {"odd"};
         fixture.dialog->getChangeCurrentTool();
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         QCOMPARE(jobs, (QVector<std::string>{"job", "other"}));
     }
 
@@ -232,8 +232,8 @@ private Q_SLOTS:
         QVERIFY(fixture.recorder.messages().isEmpty());
         fixture.choose("m_pSurfaceTB");
         fixture.click("m_pFillPB");
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{53});
-        const Recorder::Entry sent = fixture.recorder.last(53);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Fill});
+        const Recorder::Entry sent = fixture.recorder.last(Sent::Fill);
         QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
         QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
         QVERIFY(sent.message.payload.isEmpty());
@@ -255,11 +255,11 @@ private Q_SLOTS:
         // What closing makes the field report is no entry of the user's, until the next send.
         fixture.dialog->on_m_pSymbolTextLE_editingFinished();
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("")));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("")));
         fixture.dialog->getChangeCurrentTool();
         fixture.dialog->on_m_pSymbolTextLE_editingFinished();
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{50, 50}));
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r10")));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::Record, Sent::Record}));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
     }
 
     void aRefusedSendEnablesTheSymbolAgain()
@@ -271,7 +271,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.boxes.take().size(), 1);
         QVERIFY(fixture.recorder.messages().isEmpty());
         fixture.enter("r20");
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r20")));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r20")));
     }
 };
 

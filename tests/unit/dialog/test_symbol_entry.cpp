@@ -3,11 +3,15 @@
 #include "DialogFixture.h"
 #include "GlogCatcher.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
 
 #include <QSpinBox>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -92,12 +96,12 @@ private Q_SLOTS:
         const bool isRefused = !expected.stored;
         QCOMPARE(fixture.boxes.takeTexts(), isRefused ? QStringList(refusal) : QStringList());
         QCOMPARE(fixture.symbol().text(), isRefused ? QString() : QString(expected.typed));
-        QCOMPARE(fixture.recorder.codes(), isActive ? QVector<int>{50} : QVector<int>{});
+        QCOMPARE(fixture.recorder.codes(), isActive ? QVector<int>{Sent::Record} : QVector<int>{});
         const QVariantMap record = fixture.record();
-        QCOMPARE(record.value("SymbolText"), QVariant(QString(expected.stored)));
-        QCOMPARE(record.value("MirrorRotate"), QVariant(QString(expected.rotation)));
+        QCOMPARE(record.value(RecordKeys::symbolText), QVariant(QString(expected.stored)));
+        QCOMPARE(record.value(RecordKeys::mirrorRotate), QVariant(QString(expected.rotation)));
         if (isActive) {
-            QCOMPARE(fixture.recorder.last(50).message.payload, record);
+            QCOMPARE(fixture.recorder.last(Sent::Record).message.payload, record);
         }
     }
 
@@ -107,13 +111,13 @@ private Q_SLOTS:
         fixture.dialog->setToolStrip(nullptr);
         fixture.enter("r10");
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r10")));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
 
         fixture.dialog->setToolStrip(fixture.strip);
         delete fixture.strip;
         fixture.enter("r20");
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r20")));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r20")));
     }
 
     void theNextEntryClearsTheSuffix()
@@ -123,11 +127,11 @@ private Q_SLOTS:
         fixture.enter("r10_45");
         fixture.find<QSpinBox>("m_pAngleValueSB").setValue(10);
         fixture.dialog->on_m_pAngleValueSB_editingFinished();
-        QCOMPARE(fixture.record().value("MirrorRotate"), QVariant(QString("55")));
+        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("55")));
         fixture.enter("r10");
-        QCOMPARE(fixture.record().value("MirrorRotate"), QVariant(QString("10")));
+        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("10")));
         fixture.dialog->on_m_pAngleValueSB_editingFinished();
-        QCOMPARE(fixture.record().value("MirrorRotate"), QVariant(QString("10")));
+        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("10")));
     }
 
     void rotationAddsWhatFollowsTheFirstUnderscore()
@@ -135,9 +139,9 @@ private Q_SLOTS:
         DialogFixture fixture;
         fixture.choose("m_pPadTB");
         fixture.enter("fiducial_cross_45");
-        QCOMPARE(fixture.record().value("MirrorRotate"), QVariant(QString("45")));
+        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("45")));
         fixture.dialog->on_m_pAngleValueSB_editingFinished();
-        QCOMPARE(fixture.record().value("MirrorRotate"), QVariant(QString("0")));
+        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("0")));
     }
 
     void onlyAnArcAsksForRoundSymbols()
@@ -180,9 +184,10 @@ private Q_SLOTS:
         QCOMPARE(fixture.boxes.takeTexts(), QStringList(refusal));
         QCOMPARE(fixture.symbol().text(), QString());
         // Enter sends what it was given before the entry is looked at.
-        QCOMPARE(fixture.recorder.codes(),
-                 way == "Enter" ? (QVector<int>{50, 50}) : QVector<int>{50});
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("")));
+        QCOMPARE(fixture.recorder.codes(), way == "Enter"
+                                               ? (QVector<int>{Sent::Record, Sent::Record})
+                                               : QVector<int>{Sent::Record});
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("")));
     }
 
     void enterSendsWhatWasTyped()
@@ -191,8 +196,8 @@ private Q_SLOTS:
         fixture.type("r10");
         QVERIFY(fixture.recorder.messages().isEmpty());
         fixture.leave("Enter");
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{50, 50}));
-        QCOMPARE(fixture.recorder.last(50).message.payload.value("SymbolText"),
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::Record, Sent::Record}));
+        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::symbolText),
                  QVariant(QString("r10")));
     }
 
@@ -202,8 +207,8 @@ private Q_SLOTS:
         fixture.setToolActive(false);
         fixture.type("r254");
         fixture.leave("Enter");
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-        QCOMPARE(fixture.recorder.last(50).message.payload.value("SymbolText"),
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::symbolText),
                  QVariant(QString("r10")));
     }
 
@@ -231,7 +236,8 @@ private Q_SLOTS:
         fixture.dialog->on_m_pSymbolTextLE_returnPressed();
         QCOMPARE(fixture.symbol().text(), kept);
         QCOMPARE(textWhenSent, kept);
-        QCOMPARE(fixture.recorder.last(50).message.payload.value("SymbolText"), QVariant(kept));
+        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::symbolText),
+                 QVariant(kept));
     }
 
     void tooLargeASizeIsRefusedByTheSend()
@@ -300,7 +306,7 @@ private Q_SLOTS:
         fixture.enter(text);
         QCOMPARE(fixture.boxes.takeTexts(), QStringList(refusal));
         QCOMPARE(fixture.symbol().text(), QString());
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("")));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("")));
     }
 
     void textChangedIsGuarded_data()
@@ -337,7 +343,7 @@ private Q_SLOTS:
         }
         CanvasHost::uiApiOverrides() = {};
         fixture.enter("r20");
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r20")));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r20")));
     }
 };
 

@@ -2,6 +2,8 @@
 
 #include "DialogFixture.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <common_widgets.h>
 
@@ -9,6 +11,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -85,8 +89,9 @@ private Q_SLOTS:
             isRefused ? QStringList("Dialog Box|Illegal symbol name: " + name) : QStringList());
         QCOMPARE(fixture.symbol().text(), isRefused ? before : shown);
         QCOMPARE(fixture.find("m_pSelectFromEditorPB").styleSheet(), isRefused ? armed : disarmed);
-        QCOMPARE(fixture.recorder.codes(), isRefused ? QVector<int>{} : QVector<int>{50});
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(isRefused ? QString("") : shown));
+        QCOMPARE(fixture.recorder.codes(), isRefused ? QVector<int>{} : QVector<int>{Sent::Record});
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText),
+                 QVariant(isRefused ? QString("") : shown));
         QCOMPARE(select.size(), 1);  // the click's own
     }
 
@@ -96,8 +101,8 @@ private Q_SLOTS:
         fixture.choose("m_pArcTB");
         fixture.dialog->get_ChangeSymbol_Info({{7, "r30"}, {1, "r10"}, {3, "s20"}});
         QCOMPARE(fixture.boxes.takeTexts(), QStringList("Dialog Box|Illegal symbol name: s20"));
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{50, 50}));
-        QCOMPARE(fixture.recorder.messages()[0].message.payload.value("SymbolText"),
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::Record, Sent::Record}));
+        QCOMPARE(fixture.recorder.messages()[0].message.payload.value(RecordKeys::symbolText),
                  QVariant(QString("r10")));
         QCOMPARE(fixture.symbol().text(), QString("r30"));
         QCOMPARE(fixture.find("m_pSelectFromEditorPB").styleSheet(), disarmed);
@@ -128,10 +133,10 @@ private Q_SLOTS:
         fixture.setToolActive(false);
         fixture.dialog->receive_text(name);
         QCOMPARE(fixture.symbol().text(), name);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-        const QVariantMap sent = fixture.recorder.last(50).message.payload;
-        QCOMPARE(sent.value("SymbolText"), QVariant(stored));
-        QCOMPARE(sent.value("MirrorRotate"), QVariant(QString("15")));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        const QVariantMap sent = fixture.recorder.last(Sent::Record).message.payload;
+        QCOMPARE(sent.value(RecordKeys::symbolText), QVariant(stored));
+        QCOMPARE(sent.value(RecordKeys::mirrorRotate), QVariant(QString("15")));
     }
 
     void noChosenName()
@@ -142,7 +147,7 @@ private Q_SLOTS:
         fixture.dialog->receive_text("");
         fixture.dialog->Enter_Symbol_Text();
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant(QString("r10")));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
     }
 
     void chooser()

@@ -3,12 +3,15 @@
 #include "DialogFixture.h"
 #include "Main.h"
 #include "dimensions/Dimensious.h"
+#include "plugin/MessageCodes.h"
 
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
 #include <QTimer>
+
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -76,7 +79,7 @@ void openMenu(const DialogFixture& fixture, int tool)
 void changeLanguage(const DialogFixture& fixture)
 {
     PluginMetaData message("Host.dll", "Canvas_Tool_Strip.dll");
-    message.code = 20002201;
+    message.code = Accepted::LanguageChanged;
     fixture.strip->recMsgFromManager(message);
 }
 

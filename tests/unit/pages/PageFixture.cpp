@@ -1,6 +1,7 @@
 #include "PageFixture.h"
 
 #include "DialogFixture.h"
+#include "plugin/MessageCodes.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -8,8 +9,6 @@
 namespace {
 
 constexpr int greyRole = Qt::UserRole - 1;
-constexpr int directionCode = 52;
-constexpr int recordCode = 50;
 
 }  // namespace
 
@@ -179,7 +178,8 @@ QVariantMap PageFixture::record()
 {
     const QVector<int> codes = d->base.recorder.codes();
     for (int i = codes.size() - 1; i >= 0; --i) {
-        if (codes[i] == recordCode || codes[i] == directionCode) {
+        if (codes[i] == MessageCodes::Sent::Record ||
+            codes[i] == MessageCodes::Sent::DirectionRecord) {
             return d->base.recorder.messages()[i].message.payload;
         }
     }

@@ -2,12 +2,16 @@
 
 #include "DialogFixture.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <CamApiStandIn.h>
 #include <common_widgets.h>
 
 #include <QListWidget>
 #include <QPushButton>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -43,9 +47,9 @@ void addOtherJob()
 }
 
 /// Text as such: a comparison of variants takes a number for the text of its digits.
-QString sentText(const DialogFixture& fixture, const char* key)
+QString sentText(const DialogFixture& fixture, const QString& key)
 {
-    const QVariant value = fixture.recorder.last(50).message.payload.value(key);
+    const QVariant value = fixture.recorder.last(Sent::Record).message.payload.value(key);
     return value.type() == QVariant::String ? value.toString() : QString("no text");
 }
 
@@ -67,7 +71,8 @@ private Q_SLOTS:
         AddFeature dialog(&window, "job", "step", &window);
         dialog.getChangeCurrentTool();
         QCOMPARE(findNamed<QLineEdit>(dialog, "m_pFontLE").text(), QString());
-        QCOMPARE(recorder.last(50).message.payload.value("StringTextFont"), QVariant(QString("")));
+        QCOMPARE(recorder.last(Sent::Record).message.payload.value(RecordKeys::stringTextFont),
+                 QVariant(QString("")));
     }
 
     void fontsAreFetchedAnew()
@@ -83,12 +88,12 @@ private Q_SLOTS:
         font.setText("job");
         fixture.dialog->on_m_pFontLE_editingFinished();
         QCOMPARE(fetched, 1);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         fixture.dialog->set_job_info("other", "step");
         fixture.dialog->on_m_pFontLE_editingFinished();
         QCOMPARE(fetched, 2);
         QCOMPARE(font.text(), QString());
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
     }
 
     void fontPopup()
@@ -105,9 +110,10 @@ private Q_SLOTS:
         QCOMPARE(popups.size(), 1);
         emit popups[0]->on_send_Font("simple");
         QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("simple"));
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-        QCOMPARE(fixture.recorder.last(50).message.payload.value("StringTextFont"),
-                 QVariant(QString("simple")));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        QCOMPARE(
+            fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::stringTextFont),
+            QVariant(QString("simple")));
         fixture.dialog->close();
         QVERIFY(!popups[0]->isVisible());
     }
@@ -144,9 +150,10 @@ private Q_SLOTS:
             list.setCurrentRow(1);
             QTest::mouseClick(&findNamed(*popup, "m_pOkPB"), Qt::LeftButton);
             QCOMPARE(fixture.find<QLineEdit>("m_pTextLE").text(), QString("$$DATE"));
-            QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-            QCOMPARE(fixture.recorder.last(50).message.payload.value("TextContains"),
-                     QVariant(QString("$$DATE")));
+            QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+            QCOMPARE(
+                fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::textContains),
+                QVariant(QString("$$DATE")));
             fixture.dialog->close();
             QVERIFY(!popup->isVisible());
         }
@@ -157,8 +164,9 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.dialog->get_Special_TEXT(QString::fromUtf8("日期|"));
-        QCOMPARE(fixture.recorder.last(50).message.payload.value("TextContains"),
-                 QVariant(QString::fromUtf8("$$日期|")));
+        QCOMPARE(
+            fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::textContains),
+            QVariant(QString::fromUtf8("$$日期|")));
     }
 
     void theOtherTextSlotDoesNothing()
@@ -195,8 +203,8 @@ private Q_SLOTS:
         fixture.choose("m_pTextTB");
         fixture.dialog->get_font_name("fancy");
         QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("fancy"));
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-        QCOMPARE(sentText(fixture, "StringTextFont"), QString("fancy"));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        QCOMPARE(sentText(fixture, RecordKeys::stringTextFont), QString("fancy"));
     }
 
     /// The field is read-only, but Enter finishes its editing all the same.
@@ -210,14 +218,15 @@ private Q_SLOTS:
         QTest::keyClicks(&font, "x");
         QTest::keyClick(&font, Qt::Key_Return);
         QCOMPARE(font.text(), QString("standard"));
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
 
         fixture.recorder.clear();
         fixture.dialog->set_job_info("other", "step");
         QTest::keyClick(&font, Qt::Key_Return);
         QCOMPARE(font.text(), QString());
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value("StringTextFont").toString(), QString("standard"));
+        QCOMPARE(fixture.record().value(RecordKeys::stringTextFont).toString(),
+                 QString("standard"));
         QVERIFY(fixture.boxes.take().isEmpty());
     }
 
@@ -245,8 +254,8 @@ private Q_SLOTS:
             fixture.recorder.clear();
             fixture.dialog->get_Special_TEXT(name);
             QCOMPARE(fixture.find<QLineEdit>("m_pTextLE").text(), QString("$$") + name);
-            QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
-            QCOMPARE(sentText(fixture, "TextContains"), QString("$$") + name);
+            QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+            QCOMPARE(sentText(fixture, RecordKeys::textContains), QString("$$") + name);
         }
     }
 

@@ -5,6 +5,8 @@
 #include "PageFixture.h"
 
 #include "addfeature/AddFeature.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -12,11 +14,13 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+namespace Sent = MessageCodes::Sent;
+
 using PageCases::Case;
 
 namespace {
 
-const QList<int> attributesAndRecord = {51, 50};
+const QList<int> attributesAndRecord = {Sent::AttributeMap, Sent::Record};
 const QStringList rectangle = {"m_pLineCMB=2"};
 const QStringList roundCorner = {"m_pLineCMB=2", "m_pCornerTypeCMB=1"};
 const QStringList slot = {"m_pLineCMB=3"};
@@ -34,7 +38,7 @@ Case kind(int index, const char* value, const QStringList& states)
     // From another kind, with everything in sight that a kind may hide.
     row.before = QStringList{"m_pAttributesCB", index == 0 ? "m_pLineCMB=1" : "m_pLineCMB=0"};
     row.action = QStringLiteral("m_pLineCMB=%1").arg(index);
-    row.entries = {{"Line", text(value)}};
+    row.entries = {{RecordKeys::line, text(value)}};
     row.codes = attributesAndRecord;
     row.states = states;
     return row;
@@ -62,19 +66,19 @@ QList<Case> kinds()
         {"while pads are chosen",
          {"m_pPadTB"},
          "m_pLineCMB=1",
-         {{"Line", text("2")}},
+         {{RecordKeys::line, LineKind::polyline}},
          attributesAndRecord,
          {"hidden m_pMirrorCMB", "hidden m_pAngleValueSB"}},
         {"no kind",
          {"m_pLineCMB=1"},
          "m_pLineCMB=-1",
-         {{"Line", text("2")}},
+         {{RecordKeys::line, LineKind::polyline}},
          attributesAndRecord,
          {"enabled m_pClosedCB", "shown m_pDirectionGroup"}},
         {"slot and back",
          {"m_pAttributesCB", "m_pLineCMB=3"},
          "m_pLineCMB=0",
-         {{"Line", text("1")}},
+         {{RecordKeys::line, LineKind::single}},
          attributesAndRecord,
          common},
     };
@@ -91,8 +95,8 @@ QList<Case> directionRows()
         rows.append({"",
                      {isFixed ? "m_pVerticalRB" : "m_pFixedAngleRB"},
                      buttons[id],
-                     {{"AngleGroup", id + 1}, {"Angel(deg)", text("")}},
-                     {52},
+                     {{RecordKeys::angleGroup, id + 1}, {RecordKeys::angle, text("")}},
+                     {Sent::DirectionRecord},
                      isFixed ? QStringList{"enabled m_pAngleLE", "enabled m_pAngleLB"}
                              : QStringList{"disabled m_pAngleLE", "disabled m_pAngleLB"}});
     }
@@ -106,8 +110,8 @@ QList<Case> angles()
         rows.append({QStringLiteral("angle \"%1\"").arg(legal),
                      fixedAngle,
                      text("m_pAngleLE<") + legal,
-                     {{"Angel(deg)", text(legal)}},
-                     {52},
+                     {{RecordKeys::angle, text(legal)}},
+                     {Sent::DirectionRecord},
                      {},
                      legal});
     }
@@ -115,7 +119,7 @@ QList<Case> angles()
         rows.append({QStringLiteral("angle \"%1\"").arg(illegal),
                      fixedAngle + QStringList("m_pAngleLE:45"),
                      text("m_pAngleLE<") + illegal,
-                     {{"Angel(deg)", text("45")}},
+                     {{RecordKeys::angle, text("45")}},
                      {},
                      {},
                      "45",
@@ -133,8 +137,8 @@ QList<Case> corners()
             {QStringLiteral("corner %1").arg(index),
              rectangle + QStringList(index == 1 ? "m_pCornerTypeCMB=3" : "m_pCornerTypeCMB=1"),
              QStringLiteral("m_pCornerTypeCMB=%1").arg(index),
-             {{"CornerType", index + 1}},
-             {50},
+             {{RecordKeys::cornerType, index + 1}},
+             {Sent::Record},
              {state + "m_pCornerRadiusLB", state + "m_pCornerRadiusLE",
               state + "m_pCornerRadiusUnitLB"}});
     }
@@ -144,40 +148,40 @@ QList<Case> corners()
 QList<Case> silent()
 {
     return {
-        {"", slot, "m_pSlotAngleLE<-12.5", {{"SlotAngle", text("-12.5")}}},
-        {"", slot, "m_pSlotAngleLE<99999", {{"SlotAngle", text("99999")}}},
-        {"", slot, "m_pSlotAngleLE<", {{"SlotAngle", text("")}}},
-        {"", slot, "m_pSlotDecodeLE<7", {{"SlotDecode", text("7")}}},
-        {"", slot, "m_pSlotDecodeLE<x", {{"SlotDecode", text("x")}}},
-        {"", slot, "m_pSlotPlatedCMB=1", {{"SlotPlated", text("2")}}},
+        {"", slot, "m_pSlotAngleLE<-12.5", {{RecordKeys::slotAngle, text("-12.5")}}},
+        {"", slot, "m_pSlotAngleLE<99999", {{RecordKeys::slotAngle, text("99999")}}},
+        {"", slot, "m_pSlotAngleLE<", {{RecordKeys::slotAngle, text("")}}},
+        {"", slot, "m_pSlotDecodeLE<7", {{RecordKeys::slotDecode, text("7")}}},
+        {"", slot, "m_pSlotDecodeLE<x", {{RecordKeys::slotDecode, text("x")}}},
+        {"", slot, "m_pSlotPlatedCMB=1", {{RecordKeys::slotPlated, SlotPlated::no}}},
         {"",
          slot + QStringList("m_pSlotPlatedCMB=1"),
          "m_pSlotPlatedCMB=0",
-         {{"SlotPlated", text("1")}}},
+         {{RecordKeys::slotPlated, SlotPlated::yes}}},
         {"",
          slot + QStringList("m_pSlotPlatedCMB=1"),
          "m_pSlotPlatedCMB=-1",
-         {{"SlotPlated", text("2")}}},
-        {"typed slot angle", slot, "m_pSlotAngleLE:30", {{"SlotAngle", text("30")}}},
+         {{RecordKeys::slotPlated, SlotPlated::no}}},
+        {"typed slot angle", slot, "m_pSlotAngleLE:30", {{RecordKeys::slotAngle, text("30")}}},
     };
 }
 
 QList<Case> closed()
 {
     return {
-        {"", {"m_pLineCMB=1"}, "m_pClosedCB", {{"Closed", text("1")}}, {50}},
+        {"", {"m_pLineCMB=1"}, "m_pClosedCB", {{RecordKeys::closed, Closed::yes}}, {Sent::Record}},
         {"open again",
          {"m_pLineCMB=1", "m_pClosedCB"},
          "m_pClosedCB",
-         {{"Closed", text("0")}},
-         {50}},
+         {{RecordKeys::closed, Closed::no}},
+         {Sent::Record}},
         {"kept by a single line",
          {"m_pLineCMB=1", "m_pClosedCB"},
          "m_pLineCMB=0",
-         {{"Closed", text("1")}, {"Line", text("1")}},
+         {{RecordKeys::closed, Closed::yes}, {RecordKeys::line, LineKind::single}},
          attributesAndRecord,
          {"checked m_pClosedCB", "disabled m_pClosedCB"}},
-        {"disabled", {}, "m_pClosedCB", {{"Closed", text("0")}}},
+        {"disabled", {}, "m_pClosedCB", {{RecordKeys::closed, Closed::no}}},
     };
 }
 
@@ -212,9 +216,14 @@ private Q_SLOTS:
 
     void lengths_data()
     {
-        PageCases::addRows(PageCases::lengthCases(
-            {{"m_pCornerRadiusLE", "CornerRadius", roundCorner, 50000, {50}, {}},
-             {"m_pLengthLE", "SlotLength", slot, 50000, {}, {}}}));
+        PageCases::addRows(
+            PageCases::lengthCases({{"m_pCornerRadiusLE",
+                                     RecordKeys::cornerRadius,
+                                     roundCorner,
+                                     50000,
+                                     {Sent::Record},
+                                     {}},
+                                    {"m_pLengthLE", RecordKeys::slotLength, slot, 50000, {}, {}}}));
     }
     void lengths() { PageCases::run(); }
 
@@ -359,7 +368,8 @@ private Q_SLOTS:
         fixture.perform(QStringList{"m_pLineCMB=2", "m_pCornerTypeCMB=2", "m_pPadTB", "m_pLineTB"});
         QCOMPARE(fixture.index("m_pLineCMB"), 2);
         QVERIFY(fixture.hasState("shown m_pCornerGroup"));
-        QCOMPARE(fixture.record().value("CornerType"), QVariant(3));
+        QCOMPARE(fixture.record().value(RecordKeys::cornerType),
+                 QVariant(CornerType::chamfer.toInt()));
     }
 };
 

@@ -4,12 +4,16 @@
 #include "Main.h"
 #include "PageCases.h"
 #include "PageFixture.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <UiApiStandIn.h>
 
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+
+namespace Sent = MessageCodes::Sent;
 
 using PageCases::Case;
 
@@ -32,7 +36,7 @@ QList<Case> numbers(const QString& field, const QString& key, const QStringList&
                      pad + QStringList(field + "~7"),
                      field + "~" + value,
                      {{key, text(value)}},
-                     {50},
+                     {Sent::Record},
                      {},
                      value});
     }
@@ -89,7 +93,7 @@ QList<Case> stepRows(const QString& field, const QString& key)
         row.metric = step.metric;
         if (step.stored) {
             row.entries = {{key, QString::fromLatin1(step.stored)}};
-            row.codes = {50};
+            row.codes = {Sent::Record};
             row.shown = *step.typed ? QString::fromLatin1(step.typed) : QString("0");
         } else {
             // The field falls back to "0" while the record keeps the last accepted step.
@@ -112,8 +116,8 @@ private Q_SLOTS:
     {
         const QStringList legal = {"0", "1", "50", "50.0", "", "abc", "-0"};
         const QStringList illegal = {"51", "50.01", "-1", "1e9", "inf", "nan"};
-        PageCases::addRows(numbers("m_pDrilNxLE", "PadNx", legal, illegal) +
-                           numbers("m_pDrilNyLE", "PadNy", legal, illegal));
+        PageCases::addRows(numbers("m_pDrilNxLE", RecordKeys::padNx, legal, illegal) +
+                           numbers("m_pDrilNyLE", RecordKeys::padNy, legal, illegal));
     }
     void counts() { PageCases::run(); }
 
@@ -121,14 +125,15 @@ private Q_SLOTS:
     {
         const QStringList legal = {"0", "-100", "100", "-0.5", "", "abc", "1e2"};
         const QStringList illegal = {"100.1", "-100.1", "1e3", "inf", "-inf", "nan"};
-        PageCases::addRows(numbers("m_pDrilXsclLE", "PadXscl", legal, illegal) +
-                           numbers("m_pDrilYsclLE", "PadYscl", legal, illegal));
+        PageCases::addRows(numbers("m_pDrilXsclLE", RecordKeys::padXscl, legal, illegal) +
+                           numbers("m_pDrilYsclLE", RecordKeys::padYscl, legal, illegal));
     }
     void factors() { PageCases::run(); }
 
     void steps_data()
     {
-        PageCases::addRows(stepRows("m_pDrilDxLE", "PadDx") + stepRows("m_pDrilDyLE", "PadDy"));
+        PageCases::addRows(stepRows("m_pDrilDxLE", RecordKeys::padDx) +
+                           stepRows("m_pDrilDyLE", RecordKeys::padDy));
     }
     void steps() { PageCases::run(); }
 
@@ -142,13 +147,13 @@ private Q_SLOTS:
         nx.setFocus();
         nx.selectAll();
         QTest::keyClick(&nx, '5');
-        QCOMPARE(fixture.codes(), QList<int>{50});
-        QCOMPARE(fixture.record().value("PadNx"), QVariant(QString("5")));
+        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
+        QCOMPARE(fixture.record().value(RecordKeys::padNx), QVariant(QString("5")));
         QTest::keyClick(&nx, '1');
         QCOMPARE(fixture.text("m_pDrilNxLE"), QString("5"));
         QCOMPARE(fixture.boxes().size(), 1);
-        QCOMPARE(fixture.codes(), QList<int>{50});
-        QCOMPARE(fixture.record().value("PadNx"), QVariant(QString("5")));
+        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
+        QCOMPARE(fixture.record().value(RecordKeys::padNx), QVariant(QString("5")));
     }
 
     void typing_data()
@@ -205,8 +210,8 @@ private Q_SLOTS:
         fixture.type("m_pDrilDxLE", "");
         fixture.leave("m_pDrilDxLE", "Tab", {});
         QCOMPARE(fixture.text("m_pDrilDxLE"), QString("0"));
-        QCOMPARE(fixture.codes(), QList<int>{50});
-        QCOMPARE(fixture.record().value("PadDx"), QVariant(QString("0")));
+        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
+        QCOMPARE(fixture.record().value(RecordKeys::padDx), QVariant(QString("0")));
     }
 
     void refusals_data()

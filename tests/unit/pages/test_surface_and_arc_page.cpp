@@ -9,6 +9,10 @@
 #include <QComboBox>
 
 #include "addfeature/AddFeature.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
+
+namespace Sent = MessageCodes::Sent;
 
 using PageCases::Case;
 
@@ -27,13 +31,13 @@ QList<Case> choices(const QStringList& before, const QString& combo, const QStri
                      before + QStringList(QStringLiteral("%1=%2").arg(combo).arg(index ? 0 : 1)),
                      QStringLiteral("%1=%2").arg(combo).arg(index),
                      {{key, QString::number(index + 1)}},
-                     {50}});
+                     {Sent::Record}});
     }
     rows.append({combo + " without an item",
                  before + QStringList(combo + "=1"),
                  combo + "=-1",
                  {{key, QString("2")}},
-                 {50}});
+                 {Sent::Record}});
     return rows;
 }
 
@@ -45,20 +49,22 @@ QList<Case> families()
         {"circle",
          arc + QStringList("m_pArcCMB=1"),
          "m_pArcAndCircleCMB=1",
-         {{"Arc&Circle", QString("2")}, {"ArcMode", QString("2")}},
-         {50},
+         {{RecordKeys::arcAndCircle, ArcOrCircle::circle},
+          {RecordKeys::arcMode, ArcMode::startEndEdge}},
+         {Sent::Record},
          circleStates},
         {"arc again",
          circle + QStringList("m_pCircleCMB=2"),
          "m_pArcAndCircleCMB=0",
-         {{"Arc&Circle", QString("1")}, {"CircleMode", QString("3")}},
-         {50},
+         {{RecordKeys::arcAndCircle, ArcOrCircle::arc},
+          {RecordKeys::circleMode, CircleMode::pointCenter}},
+         {Sent::Record},
          arcStates},
         {"neither",
          circle,
          "m_pArcAndCircleCMB=-1",
-         {{"Arc&Circle", QString("2")}},
-         {50},
+         {{RecordKeys::arcAndCircle, ArcOrCircle::circle}},
+         {Sent::Record},
          circleStates},
     };
 }
@@ -67,13 +73,23 @@ QList<Case> families()
 QList<Case> types()
 {
     return {
-        {"surface", {}, "m_pSurfaceTB", {{"Features", 3}}, {51, 50}, {"shown m_pSurfacePage"}},
-        {"arc", {}, "m_pArcTB", {{"Features", 4}}, {51, 50}, {"shown m_pArcPage"}},
+        {"surface",
+         {},
+         "m_pSurfaceTB",
+         {{RecordKeys::features, FeatureKind::surface.toInt()}},
+         {Sent::AttributeMap, Sent::Record},
+         {"shown m_pSurfacePage"}},
+        {"arc",
+         {},
+         "m_pArcTB",
+         {{RecordKeys::features, FeatureKind::arc.toInt()}},
+         {Sent::AttributeMap, Sent::Record},
+         {"shown m_pArcPage"}},
         {"arc after surface",
          surface + QStringList("m_pSurfShapeCMB=2"),
          "m_pArcTB",
-         {{"Features", 4}},
-         {51, 50},
+         {{RecordKeys::features, FeatureKind::arc.toInt()}},
+         {Sent::AttributeMap, Sent::Record},
          {"hidden m_pSurfacePage", "shown m_pArcPage"}},
     };
 }
@@ -81,12 +97,16 @@ QList<Case> types()
 QList<Case> clockWise()
 {
     return {
-        {"counter-clockwise", arc, "m_pClockWiseCB", {{"ClockWise", QString("2")}}, {50}},
+        {"counter-clockwise",
+         arc,
+         "m_pClockWiseCB",
+         {{RecordKeys::clockWise, ClockWise::no}},
+         {Sent::Record}},
         {"clockwise again",
          arc + QStringList("m_pClockWiseCB"),
          "m_pClockWiseCB",
-         {{"ClockWise", QString("1")}},
-         {50}},
+         {{RecordKeys::clockWise, ClockWise::yes}},
+         {Sent::Record}},
     };
 }
 
@@ -98,21 +118,21 @@ class TestSurfaceAndArcPage : public QObject {
 private Q_SLOTS:
     void table_data()
     {
-        PageCases::addRows(choices(surface, "m_pSurfShapeCMB", "SurfaceShape", 3) +
-                           choices(arc, "m_pArcCMB", "ArcMode", 7) +
-                           choices(circle, "m_pCircleCMB", "CircleMode", 4) + families() +
+        PageCases::addRows(choices(surface, "m_pSurfShapeCMB", RecordKeys::surfaceShape, 3) +
+                           choices(arc, "m_pArcCMB", RecordKeys::arcMode, 7) +
+                           choices(circle, "m_pCircleCMB", RecordKeys::circleMode, 4) + families() +
                            clockWise() + types());
     }
     void table() { PageCases::run(); }
 
     void defaults()
     {
-        PageCases::compareStart({{"Features", QString("1")},
-                                 {"SurfaceShape", QString("1")},
-                                 {"Arc&Circle", QString("1")},
-                                 {"ArcMode", QString("1")},
-                                 {"CircleMode", QString("1")},
-                                 {"ClockWise", QString("1")}});
+        PageCases::compareStart({{RecordKeys::features, FeatureKind::line},
+                                 {RecordKeys::surfaceShape, SurfaceKind::rectangle},
+                                 {RecordKeys::arcAndCircle, ArcOrCircle::arc},
+                                 {RecordKeys::arcMode, ArcMode::startCenterEnd},
+                                 {RecordKeys::circleMode, CircleMode::centerRadius},
+                                 {RecordKeys::clockWise, ClockWise::yes}});
     }
 
     void connections()
@@ -134,12 +154,9 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("before");
         QTest::addColumn<QString>("combo");
         QTest::addColumn<QString>("key");
-        QTest::newRow("surface") << surface << "m_pSurfShapeCMB"
-                                 << "SurfaceShape";
-        QTest::newRow("arc") << arc << "m_pArcCMB"
-                             << "ArcMode";
-        QTest::newRow("circle") << circle << "m_pCircleCMB"
-                                << "CircleMode";
+        QTest::newRow("surface") << surface << "m_pSurfShapeCMB" << RecordKeys::surfaceShape;
+        QTest::newRow("arc") << arc << "m_pArcCMB" << RecordKeys::arcMode;
+        QTest::newRow("circle") << circle << "m_pCircleCMB" << RecordKeys::circleMode;
     }
     void byHand()
     {
@@ -151,13 +168,13 @@ private Q_SLOTS:
         fixture.forget();
         const auto stored = [&] { return fixture.record().value(key).toString(); };
         fixture.chooseByMouse(combo, 2);
-        QCOMPARE(fixture.codes(), QList<int>{50});
+        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
         QCOMPARE(stored(), QString("3"));
         fixture.press(combo, Qt::Key_Up, 1);
-        QCOMPARE(fixture.codes(), (QList<int>{50, 50}));
+        QCOMPARE(fixture.codes(), (QList<int>{Sent::Record, Sent::Record}));
         QCOMPARE(stored(), QString("2"));
         fixture.turnWheel(combo, 1);
-        QCOMPARE(fixture.codes(), (QList<int>{50, 50, 50}));
+        QCOMPARE(fixture.codes(), (QList<int>{Sent::Record, Sent::Record, Sent::Record}));
         QCOMPARE(stored(), QString("3"));
     }
 
@@ -195,11 +212,13 @@ private Q_SLOTS:
         fixture.setText("m_pSymbolTextLE", "r60000");
         fixture.forget();
         fixture.perform(step);
-        QCOMPARE(fixture.codes(), isSent ? QList<int>{50} : QList<int>{});
+        QCOMPARE(fixture.codes(), isSent ? QList<int>{Sent::Record} : QList<int>{});
         QCOMPARE(fixture.boxes().size(), isSent ? 0 : 1);
         QCOMPARE(fixture.text("m_pSymbolTextLE"), QString(isSent ? "r60000" : ""));
         // It is kept all the same.
-        QCOMPARE(fixture.record().value(isSent ? "SurfaceShape" : "ArcMode").toString(),
+        QCOMPARE(fixture.record()
+                     .value(isSent ? RecordKeys::surfaceShape : RecordKeys::arcMode)
+                     .toString(),
                  QString("2"));
     }
 
@@ -252,7 +271,7 @@ private Q_SLOTS:
     {
         PageFixture fixture;
         fixture.dialog().on_ClockWise_CheckState_Changed(Qt::Unchecked);
-        QCOMPARE(fixture.record().value("ClockWise"), QVariant(QString("1")));
+        QCOMPARE(fixture.record().value(RecordKeys::clockWise), QVariant(ClockWise::yes));
     }
 
     void keepTheirStateWhenShownAgain()
@@ -261,8 +280,8 @@ private Q_SLOTS:
         fixture.perform(QStringList{"m_pSurfaceTB", "m_pSurfShapeCMB=2", "m_pArcTB",
                                     "m_pArcAndCircleCMB=1", "m_pSurfaceTB"});
         QCOMPARE(fixture.index("m_pSurfShapeCMB"), 2);
-        QCOMPARE(fixture.record().value("SurfaceShape"), QVariant(QString("3")));
-        QCOMPARE(fixture.record().value("Arc&Circle"), QVariant(QString("2")));
+        QCOMPARE(fixture.record().value(RecordKeys::surfaceShape), QVariant(SurfaceKind::circle));
+        QCOMPARE(fixture.record().value(RecordKeys::arcAndCircle), QVariant(ArcOrCircle::circle));
     }
 
     void language_data()

@@ -5,11 +5,15 @@
 #include "PageCases.h"
 #include "PageFixture.h"
 #include "addfeature/AddFeature.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+
+namespace Sent = MessageCodes::Sent;
 
 using PageCases::Case;
 
@@ -36,14 +40,16 @@ QList<Case> barcodeTypes()
         rows.append({QStringLiteral("barcode type %1").arg(index),
                      barcode + QStringList(index == 4 ? "m_pUPCCMB=0" : "m_pUPCCMB=4"),
                      QStringLiteral("m_pUPCCMB=%1").arg(index),
-                     {{"BarcodeMode", index + 1}},
+                     {{RecordKeys::barcodeMode, index + 1}},
                      {},
                      index == 4 ? on : off});
     }
     rows.append({"matrix values are kept",
                  matrixCode + QStringList{"m_pAddMarkersCB", "m_pMatrixLE<12x12"},
                  "m_pUPCCMB=3",
-                 {{"AddMarkers", text("1")}, {"BarcodeMatrix", text("12x12")}, {"BarcodeMode", 4}},
+                 {{RecordKeys::addMarkers, Added::yes},
+                  {RecordKeys::barcodeMatrix, text("12x12")},
+                  {RecordKeys::barcodeMode, Symbology::code128C.toInt()}},
                  {},
                  off});
     return rows;
@@ -52,75 +58,86 @@ QList<Case> barcodeTypes()
 QList<Case> barcodeOptions()
 {
     return {
-        {"", barcode, "m_pAddStringCB", {{"AddString", text("1")}}, {}, {"enabled m_pPositionCMB"}},
+        {"",
+         barcode,
+         "m_pAddStringCB",
+         {{RecordKeys::addString, Added::yes}},
+         {},
+         {"enabled m_pPositionCMB"}},
         {"string off",
          barcode + QStringList("m_pAddStringCB"),
          "m_pAddStringCB",
-         {{"AddString", text("2")}},
+         {{RecordKeys::addString, Added::no}},
          {},
          {"disabled m_pPositionCMB"}},
         {"bottom",
          barcode + QStringList("m_pAddStringCB"),
          "m_pPositionCMB=1",
-         {{"StringPosition", text("1")}}},
+         {{RecordKeys::stringPosition, StringPosition::bottom}}},
         {"top",
          barcode + QStringList{"m_pAddStringCB", "m_pPositionCMB=1"},
          "m_pPositionCMB=0",
-         {{"StringPosition", text("2")}}},
+         {{RecordKeys::stringPosition, StringPosition::top}}},
         {"no position",
          barcode + QStringList("m_pPositionCMB=1"),
          "m_pPositionCMB=-1",
-         {{"StringPosition", text("1")}}},
+         {{RecordKeys::stringPosition, StringPosition::bottom}}},
         // The markers decide what the background is stored as.
         {"background alone",
          matrixCode,
          "m_pBackgroundCB",
-         {{"AddBackground", text("2")}, {"AddMarkers", text("2")}}},
+         {{RecordKeys::addBackground, Added::no}, {RecordKeys::addMarkers, Added::no}}},
         {"background with markers",
          matrixCode + QStringList("m_pAddMarkersCB"),
          "m_pBackgroundCB",
-         {{"AddBackground", text("1")}}},
+         {{RecordKeys::addBackground, Added::yes}}},
         {"background off with markers",
          matrixCode + QStringList{"m_pBackgroundCB", "m_pAddMarkersCB"},
          "m_pBackgroundCB",
-         {{"AddBackground", text("1")}}},
+         {{RecordKeys::addBackground, Added::yes}}},
         {"markers",
          matrixCode,
          "m_pAddMarkersCB",
-         {{"AddMarkers", text("1")}, {"AddBackground", text("2")}}},
+         {{RecordKeys::addMarkers, Added::yes}, {RecordKeys::addBackground, Added::no}}},
         {"markers off",
          matrixCode + QStringList("m_pAddMarkersCB"),
          "m_pAddMarkersCB",
-         {{"AddMarkers", text("2")}}},
-        {"", matrixCode, "m_pMatrixLE<anything", {{"BarcodeMatrix", text("anything")}}},
+         {{RecordKeys::addMarkers, Added::no}}},
+        {"", matrixCode, "m_pMatrixLE<anything", {{RecordKeys::barcodeMatrix, text("anything")}}},
         {"", matrixCode, "m_pMatrixPB", {}},
-        {"typed matrix", matrixCode, "m_pMatrixLE:8 x 18?", {{"BarcodeMatrix", text("8 x 18?")}}},
-        {"no matrix", matrixCode, "m_pMatrixLE<", {{"BarcodeMatrix", text("")}}},
-        {"typed height", barcode, "m_pHeightLE:12.5", {{"BarcodeHeight", text("317.5")}}},
+        {"typed matrix",
+         matrixCode,
+         "m_pMatrixLE:8 x 18?",
+         {{RecordKeys::barcodeMatrix, text("8 x 18?")}}},
+        {"no matrix", matrixCode, "m_pMatrixLE<", {{RecordKeys::barcodeMatrix, text("")}}},
+        {"typed height", barcode, "m_pHeightLE:12.5", {{RecordKeys::barcodeHeight, text("317.5")}}},
     };
 }
 
 QList<Case> plotStamps()
 {
     QList<Case> rows = {
-        {"stamp barcode", plotStamp, "m_pOrbotechTypeCMB=1", {{"OrbotechType", text("2")}}},
+        {"stamp barcode",
+         plotStamp,
+         "m_pOrbotechTypeCMB=1",
+         {{RecordKeys::orbotechType, PlotStampType::barcode}}},
         {"stamp string",
          plotStamp + QStringList("m_pOrbotechTypeCMB=1"),
          "m_pOrbotechTypeCMB=0",
-         {{"OrbotechType", text("1")}}},
-        {"no stamp", plotStamp, "m_pOrbotechTypeCMB=-1", {{"OrbotechType", 0}}},
+         {{RecordKeys::orbotechType, PlotStampType::string}}},
+        {"no stamp", plotStamp, "m_pOrbotechTypeCMB=-1", {{RecordKeys::orbotechType, 0}}},
     };
     for (int index = 1; index < 4; ++index) {
         rows.append({QString(),
                      plotStamp,
                      QStringLiteral("m_pOrbotechFontSizeCMB=%1").arg(index),
-                     {{"OrbotechFontSize", index + 1}}});
+                     {{RecordKeys::orbotechFontSize, index + 1}}});
     }
     for (int index = 1; index < 7; ++index) {
         rows.append({QString(),
                      plotStamp,
                      QStringLiteral("m_pOrbotechZoomCMB=%1").arg(index),
-                     {{"OrbotechZoom", index + 1}}});
+                     {{RecordKeys::orbotechZoom, index + 1}}});
     }
     return rows;
 }
@@ -131,19 +148,20 @@ QList<Case> cannedTexts()
         {"typed hole size",
          canned,
          "m_pCannedHoleSizeLE:20.5",
-         {{"CannedHoleSize", text("520.7")}}},
+         {{RecordKeys::cannedHoleSize, text("520.7")}}},
         {"6 by 7",
          canned + QStringList("m_pOrbotechZoomCMB=6"),
          "m_pCannedHoleSizeCMB=1",
-         {{"CannedHoleMode", text("2")}, {"OrbotechZoom", 7}}},
+         {{RecordKeys::cannedHoleMode, CannedHoleMode::sixBySeven}, {RecordKeys::orbotechZoom, 7}}},
         {"5 by 7",
          canned + QStringList("m_pCannedHoleSizeCMB=1"),
          "m_pCannedHoleSizeCMB=0",
-         {{"CannedHoleMode", text("1")}, {"OrbotechZoom", 1}}},
+         {{RecordKeys::cannedHoleMode, CannedHoleMode::fiveBySeven},
+          {RecordKeys::orbotechZoom, 1}}},
         {"no mode",
          canned + QStringList("m_pCannedHoleSizeCMB=1"),
          "m_pCannedHoleSizeCMB=-1",
-         {{"CannedHoleMode", text("2")}, {"OrbotechZoom", 1}}},
+         {{RecordKeys::cannedHoleMode, CannedHoleMode::sixBySeven}, {RecordKeys::orbotechZoom, 1}}},
     };
 }
 
@@ -162,8 +180,8 @@ private Q_SLOTS:
     void lengths_data()
     {
         PageCases::addRows(PageCases::lengthCases(
-            {{"m_pHeightLE", "BarcodeHeight", barcode, 50000, {}, {}},
-             {"m_pCannedHoleSizeLE", "CannedHoleSize", canned, 50000, {}, {}}}));
+            {{"m_pHeightLE", RecordKeys::barcodeHeight, barcode, 50000, {}, {}},
+             {"m_pCannedHoleSizeLE", RecordKeys::cannedHoleSize, canned, 50000, {}, {}}}));
     }
     void lengths() { PageCases::run(); }
 
@@ -176,18 +194,18 @@ private Q_SLOTS:
     void defaults()
     {
         QFETCH(bool, metric);
-        PageCases::compareStart({{"BarcodeMode", text("1")},
-                                 {"AddString", text("2")},
-                                 {"AddBackground", text("2")},
-                                 {"StringPosition", text("2")},
-                                 {"AddMarkers", text("2")},
-                                 {"BarcodeMatrix", text("Minimal")},
-                                 {"BarcodeHeight", text("6350")},
-                                 {"OrbotechType", text("1")},
-                                 {"OrbotechFontSize", 1},
-                                 {"OrbotechZoom", 1},
-                                 {"CannedHoleMode", text("1")},
-                                 {"CannedHoleSize", text("508")}},
+        PageCases::compareStart({{RecordKeys::barcodeMode, Symbology::upc39},
+                                 {RecordKeys::addString, Added::no},
+                                 {RecordKeys::addBackground, Added::no},
+                                 {RecordKeys::stringPosition, StringPosition::top},
+                                 {RecordKeys::addMarkers, Added::no},
+                                 {RecordKeys::barcodeMatrix, text("Minimal")},
+                                 {RecordKeys::barcodeHeight, text("6350")},
+                                 {RecordKeys::orbotechType, PlotStampType::string},
+                                 {RecordKeys::orbotechFontSize, 1},
+                                 {RecordKeys::orbotechZoom, 1},
+                                 {RecordKeys::cannedHoleMode, CannedHoleMode::fiveBySeven},
+                                 {RecordKeys::cannedHoleSize, text("508")}},
                                 metric);
     }
 
@@ -304,8 +322,8 @@ private Q_SLOTS:
         PageFixture fixture;
         fixture.dialog().on_AddString_CheckState_Changed(Qt::Checked);
         fixture.dialog().on_m_pAddMarkersCB_CheckState_Changed(Qt::Checked);
-        QCOMPARE(fixture.record().value("AddString"), QVariant(QString("2")));
-        QCOMPARE(fixture.record().value("AddMarkers"), QVariant(QString("2")));
+        QCOMPARE(fixture.record().value(RecordKeys::addString), QVariant(Added::no));
+        QCOMPARE(fixture.record().value(RecordKeys::addMarkers), QVariant(Added::no));
     }
 
     void theHoleModeWritesTheZoomToo()
@@ -318,9 +336,9 @@ private Q_SLOTS:
             const QSignalBlocker blocker(&fixture.find<QComboBox>("m_pOrbotechZoomCMB"));
             fixture.perform("m_pOrbotechZoomCMB=4");
         }
-        QCOMPARE(fixture.record().value("OrbotechZoom"), QVariant(1));
+        QCOMPARE(fixture.record().value(RecordKeys::orbotechZoom), QVariant(1));
         fixture.perform("m_pCannedHoleSizeCMB=1");
-        QCOMPARE(fixture.record().value("OrbotechZoom"), QVariant(5));
+        QCOMPARE(fixture.record().value(RecordKeys::orbotechZoom), QVariant(5));
     }
 
     void valuesTravelWithTheNextSend()
@@ -331,9 +349,9 @@ private Q_SLOTS:
         fixture.perform("m_pHeightLE<100");
         QCOMPARE(fixture.codes(), QList<int>());
         fixture.perform("m_pPolarityCMB=1");
-        QCOMPARE(fixture.codes(), QList<int>{50});
-        QCOMPARE(fixture.record().value("BarcodeHeight"), QVariant(QString("2540")));
-        QCOMPARE(fixture.record().value("TextFormat"), QVariant(QString("BarcodeMode")));
+        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
+        QCOMPARE(fixture.record().value(RecordKeys::barcodeHeight), QVariant(QString("2540")));
+        QCOMPARE(fixture.record().value(RecordKeys::textFormat), QVariant(TextKind::barcode));
     }
 };
 

@@ -4,6 +4,8 @@
 #include "Main.h"
 #include "PageCases.h"
 #include "PageFixture.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <UiApiStandIn.h>
 
@@ -12,6 +14,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegExpValidator>
+
+namespace Sent = MessageCodes::Sent;
 
 using PageCases::Case;
 
@@ -41,31 +45,33 @@ QList<Case> formats()
         {"",
          page + QStringList("m_pTextFormatCMB=1"),
          "m_pTextFormatCMB=0",
-         {{"TextFormat", QString("1")}},
+         {{RecordKeys::textFormat, TextKind::string}},
          {},
          only(0) + fontOn},
         {"",
          page,
          "m_pTextFormatCMB=1",
-         {{"TextFormat", QString("BarcodeMode")}, {"BarcodeMode", 1}},
+         {{RecordKeys::textFormat, TextKind::barcode},
+          {RecordKeys::barcodeMode, Symbology::upc39.toInt()}},
          {},
          only(1) + fontOff + codeOn},
         {"",
          page,
          "m_pTextFormatCMB=2",
-         {{"TextFormat", QString("3")}, {"BarcodeMode", QString("1")}},
+         {{RecordKeys::textFormat, TextKind::plotStamp},
+          {RecordKeys::barcodeMode, Symbology::upc39}},
          {},
          only(2) + fontOff + codeOff},
         {"",
          page,
          "m_pTextFormatCMB=3",
-         {{"TextFormat", QString("4")}},
+         {{RecordKeys::textFormat, TextKind::cannedText}},
          {},
          only(3) + fontOff + codeOff},
         {"no format",
          page + QStringList("m_pTextFormatCMB=1"),
          "m_pTextFormatCMB=-1",
-         {{"TextFormat", QString("BarcodeMode")}},
+         {{RecordKeys::textFormat, TextKind::barcode}},
          {},
          only(1) + fontOff + codeOff},
     };
@@ -74,41 +80,57 @@ QList<Case> formats()
 QList<Case> textsAndFonts()
 {
     return {
-        {"typed size", page, "m_pXSizeLE:12.5", {{"StringXSize", QString("317.5")}}, {50}},
-        {"typed height", page, "m_pYSizeLE:100", {{"StringYSize", QString("2540")}}, {50}},
-        {"typed width", page, "m_pLineWidthLE:.5", {{"StringLineWidth", QString("12.7")}}, {50}},
+        {"typed size",
+         page,
+         "m_pXSizeLE:12.5",
+         {{RecordKeys::stringXSize, QString("317.5")}},
+         {Sent::Record}},
+        {"typed height",
+         page,
+         "m_pYSizeLE:100",
+         {{RecordKeys::stringYSize, QString("2540")}},
+         {Sent::Record}},
+        {"typed width",
+         page,
+         "m_pLineWidthLE:.5",
+         {{RecordKeys::stringLineWidth, QString("12.7")}},
+         {Sent::Record}},
         {"String again",
          page + QStringList{"m_pFontLE<simple", "m_pTextLE<Rev", "m_pXSizeLE<100",
                             "m_pTextFormatCMB=3"},
          "m_pTextFormatCMB=0",
-         {{"TextFormat", QString("1")},
-          {"StringTextFont", QString("simple")},
-          {"TextContains", QString("Rev")},
-          {"StringXSize", QString("2540")}}},
-        {"typed text", page, "m_pTextLE:Rev. A/2", {{"TextContains", QString("Rev. A/2")}}, {50}},
+         {{RecordKeys::textFormat, TextKind::string},
+          {RecordKeys::stringTextFont, QString("simple")},
+          {RecordKeys::textContains, QString("Rev")},
+          {RecordKeys::stringXSize, QString("2540")}}},
+        {"typed text",
+         page,
+         "m_pTextLE:Rev. A/2",
+         {{RecordKeys::textContains, QString("Rev. A/2")}},
+         {Sent::Record}},
         {"no text",
          page + QStringList("m_pTextLE<x"),
          "m_pTextLE<",
-         {{"TextContains", QString("")}},
-         {50}},
+         {{RecordKeys::textContains, QString("")}},
+         {Sent::Record}},
         {"font of the job",
          page,
          "m_pFontLE<simple",
-         {{"StringTextFont", QString("simple")}},
-         {50},
+         {{RecordKeys::stringTextFont, QString("simple")}},
+         {Sent::Record},
          {},
          "simple"},
         {"font of no job",
          page,
          "m_pFontLE<fancy",
-         {{"StringTextFont", QString("standard")}},
+         {{RecordKeys::stringTextFont, QString("standard")}},
          {},
          {},
          ""},
         {"font in other letters",
          page,
          "m_pFontLE<Standard",
-         {{"StringTextFont", QString("standard")}},
+         {{RecordKeys::stringTextFont, QString("standard")}},
          {},
          {},
          ""},
@@ -127,9 +149,14 @@ private Q_SLOTS:
     void sizes_data()
     {
         PageCases::addRows(PageCases::lengthCases(
-            {{"m_pXSizeLE", "StringXSize", page, 10000, {50}, {50}},
-             {"m_pYSizeLE", "StringYSize", page, 10000, {50}, {50}},
-             {"m_pLineWidthLE", "StringLineWidth", page, 10000, {50}, {50}}}));
+            {{"m_pXSizeLE", RecordKeys::stringXSize, page, 10000, {Sent::Record}, {Sent::Record}},
+             {"m_pYSizeLE", RecordKeys::stringYSize, page, 10000, {Sent::Record}, {Sent::Record}},
+             {"m_pLineWidthLE",
+              RecordKeys::stringLineWidth,
+              page,
+              10000,
+              {Sent::Record},
+              {Sent::Record}}}));
     }
     void sizes() { PageCases::run(); }
 
@@ -142,12 +169,12 @@ private Q_SLOTS:
     void defaults()
     {
         QFETCH(bool, metric);
-        PageCases::compareStart({{"TextFormat", QString("1")},
-                                 {"StringTextFont", QString("standard")},
-                                 {"TextContains", QString("")},
-                                 {"StringXSize", QString("5080")},
-                                 {"StringYSize", QString("5080")},
-                                 {"StringLineWidth", QString("609.6")}},
+        PageCases::compareStart({{RecordKeys::textFormat, TextKind::string},
+                                 {RecordKeys::stringTextFont, QString("standard")},
+                                 {RecordKeys::textContains, QString("")},
+                                 {RecordKeys::stringXSize, QString("5080")},
+                                 {RecordKeys::stringYSize, QString("5080")},
+                                 {RecordKeys::stringLineWidth, QString("609.6")}},
                                 metric);
     }
 
@@ -262,8 +289,8 @@ private Q_SLOTS:
         QCOMPARE(fixture.find<QLineEdit>("m_pXSizeLE").validator(), validator);
         fixture.forget();
         fixture.perform("m_pXSizeLE:" + typed);
-        QCOMPARE(fixture.codes(), QList<int>{50});
-        QCOMPARE(fixture.record().value("StringXSize").toString(), stored);
+        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
+        QCOMPARE(fixture.record().value(RecordKeys::stringXSize).toString(), stored);
         QCOMPARE(fixture.boxes(), isRefused
                                       ? QStringList(PageCases::lengthBox(metric ? 254000 : 10000))
                                       : QStringList());
@@ -285,10 +312,12 @@ private Q_SLOTS:
         findNamed<QAbstractButton>(dialog, "m_pTextTB").click();
         size.setText("100");
         dialog.on_m_pXSizeLE_editingFinished();
-        QCOMPARE(recorder.last(50).message.payload.value("StringXSize").toString(),
-                 QString("2540"));
-        QCOMPARE(recorder.last(50).message.payload.value("StringYSize").toString(),
-                 QString("5080"));
+        QCOMPARE(
+            recorder.last(Sent::Record).message.payload.value(RecordKeys::stringXSize).toString(),
+            QString("2540"));
+        QCOMPARE(
+            recorder.last(Sent::Record).message.payload.value(RecordKeys::stringYSize).toString(),
+            QString("5080"));
     }
 
     void theRefusalIsAnInformation()

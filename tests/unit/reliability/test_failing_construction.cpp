@@ -3,12 +3,15 @@
 
 #include "DialogFixture.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
 #include "plugin/PluginEntry.h"
 
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
 
 #include <QToolButton>
+
+namespace Sent = MessageCodes::Sent;
 
 using CanvasHost::camApiOverrides;
 using CanvasHost::uiApiOverrides;
@@ -40,13 +43,15 @@ private Q_SLOTS:
         fixture.recorder.clear();
         QVERIFY_EXCEPTION_THROWN(strip->On_AddFeature_Clicked(), int);
         QVERIFY(!window.findChild<AddFeature*>());
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{20000246});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AddFeatureStarted});
 
         camApiOverrides() = {};
         uiApiOverrides() = {};
         strip->On_AddFeature_Clicked();
         QVERIFY(window.findChild<AddFeature*>()->isVisible());
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{20000246, 20000246, 20000241}));
+        QCOMPARE(
+            fixture.recorder.codes(),
+            (QVector<int>{Sent::AddFeatureStarted, Sent::AddFeatureStarted, Sent::AddFeature}));
     }
 
     void strip()
@@ -57,7 +62,7 @@ private Q_SLOTS:
         QVERIFY(window.children().isEmpty());
         uiApiOverrides() = {};
         window.setLayout(static_cast<Canvas_Tool_Strip*>(GetPluginInstance(&window)));
-        QCOMPARE(window.findChildren<QToolButton*>().size(), 26);
+        QCOMPARE(window.findChildren<QToolButton*>().size(), ToolTable::toolCount);
     }
 };
 

@@ -5,6 +5,7 @@
 #include "GlogCatcher.h"
 #include "Invariants.h"
 #include "Main.h"
+#include "plugin/MessageCodes.h"
 #include "plugin/PluginEntry.h"
 
 #include <CamApiStandIn.h>
@@ -12,6 +13,8 @@
 
 #include <limits>
 #include <stdexcept>
+
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -57,7 +60,7 @@ void typeSymbol(DialogFixture& fixture)
 void receiveUnitChanged(DialogFixture& fixture)
 {
     PluginMetaData message("Sibling.dll", "Canvas_Tool_Strip.dll");
-    message.code = 20002200;
+    message.code = Accepted::UnitChanged;
     recMsgFromManager(fixture.strip, message);
 }
 

@@ -3,7 +3,11 @@
 #include "DialogFixture.h"
 #include "Invariants.h"
 #include "Main.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
 #include "plugin/PluginEntry.h"
+#include "plugin/RecordKeys.h"
 
 #include <CamApiStandIn.h>
 #include <common_widgets.h>
@@ -13,21 +17,15 @@
 
 #include <limits>
 
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
+
 namespace {
 
 using Payload = QMap<QString, QVariant>;
 
-const QSet<int> acceptedCodes = {10000205, 20000201, 20000202, 20000203, 20000223, 20000241,
-                                 20000242, 20000244, 20000245, 20000247, 20001637, 20001715,
-                                 20001807, 20001811, 20001824, 20002003, 20002200, 20002201,
-                                 20002400, 20002403, 20004602, 20004603, 20004604};
+const QVector<int> acceptedCodes = Accepted::all();
 constexpr int many = 100000;
-
-template <class T>
-qint64 addressOf(const T& object)
-{
-    return qint64(reinterpret_cast<quintptr>(&object));
-}
 
 void receive(Canvas_Tool_Strip* strip, int code, qint64 extra = 0, const Payload& payload = {})
 {
@@ -71,7 +69,8 @@ private Q_SLOTS:
         const auto isIgnored = [&](qint64 number) {
             const int code = int(quint32(number));
             if (!acceptedCodes.contains(code)) {
-                receive(fixture.strip, code, -1, {{"JobName", "job"}, {"StepName", "step"}});
+                receive(fixture.strip, code, -1,
+                        {{PayloadKeys::jobName, "job"}, {PayloadKeys::stepName, "step"}});
                 ++count;
             }
         };
@@ -84,8 +83,9 @@ private Q_SLOTS:
                 isIgnored(code);
             }
         }
-        for (const int code : {-1, 0, 1, 50, 51, 52, 53, std::numeric_limits<int>::max(),
-                               std::numeric_limits<int>::min()}) {
+        for (const int code : std::initializer_list<int>{
+                 -1, 0, 1, Sent::Record, Sent::AttributeMap, Sent::DirectionRecord, Sent::Fill,
+                 std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
             isIgnored(code);
         }
         QVERIFY(count > 1000000);
@@ -100,16 +100,20 @@ private Q_SLOTS:
         QTest::addColumn<Payload>("payload");
         const QVariant huge = QString(10 * 1024 * 1024, 'x');
         QTest::newRow("missing") << Payload();
-        QTest::newRow("empty") << Payload{{"JobName", ""}, {"Step", ""}, {"StepName", ""}};
-        QTest::newRow("invalid") << Payload{
-            {"JobName", QVariant()}, {"Step", QVariant()}, {"StepName", QVariant()}};
-        QTest::newRow("numbers") << Payload{{"JobName", 7}, {"Step", 2.5}, {"StepName", true}};
-        QTest::newRow("lists") << Payload{{"JobName", QStringList("job")},
-                                          {"Step", QVariantMap{{"a", 1}}},
-                                          {"StepName", QVariantList{1}}};
-        QTest::newRow("huge") << Payload{{"JobName", huge}, {"Step", huge}, {"StepName", huge}};
-        QTest::newRow("not text") << Payload{{"JobName", QString(QChar(0xD800))},
-                                             {"StepName", QString(3, QChar(0))}};
+        QTest::newRow("empty") << Payload{
+            {PayloadKeys::jobName, ""}, {PayloadKeys::step, ""}, {PayloadKeys::stepName, ""}};
+        QTest::newRow("invalid") << Payload{{PayloadKeys::jobName, QVariant()},
+                                            {PayloadKeys::step, QVariant()},
+                                            {PayloadKeys::stepName, QVariant()}};
+        QTest::newRow("numbers") << Payload{
+            {PayloadKeys::jobName, 7}, {PayloadKeys::step, 2.5}, {PayloadKeys::stepName, true}};
+        QTest::newRow("lists") << Payload{{PayloadKeys::jobName, QStringList("job")},
+                                          {PayloadKeys::step, QVariantMap{{"a", 1}}},
+                                          {PayloadKeys::stepName, QVariantList{1}}};
+        QTest::newRow("huge") << Payload{
+            {PayloadKeys::jobName, huge}, {PayloadKeys::step, huge}, {PayloadKeys::stepName, huge}};
+        QTest::newRow("not text") << Payload{{PayloadKeys::jobName, QString(QChar(0xD800))},
+                                             {PayloadKeys::stepName, QString(3, QChar(0))}};
         Payload wide;
         for (int i = 0; i < many; ++i) {
             wide[QString::number(i)] = i;
@@ -129,7 +133,7 @@ private Q_SLOTS:
         for (const Recorder::Entry& entry : fixture.recorder.messages()) {
             QCOMPARE(Invariants::faultOf(entry), QString());
         }
-        receive(fixture.strip, 20000201);
+        receive(fixture.strip, Accepted::AreaZoom);
         QVERIFY(fixture.strip->isToolButtonChecked(0));
     }
 
@@ -148,11 +152,11 @@ private Q_SLOTS:
             list.emplace_back("." + std::to_string(i), std::to_string(-i));
         }
         fixture.recorder.clear();
-        receive(fixture.strip, 20001807, addressOf(attributes));
+        receive(fixture.strip, Accepted::AttributesPicked, ExtraWord::pointingAt(attributes));
         QCOMPARE(fixture.recorder.codes(), QVector<int>());  // nothing to fill in yet
         fixture.dialog->get_attribute_list(list);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{51});
-        QVERIFY(fixture.recorder.last(51).attributes == attributes);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AttributeMap});
+        QVERIFY(fixture.recorder.last(Sent::AttributeMap).attributes == attributes);
     }
 
     void manySymbols_data()
@@ -170,18 +174,18 @@ private Q_SLOTS:
         fixture.choose(type);
         int sent = 0;
         fixture.recorder.setOnMessage([&](const Recorder::Entry& entry) {
-            sent += entry.message.code == 50;
+            sent += entry.message.code == Sent::Record;
             fixture.recorder.clear();
         });
         std::map<int, std::string> symbols;
         for (int i = 1; i <= many; ++i) {
             symbols[i - 2] = "r" + std::to_string(i % 1000 + 1);
         }
-        receive(fixture.strip, 20001811, addressOf(symbols));
+        receive(fixture.strip, Accepted::SymbolsPicked, ExtraWord::pointingAt(symbols));
         fixture.recorder.setOnMessage({});
         QCOMPARE(sent, many);
         QCOMPARE(fixture.symbol().text(), QString("r1"));
-        QCOMPARE(fixture.record().value("SymbolText"), QVariant("r1"));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant("r1"));
     }
 };
 

@@ -4,6 +4,8 @@
 #include "DialogFixture.h"
 #include "Invariants.h"
 #include "Main.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
 #include "plugin/PluginEntry.h"
 
 #include <PluginManagerStandIn.h>
@@ -12,6 +14,9 @@
 #include <common_widgets.h>
 
 #include <QToolButton>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -126,13 +131,13 @@ private Q_SLOTS:
         const std::map<int, std::string> symbols{{1, "r5"}, {2, "s5"}};
         const std::string job = "other";
         const PluginMetaData answers[] = {
-            messageToStrip(20001811, qint64(reinterpret_cast<quintptr>(&symbols))),
-            messageToStrip(20002003, qint64(reinterpret_cast<quintptr>(&job))),
-            messageToStrip(20002200),
-            messageToStrip(20002201),
-            messageToStrip(20002403),
-            messageToStrip(20004602),
-            messageToStrip(10000205)};
+            messageToStrip(Accepted::SymbolsPicked, ExtraWord::pointingAt(symbols)),
+            messageToStrip(Accepted::JobName, ExtraWord::pointingAt(job)),
+            messageToStrip(Accepted::UnitChanged),
+            messageToStrip(Accepted::LanguageChanged),
+            messageToStrip(Accepted::CloseDialogs),
+            messageToStrip(Accepted::AddFeature),
+            messageToStrip(Accepted::ReleaseAll)};
         for (const PluginMetaData& answer : answers) {
             DialogFixture fixture;
             connectClosing(fixture);
@@ -162,7 +167,7 @@ private Q_SLOTS:
 
     void dialogDeletedWhileItIsOpened()
     {
-        for (const int code : {20000241, 20000246, 50}) {
+        for (const int code : {Sent::AddFeature, Sent::AddFeatureStarted, Sent::Record}) {
             DialogFixture fixture;
             QWidget window;
             auto* const strip = new Canvas_Tool_Strip(&window);
@@ -209,16 +214,21 @@ private Q_SLOTS:
         strip->On_Measure_Clicked();
         window.reset();
         QVERIFY(!tools[0]);
-        for (const int code : {10000205, 20000201, 20000202, 20000203, 20000223, 20000241, 20000242,
-                               20000244, 20000245, 20001637, 20001807, 20001811, 20001824, 20002003,
-                               20002200, 20002201, 20002400, 20002403, 20004603, 20004604}) {
+        for (const int code :
+             {Accepted::ReleaseAll,         Accepted::AreaZoom,         Accepted::FeatureSelection,
+              Accepted::RectangleSelection, Accepted::PolygonSelection, Accepted::AddFeatureActive,
+              Accepted::SelectPolyline,     Accepted::SelectLayerNet,   Accepted::SelectBoardNet,
+              Accepted::JobAndStep,         Accepted::AttributesPicked, Accepted::SymbolsPicked,
+              Accepted::UserSymbolsChanged, Accepted::JobName,          Accepted::UnitChanged,
+              Accepted::LanguageChanged,    Accepted::JobOpened,        Accepted::CloseDialogs,
+              Accepted::DeleteFeature,      Accepted::MoveFeature}) {
             recMsgFromManager(strip, messageToStrip(code));
         }
         strip->get_right_click_zoom_area();
         strip->SetAllButtonchecked(true, nullptr);
         QVERIFY(strip->isToolButtonChecked(1));
         QVERIFY(!strip->isToolButtonChecked(0));
-        QCOMPARE(recorder.last(20000201).sender, nullptr);
+        QCOMPARE(recorder.last(Sent::AreaZoom).sender, nullptr);
         delete strip;
         for (const QPointer<QWidget>& tool : tools) {
             delete tool;

@@ -24,7 +24,7 @@ struct StripFixture {
     QList<int> checked() const
     {
         QList<int> indices;
-        for (int index = 0; index < 26; ++index) {
+        for (int index = 0; index < ToolTable::toolCount; ++index) {
             if (strip->isToolButtonChecked(index)) {
                 indices.append(index);
             }
@@ -41,9 +41,3 @@ struct StripFixture {
         strip->recMsgFromManager(message);
     }
 };
-
-template <class T>
-qint64 addressOf(const T& object)
-{
-    return static_cast<qint64>(reinterpret_cast<quintptr>(&object));
-}

@@ -3,11 +3,15 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "StripFixture.h"
+#include "plugin/MessageCodes.h"
 
 #include <CommonWidgetsStandIn.h>
 #include <common_widgets.h>
 
 #include <QSignalSpy>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -25,30 +29,38 @@ struct Expected {
 
 // Measure and Add Feature, whose clicks open windows, have tests of their own.
 const Expected tools[] = {
-    {0, "On_AreaZoom_Clicked", 20000201, 0, "Canvas_Tool_Strip.dll"},
-    {1, "On_OpenPopView_Clicked", 20000225, 0, "Canvas_Tool_Strip.dll"},
-    {3, "On_FeatHighLight_Clicked", 20000227, 0, "Canvas_Tool_Strip"},
-    {5, "On_DeleteFeat_Clicked", 20000206, 0, "Canvas_Tool_Strip.dll"},
-    {6, "On_MoveFeature_Clicked", 20000207, 0, "Canvas_Tool_Strip.dll"},
-    {7, "On_CopyFeature_Clicked", 20000208, 0, "Canvas_Tool_Strip.dll"},
-    {8, "On_ChangeLAngle_Clicked", 20000211, 20000238, "Canvas_Tool_Strip.dll"},
-    {9, "On_StretchLine_Clicked", 20000212, 20000239, "Canvas_Tool_Strip.dll"},
-    {10, "On_RotateFeature_Clicked", 20000213, 20000240, "Canvas_Tool_Strip.dll"},
-    {11, "On_MirrorFeature_Clicked", 20000214, 0, "Canvas_Tool_Strip.dll"},
-    {12, "On_InvertFeature_Clicked", 20000215, 20000236, "Canvas_Tool_Strip.dll"},
-    {13, "On_BreakLine_Clicked", 20000216, 20000237, "Canvas_Tool_Strip.dll"},
-    {14, "On_Dimension_Clicked", 20000217, 0, "Canvas_Tool_Strip.dll"},
-    {15, "On_ContourEditor_Clicked", 20000218, 0, "Canvas_Tool_Strip.dll"},
-    {16, "On_PullLine_Clicked", 20000219, 0, "Canvas_Tool_Strip.dll"},
-    {17, "On_MoveJunction_Clicked", 20000220, 0, "Canvas_Tool_Strip.dll"},
-    {18, "On_MoveTriplet_Clicked", 20000221, 20000249, "Canvas_Tool_Strip.dll"},
-    {19, "On_RerouteTrace_Clicked", 20000222, 20000250, "Canvas_Tool_Strip.dll"},
-    {20, "On_FeatureSelection_Clicked", 20000202, 20000204, "Canvas_Tool_Strip.dll"},
-    {21, "On_RectSelection_Clicked", 20000203, 20000205, "Canvas_Tool_Strip.dll"},
-    {22, "On_PolygonSelection_Clicked", 20000223, 20000228, "Canvas_Tool_Strip.dll"},
-    {23, "On_SelectPolyline_Clicked", 20000244, 0, "Canvas_Tool_Strip.dll"},
-    {24, "on_mark_clicked", 20000266, 0, "Canvas_Tool_Strip.dll"},
-    {25, "on_m_pEqTB_clecked", 20004801, 0, "Canvas_Tool_Strip.dll"},
+    {0, "On_AreaZoom_Clicked", Sent::AreaZoom, 0, "Canvas_Tool_Strip.dll"},
+    {1, "On_OpenPopView_Clicked", Sent::OpenPopView, 0, "Canvas_Tool_Strip.dll"},
+    {3, "On_FeatHighLight_Clicked", Sent::FeatureHighLight, 0, "Canvas_Tool_Strip"},
+    {5, "On_DeleteFeat_Clicked", Sent::DeleteFeature, 0, "Canvas_Tool_Strip.dll"},
+    {6, "On_MoveFeature_Clicked", Sent::MoveFeature, 0, "Canvas_Tool_Strip.dll"},
+    {7, "On_CopyFeature_Clicked", Sent::CopyFeature, 0, "Canvas_Tool_Strip.dll"},
+    {8, "On_ChangeLAngle_Clicked", Sent::ChangeLineAngle, Sent::ChangeLineAngleOff,
+     "Canvas_Tool_Strip.dll"},
+    {9, "On_StretchLine_Clicked", Sent::StretchLine, Sent::StretchLineOff, "Canvas_Tool_Strip.dll"},
+    {10, "On_RotateFeature_Clicked", Sent::RotateFeature, Sent::RotateFeatureOff,
+     "Canvas_Tool_Strip.dll"},
+    {11, "On_MirrorFeature_Clicked", Sent::MirrorFeature, 0, "Canvas_Tool_Strip.dll"},
+    {12, "On_InvertFeature_Clicked", Sent::InvertFeature, Sent::InvertFeatureOff,
+     "Canvas_Tool_Strip.dll"},
+    {13, "On_BreakLine_Clicked", Sent::BreakLine, Sent::BreakLineOff, "Canvas_Tool_Strip.dll"},
+    {14, "On_Dimension_Clicked", Sent::RoutDimension, 0, "Canvas_Tool_Strip.dll"},
+    {15, "On_ContourEditor_Clicked", Sent::ContourEditor, 0, "Canvas_Tool_Strip.dll"},
+    {16, "On_PullLine_Clicked", Sent::PullLine, 0, "Canvas_Tool_Strip.dll"},
+    {17, "On_MoveJunction_Clicked", Sent::MoveJunction, 0, "Canvas_Tool_Strip.dll"},
+    {18, "On_MoveTriplet_Clicked", Sent::MoveTriplet, Sent::MoveTripletOff,
+     "Canvas_Tool_Strip.dll"},
+    {19, "On_RerouteTrace_Clicked", Sent::RerouteTrace, Sent::RerouteTraceOff,
+     "Canvas_Tool_Strip.dll"},
+    {20, "On_FeatureSelection_Clicked", Sent::FeatureSelection, Sent::FeatureSelectionOff,
+     "Canvas_Tool_Strip.dll"},
+    {21, "On_RectSelection_Clicked", Sent::RectangleSelection, Sent::RectangleSelectionOff,
+     "Canvas_Tool_Strip.dll"},
+    {22, "On_PolygonSelection_Clicked", Sent::PolygonSelection, Sent::PolygonSelectionOff,
+     "Canvas_Tool_Strip.dll"},
+    {23, "On_SelectPolyline_Clicked", Sent::SelectLayerNet, 0, "Canvas_Tool_Strip.dll"},
+    {24, "on_mark_clicked", Sent::Mark, 0, "Canvas_Tool_Strip.dll"},
+    {25, "on_m_pEqTB_clecked", Sent::Eq, 0, "Canvas_Tool_Strip.dll"},
 };
 
 bool isGrey(int index)
@@ -76,7 +88,7 @@ private Q_SLOTS:
     void tool_data()
     {
         QTest::addColumn<int>("row");
-        for (int row = 0; row < 24; ++row) {
+        for (int row = 0; row < int(std::size(tools)); ++row) {
             QTest::newRow(tools[row].slot) << row;
         }
     }
@@ -133,7 +145,7 @@ private Q_SLOTS:
     {
         StripFixture fixture;
         fixture.panel.show();
-        for (int index = 0; index < 26; ++index) {
+        for (int index = 0; index < ToolTable::toolCount; ++index) {
             if (isGrey(index)) {
                 continue;
             }
@@ -175,7 +187,8 @@ private Q_SLOTS:
         fixture.panel.show();
         QSignalSpy reselected(fixture.strip, SIGNAL(reselect_Add_feature()));
         QTest::mouseClick(fixture.button(4), Qt::LeftButton);
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{20000246, 20000241}));
+        QCOMPARE(fixture.recorder.codes(),
+                 (QVector<int>{Sent::AddFeatureStarted, Sent::AddFeature}));
         const auto first = fixture.recorder.messages();
         QCOMPARE(first[0].message.receiver, jobTree);
         QCOMPARE(first[0].message.sender, strip);
@@ -190,15 +203,16 @@ private Q_SLOTS:
 
         fixture.recorder.clear();
         QTest::mouseClick(fixture.button(4), Qt::LeftButton);
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{20000246, 50}));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AddFeatureStarted, Sent::Record}));
         QCOMPARE(reselected.size(), 1);
         QCOMPARE(fixture.panel.findChildren<QWidget*>("AddFeature").size(), 1);
 
         // The dialog asks for a symbol on the board through the strip.
         fixture.recorder.clear();
         QTest::mouseClick(&findNamed(*dialog, "m_pSelectFromEditorPB"), Qt::LeftButton);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{20001405});
-        QCOMPARE(fixture.recorder.last(20001405).sender, static_cast<void*>(&fixture.panel));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::SelectSymbol});
+        QCOMPARE(fixture.recorder.last(Sent::SelectSymbol).sender,
+                 static_cast<void*>(&fixture.panel));
     }
 
     void addFeatureTakesItsStepsInOrder()
@@ -211,16 +225,16 @@ private Q_SLOTS:
         bool closingSwitchedTool = true;
         fixture.recorder.setOnMessage([&](const Recorder::Entry& entry) {
             QWidget* const dialog = fixture.panel.findChild<QWidget*>("AddFeature");
-            if (entry.message.code == 20000246) {
+            if (entry.message.code == Sent::AddFeatureStarted) {
                 checkedAtJobTree = fixture.checked();
                 dialogAtJobTree = dialog != nullptr;
-            } else if (entry.message.code == 20000241) {
+            } else if (entry.message.code == Sent::AddFeature) {
                 shownAtViewer = dialog && dialog->isVisible();
                 // Closing is not yet connected to the tools.
                 QMetaObject::invokeMethod(dialog, "change_viewtool");
                 closingSwitchedTool = fixture.strip->isToolButtonChecked(0);
                 // The toolbar's signals are.
-                fixture.receive(20002200);
+                fixture.receive(Accepted::UnitChanged);
             }
         });
         fixture.strip->On_AddFeature_Clicked();
@@ -232,7 +246,7 @@ private Q_SLOTS:
         fixture.recorder.setOnMessage({});
         fixture.recorder.clear();
         fixture.panel.findChild<QWidget*>("AddFeature")->close();
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{20000201});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AreaZoom});
         QCOMPARE(fixture.checked(), QList<int>{0});
     }
 
@@ -241,7 +255,7 @@ private Q_SLOTS:
         StripFixture fixture;
         fixture.button(9)->setChecked(true);
         fixture.strip->on_m_pAddfeature_Select_symbol();
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{20001405});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::SelectSymbol});
         QCOMPARE(fixture.checked(), (QList<int>{0, 9}));
     }
 
@@ -251,12 +265,14 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("sheet");
         const QString start = netSheet(2, 1, {});
-        QTest::newRow("polyline") << 20000242 << 20000242 << netSheet(2, 1, "border:2px solid red");
-        QTest::newRow("layer net") << 20000244 << 20000244 << netSheet(6, 5, {});
-        QTest::newRow("board net")
-            << 20000245 << 20000245 << netSheet(4, 3, "border:2px solid green");
+        QTest::newRow("polyline") << int(Sent::SelectPolyline) << int(Sent::SelectPolyline)
+                                  << netSheet(2, 1, "border:2px solid red");
+        QTest::newRow("layer net")
+            << int(Sent::SelectLayerNet) << int(Sent::SelectLayerNet) << netSheet(6, 5, {});
+        QTest::newRow("board net") << int(Sent::SelectBoardNet) << int(Sent::SelectBoardNet)
+                                   << netSheet(4, 3, "border:2px solid green");
         QTest::newRow("zero") << 0 << -1 << start;
-        QTest::newRow("unknown") << 20000243 << -1 << start;
+        QTest::newRow("unknown") << int(Sent::SelectPolyline) + 1 << int(Sent::Unset) << start;
         QTest::newRow("minus one") << -1 << -1 << start;
     }
     void netMode()
@@ -283,7 +299,7 @@ private Q_SLOTS:
         QSignalSpy clicked(fixture.button(0), SIGNAL(clicked()));
         fixture.strip->get_right_click_zoom_area();
         QVERIFY(fixture.checked().isEmpty());
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{20000201});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AreaZoom});
         QVERIFY(clicked.isEmpty());
     }
 
@@ -292,7 +308,7 @@ private Q_SLOTS:
         StripFixture fixture;
         fixture.panel.show();
         fixture.strip->close_all_Dialogs();
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{20003950});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::DialogsClosed});
 
         QTest::mouseClick(fixture.button(4), Qt::LeftButton);
         QTest::mouseClick(fixture.button(2), Qt::LeftButton);
@@ -303,7 +319,7 @@ private Q_SLOTS:
         QVERIFY(dialog && !dialog->isVisible());
         QVERIFY(popup && !popup->isVisible());
         // Closing the dialog makes Area Zoom the tool, then the canvas is told.
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{20000201, 20003950}));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AreaZoom, Sent::DialogsClosed}));
 
         QTest::mouseClick(fixture.button(2), Qt::LeftButton);
         QTest::mouseClick(fixture.button(4), Qt::LeftButton);

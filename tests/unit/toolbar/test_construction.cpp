@@ -54,6 +54,7 @@ const Expected tools[] = {
     {"m_pMarkTB", "Mark", true, "markgry.png", "markgre.png"},
     {"m_pEqTB", "EQ", true, "EQ-1.jpg", "EQ-2.jpg"},
 };
+static_assert(std::size(tools) == ToolTable::toolCount, "one row a tool");
 
 QString resource(const char* file)
 {
@@ -98,7 +99,7 @@ private Q_SLOTS:
     void button_data()
     {
         QTest::addColumn<int>("index");
-        for (int index = 0; index < 26; ++index) {
+        for (int index = 0; index < ToolTable::toolCount; ++index) {
             QTest::newRow(tools[index].objectName) << index;
         }
     }
@@ -168,7 +169,7 @@ private Q_SLOTS:
     void startsWithAreaZoomAlone()
     {
         StripFixture fixture;
-        QCOMPARE(fixture.strip->count(), 26);
+        QCOMPARE(fixture.strip->count(), ToolTable::toolCount);
         QCOMPARE(fixture.checked(), QList<int>{0});
         QVERIFY(fixture.recorder.messages().isEmpty());
         QCOMPARE(fixture.panel.focusPolicy(), Qt::NoFocus);
@@ -182,7 +183,7 @@ private Q_SLOTS:
         fixture.panel.show();
         QVERIFY(fixture.button(25)->isHidden());
         QVERIFY(fixture.button(24)->isVisible());
-        QCOMPARE(fixture.strip->count(), 26);
+        QCOMPARE(fixture.strip->count(), ToolTable::toolCount);
         QVERIFY(!fixture.strip->isToolButtonChecked(25));
         fixture.button(25)->setChecked(true);
         QVERIFY(fixture.strip->isToolButtonChecked(25));
@@ -202,7 +203,7 @@ private Q_SLOTS:
     {
         QWidget panel;
         Canvas_Tool_Strip* const strip = new Canvas_Tool_Strip(&panel);
-        for (int index = 0; index < 26; ++index) {
+        for (int index = 0; index < ToolTable::toolCount; ++index) {
             QCOMPARE(strip->itemAt(index)->widget()->parentWidget(), index == 0 ? &panel : nullptr);
         }
         panel.setLayout(strip);
@@ -212,8 +213,8 @@ private Q_SLOTS:
     {
         StripFixture fixture;
         fixture.strip->SetAllButtonchecked(true, nullptr);
-        QCOMPARE(fixture.checked().size(), 26);
-        for (const int index : {-1, 26, 1000, -2147483647 - 1, 2147483647}) {
+        QCOMPARE(fixture.checked().size(), ToolTable::toolCount);
+        for (const int index : {-1, ToolTable::toolCount, 1000, -2147483647 - 1, 2147483647}) {
             QVERIFY(!fixture.strip->isToolButtonChecked(index));
         }
     }
@@ -224,7 +225,7 @@ private Q_SLOTS:
         fixture.strip->SetAllButtonchecked(false, fixture.button(7));
         QCOMPARE(fixture.checked(), QList<int>{7});
         fixture.strip->SetAllButtonchecked(true, fixture.button(7));
-        QCOMPARE(fixture.checked().size(), 26);
+        QCOMPARE(fixture.checked().size(), ToolTable::toolCount);
         fixture.strip->SetAllButtonchecked(false, nullptr);
         QVERIFY(fixture.checked().isEmpty());
     }

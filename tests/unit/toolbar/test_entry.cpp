@@ -2,10 +2,15 @@
 
 #include "Main.h"
 #include "StripFixture.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
 #include "plugin/PluginEntry.h"
 
 #include <cstdlib>
 #include <new>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 bool noMemory = false;
@@ -29,8 +34,8 @@ private Q_SLOTS:
         QVERIFY(first && second && first != second);
         one.setLayout(static_cast<Canvas_Tool_Strip*>(first));
         other.setLayout(static_cast<Canvas_Tool_Strip*>(second));
-        QCOMPARE(one.findChildren<QToolButton*>().size(), 26);
-        QCOMPARE(other.findChildren<QToolButton*>().size(), 26);
+        QCOMPARE(one.findChildren<QToolButton*>().size(), ToolTable::toolCount);
+        QCOMPARE(other.findChildren<QToolButton*>().size(), ToolTable::toolCount);
     }
 
     void noMemoryGivesNull()
@@ -49,12 +54,12 @@ private Q_SLOTS:
     {
         StripFixture fixture;
         PluginMetaData message("Sibling.dll", "Canvas_Tool_Strip.dll");
-        message.code = 20004604;
-        message.payload = {{"JobName", "a"}};
+        message.code = Accepted::MoveFeature;
+        message.payload = {{PayloadKeys::jobName, "a"}};
         recMsgFromManager(fixture.strip, message);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{20000207});
-        QCOMPARE(message.payload, (QMap<QString, QVariant>{{"JobName", "a"}}));
-        QCOMPARE(message.code, 20004604);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::MoveFeature});
+        QCOMPARE(message.payload, (QMap<QString, QVariant>{{PayloadKeys::jobName, "a"}}));
+        QCOMPARE(message.code, Accepted::MoveFeature);
     }
 
     void deletedAsAnObject()
@@ -64,7 +69,7 @@ private Q_SLOTS:
         parent.setLayout(strip);
         delete static_cast<QObject*>(strip);
         // The buttons stay with the widget that they live in.
-        QCOMPARE(parent.findChildren<QToolButton*>().size(), 26);
+        QCOMPARE(parent.findChildren<QToolButton*>().size(), ToolTable::toolCount);
     }
 };
 

@@ -4,11 +4,17 @@
 #include "GlogCatcher.h"
 #include "Main.h"
 #include "StripFixture.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
 
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
 
 #include <QSignalSpy>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
 
 using Attributes = std::vector<std::pair<std::string, std::string>>;
 using Symbols = std::map<int, std::string>;
@@ -25,30 +31,30 @@ struct Expected {
 };
 
 const Expected messages[] = {
-    {"release all", 10000205, {0, 3, 25}, {}, {}},
-    {"area zoom", 20000201, {7}, {0}, {20000201}},
-    {"feature selection", 20000202, {7}, {20}, {20000202}},
-    {"rectangle selection", 20000203, {7}, {21}, {20000203}},
-    {"polygon selection", 20000223, {7}, {22}, {20000223}},
-    {"add feature is active", 20000241, {7}, {4}, {}},
-    {"add feature was active", 20000241, {4, 7}, {4, 7}, {}},
-    {"polyline", 20000242, {7}, {23}, {20000242}},
-    {"layer net", 20000244, {7}, {23}, {20000244}},
-    {"board net", 20000245, {7}, {23}, {20000245}},
-    {"check and measure", 20000247, {7}, {2}, {}},
-    {"job and step", 20001637, {7}, {7}, {}},
-    {"measure", 20001715, {7}, {2}, {}},
-    {"attributes without address", 20001807, {7}, {7}, {}},
-    {"symbols without address", 20001811, {7}, {7}, {}},
-    {"user symbols", 20001824, {7}, {7}, {}},
-    {"job name without address", 20002003, {7}, {7}, {}},
-    {"unit", 20002200, {7}, {7}, {}},
-    {"language", 20002201, {7}, {7}, {}},
-    {"job opened", 20002400, {7}, {7}, {}},
-    {"close dialogs", 20002403, {7}, {7}, {20003950}},
-    {"add feature", 20004602, {7}, {4}, {20000246, 20000241}},
-    {"delete feature", 20004603, {7}, {5}, {20000206}},
-    {"move feature", 20004604, {7}, {6}, {20000207}},
+    {"release all", Accepted::ReleaseAll, {0, 3, 25}, {}, {}},
+    {"area zoom", Accepted::AreaZoom, {7}, {0}, {Sent::AreaZoom}},
+    {"feature selection", Accepted::FeatureSelection, {7}, {20}, {Sent::FeatureSelection}},
+    {"rectangle selection", Accepted::RectangleSelection, {7}, {21}, {Sent::RectangleSelection}},
+    {"polygon selection", Accepted::PolygonSelection, {7}, {22}, {Sent::PolygonSelection}},
+    {"add feature is active", Accepted::AddFeatureActive, {7}, {4}, {}},
+    {"add feature was active", Accepted::AddFeatureActive, {4, 7}, {4, 7}, {}},
+    {"polyline", Accepted::SelectPolyline, {7}, {23}, {Sent::SelectPolyline}},
+    {"layer net", Accepted::SelectLayerNet, {7}, {23}, {Sent::SelectLayerNet}},
+    {"board net", Accepted::SelectBoardNet, {7}, {23}, {Sent::SelectBoardNet}},
+    {"check and measure", Accepted::CheckAndMeasure, {7}, {2}, {}},
+    {"job and step", Accepted::JobAndStep, {7}, {7}, {}},
+    {"measure", Accepted::Measure, {7}, {2}, {}},
+    {"attributes without address", Accepted::AttributesPicked, {7}, {7}, {}},
+    {"symbols without address", Accepted::SymbolsPicked, {7}, {7}, {}},
+    {"user symbols", Accepted::UserSymbolsChanged, {7}, {7}, {}},
+    {"job name without address", Accepted::JobName, {7}, {7}, {}},
+    {"unit", Accepted::UnitChanged, {7}, {7}, {}},
+    {"language", Accepted::LanguageChanged, {7}, {7}, {}},
+    {"job opened", Accepted::JobOpened, {7}, {7}, {}},
+    {"close dialogs", Accepted::CloseDialogs, {7}, {7}, {Sent::DialogsClosed}},
+    {"add feature", Accepted::AddFeature, {7}, {4}, {Sent::AddFeatureStarted, Sent::AddFeature}},
+    {"delete feature", Accepted::DeleteFeature, {7}, {5}, {Sent::DeleteFeature}},
+    {"move feature", Accepted::MoveFeature, {7}, {6}, {Sent::MoveFeature}},
 };
 
 /// Everything that the strip emits.
@@ -123,11 +129,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("signal");
         for (const Expected& expected : messages) {
-            const QMap<int, QString> signalOf = {{20000247, "ruler"},
-                                                 {20001715, "ruler"},
-                                                 {20001824, "users"},
-                                                 {20002200, "unit"},
-                                                 {20002201, "language"}};
+            const QMap<int, QString> signalOf = {{Accepted::CheckAndMeasure, "ruler"},
+                                                 {Accepted::Measure, "ruler"},
+                                                 {Accepted::UserSymbolsChanged, "users"},
+                                                 {Accepted::UnitChanged, "unit"},
+                                                 {Accepted::LanguageChanged, "language"}};
             QTest::newRow(expected.name) << expected.code << signalOf.value(expected.code);
         }
     }
@@ -149,13 +155,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("code");
         QTest::addColumn<int>("tool");
-        QTest::newRow("feature selection") << 20000202 << 20;
-        QTest::newRow("rectangle selection") << 20000203 << 21;
-        QTest::newRow("polygon selection") << 20000223 << 22;
-        QTest::newRow("polyline") << 20000242 << 23;
-        QTest::newRow("layer net") << 20000244 << 23;
-        QTest::newRow("board net") << 20000245 << 23;
-        QTest::newRow("measure") << 20000247 << 2;
+        QTest::newRow("feature selection") << int(Accepted::FeatureSelection) << 20;
+        QTest::newRow("rectangle selection") << int(Accepted::RectangleSelection) << 21;
+        QTest::newRow("polygon selection") << int(Accepted::PolygonSelection) << 22;
+        QTest::newRow("polyline") << int(Accepted::SelectPolyline) << 23;
+        QTest::newRow("layer net") << int(Accepted::SelectLayerNet) << 23;
+        QTest::newRow("board net") << int(Accepted::SelectBoardNet) << 23;
+        QTest::newRow("measure") << int(Accepted::CheckAndMeasure) << 2;
     }
     void checksTheButtonBeforeItRunsTheHandler()
     {
@@ -182,7 +188,7 @@ private Q_SLOTS:
                 checkedAtToggle = fixture.checked();
             }
         });
-        fixture.receive(20001715);
+        fixture.receive(Accepted::Measure);
         QCOMPARE(checkedAtToggle, QList<int>{2});  // released in list order before it is checked
     }
 
@@ -190,15 +196,22 @@ private Q_SLOTS:
     {
         StripFixture fixture;
         const Spies spies(fixture.strip);
-        for (int code = 20000195; code < 20000260; ++code) {
-            static const QList<int> known = {20000201, 20000202, 20000203, 20000223, 20000241,
-                                             20000242, 20000244, 20000245, 20000247};
+        for (int code = Accepted::AreaZoom - 6; code < Accepted::CheckAndMeasure + 13; ++code) {
+            static const QList<int> known = {
+                Accepted::AreaZoom,           Accepted::FeatureSelection,
+                Accepted::RectangleSelection, Accepted::PolygonSelection,
+                Accepted::AddFeatureActive,   Accepted::SelectPolyline,
+                Accepted::SelectLayerNet,     Accepted::SelectBoardNet,
+                Accepted::CheckAndMeasure};
             if (!known.contains(code)) {
                 fixture.receive(code);
             }
         }
-        for (const int code : {-1, 0, 50, 51, 52, 53, 10000204, 10000206, 20001405, 20001406,
-                               20002838, 20003950, 20004601, 20004605, 20004801}) {
+        for (const int code : std::initializer_list<int>{
+                 -1, 0, Sent::Record, Sent::AttributeMap, Sent::DirectionRecord, Sent::Fill,
+                 Accepted::ReleaseAll - 1, Accepted::ReleaseAll + 1, Sent::SelectSymbol,
+                 Sent::SelectSymbol + 1, Sent::SelectFromEditor, Sent::DialogsClosed,
+                 Accepted::AddFeature - 1, Accepted::MoveFeature + 1, Sent::Eq}) {
             fixture.receive(code);
         }
         QVERIFY(fixture.recorder.messages().isEmpty());
@@ -209,16 +222,17 @@ private Q_SLOTS:
     void addFeatureActiveMakesNoDialog()
     {
         StripFixture fixture;
-        fixture.receive(20000241);
+        fixture.receive(Accepted::AddFeatureActive);
         QVERIFY(!fixture.panel.findChild<QWidget*>("AddFeature"));
     }
 
     void netCodesTwice()
     {
         StripFixture fixture;
-        fixture.receive(20000244);
-        fixture.receive(20000244);
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{20000244, 20000244}));
+        fixture.receive(Accepted::SelectLayerNet);
+        fixture.receive(Accepted::SelectLayerNet);
+        QCOMPARE(fixture.recorder.codes(),
+                 (QVector<int>{Sent::SelectLayerNet, Sent::SelectLayerNet}));
     }
 
     void jobOpened_data()
@@ -227,24 +241,30 @@ private Q_SLOTS:
         QTest::addColumn<Payload>("payload");
         QTest::addColumn<QString>("job");  // empty: nothing is emitted
         QTest::addColumn<QString>("step");
-        QTest::newRow("both") << Payload{{"JobName", "b7"}, {"StepName", "pcb"}} << "b7"
+        QTest::newRow("both") << Payload{{PayloadKeys::jobName, "b7"},
+                                         {PayloadKeys::stepName, "pcb"}}
+                              << "b7"
                               << "pcb";
-        QTest::newRow("no step") << Payload{{"JobName", "b7"}} << ""
+        QTest::newRow("no step") << Payload{{PayloadKeys::jobName, "b7"}} << ""
                                  << "";
-        QTest::newRow("no job") << Payload{{"StepName", "pcb"}} << ""
+        QTest::newRow("no job") << Payload{{PayloadKeys::stepName, "pcb"}} << ""
                                 << "";
-        QTest::newRow("other key") << Payload{{"JobName", "b7"}, {"Step", "pcb"}} << ""
-                                   << "";
-        QTest::newRow("empty text") << Payload{{"JobName", ""}, {"StepName", "pcb"}} << ""
-                                    << "";
-        QTest::newRow("number") << Payload{{"JobName", 7}, {"StepName", 2.5}} << "7"
+        QTest::newRow("other key")
+            << Payload{{PayloadKeys::jobName, "b7"}, {PayloadKeys::step, "pcb"}} << ""
+            << "";
+        QTest::newRow("empty text")
+            << Payload{{PayloadKeys::jobName, ""}, {PayloadKeys::stepName, "pcb"}} << ""
+            << "";
+        QTest::newRow("number") << Payload{{PayloadKeys::jobName, 7}, {PayloadKeys::stepName, 2.5}}
+                                << "7"
                                 << "2.5";
-        QTest::newRow("no text") << Payload{{"JobName", QVariant::fromValue(QByteArrayList{"a"})},
-                                            {"StepName", "pcb"}}
+        QTest::newRow("no text") << Payload{{PayloadKeys::jobName,
+                                             QVariant::fromValue(QByteArrayList{"a"})},
+                                            {PayloadKeys::stepName, "pcb"}}
                                  << ""
                                  << "";
-        QTest::newRow("unicode") << Payload{{"JobName", QString::fromUtf8("板7")},
-                                            {"StepName", "p c"}}
+        QTest::newRow("unicode") << Payload{{PayloadKeys::jobName, QString::fromUtf8("板7")},
+                                            {PayloadKeys::stepName, "p c"}}
                                  << QString::fromUtf8("板7") << "p c";
     }
     void jobOpened()
@@ -262,7 +282,7 @@ private Q_SLOTS:
                     emittedStep = s;
                     ++emitted;
                 });
-        fixture.receive(20002400, payload);
+        fixture.receive(Accepted::JobOpened, payload);
         QCOMPARE(emitted, job.isEmpty() ? 0 : 1);
         QCOMPARE(QString::fromUtf8(emittedJob.c_str()), job);
         QCOMPARE(QString::fromUtf8(emittedStep.c_str()), step);
@@ -272,7 +292,9 @@ private Q_SLOTS:
     {
         StripFixture fixture;
         const Spies spies(fixture.strip);
-        fixture.receive(20001637, {{"JobName", "b7"}, {"Step", "pcb"}, {"StepName", "no"}});
+        fixture.receive(Accepted::JobAndStep, {{PayloadKeys::jobName, "b7"},
+                                               {PayloadKeys::step, "pcb"},
+                                               {PayloadKeys::stepName, "no"}});
         QCOMPARE(spies.count(), 0);
         // Seen in what the dialog is made with: its font list is asked for that job.
         QCOMPARE(jobOfDialog(fixture), QString("b7"));
@@ -283,9 +305,9 @@ private Q_SLOTS:
         StripFixture fixture;
         const Spies spies(fixture.strip);
         const std::string job = "b8";
-        fixture.receive(20002003, {}, addressOf(job));
+        fixture.receive(Accepted::JobName, {}, ExtraWord::pointingAt(job));
         QCOMPARE(spies.count(), 0);
-        fixture.receive(20002003, {}, 0);
+        fixture.receive(Accepted::JobName, {}, 0);
         QCOMPARE(jobOfDialog(fixture), QString("b8"));
     }
 
@@ -302,7 +324,7 @@ private Q_SLOTS:
         connect(fixture.strip, &Canvas_Tool_Strip::send_Symbol_Info, fixture.strip,
                 [&](Symbols symbols) { emitted = symbols; });
         const Symbols symbols = {{3, "r10"}, {1, "s5"}};
-        fixture.receive(20001811, {}, addressOf(symbols));
+        fixture.receive(Accepted::SymbolsPicked, {}, ExtraWord::pointingAt(symbols));
         QVERIFY(emitted == symbols);
     }
 
@@ -313,7 +335,7 @@ private Q_SLOTS:
         connect(fixture.strip, &Canvas_Tool_Strip::send_Attribute_Info, fixture.strip,
                 [&](Attributes attributes) { emitted = attributes; });
         const std::map<std::string, std::string> attributes = {{"b", "2"}, {"a", ""}};
-        fixture.receive(20001807, {}, addressOf(attributes));
+        fixture.receive(Accepted::AttributesPicked, {}, ExtraWord::pointingAt(attributes));
         QVERIFY(emitted == (Attributes{{"a", ""}, {"b", "2"}}));
     }
 
@@ -338,7 +360,7 @@ private Q_SLOTS:
             return text;
         };
         QSignalSpy changed(fixture.strip, SIGNAL(Current_Unit_Changed(bool)));
-        fixture.receive(20002200);
+        fixture.receive(Accepted::UnitChanged);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed[0][0].toBool(), metric);
         QCOMPARE(context, static_cast<void*>(&fixture.panel));
@@ -351,7 +373,7 @@ private Q_SLOTS:
         GlogCatcher log;
         CanvasHost::uiApiOverrides().getUnitString = [](void*) -> QString { throw "no unit"; };
         QSignalSpy changed(fixture.strip, SIGNAL(Current_Unit_Changed(bool)));
-        fixture.receive(20002200);
+        fixture.receive(Accepted::UnitChanged);
         const auto shown = boxes.take();
         QCOMPARE(shown.size(), 1);
         QCOMPARE(shown[0].title, QString("Information"));
@@ -379,7 +401,7 @@ private Q_SLOTS:
             throw std::runtime_error("broken unit");
         };
         QSignalSpy changed(fixture.strip, SIGNAL(Current_Unit_Changed(bool)));
-        fixture.receive(20002200);
+        fixture.receive(Accepted::UnitChanged);
         const auto shown = boxes.take();
         QCOMPARE(shown.size(), 1);
         QCOMPARE(shown[0].title, QString("Information"));
@@ -392,7 +414,7 @@ private Q_SLOTS:
     {
         StripFixture fixture;
         CanvasHost::uiApiOverrides().getUnitString = [](void*) -> QString { throw 42; };
-        QVERIFY_EXCEPTION_THROWN(fixture.receive(20002200), int);
+        QVERIFY_EXCEPTION_THROWN(fixture.receive(Accepted::UnitChanged), int);
     }
 
     void dataBeforeTheDialogExists()
@@ -400,10 +422,11 @@ private Q_SLOTS:
         StripFixture fixture;
         const Symbols symbols = {{1, "r10"}};
         const std::map<std::string, std::string> attributes = {{"a", "1"}};
-        fixture.receive(20001811, {}, addressOf(symbols));
-        fixture.receive(20001807, {}, addressOf(attributes));
-        fixture.receive(20002400, {{"JobName", "a"}, {"StepName", "b"}});
-        fixture.receive(20001824);
+        fixture.receive(Accepted::SymbolsPicked, {}, ExtraWord::pointingAt(symbols));
+        fixture.receive(Accepted::AttributesPicked, {}, ExtraWord::pointingAt(attributes));
+        fixture.receive(Accepted::JobOpened,
+                        {{PayloadKeys::jobName, "a"}, {PayloadKeys::stepName, "b"}});
+        fixture.receive(Accepted::UserSymbolsChanged);
         QVERIFY(fixture.recorder.messages().isEmpty());
     }
 

@@ -2,12 +2,15 @@
 
 #include "Main.h"
 #include "StripFixture.h"
+#include "plugin/MessageCodes.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QTimer>
 #include <QTranslator>
+
+namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
@@ -41,38 +44,18 @@ private Q_SLOTS:
         QString tipAtSignal;
         connect(fixture.strip, &Canvas_Tool_Strip::language_changed, fixture.strip,
                 [&] { tipAtSignal = fixture.button(0)->toolTip(); });
-        fixture.receive(20002201);
+        fixture.receive(Accepted::LanguageChanged);
         QApplication::removeTranslator(&translator);
         QCOMPARE(tipAtSignal, QString("Area Zoom"));  // the signal comes first
-        for (int index = 0; index < 26; ++index) {
-            const char* const tips[] = {"Area Zoom",
-                                        "Open a Popview",
-                                        "Measure",
-                                        "Feature HighLight",
-                                        "Add Feature",
-                                        "Delete Feature",
-                                        "Move Feature",
-                                        "Copy Feature",
-                                        "Change Line Angle",
-                                        "Stretch Line",
-                                        "Rotate",
-                                        "Mirror",
-                                        "Invert Feature",
-                                        "Break Line",
-                                        "Rout Dimension Editor",
-                                        "Contour Editor",
-                                        "Pull Line",
-                                        "Move Junction",
-                                        "Move Triplet(Angle)",
-                                        "Reroute Trace(Fix Point)",
-                                        "Feature Selection",
-                                        "Rectangle Selection",
-                                        "Polygon Selection",
-                                        "Select By Net",
-                                        "Mark"};
-            const QString expected =
-                index == 25 ? QString("EQ") : marked(tips[index], index == 2 ? "tool_edit" : "");
-            QCOMPARE(fixture.button(index)->toolTip(), expected);
+        QStringList expected;
+        for (const ToolTable::Row& row : ToolTable::rows()) {
+            expected.append(marked(row.tip.text, row.tip.note ? row.tip.note : ""));
+        }
+        expected[int(Tool::Measure)] = marked("Measure", "tool_edit");
+        expected[int(Tool::SelectByNet)] = marked("Select By Net");
+        expected[int(Tool::Eq)] = "EQ";
+        for (int index = 0; index < ToolTable::toolCount; ++index) {
+            QCOMPARE(fixture.button(index)->toolTip(), expected[index]);
         }
     }
 
@@ -87,7 +70,7 @@ private Q_SLOTS:
         }
         MarkingTranslator translator;
         QApplication::installTranslator(&translator);
-        fixture.receive(20002201);
+        fixture.receive(Accepted::LanguageChanged);
         QApplication::removeTranslator(&translator);
         const auto texts = [&](const char* menu) {
             QStringList list;
@@ -107,7 +90,7 @@ private Q_SLOTS:
     void beforeTheMenusExist()
     {
         StripFixture fixture;
-        fixture.receive(20002201);
+        fixture.receive(Accepted::LanguageChanged);
         QCOMPARE(fixture.button(23)->toolTip(), QString("Select By Net"));
         QVERIFY(fixture.panel.findChildren<QMenu*>().isEmpty());
     }

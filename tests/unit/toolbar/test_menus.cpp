@@ -2,10 +2,13 @@
 
 #include "Main.h"
 #include "StripFixture.h"
+#include "plugin/MessageCodes.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QTimer>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -110,21 +113,23 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<int>("extra");
         QTest::addColumn<QString>("style");
-        QTest::newRow("delete feature") << deleteTool << "Delete Feature" << 20000206 << 0
-                                        << sheet("delete1-gry.jpg", "delete1-gre.jpg");
-        QTest::newRow("to intersection") << deleteTool << "Delete to Intersection" << 20000206 << 1
-                                         << sheet("delete2-gry.jpg", "delete2-gre.jpg");
-        QTest::newRow("layer net") << netTool << "Select Layer Net" << 20000244 << 0
-                                   << sheet("Net selection6.jpg", "Net selection5.jpg");
+        QTest::newRow("delete feature")
+            << deleteTool << "Delete Feature" << int(Sent::DeleteFeature) << 0
+            << sheet("delete1-gry.jpg", "delete1-gre.jpg");
+        QTest::newRow("to intersection")
+            << deleteTool << "Delete to Intersection" << int(Sent::DeleteFeature) << 1
+            << sheet("delete2-gry.jpg", "delete2-gre.jpg");
+        QTest::newRow("layer net") << netTool << "Select Layer Net" << int(Sent::SelectLayerNet)
+                                   << 0 << sheet("Net selection6.jpg", "Net selection5.jpg");
         QTest::newRow("board net")
-            << netTool << "Select Board Net" << 20000245 << 0
+            << netTool << "Select Board Net" << int(Sent::SelectBoardNet) << 0
             << sheet("Net selection4.jpg", "Net selection3.jpg", "border:2px solid green");
-        QTest::newRow("polyline") << netTool << "Select Polyline" << 20000242 << 0
+        QTest::newRow("polyline") << netTool << "Select Polyline" << int(Sent::SelectPolyline) << 0
                                   << sheet("Net selection2.jpg", "Net selection1.jpg",
                                            "border:2px solid red");
-        QTest::newRow("orthogonal") << markTool << "Mark Orthogonal" << 20000266 << 0
+        QTest::newRow("orthogonal") << markTool << "Mark Orthogonal" << int(Sent::Mark) << 0
                                     << sheet("markgry.png", "markgre.png");
-        QTest::newRow("point to point") << markTool << "Mark Point to Point" << 20000266 << 1
+        QTest::newRow("point to point") << markTool << "Mark Point to Point" << int(Sent::Mark) << 1
                                         << sheet("xie_grey.png", "xie_green.png");
     }
     void entry()
@@ -152,7 +157,7 @@ private Q_SLOTS:
         // The variant stays in force for plain clicks.
         QTest::mouseClick(fixture.button(0), Qt::LeftButton);
         QTest::mouseClick(fixture.button(tool), Qt::LeftButton);
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{code, 20000201, code}));
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{code, Sent::AreaZoom, code}));
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(extra));
         QCOMPARE(fixture.button(tool)->styleSheet(), style);
     }
@@ -166,7 +171,7 @@ private Q_SLOTS:
         const QString styleBefore = fixture.button(markTool)->styleSheet();
         fixture.recorder.clear();
         rightClick(fixture, markTool, "Setting");
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{20000268});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::MarkSettings});
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
         QCOMPARE(fixture.checked(), QList<int>{1});
         QCOMPARE(fixture.button(markTool)->styleSheet(), styleBefore);

@@ -4,6 +4,7 @@
 #include "Main.h"
 #include "compose/ComposeDialog.h"
 #include "messages/MessageLog.h"
+#include "plugin/MessageCodes.h"
 #include "window/HostState.h"
 
 #include <PluginManagerStandIn.h>
@@ -12,6 +13,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableWidget>
+
+namespace Accepted = MessageCodes::Accepted;
 
 class TestCompose : public QObject {
     Q_OBJECT
@@ -89,7 +92,7 @@ private Q_SLOTS:
         QCOMPARE(m_log->messages().size(), size_t(1));
         QCOMPARE(last().sender, QString("Canvas_JobTree.dll"));
         QCOMPARE(last().receiver, QString("Canvas_Tool_Strip.dll"));
-        QCOMPARE(last().code, 20002400);
+        QCOMPARE(last().code, Accepted::JobOpened);
         QCOMPARE(last().extra, qint64(12));
         const QMap<QString, QVariant> expected{
             {"Text", QString("a b=c")}, {"Whole", -7}, {"Decimal", 0.5}, {"Truth", true}};

@@ -1,7 +1,11 @@
 // The words of a session's "send" step.
 
 #include "Main.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/PayloadKeys.h"
 #include "session/MessageWords.h"
+
+namespace Accepted = MessageCodes::Accepted;
 
 class TestMessageWords : public QObject {
     Q_OBJECT
@@ -15,8 +19,8 @@ private Q_SLOTS:
                                      "D:decimal=0.5", "T:bool=true", "F:bool=false"},
                                     &message, &reason),
                  qPrintable(reason));
-        QCOMPARE(message.code, 20002400);
-        const QMap<QString, QVariant> expected{{"JobName", QString("a=b")},
+        QCOMPARE(message.code, Accepted::JobOpened);
+        const QMap<QString, QVariant> expected{{PayloadKeys::jobName, QString("a=b")},
                                                {"Empty", QString("")},
                                                {"A:B", QString("c")},
                                                {"N", -7},

@@ -6,6 +6,8 @@
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageMonitor.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <QTpluginsManger4CAM.h>
 
@@ -16,6 +18,8 @@
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -52,19 +56,19 @@ private Q_SLOTS:
         MessageMonitor monitor(&log);
         auto& table = findNamed<QTableView>(monitor, "m_pMonitorTV");
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no module"));
-        send(20000207);
-        send(20000208);
-        send(50, {{"SymbolText", QString("r10")}});
+        send(Sent::MoveFeature);
+        send(Sent::CopyFeature);
+        send(Sent::Record, {{RecordKeys::symbolText, QString("r10")}});
         QCOMPARE(table.model()->rowCount(), 3);
         QStringList first;
         for (int column = 0; column < table.model()->columnCount(); ++column) {
             first.append(table.model()->index(0, column).data().toString());
         }
         QVERIFY(first.contains("Canvas_Tool_Strip.dll"));
-        QVERIFY(first.contains("20000207"));
+        QVERIFY(first.contains(QString::number(Sent::MoveFeature)));
 
         auto& filter = findNamed<QLineEdit>(monitor, "m_pMonitorFilterLE");
-        QTest::keyClicks(&filter, "SymbolText");
+        QTest::keyClicks(&filter, RecordKeys::symbolText);
         QCOMPARE(table.model()->rowCount(), 1);
         filter.clear();
         QCOMPARE(table.model()->rowCount(), 3);
@@ -76,7 +80,8 @@ private Q_SLOTS:
     {
         MessageLog log;
         MessageMonitor monitor(&log);
-        send(50, {{"Features", 2}, {"SymbolText", QString("r10")}});
+        send(Sent::Record, {{RecordKeys::features, FeatureKind::pad.toInt()},
+                            {RecordKeys::symbolText, QString("r10")}});
         findNamed<QTableView>(monitor, "m_pMonitorTV").selectRow(0);
         const auto& detail = findNamed<QTableWidget>(monitor, "m_pMessageTW");
         QCOMPARE(detail.rowCount(), 2);
@@ -94,25 +99,30 @@ private Q_SLOTS:
         const auto payloadOf = [&](int row) {
             return table.model()->index(row, MessageModel::Payload).data().toString();
         };
-        send(50, {{"Features", 2}, {"SymbolText", QString()}});
+        send(Sent::Record, {{RecordKeys::features, FeatureKind::pad.toInt()},
+                            {RecordKeys::symbolText, QString()}});
         QCOMPARE(marked(monitor), QStringList());  // nothing to compare with
-        send(50, {{"Features", 2}, {"SymbolText", QString("r10")}});
-        QCOMPARE(marked(monitor), QStringList{"SymbolText"});
+        send(Sent::Record, {{RecordKeys::features, FeatureKind::pad.toInt()},
+                            {RecordKeys::symbolText, QString("r10")}});
+        QCOMPARE(marked(monitor), QStringList{RecordKeys::symbolText});
         QCOMPARE(payloadOf(1), QString("SymbolText=r10, Features=2"));
-        send(20000207);  // another message in between
+        send(Sent::MoveFeature);  // another message in between
         QCOMPARE(marked(monitor), QStringList());
-        send(52, {{"Features", QString("2")}, {"SymbolText", QString("r10")}});
-        QCOMPARE(marked(monitor), QStringList{"Features"});  // the type counts
-        send(50, {{"Features", QString("2")}, {"SymbolText", QString("r10")}});
+        send(Sent::DirectionRecord,
+             {{RecordKeys::features, FeatureKind::pad}, {RecordKeys::symbolText, QString("r10")}});
+        QCOMPARE(marked(monitor), QStringList{RecordKeys::features});  // the type counts
+        send(Sent::Record,
+             {{RecordKeys::features, FeatureKind::pad}, {RecordKeys::symbolText, QString("r10")}});
         QCOMPARE(marked(monitor), QStringList());
         QCOMPARE(payloadOf(4), QString("Features=2, SymbolText=r10"));
         table.selectRow(1);
-        QCOMPARE(marked(monitor), QStringList{"SymbolText"});
+        QCOMPARE(marked(monitor), QStringList{RecordKeys::symbolText});
         // A clear keeps the record that the next one is compared with.
         log.clear();
         QCOMPARE(findNamed<QTableWidget>(monitor, "m_pMessageTW").rowCount(), 0);
-        send(50, {{"Features", 3}, {"SymbolText", QString("r10")}});
-        QCOMPARE(marked(monitor), QStringList{"Features"});
+        send(Sent::Record, {{RecordKeys::features, FeatureKind::surface.toInt()},
+                            {RecordKeys::symbolText, QString("r10")}});
+        QCOMPARE(marked(monitor), QStringList{RecordKeys::features});
     }
 
     void showsTheNewestUntilAnotherIsSelected()
@@ -121,15 +131,15 @@ private Q_SLOTS:
         MessageMonitor monitor(&log);
         auto& table = findNamed<QTableView>(monitor, "m_pMonitorTV");
         const auto& head = findNamed<QLabel>(monitor, "m_pMessageLB");
-        send(20000207);
-        send(20000208);
-        QVERIFY2(head.text().contains("20000208"), qPrintable(head.text()));
+        send(Sent::MoveFeature);
+        send(Sent::CopyFeature);
+        QVERIFY2(head.text().contains(QString::number(Sent::CopyFeature)), qPrintable(head.text()));
         table.selectRow(0);
-        send(20000202);
+        send(Sent::FeatureSelection);
         QCOMPARE(table.currentIndex().row(), 0);
-        QVERIFY2(head.text().contains("20000207"), qPrintable(head.text()));
+        QVERIFY2(head.text().contains(QString::number(Sent::MoveFeature)), qPrintable(head.text()));
         table.selectRow(2);
-        send(20000203);
+        send(Sent::RectangleSelection);
         QCOMPARE(table.currentIndex().row(), 3);
     }
 
@@ -140,8 +150,10 @@ private Q_SLOTS:
         monitor.resize(1200, 300);
         monitor.show();
         auto& table = findNamed<QTableView>(monitor, "m_pMonitorTV");
-        send(20000207);
-        send(50, {{"Features", 2}, {"SymbolText", QString("r10")}, {"On", true}});
+        send(Sent::MoveFeature);
+        send(Sent::Record, {{RecordKeys::features, FeatureKind::pad.toInt()},
+                            {RecordKeys::symbolText, QString("r10")},
+                            {"On", true}});
         const QPoint place = table.visualRect(table.model()->index(1, 0)).center();
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, place);
         QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, place);
@@ -162,8 +174,8 @@ private Q_SLOTS:
     void savesATrace()
     {
         MessageLog log;
-        send(20000207);
-        send(20000208);
+        send(Sent::MoveFeature);
+        send(Sent::CopyFeature);
         const QTemporaryDir folder;
         QString error;
         QVERIFY2(log.save(folder.filePath("trace.jsonl"), &error), qPrintable(error));
@@ -171,7 +183,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArrayList lines = file.readAll().trimmed().split('\n');
         QCOMPARE(lines.size(), 2);
-        QCOMPARE(QJsonDocument::fromJson(lines[1])["code"].toInt(), 20000208);
+        QCOMPARE(QJsonDocument::fromJson(lines[1])["code"].toInt(), Sent::CopyFeature);
         QVERIFY(!log.save(folder.filePath("no/trace.jsonl"), &error));
         QVERIFY(!error.isEmpty());
     }

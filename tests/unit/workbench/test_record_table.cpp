@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "messages/RecordTable.h"
+#include "plugin/RecordKeys.h"
 
 namespace {
 
@@ -25,13 +26,14 @@ private Q_SLOTS:
     void values()
     {
         RecordTable table("m_pRecordTW");
-        table.showValues({{"Features", 2}, {"SymbolText", QString("r10")}});
+        table.showValues({{RecordKeys::features, FeatureKind::pad.toInt()},
+                          {RecordKeys::symbolText, QString("r10")}});
         QCOMPARE(table.rowCount(), 2);
-        const char* const expected[2][3] = {{"Features", "2", "integer"},
-                                            {"SymbolText", "r10", "text"}};
+        const QString expected[2][3] = {{RecordKeys::features, "2", "integer"},
+                                        {RecordKeys::symbolText, "r10", "text"}};
         for (int row = 0; row < 2; ++row) {
             for (int column = 0; column < 3; ++column) {
-                QCOMPARE(table.item(row, column)->text(), QString(expected[row][column]));
+                QCOMPARE(table.item(row, column)->text(), expected[row][column]);
             }
         }
     }

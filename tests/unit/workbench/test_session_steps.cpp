@@ -2,6 +2,9 @@
 
 #include "Main.h"
 #include "PlaySession.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
 
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
@@ -16,6 +19,8 @@
 #include <QSpinBox>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -156,8 +161,11 @@ private Q_SLOTS:
         QFETCH(QString, expectation);
         QFETCH(QString, error);
         connect(m_button, &QPushButton::clicked, this, [this] {
-            send(50, {{"Features", 2}, {"Symbol", QString("r10")}, {"Half", 0.5}, {"On", true}});
-            send(51, {}, static_cast<qint64>(reinterpret_cast<quintptr>(&m_attributes)));
+            send(Sent::Record, {{RecordKeys::features, FeatureKind::pad.toInt()},
+                                {"Symbol", QString("r10")},
+                                {"Half", 0.5},
+                                {"On", true}});
+            send(Sent::AttributeMap, {}, ExtraWord::pointingAt(m_attributes));
         });
         QCOMPARE(play("click m_pSendPB\nexpect message " + expectation + "\n"), error);
     }

@@ -3,13 +3,18 @@
 #include "Main.h"
 #include "messages/MessageNames.h"
 #include "messages/MessageRecord.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "plugin/RecordKeys.h"
 #include "session/SessionParser.h"
 #include "window/Options.h"
 
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
@@ -65,9 +70,10 @@ private Q_SLOTS:
     {
         const std::map<std::string, std::string> attributes{{".net", "gnd"}};
         PluginMetaData message("Canvas_Tool_Strip.dll", "Canvas_Viewer.dll");
-        message.code = 51;
-        message.payload = {{"Features", 2}, {"Line", QString("1")}};
-        message.extra = qint64(reinterpret_cast<quintptr>(&attributes));
+        message.code = Sent::AttributeMap;
+        message.payload = {{RecordKeys::features, FeatureKind::pad.toInt()},
+                           {RecordKeys::line, LineKind::single}};
+        message.extra = ExtraWord::pointingAt(attributes);
         const MessageRecord record = MessageRecord::of({nullptr, message, true});
         const QJsonObject json = QJsonDocument::fromJson(record.toJson()).object();
         QCOMPARE(json["code"].toInt(), 51);
@@ -76,10 +82,10 @@ private Q_SLOTS:
         QCOMPARE(json["delivered"].toBool(), true);
         QCOMPARE(json["attributes"].toObject()[".net"].toString(), QString("gnd"));
         const QJsonObject payload = json["payload"].toObject();
-        QCOMPARE(payload["Features"].toObject()["type"].toString(), QString("integer"));
-        QCOMPARE(payload["Features"].toObject()["value"], QJsonValue(2));
-        QCOMPARE(payload["Line"].toObject()["type"].toString(), QString("text"));
-        QCOMPARE(payload["Line"].toObject()["value"], QJsonValue("1"));
+        QCOMPARE(payload[RecordKeys::features].toObject()["type"].toString(), QString("integer"));
+        QCOMPARE(payload[RecordKeys::features].toObject()["value"], QJsonValue(2));
+        QCOMPARE(payload[RecordKeys::line].toObject()["type"].toString(), QString("text"));
+        QCOMPARE(payload[RecordKeys::line].toObject()["value"], QJsonValue("1"));
         QVERIFY(!record.toJson().contains('\n'));
     }
 

@@ -3,6 +3,7 @@
 #include "HostName.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "plugin/PayloadKeys.h"
 
 #include <CamApiStandIn.h>
 #include <QTpluginsManger4CAM.h>
@@ -59,8 +60,8 @@ void JobTreePane::open(const QTreeWidgetItem* item)
     }
     PluginMetaData message(ModuleNames::jobTree, hostName);
     message.code = MessageCodes::Accepted::JobOpened;
-    message.payload = {{QStringLiteral("JobName"), item->parent()->text(0)},
-                       {QStringLiteral("StepName"), item->text(0)}};
+    message.payload = {{PayloadKeys::jobName, item->parent()->text(0)},
+                       {PayloadKeys::stepName, item->text(0)}};
     QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, message);
 }
 

@@ -1,8 +1,10 @@
 // What each message of the tool strip and of the host does on the canvas.
 
 #include "board/Brush.h"
+#include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "plugin/PayloadKeys.h"
 #include "viewer/Inspector.h"
 #include "viewer/ToolSet.h"
 #include "viewer/ViewerPane.h"
@@ -80,8 +82,7 @@ void ViewerPane::takeDirection(const PluginMetaData& message)
 
 void ViewerPane::takeAttributes(const PluginMetaData& message)
 {
-    const auto* const map = reinterpret_cast<const std::map<std::string, std::string>*>(
-        static_cast<quintptr>(message.extra));
+    const auto* const map = ExtraWord::object<std::map<std::string, std::string>>(message.extra);
     if (!map) {
         return;
     }
@@ -185,7 +186,7 @@ void ViewerPane::sendSymbol(int feature)
     if (!symbol.isEmpty()) {
         symbols[feature] = symbol.toStdString();
     }
-    send(Accepted::SymbolsPicked, &symbols);
+    send(Accepted::SymbolsPicked, ExtraWord::pointingAt(symbols));
 }
 
 void ViewerPane::sendAttributes(int feature)
@@ -196,19 +197,19 @@ void ViewerPane::sendAttributes(int feature)
     for (auto attribute = picked.begin(); attribute != picked.end(); ++attribute) {
         attributes[attribute.key().toStdString()] = attribute->toStdString();
     }
-    send(Accepted::AttributesPicked, &attributes);
+    send(Accepted::AttributesPicked, ExtraWord::pointingAt(attributes));
 }
 
-void ViewerPane::send(int code, const void* object)
+void ViewerPane::send(int code, qint64 extra)
 {
     PluginMetaData message(ModuleNames::viewer, ModuleNames::toolStrip);
     message.code = code;
-    message.extra = static_cast<qint64>(reinterpret_cast<quintptr>(object));
+    message.extra = extra;
     QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, message);
 }
 
 void ViewerPane::openStep(const PluginMetaData& message)
 {
-    m_canvas.openStep(message.payload.value(QStringLiteral("JobName")).toString(),
-                      message.payload.value(QStringLiteral("StepName")).toString());
+    m_canvas.openStep(message.payload.value(PayloadKeys::jobName).toString(),
+                      message.payload.value(PayloadKeys::stepName).toString());
 }

@@ -51,7 +51,7 @@ private:
     void startPicking(const QString& hint, void (ViewerPane::*picked)(int));
     void sendSymbol(int feature);
     void sendAttributes(int feature);
-    void send(int code, const void* object = nullptr);
+    void send(int code, qint64 extra = 0);
     void openStep(const PluginMetaData& message);
 
     void showHovered(int feature);

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Codes, keys and addresses stand by name in the sources: the numbers and texts are in plugin/ alone,
+# and in the tests beside this file. What users type and read may hold a number in its text.
+# Usage: bare-names.sh SOURCE
+set -u
+cd "$1" || exit 1
+lists=tests/contract
+mapfile -t files < <(find addfeature benchmarks dimensions host plugin tests toolbar workbench \
+    \( -name '*.h' -o -name '*.cpp' \) ! -path "$lists/*" ! -path 'plugin/MessageCodes.h' \
+    ! -path 'plugin/RecordKeys.h' ! -path 'plugin/PayloadKeys.h' ! -path 'plugin/RecordValues.h' \
+    ! -path 'plugin/ExtraWord.h')
+[ "${#files[@]}" -gt 0 ] || exit 1
+
+codes=$(sed -n 's/^ *\([0-9]\{8\}\) .*/\1/p' "$lists/messages.txt" | sort -u | paste -sd'|')
+# Keys that are words which a user reads as well are left out.
+keys=$(sed 's/ .*//; /^#/d; s/[()&]/\\&/g' "$lists/record.txt" |
+    grep -vxE 'Attributes|Closed|ClockWise|Features|Line|Mirror|Polarity' | paste -sd'|')
+failed=0
+
+# none WHAT PATTERN: no source line has it.
+none() {
+    grep -nE "$2" "${files[@]}" && { echo "$1: see the names in plugin/"; failed=1; }
+}
+none "a bare code" "^([^\"/]|/[^/]|\"[^\"]*\")*\b($codes)\b"
+none "a bare key" "\"(JobName|StepName|$keys)\""
+none "an address taken out of or put into the extra word by hand" 'reinterpret_cast<.*(extra|quintptr)'
+exit $failed
