@@ -9,14 +9,12 @@
 #include "addfeature/pages/PadPage.h"
 #include "addfeature/pages/SurfacePage.h"
 #include "addfeature/pages/TextPage.h"
-#include "plugin/Guard.h"
 #include "plugin/RecordKeys.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QLoggingCategory>
 #include <QScopeGuard>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -25,8 +23,6 @@
 #include <utility>
 
 namespace {
-
-Q_LOGGING_CATEGORY(dialogLog, "canvastoolstrip.addfeature")
 
 constexpr int dialogWidth = 350;
 constexpr int maximumRotation = 360;
@@ -314,20 +310,6 @@ void AddFeature::on_m_pSymbolTextLE_editingFinished()
     if (!m_closing) {
         m_symbol->finish();
     }
-}
-
-void AddFeature::on_m_pSymbolTextLE_textChanged(QString text)
-{
-    m_refusals.run(m_symbol->field(), [&] {
-        m_refusals.box([&] {
-            guarded({"AddFeature", QT_TRANSLATE_NOOP("AddFeature", "Information"), "AddFeature.cpp",
-                     __LINE__},
-                    [&] {
-                        qCDebug(dialogLog).noquote().nospace() << "text is " << text;
-                        m_symbol->keepText(text);
-                    });
-        });
-    });
 }
 
 void AddFeature::change_current_units(bool isMM)

@@ -3,17 +3,22 @@
 #include "addfeature/record/DialogDoor.h"
 #include "addfeature/record/FeatureRecord.h"
 #include "addfeature/record/RefusalGuard.h"
+#include "plugin/Guard.h"
 #include "plugin/RecordKeys.h"
 
 #include <cam_api.h>
 #include <common_widgets.h>
 #include <ui_api.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegExpValidator>
 #include <QRegularExpression>
+#include <QScopeGuard>
+#include <QTimer>
 
 #include <algorithm>
 #include <optional>
@@ -23,6 +28,8 @@ using ZENTRA::UIAPI::ZTERegExp;
 using ZENTRA::UIAPI::ZTLineEdit;
 
 namespace {
+
+Q_LOGGING_CATEGORY(dialogLog, "canvastoolstrip.addfeature")
 
 constexpr int freeText = 6;  // the host's input pattern
 constexpr int pickButtonSize = 25;
@@ -85,6 +92,7 @@ SymbolEntry::SymbolEntry(DialogDoor& door, QWidget* parent)
     m_pSelectFromEditorPB->setIcon(
         QIcon(QStringLiteral(":/Canvas_Tool_Strip/Resources/add_fea.jpg")));
     m_pSymbolTextLE->setValidator(m_lineValidator);
+    m_pSymbolTextLE->installEventFilter(this);
 
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -221,6 +229,7 @@ void SymbolEntry::enterText()
 
 void SymbolEntry::finish()
 {
+    m_isOwed = m_isNoting;
     m_door.refusals().report(m_pSymbolTextLE, [this] { takeEntry(); });
 }
 
@@ -276,6 +285,40 @@ void SymbolEntry::returnPressed()
         m_door.record().set(RecordKeys::symbolText, stored(typed));
         m_door.sendRecord();
     });
+}
+
+void SymbolEntry::noteText(const QString& text)
+{
+    const auto guardedSlot = [this, &text] {
+        guarded({"AddFeature", QT_TR_NOOP("Information"), "AddFeature.cpp", __LINE__}, [&] {
+            qCDebug(dialogLog).noquote().nospace() << "text is " << text;
+            keepText(text);
+        });
+    };
+    m_door.refusals().run(m_pSymbolTextLE, [this, &guardedSlot] {
+        const QPointer<SymbolEntry> self(this);
+        const auto noted = qScopeGuard([self] {
+            if (self) {
+                self->m_isNoting = false;
+            }
+        });
+        m_isNoting = true;
+        m_door.refusals().box(guardedSlot);
+    });
+}
+
+/// An entry whose report went to the box of a failure is taken when the field is left.
+bool SymbolEntry::eventFilter(QObject* field, QEvent* event)
+{
+    if (event->type() == QEvent::FocusOut && m_isOwed && !m_isNoting) {
+        // Later: Qt reports an entry that was edited since.
+        QTimer::singleShot(0, m_pSymbolTextLE, [this] {
+            if (m_isOwed && !m_pSymbolTextLE->hasFocus()) {
+                Q_EMIT m_pSymbolTextLE->editingFinished();
+            }
+        });
+    }
+    return QWidget::eventFilter(field, event);
 }
 
 void SymbolEntry::keepText(const QString& text)

@@ -49,8 +49,8 @@ public:
     void enterText();
     /// Takes over the entry that the user has finished; see RefusalGuard.
     void finish();
-    /// Keeps what stands in the field for a change of the unit. What the host throws passes on.
-    void keepText(const QString& text);
+    /// Keeps what stands in the field for a change of the unit; guarded.
+    void noteText(const QString& text);
     /// Cuts the entry at the cursor and sends it.
     void returnPressed();
     void togglePick();
@@ -64,7 +64,9 @@ public:
     void closePopups();
 
 private:
+    bool eventFilter(QObject* field, QEvent* event) override;
     bool isMetric() const;
+    void keepText(const QString& text);
     QString stored(const QString& name) const;
     QString converted(const QString& name, int direction) const;
     void storeRotation(int suffixDegrees);
@@ -86,4 +88,6 @@ private:
     QString m_otherText;
     bool m_hasSuffix = false;
     bool m_pickArmed = false;
+    bool m_isNoting = false;  // the box of what the host threw may be open
+    bool m_isOwed = false;    // that box took a report, and Qt will not repeat it
 };

@@ -345,6 +345,25 @@ private Q_SLOTS:
         fixture.enter("r20");
         QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r20")));
     }
+
+    void whatWasTypedWhileTheHostFailedIsTakenOnLeaving()
+    {
+        DialogFixture fixture;
+        CanvasHost::uiApiOverrides().getUnit = [](void*) -> int {
+            throw std::runtime_error("no unit");
+        };
+        fixture.symbol().setFocus();
+        QTest::keyClicks(&fixture.symbol(), "r10");
+        QCOMPARE(fixture.boxes.take().size(), 3);  // one a key, and none for the focus
+        QCOMPARE(fixture.symbol().text(), QString("r10"));
+        CanvasHost::uiApiOverrides() = {};
+        fixture.symbol().setFocus();
+        fixture.leave("Tab");
+        QTRY_COMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
+        QTest::qWait(20);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+    }
 };
 
 CTS_MAIN(TestSymbolEntry)
