@@ -55,7 +55,7 @@ void AddFeature::buildTypeRow(QVBoxLayout* layout)
 {
     m_pFeatureBG = new RadioField(*this, this,
                                   {"m_pFeatureBG", Caption::none(), RecordKeys::features,
-                                   SLOT(onFeatureButtonClicked(QAbstractButton*))},
+                                   SLOT(onFeatureButtonClicked(QAbstractButton*)), Sends::Always},
                                   RadioField::Look::Tool,
                                   {{"m_pLineTB", "Line1.jpg", QT_TR_NOOP("Line")},
                                    {"m_pPadTB", "Pad1.jpg", QT_TR_NOOP("Pad")},
@@ -72,21 +72,21 @@ void AddFeature::buildCommonRows(QVBoxLayout* layout)
     m_attributes = new AttributeRow(*this, this);
     layout->addWidget(m_attributes);
 
-    m_pPolarityCMB =
-        new ChoiceField(*this, this,
-                        {"m_pPolarityCMB", Caption::spoken(QT_TR_NOOP("Polarity")),
-                         RecordKeys::polarity, SLOT(on_m_pPolarityCMB_ComboBox_Changed())},
-                        {{QT_TR_NOOP("Positive"), Polarity::positive},
-                         {QT_TR_NOOP("Negative"), Polarity::negative}},
-                        ChoiceField::Stores::Text, Sends::Always);
+    m_pPolarityCMB = new ChoiceField(
+        *this, this,
+        {"m_pPolarityCMB", Caption::spoken(QT_TR_NOOP("Polarity")), RecordKeys::polarity,
+         SLOT(on_m_pPolarityCMB_ComboBox_Changed()), Sends::Always},
+        {{QT_TR_NOOP("Positive"), Polarity::positive},
+         {QT_TR_NOOP("Negative"), Polarity::negative}},
+        ChoiceField::Stores::Text);
     layout->addWidget(m_pPolarityCMB);
 
     m_pMirrorCMB =
         new ChoiceField(*this, this,
                         {"m_pMirrorCMB", Caption::spoken(QT_TR_NOOP("Mirror")), RecordKeys::mirror,
-                         SLOT(on_m_pMirrorCMB_ComboBox_Changed())},
+                         SLOT(on_m_pMirrorCMB_ComboBox_Changed()), Sends::Always},
                         {{QT_TR_NOOP("Mir"), Mirror::yes}, {QT_TR_NOOP("No Mir"), Mirror::no}},
-                        ChoiceField::Stores::Text, Sends::Always, notMirrored);
+                        ChoiceField::Stores::Text, notMirrored);
     m_pMirrorCMB->hide();
     layout->addWidget(m_pMirrorCMB);
 
@@ -101,7 +101,6 @@ void AddFeature::buildCommonRows(QVBoxLayout* layout)
 
     m_symbol = new SymbolEntry(*this, this);
     layout->addWidget(m_symbol);
-    m_record.set(RecordKeys::symbolText, m_symbol->text());
 }
 
 void AddFeature::buildPages(QVBoxLayout* layout)
@@ -185,8 +184,7 @@ void AddFeature::connectSignal(const char* signal, QObject* receiver, const char
 bool AddFeature::restoreCommonRows()
 {
     const QPointer<AddFeature> self(this);
-    m_attributes->setCheckBoxVisible(true);
-    m_attributes->setFillVisible(true);
+    m_attributes->restore();
     m_attributes->stateChanged();
     if (!self) {
         return false;
@@ -196,41 +194,29 @@ bool AddFeature::restoreCommonRows()
     return true;
 }
 
-void AddFeature::setRowVisible(CommonRow row, bool visible)
+void AddFeature::hideAttributeRows()
 {
-    switch (row) {
-        case CommonRow::Attributes:
-            m_attributes->setCheckBoxVisible(visible);
-            break;
-        case CommonRow::Values:
-            m_attributes->setValuesVisible(visible);
-            break;
-        case CommonRow::Fill:
-            m_attributes->setFillVisible(visible);
-            break;
-        case CommonRow::Polarity:
-            m_pPolarityCMB->setVisible(visible);
-            break;
-        case CommonRow::Mirror:
-            m_pMirrorCMB->setVisible(visible);
-            break;
-        case CommonRow::Rotation:
-            m_pAngleValueSB->setVisible(visible);
-            break;
-    }
+    m_attributes->hideAll();
+    m_pPolarityCMB->hide();
+}
+
+void AddFeature::hidePlacementRows()
+{
+    m_pMirrorCMB->hide();
+    m_pAngleValueSB->hide();
 }
 
 void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
 {
-    // The order can be seen: hiding the control that has the focus ends its editing, and sends.
+    // All is shown before the canvas is told of the attributes, and hidden only then: hiding the
+    // control that has the focus ends its editing, which sends.
     m_pPolarityCMB->show();
     m_symbol->setControlsVisible(true);
     if (!restoreCommonRows()) {
         return;
     }
     m_attributes->setFillEnabled(false);
-    m_pMirrorCMB->hide();
-    m_pAngleValueSB->hide();
+    hidePlacementRows();
 
     const FeatureType type = featureType();
     const int id = static_cast<int>(type);
@@ -244,7 +230,7 @@ void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
         m_pAngleValueSB->setVisible(isPlaced);
         showPage(m_pages[id]);
     }
-    getChangeCurrentTool();
+    m_pFeatureBG->send();
 }
 
 void AddFeature::showPage(const Page* chosen)
@@ -263,18 +249,18 @@ bool AddFeature::hasSymbol() const
 /// Has the host check the symbol, and takes a refused one out of field and record.
 bool AddFeature::isSymbolAccepted()
 {
-    if (m_isSymbolChecked) {
-        return false;  // asked by a message that arrives while the box of its refusal is open
+    if (m_isCheckingSymbol) {
+        return false;  // re-entered from the box of the refusal
     }
     bool isAccepted = false;
     m_refusals.run(m_symbol->field(), [this, &isAccepted] {
         const QPointer<AddFeature> self(this);
         const auto checked = qScopeGuard([self] {
             if (self) {
-                self->m_isSymbolChecked = false;
+                self->m_isCheckingSymbol = false;
             }
         });
-        m_isSymbolChecked = true;
+        m_isCheckingSymbol = true;
         const QString symbol = m_symbol->text();
         isAccepted = m_symbol->isSpecial(symbol) || m_checks.symbolSizes(symbol);
         if (self && !isAccepted) {
@@ -299,8 +285,7 @@ void AddFeature::on_m_pAngleValueSB_editingFinished()
 
 void AddFeature::storeRotation()
 {
-    m_record.set(RecordKeys::mirrorRotate,
-                 QString::number(qint64(rotation()) + m_symbol->suffixDegrees()));
+    m_symbol->storeRotation(m_symbol->suffixDegrees());
     getChangeCurrentTool();
 }
 

@@ -164,7 +164,8 @@ private:
     bool checkCoordinate(double value) override;
     bool checkNumber(double value, double minimum, double maximum) override;
     bool restoreCommonRows() override;
-    void setRowVisible(CommonRow row, bool visible) override;
+    void hideAttributeRows() override;
+    void hidePlacementRows() override;
     void connectToSlot(QObject* sender, const char* signal, const char* slot) override;
     void disconnectFromSlot(QObject* sender, const char* signal, const char* slot) override;
     void connectSignal(const char* signal, QObject* receiver, const char* slot) override;
@@ -185,7 +186,7 @@ private:
     std::string m_step;
     bool m_metric = false;
     bool m_closing = false;
-    bool m_isSymbolChecked = false;  // while the host checks it, with a box or without
+    bool m_isCheckingSymbol = false;  // by the host, with a box or without
     FeatureRecord m_record;
     CanvasLink m_canvas;
     RefusalGuard m_refusals;

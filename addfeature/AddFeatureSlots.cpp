@@ -1,5 +1,5 @@
-// The dialog's named slots, each of which names the field, or the rule of a page or row, that it is
-// for. They stand in the order of the header; the frame's own handlers are in AddFeature.cpp.
+// The dialog's named slots, in the order of the header: each forwards to a field, or to a rule of a
+// page or row. The frame's own handlers are in AddFeature.cpp.
 
 #include "addfeature/AddFeature.h"
 #include "addfeature/AttributeRow.h"

@@ -48,19 +48,18 @@ void AttributeRow::retranslate()
     m_pFillPB->setText(tr("Fill..."));
 }
 
-void AttributeRow::setCheckBoxVisible(bool visible)
+void AttributeRow::restore()
 {
-    setShown(m_pAttributesCB, visible);
+    setShown(m_pAttributesCB, true);
+    setShown(m_pFillPB, true);
 }
 
-void AttributeRow::setValuesVisible(bool visible)
+void AttributeRow::hideAll()
 {
-    setShown(m_pValuesPB, visible);
-}
-
-void AttributeRow::setFillVisible(bool visible)
-{
-    setShown(m_pFillPB, visible);
+    for (QWidget* const control :
+         std::initializer_list<QWidget*>{m_pAttributesCB, m_pValuesPB, m_pFillPB}) {
+        setShown(control, false);
+    }
 }
 
 /// A row of which nothing is shown would leave a gap.

@@ -25,9 +25,9 @@ public:
     AttributeRow(DialogDoor& door, QWidget* dialog);
 
     void retranslate();
-    void setCheckBoxVisible(bool visible);
-    void setValuesVisible(bool visible);
-    void setFillVisible(bool visible);
+    /// Shows the check box and "Fill...".
+    void restore();
+    void hideAll();
     void setFillEnabled(bool enabled);
 
     // The named slots of the dialog forward to these.

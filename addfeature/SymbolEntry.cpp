@@ -99,9 +99,10 @@ SymbolEntry::SymbolEntry(DialogDoor& door, QWidget* parent)
     row->addWidget(m_pSymbolPB);
     row->addWidget(m_pSymbolTextLE);
     row->addWidget(m_pSelectFromEditorPB);
-    // The field, made with another parent, arrived last.
+    // The field, made with another parent, came last.
     setTabOrder(m_pSymbolPB, m_pSymbolTextLE);
     retranslate();
+    door.record().set(RecordKeys::symbolText, text());
 
     door.connectToSlot(m_pSelectFromEditorPB, SIGNAL(clicked()),
                        SLOT(on_m_pSelectFromEditorPB_clicked()));
@@ -229,7 +230,7 @@ void SymbolEntry::enterText()
 
 void SymbolEntry::finish()
 {
-    m_isOwed = m_isNoting;
+    m_hasUntakenEntry = m_isNoting;
     m_door.refusals().report(m_pSymbolTextLE, [this] { takeEntry(); });
 }
 
@@ -310,10 +311,10 @@ void SymbolEntry::noteText(const QString& text)
 /// An entry whose report went to the box of a failure is taken when the field is left.
 bool SymbolEntry::eventFilter(QObject* field, QEvent* event)
 {
-    if (event->type() == QEvent::FocusOut && m_isOwed && !m_isNoting) {
+    if (event->type() == QEvent::FocusOut && m_hasUntakenEntry && !m_isNoting) {
         // Later: Qt reports an entry that was edited since.
         QTimer::singleShot(0, m_pSymbolTextLE, [this] {
-            if (m_isOwed && !m_pSymbolTextLE->hasFocus()) {
+            if (m_hasUntakenEntry && !m_pSymbolTextLE->hasFocus()) {
                 Q_EMIT m_pSymbolTextLE->editingFinished();
             }
         });

@@ -41,8 +41,11 @@ public:
     /// Whether `name` is a special symbol of the job, which is asked anew each time.
     bool isSpecial(const QString& name) const;
 
-    /// The degrees that a rotation suffix adds; 0 without one.
+    /// The degrees that the rotation's handler adds: what follows the first "_" of the field, not
+    /// the last as at the entry. Deliberate. 0 without a suffix.
     int suffixDegrees() const;
+    /// Stores the rotation with what a suffix adds.
+    void storeRotation(int suffixDegrees);
 
     // The named slots of the dialog forward to these.
     void chosen(const QString& name);
@@ -69,7 +72,6 @@ private:
     void keepText(const QString& text);
     QString stored(const QString& name) const;
     QString converted(const QString& name, int direction) const;
-    void storeRotation(int suffixDegrees);
     void takeEntry();
     void storeEntry();
     void refuse(const QString& title, const QString& text);
@@ -88,6 +90,6 @@ private:
     QString m_otherText;
     bool m_hasSuffix = false;
     bool m_pickArmed = false;
-    bool m_isNoting = false;  // the box of what the host threw may be open
-    bool m_isOwed = false;    // that box took a report, and Qt will not repeat it
+    bool m_isNoting = false;         // a box reporting a host exception may be open
+    bool m_hasUntakenEntry = false;  // that box took its report, which Qt will not repeat
 };

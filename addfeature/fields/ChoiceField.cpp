@@ -8,23 +8,14 @@ namespace {
 // The role just below Qt::UserRole holds a standard item's flags: at 0 none are left.
 constexpr int flagsRole = Qt::UserRole - 1;
 
-QString translated(const Choice& choice)
-{
-    return QCoreApplication::translate("AddFeature", choice.text);
-}
-
 }  // namespace
 
 ChoiceField::ChoiceField(DialogDoor& door, QWidget* page, const Details& details,
-                         const Choices& choices, Stores stores, Sends sends, int index)
-    : QComboBox(page),
-      Field(door, this, details),
-      m_choices(choices),
-      m_stores(stores),
-      m_sends(sends)
+                         const Choices& choices, Stores stores, int index)
+    : QComboBox(page), Field(door, this, page, details), m_choices(choices), m_stores(stores)
 {
     for (const Choice& choice : m_choices) {
-        addItem(QIcon(), translated(choice));
+        addItem(QIcon(), QString());
         if (!choice.isSelectable) {
             setItemData(count() - 1, 0, flagsRole);
         }
@@ -44,7 +35,8 @@ void ChoiceField::retranslate()
     Field::retranslate();
     // In place: no item goes, so that neither index nor record changes.
     for (int index = 0; index < count(); ++index) {
-        setItemText(index, translated(m_choices[static_cast<size_t>(index)]));
+        const Choice& choice = m_choices[static_cast<size_t>(index)];
+        setItemText(index, QCoreApplication::translate("AddFeature", choice.text));
     }
 }
 
@@ -72,5 +64,5 @@ bool ChoiceField::storeChoice()
 void ChoiceField::take()
 {
     storeChoice();
-    sendWhen(m_sends != Sends::Never);
+    send();
 }

@@ -8,8 +8,8 @@
 
 /// One item of a combo box.
 struct Choice {
-    const char* text;    ///< marked for translation in the context "AddFeature"
-    QString value = {};  ///< what the record holds while it is chosen
+    const char* text;  ///< marked for translation in the context "AddFeature"
+    QString value;     ///< what the record holds while it is chosen
     bool isSelectable = true;
 };
 using Choices = std::vector<Choice>;
@@ -25,10 +25,10 @@ public:
         TextElseNumber,  ///< the item's value; 0
     };
 
-    /// The first item is chosen, or that at `index`. Those that must not be chosen are greyed:
-    /// listed, but not to be reached by hand; a program can still set their index.
+    /// The first item is chosen, or that at `index`. Items that are not selectable are listed but
+    /// greyed out; only code can choose them.
     ChoiceField(DialogDoor& door, QWidget* page, const Details& details, const Choices& choices,
-                Stores stores, Sends sends, int index = 0);
+                Stores stores, int index = 0);
 
     void retranslate() override;
 
@@ -45,5 +45,4 @@ private:
 
     const Choices m_choices;
     const Stores m_stores;
-    const Sends m_sends;
 };

@@ -12,8 +12,8 @@ QString Caption::translated() const
     return QCoreApplication::translate("AddFeature", text);
 }
 
-Field::Field(DialogDoor& door, QObject* control, const Details& details)
-    : m_door(door), m_details(details), m_control(control)
+Field::Field(DialogDoor& door, QObject* control, QWidget* page, const Details& details)
+    : m_door(door), m_details(details), m_control(control), m_page(page)
 {
     m_control->setObjectName(QLatin1String(m_details.name));
     if (m_details.caption.kind == Caption::Kind::Label) {
@@ -30,6 +30,19 @@ void Field::finish()
 void Field::change()
 {
     m_door.refusals().run(m_control, [this] { take(); });
+}
+
+void Field::send(bool isAccepted)
+{
+    if (m_details.sends == Sends::Never ||
+        (m_details.sends == Sends::WhenAccepted && !isAccepted)) {
+        return;
+    }
+    if (m_details.message == Message::Direction) {
+        m_door.sendDirection();
+    } else {
+        m_door.sendRecord();
+    }
 }
 
 void Field::retranslate()
@@ -80,6 +93,12 @@ QWidget* Field::widget() const
     return qobject_cast<QWidget*>(m_control);
 }
 
+/// In the order in which they stand; null for what there is not.
+std::array<QWidget*, 3> Field::parts() const
+{
+    return {m_label, widget(), m_unitLabel};
+}
+
 /// The control's name with another ending: "m_pLengthLE" has "m_pLengthLB" beside it.
 QLabel* Field::createLabel(const char* suffix) const
 {
@@ -87,7 +106,7 @@ QLabel* Field::createLabel(const char* suffix) const
     while (name.back().isUpper()) {
         name.chop(1);
     }
-    auto* const label = new QLabel(widget()->parentWidget());
+    auto* const label = new QLabel(m_page);
     label->setObjectName(name + QLatin1String(suffix));
     return label;
 }
@@ -100,11 +119,4 @@ void Field::store(const QString& value)
 void Field::store(int value)
 {
     m_door.record().set(m_details.key, value);
-}
-
-void Field::sendWhen(bool condition)
-{
-    if (condition) {
-        m_door.sendRecord();
-    }
 }

@@ -4,12 +4,18 @@
 
 #include <QString>
 
+#include <array>
+
 class QGridLayout;
 class QLabel;
 class QWidget;
 
 /// When a change is sent to the canvas. What is not sent travels with the next record.
 enum class Sends { Never, WhenAccepted, Always };
+
+/// As what it is sent: the record, which the symbol's check may hold back, or a change of
+/// direction.
+enum class Message { Record, Direction };
 
 /// What tells the user which control it is.
 struct Caption {
@@ -41,17 +47,20 @@ public:
         Caption caption;
         QString key;       ///< in the record
         const char* slot;  ///< SLOT() of the dialog, to which its signal is connected
+        Sends sends;
+        Message message = Message::Record;
     };
 
     virtual ~Field() = default;
     Field(const Field&) = delete;
     Field& operator=(const Field&) = delete;
 
-    /// Takes over what an entry that the user has finished says. Called for each report of the
-    /// control; see RefusalGuard.
+    /// Applies a finished entry. Called for each report of the control; see RefusalGuard.
     void finish();
-    /// Takes over what the control says now.
+    /// Applies what the control says now.
     void change();
+    /// Sends a change, where it is one that is sent.
+    void send(bool isAccepted = true);
 
     /// Sets its texts in the current language. Changes no value and sends nothing.
     virtual void retranslate();
@@ -67,8 +76,8 @@ public:
     QLabel* unitLabel() const { return m_unitLabel; }  ///< null for what has no unit
 
 protected:
-    /// `control` is the derived object, not owned; it is named, and must have its parent.
-    Field(DialogDoor& door, QObject* control, const Details& details);
+    /// `control` is the derived object, not owned, which is given its name; `page` is its parent.
+    Field(DialogDoor& door, QObject* control, QWidget* page, const Details& details);
 
     /// Stores what the control says, or refuses it, and sends.
     virtual void take() = 0;
@@ -78,16 +87,17 @@ protected:
     void addUnitLabel();
     void store(const QString& value);
     void store(int value);
-    void sendWhen(bool condition);
 
     DialogDoor& m_door;
     const Details m_details;
 
 private:
     QWidget* widget() const;
+    std::array<QWidget*, 3> parts() const;
     QLabel* createLabel(const char* suffix) const;
 
     QObject* m_control;  // a widget, or a group of them
+    QWidget* m_page;
     QLabel* m_label = nullptr;
     QLabel* m_unitLabel = nullptr;
 };

@@ -1,8 +1,8 @@
 #include "addfeature/fields/FlagField.h"
 
 FlagField::FlagField(DialogDoor& door, QWidget* page, const Details& details, bool isOn,
-                     const Values& values, Sends sends)
-    : QCheckBox(page), Field(door, this, details), m_values(values), m_sends(sends)
+                     const Values& values)
+    : QCheckBox(page), Field(door, this, page, details), m_values(values)
 {
     setChecked(isOn);
     storeAs(isOn);
@@ -23,5 +23,5 @@ void FlagField::storeAs(bool isOn)
 void FlagField::take()
 {
     storeAs(isChecked());
-    sendWhen(m_sends != Sends::Never);
+    send();
 }

@@ -13,7 +13,7 @@ public:
     };
 
     FlagField(DialogDoor& door, QWidget* page, const Details& details, bool isOn,
-              const Values& values, Sends sends);
+              const Values& values);
 
     void retranslate() override;
 
@@ -25,5 +25,4 @@ protected:
 
 private:
     const Values m_values;
-    const Sends m_sends;
 };

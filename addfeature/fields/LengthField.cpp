@@ -3,11 +3,8 @@
 #include "plugin/RecordValues.h"
 
 LengthField::LengthField(DialogDoor& door, QWidget* page, const Details& details,
-                         const QString& text, double largestInMil, Sends sends, Unit unit,
-                         bool isMetric)
-    : UnitField(door, page, Pattern::Decimal, details, unit, isMetric),
-      m_largest(largestInMil),
-      m_sends(sends)
+                         const QString& text, double largestInMil, Unit unit, bool isMetric)
+    : UnitField(door, page, Pattern::Decimal, details, unit, isMetric), m_largest(largestInMil)
 {
     start(text);
 }
@@ -21,5 +18,5 @@ void LengthField::take()
         setText(RecordValues::zero);
         store(RecordValues::zero);
     }
-    sendWhen(m_sends == Sends::Always || (m_sends == Sends::WhenAccepted && isAccepted));
+    send(isAccepted);
 }

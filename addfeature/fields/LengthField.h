@@ -7,12 +7,11 @@ class LengthField final : public UnitField {
 public:
     /// `text` is shown at first, in metric units where `isMetric` says so.
     LengthField(DialogDoor& door, QWidget* page, const Details& details, const QString& text,
-                double largestInMil, Sends sends, Unit unit = Unit::Mil, bool isMetric = false);
+                double largestInMil, Unit unit = Unit::Mil, bool isMetric = false);
 
 protected:
     void take() override;
 
 private:
     const double m_largest;
-    const Sends m_sends;
 };

@@ -6,9 +6,10 @@ using ZENTRA::UIAPI::ZTERegExp;
 
 LineField::LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details)
     : ZTLineEdit(static_cast<ZTERegExp>(pattern), static_cast<QWidget*>(door.ownerContext())),
-      // Into the page at once, not only by its layout: the tab order is that of arrival.
-      Field(door, (setParent(page), this), details)
+      Field(door, this, page, details)
 {
+    // At once, not only by the page's layout: the tab order follows the order of parenting.
+    setParent(page);
 }
 
 void LineField::setPattern(const char* expression)

@@ -4,13 +4,13 @@
 
 #include <ui_api.h>
 
-/// A field that is typed into: a line edit of the host's.
+/// A text field, based on the host's line edit.
 class LineField : public ZENTRA::UIAPI::ZTLineEdit, public Field {
 public:
     /// What the host lets the user type, by the host's number for it.
     enum class Pattern { Length = 1, Decimal = 3, Text = 6 };
 
-    /// Restricts what can be typed to a regular expression, case sensitive.
+    /// Restricts what can be typed to a regular expression, case sensitive and in ASCII.
     void setPattern(const char* expression);
 
 protected:

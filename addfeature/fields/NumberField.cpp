@@ -6,8 +6,8 @@
 #include <QSignalBlocker>
 
 NumberField::NumberField(DialogDoor& door, QWidget* page, const Details& details,
-                         const QString& text, Bounds bounds, Checked checked, Message message)
-    : LineField(door, page, Pattern::Decimal, details), m_bounds(bounds), m_message(message)
+                         const QString& text, Bounds bounds, Checked checked)
+    : LineField(door, page, Pattern::Decimal, details), m_bounds(bounds)
 {
     setText(text);
     store(text);
@@ -35,9 +35,5 @@ void NumberField::takeText(const QString& text)
         return;
     }
     store(text);
-    if (m_message == Message::Direction) {
-        m_door.sendDirection();
-    } else {
-        m_door.sendRecord();
-    }
+    send();
 }

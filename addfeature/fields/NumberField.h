@@ -2,19 +2,18 @@
 
 #include "addfeature/fields/LineField.h"
 
-/// A number without a unit, within bounds that the host checks; stored as typed and sent when it is
-/// accepted. A refusal puts the record's value back into the field.
+/// A number without a unit, within bounds that the host checks; stored as typed. A refusal puts the
+/// record's value back into the field.
 class NumberField final : public LineField {
 public:
     enum class Checked { AtEachChange, WhenFinished };
-    enum class Message { Record, Direction };
     struct Bounds {
         double least;
         double most;
     };
 
     NumberField(DialogDoor& door, QWidget* page, const Details& details, const QString& text,
-                Bounds bounds, Checked checked, Message message);
+                Bounds bounds, Checked checked);
 
     /// Takes `text` over, which the field has just reported.
     void change(const QString& text);
@@ -26,5 +25,4 @@ private:
     void takeText(const QString& text);
 
     const Bounds m_bounds;
-    const Message m_message;
 };

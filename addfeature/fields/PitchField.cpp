@@ -18,5 +18,5 @@ void PitchField::take()
         return;
     }
     storeLength();
-    m_door.sendRecord();
+    send();
 }

@@ -2,8 +2,8 @@
 
 #include "addfeature/fields/UnitField.h"
 
-/// The distance of neighbours along one axis, signed. It is sent when it is accepted. A refusal
-/// leaves "0" in the field; the record keeps the old pitch.
+/// The distance of neighbours along one axis, signed. A refusal leaves "0" in the field; the record
+/// keeps the old pitch.
 class PitchField final : public UnitField {
 public:
     /// `isMetric` tells which unit the label names at first.

@@ -31,7 +31,7 @@ QAbstractButton* createButton(RadioField::Look look, QWidget* page)
 
 RadioField::RadioField(DialogDoor& door, QWidget* page, const Details& details, Look look,
                        const std::vector<RadioChoice>& choices)
-    : QButtonGroup(page), Field(door, this, details), m_choices(choices)
+    : QButtonGroup(page), Field(door, this, page, details), m_choices(choices)
 {
     for (const RadioChoice& choice : m_choices) {
         QAbstractButton* const button = createButton(look, page);
@@ -73,5 +73,5 @@ void RadioField::storeChoice()
 void RadioField::take()
 {
     storeChoice();
-    m_door.sendDirection();
+    send();
 }

@@ -1,8 +1,8 @@
 #include "addfeature/fields/TextField.h"
 
 TextField::TextField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details,
-                     const QString& text, Sends sends)
-    : LineField(door, page, pattern, details), m_sends(sends)
+                     const QString& text)
+    : LineField(door, page, pattern, details)
 {
     setText(text);
     store(text);
@@ -28,5 +28,5 @@ void TextField::take()
 void TextField::storeAndSend()
 {
     store(text());
-    sendWhen(m_sends != Sends::Never);
+    send();
 }

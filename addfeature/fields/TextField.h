@@ -5,14 +5,14 @@
 #include <functional>
 #include <utility>
 
-/// A text, stored as typed. One that is not accepted is cleared in the field, and nothing else.
+/// A text, stored as typed. Rejected text is cleared from the field; the record is unchanged.
 class TextField final : public LineField {
 public:
     TextField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details,
-              const QString& text, Sends sends);
+              const QString& text);
 
-    /// Lets the user enter only what `accepts` holds of; without it, everything.
-    void accept(std::function<bool(const QString&)> accepts) { m_accepts = std::move(accepts); }
+    /// Accepts only text for which `accepts` returns true; without it, everything.
+    void acceptOnly(std::function<bool(const QString&)> accepts) { m_accepts = std::move(accepts); }
     /// Shows, stores and sends a text that was chosen elsewhere, and is not checked.
     void enter(const QString& text);
 
@@ -22,6 +22,5 @@ protected:
 private:
     void storeAndSend();
 
-    const Sends m_sends;
     std::function<bool(const QString&)> m_accepts;
 };

@@ -17,8 +17,7 @@ UnitField::UnitField(DialogDoor& door, QWidget* page, Pattern pattern, const Det
 void UnitField::start(const QString& text)
 {
     setText(text);
-    // What is labelled mil starts as one, whatever the unit.
-    store(Units::toStored(text, m_isMetric && m_unit != Unit::MilByLabel));
+    store(Units::toStored(text, m_isMetric));
     retranslate();
     connectSignal(SIGNAL(editingFinished()));
 }

@@ -17,15 +17,15 @@ CannedTextPage::CannedTextPage(DialogDoor& door, PlotStampPage& plotStamp, QWidg
       m_pCannedHoleSizeCMB(add<ChoiceField>(
           Field::Details{"m_pCannedHoleSizeCMB", Caption::label(QT_TR_NOOP("Type\t\t:")),
                          RecordKeys::cannedHoleMode,
-                         SLOT(on_m_pCannedHoleSizeCMB_ComboBox_Changed())},
+                         SLOT(on_m_pCannedHoleSizeCMB_ComboBox_Changed()), Sends::Never},
           Choices{{QT_TR_NOOP("5 X 7"), CannedHoleMode::fiveBySeven},
                   {QT_TR_NOOP("6 X 7"), CannedHoleMode::sixBySeven}},
-          ChoiceField::Stores::Text, Sends::Never)),
+          ChoiceField::Stores::Text)),
       m_pCannedHoleSizeLE(add<LengthField>(
           Field::Details{"m_pCannedHoleSizeLE", Caption::spoken(QT_TR_NOOP("Hole size")),
-                         RecordKeys::cannedHoleSize,
-                         SLOT(on_m_pCannedHoleSizeLE_editingFinished())},
-          QStringLiteral("20"), largestHoleSize, Sends::Never, LengthField::Unit::MilByLabel)),
+                         RecordKeys::cannedHoleSize, SLOT(on_m_pCannedHoleSizeLE_editingFinished()),
+                         Sends::Never},
+          QStringLiteral("20"), largestHoleSize, LengthField::Unit::MilByLabel)),
       m_plotStamp(plotStamp)
 {
     m_pCannedHoleSizeCMB->label()->setObjectName(QStringLiteral("m_pCannedTypeLB"));
@@ -41,5 +41,5 @@ CannedTextPage::CannedTextPage(DialogDoor& door, PlotStampPage& plotStamp, QWidg
 void CannedTextPage::chooseHoleMode()
 {
     m_plotStamp.m_pOrbotechZoomCMB->storeChoice();
-    m_pCannedHoleSizeCMB->storeChoice();
+    m_pCannedHoleSizeCMB->change();
 }

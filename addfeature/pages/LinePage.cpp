@@ -21,7 +21,7 @@ QWidget* createGroup(const char* name, QWidget* page)
     return group;
 }
 
-QGridLayout* addGrid(QWidget* group, const std::initializer_list<Field*>& fields)
+void addGrid(QWidget* group, const std::initializer_list<Field*>& fields)
 {
     auto* const grid = new QGridLayout;
     for (Field* const field : fields) {
@@ -29,28 +29,28 @@ QGridLayout* addGrid(QWidget* group, const std::initializer_list<Field*>& fields
     }
     grid->setColumnStretch(1, 1);
     static_cast<QVBoxLayout*>(group->layout())->addLayout(grid);
-    return grid;
 }
 
 }  // namespace
 
 LinePage::LinePage(DialogDoor& door, QWidget* parent)
     : Page(door, "m_pLinePage", parent),
-      m_pLineCMB(
-          add<ChoiceField>(Field::Details{"m_pLineCMB", Caption::spoken(QT_TR_NOOP("Kind of line")),
-                                          RecordKeys::line, SLOT(on_Line_ComboBox_Changed())},
-                           Choices{{QT_TR_NOOP("Single Line"), LineKind::single},
-                                   {QT_TR_NOOP("Polyline"), LineKind::polyline},
-                                   {QT_TR_NOOP("Rectangle"), LineKind::rectangle},
-                                   {QT_TR_NOOP("Slot"), LineKind::slot, false}},
-                           ChoiceField::Stores::Text, Sends::Always)),
+      m_pLineCMB(add<ChoiceField>(
+          Field::Details{"m_pLineCMB", Caption::spoken(QT_TR_NOOP("Kind of line")),
+                         RecordKeys::line, SLOT(on_Line_ComboBox_Changed()), Sends::Always},
+          Choices{{QT_TR_NOOP("Single Line"), LineKind::single},
+                  {QT_TR_NOOP("Polyline"), LineKind::polyline},
+                  {QT_TR_NOOP("Rectangle"), LineKind::rectangle},
+                  {QT_TR_NOOP("Slot"), LineKind::slot, false}},
+          ChoiceField::Stores::Text)),
       m_pClosedCB(add<FlagField>(
           Field::Details{"m_pClosedCB", Caption::own(QT_TR_NOOP("Closed")), RecordKeys::closed,
-                         SLOT(on_m_pClosedCB_CheckState_Changed(int))},
-          false, FlagField::Values{Closed::yes, Closed::no}, Sends::Always)),
+                         SLOT(on_m_pClosedCB_CheckState_Changed(int)), Sends::Always},
+          false, FlagField::Values{Closed::yes, Closed::no})),
       m_pDirectionBG(add<RadioField>(
           Field::Details{"m_pDirectionBG", Caption::none(), RecordKeys::angleGroup,
-                         SLOT(on_Line_Button_Clicked(QAbstractButton*))},
+                         SLOT(on_Line_Button_Clicked(QAbstractButton*)), Sends::Always,
+                         Message::Direction},
           RadioField::Look::Radio,
           std::vector<RadioChoice>{
               {"m_pFreeDirectionRB", "Free1.jpg", QT_TR_NOOP("Free direction")},
@@ -59,43 +59,49 @@ LinePage::LinePage(DialogDoor& door, QWidget* parent)
               {"m_pVerticalHorizontalRB", "VH1.jpg", QT_TR_NOOP("Vertical, then horizontal")},
               {"m_pEightDirectionsRB", "8 Dir1.jpg", QT_TR_NOOP("Eight directions")},
               {"m_pFixedAngleRB", "Fixed1.jpg", QT_TR_NOOP("Fixed angle")}})),
-      m_pAngleLE(
-          add<NumberField>(Field::Details{"m_pAngleLE", Caption::label(QT_TR_NOOP("Angle (deg)")),
-                                          RecordKeys::angle, SLOT(on_m_pAngleLE_editingFinished())},
-                           QString(), NumberField::Bounds{0.0, 360.0},
-                           NumberField::Checked::WhenFinished, NumberField::Message::Direction)),
+      m_pAngleLE(add<NumberField>(
+          Field::Details{"m_pAngleLE", Caption::label(QT_TR_NOOP("Angle (deg)")), RecordKeys::angle,
+                         SLOT(on_m_pAngleLE_editingFinished()), Sends::WhenAccepted,
+                         Message::Direction},
+          QString(), NumberField::Bounds{0.0, 360.0}, NumberField::Checked::WhenFinished)),
       m_pCornerTypeCMB(add<ChoiceField>(
           Field::Details{"m_pCornerTypeCMB", Caption::label(QT_TR_NOOP("Corner Type : ")),
-                         RecordKeys::cornerType, SLOT(on_CornerTypre_ComboBox_Changed())},
+                         RecordKeys::cornerType, SLOT(on_CornerTypre_ComboBox_Changed()),
+                         Sends::Always},
           Choices{{QT_TR_NOOP("Straight"), CornerType::straight},
                   {QT_TR_NOOP("Round"), CornerType::round},
                   {QT_TR_NOOP("Chamfer"), CornerType::chamfer},
                   {QT_TR_NOOP("Oblong"), CornerType::oblong}},
-          ChoiceField::Stores::TextThenNumber, Sends::Always)),
+          ChoiceField::Stores::TextThenNumber)),
       m_pCornerRadiusLE(add<LengthField>(
           Field::Details{"m_pCornerRadiusLE", Caption::label(QT_TR_NOOP("Corner Radius : ")),
-                         RecordKeys::cornerRadius, SLOT(on_m_pCornerRadiusLE_editingFinished())},
-          RecordValues::zero, largestLength, Sends::WhenAccepted)),
-      m_pLengthLE(add<LengthField>(
-          Field::Details{"m_pLengthLE", Caption::label(QT_TR_NOOP("Length : ")),
-                         RecordKeys::slotLength, SLOT(on_m_pLengthLE_editingFinished())},
-          RecordValues::zero, largestLength, Sends::Never, LengthField::Unit::PlainInch)),
+                         RecordKeys::cornerRadius, SLOT(on_m_pCornerRadiusLE_editingFinished()),
+                         Sends::WhenAccepted},
+          RecordValues::zero, largestLength)),
+      m_pLengthLE(
+          add<LengthField>(Field::Details{"m_pLengthLE", Caption::label(QT_TR_NOOP("Length : ")),
+                                          RecordKeys::slotLength,
+                                          SLOT(on_m_pLengthLE_editingFinished()), Sends::Never},
+                           RecordValues::zero, largestLength, LengthField::Unit::PlainInch)),
       m_pSlotAngleLE(add<TextField>(
           LineField::Pattern::Decimal,
           Field::Details{"m_pSlotAngleLE", Caption::label(QT_TR_NOOP("Angle (deg) : ")),
-                         RecordKeys::slotAngle, SLOT(on_m_pSlotAngleLE_editingFinished())},
-          RecordValues::zero, Sends::Never)),
-      m_pSlotDecodeLE(add<TextField>(
-          LineField::Pattern::Decimal,
-          Field::Details{"m_pSlotDecodeLE", Caption::label(QT_TR_NOOP("Decode: ")),
-                         RecordKeys::slotDecode, SLOT(on_m_pSlotDecodeLE_editingFinished())},
-          RecordValues::zero, Sends::Never)),
+                         RecordKeys::slotAngle, SLOT(on_m_pSlotAngleLE_editingFinished()),
+                         Sends::Never},
+          RecordValues::zero)),
+      m_pSlotDecodeLE(
+          add<TextField>(LineField::Pattern::Decimal,
+                         Field::Details{"m_pSlotDecodeLE", Caption::label(QT_TR_NOOP("Decode: ")),
+                                        RecordKeys::slotDecode,
+                                        SLOT(on_m_pSlotDecodeLE_editingFinished()), Sends::Never},
+                         RecordValues::zero)),
       m_pSlotPlatedCMB(add<ChoiceField>(
           Field::Details{"m_pSlotPlatedCMB", Caption::spoken(QT_TR_NOOP("Plating")),
-                         RecordKeys::slotPlated, SLOT(on_m_pSlotPlatedCMB_ComboBox_Changed())},
+                         RecordKeys::slotPlated, SLOT(on_m_pSlotPlatedCMB_ComboBox_Changed()),
+                         Sends::Never},
           Choices{{QT_TR_NOOP("Plated"), SlotPlated::yes},
                   {QT_TR_NOOP("Non Plated"), SlotPlated::no}},
-          ChoiceField::Stores::Text, Sends::Never)),
+          ChoiceField::Stores::Text)),
       m_pDirectionGroup(createDirectionGroup()),
       m_pCornerGroup(createCornerGroup()),
       m_pSlotGroup(createSlotGroup())
@@ -157,21 +163,17 @@ void LinePage::chooseKind()
     if (m_pLineCMB->storeChoice()) {
         showKind();
     }
-    m_door.sendRecord();
+    m_pLineCMB->send();
 }
 
 void LinePage::showKind()
 {
-    using Row = DialogDoor::CommonRow;
     const bool isRectangle = m_pLineCMB->is(LineKind::rectangle);
     const bool isSlot = m_pLineCMB->is(LineKind::slot);
     if (isSlot) {
-        for (const Row row : {Row::Attributes, Row::Values, Row::Fill, Row::Polarity}) {
-            m_door.setRowVisible(row, false);
-        }
+        m_door.hideAttributeRows();
     }
-    m_door.setRowVisible(Row::Mirror, false);
-    m_door.setRowVisible(Row::Rotation, false);
+    m_door.hidePlacementRows();
 
     m_pClosedCB->setEnabled(m_pLineCMB->is(LineKind::polyline));
     m_pDirectionGroup->setVisible(!isRectangle && !isSlot);
@@ -183,7 +185,7 @@ void LinePage::chooseDirection()
 {
     m_pDirectionBG->storeChoice();
     m_pAngleLE->setRowEnabled(m_pDirectionBG->checkedId() == fixedAngle);
-    m_door.sendDirection();
+    m_pDirectionBG->send();
 }
 
 void LinePage::chooseCorner()
@@ -191,5 +193,5 @@ void LinePage::chooseCorner()
     m_pCornerTypeCMB->storeChoice();
     m_pCornerRadiusLE->setRowEnabled(m_pCornerTypeCMB->is(CornerType::round) ||
                                      m_pCornerTypeCMB->is(CornerType::chamfer));
-    m_door.sendRecord();
+    m_pCornerTypeCMB->send();
 }

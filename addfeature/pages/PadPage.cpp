@@ -15,7 +15,7 @@ constexpr char pitchPattern[] =
     "[-]?[1-9][0-9]{0,14}|[-]?[0][.][0-9]{0,5}|[-]?[1-9][0-9]{0,}[.][0-9]{1,5}|^$";
 
 /// What is typed is read with a point and without groups, whatever the user's language writes.
-void setPlain(QLineEdit* field, QValidator* validator)
+void setCLocaleValidator(QLineEdit* field, QValidator* validator)
 {
     QLocale plain = QLocale::c();
     plain.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
@@ -40,20 +40,22 @@ QGridLayout* createColumn(const std::initializer_list<Field*>& fields)
 
 PadPage::PadPage(DialogDoor& door, QWidget* parent)
     : Page(door, "m_pPadPage", parent),
-      m_pDrilNxLE(addCount({"m_pDrilNxLE", Caption::label(QT_TR_NOOP("Nx   : ")), RecordKeys::padNx,
-                            SLOT(on_m_pDrilNxLE_editingFinished(const QString&))})),
+      m_pDrilNxLE(
+          addCount({"m_pDrilNxLE", Caption::label(QT_TR_NOOP("Nx   : ")), RecordKeys::padNx,
+                    SLOT(on_m_pDrilNxLE_editingFinished(const QString&)), Sends::WhenAccepted})),
       m_pDrilDxLE(addPitch({"m_pDrilDxLE", Caption::label(QT_TR_NOOP("Dx   : ")), RecordKeys::padDx,
-                            SLOT(on_m_pDrilDxLE_editingFinished())})),
+                            SLOT(on_m_pDrilDxLE_editingFinished()), Sends::WhenAccepted})),
       m_pDrilXsclLE(
           addFactor({"m_pDrilXsclLE", Caption::label(QT_TR_NOOP("Xscl : ")), RecordKeys::padXscl,
-                     SLOT(on_m_pDrilXsclLE_editingFinished(const QString&))})),
-      m_pDrilNyLE(addCount({"m_pDrilNyLE", Caption::label(QT_TR_NOOP("Ny   : ")), RecordKeys::padNy,
-                            SLOT(on_m_pDrilNyLE_editingFinished(const QString&))})),
+                     SLOT(on_m_pDrilXsclLE_editingFinished(const QString&)), Sends::WhenAccepted})),
+      m_pDrilNyLE(
+          addCount({"m_pDrilNyLE", Caption::label(QT_TR_NOOP("Ny   : ")), RecordKeys::padNy,
+                    SLOT(on_m_pDrilNyLE_editingFinished(const QString&)), Sends::WhenAccepted})),
       m_pDrilDyLE(addPitch({"m_pDrilDyLE", Caption::label(QT_TR_NOOP("Dy   : ")), RecordKeys::padDy,
-                            SLOT(on_m_pDrilDyLE_editingFinished())})),
+                            SLOT(on_m_pDrilDyLE_editingFinished()), Sends::WhenAccepted})),
       m_pDrilYsclLE(
           addFactor({"m_pDrilYsclLE", Caption::label(QT_TR_NOOP("Yscl : ")), RecordKeys::padYscl,
-                     SLOT(on_m_pDrilYsclLE_editingFinished(const QString&))}))
+                     SLOT(on_m_pDrilYsclLE_editingFinished(const QString&)), Sends::WhenAccepted}))
 {
     m_pDrilDxLE->setPattern(pitchPattern);
     m_pDrilDyLE->setValidator(m_pDrilDxLE->validator());
@@ -71,23 +73,24 @@ PadPage::PadPage(DialogDoor& door, QWidget* parent)
 
 NumberField* PadPage::addCount(const Field::Details& details)
 {
-    auto* const field =
-        add<NumberField>(details, RecordValues::one, NumberField::Bounds{0.0, 50.0},
-                         NumberField::Checked::AtEachChange, NumberField::Message::Record);
-    setPlain(field, new QIntValidator(field));
+    auto* const field = addNumber(details, {0.0, 50.0});
+    setCLocaleValidator(field, new QIntValidator(field));
     return field;
+}
+
+NumberField* PadPage::addFactor(const Field::Details& details)
+{
+    auto* const field = addNumber(details, {-100.0, 100.0});
+    setCLocaleValidator(field, new QDoubleValidator(field));
+    return field;
+}
+
+NumberField* PadPage::addNumber(const Field::Details& details, NumberField::Bounds bounds)
+{
+    return add<NumberField>(details, RecordValues::one, bounds, NumberField::Checked::AtEachChange);
 }
 
 PitchField* PadPage::addPitch(const Field::Details& details)
 {
     return add<PitchField>(details, isShownMetric(m_door));
-}
-
-NumberField* PadPage::addFactor(const Field::Details& details)
-{
-    auto* const field =
-        add<NumberField>(details, RecordValues::one, NumberField::Bounds{-100.0, 100.0},
-                         NumberField::Checked::AtEachChange, NumberField::Message::Record);
-    setPlain(field, new QDoubleValidator(field));
-    return field;
 }

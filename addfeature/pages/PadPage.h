@@ -23,6 +23,7 @@ public:
 
 private:
     NumberField* addCount(const Field::Details& details);
-    PitchField* addPitch(const Field::Details& details);
     NumberField* addFactor(const Field::Details& details);
+    NumberField* addNumber(const Field::Details& details, NumberField::Bounds bounds);
+    PitchField* addPitch(const Field::Details& details);
 };

@@ -43,12 +43,13 @@ TextPage::TextPage(DialogDoor& door, QWidget* parent)
     : Page(door, "m_pTextPage", parent),
       m_pTextFormatCMB(add<ChoiceField>(
           Field::Details{"m_pTextFormatCMB", Caption::spoken(QT_TR_NOOP("Text format")),
-                         RecordKeys::textFormat, SLOT(on_Textformart_ComboBox_Changed())},
+                         RecordKeys::textFormat, SLOT(on_Textformart_ComboBox_Changed()),
+                         Sends::Never},
           Choices{{QT_TR_NOOP("String"), TextKind::string},
                   {QT_TR_NOOP("Barcode"), TextKind::barcode, false},
                   {QT_TR_NOOP("Orbotech Plot Stamp"), TextKind::plotStamp, false},
                   {QT_TR_NOOP("Canned Text"), TextKind::cannedText, false}},
-          ChoiceField::Stores::Text, Sends::Never)),
+          ChoiceField::Stores::Text)),
       m_strings(new StringPage(door, this)),
       m_barcode(new BarcodePage(door, this)),
       m_plotStamp(new PlotStampPage(door, this)),
@@ -57,19 +58,19 @@ TextPage::TextPage(DialogDoor& door, QWidget* parent)
       m_pFontLE(add<TextField>(
           LineField::Pattern::Text,
           Field::Details{"m_pFontLE", Caption::spoken(QT_TR_NOOP("Font")),
-                         RecordKeys::stringTextFont, SLOT(on_m_pFontLE_editingFinished())},
-          isFontOfJob(QStringLiteral("standard")) ? QStringLiteral("standard") : QString(),
-          Sends::Always)),
+                         RecordKeys::stringTextFont, SLOT(on_m_pFontLE_editingFinished()),
+                         Sends::Always},
+          isFontOfJob(QStringLiteral("standard")) ? QStringLiteral("standard") : QString())),
       m_pTextPB(addButton("m_pTextPB", SLOT(on_Text_clicked()))),
       m_pTextLE(add<TextField>(
           LineField::Pattern::Text,
           Field::Details{"m_pTextLE", Caption::spoken(QT_TR_NOOP("Text")), RecordKeys::textContains,
-                         SLOT(on_m_pTextLE_editingFinished())},
-          QString(), Sends::Always)),
+                         SLOT(on_m_pTextLE_editingFinished()), Sends::Always},
+          QString())),
       m_subPages{m_strings, m_barcode, m_plotStamp, m_cannedText}
 {
     m_pFontLE->setReadOnly(true);
-    m_pFontLE->accept([this](const QString& name) { return isFontOfJob(name); });
+    m_pFontLE->acceptOnly([this](const QString& name) { return isFontOfJob(name); });
     m_pTextLE->setPattern("^[A-Za-z0-9`~!@#$%^&*()\\-_=+<>,./ ]{0,}$");
     m_barcode->m_pUPCCMB->setEnabled(false);
     layOut();
@@ -150,6 +151,7 @@ void TextPage::chooseFormat()
             page->setVisible(page == m_subPages[chosen]);
         }
     }
+    m_pTextFormatCMB->send();
 }
 
 bool TextPage::isFontOfJob(const QString& name) const

@@ -32,7 +32,7 @@ void logEntries(const QMap<QString, QVariant>& payload)
     }
 }
 
-void hand(void* sender, PluginMetaData message)
+void send(void* sender, PluginMetaData message)
 {
     QTpluginsManger4CAM::instance()->recMegToPlugin(sender, std::move(message));
 }
@@ -42,24 +42,24 @@ void hand(void* sender, PluginMetaData message)
 void CanvasLink::sendRecord(const QMap<QString, QVariant>& record) const
 {
     logEntries(record);
-    hand(m_sender, messageToCanvas(Sent::Record, record));
+    send(m_sender, messageToCanvas(Sent::Record, record));
 }
 
 void CanvasLink::sendDirection(const QMap<QString, QVariant>& record) const
 {
-    hand(m_sender, messageToCanvas(Sent::DirectionRecord, record));
+    send(m_sender, messageToCanvas(Sent::DirectionRecord, record));
 }
 
 void CanvasLink::sendAttributes(const std::map<std::string, std::string>& attributes) const
 {
     PluginMetaData message = messageToCanvas(Sent::AttributeMap);
     message.extra = ExtraWord::pointingAt(attributes);
-    hand(m_sender, std::move(message));
+    send(m_sender, std::move(message));
 }
 
 void CanvasLink::sendFill() const
 {
-    hand(m_sender, messageToCanvas(Sent::Fill));
+    send(m_sender, messageToCanvas(Sent::Fill));
 }
 
 void CanvasLink::sendSelectFromEditor() const
@@ -67,5 +67,5 @@ void CanvasLink::sendSelectFromEditor() const
     // Under the rule menu's name: the canvas answers that module's request. Deliberate.
     PluginMetaData message(ModuleNames::ruleMenu, ModuleNames::viewer);
     message.code = Sent::SelectFromEditor;
-    hand(m_sender, std::move(message));
+    send(m_sender, std::move(message));
 }

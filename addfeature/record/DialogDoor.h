@@ -14,16 +14,13 @@ class RefusalGuard;
 /// All that the dialog's fields, pages and rows see of the dialog in which they stand.
 class DialogDoor {
 public:
-    /// The rows above the page that a line kind shows and hides.
-    enum class CommonRow { Attributes, Values, Fill, Polarity, Mirror, Rotation };
-
     virtual ~DialogDoor() = default;
 
     virtual FeatureRecord& record() = 0;
     virtual RefusalGuard& refusals() = 0;
 
-    /// True: lengths are typed in micrometres (the slot length in millimetres); false: in mil
-    /// (inch).
+    /// What the dialog was last told of the unit; at first, before it is told, not metric. True:
+    /// lengths are typed in micrometres (the slot length in millimetres); false: in mil (inch).
     virtual bool isMetric() const = 0;
     /// The host widget that holds the toolbar; context of the host's unit functions. Not owned.
     virtual void* ownerContext() const = 0;
@@ -57,11 +54,14 @@ public:
     /// Shows the common controls again and tells the canvas the state of the attributes. False when
     /// a receiver of that has deleted the dialog, and the caller with it.
     virtual bool restoreCommonRows() = 0;
-    virtual void setRowVisible(CommonRow row, bool visible) = 0;
+    /// Hides the attribute row and the polarity, which a slot has not.
+    virtual void hideAttributeRows() = 0;
+    /// Hides mirror and rotation, which only pads and texts have.
+    virtual void hidePlacementRows() = 0;
 
     // By the names that SIGNAL() and SLOT() make.
 
-    /// Connects a control to the dialog's slot, or parts them again.
+    /// Connects a control to the dialog's slot, or disconnects it.
     virtual void connectToSlot(QObject* sender, const char* signal, const char* slot) = 0;
     virtual void disconnectFromSlot(QObject* sender, const char* signal, const char* slot) = 0;
     /// Connects the dialog's signal to a window that the host supplies.

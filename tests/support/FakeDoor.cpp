@@ -78,11 +78,14 @@ bool FakeDoor::restoreCommonRows()
     return survives;
 }
 
-void FakeDoor::setRowVisible(CommonRow row, bool visible)
+void FakeDoor::hideAttributeRows()
 {
-    static const char* const names[] = {"Attributes", "Values", "Fill",
-                                        "Polarity",   "Mirror", "Rotation"};
-    m_calls.append((visible ? "show " : "hide ") + QString(names[static_cast<int>(row)]));
+    m_calls.append("hide attribute rows");
+}
+
+void FakeDoor::hidePlacementRows()
+{
+    m_calls.append("hide placement rows");
 }
 
 void FakeDoor::connectToSlot(QObject* sender, const char* signal, const char* slot)

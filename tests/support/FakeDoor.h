@@ -16,7 +16,7 @@ class FakeDoor : public QObject, public DialogDoor {
 
 public:
     /// What was done since the last call: "record", "direction", "attributes", "restore",
-    /// "hide Mirror", "length 50000", "coordinate", "number 0 to 50", in order.
+    /// "hide placement rows", "length 7 up to 50000", ..., in order.
     QStringList takeCalls();
     /// Each connection as "object signal slot", without the codes of SIGNAL() and SLOT().
     const QStringList& connections() const { return m_connections; }
@@ -48,7 +48,8 @@ public:
     bool checkCoordinate(double value) override;
     bool checkNumber(double value, double minimum, double maximum) override;
     bool restoreCommonRows() override;
-    void setRowVisible(CommonRow row, bool visible) override;
+    void hideAttributeRows() override;
+    void hidePlacementRows() override;
     void connectToSlot(QObject* sender, const char* signal, const char* slot) override;
     void disconnectFromSlot(QObject* sender, const char* signal, const char* slot) override;
     void connectSignal(const char* signal, QObject* receiver, const char* slot) override;

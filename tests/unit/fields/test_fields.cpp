@@ -22,9 +22,14 @@ namespace {
 const QString key("Key");
 constexpr char finishSlot[] = SLOT(on_m_pAnyLE_editingFinished());
 
-Field::Details line(const char* name = "m_pAnyLE")
+Field::Details line(Sends sends, Message message = Message::Record)
 {
-    return {name, Caption::label("Any : "), key, finishSlot};
+    return {"m_pAnyLE", Caption::label("Any : "), key, finishSlot, sends, message};
+}
+
+Field::Details other(Sends sends)
+{
+    return {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot, sends};
 }
 
 void type(QLineEdit& field, const QString& text)
@@ -44,7 +49,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        const LengthField length(door, &page, line(), "250", 50000, Sends::Always);
+        const LengthField length(door, &page, line(Sends::Always), "250", 50000);
         QCOMPARE(door.record().text(key), QString("6350"));
         QCOMPARE(door.takeCalls(), QStringList());
         QCOMPARE(door.connections(),
@@ -89,7 +94,7 @@ private Q_SLOTS:
         QFETCH(bool, isSent);
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(), "5", 50000, sends);
+        LengthField field(door, &page, line(sends), "5", 50000);
         door.accepts = accepts;
         door.metric = metric;
         QString whenSent;
@@ -122,7 +127,7 @@ private Q_SLOTS:
         QFETCH(QString, metric);
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(), "10", 50000, Sends::Always, unit);
+        LengthField field(door, &page, line(Sends::Always), "10", 50000, unit);
         QCOMPARE(field.unitLabel()->text(), labels[0]);
         for (int twice = 0; twice < 2; ++twice) {
             field.changeUnit(true);
@@ -140,8 +145,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(), "1", 50000, Sends::Never,
-                          UnitField::Unit::PlainInch);
+        LengthField field(door, &page, line(Sends::Never), "1", 50000, UnitField::Unit::PlainInch);
         field.changeUnit(true);
         QCOMPARE(field.text(), QString("25.4"));
         field.setText("50.8");
@@ -156,7 +160,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        PitchField field(door, &page, line(), true);
+        PitchField field(door, &page, line(Sends::WhenAccepted), true);
         QCOMPARE(field.unitLabel()->text(), QString("my"));
         QCOMPARE(door.record().text(key), QString("0"));
         type(field, "-10");
@@ -191,9 +195,10 @@ private Q_SLOTS:
         FakeDoor door;
         QWidget page;
         NumberField field(
-            door, &page, line(), "1", {-1, 50},
-            atEachChange ? NumberField::Checked::AtEachChange : NumberField::Checked::WhenFinished,
-            atEachChange ? NumberField::Message::Record : NumberField::Message::Direction);
+            door, &page,
+            line(Sends::WhenAccepted, atEachChange ? Message::Record : Message::Direction), "1",
+            {-1, 50},
+            atEachChange ? NumberField::Checked::AtEachChange : NumberField::Checked::WhenFinished);
         const QString sent = atEachChange ? "record" : "direction";
         field.setText("7");
         if (!atEachChange) {
@@ -217,13 +222,13 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        TextField field(door, &page, LineField::Pattern::Text, line(), "a", Sends::Always);
+        TextField field(door, &page, LineField::Pattern::Text, line(Sends::Always), "a");
         type(field, "word");
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(door.record().text(key), QString("word"));
         QCOMPARE(door.takeCalls(), QStringList("record"));
 
-        field.accept([](const QString& text) { return text == "good"; });
+        field.acceptOnly([](const QString& text) { return text == "good"; });
         field.setText("bad");
         field.finish();
         QCOMPARE(field.text(), QString());
@@ -238,7 +243,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        TextField field(door, &page, LineField::Pattern::Text, line(), "a", Sends::Never);
+        TextField field(door, &page, LineField::Pattern::Text, line(Sends::Never), "a");
         field.enter("b");
         QCOMPARE(door.record().text(key), QString("b"));
         QCOMPARE(door.takeCalls(), QStringList());
@@ -268,9 +273,10 @@ private Q_SLOTS:
         QFETCH(QVariant, none);
         FakeDoor door;
         QWidget page;
-        ChoiceField field(door, &page,
-                          {"m_pAnyCMB", Caption::spoken("Any"), key, SLOT(on_Any_Changed())},
-                          {{"first", "x"}, {"second", "y", false}}, stores, Sends::Always);
+        ChoiceField field(
+            door, &page,
+            {"m_pAnyCMB", Caption::spoken("Any"), key, SLOT(on_Any_Changed()), Sends::Always},
+            {{"first", "x"}, {"second", "y", false}}, stores);
         const auto value = [&] { return door.record().map().value(key); };
         QCOMPARE(value(), atFirst);
         QCOMPARE(value().type(), atFirst.type());
@@ -296,8 +302,9 @@ private Q_SLOTS:
         FakeDoor door;
         QWidget page;
         ChoiceField field(
-            door, &page, {"m_pAnyCMB", Caption::label("Any"), key, SLOT(on_Any_Changed())},
-            {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, Sends::Never, 1);
+            door, &page,
+            {"m_pAnyCMB", Caption::label("Any"), key, SLOT(on_Any_Changed()), Sends::Never},
+            {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, 1);
         QCOMPARE(door.record().text(key), QString("y"));
         field.setCurrentIndex(0);
         QCOMPARE(door.record().text(key), QString("x"));
@@ -312,9 +319,10 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        FlagField field(door, &page,
-                        {"m_pAnyCB", Caption::own("Any"), key, SLOT(on_Any_Changed(int))}, true,
-                        {"yes", "no"}, Sends::Always);
+        FlagField field(
+            door, &page,
+            {"m_pAnyCB", Caption::own("Any"), key, SLOT(on_Any_Changed(int)), Sends::Always}, true,
+            {"yes", "no"});
         QCOMPARE(field.text(), QString("Any"));
         QVERIFY(field.isChecked());
         QCOMPARE(door.record().text(key), QString("yes"));
@@ -331,7 +339,8 @@ private Q_SLOTS:
         FakeDoor door;
         QWidget page;
         RadioField field(door, &page,
-                         {"m_pAnyBG", Caption::none(), key, SLOT(on_Any_Clicked(QAbstractButton*))},
+                         {"m_pAnyBG", Caption::none(), key, SLOT(on_Any_Clicked(QAbstractButton*)),
+                          Sends::Always, Message::Direction},
                          RadioField::Look::Tool,
                          {{"m_pOneTB", "Free1.jpg", "One"}, {"m_pTwoTB", "Ver1.jpg", "Two"}});
         QCOMPARE(door.record().map().value(key), QVariant("1"));
@@ -348,10 +357,8 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField refused(door, &page, line(), "5", 50000, Sends::Never);
-        TextField pending(door, &page, LineField::Pattern::Text,
-                          {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot}, "a",
-                          Sends::Always);
+        LengthField refused(door, &page, line(Sends::Never), "5", 50000);
+        TextField pending(door, &page, LineField::Pattern::Text, other(Sends::Always), "a");
         pending.setText("b");
         door.accepts = false;
         door.onBox = [&] {
@@ -371,10 +378,8 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField first(door, &page, line(), "5", 50000, Sends::Never);
-        LengthField second(door, &page,
-                           {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot}, "5", 10000,
-                           Sends::Never);
+        LengthField first(door, &page, line(Sends::Never), "5", 50000);
+        LengthField second(door, &page, other(Sends::Never), "5", 10000);
         door.accepts = false;
         bool isFirstBox = true;
         door.onBox = [&] {
@@ -395,9 +400,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        TextField pending(door, &page, LineField::Pattern::Text,
-                          {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot}, "a",
-                          Sends::Never);
+        TextField pending(door, &page, LineField::Pattern::Text, other(Sends::Never), "a");
         pending.setText("b");
         bool hasThrown = false;
         try {
@@ -419,7 +422,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(), "5", 50000, Sends::Never);
+        LengthField field(door, &page, line(Sends::Never), "5", 50000);
         field.setRowEnabled(false);
         QVERIFY(!field.isEnabled() && !field.label()->isEnabled() &&
                 !field.unitLabel()->isEnabled());

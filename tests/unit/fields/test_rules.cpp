@@ -42,9 +42,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("group");
         QTest::addColumn<bool>("mayBeClosed");
         QTest::addColumn<QStringList>("hidden");
-        const QStringList placing = {"hide Mirror", "hide Rotation"};
-        const QStringList all =
-            QStringList{"hide Attributes", "hide Values", "hide Fill", "hide Polarity"} + placing;
+        const QStringList placing = {"hide placement rows"};
+        const QStringList all = QStringList("hide attribute rows") + placing;
         QTest::newRow("single") << 0 << LineKind::single << "m_pDirectionGroup" << false << placing;
         QTest::newRow("polyline") << 1 << LineKind::polyline << "m_pDirectionGroup" << true
                                   << placing;
