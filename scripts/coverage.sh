@@ -16,7 +16,10 @@ ctest --test-dir build/coverage --parallel "$(nproc)" -R "$tests" \
 
 mkdir -p build/coverage/report
 status=0
-for folder in plugin toolbar addfeature dimensions; do
+# The folders of which the module is built.
+mapfile -t folders < <(sed -n "s,^$PWD/\([a-z]*\)/.*\.cpp\$,\1,p" \
+    build/coverage/tests/module/module-sources.txt | grep -vx build | sort -u)
+for folder in "${folders[@]}"; do
     printf '%-12s' "$folder"
     # Branches that only an exception takes are the compiler's, not the source's.
     gcovr --root . --filter "$folder/" --exclude '.*/standalone/' --exclude-throw-branches \

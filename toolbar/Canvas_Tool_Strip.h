@@ -54,13 +54,21 @@ public:
     void close_all_Dialogs();
 
 Q_SIGNALS:
+    /// The measure tool was started; for the measure popup.
     void GetRulerinfo();
+    /// Attributes were picked on the board: names and values, by name.
     void send_Attribute_Info(std::vector<std::pair<std::string, std::string>> attributes);
+    /// The host's unit may be another one; true where it is metric.
     void Current_Unit_Changed(bool isMM);
+    /// The job's own symbols have changed.
     void refresh_user_list();
+    /// Add Feature was clicked again: the dialog sends its record once more.
     void reselect_Add_feature();
+    /// Texts are to be read again in the language that is set now.
     void language_changed();
+    /// Symbols were picked on the board: their names.
     void send_Symbol_Info(std::map<int, std::string> symbols);
+    /// A step of a job was opened.
     void send_job_info(const std::string& job, const std::string& step);
 
 public Q_SLOTS:
@@ -94,6 +102,7 @@ public Q_SLOTS:
     void On_SelectPolyline_Clicked(int datatype);
     void on_mark_clicked();
     void on_m_pEqTB_clecked();  // spelled so deliberately: hosts know it by this name
+    /// The dialog asks for a symbol: the canvas lets the user pick one. No button changes.
     void on_m_pAddfeature_Select_symbol();
 
     // The right-click menus and their entries

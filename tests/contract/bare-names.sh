@@ -5,10 +5,9 @@
 set -u
 cd "$1" || exit 1
 lists=tests/contract
-mapfile -t files < <(find addfeature benchmarks dimensions host plugin tests toolbar workbench \
-    \( -name '*.h' -o -name '*.cpp' \) ! -path "$lists/*" ! -path 'plugin/MessageCodes.h' \
-    ! -path 'plugin/RecordKeys.h' ! -path 'plugin/PayloadKeys.h' ! -path 'plugin/RecordValues.h' \
-    ! -path 'plugin/ExtraWord.h')
+mapfile -t files < <(find . \( -path ./build -o -path ./.git -o -path "./$lists" \) -prune -o \
+    \( -name '*.h' -o -name '*.cpp' \) -printf '%P\n' |
+    grep -vxE 'plugin/(ExtraWord|MessageCodes|PayloadKeys|RecordKeys|RecordValues)\.h')
 [ "${#files[@]}" -gt 0 ] || exit 1
 
 codes=$(sed -n 's/^ *\([0-9]\{8\}\) .*/\1/p' "$lists/messages.txt" | sort -u | paste -sd'|')

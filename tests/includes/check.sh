@@ -4,7 +4,7 @@
 set -u
 arrows=$(realpath "$2")
 cd "$1" || exit 1
-mapfile -t files < <(find . -path ./build -prune -o -path ./.git -prune -o \
+mapfile -t files < <(find . \( -path ./build -o -path ./.git \) -prune -o \
     \( -name '*.h' -o -name '*.cpp' \) -printf '%P\n' | sort)
 {
     # Names first: an arrow may stand before what its names mean.
