@@ -117,8 +117,25 @@ void AddFeature::buildPages(QVBoxLayout* layout)
     showPage(m_line);
 }
 
-/// Not every window system keeps the dialog above the host's window when that is clicked.
-void AddFeature::stayAbove(const QWindow* active)
+void AddFeature::showEvent(QShowEvent* event)
+{
+    if (parentWidget() && parentWidget()->window()->windowHandle()) {
+        parentWidget()->window()->windowHandle()->installEventFilter(this);
+    }
+    QWidget::showEvent(event);
+}
+
+/// A click raises the host's window also when it is active already.
+bool AddFeature::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        stayAbove(watched);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+/// Not every window system keeps the dialog above the host's window when that becomes active.
+void AddFeature::stayAbove(const QObject* active)
 {
     const QWidget* const host = parentWidget() ? parentWidget()->window() : nullptr;
     if (active && host && host->windowHandle() == active && isVisible()) {
@@ -249,22 +266,22 @@ bool AddFeature::hasSymbol() const
 /// Has the host check the symbol, and takes a refused one out of field and record.
 bool AddFeature::isSymbolAccepted()
 {
-    if (m_isCheckingSymbol) {
-        return false;  // re-entered from the box of the refusal
+    const QString symbol = m_symbol->text();
+    if (!symbol.isEmpty() && symbol == m_checkedSymbol) {
+        return false;  // re-entered from the box of its refusal
     }
     bool isAccepted = false;
-    m_refusals.run(m_symbol->field(), [this, &isAccepted] {
+    m_refusals.run(m_symbol->field(), [this, &symbol, &isAccepted] {
         const QPointer<AddFeature> self(this);
-        const auto checked = qScopeGuard([self] {
+        const QString outer = std::exchange(m_checkedSymbol, symbol);
+        const auto checked = qScopeGuard([self, outer] {
             if (self) {
-                self->m_isCheckingSymbol = false;
+                self->m_checkedSymbol = outer;
             }
         });
-        m_isCheckingSymbol = true;
-        const QString symbol = m_symbol->text();
         isAccepted = m_symbol->isSpecial(symbol) || m_checks.symbolSizes(symbol);
         if (self && !isAccepted) {
-            m_symbol->dropRefused();
+            m_symbol->dropRefused(symbol);
         }
     });
     return isAccepted;

@@ -144,7 +144,9 @@ public Q_SLOTS:
     void get_attribute_signal();
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     // The door
@@ -175,7 +177,7 @@ private:
     void buildPages(QVBoxLayout* layout);
     void retranslateFrame();
     void showPage(const Page* chosen);
-    void stayAbove(const QWindow* active);
+    void stayAbove(const QObject* active);
     bool hasSymbol() const;
     bool isSymbolAccepted();
     void storeRotation();
@@ -186,7 +188,7 @@ private:
     std::string m_step;
     bool m_metric = false;
     bool m_closing = false;
-    bool m_isCheckingSymbol = false;  // by the host, with a box or without
+    QString m_checkedSymbol;  // while the host checks it, with a box or without
     FeatureRecord m_record;
     CanvasLink m_canvas;
     RefusalGuard m_refusals;

@@ -5,12 +5,8 @@
 #include "addfeature/AttributeRow.h"
 #include "addfeature/SymbolEntry.h"
 #include "addfeature/pages/ArcPage.h"
-#include "addfeature/pages/BarcodePage.h"
-#include "addfeature/pages/CannedTextPage.h"
 #include "addfeature/pages/LinePage.h"
 #include "addfeature/pages/PadPage.h"
-#include "addfeature/pages/PlotStampPage.h"
-#include "addfeature/pages/StringPage.h"
 #include "addfeature/pages/SurfacePage.h"
 #include "addfeature/pages/TextPage.h"
 

@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QRegExpValidator>
 #include <QRegularExpression>
-#include <QScopeGuard>
 #include <QTimer>
 
 #include <algorithm>
@@ -125,10 +124,11 @@ const QObject* SymbolEntry::field() const
     return m_pSymbolTextLE;
 }
 
-void SymbolEntry::dropRefused()
+void SymbolEntry::dropRefused(const QString& name)
 {
-    const QString name = text();
-    m_pSymbolTextLE->setText(QString());
+    if (text() == name) {
+        m_pSymbolTextLE->setText(QString());
+    }
     FeatureRecord& record = m_door.record();
     if (isStoredForm(record.text(RecordKeys::symbolText), name)) {
         record.set(RecordKeys::symbolText, QString());
@@ -146,6 +146,7 @@ void SymbolEntry::retranslate()
 {
     m_pSymbolPB->setText(tr("Symbol"));
     m_pSymbolTextLE->setAccessibleName(tr("Symbol"));
+    m_pSymbolTextLE->setToolTip(tr("Symbol"));
     m_pSelectFromEditorPB->setToolTip(tr("Select from editor"));
     m_pSelectFromEditorPB->setAccessibleName(tr("Select from editor"));
 }
@@ -164,8 +165,9 @@ void SymbolEntry::applyFeatureType()
             break;
         case FeatureType::Surface:
         case FeatureType::Text:
-            break;  // have no symbol; the field is hidden
+            return;  // have no symbol; the field is hidden
     }
+    takeLeftEntry();  // one that the type before did not accept
 }
 
 void SymbolEntry::setControlsVisible(bool visible)
@@ -230,13 +232,17 @@ void SymbolEntry::enterText()
 
 void SymbolEntry::finish()
 {
-    m_hasUntakenEntry = m_isNoting;
+    const RefusalGuard& refusals = m_door.refusals();
+    if (!m_pSymbolTextLE->isModified() && refusals.isHandling(m_pSymbolTextLE)) {
+        return;  // the same once more, from a box that a receiver opens; see Field::finish()
+    }
     m_door.refusals().report(m_pSymbolTextLE, [this] { takeEntry(); });
 }
 
 void SymbolEntry::takeEntry()
 {
     const bool sends = m_door.isToolActive();
+    m_pSymbolTextLE->setModified(false);
     m_hasSuffix = false;
     storeRotation(0);
     storeEntry();
@@ -290,36 +296,38 @@ void SymbolEntry::returnPressed()
 
 void SymbolEntry::noteText(const QString& text)
 {
-    const auto guardedSlot = [this, &text] {
-        guarded({"AddFeature", QT_TR_NOOP("Information"), "AddFeature.cpp", __LINE__}, [&] {
-            qCDebug(dialogLog).noquote().nospace() << "text is " << text;
-            keepText(text);
-        });
-    };
-    m_door.refusals().run(m_pSymbolTextLE, [this, &guardedSlot] {
-        const QPointer<SymbolEntry> self(this);
-        const auto noted = qScopeGuard([self] {
-            if (self) {
-                self->m_isNoting = false;
+    m_door.refusals().run(m_pSymbolTextLE, [this, &text] {
+        m_door.refusals().box([this, &text] {
+            const bool isKept =
+                guarded({"AddFeature", QT_TR_NOOP("Information"), "AddFeature.cpp", __LINE__}, [&] {
+                    qCDebug(dialogLog).noquote().nospace() << "text is " << text;
+                    keepText(text);
+                });
+            if (!isKept) {
+                m_metricText.clear();
+                m_otherText.clear();
             }
         });
-        m_isNoting = true;
-        m_door.refusals().box(guardedSlot);
     });
 }
 
-/// An entry whose report went to the box of a failure is taken when the field is left.
+/// Takes an entry that Qt has not reported, or whose report went to the box of a failure, and that
+/// stands in the field when it is left.
 bool SymbolEntry::eventFilter(QObject* field, QEvent* event)
 {
-    if (event->type() == QEvent::FocusOut && m_hasUntakenEntry && !m_isNoting) {
-        // Later: Qt reports an entry that was edited since.
-        QTimer::singleShot(0, m_pSymbolTextLE, [this] {
-            if (m_hasUntakenEntry && !m_pSymbolTextLE->hasFocus()) {
-                Q_EMIT m_pSymbolTextLE->editingFinished();
-            }
-        });
+    if (event->type() == QEvent::FocusOut) {
+        // Later: mostly Qt reports it now.
+        QTimer::singleShot(0, m_pSymbolTextLE, [this] { takeLeftEntry(); });
     }
     return QWidget::eventFilter(field, event);
+}
+
+void SymbolEntry::takeLeftEntry()
+{
+    if (m_pSymbolTextLE->isModified() && !m_pSymbolTextLE->hasFocus() &&
+        m_pSymbolTextLE->hasAcceptableInput()) {
+        Q_EMIT m_pSymbolTextLE->editingFinished();
+    }
 }
 
 void SymbolEntry::keepText(const QString& text)
@@ -333,8 +341,9 @@ void SymbolEntry::changeUnit(bool isMetric)
 {
     QString& kept = isMetric ? m_metricText : m_otherText;
     if (kept.isEmpty()) {
-        kept = converted(isMetric ? m_otherText : m_metricText,
-                         isMetric ? storedToMetric : typedToStored);
+        const QString& other = isMetric ? m_otherText : m_metricText;
+        kept =
+            converted(other.isEmpty() ? text() : other, isMetric ? storedToMetric : typedToStored);
     }
     // Not typed by the user: the kept texts stay.
     const char* const slot = SLOT(on_m_pSymbolTextLE_textChanged(QString));
@@ -346,7 +355,7 @@ void SymbolEntry::changeUnit(bool isMetric)
 QString SymbolEntry::converted(const QString& name, int direction) const
 {
     const int suffix = name.lastIndexOf(QLatin1Char('_'));
-    if (!m_hasSuffix || suffix < 0) {
+    if (!m_hasSuffix || !suffixOf(name)) {
         return ZENTRA::UIAPI::setSymbolUIData(name, direction);
     }
     return QStringLiteral("%1_%2").arg(ZENTRA::UIAPI::setSymbolUIData(name.left(suffix), direction),

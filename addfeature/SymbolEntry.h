@@ -31,8 +31,9 @@ public:
     QString text() const;
     /// The name field, as the guard of refusals knows it.
     const QObject* field() const;
-    /// Empties the field, and the record's symbol where it is the one that the field shows.
-    void dropRefused();
+    /// Empties the field where it shows `name`, and the record's symbol where that is what an entry
+    /// of `name` writes.
+    void dropRefused(const QString& name);
     void retranslate();
     /// Lets the field accept what the chosen feature type accepts.
     void applyFeatureType();
@@ -73,6 +74,7 @@ private:
     QString stored(const QString& name) const;
     QString converted(const QString& name, int direction) const;
     void takeEntry();
+    void takeLeftEntry();
     void storeEntry();
     void refuse(const QString& title, const QString& text);
     void refusePick(const QString& name);
@@ -90,6 +92,4 @@ private:
     QString m_otherText;
     bool m_hasSuffix = false;
     bool m_pickArmed = false;
-    bool m_isNoting = false;         // a box reporting a host exception may be open
-    bool m_hasUntakenEntry = false;  // that box took its report, which Qt will not repeat
 };

@@ -34,15 +34,17 @@ void ChoiceField::retranslate()
 {
     Field::retranslate();
     // In place: no item goes, so that neither index nor record changes.
-    for (int index = 0; index < count(); ++index) {
-        const Choice& choice = m_choices[static_cast<size_t>(index)];
-        setItemText(index, QCoreApplication::translate("AddFeature", choice.text));
+    int index = 0;
+    for (const Choice& choice : m_choices) {
+        setItemText(index++, QCoreApplication::translate("AddFeature", choice.text));
     }
 }
 
 const Choice* ChoiceField::chosen() const
 {
-    return currentIndex() < 0 ? nullptr : &m_choices[static_cast<size_t>(currentIndex())];
+    const int index = currentIndex();
+    const bool isKnown = index >= 0 && index < static_cast<int>(m_choices.size());
+    return isKnown ? &m_choices[static_cast<size_t>(index)] : nullptr;
 }
 
 bool ChoiceField::is(const QString& value) const

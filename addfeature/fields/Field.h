@@ -49,6 +49,9 @@ public:
         const char* slot;  ///< SLOT() of the dialog, to which its signal is connected
         Sends sends;
         Message message = Message::Record;
+        /// What can be typed into a line edit, as a regular expression; null: what the host lets
+        /// the user type.
+        const char* pattern = nullptr;
     };
 
     virtual ~Field() = default;
@@ -81,6 +84,8 @@ protected:
 
     /// Stores what the control says, or refuses it, and sends.
     virtual void take() = 0;
+    /// Whether there may be an entry that was not taken yet.
+    virtual bool hasNewEntry() const { return true; }
 
     /// Called last in a constructor: building a field sends nothing.
     void connectSignal(const char* signal);

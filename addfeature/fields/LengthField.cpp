@@ -11,6 +11,7 @@ LengthField::LengthField(DialogDoor& door, QWidget* page, const Details& details
 
 void LengthField::take()
 {
+    setModified(false);
     const bool isAccepted = m_door.checkLength(text(), m_largest);
     if (isAccepted) {
         storeLength();

@@ -10,6 +10,9 @@ LineField::LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Det
 {
     // At once, not only by the page's layout: the tab order follows the order of parenting.
     setParent(page);
+    if (details.pattern) {
+        setPattern(details.pattern);
+    }
 }
 
 void LineField::setPattern(const char* expression)

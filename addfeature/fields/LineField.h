@@ -14,5 +14,7 @@ public:
     void setPattern(const char* expression);
 
 protected:
+    bool hasNewEntry() const override { return isModified(); }
+
     LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details);
 };

@@ -28,6 +28,7 @@ void NumberField::take()
 
 void NumberField::takeText(const QString& text)
 {
+    setModified(false);
     if (!m_door.checkNumber(text.toDouble(), m_bounds.least, m_bounds.most)) {
         // Its own textChanged may have led here: putting a text back must not start over.
         const QSignalBlocker blocker(this);

@@ -10,6 +10,7 @@ PitchField::PitchField(DialogDoor& door, QWidget* page, const Details& details, 
 
 void PitchField::take()
 {
+    setModified(false);
     if (text().isEmpty()) {
         setText(RecordValues::zero);
     }

@@ -1,6 +1,6 @@
 #include "addfeature/fields/TextField.h"
 
-TextField::TextField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details,
+TextField::TextField(DialogDoor& door, QWidget* page, const Details& details, Pattern pattern,
                      const QString& text)
     : LineField(door, page, pattern, details)
 {
@@ -18,6 +18,7 @@ void TextField::enter(const QString& text)
 
 void TextField::take()
 {
+    setModified(false);
     if (m_accepts && !m_accepts(text())) {
         clear();
         return;

@@ -8,7 +8,7 @@
 /// A text, stored as typed. Rejected text is cleared from the field; the record is unchanged.
 class TextField final : public LineField {
 public:
-    TextField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details,
+    TextField(DialogDoor& door, QWidget* page, const Details& details, Pattern pattern,
               const QString& text);
 
     /// Accepts only text for which `accepts` returns true; without it, everything.

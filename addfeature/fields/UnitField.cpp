@@ -42,6 +42,7 @@ void UnitField::showUnit()
 
 void UnitField::changeUnit(bool isMetric)
 {
+    const bool isPending = isModified() && hasAcceptableInput();
     if (m_unit == Unit::PlainInch) {
         convertPlain(isMetric);
     } else {
@@ -49,6 +50,20 @@ void UnitField::changeUnit(bool isMetric)
     }
     m_isMetric = isMetric;
     showUnit();
+    if (isPending) {
+        m_converted = text();
+        setModified(true);
+    }
+}
+
+/// Of an entry that was pending when the unit changed, the form in the other unit may be one that
+/// cannot be typed. Qt does not report that, but the entry was the user's.
+void UnitField::focusOutEvent(QFocusEvent* event)
+{
+    LineField::focusOutEvent(event);
+    if (isModified() && !hasAcceptableInput() && text() == m_converted) {
+        finish();
+    }
 }
 
 /// Does nothing when the length is shown in that unit already. A text that is no number stays.

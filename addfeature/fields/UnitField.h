@@ -23,6 +23,8 @@ protected:
     void start(const QString& text);
     void storeLength();
 
+    void focusOutEvent(QFocusEvent* event) override;
+
 private:
     void showUnit();
     void convertPlain(bool isMetric);
@@ -30,6 +32,7 @@ private:
 
     const Unit m_unit;
     bool m_isMetric;
-    QString m_shown;     // what convertPlain() last wrote
-    QString m_previous;  // what stood there before it
+    QString m_converted;  // of an entry that was pending when the unit changed
+    QString m_shown;      // what convertPlain() last wrote
+    QString m_previous;   // what stood there before it
 };

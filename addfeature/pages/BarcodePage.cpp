@@ -1,64 +1,10 @@
 #include "addfeature/pages/BarcodePage.h"
 
-#include "plugin/RecordKeys.h"
-
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
-namespace {
-
-constexpr double largestHeight = 50000.0;  // mil
-
-const FlagField::Values added = {Added::yes, Added::no};
-
-}  // namespace
-
-BarcodePage::BarcodePage(DialogDoor& door, QWidget* parent)
-    : Page(door, "m_pBarcodePage", parent),
-      m_pUPCCMB(add<ChoiceField>(
-          Field::Details{"m_pUPCCMB", Caption::spoken(QT_TR_NOOP("Barcode type")),
-                         RecordKeys::barcodeMode, SLOT(on_UPC_ComboBox_Changed()), Sends::Never},
-          Choices{{QT_TR_NOOP("UPC39"), Symbology::upc39},
-                  {QT_TR_NOOP("UPC39 ascii"), Symbology::upc39Ascii},
-                  {QT_TR_NOOP("CODE128B"), Symbology::code128B},
-                  {QT_TR_NOOP("CODE128C"), Symbology::code128C},
-                  {QT_TR_NOOP("ECC-200"), Symbology::ecc200}},
-          ChoiceField::Stores::TextThenNumber)),
-      m_pAddStringCB(
-          add<FlagField>(Field::Details{"m_pAddStringCB", Caption::own(QT_TR_NOOP("Add String")),
-                                        RecordKeys::addString,
-                                        SLOT(on_AddString_CheckState_Changed(int)), Sends::Never},
-                         false, added)),
-      m_pPositionCMB(add<ChoiceField>(
-          Field::Details{"m_pPositionCMB", Caption::spoken(QT_TR_NOOP("Position of the string")),
-                         RecordKeys::stringPosition, SLOT(on_m_pPositionCMB_ComboBox_Changed()),
-                         Sends::Never},
-          Choices{{QT_TR_NOOP("Top"), StringPosition::top},
-                  {QT_TR_NOOP("Bottom"), StringPosition::bottom}},
-          ChoiceField::Stores::Text)),
-      m_pBackgroundCB(add<FlagField>(
-          Field::Details{"m_pBackgroundCB", Caption::own(QT_TR_NOOP("Background")),
-                         RecordKeys::addBackground,
-                         SLOT(on_m_pBackgroundCB_CheckState_Changed(int)), Sends::Never},
-          false, added)),
-      m_pAddMarkersCB(add<FlagField>(
-          Field::Details{"m_pAddMarkersCB", Caption::own(QT_TR_NOOP("Add Markers")),
-                         RecordKeys::addMarkers, SLOT(on_m_pAddMarkersCB_CheckState_Changed(int)),
-                         Sends::Never},
-          false, added)),
-      m_pHeightLE(
-          add<LengthField>(Field::Details{"m_pHeightLE", Caption::label(QT_TR_NOOP("Height\t:")),
-                                          RecordKeys::barcodeHeight,
-                                          SLOT(on_m_pHeightLE_editingFinished()), Sends::Never},
-                           QStringLiteral("250"), largestHeight, LengthField::Unit::MilByLabel)),
-      m_pMatrixPB(new QPushButton(this)),
-      m_pMatrixLE(
-          add<TextField>(LineField::Pattern::Text,
-                         Field::Details{"m_pMatrixLE", Caption::spoken(QT_TR_NOOP("Matrix")),
-                                        RecordKeys::barcodeMatrix,
-                                        SLOT(on_m_pMatrixLE_editingFinished()), Sends::Never},
-                         QStringLiteral("Minimal")))
+BarcodePage::BarcodePage(DialogDoor& door, QWidget* parent) : Page(door, "m_pBarcodePage", parent)
 {
     m_pMatrixPB->setObjectName(QStringLiteral("m_pMatrixPB"));
     m_door.connectToSlot(m_pMatrixPB, SIGNAL(clicked()), SLOT(on_m_pMatrixPB_clicked()));

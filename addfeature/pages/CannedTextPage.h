@@ -3,6 +3,7 @@
 #include "addfeature/fields/ChoiceField.h"
 #include "addfeature/fields/LengthField.h"
 #include "addfeature/pages/Page.h"
+#include "plugin/RecordKeys.h"
 
 #include <QCoreApplication>
 
@@ -13,6 +14,8 @@ class PlotStampPage;
 class CannedTextPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
+    static constexpr double largestHoleSize = 50000.0;  // mil
+
 public:
     /// `plotStamp` tells the zoom; it must live as long.
     CannedTextPage(DialogDoor& door, PlotStampPage& plotStamp, QWidget* parent = nullptr);
@@ -20,8 +23,17 @@ public:
     /// The plot stamp's zoom is stored along with the mode: deliberate.
     void chooseHoleMode();
 
-    ChoiceField* const m_pCannedHoleSizeCMB;
-    LengthField* const m_pCannedHoleSizeLE;
+    ChoiceField* const m_pCannedHoleSizeCMB =
+        add<ChoiceField>({"m_pCannedHoleSizeCMB", Caption::label(QT_TR_NOOP("Type\t\t:")),
+                          RecordKeys::cannedHoleMode,
+                          SLOT(on_m_pCannedHoleSizeCMB_ComboBox_Changed()), Sends::Never},
+                         Choices{{QT_TR_NOOP("5 X 7"), CannedHoleMode::fiveBySeven},
+                                 {QT_TR_NOOP("6 X 7"), CannedHoleMode::sixBySeven}},
+                         ChoiceField::Stores::Text);
+    LengthField* const m_pCannedHoleSizeLE = add<LengthField>(
+        {"m_pCannedHoleSizeLE", Caption::spoken(QT_TR_NOOP("Hole size")),
+         RecordKeys::cannedHoleSize, SLOT(on_m_pCannedHoleSizeLE_editingFinished()), Sends::Never},
+        QStringLiteral("20"), largestHoleSize, LengthField::Unit::MilByLabel);
 
 private:
     PlotStampPage& m_plotStamp;

@@ -7,6 +7,7 @@
 #include "addfeature/fields/RadioField.h"
 #include "addfeature/fields/TextField.h"
 #include "addfeature/pages/Page.h"
+#include "plugin/RecordKeys.h"
 
 #include <QCoreApplication>
 
@@ -14,6 +15,8 @@
 /// the measures of a slot.
 class LinePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
+
+    static constexpr double largestLength = 50000.0;  // mil
 
 public:
     explicit LinePage(DialogDoor& door, QWidget* parent = nullptr);
@@ -25,16 +28,64 @@ public:
     /// The radius can be typed for round and chamfered corners only.
     void chooseCorner();
 
-    ChoiceField* const m_pLineCMB;
-    FlagField* const m_pClosedCB;
-    RadioField* const m_pDirectionBG;
-    NumberField* const m_pAngleLE;
-    ChoiceField* const m_pCornerTypeCMB;
-    LengthField* const m_pCornerRadiusLE;
-    LengthField* const m_pLengthLE;
-    TextField* const m_pSlotAngleLE;
-    TextField* const m_pSlotDecodeLE;
-    ChoiceField* const m_pSlotPlatedCMB;
+    ChoiceField* const m_pLineCMB =
+        add<ChoiceField>({"m_pLineCMB", Caption::spoken(QT_TR_NOOP("Kind of line")),
+                          RecordKeys::line, SLOT(on_Line_ComboBox_Changed()), Sends::Always},
+                         Choices{{QT_TR_NOOP("Single Line"), LineKind::single},
+                                 {QT_TR_NOOP("Polyline"), LineKind::polyline},
+                                 {QT_TR_NOOP("Rectangle"), LineKind::rectangle},
+                                 {QT_TR_NOOP("Slot"), LineKind::slot, false}},
+                         ChoiceField::Stores::Text);
+    FlagField* const m_pClosedCB =
+        add<FlagField>({"m_pClosedCB", Caption::own(QT_TR_NOOP("Closed")), RecordKeys::closed,
+                        SLOT(on_m_pClosedCB_CheckState_Changed(int)), Sends::Always},
+                       false, FlagField::Values{Closed::yes, Closed::no});
+    RadioField* const m_pDirectionBG = add<RadioField>(
+        {"m_pDirectionBG", Caption::none(), RecordKeys::angleGroup,
+         SLOT(on_Line_Button_Clicked(QAbstractButton*)), Sends::Always, Message::Direction},
+        RadioField::Look::Radio,
+        std::vector<RadioChoice>{
+            {"m_pFreeDirectionRB", "Free1.jpg", QT_TR_NOOP("Free direction")},
+            {"m_pVerticalRB", "Ver1.jpg", QT_TR_NOOP("Vertical")},
+            {"m_pHorizontalRB", "Hori1.jpg", QT_TR_NOOP("Horizontal")},
+            {"m_pVerticalHorizontalRB", "VH1.jpg", QT_TR_NOOP("Vertical, then horizontal")},
+            {"m_pEightDirectionsRB", "8 Dir1.jpg", QT_TR_NOOP("Eight directions")},
+            {"m_pFixedAngleRB", "Fixed1.jpg", QT_TR_NOOP("Fixed angle")}});
+    NumberField* const m_pAngleLE = add<NumberField>(
+        {"m_pAngleLE", Caption::label(QT_TR_NOOP("Angle (deg)")), RecordKeys::angle,
+         SLOT(on_m_pAngleLE_editingFinished()), Sends::WhenAccepted, Message::Direction},
+        QString(), NumberField::Bounds{0.0, 360.0}, NumberField::Checked::WhenFinished);
+    ChoiceField* const m_pCornerTypeCMB = add<ChoiceField>(
+        {"m_pCornerTypeCMB", Caption::label(QT_TR_NOOP("Corner Type : ")), RecordKeys::cornerType,
+         SLOT(on_CornerTypre_ComboBox_Changed()), Sends::Always},
+        Choices{{QT_TR_NOOP("Straight"), CornerType::straight},
+                {QT_TR_NOOP("Round"), CornerType::round},
+                {QT_TR_NOOP("Chamfer"), CornerType::chamfer},
+                {QT_TR_NOOP("Oblong"), CornerType::oblong}},
+        ChoiceField::Stores::TextThenNumber);
+    LengthField* const m_pCornerRadiusLE =
+        add<LengthField>({"m_pCornerRadiusLE", Caption::label(QT_TR_NOOP("Corner Radius : ")),
+                          RecordKeys::cornerRadius, SLOT(on_m_pCornerRadiusLE_editingFinished()),
+                          Sends::WhenAccepted, Message::Record, "^[1-9][0-9]*|0$"},
+                         RecordValues::zero, largestLength);
+    LengthField* const m_pLengthLE = add<LengthField>(
+        {"m_pLengthLE", Caption::label(QT_TR_NOOP("Length : ")), RecordKeys::slotLength,
+         SLOT(on_m_pLengthLE_editingFinished()), Sends::Never},
+        RecordValues::zero, largestLength, LengthField::Unit::PlainInch);
+    TextField* const m_pSlotAngleLE = add<TextField>(
+        {"m_pSlotAngleLE", Caption::label(QT_TR_NOOP("Angle (deg) : ")), RecordKeys::slotAngle,
+         SLOT(on_m_pSlotAngleLE_editingFinished()), Sends::Never},
+        LineField::Pattern::Decimal, RecordValues::zero);
+    TextField* const m_pSlotDecodeLE = add<TextField>(
+        {"m_pSlotDecodeLE", Caption::label(QT_TR_NOOP("Decode: ")), RecordKeys::slotDecode,
+         SLOT(on_m_pSlotDecodeLE_editingFinished()), Sends::Never},
+        LineField::Pattern::Decimal, RecordValues::zero);
+    ChoiceField* const m_pSlotPlatedCMB = add<ChoiceField>(
+        {"m_pSlotPlatedCMB", Caption::spoken(QT_TR_NOOP("Plating")), RecordKeys::slotPlated,
+         SLOT(on_m_pSlotPlatedCMB_ComboBox_Changed()), Sends::Never},
+        Choices{{QT_TR_NOOP("Plated"), SlotPlated::yes},
+                {QT_TR_NOOP("Non Plated"), SlotPlated::no}},
+        ChoiceField::Stores::Text);
 
 private:
     QWidget* createDirectionGroup();
@@ -42,7 +93,7 @@ private:
     QWidget* createSlotGroup();
     void showKind();
 
-    QWidget* m_pDirectionGroup;
-    QWidget* m_pCornerGroup;
-    QWidget* m_pSlotGroup;
+    QWidget* m_pDirectionGroup = createDirectionGroup();
+    QWidget* m_pCornerGroup = createCornerGroup();
+    QWidget* m_pSlotGroup = createSlotGroup();
 };

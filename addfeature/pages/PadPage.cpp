@@ -1,7 +1,5 @@
 #include "addfeature/pages/PadPage.h"
 
-#include "plugin/RecordKeys.h"
-
 #include <QDoubleValidator>
 #include <QFrame>
 #include <QGridLayout>
@@ -38,24 +36,7 @@ QGridLayout* createColumn(const std::initializer_list<Field*>& fields)
 
 }  // namespace
 
-PadPage::PadPage(DialogDoor& door, QWidget* parent)
-    : Page(door, "m_pPadPage", parent),
-      m_pDrilNxLE(
-          addCount({"m_pDrilNxLE", Caption::label(QT_TR_NOOP("Nx   : ")), RecordKeys::padNx,
-                    SLOT(on_m_pDrilNxLE_editingFinished(const QString&)), Sends::WhenAccepted})),
-      m_pDrilDxLE(addPitch({"m_pDrilDxLE", Caption::label(QT_TR_NOOP("Dx   : ")), RecordKeys::padDx,
-                            SLOT(on_m_pDrilDxLE_editingFinished()), Sends::WhenAccepted})),
-      m_pDrilXsclLE(
-          addFactor({"m_pDrilXsclLE", Caption::label(QT_TR_NOOP("Xscl : ")), RecordKeys::padXscl,
-                     SLOT(on_m_pDrilXsclLE_editingFinished(const QString&)), Sends::WhenAccepted})),
-      m_pDrilNyLE(
-          addCount({"m_pDrilNyLE", Caption::label(QT_TR_NOOP("Ny   : ")), RecordKeys::padNy,
-                    SLOT(on_m_pDrilNyLE_editingFinished(const QString&)), Sends::WhenAccepted})),
-      m_pDrilDyLE(addPitch({"m_pDrilDyLE", Caption::label(QT_TR_NOOP("Dy   : ")), RecordKeys::padDy,
-                            SLOT(on_m_pDrilDyLE_editingFinished()), Sends::WhenAccepted})),
-      m_pDrilYsclLE(
-          addFactor({"m_pDrilYsclLE", Caption::label(QT_TR_NOOP("Yscl : ")), RecordKeys::padYscl,
-                     SLOT(on_m_pDrilYsclLE_editingFinished(const QString&)), Sends::WhenAccepted}))
+PadPage::PadPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pPadPage", parent)
 {
     m_pDrilDxLE->setPattern(pitchPattern);
     m_pDrilDyLE->setValidator(m_pDrilDxLE->validator());

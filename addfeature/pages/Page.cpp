@@ -1,7 +1,5 @@
 #include "addfeature/pages/Page.h"
 
-#include "addfeature/fields/Field.h"
-
 #include <cam_api.h>
 #include <ui_api.h>
 

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "addfeature/record/DialogDoor.h"
+#include "addfeature/fields/Field.h"
 
 #include <QWidget>
 
 #include <utility>
 #include <vector>
-
-class Field;
 
 /// A page of the dialog, or one of the text page's own pages: its fields, their layout, and the
 /// rules between them, each of which is a method that a named slot of the dialog calls.
@@ -23,10 +21,11 @@ public:
 
 protected:
     /// A new field of the page, owned by it.
-    template <class AnyField, class... Arguments>
-    AnyField* add(Arguments&&... arguments)
+    template <class FieldType, class... Arguments>
+    FieldType* add(const Field::Details& details, Arguments&&... arguments)
     {
-        auto* const field = new AnyField(m_door, this, std::forward<Arguments>(arguments)...);
+        auto* const field =
+            new FieldType(m_door, this, details, std::forward<Arguments>(arguments)...);
         m_fields.push_back(field);
         return field;
     }

@@ -1,33 +1,10 @@
 #include "addfeature/pages/StringPage.h"
 
 #include "addfeature/record/Units.h"
-#include "plugin/RecordKeys.h"
 
 #include <QGridLayout>
 
-namespace {
-
-// In mil.
-constexpr double largestSize = 10000.0;
-constexpr double characterSize = 200.0;
-constexpr double strokeWidth = 24.0;
-
-}  // namespace
-
-StringPage::StringPage(DialogDoor& door, QWidget* parent)
-    : Page(door, "m_pStringPage", parent),
-      m_pXSizeLE(
-          addSize({"m_pXSizeLE", Caption::label(QT_TR_NOOP("X Size  : ")), RecordKeys::stringXSize,
-                   SLOT(on_m_pXSizeLE_editingFinished()), Sends::Always},
-                  characterSize)),
-      m_pYSizeLE(
-          addSize({"m_pYSizeLE", Caption::label(QT_TR_NOOP("Y Size  : ")), RecordKeys::stringYSize,
-                   SLOT(on_m_pYSizeLE_editingFinished()), Sends::Always},
-                  characterSize)),
-      m_pLineWidthLE(addSize(
-          {"m_pLineWidthLE", Caption::label(QT_TR_NOOP("Line Width : ")),
-           RecordKeys::stringLineWidth, SLOT(on_m_pLineWidthLE_editingFinished()), Sends::Always},
-          strokeWidth))
+StringPage::StringPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pStringPage", parent)
 {
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);

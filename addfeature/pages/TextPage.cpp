@@ -1,11 +1,5 @@
 #include "addfeature/pages/TextPage.h"
 
-#include "addfeature/pages/BarcodePage.h"
-#include "addfeature/pages/CannedTextPage.h"
-#include "addfeature/pages/PlotStampPage.h"
-#include "addfeature/pages/StringPage.h"
-#include "plugin/RecordKeys.h"
-
 #include <cam_api.h>
 #include <common_widgets.h>
 
@@ -39,39 +33,10 @@ void present(QWidget* window)
 
 }  // namespace
 
-TextPage::TextPage(DialogDoor& door, QWidget* parent)
-    : Page(door, "m_pTextPage", parent),
-      m_pTextFormatCMB(add<ChoiceField>(
-          Field::Details{"m_pTextFormatCMB", Caption::spoken(QT_TR_NOOP("Text format")),
-                         RecordKeys::textFormat, SLOT(on_Textformart_ComboBox_Changed()),
-                         Sends::Never},
-          Choices{{QT_TR_NOOP("String"), TextKind::string},
-                  {QT_TR_NOOP("Barcode"), TextKind::barcode, false},
-                  {QT_TR_NOOP("Orbotech Plot Stamp"), TextKind::plotStamp, false},
-                  {QT_TR_NOOP("Canned Text"), TextKind::cannedText, false}},
-          ChoiceField::Stores::Text)),
-      m_strings(new StringPage(door, this)),
-      m_barcode(new BarcodePage(door, this)),
-      m_plotStamp(new PlotStampPage(door, this)),
-      m_cannedText(new CannedTextPage(door, *m_plotStamp, this)),
-      m_pFontPB(addButton("m_pFontPB", SLOT(on_m_pFontPB_clicked()))),
-      m_pFontLE(add<TextField>(
-          LineField::Pattern::Text,
-          Field::Details{"m_pFontLE", Caption::spoken(QT_TR_NOOP("Font")),
-                         RecordKeys::stringTextFont, SLOT(on_m_pFontLE_editingFinished()),
-                         Sends::Always},
-          isFontOfJob(QStringLiteral("standard")) ? QStringLiteral("standard") : QString())),
-      m_pTextPB(addButton("m_pTextPB", SLOT(on_Text_clicked()))),
-      m_pTextLE(add<TextField>(
-          LineField::Pattern::Text,
-          Field::Details{"m_pTextLE", Caption::spoken(QT_TR_NOOP("Text")), RecordKeys::textContains,
-                         SLOT(on_m_pTextLE_editingFinished()), Sends::Always},
-          QString())),
-      m_subPages{m_strings, m_barcode, m_plotStamp, m_cannedText}
+TextPage::TextPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pTextPage", parent)
 {
     m_pFontLE->setReadOnly(true);
     m_pFontLE->acceptOnly([this](const QString& name) { return isFontOfJob(name); });
-    m_pTextLE->setPattern("^[A-Za-z0-9`~!@#$%^&*()\\-_=+<>,./ ]{0,}$");
     m_barcode->m_pUPCCMB->setEnabled(false);
     layOut();
     TextPage::retranslate();
@@ -142,16 +107,24 @@ void TextPage::chooseFormat()
     m_pFontPB->setEnabled(isString);
     m_pFontLE->setEnabled(isString);
     m_barcode->m_pUPCCMB->setEnabled(isBarcode);
+    // The barcode's page is shown before the format is stored, the others' after it: what is hidden
+    // may have an entry to send.
     if (isBarcode) {
         m_barcode->chooseType();
+        showSubPage();
     }
     if (m_pTextFormatCMB->storeChoice()) {
-        const auto chosen = static_cast<size_t>(m_pTextFormatCMB->currentIndex());
-        for (Page* const page : m_subPages) {
-            page->setVisible(page == m_subPages[chosen]);
-        }
+        showSubPage();
     }
     m_pTextFormatCMB->send();
+}
+
+void TextPage::showSubPage()
+{
+    const auto chosen = static_cast<size_t>(m_pTextFormatCMB->currentIndex());
+    for (Page* const page : m_subPages) {
+        page->setVisible(page == m_subPages[chosen]);
+    }
 }
 
 bool TextPage::isFontOfJob(const QString& name) const

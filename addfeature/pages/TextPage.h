@@ -2,18 +2,19 @@
 
 #include "addfeature/fields/ChoiceField.h"
 #include "addfeature/fields/TextField.h"
+#include "addfeature/pages/BarcodePage.h"
+#include "addfeature/pages/CannedTextPage.h"
 #include "addfeature/pages/Page.h"
+#include "addfeature/pages/PlotStampPage.h"
+#include "addfeature/pages/StringPage.h"
+#include "plugin/RecordKeys.h"
 
 #include <QCoreApplication>
 #include <QPointer>
 
 #include <array>
 
-class BarcodePage;
-class CannedTextPage;
-class PlotStampPage;
 class QPushButton;
-class StringPage;
 
 /// The format, the font and the text to place; the settings of each format stand on a page of
 /// their own, of which one is shown.
@@ -27,29 +28,45 @@ public:
     void retranslate() override;
     void changeUnit(bool isMetric) override;
 
-    /// Shows the page of the format and enables what it uses. Sends nothing.
+    /// Shows the page of the format and enables what it uses.
     void chooseFormat();
     void openFonts();
     void openSpecialTexts();
     /// Closes the windows that list fonts and special texts.
     void closePopups();
 
-    ChoiceField* const m_pTextFormatCMB;
-    StringPage* const m_strings;
-    BarcodePage* const m_barcode;
-    PlotStampPage* const m_plotStamp;
-    CannedTextPage* const m_cannedText;
-    QPushButton* const m_pFontPB;
-    TextField* const m_pFontLE;
-    QPushButton* const m_pTextPB;
-    TextField* const m_pTextLE;
+    ChoiceField* const m_pTextFormatCMB = add<ChoiceField>(
+        {"m_pTextFormatCMB", Caption::spoken(QT_TR_NOOP("Text format")), RecordKeys::textFormat,
+         SLOT(on_Textformart_ComboBox_Changed()), Sends::Never},
+        Choices{{QT_TR_NOOP("String"), TextKind::string},
+                {QT_TR_NOOP("Barcode"), TextKind::barcode, false},
+                {QT_TR_NOOP("Orbotech Plot Stamp"), TextKind::plotStamp, false},
+                {QT_TR_NOOP("Canned Text"), TextKind::cannedText, false}},
+        ChoiceField::Stores::Text);
+    StringPage* const m_strings = new StringPage(m_door, this);
+    BarcodePage* const m_barcode = new BarcodePage(m_door, this);
+    PlotStampPage* const m_plotStamp = new PlotStampPage(m_door, this);
+    CannedTextPage* const m_cannedText = new CannedTextPage(m_door, *m_plotStamp, this);
+    QPushButton* const m_pFontPB = addButton("m_pFontPB", SLOT(on_m_pFontPB_clicked()));
+    TextField* const m_pFontLE = add<TextField>(
+        {"m_pFontLE", Caption::spoken(QT_TR_NOOP("Font")), RecordKeys::stringTextFont,
+         SLOT(on_m_pFontLE_editingFinished()), Sends::Always},
+        LineField::Pattern::Text,
+        isFontOfJob(QStringLiteral("standard")) ? QStringLiteral("standard") : QString());
+    QPushButton* const m_pTextPB = addButton("m_pTextPB", SLOT(on_Text_clicked()));
+    TextField* const m_pTextLE =
+        add<TextField>({"m_pTextLE", Caption::spoken(QT_TR_NOOP("Text")), RecordKeys::textContains,
+                        SLOT(on_m_pTextLE_editingFinished()), Sends::Always, Message::Record,
+                        "^[A-Za-z0-9`~!@#$%^&*()\\-_=+<>,./ ]{0,}$"},
+                       LineField::Pattern::Text, QString());
 
 private:
     QPushButton* addButton(const char* name, const char* slot);
     void layOut();
+    void showSubPage();
     bool isFontOfJob(const QString& name) const;
 
-    const std::array<Page*, 4> m_subPages;
+    const std::array<Page*, 4> m_subPages = {m_strings, m_barcode, m_plotStamp, m_cannedText};
     QPointer<QWidget> m_fontPopup;
     QPointer<QWidget> m_specialTextPopup;
 };

@@ -8,15 +8,19 @@ void RefusalGuard::report(const QObject* field, Handler handler)
         run(field, handler);
         return;
     }
-    const std::vector<const QObject*>& handled = m_state->handled;
-    const bool isTheSameEntry = std::find(handled.begin(), handled.end(), field) != handled.end();
     std::vector<Report>& pending = m_state->pending;
     const bool isNoted = std::any_of(pending.begin(), pending.end(), [field](const Report& report) {
         return report.field == field;
     });
-    if (!isTheSameEntry && !isNoted) {
+    if (!isHandling(field) && !isNoted) {
         pending.push_back({field, std::move(handler)});
     }
+}
+
+bool RefusalGuard::isHandling(const QObject* field) const
+{
+    const std::vector<const QObject*>& handled = m_state->handled;
+    return std::find(handled.begin(), handled.end(), field) != handled.end();
 }
 
 void RefusalGuard::run(const QObject* field, const Handler& handler)

@@ -26,6 +26,9 @@ public:
     /// that is open, or not at all.
     void report(const QObject* field, Handler handler);
 
+    /// Whether a handler of `field` runs.
+    bool isHandling(const QObject* field) const;
+
     /// Runs `handler`, which may open a box; `field`, which may be null, is what it is about.
     void run(const QObject* field, const Handler& handler);
 

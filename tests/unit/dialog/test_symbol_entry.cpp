@@ -357,6 +357,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.boxes.take().size(), 3);  // one a key, and none for the focus
         QCOMPARE(fixture.symbol().text(), QString("r10"));
         CanvasHost::uiApiOverrides() = {};
+        QApplication::setActiveWindow(fixture.dialog);
         fixture.symbol().setFocus();
         fixture.leave("Tab");
         QTRY_COMPARE(fixture.recorder.codes(), QVector<int>{50});

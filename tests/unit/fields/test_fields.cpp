@@ -222,7 +222,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        TextField field(door, &page, LineField::Pattern::Text, line(Sends::Always), "a");
+        TextField field(door, &page, line(Sends::Always), LineField::Pattern::Text, "a");
         type(field, "word");
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(door.record().text(key), QString("word"));
@@ -243,7 +243,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        TextField field(door, &page, LineField::Pattern::Text, line(Sends::Never), "a");
+        TextField field(door, &page, line(Sends::Never), LineField::Pattern::Text, "a");
         field.enter("b");
         QCOMPARE(door.record().text(key), QString("b"));
         QCOMPARE(door.takeCalls(), QStringList());
@@ -358,7 +358,7 @@ private Q_SLOTS:
         FakeDoor door;
         QWidget page;
         LengthField refused(door, &page, line(Sends::Never), "5", 50000);
-        TextField pending(door, &page, LineField::Pattern::Text, other(Sends::Always), "a");
+        TextField pending(door, &page, other(Sends::Always), LineField::Pattern::Text, "a");
         pending.setText("b");
         door.accepts = false;
         door.onBox = [&] {
@@ -400,7 +400,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        TextField pending(door, &page, LineField::Pattern::Text, other(Sends::Never), "a");
+        TextField pending(door, &page, other(Sends::Never), LineField::Pattern::Text, "a");
         pending.setText("b");
         bool hasThrown = false;
         try {
