@@ -346,6 +346,40 @@ private Q_SLOTS:
         QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r20")));
     }
 
+    /// What the type does not accept is not reported; when a type that does is chosen, it is taken.
+    void aNameThatAnotherTypeAcceptsIsTakenWithIt()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pPadTB");
+        fixture.type("rect20x40");
+        fixture.choose("m_pLineTB");
+        fixture.leave("Tab");
+        QVERIFY(fixture.recorder.codes().isEmpty());
+        fixture.click("m_pPadTB");
+        QCOMPARE(fixture.symbol().text(), QString("rect20x40"));
+        QCOMPARE(fixture.recorder.last(MessageCodes::Sent::Record)
+                     .message.payload.value(RecordKeys::symbolText),
+                 QVariant(QString("rect20x40")));
+    }
+
+    void aPickDuringTheBoxOfARefusalStays()
+    {
+        DialogFixture fixture;
+        fixture.symbol().setText("r60000");
+        bool isFirst = true;
+        fixture.boxes.setOnBox([&] {
+            if (std::exchange(isFirst, false)) {
+                fixture.dialog->getChangeCurrentTool();  // no second box for the same refusal
+                fixture.dialog->get_ChangeSymbol_Info({{1, "r30"}});
+            }
+        });
+        fixture.dialog->getChangeCurrentTool();
+        QCOMPARE(fixture.boxes.take().size(), 1);
+        QCOMPARE(fixture.symbol().text(), QString("r30"));
+        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r30")));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+    }
+
     void whatWasTypedWhileTheHostFailedIsTakenOnLeaving()
     {
         DialogFixture fixture;

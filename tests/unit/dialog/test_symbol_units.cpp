@@ -3,6 +3,8 @@
 #include "DialogFixture.h"
 #include "Main.h"
 
+#include <UiApiStandIn.h>
+
 class TestSymbolUnits : public QObject {
     Q_OBJECT
 
@@ -120,6 +122,31 @@ private Q_SLOTS:
         fixture.symbol().setText("r1270");  // kept as the metric text
         fixture.setMetric(false);
         QCOMPARE(fixture.symbol().text(), QString("r50"));
+    }
+
+    /// The suffix of an earlier entry says nothing of a symbol that was picked since.
+    void aPickedNameIsConvertedWhole()
+    {
+        DialogFixture fixture;
+        fixture.choose("m_pPadTB");
+        fixture.enter("r10_45");
+        fixture.dialog->get_ChangeSymbol_Info({{1, "ring_r60x30"}});
+        fixture.setMetric(true);
+        QCOMPARE(fixture.symbol().text(), QString("ring_r1524x762"));
+    }
+
+    void afterAFailureTheFieldItselfIsConverted()
+    {
+        DialogFixture fixture;
+        fixture.type("r2");
+        CanvasHost::uiApiOverrides().getUnit = [](void*) -> int {
+            throw std::runtime_error("no unit");
+        };
+        QTest::keyClicks(&fixture.symbol(), "0");
+        QCOMPARE(fixture.boxes.take().size(), 1);
+        CanvasHost::uiApiOverrides() = {};
+        fixture.setMetric(true);
+        QCOMPARE(fixture.symbol().text(), QString("r508"));
     }
 };
 

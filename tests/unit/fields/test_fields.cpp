@@ -418,6 +418,55 @@ private Q_SLOTS:
         QCOMPARE(door.record().text("Other"), QString("c"));
     }
 
+    void anEntryThatAUnitChangeMakesUntypableIsTakenOnLeaving()
+    {
+        FakeDoor door;
+        QWidget page;
+        Field::Details details = line(Sends::WhenAccepted);
+        details.pattern = "^[1-9][0-9]*|0$";
+        LengthField field(door, &page, details, "0", 50000);
+        type(field, "1");
+        door.metric = true;
+        field.changeUnit(true);
+        QCOMPARE(field.text(), QString("25.4"));
+        QVERIFY(!field.hasAcceptableInput());
+        QCOMPARE(door.takeCalls(), QStringList());
+
+        QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
+        QApplication::sendEvent(&field, &left);
+        QCOMPARE(door.record().text(key), QString("25.4"));
+        QCOMPARE(door.takeCalls(), (QStringList{"length 25.4 up to 50000", "record"}));
+        QApplication::sendEvent(&field, &left);  // once
+        QCOMPARE(door.takeCalls(), QStringList());
+    }
+
+    void anEntryThatTheUserLeftUntypableIsNotTaken()
+    {
+        FakeDoor door;
+        QWidget page;
+        Field::Details details = line(Sends::WhenAccepted);
+        details.pattern = "[1-9]|[1-9][.][0-9]";
+        LengthField field(door, &page, details, "0", 50000);
+        type(field, "1.");
+        QVERIFY(!field.hasAcceptableInput());
+        field.changeUnit(true);
+        QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
+        QApplication::sendEvent(&field, &left);
+        QCOMPARE(door.takeCalls(), QStringList());
+        QCOMPARE(door.record().text(key), QString("0"));
+    }
+
+    void aBoxOfTheReceiversMakesNoSecondEntry()
+    {
+        FakeDoor door;
+        QWidget page;
+        LengthField field(door, &page, line(Sends::Always), "5", 50000);
+        door.onSend = [&] { field.finish(); };  // its box takes the focus
+        type(field, "10");
+        field.finish();
+        QCOMPARE(door.takeCalls(), (QStringList{"length 10 up to 50000", "record"}));
+    }
+
     void aRowIsEnabledWhole()
     {
         FakeDoor door;
