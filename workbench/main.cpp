@@ -1,10 +1,10 @@
 #include "messages/MessageLog.h"
 #include "messages/MessageTrace.h"
+#include "messages/WindowPicture.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
 #include "window/Options.h"
-#include "window/WindowPicture.h"
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>

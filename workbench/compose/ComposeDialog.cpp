@@ -3,9 +3,9 @@
 #include "HostName.h"
 #include "compose/FaultMark.h"
 #include "compose/PayloadTable.h"
+#include "messages/HostState.h"
 #include "messages/MessageNames.h"
-#include "session/MessageWords.h"
-#include "window/HostState.h"
+#include "messages/MessageWords.h"
 
 #include <QComboBox>
 #include <QEvent>

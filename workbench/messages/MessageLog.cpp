@@ -1,6 +1,6 @@
 #include "messages/MessageLog.h"
 
-#include "messages/Values.h"
+#include <Values.h>
 
 #include <QSaveFile>
 

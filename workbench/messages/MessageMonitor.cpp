@@ -1,10 +1,10 @@
 #include "messages/MessageMonitor.h"
 
+#include <RecordTable.h>
 #include "messages/MessageDialog.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
-#include "messages/RecordTable.h"
 
 #include <QEvent>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 #include "session/MessageExpectation.h"
 
-#include "messages/Values.h"
-#include "session/MessageWords.h"
+#include <Values.h>
+#include "messages/MessageWords.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "session/StepActions.h"
 
+#include "messages/WindowPicture.h"
 #include "session/InputEvents.h"
 #include "session/MenuEntries.h"
 #include "session/TextWidgets.h"
 #include "session/WidgetFinder.h"
-#include "window/WindowPicture.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

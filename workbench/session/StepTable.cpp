@@ -1,11 +1,11 @@
 #include "session/StepTable.h"
 
+#include "messages/HostState.h"
+#include "messages/MessageWords.h"
 #include "session/ExpectSteps.h"
 #include "session/InputEvents.h"
-#include "session/MessageWords.h"
 #include "session/MouseSteps.h"
 #include "session/StepActions.h"
-#include "window/HostState.h"
 
 #include <QFileInfo>
 #include <QImageWriter>

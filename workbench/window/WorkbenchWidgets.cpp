@@ -1,9 +1,9 @@
 // The widgets of the window, and their texts.
 
+#include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
 #include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
-#include "window/HostState.h"
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>

@@ -2,11 +2,11 @@
 
 #include "HostName.h"
 #include "compose/ComposeDialog.h"
+#include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
+#include "messages/WindowPicture.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
-#include "window/HostState.h"
-#include "window/WindowPicture.h"
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>

@@ -13,7 +13,7 @@ check() {
     local file=$1
     shift
     cp "translations/$file" "$dir/$file"
-    "$lupdate" -silent -locations none -I . -I workbench -I workbench/siblings "$@" \
+    "$lupdate" -silent -locations none -I . -I workbench "$@" \
         -ts "$dir/$file" >/dev/null 2>&1
     if grep -B3 -E 'type="(unfinished|vanished|obsolete)"' "$dir/$file" | grep '<source>'; then
         echo "$file: not translated, or gone from the sources"

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
-#include "window/HostState.h"
 
 #include <QtTest>
 

@@ -3,8 +3,8 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "compose/ComposeDialog.h"
+#include "messages/HostState.h"
 #include "messages/MessageLog.h"
-#include "window/HostState.h"
 
 #include <PluginManagerStandIn.h>
 

@@ -1,7 +1,7 @@
 // The words of a session's "send" step.
 
 #include "Main.h"
-#include "session/MessageWords.h"
+#include "messages/MessageWords.h"
 
 class TestMessageWords : public QObject {
     Q_OBJECT

@@ -67,7 +67,7 @@ private Q_SLOTS:
 
     void eachStepIsDescribed()
     {
-        QFile page(SOURCE_DIR "/docs/sessions.md");
+        QFile page(SOURCE_DIR "/workbench/docs/sessions.md");
         QVERIFY(page.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(page.readAll());
         for (const QString& name : StepTable::names()) {

@@ -1,11 +1,11 @@
 // What the hand does is written as a session; played again, it sends the same messages.
 
 #include "Main.h"
+#include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
-#include "window/HostState.h"
 
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>

@@ -1,4 +1,4 @@
-#include "messages/Values.h"
+#include "Values.h"
 
 namespace Values {
 

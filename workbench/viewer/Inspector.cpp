@@ -1,6 +1,6 @@
 #include "viewer/Inspector.h"
 
-#include "messages/RecordTable.h"
+#include <RecordTable.h>
 
 #include <QLabel>
 #include <QVBoxLayout>

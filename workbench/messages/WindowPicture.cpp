@@ -1,4 +1,4 @@
-#include "window/WindowPicture.h"
+#include "messages/WindowPicture.h"
 
 #include <QApplication>
 #include <QPainter>

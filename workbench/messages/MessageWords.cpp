@@ -1,4 +1,4 @@
-#include "session/MessageWords.h"
+#include "messages/MessageWords.h"
 
 #include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"

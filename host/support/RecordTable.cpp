@@ -1,6 +1,6 @@
-#include "messages/RecordTable.h"
+#include "RecordTable.h"
 
-#include "messages/Values.h"
+#include "Values.h"
 
 #include <QHeaderView>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "messages/HostMessage.h"
 #include "messages/MessageNames.h"
-#include "window/HostMessage.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "window/HostState.h"
+#include "messages/HostState.h"
 
 #include "HostName.h"
 #include "plugin/MessageCodes.h"
