@@ -8,6 +8,7 @@
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>
+#include <FileError.h>
 
 #include <QApplication>
 #include <QFileInfo>
@@ -17,6 +18,8 @@
 #include <QWindow>
 
 #include <cstdio>
+
+using CanvasHost::FileError;
 
 namespace {
 
@@ -52,9 +55,10 @@ void complain(const QString& text)
     fprintf(stderr, "%s\n", qUtf8Printable(text));
 }
 
-QString ours(const QString& text)
+/// Words of others, who have put the place in front already.
+[[noreturn]] void refuse(const QString& text)
 {
-    return QStringLiteral("workbench: ") + text;
+    throw FileError{{}, 0, text};
 }
 
 /// What the command line names, read and opened.
@@ -64,31 +68,26 @@ struct Inputs {
     MessageTrace trace;
 };
 
-/// Reads everything that may be wrong before a window is made; empty when all is well.
-QString readInputs(int argc, char* argv[], Inputs* inputs)
+/// Reads everything that may be wrong before a window is made.
+void readInputs(int argc, char* argv[], Inputs* inputs)
 {
-    QString error;
-    inputs->options = Options::ofProgram(argc, argv, &error);
+    inputs->options = Options::ofProgram(argc, argv);
     const Options& options = inputs->options;
-    if (!error.isEmpty()) {
-        return ours(error);
-    }
+    QString error;
     if (!CanvasHost::loadJobs(options.jobFile, &error)) {
-        return error;
+        refuse(error);
     }
-    if (!options.sessionFile.isEmpty() &&
-        !SessionParser::readFile(options.sessionFile, &inputs->session, &error)) {
-        return inputs->session.file.isEmpty() ? ours(error) : error;
+    if (!options.sessionFile.isEmpty()) {
+        inputs->session = SessionParser::readFile(options.sessionFile);
     }
     if (!options.recordFile.isEmpty() && QFileInfo::exists(options.recordFile) &&
         QFileInfo(options.recordFile) == QFileInfo(options.sessionFile)) {
-        return ours(QStringLiteral("%1: a session is not recorded over the one that is played")
-                        .arg(options.recordFile));
+        throw FileError{options.recordFile, 0,
+                        QStringLiteral("a session is not recorded over the one that is played")};
     }
-    if (!options.traceFile.isEmpty() && !inputs->trace.open(options.traceFile)) {
-        return ours(QStringLiteral("%1: %2").arg(options.traceFile, inputs->trace.errorText()));
+    if (!options.traceFile.isEmpty()) {
+        inputs->trace.open(options.traceFile);
     }
-    return {};
 }
 
 /// Calls `then` when `window` has been on the screen for a moment.
@@ -104,52 +103,50 @@ void whenPainted(QWidget* window, const std::function<void()>& then)
     });
 }
 
-/// Has the canvas open or export a file; what went wrong, empty when nothing did. The canvas is a
-/// module, known by its name and methods alone.
-QString askCanvas(QWidget* window, const char* method, const QString& file)
+/// Has the canvas open or export a file. The canvas is a module, known by its name and methods
+/// alone.
+void askCanvas(QWidget* window, const char* method, const QString& file)
 {
+    if (file.isEmpty()) {
+        return;
+    }
     auto* const canvas = window->findChild<QWidget*>(QStringLiteral("m_pViewer"));
     QString error;
-    const bool isKnown =
-        canvas && QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(QString, error),
-                                            Q_ARG(QString, file));
-    return isKnown ? error : QStringLiteral("%1: the canvas knows no %2").arg(file, method);
+    if (!canvas || !QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(QString, error),
+                                              Q_ARG(QString, file))) {
+        throw FileError{file, 0, QStringLiteral("the canvas knows no %1").arg(method)};
+    }
+    if (!error.isEmpty()) {
+        refuse(error);
+    }
+}
+
+/// What is left to write when everything was played.
+void writeOutputs(const Options& options, QWidget* window)
+{
+    askCanvas(window, "exportBoard", options.exportFile);
+    if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
+        throw FileError{options.screenshotFile, 0, QStringLiteral("the picture cannot be written")};
+    }
 }
 
 void end(const Options& options, QWidget* window)
 {
-    int status = Good;
-    if (!options.exportFile.isEmpty()) {
-        const QString error = askCanvas(window, "exportBoard", options.exportFile);
-        if (!error.isEmpty()) {
-            complain(error);
-            status = BadInput;
+    try {
+        writeOutputs(options, window);
+        if (options.exit) {
+            QCoreApplication::exit(Good);
         }
-    }
-    if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
-        complain(
-            ours(QStringLiteral("%1: the picture cannot be written").arg(options.screenshotFile)));
-        status = BadInput;
-    }
-    if (options.exit || status != Good) {
-        QCoreApplication::exit(status);
+    } catch (const FileError& error) {
+        complain(error.text());
+        QCoreApplication::exit(BadInput);
     }
 }
 
-}  // namespace
-
-int main(int argc, char* argv[])
+int run(int argc, char* argv[])
 {
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     Inputs inputs;
-    QString error = readInputs(argc, argv, &inputs);
-    if (!error.isEmpty()) {
-        complain(error);
-        return BadInput;
-    }
+    readInputs(argc, argv, &inputs);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("workbench"));
     dress(inputs.options);
@@ -157,22 +154,14 @@ int main(int argc, char* argv[])
     QObject::connect(&log, &MessageLog::appended, &application,
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
+    QString error;
     if (!window.start(&error)) {
-        complain(ours(error));
-        return BadInput;
+        refuse(error);
     }
-    if (!inputs.options.boardFile.isEmpty()) {
-        error = askCanvas(&window, "openBoard", inputs.options.boardFile);
-        if (!error.isEmpty()) {
-            complain(error);
-            return BadInput;
-        }
-    }
+    askCanvas(&window, "openBoard", inputs.options.boardFile);
     SessionRecorder recorder(&window);
-    const QString record = inputs.options.recordFile;
-    if (!record.isEmpty() && !recorder.start(record, &error)) {
-        complain(ours(QStringLiteral("%1: %2").arg(record, error)));
-        return BadInput;
+    if (!inputs.options.recordFile.isEmpty()) {
+        recorder.start(inputs.options.recordFile);
     }
     SessionPlayer player(inputs.session, window.host(), &window, &log);
     QObject::connect(&player, &SessionPlayer::noted, &application, complain);
@@ -185,4 +174,20 @@ int main(int argc, char* argv[])
     window.show();
     whenPainted(&window, [&] { player.start(); });
     return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    try {
+        return run(argc, argv);
+    } catch (const FileError& error) {
+        complain(error.text());
+        return BadInput;
+    }
 }

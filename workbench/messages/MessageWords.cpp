@@ -3,11 +3,14 @@
 #include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
 
+#include <FileError.h>
+
 #include <QHash>
 
 namespace MessageWords {
 namespace {
 
+using CanvasHost::FileError;
 using MessageNames::Extra;
 
 /// "a=1,b=2"
@@ -38,6 +41,16 @@ QString needed(Extra kind)
 }
 
 }  // namespace
+
+int readCode(const QString& word)
+{
+    bool ok = false;
+    const int code = word.toInt(&ok);
+    if (!ok) {
+        throw FileError{{}, 0, QStringLiteral("\"%1\" is no message code").arg(word)};
+    }
+    return code;
+}
 
 bool take(const QString& text, Word* word)
 {
@@ -124,35 +137,30 @@ Extra wantedExtra(int code)
     return row ? row->extra : Extra::Number;
 }
 
-bool read(const QStringList& words, HostMessage* message, QString* reason)
+HostMessage read(const QStringList& words)
 {
-    bool ok = false;
-    message->code = words.value(0).toInt(&ok);
-    if (!ok) {
-        *reason = QStringLiteral("\"%1\" is no message code").arg(words.value(0));
-        return false;
-    }
+    HostMessage message;
+    message.code = readCode(words.value(0));
     Extra given = Extra::Number;
     for (const QString& text : words.mid(1)) {
         Word word;
-        ok = take(text, &word);
+        bool ok = take(text, &word);
         if (ok && word.key == QLatin1String("extra")) {
-            ok = extraKind(word.type, &given) && extraValue(given, word.value, &message->extra);
+            ok = extraKind(word.type, &given) && extraValue(given, word.value, &message.extra);
         } else if (ok) {
-            message->payload.insert(word.key, payloadValue(word.type, word.value, &ok));
+            message.payload.insert(word.key, payloadValue(word.type, word.value, &ok));
         }
         if (!ok) {
-            *reason = QStringLiteral("\"%1\" is no entry of a message").arg(text);
-            return false;
+            throw FileError{{}, 0, QStringLiteral("\"%1\" is no entry of a message").arg(text)};
         }
     }
     // A wrong address would end the program, not the step.
-    const Extra wanted = wantedExtra(message->code);
+    const Extra wanted = wantedExtra(message.code);
     if (given != wanted) {
-        *reason = QStringLiteral("message %1 takes %2").arg(message->code).arg(needed(wanted));
-        return false;
+        throw FileError{
+            {}, 0, QStringLiteral("message %1 takes %2").arg(message.code).arg(needed(wanted))};
     }
-    return true;
+    return message;
 }
 
 }  // namespace MessageWords

@@ -8,6 +8,9 @@
 /// The words of which messages are made: "CODE [key[:type]=value ...] [extra[:kind]=value]".
 namespace MessageWords {
 
+/// Throws a CanvasHost::FileError without a place for a word that is no number.
+int readCode(const QString& word);
+
 /// A word "key:type=value" taken apart; the type may be absent.
 struct Word {
     QString key;
@@ -27,7 +30,8 @@ bool extraValue(MessageNames::Extra kind, const QString& text, HostMessage::Extr
 /// What the extra word of a message to the tool strip has to be.
 MessageNames::Extra wantedExtra(int code);
 
-/// False, with a reason, for words that are no message that the tool strip could take.
-bool read(const QStringList& words, HostMessage* message, QString* reason);
+/// Throws a CanvasHost::FileError without a place for words that are no message that the tool strip
+/// could take.
+HostMessage read(const QStringList& words);
 
 }  // namespace MessageWords

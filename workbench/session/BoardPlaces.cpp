@@ -36,19 +36,15 @@ QString number(double value)
 
 const QString canvasName = QStringLiteral("m_pBoardView");
 
-bool toWidget(const QWidget* canvas, const QPointF& place, QPoint* position, QString* reason)
+std::optional<QPoint> toWidget(const QWidget* canvas, const QPointF& place)
 {
-    if (!offers(canvas, "viewPoint(double,double)") ||
-        !QMetaObject::invokeMethod(const_cast<QWidget*>(canvas), "viewPoint", Qt::DirectConnection,
-                                   Q_RETURN_ARG(QPoint, *position), Q_ARG(double, place.x()),
-                                   Q_ARG(double, place.y()))) {
-        *reason = QStringLiteral(
-                      "\"%1\" does not know places on the board: it has no method "
-                      "viewPoint(double,double)")
-                      .arg(canvas->objectName());
-        return false;
-    }
-    return true;
+    QPoint position;
+    const bool known =
+        offers(canvas, "viewPoint(double,double)") &&
+        QMetaObject::invokeMethod(const_cast<QWidget*>(canvas), "viewPoint", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QPoint, position), Q_ARG(double, place.x()),
+                                  Q_ARG(double, place.y()));
+    return known ? std::optional<QPoint>(position) : std::nullopt;
 }
 
 bool toBoard(const QWidget* canvas, const QPoint& position, QPointF* place)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ErrorOf.h"
 #include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "session/SessionParser.h"
@@ -19,8 +20,8 @@ inline Played playSession(const QString& text, QWidget* window)
 {
     Played played;
     Session session;
-    session.file = "demo";
-    if (!SessionParser::read(text, &session, &played.error)) {
+    played.error = errorOf([&] { session = SessionParser::read(text.toUtf8(), "demo"); });
+    if (!played.error.isEmpty()) {
         return played;
     }
     HostState host(window);
