@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// The board file: JSON, described in docs/board-file.md.
+/// The board file: JSON, described in workbench/docs/files.md.
 namespace Pcb {
 
 QByteArray toJson(const Board& board);
