@@ -2,6 +2,7 @@
 
 #include "board/Paths.h"
 
+#include <LengthUnits.h>
 #include <SymbolNameStandIn.h>
 
 #include <QTransform>
@@ -14,7 +15,8 @@ namespace {
 
 using Shape = QPainterPath (*)(const Symbol&);
 
-constexpr double micrometresOfMil = 25.4;
+using CanvasHost::micrometresOfMil;
+
 constexpr double placeholderSize = 60 * micrometresOfMil;
 
 QPainterPath closed(const QPolygonF& polygon)

@@ -1,10 +1,10 @@
 #include "jobtree/JobTreePane.h"
 
-#include "HostName.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 
 #include <CamApiStandIn.h>
+#include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
 #include <QEvent>
@@ -57,7 +57,7 @@ void JobTreePane::open(const QTreeWidgetItem* item)
     if (!item->parent()) {
         return;
     }
-    PluginMetaData message(ModuleNames::jobTree, hostName);
+    PluginMetaData message(ModuleNames::jobTree, CanvasHost::hostName);
     message.code = MessageCodes::Accepted::JobOpened;
     message.payload = {{QStringLiteral("JobName"), item->parent()->text(0)},
                        {QStringLiteral("StepName"), item->text(0)}};

@@ -1,10 +1,10 @@
 #include "messages/HostState.h"
 
-#include "HostName.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 
 #include <CamApiStandIn.h>
+#include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
 #include <QWidget>
@@ -31,7 +31,8 @@ void HostState::send(const HostMessage& message)
 
 void HostState::sendTo(const QString& module, const HostMessage& message)
 {
-    PluginMetaData envelope(message.sender.isEmpty() ? hostName : message.sender, module);
+    PluginMetaData envelope(message.sender.isEmpty() ? CanvasHost::hostName : message.sender,
+                            module);
     envelope.code = message.code;
     envelope.payload = message.payload;
     envelope.extra = std::visit(

@@ -1,5 +1,7 @@
 #include "session/BoardPlaces.h"
 
+#include <UiApiStandIn.h>
+
 #include <QMetaObject>
 #include <QWidget>
 
@@ -7,12 +9,6 @@
 
 namespace BoardPlaces {
 namespace {
-
-struct Unit {
-    const char* suffix;
-    double micrometres;
-};
-constexpr Unit units[] = {{"um", 1.0}, {"mm", 1000.0}, {"mil", 25.4}, {"inch", 25400.0}};
 
 bool offers(const QWidget* canvas, const char* signature)
 {
@@ -59,8 +55,8 @@ bool readLength(const QString& text, double* micrometres)
 {
     double factor = 1.0;
     QString digits = text;
-    for (const Unit& unit : units) {
-        const QLatin1String suffix(unit.suffix);
+    for (const CanvasHost::LengthUnit& unit : CanvasHost::lengthUnits()) {
+        const QLatin1String suffix(unit.name);
         if (text.endsWith(suffix)) {
             factor = unit.micrometres;
             digits = text.chopped(suffix.size());

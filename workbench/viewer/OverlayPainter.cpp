@@ -1,7 +1,8 @@
 #include "viewer/OverlayPainter.h"
 
 #include "viewer/CanvasColours.h"
-#include "viewer/Lengths.h"
+
+#include <UiApiStandIn.h>
 
 #include <QPainter>
 
@@ -29,7 +30,7 @@ void leg(QPainter& painter, const QLineF& line, double length)
     }
     painter.setPen(QPen(CanvasColours::mark, 1.5));
     painter.drawLine(line);
-    label(painter, line.center(), Lengths::text(length));
+    label(painter, line.center(), CanvasHost::lengthText(length));
 }
 
 void paintMark(QPainter& painter, const QTransform& toView, const Mark& mark)

@@ -5,18 +5,20 @@
 #include "viewer/tools/SelectionTools.h"
 #include "viewer/tools/ViewTools.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace Accepted = MessageCodes::Accepted;
 namespace Sent = MessageCodes::Sent;
 
 namespace {
 
+using ToolSet::Row;
+
 using Tool = std::unique_ptr<CanvasTool>;
 using Edit = ClickEditTool::Edit;
 using Net = NetSelectionTool::Mode;
-
-struct Row {
-    int code;
-    Tool (*create)(Canvas& canvas, qint64 mode);
-};
 
 template <Edit edit>
 Tool clickEdit(Canvas& canvas, qint64 /*mode*/)
@@ -59,35 +61,64 @@ Tool marking(Canvas& canvas, qint64 mode)
     return std::make_unique<MarkTool>(canvas, mode == 0);
 }
 
+// clang-format off
 constexpr Row rows[] = {
-    {Sent::AreaZoom, plain<AreaZoomTool>},
-    {Sent::FeatureHighLight, plain<HighlightTool>},
-    {Sent::DeleteFeature, deleting},
-    {Sent::MoveFeature, moving<MoveTool::Way::Move>},
-    {Sent::CopyFeature, moving<MoveTool::Way::Copy>},
-    {Sent::ChangeLineAngle, lineEnd<LineEndTool::Way::Angle>},
-    {Sent::StretchLine, lineEnd<LineEndTool::Way::Stretch>},
-    {Sent::RotateFeature, clickEdit<Edit::Rotate>},
-    {Sent::MirrorFeature, clickEdit<Edit::Mirror>},
-    {Sent::InvertFeature, clickEdit<Edit::Invert>},
-    {Sent::BreakLine, clickEdit<Edit::Break>},
-    {Sent::FeatureSelection, plain<FeatureSelectionTool>},
-    {Sent::RectangleSelection, plain<RectangleSelectionTool>},
-    {Sent::PolygonSelection, plain<PolygonSelectionTool>},
-    {Sent::SelectLayerNet, netSelection<Net::Layer>},
-    {Sent::SelectBoardNet, netSelection<Net::Board>},
-    {Sent::SelectPolyline, netSelection<Net::Polyline>},
-    {Sent::Mark, marking},
+    {Sent::AreaZoom, 0, QT_TRANSLATE_NOOP("ToolSet", "Area zoom"), plain<AreaZoomTool>},
+    {Sent::FeatureSelection, Sent::FeatureSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Feature selection"), plain<FeatureSelectionTool>},
+    {Sent::RectangleSelection, Sent::RectangleSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Rectangle selection"), plain<RectangleSelectionTool>},
+    {Sent::PolygonSelection, Sent::PolygonSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Polygon selection"), plain<PolygonSelectionTool>},
+    {Sent::SelectPolyline, 0, QT_TRANSLATE_NOOP("ToolSet", "Select polyline"), netSelection<Net::Polyline>},
+    {Sent::SelectLayerNet, 0, QT_TRANSLATE_NOOP("ToolSet", "Select layer net"), netSelection<Net::Layer>},
+    {Sent::SelectBoardNet, 0, QT_TRANSLATE_NOOP("ToolSet", "Select board net"), netSelection<Net::Board>},
+    {Sent::FeatureHighLight, 0, QT_TRANSLATE_NOOP("ToolSet", "Feature highlight"), plain<HighlightTool>},
+    {Sent::AddFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Add feature"), nullptr},
+    {Sent::DeleteFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Delete feature"), deleting},
+    {Sent::MoveFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Move feature"), moving<MoveTool::Way::Move>},
+    {Sent::CopyFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Copy feature"), moving<MoveTool::Way::Copy>},
+    {Sent::ChangeLineAngle, Sent::ChangeLineAngleOff, QT_TRANSLATE_NOOP("ToolSet", "Change line angle"), lineEnd<LineEndTool::Way::Angle>},
+    {Sent::StretchLine, Sent::StretchLineOff, QT_TRANSLATE_NOOP("ToolSet", "Stretch line"), lineEnd<LineEndTool::Way::Stretch>},
+    {Sent::RotateFeature, Sent::RotateFeatureOff, QT_TRANSLATE_NOOP("ToolSet", "Rotate feature"), clickEdit<Edit::Rotate>},
+    {Sent::MirrorFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Mirror feature"), clickEdit<Edit::Mirror>},
+    {Sent::InvertFeature, Sent::InvertFeatureOff, QT_TRANSLATE_NOOP("ToolSet", "Invert feature"), clickEdit<Edit::Invert>},
+    {Sent::BreakLine, Sent::BreakLineOff, QT_TRANSLATE_NOOP("ToolSet", "Break line"), clickEdit<Edit::Break>},
+    {Sent::Mark, 0, QT_TRANSLATE_NOOP("ToolSet", "Mark"), marking},
+    {Sent::OpenPopView, 0, QT_TRANSLATE_NOOP("ToolSet", "Open a pop view"), nullptr},
+    {Sent::RoutDimension, 0, QT_TRANSLATE_NOOP("ToolSet", "Rout dimension"), nullptr},
+    {Sent::ContourEditor, 0, QT_TRANSLATE_NOOP("ToolSet", "Contour editor"), nullptr},
+    {Sent::PullLine, 0, QT_TRANSLATE_NOOP("ToolSet", "Pull line"), nullptr},
+    {Sent::MoveJunction, 0, QT_TRANSLATE_NOOP("ToolSet", "Move junction"), nullptr},
+    {Sent::MoveTriplet, Sent::MoveTripletOff, QT_TRANSLATE_NOOP("ToolSet", "Move triplet"), nullptr},
+    {Sent::RerouteTrace, Sent::RerouteTraceOff, QT_TRANSLATE_NOOP("ToolSet", "Reroute trace"), nullptr},
+    {Sent::Eq, 0, QT_TRANSLATE_NOOP("ToolSet", "EQ"), nullptr},
 };
+constexpr Row measureRow = {Accepted::Measure, 0, QT_TRANSLATE_NOOP("ToolSet", "Measure"), nullptr};
+// clang-format on
+
+const Row* findBy(int Row::*code, int wanted)
+{
+    const auto found = std::find_if(std::begin(rows), std::end(rows),
+                                    [=](const Row& row) { return row.*code == wanted; });
+    return found == std::end(rows) ? nullptr : found;
+}
 
 }  // namespace
 
-Tool ToolSet::create(int code, qint64 mode, Canvas& canvas)
+const Row* ToolSet::find(int code)
 {
-    for (const Row& row : rows) {
-        if (row.code == code) {
-            return row.create(canvas, mode);
-        }
-    }
-    return nullptr;
+    return findBy(&Row::code, code);
+}
+
+const Row* ToolSet::ended(int code)
+{
+    return code == 0 ? nullptr : findBy(&Row::offCode, code);
+}
+
+const Row& ToolSet::measuring()
+{
+    return measureRow;
+}
+
+QString ToolSet::text(const Row& row)
+{
+    return QCoreApplication::translate("ToolSet", row.text);
 }

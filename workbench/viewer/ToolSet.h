@@ -4,10 +4,25 @@
 
 #include <memory>
 
-/// Which tool of the canvas stands behind a message of the tool strip.
+/// What the messages about tools mean to the canvas.
 namespace ToolSet {
 
-/// Null for a tool that this canvas does not perform. `mode` is the message's extra word.
-std::unique_ptr<CanvasTool> create(int code, qint64 mode, Canvas& canvas);
+struct Row {
+    int code;          ///< the tool is the active one now
+    int offCode;       ///< ... and no longer; 0 when there is no such message
+    const char* text;  ///< to be translated in the context "ToolSet"
+    /// Null for a tool that is none of hands on the board. `mode` is the message's extra word.
+    std::unique_ptr<CanvasTool> (*create)(Canvas& canvas, qint64 mode);
+};
+
+/// Null for a message that is about no tool.
+const Row* find(int code);
+/// Null unless `code` is a row's offCode.
+const Row* ended(int code);
+/// The tool of the host's measure window, which no message announces.
+const Row& measuring();
+
+/// In the user's language.
+QString text(const Row& row);
 
 }  // namespace ToolSet

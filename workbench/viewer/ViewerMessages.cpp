@@ -100,21 +100,17 @@ void ViewerPane::takeAttributes(const PluginMetaData& message)
 
 void ViewerPane::followTool(const PluginMetaData& message)
 {
-    const MessageNames::Row* const row = MessageNames::find(message.receiver, message.code);
-    if (!row) {
-        return;
-    }
-    if (row->tool) {
+    if (const ToolSet::Row* const row = ToolSet::find(message.code)) {
         startTool(row, message.extra);
-    } else if (QByteArray(row->name).endsWith("Off")) {
+    } else if (ToolSet::ended(message.code)) {
         startTool(nullptr, 0);
-    } else if (row->code == Sent::MarkSettings) {
+    } else if (message.code == Sent::MarkSettings) {
         m_canvas.say(tr("This canvas has nothing to set for marks."));
     }
 }
 
 /// What the tool before was waiting for is given up.
-void ViewerPane::startTool(const MessageNames::Row* row, qint64 mode)
+void ViewerPane::startTool(const ToolSet::Row* row, qint64 mode)
 {
     m_tool = row;
     m_mode = mode;
@@ -128,16 +124,16 @@ void ViewerPane::startTool(const MessageNames::Row* row, qint64 mode)
         m_canvas.setTool(nullptr);
         openSecondView();
     } else {
-        m_canvas.setTool(ToolSet::create(row->code, mode, m_canvas));
+        m_canvas.setTool(row->create ? row->create(m_canvas, mode) : nullptr);
         if (!m_canvas.tool()) {
-            m_canvas.say(tr("This canvas does not perform \"%1\".").arg(MessageNames::text(*row)));
+            m_canvas.say(tr("This canvas does not perform \"%1\".").arg(ToolSet::text(*row)));
         }
     }
 }
 
 PlaceTool* ViewerPane::startPlacing()
 {
-    m_tool = MessageNames::find(ModuleNames::viewer, Sent::AddFeature);
+    m_tool = ToolSet::find(Sent::AddFeature);
     m_mode = 0;
     auto tool = std::make_unique<PlaceTool>(m_canvas);
     const Pcb::Board& board = m_canvas.document().board();
@@ -156,7 +152,7 @@ PlaceTool* ViewerPane::startPlacing()
 void ViewerPane::startMeasuring()
 {
     // No message says that the measure tool is active.
-    m_tool = MessageNames::find(ModuleNames::toolStrip, Accepted::Measure);
+    m_tool = &ToolSet::measuring();
     m_mode = 0;
     m_place = nullptr;
     m_canvas.say({});

@@ -5,9 +5,9 @@
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
 #include "viewer/Inspector.h"
-#include "viewer/Lengths.h"
 
 #include <CommonWidgetsStandIn.h>
+#include <UiApiStandIn.h>
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -96,8 +96,9 @@ void ViewerPane::connectCanvas()
     connect(&m_canvas, &CanvasController::said, m_pCanvasStatusLB, &QLabel::setText);
     connect(&m_canvas, &CanvasController::hintChanged, this,
             [this] { m_pPickHintLB->setText(m_canvas.hint()); });
-    connect(&m_canvas, &CanvasController::moved, this,
-            [this](const QPointF& point) { m_pPositionLB->setText(Lengths::text(point)); });
+    connect(&m_canvas, &CanvasController::moved, this, [this](const QPointF& point) {
+        m_pPositionLB->setText(CanvasHost::lengthText(point));
+    });
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, &m_canvas,
@@ -166,7 +167,7 @@ void ViewerPane::showTool()
 {
     QString tool = tr("none");
     if (m_tool) {
-        tool = MessageNames::text(*m_tool);
+        tool = ToolSet::text(*m_tool);
         if (m_mode != 0) {
             tool = tr("%1, mode %2").arg(tool).arg(m_mode);
         }

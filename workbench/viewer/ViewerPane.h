@@ -1,8 +1,8 @@
 #pragma once
 
 #include "board/Feature.h"
-#include "messages/MessageNames.h"
 #include "viewer/CanvasController.h"
+#include "viewer/ToolSet.h"
 
 #include <PluginMetaData.h>
 
@@ -44,7 +44,7 @@ private:
     void takeDirection(const PluginMetaData& message);
     void takeAttributes(const PluginMetaData& message);
     void followTool(const PluginMetaData& message);
-    void startTool(const MessageNames::Row* row, qint64 mode);
+    void startTool(const ToolSet::Row* row, qint64 mode);
     PlaceTool* startPlacing();
     void openSecondView();
     void startMeasuring();
@@ -69,7 +69,7 @@ private:
     QLabel* m_pCanvasStatusLB;
     QLabel* m_pHoveredLB;
     QPointer<QWidget> m_secondView;
-    const MessageNames::Row* m_tool = nullptr;  ///< the message that announced it; null: none
+    const ToolSet::Row* m_tool = nullptr;  ///< the message that announced it; null: none
     qint64 m_mode = 0;
     PlaceTool* m_place = nullptr;  ///< the tool at work, when it is this one
     QMap<QString, QVariant> m_record;

@@ -11,8 +11,6 @@
 
 namespace {
 
-using CanvasHost::DisplayUnit;
-
 const QCommandLineOption modulesOption(QStringLiteral("modules"),
                                        QStringLiteral("Load the modules from <dir>."),
                                        QStringLiteral("dir"));
@@ -126,17 +124,6 @@ int fontSize(const QCommandLineParser& parser)
 
 }  // namespace
 
-const std::vector<UnitChoice>& unitChoices()
-{
-    static const std::vector<UnitChoice> choices{
-        {"mil", DisplayUnit::Mil, QT_TRANSLATE_NOOP("WorkbenchWindow", "mil")},
-        {"inch", DisplayUnit::Inch, QT_TRANSLATE_NOOP("WorkbenchWindow", "inch")},
-        {"um", DisplayUnit::Micrometre, QT_TRANSLATE_NOOP("WorkbenchWindow", "micrometre")},
-        {"mm", DisplayUnit::Millimetre, QT_TRANSLATE_NOOP("WorkbenchWindow", "millimetre")},
-    };
-    return choices;
-}
-
 const std::vector<LanguageChoice>& languageChoices()
 {
     static const std::vector<LanguageChoice> choices{{"en", "English"}, {"zh_CN", "简体中文"}};
@@ -195,7 +182,8 @@ Options Options::parse(const QStringList& arguments)
     options.fontSize = ::fontSize(parser);
     options.language = QLatin1String(
         choose(parser, languageOption, languageChoices(), &LanguageChoice::code).code);
-    options.unit = choose(parser, unitOption, unitChoices(), &UnitChoice::name).unit;
+    options.unit =
+        choose(parser, unitOption, CanvasHost::lengthUnits(), &CanvasHost::LengthUnit::name).unit;
     return options;
 }
 

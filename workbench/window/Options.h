@@ -6,14 +6,6 @@
 
 #include <vector>
 
-/// A display unit by the name that the command line knows.
-struct UnitChoice {
-    const char* name;
-    CanvasHost::DisplayUnit unit;
-    const char* text;  ///< to be translated in the context "WorkbenchWindow"
-};
-const std::vector<UnitChoice>& unitChoices();
-
 /// A language by its code; its own name for itself is never translated.
 struct LanguageChoice {
     const char* code;

@@ -79,7 +79,7 @@ private Q_SLOTS:
         fixture.move(10000, 7000);
         const QString words = fixture.text("m_pPositionLB");
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
-        QVERIFY2(QRegularExpression("^(9\\.9|10\\.0)\\d\\d, (6\\.9|7\\.0)\\d\\d mm$")
+        QVERIFY2(QRegularExpression("^(9\\.9|10\\.0)\\d{3}, (6\\.9|7\\.0)\\d{3} mm$")
                      .match(words)
                      .hasMatch(),
                  qPrintable(words));

@@ -1,6 +1,6 @@
 #include "viewer/tools/ViewTools.h"
 
-#include "viewer/Lengths.h"
+#include <UiApiStandIn.h>
 
 #include <algorithm>
 #include <iterator>
@@ -51,9 +51,9 @@ void MarkTool::press(const QPointF& point, bool /*extends*/)
     cancel();
     document().apply(tr("Mark"), after);
     canvas().say(m_orthogonal ? tr("Along x %1, along y %2.")
-                                    .arg(Lengths::text(qAbs(mark.line.dx())),
-                                         Lengths::text(qAbs(mark.line.dy())))
-                              : tr("Distance %1.").arg(Lengths::text(mark.line.length())));
+                                    .arg(CanvasHost::lengthText(qAbs(mark.line.dx())),
+                                         CanvasHost::lengthText(qAbs(mark.line.dy())))
+                              : tr("Distance %1.").arg(CanvasHost::lengthText(mark.line.length())));
 }
 
 void MarkTool::finish()
