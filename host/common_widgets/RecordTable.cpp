@@ -1,6 +1,6 @@
 #include "RecordTable.h"
 
-#include "Values.h"
+#include <Values.h>
 
 #include <QHeaderView>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <HostExport.h>
+
 #include <QMap>
 #include <QStringList>
 #include <QTableWidget>
@@ -7,7 +9,7 @@
 #include <QVector>
 
 /// Shows named values as a table of key, value and type. What changed is marked.
-class RecordTable : public QTableWidget {
+class CANVAS_HOST_EXPORT RecordTable : public QTableWidget {
     Q_OBJECT
 
 public:
