@@ -5,6 +5,7 @@
 #include "messages/MessageNames.h"
 #include "messages/MessageRecord.h"
 #include "plugin/ModuleNames.h"
+#include "session/BoardPlaces.h"
 #include "session/SessionParser.h"
 #include "window/Options.h"
 
@@ -103,6 +104,23 @@ private Q_SLOTS:
                                          "--exit", "--unit", "--language"}) {
             QVERIFY2(help.contains(option), option);
         }
+    }
+
+    void aLengthReadsTheSameEverywhere()
+    {
+        for (const CanvasHost::LengthUnit& unit : CanvasHost::lengthUnits()) {
+            const QString name = unit.name;
+            QCOMPARE(parsed({"--unit", name}).unit, unit.unit);
+            double micrometres = 0;
+            QVERIFY2(BoardPlaces::readLength("2.5" + name, &micrometres), unit.name);
+            QCOMPARE(micrometres, 2.5 * unit.micrometres);
+            CanvasHost::setDisplayUnit(unit.unit);
+            const QString read = CanvasHost::lengthText(micrometres);
+            QCOMPARE(read, QString::number(2.5, 'f', unit.decimals) + " " + name);
+            QVERIFY(BoardPlaces::readLength(QString(read).remove(' '), &micrometres));
+            QCOMPARE(micrometres, 2.5 * unit.micrometres);
+        }
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
     }
 
     void optionsOfQtArePassedOver()
