@@ -43,7 +43,7 @@ QPainterPath swept(const QPainterPath& shape, const QPointF& from, const QPointF
 QPainterPath lineArea(const Geometry& line)
 {
     const Symbol symbol = parseSymbol(line.symbol);
-    if (symbol.family == SymbolFamily::Round) {
+    if (symbol.shape == SymbolShape::Round) {
         return roundStroke(middleOf(line), symbol.width);
     }
     return swept(symbolShape(symbol), line.points.at(0), line.points.at(1));

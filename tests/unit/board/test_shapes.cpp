@@ -82,7 +82,7 @@ private slots:
     {
         for (const char* name :
              {"logo", "", "r0", "rect20", "r-5", "ring_r30x60", "R10", "r10x20"}) {
-            QCOMPARE(parseSymbol(QString::fromLatin1(name)).family, SymbolFamily::Special);
+            QCOMPARE(parseSymbol(QString::fromLatin1(name)).shape, SymbolShape::Special);
             QCOMPARE(symbolShape(QString::fromLatin1(name)).boundingRect().width(), 60 * mil);
         }
         QCOMPARE(parseSymbol(QStringLiteral("r99999999999")).width, largestSymbolSize * mil);
