@@ -32,7 +32,8 @@ namespace Pcb {
 ///   circle 4             three points of the circle
 ///
 /// Arcs run clockwise or not as the brush says; arc 2 runs through its third point. A click that
-/// would give nothing (a line without length, three points on a line) is not taken.
+/// would give nothing (a line without length, three points on a line, a code that can carry nothing
+/// of its text) is not taken.
 class Placement {
 public:
     /// Another brush keeps the clicks made so far if the same clicks are meant by it, else drops
@@ -45,6 +46,8 @@ public:
 
     /// What "$$NAME" stands for in texts.
     void setSpecialTexts(const QMap<QString, QString>& values) { m_specialTexts = values; }
+    /// The characters of the text to be placed that its code cannot carry.
+    QString leftOut() const;
 
     /// A click; gives the features that it completed, bottom first.
     Features press(const QPointF& point);

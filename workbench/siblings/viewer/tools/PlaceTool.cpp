@@ -56,6 +56,10 @@ QString PlaceTool::hint() const
     if (goesOn && m_placement.isActive()) {
         return tr("Click the next point; a right click ends it.");
     }
+    const QString leftOut = m_placement.leftOut();
+    if (!leftOut.isEmpty()) {
+        return tr("Click where the feature begins; its code cannot carry \"%1\".").arg(leftOut);
+    }
     return m_placement.isActive() ? tr("Click the next point; a right click gives it up.")
                                   : tr("Click where the feature begins.");
 }
