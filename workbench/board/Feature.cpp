@@ -77,7 +77,7 @@ QPainterPath arcArea(const Geometry& geometry)
     const bool isCircle = std::abs(arc.sweep) >= 360;
     if (arc.radius <= pen) {
         return isCircle ? circlePath(arc.centre, arc.radius + pen)
-                        : roundStroke(middleOf(geometry), 2 * pen);
+                        : byWinding(roundStroke(middleOf(geometry), 2 * pen));
     }
     if (!isCircle) {
         return arcStrip(arc, pen);

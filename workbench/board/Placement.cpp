@@ -320,14 +320,4 @@ Features Placement::preview() const
     return features;
 }
 
-QPainterPath Placement::previewPath() const
-{
-    QPainterPath path;
-    path.setFillRule(Qt::WindingFill);
-    for (const Feature& feature : preview()) {
-        path.addPath(byWinding(feature.area()));
-    }
-    return path;
-}
-
 }  // namespace Pcb

@@ -4,7 +4,6 @@
 #include "board/Feature.h"
 
 #include <QMap>
-#include <QPainterPath>
 #include <QPointF>
 #include <QVector>
 
@@ -67,7 +66,6 @@ public:
     /// What a click under the cursor would add, and what it would add to. Where that is not yet a
     /// whole feature, the line from the last point to the cursor.
     Features preview() const;
-    QPainterPath previewPath() const;
 
 private:
     QVector<QPointF> with(const QPointF& point) const;

@@ -106,7 +106,7 @@ private:
                 break;
             case 3:
                 placement.move(point);
-                placement.previewPath();
+                placement.preview();
                 break;
             default:
                 made = placement.press(point);

@@ -38,12 +38,7 @@ void PlaceTool::add(const Pcb::Features& features)
 
 Overlay PlaceTool::overlay() const
 {
-    Overlay overlay;
-    overlay.preview = m_placement.preview();
-    if (overlay.preview.empty()) {
-        overlay.rubber = m_placement.previewPath();
-    }
-    return overlay;
+    return {m_placement.preview(), {}, {}};
 }
 
 QString PlaceTool::hint() const
