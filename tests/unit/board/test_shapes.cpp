@@ -190,6 +190,23 @@ private slots:
         QVERIFY(isAbout(areaOfArc(small), M_PI * 227 * 227, 3e-3));
     }
 
+    /// The pen of a small arc reaches beyond its centre.
+    void smallArcsCoverWhatTheirPenCovers()
+    {
+        for (const double radius : {1.0, 60.0, 126.9, 127.0, 127.1}) {
+            for (int degrees = 15; degrees < 360; degrees += 15) {
+                for (const bool clockwise : {false, true}) {
+                    const QPointF end = polar({}, radius, degrees);
+                    const Feature arc(
+                        arcGeometry(QStringLiteral("r10"), {radius, 0}, end, {0, 0}, clockwise));
+                    const double stroked = coveredArea(roundStroke(middleOf(arc.geometry()), 254));
+                    QVERIFY2(isAbout(coveredArea(arc.area()), stroked, 5e-3),
+                             qPrintable(QStringLiteral("%1 %2").arg(radius).arg(degrees)));
+                }
+            }
+        }
+    }
+
     void padsAreMirroredThenTurned()
     {
         Geometry pad = padGeometry(QStringLiteral("triangle60x40"), {10000, 5000});
