@@ -4,6 +4,7 @@
 #include "Main.h"
 #include "messages/MessageLog.h"
 #include "viewer/BoardView.h"
+#include "viewer/ToolSet.h"
 #include "viewer/ViewerPane.h"
 
 #include <common_widgets.h>
@@ -41,6 +42,18 @@ class TestViewer : public QObject {
     }
 
 private Q_SLOTS:
+    void everyToolMessageHasItsMeaning()
+    {
+        using ToolSet::Meaning;
+        for (const MessageNames::Row& row : MessageNames::sent()) {
+            const bool ends = QByteArray(row.name).endsWith("Off");
+            const Meaning expected = row.tool ? Meaning::Begins
+                                     : ends   ? Meaning::Ends
+                                              : Meaning::Nothing;
+            QVERIFY2(ToolSet::meaningOf(row.code) == expected, row.name);
+        }
+    }
+
     void initTestCase()
     {
         CanvasHost::addInstance("Canvas_Tool_Strip.dll", this, [](void*, PluginMetaData) {});

@@ -45,6 +45,9 @@ void ViewerPane::receive(const PluginMetaData& message)
         case Sent::DialogsClosed:
             startTool(m_tool, m_mode);  // what was begun, or asked for, is given up
             break;
+        case Sent::MarkSettings:
+            m_canvas.say(tr("This canvas has nothing to set for marks."));
+            break;
         case Accepted::JobOpened:
             openStep(message);
             break;
@@ -100,16 +103,15 @@ void ViewerPane::takeAttributes(const PluginMetaData& message)
 
 void ViewerPane::followTool(const PluginMetaData& message)
 {
-    const MessageNames::Row* const row = MessageNames::find(message.receiver, message.code);
-    if (!row) {
-        return;
-    }
-    if (row->tool) {
-        startTool(row, message.extra);
-    } else if (QByteArray(row->name).endsWith("Off")) {
-        startTool(nullptr, 0);
-    } else if (row->code == Sent::MarkSettings) {
-        m_canvas.say(tr("This canvas has nothing to set for marks."));
+    switch (ToolSet::meaningOf(message.code)) {
+        case ToolSet::Meaning::Begins:
+            startTool(MessageNames::find(ModuleNames::viewer, message.code), message.extra);
+            break;
+        case ToolSet::Meaning::Ends:
+            startTool(nullptr, 0);
+            break;
+        case ToolSet::Meaning::Nothing:
+            break;
     }
 }
 
