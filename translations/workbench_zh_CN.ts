@@ -924,6 +924,10 @@
         <source>Click where the feature begins.</source>
         <translation>单击图元的起点。</translation>
     </message>
+    <message>
+        <source>Click where the feature begins; its code cannot carry &quot;%1&quot;.</source>
+        <translation>单击图元的起点；其条码无法包含“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>RecordTable</name>

@@ -4,6 +4,8 @@
 #include "board/GerberExport.h"
 #include "board/PictureExport.h"
 
+#include <FileError.h>
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -11,7 +13,7 @@ namespace {
 
 constexpr int pictureSize = 2000;  // pixels
 
-using Write = bool (*)(const Pcb::Board& board, const QString& file, QString* error);
+using Write = void (*)(const Pcb::Board& board, const QString& file);
 
 struct Kind {
     const char* suffix;
@@ -21,32 +23,39 @@ struct Kind {
 const Kind kinds[] = {
     {"json", Pcb::writeBoardFile},
     {"gbr", Pcb::writeGerber},
-    {"png", [](const Pcb::Board& board, const QString& file,
-               QString* error) { return Pcb::writePng(board, file, pictureSize, error); }},
+    {"png",
+     [](const Pcb::Board& board, const QString& file) { Pcb::writePng(board, file, pictureSize); }},
     {"svg", Pcb::writeSvg},
 };
+
+/// What went wrong in `work`; empty when nothing did.
+template <class Work>
+QString errorOf(Work work)
+{
+    try {
+        work();
+    } catch (const CanvasHost::FileError& error) {
+        return error.text();
+    }
+    return {};
+}
 
 }  // namespace
 
 QString BoardFiles::open(Document& document, const QString& file)
 {
-    QString error;
-    std::optional<Pcb::Board> board = Pcb::readBoardFile(file, &error);
-    if (!board) {
-        return error;
-    }
-    // The step stays what it is, whatever the file was saved from.
-    board->job = document.board().job;
-    board->step = document.board().step;
-    document.replace(*board);
-    return {};
+    return errorOf([&] {
+        Pcb::Board board = Pcb::readBoardFile(file);
+        // The step stays what it is, whatever the file was saved from.
+        board.job = document.board().job;
+        board.step = document.board().step;
+        document.replace(board);
+    });
 }
 
 QString BoardFiles::save(const Document& document, const QString& file)
 {
-    QString error;
-    Pcb::writeBoardFile(document.board(), file, &error);
-    return error;
+    return errorOf([&] { Pcb::writeBoardFile(document.board(), file); });
 }
 
 QString BoardFiles::exportTo(const Document& document, const QString& file)
@@ -54,9 +63,7 @@ QString BoardFiles::exportTo(const Document& document, const QString& file)
     const QString suffix = QFileInfo(file).suffix().toLower();
     for (const Kind& kind : kinds) {
         if (suffix == QLatin1String(kind.suffix)) {
-            QString error;
-            kind.write(document.board(), file, &error);
-            return error;
+            return errorOf([&] { kind.write(document.board(), file); });
         }
     }
     return QCoreApplication::translate("BoardFiles",

@@ -17,31 +17,29 @@ namespace {
 using ToolSet::Row;
 
 using Tool = std::unique_ptr<CanvasTool>;
-using Edit = ClickEditTool::Edit;
-using Net = NetSelectionTool::Mode;
 
-template <Edit edit>
+template <const ClickEdit& edit>
 Tool clickEdit(Canvas& canvas, qint64 /*mode*/)
 {
     return std::make_unique<ClickEditTool>(canvas, edit);
 }
 
-template <Net net>
-Tool netSelection(Canvas& canvas, qint64 /*mode*/)
-{
-    return std::make_unique<NetSelectionTool>(canvas, net);
-}
-
-template <MoveTool::Way way>
+template <const MoveEdit& edit>
 Tool moving(Canvas& canvas, qint64 /*mode*/)
 {
-    return std::make_unique<MoveTool>(canvas, way);
+    return std::make_unique<MoveTool>(canvas, edit);
 }
 
-template <LineEndTool::Way way>
+template <const LineEndEdit& edit>
 Tool lineEnd(Canvas& canvas, qint64 /*mode*/)
 {
-    return std::make_unique<LineEndTool>(canvas, way);
+    return std::make_unique<LineEndTool>(canvas, edit);
+}
+
+template <const Group& group>
+Tool selecting(Canvas& canvas, qint64 /*mode*/)
+{
+    return std::make_unique<GroupSelectionTool>(canvas, group);
 }
 
 template <class Plain>
@@ -53,7 +51,7 @@ Tool plain(Canvas& canvas, qint64 /*mode*/)
 Tool deleting(Canvas& canvas, qint64 mode)
 {
     return std::make_unique<ClickEditTool>(canvas,
-                                           mode == 0 ? Edit::Delete : Edit::DeleteToIntersection);
+                                           mode == 0 ? Edits::remove : Edits::removeToIntersection);
 }
 
 Tool marking(Canvas& canvas, qint64 mode)
@@ -67,20 +65,20 @@ constexpr Row rows[] = {
     {Sent::FeatureSelection, Sent::FeatureSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Feature selection"), plain<FeatureSelectionTool>},
     {Sent::RectangleSelection, Sent::RectangleSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Rectangle selection"), plain<RectangleSelectionTool>},
     {Sent::PolygonSelection, Sent::PolygonSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Polygon selection"), plain<PolygonSelectionTool>},
-    {Sent::SelectPolyline, 0, QT_TRANSLATE_NOOP("ToolSet", "Select polyline"), netSelection<Net::Polyline>},
-    {Sent::SelectLayerNet, 0, QT_TRANSLATE_NOOP("ToolSet", "Select layer net"), netSelection<Net::Layer>},
-    {Sent::SelectBoardNet, 0, QT_TRANSLATE_NOOP("ToolSet", "Select board net"), netSelection<Net::Board>},
+    {Sent::SelectPolyline, 0, QT_TRANSLATE_NOOP("ToolSet", "Select polyline"), selecting<Groups::polyline>},
+    {Sent::SelectLayerNet, 0, QT_TRANSLATE_NOOP("ToolSet", "Select layer net"), selecting<Groups::layerNet>},
+    {Sent::SelectBoardNet, 0, QT_TRANSLATE_NOOP("ToolSet", "Select board net"), selecting<Groups::boardNet>},
     {Sent::FeatureHighLight, 0, QT_TRANSLATE_NOOP("ToolSet", "Feature highlight"), plain<HighlightTool>},
     {Sent::AddFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Add feature"), nullptr},
     {Sent::DeleteFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Delete feature"), deleting},
-    {Sent::MoveFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Move feature"), moving<MoveTool::Way::Move>},
-    {Sent::CopyFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Copy feature"), moving<MoveTool::Way::Copy>},
-    {Sent::ChangeLineAngle, Sent::ChangeLineAngleOff, QT_TRANSLATE_NOOP("ToolSet", "Change line angle"), lineEnd<LineEndTool::Way::Angle>},
-    {Sent::StretchLine, Sent::StretchLineOff, QT_TRANSLATE_NOOP("ToolSet", "Stretch line"), lineEnd<LineEndTool::Way::Stretch>},
-    {Sent::RotateFeature, Sent::RotateFeatureOff, QT_TRANSLATE_NOOP("ToolSet", "Rotate feature"), clickEdit<Edit::Rotate>},
-    {Sent::MirrorFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Mirror feature"), clickEdit<Edit::Mirror>},
-    {Sent::InvertFeature, Sent::InvertFeatureOff, QT_TRANSLATE_NOOP("ToolSet", "Invert feature"), clickEdit<Edit::Invert>},
-    {Sent::BreakLine, Sent::BreakLineOff, QT_TRANSLATE_NOOP("ToolSet", "Break line"), clickEdit<Edit::Break>},
+    {Sent::MoveFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Move feature"), moving<Edits::move>},
+    {Sent::CopyFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Copy feature"), moving<Edits::copy>},
+    {Sent::ChangeLineAngle, Sent::ChangeLineAngleOff, QT_TRANSLATE_NOOP("ToolSet", "Change line angle"), lineEnd<Edits::changeAngle>},
+    {Sent::StretchLine, Sent::StretchLineOff, QT_TRANSLATE_NOOP("ToolSet", "Stretch line"), lineEnd<Edits::stretch>},
+    {Sent::RotateFeature, Sent::RotateFeatureOff, QT_TRANSLATE_NOOP("ToolSet", "Rotate feature"), clickEdit<Edits::rotate>},
+    {Sent::MirrorFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Mirror feature"), clickEdit<Edits::mirror>},
+    {Sent::InvertFeature, Sent::InvertFeatureOff, QT_TRANSLATE_NOOP("ToolSet", "Invert feature"), clickEdit<Edits::invert>},
+    {Sent::BreakLine, Sent::BreakLineOff, QT_TRANSLATE_NOOP("ToolSet", "Break line"), clickEdit<Edits::breakLine>},
     {Sent::Mark, 0, QT_TRANSLATE_NOOP("ToolSet", "Mark"), marking},
     {Sent::OpenPopView, 0, QT_TRANSLATE_NOOP("ToolSet", "Open a pop view"), nullptr},
     {Sent::RoutDimension, 0, QT_TRANSLATE_NOOP("ToolSet", "Rout dimension"), nullptr},

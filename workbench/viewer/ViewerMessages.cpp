@@ -45,6 +45,9 @@ void ViewerPane::receive(const PluginMetaData& message)
         case Sent::DialogsClosed:
             startTool(m_tool, m_mode);  // what was begun, or asked for, is given up
             break;
+        case Sent::MarkSettings:
+            m_canvas.say(tr("This canvas has nothing to set for marks."));
+            break;
         case Accepted::JobOpened:
             openStep(message);
             break;
@@ -104,8 +107,6 @@ void ViewerPane::followTool(const PluginMetaData& message)
         startTool(row, message.extra);
     } else if (ToolSet::ended(message.code)) {
         startTool(nullptr, 0);
-    } else if (message.code == Sent::MarkSettings) {
-        m_canvas.say(tr("This canvas has nothing to set for marks."));
     }
 }
 

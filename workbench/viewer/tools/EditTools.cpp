@@ -42,7 +42,93 @@ QPointF centreOf(const Pcb::Board& board, const Pcb::Indexes& indexes)
 
 constexpr double quarterTurn = 90;
 
+using Edited = std::optional<Pcb::Board>;
+
+Edited withoutMeant(const Pcb::Board& board, const FeatureClick& click)
+{
+    return Pcb::without(board, click.meant);
+}
+
+Edited withoutToIntersection(const Pcb::Board& board, const FeatureClick& click)
+{
+    const auto left = Pcb::deletedToIntersection(board, click.feature, click.point);
+    return left ? Pcb::withReplaced(board, click.feature, *left) : Edited();
+}
+
+Edited withInverted(const Pcb::Board& board, const FeatureClick& click)
+{
+    return Pcb::withInverted(board, click.meant);
+}
+
+Edited withRotated(const Pcb::Board& board, const FeatureClick& click)
+{
+    return withEach(board, click.meant,
+                    [centre = centreOf(board, click.meant)](const Pcb::Feature& old) {
+                        return Pcb::rotated(old, centre, quarterTurn);
+                    });
+}
+
+Edited withMirrored(const Pcb::Board& board, const FeatureClick& click)
+{
+    return withEach(board, click.meant,
+                    [centre = centreOf(board, click.meant)](const Pcb::Feature& old) {
+                        return Pcb::mirrored(old, centre.x());
+                    });
+}
+
+Edited withBroken(const Pcb::Board& board, const FeatureClick& click)
+{
+    const Pcb::Features parts = Pcb::broken(featureOf(board, click.feature), click.point);
+    return parts.empty() ? Edited() : Pcb::withReplaced(board, click.feature, parts);
+}
+
+/// Whole degrees, as the fixed angle of the dialog has them.
+std::optional<Pcb::Feature> turnedTo(const Pcb::Feature& feature, Pcb::End end, const QPointF& to)
+{
+    const bool isFirst = end == Pcb::End::First;
+    const QVector<QPointF>& points = feature.geometry().points;
+    if (points.size() < 2) {
+        return {};
+    }
+    // The board counts counterclockwise with y upwards, QLineF with y downwards.
+    const QLineF towards(points[isFirst ? 1 : 0], to);
+    const double degrees = qRound(360 - towards.angle()) % 360;
+    return Pcb::withAngle(feature, degrees, isFirst ? Pcb::End::Second : Pcb::End::First);
+}
+
 }  // namespace
+
+const ClickEdit Edits::remove = {QT_TRANSLATE_NOOP("EditTools", "Delete feature"),
+                                 QT_TRANSLATE_NOOP("EditTools", "Click a feature to delete it."),
+                                 withoutMeant};
+const ClickEdit Edits::removeToIntersection = {
+    QT_TRANSLATE_NOOP("EditTools", "Delete to intersection"),
+    QT_TRANSLATE_NOOP("EditTools", "Click the part of a line that is to go."),
+    withoutToIntersection};
+const ClickEdit Edits::invert = {
+    QT_TRANSLATE_NOOP("EditTools", "Invert feature"),
+    QT_TRANSLATE_NOOP("EditTools", "Click a feature to invert its polarity."), withInverted};
+const ClickEdit Edits::rotate = {
+    QT_TRANSLATE_NOOP("EditTools", "Rotate feature"),
+    QT_TRANSLATE_NOOP("EditTools", "Click a feature to turn it by 90 degrees."), withRotated};
+const ClickEdit Edits::mirror = {QT_TRANSLATE_NOOP("EditTools", "Mirror feature"),
+                                 QT_TRANSLATE_NOOP("EditTools", "Click a feature to mirror it."),
+                                 withMirrored};
+const ClickEdit Edits::breakLine = {
+    QT_TRANSLATE_NOOP("EditTools", "Break line"),
+    QT_TRANSLATE_NOOP("EditTools", "Click the place where a line is to break."), withBroken};
+const MoveEdit Edits::move = {QT_TRANSLATE_NOOP("EditTools", "Move feature"),
+                              QT_TRANSLATE_NOOP("EditTools", "Click a feature to move it."),
+                              Pcb::withMoved};
+const MoveEdit Edits::copy = {QT_TRANSLATE_NOOP("EditTools", "Copy feature"),
+                              QT_TRANSLATE_NOOP("EditTools", "Click a feature to copy it."),
+                              Pcb::withCopied};
+const LineEndEdit Edits::changeAngle = {
+    QT_TRANSLATE_NOOP("EditTools", "Change line angle"),
+    QT_TRANSLATE_NOOP("EditTools", "Click the direction that it is to have."), turnedTo};
+const LineEndEdit Edits::stretch = {QT_TRANSLATE_NOOP("EditTools", "Stretch line"),
+                                    QT_TRANSLATE_NOOP("EditTools", "Click the place of the end."),
+                                    Pcb::stretched};
 
 void ClickEditTool::press(const QPointF& point, bool /*extends*/)
 {
@@ -51,80 +137,12 @@ void ClickEditTool::press(const QPointF& point, bool /*extends*/)
         canvas().say(tr("There is no feature."));
         return;
     }
-    if (const std::optional<Pcb::Board> after = edited(feature, point)) {
-        document().applyBoard(name(), *after);
+    const FeatureClick click{feature, meantBy(document(), feature), point};
+    if (const auto after = m_edit.edited(board(), click)) {
+        document().applyBoard(tr(m_edit.name), *after);
     } else {
-        canvas().say(tr("%1 is for lines and arcs.").arg(name()));
+        canvas().say(tr("%1 is for lines and arcs.").arg(tr(m_edit.name)));
     }
-}
-
-std::optional<Pcb::Board> ClickEditTool::edited(int feature, const QPointF& point) const
-{
-    const Pcb::Indexes meant = meantBy(document(), feature);
-    const QPointF centre = centreOf(board(), meant);
-    switch (m_edit) {
-        case Edit::Delete:
-            return Pcb::without(board(), meant);
-        case Edit::Invert:
-            return Pcb::withInverted(board(), meant);
-        case Edit::Rotate:
-            return withEach(board(), meant, [&](const Pcb::Feature& old) {
-                return Pcb::rotated(old, centre, quarterTurn);
-            });
-        case Edit::Mirror:
-            return withEach(board(), meant, [&](const Pcb::Feature& old) {
-                return Pcb::mirrored(old, centre.x());
-            });
-        case Edit::DeleteToIntersection:
-            if (const auto left = Pcb::deletedToIntersection(board(), feature, point)) {
-                return Pcb::withReplaced(board(), feature, *left);
-            }
-            return {};
-        case Edit::Break: {
-            const Pcb::Features parts = Pcb::broken(featureOf(board(), feature), point);
-            return parts.empty() ? std::optional<Pcb::Board>()
-                                 : Pcb::withReplaced(board(), feature, parts);
-        }
-    }
-    return {};
-}
-
-QString ClickEditTool::name() const
-{
-    switch (m_edit) {
-        case Edit::Delete:
-            return tr("Delete feature");
-        case Edit::DeleteToIntersection:
-            return tr("Delete to intersection");
-        case Edit::Invert:
-            return tr("Invert feature");
-        case Edit::Rotate:
-            return tr("Rotate feature");
-        case Edit::Mirror:
-            return tr("Mirror feature");
-        case Edit::Break:
-            return tr("Break line");
-    }
-    return {};
-}
-
-QString ClickEditTool::hint() const
-{
-    switch (m_edit) {
-        case Edit::Delete:
-            return tr("Click a feature to delete it.");
-        case Edit::DeleteToIntersection:
-            return tr("Click the part of a line that is to go.");
-        case Edit::Invert:
-            return tr("Click a feature to invert its polarity.");
-        case Edit::Rotate:
-            return tr("Click a feature to turn it by 90 degrees.");
-        case Edit::Mirror:
-            return tr("Click a feature to mirror it.");
-        case Edit::Break:
-            return tr("Click the place where a line is to break.");
-    }
-    return {};
 }
 
 void MoveTool::press(const QPointF& point, bool /*extends*/)
@@ -151,12 +169,7 @@ void MoveTool::release(const QPointF& point)
 
 void MoveTool::drop(const QPointF& point)
 {
-    const QPointF by = point - m_from;
-    if (m_way == Way::Move) {
-        document().applyBoard(tr("Move feature"), Pcb::withMoved(board(), m_grabbed, by));
-    } else {
-        document().applyBoard(tr("Copy feature"), Pcb::withCopied(board(), m_grabbed, by));
-    }
+    document().applyBoard(tr(m_edit.name), m_edit.edited(board(), m_grabbed, point - m_from));
     cancel();
 }
 
@@ -175,11 +188,8 @@ Overlay MoveTool::overlay() const
 
 QString MoveTool::hint() const
 {
-    if (!m_grabbed.empty()) {
-        return tr("Click the place where it is to go; a right click gives it up.");
-    }
-    return m_way == Way::Move ? tr("Click a feature to move it.")
-                              : tr("Click a feature to copy it.");
+    return m_grabbed.empty() ? tr(m_edit.hint)
+                             : tr("Click the place where it is to go; a right click gives it up.");
 }
 
 void LineEndTool::press(const QPointF& point, bool /*extends*/)
@@ -198,28 +208,14 @@ void LineEndTool::press(const QPointF& point, bool /*extends*/)
         return;
     }
     if (const auto after = changed(point)) {
-        document().applyBoard(m_way == Way::Angle ? tr("Change line angle") : tr("Stretch line"),
-                              Pcb::withReplaced(board(), m_feature, {*after}));
+        document().applyBoard(tr(m_edit.name), Pcb::withReplaced(board(), m_feature, {*after}));
     }
     cancel();
 }
 
 std::optional<Pcb::Feature> LineEndTool::changed(const QPointF& to) const
 {
-    const Pcb::Feature& feature = featureOf(board(), m_feature);
-    if (m_way == Way::Stretch) {
-        return Pcb::stretched(feature, m_end, to);
-    }
-    const bool isFirst = m_end == Pcb::End::First;
-    const QVector<QPointF>& points = feature.geometry().points;
-    if (points.size() < 2) {
-        return {};
-    }
-    // Whole degrees, as the fixed angle of the dialog has them; the board counts counterclockwise
-    // with y upwards, QLineF with y downwards.
-    const QLineF towards(points[isFirst ? 1 : 0], to);
-    const double degrees = qRound(360 - towards.angle()) % 360;
-    return Pcb::withAngle(feature, degrees, isFirst ? Pcb::End::Second : Pcb::End::First);
+    return m_edit.edited(featureOf(board(), m_feature), m_end, to);
 }
 
 Overlay LineEndTool::overlay() const
@@ -235,9 +231,5 @@ Overlay LineEndTool::overlay() const
 
 QString LineEndTool::hint() const
 {
-    if (m_feature < 0) {
-        return tr("Click near the end of a line that is to move.");
-    }
-    return m_way == Way::Angle ? tr("Click the direction that it is to have.")
-                               : tr("Click the place of the end.");
+    return m_feature < 0 ? tr("Click near the end of a line that is to move.") : tr(m_edit.hint);
 }

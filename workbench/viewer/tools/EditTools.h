@@ -7,33 +7,72 @@
 
 #include <optional>
 
-/// Does one thing to the feature that is clicked, or to the selection that it belongs to.
+/// A click on a feature.
+struct FeatureClick {
+    int feature;
+    Pcb::Indexes meant;  ///< the selection when the feature belongs to it, else the feature alone
+    QPointF point;
+};
+
+/// What a click does. Names and hints are to be translated in the context "EditTools".
+struct ClickEdit {
+    const char* name;
+    const char* hint;
+    /// Nothing for a feature of a kind that the edit is not for.
+    std::optional<Pcb::Board> (*edited)(const Pcb::Board& board, const FeatureClick& click);
+};
+
+/// What is done to features that go from one place to another.
+struct MoveEdit {
+    const char* name;
+    const char* hint;
+    Pcb::Board (*edited)(const Pcb::Board& board, const Pcb::Indexes& indexes, const QPointF& by);
+};
+
+/// What is done to the end of a line that is pulled to a point.
+struct LineEndEdit {
+    const char* name;
+    const char* hint;
+    /// Nothing for a feature that has no such end.
+    std::optional<Pcb::Feature> (*edited)(const Pcb::Feature& feature, Pcb::End end,
+                                          const QPointF& to);
+};
+
+namespace Edits {
+
+extern const ClickEdit remove;
+extern const ClickEdit removeToIntersection;
+extern const ClickEdit invert;
+extern const ClickEdit rotate;
+extern const ClickEdit mirror;
+extern const ClickEdit breakLine;
+extern const MoveEdit move;
+extern const MoveEdit copy;
+extern const LineEndEdit changeAngle;
+extern const LineEndEdit stretch;
+
+}  // namespace Edits
+
+/// Does its edit to what is clicked.
 class ClickEditTool : public CanvasTool {
     Q_DECLARE_TR_FUNCTIONS(EditTools)
 
 public:
-    enum class Edit { Delete, DeleteToIntersection, Invert, Rotate, Mirror, Break };
-
-    ClickEditTool(Canvas& canvas, Edit edit) : CanvasTool(canvas), m_edit(edit) {}
+    ClickEditTool(Canvas& canvas, const ClickEdit& edit) : CanvasTool(canvas), m_edit(edit) {}
 
     void press(const QPointF& point, bool extends) override;
-    QString hint() const override;
+    QString hint() const override { return tr(m_edit.hint); }
 
 private:
-    QString name() const;
-    std::optional<Pcb::Board> edited(int feature, const QPointF& point) const;
-
-    Edit m_edit;
+    const ClickEdit& m_edit;
 };
 
-/// Moves or copies the feature that is clicked, or the selection, to the second click.
+/// Takes the feature that is clicked, or the selection, to the second click.
 class MoveTool : public CanvasTool {
     Q_DECLARE_TR_FUNCTIONS(EditTools)
 
 public:
-    enum class Way { Move, Copy };
-
-    MoveTool(Canvas& canvas, Way way) : CanvasTool(canvas), m_way(way) {}
+    MoveTool(Canvas& canvas, const MoveEdit& edit) : CanvasTool(canvas), m_edit(edit) {}
 
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
@@ -45,20 +84,18 @@ public:
 private:
     void drop(const QPointF& point);
 
-    Way m_way;
+    const MoveEdit& m_edit;
     Pcb::Indexes m_grabbed;  ///< empty: nothing is on its way
     QPointF m_from;
     QPointF m_cursor;
 };
 
-/// Pulls the nearer end of a line or an arc: to another place, or to another direction.
+/// Pulls the nearer end of a line or an arc to the second click.
 class LineEndTool : public CanvasTool {
     Q_DECLARE_TR_FUNCTIONS(EditTools)
 
 public:
-    enum class Way { Angle, Stretch };
-
-    LineEndTool(Canvas& canvas, Way way) : CanvasTool(canvas), m_way(way) {}
+    LineEndTool(Canvas& canvas, const LineEndEdit& edit) : CanvasTool(canvas), m_edit(edit) {}
 
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
@@ -69,7 +106,7 @@ public:
 private:
     std::optional<Pcb::Feature> changed(const QPointF& to) const;
 
-    Way m_way;
+    const LineEndEdit& m_edit;
     int m_feature = -1;
     Pcb::End m_end = Pcb::End::First;
     QPointF m_cursor;

@@ -38,12 +38,7 @@ void PlaceTool::add(const Pcb::Features& features)
 
 Overlay PlaceTool::overlay() const
 {
-    Overlay overlay;
-    overlay.preview = m_placement.preview();
-    if (overlay.preview.empty()) {
-        overlay.rubber = m_placement.previewPath();
-    }
-    return overlay;
+    return {m_placement.preview(), {}, {}};
 }
 
 QString PlaceTool::hint() const
@@ -55,6 +50,10 @@ QString PlaceTool::hint() const
         (brush.kind == Kind::Surface && brush.surface == Pcb::SurfaceShape::Polygon);
     if (goesOn && m_placement.isActive()) {
         return tr("Click the next point; a right click ends it.");
+    }
+    const QString leftOut = m_placement.leftOut();
+    if (!leftOut.isEmpty()) {
+        return tr("Click where the feature begins; its code cannot carry \"%1\".").arg(leftOut);
     }
     return m_placement.isActive() ? tr("Click the next point; a right click gives it up.")
                                   : tr("Click where the feature begins.");

@@ -32,7 +32,20 @@ void selectOn(Canvas& canvas, const QString& text, const Pcb::Indexes& picked, b
         QCoreApplication::translate("SelectionTools", "%n feature(s) selected.", nullptr, count));
 }
 
+Pcb::Indexes joinedLines(const Pcb::Board& board, int feature)
+{
+    return Pcb::polylineOf(board, feature);
+}
+
 }  // namespace
+
+const Group Groups::layerNet = {
+    QT_TRANSLATE_NOOP("SelectionTools", "Click a feature to select all that touches it."),
+    Pcb::touching};
+const Group Groups::boardNet = {
+    QT_TRANSLATE_NOOP("SelectionTools", "Click a feature to select its net."), Pcb::netOf};
+const Group Groups::polyline = {
+    QT_TRANSLATE_NOOP("SelectionTools", "Click a line to select its polyline."), joinedLines};
 
 void FeatureSelectionTool::press(const QPointF& point, bool extends)
 {
@@ -47,32 +60,6 @@ void FeatureSelectionTool::press(const QPointF& point, bool extends)
 QString FeatureSelectionTool::hint() const
 {
     return tr("Click a feature to select it; with Ctrl one more.");
-}
-
-Pcb::Indexes NetSelectionTool::pickedBy(int feature) const
-{
-    switch (m_mode) {
-        case Mode::Layer:
-            return Pcb::touching(board(), feature);
-        case Mode::Board:
-            return Pcb::netOf(board(), feature);
-        case Mode::Polyline:
-            return Pcb::polylineOf(board(), feature);
-    }
-    return {};
-}
-
-QString NetSelectionTool::hint() const
-{
-    switch (m_mode) {
-        case Mode::Layer:
-            return tr("Click a feature to select all that touches it.");
-        case Mode::Board:
-            return tr("Click a feature to select its net.");
-        case Mode::Polyline:
-            return tr("Click a line to select its polyline.");
-    }
-    return {};
 }
 
 void RectangleSelectionTool::take(const QRectF& rectangle, bool extends)

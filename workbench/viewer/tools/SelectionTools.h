@@ -21,22 +21,37 @@ protected:
     virtual Pcb::Indexes pickedBy(int feature) const { return {feature}; }
 };
 
-/// Selects all that touches a feature, its net, or the polyline that it belongs to.
-class NetSelectionTool : public FeatureSelectionTool {
+/// What a feature brings with it into the selection.
+struct Group {
+    const char* hint;  ///< to be translated in the context "SelectionTools"
+    Pcb::Indexes (*of)(const Pcb::Board& board, int feature);
+};
+
+namespace Groups {
+
+extern const Group layerNet;
+extern const Group boardNet;
+extern const Group polyline;
+
+}  // namespace Groups
+
+/// Selects the group that a feature belongs to.
+class GroupSelectionTool : public FeatureSelectionTool {
     Q_DECLARE_TR_FUNCTIONS(SelectionTools)
 
 public:
-    enum class Mode { Layer, Board, Polyline };
+    GroupSelectionTool(Canvas& canvas, const Group& group)
+        : FeatureSelectionTool(canvas), m_group(group)
+    {
+    }
 
-    NetSelectionTool(Canvas& canvas, Mode mode) : FeatureSelectionTool(canvas), m_mode(mode) {}
-
-    QString hint() const override;
+    QString hint() const override { return tr(m_group.hint); }
 
 protected:
-    Pcb::Indexes pickedBy(int feature) const override;
+    Pcb::Indexes pickedBy(int feature) const override { return m_group.of(board(), feature); }
 
 private:
-    Mode m_mode;
+    const Group& m_group;
 };
 
 /// Selects what lies wholly in a rectangle.
