@@ -359,6 +359,22 @@
 <context>
     <name>Lengths</name>
     <message>
+        <source>mil</source>
+        <translation>mil (密耳)</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>micrometre</source>
+        <translation>微米</translation>
+    </message>
+    <message>
+        <source>millimetre</source>
+        <translation>毫米</translation>
+    </message>
+    <message>
         <source>%1 mil</source>
         <translation>%1 mil</translation>
     </message>
@@ -908,6 +924,10 @@
         <source>Click where the feature begins.</source>
         <translation>单击图元的起点。</translation>
     </message>
+    <message>
+        <source>Click where the feature begins; its code cannot carry &quot;%1&quot;.</source>
+        <translation>单击图元的起点；其条码无法包含“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>RecordTable</name>
@@ -979,6 +999,121 @@
     <message>
         <source>Click the next corner; a right click ends the polygon.</source>
         <translation>单击下一个顶点；右键单击结束多边形。</translation>
+    </message>
+</context>
+<context>
+    <name>ToolSet</name>
+    <message>
+        <source>Area zoom</source>
+        <translation>区域缩放</translation>
+    </message>
+    <message>
+        <source>Feature selection</source>
+        <translation>选择图元</translation>
+    </message>
+    <message>
+        <source>Rectangle selection</source>
+        <translation>矩形框选</translation>
+    </message>
+    <message>
+        <source>Polygon selection</source>
+        <translation>多边形框选</translation>
+    </message>
+    <message>
+        <source>Select polyline</source>
+        <translation>选择折线</translation>
+    </message>
+    <message>
+        <source>Select layer net</source>
+        <translation>选择层网络</translation>
+    </message>
+    <message>
+        <source>Select board net</source>
+        <translation>选择板网络</translation>
+    </message>
+    <message>
+        <source>Feature highlight</source>
+        <translation>高亮图元</translation>
+    </message>
+    <message>
+        <source>Add feature</source>
+        <translation>添加图元</translation>
+    </message>
+    <message>
+        <source>Delete feature</source>
+        <translation>删除图元</translation>
+    </message>
+    <message>
+        <source>Move feature</source>
+        <translation>移动图元</translation>
+    </message>
+    <message>
+        <source>Copy feature</source>
+        <translation>复制图元</translation>
+    </message>
+    <message>
+        <source>Change line angle</source>
+        <translation>改变线角度</translation>
+    </message>
+    <message>
+        <source>Stretch line</source>
+        <translation>拉伸线</translation>
+    </message>
+    <message>
+        <source>Rotate feature</source>
+        <translation>旋转图元</translation>
+    </message>
+    <message>
+        <source>Mirror feature</source>
+        <translation>镜像图元</translation>
+    </message>
+    <message>
+        <source>Invert feature</source>
+        <translation>反转图元极性</translation>
+    </message>
+    <message>
+        <source>Break line</source>
+        <translation>打断线</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Open a pop view</source>
+        <translation>打开弹出视图</translation>
+    </message>
+    <message>
+        <source>Rout dimension</source>
+        <translation>锣带尺寸编辑</translation>
+    </message>
+    <message>
+        <source>Contour editor</source>
+        <translation>轮廓编辑</translation>
+    </message>
+    <message>
+        <source>Pull line</source>
+        <translation>拉线</translation>
+    </message>
+    <message>
+        <source>Move junction</source>
+        <translation>移动连接点</translation>
+    </message>
+    <message>
+        <source>Move triplet</source>
+        <translation>移动三段线</translation>
+    </message>
+    <message>
+        <source>Reroute trace</source>
+        <translation>重新布线</translation>
+    </message>
+    <message>
+        <source>EQ</source>
+        <translation>EQ</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>测量</translation>
     </message>
 </context>
 <context>
@@ -1092,22 +1227,6 @@
 </context>
 <context>
     <name>WorkbenchWindow</name>
-    <message>
-        <source>mil</source>
-        <translation>mil (密耳)</translation>
-    </message>
-    <message>
-        <source>inch</source>
-        <translation>英寸</translation>
-    </message>
-    <message>
-        <source>micrometre</source>
-        <translation>微米</translation>
-    </message>
-    <message>
-        <source>millimetre</source>
-        <translation>毫米</translation>
-    </message>
     <message>
         <source>Save &amp;Trace...</source>
         <translation>保存消息记录(&amp;T)...</translation>

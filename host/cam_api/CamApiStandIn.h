@@ -29,8 +29,9 @@ struct Job {
     std::vector<AttributeDefinition> attributes;
 };
 
-/// Replaces all jobs by those of a job file (JSON; see docs/job-file.md) and makes its first one
-/// current. On failure nothing changes, and `error` reads "<file>:<line>: <reason>".
+/// Replaces all jobs by those of a job file (JSON; see workbench/docs/files.md) and makes its first
+/// one current. On failure nothing changes, and `error` reads "<file>:<line>: <reason>", without a
+/// line for a file that cannot be read.
 CANVAS_HOST_EXPORT bool loadJobs(const QString& file, QString* error = nullptr);
 
 CANVAS_HOST_EXPORT const std::vector<Job>& jobs();

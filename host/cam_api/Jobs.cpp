@@ -2,8 +2,9 @@
 #include "JobFile.h"
 #include "cam_api.h"
 
+#include <FileError.h>
+
 #include <algorithm>
-#include <utility>
 
 namespace CanvasHost {
 namespace {
@@ -29,11 +30,14 @@ std::vector<Job>::iterator position(const std::string& name)
 
 bool loadJobs(const QString& file, QString* error)
 {
-    std::optional<std::vector<Job>> read = readJobFile(file, error);
-    if (!read) {
+    try {
+        state().jobs = readJobFile(file);
+    } catch (const FileError& fault) {
+        if (error) {
+            *error = fault.text();
+        }
         return false;
     }
-    state().jobs = std::move(*read);
     state().current = state().jobs.empty() ? std::string() : state().jobs.front().name;
     return true;
 }

@@ -1,8 +1,7 @@
 #include "CamApiStandIn.h"
-#include "SymbolNameStandIn.h"
 #include "cam_api.h"
 
-#include <QRegularExpression>
+#include <SymbolNames.h>
 
 #include <algorithm>
 #include <cmath>
@@ -13,35 +12,12 @@ namespace {
 
 using ZENTRA::API::symbol_type;
 
-struct Shape {
-    const char* prefix;
-    symbol_type type;
-    int leastSizes;
-    int mostSizes;
-    bool isRing;
+/// The host's types of shapes, in the order of SymbolShape.
+constexpr symbol_type types[] = {
+    symbol_type::round,   symbol_type::square,     symbol_type::rectangle,   symbol_type::oval,
+    symbol_type::diamond, symbol_type::octagon,    symbol_type::hexagon,     symbol_type::triangle,
+    symbol_type::ellipse, symbol_type::round_ring, symbol_type::square_ring, symbol_type::user,
 };
-
-constexpr Shape shapes[] = {
-    {"r", symbol_type::round, 1, 1, false},
-    {"s", symbol_type::square, 1, 1, false},
-    {"rect", symbol_type::rectangle, 2, 2, false},
-    {"oval", symbol_type::oval, 2, 2, false},
-    {"diamond", symbol_type::diamond, 2, 2, false},
-    {"octagon", symbol_type::octagon, 2, 3, false},
-    {"hexagon", symbol_type::hexagon, 2, 3, false},
-    {"triangle", symbol_type::triangle, 2, 2, false},
-    {"ellipse", symbol_type::ellipse, 2, 2, false},
-    {"ring_r", symbol_type::round_ring, 2, 2, true},
-    {"ring_s", symbol_type::square_ring, 2, 2, true},
-};
-
-const Shape* findShape(const QString& prefix)
-{
-    const auto found = std::find_if(std::begin(shapes), std::end(shapes), [&](const Shape& shape) {
-        return prefix == QLatin1String(shape.prefix);
-    });
-    return found == std::end(shapes) ? nullptr : found;
-}
 
 int hundredths(double mil)
 {
@@ -63,10 +39,10 @@ bool identifyStandard(const QString& text, symbol_type& type, int& a, int& b)
             return false;
         }
     }
-    if (findShape(name->prefix)->isRing && !(sizes[1] < sizes[0])) {
+    if (isRing(name->shape) && !(sizes[1] < sizes[0])) {
         return false;
     }
-    type = name->type;
+    type = types[static_cast<int>(name->shape)];
     a = hundredths(sizes[0]);
     b = sizes.size() > 1 ? hundredths(sizes[1]) : a;
     return true;
@@ -79,22 +55,6 @@ bool isUserSymbol(const std::string& name)
 }
 
 }  // namespace
-
-std::optional<SymbolName> parseSymbolName(const QString& name)
-{
-    static const QRegularExpression pattern(QRegularExpression::anchoredPattern(
-        QStringLiteral("([a-z_]+)([0-9]+(?:\\.[0-9]+)?(?:x[0-9]+(?:\\.[0-9]+)?)*)(_[0-9]+)?")));
-    const QRegularExpressionMatch match = pattern.match(name);
-    const Shape* const shape = match.hasMatch() ? findShape(match.captured(1)) : nullptr;
-    if (!shape) {
-        return std::nullopt;
-    }
-    const QStringList sizes = match.captured(2).split(QLatin1Char('x'));
-    if (sizes.size() < shape->leastSizes || sizes.size() > shape->mostSizes) {
-        return std::nullopt;
-    }
-    return SymbolName{shape->type, match.captured(1), sizes, match.captured(3)};
-}
 
 }  // namespace CanvasHost
 

@@ -9,35 +9,6 @@
 
 namespace {
 
-struct Unit {
-    double micrometres;
-    int decimals;
-    const char* name;
-};
-
-Unit unitOf(CanvasHost::DisplayUnit unit)
-{
-    switch (unit) {
-        case CanvasHost::DisplayUnit::Mil:
-            return {25.4, 2, "mil"};
-        case CanvasHost::DisplayUnit::Inch:
-            return {25400, 5, "inch"};
-        case CanvasHost::DisplayUnit::Micrometre:
-            return {1, 1, "\u00b5m"};
-        case CanvasHost::DisplayUnit::Millimetre:
-            break;
-    }
-    return {1000, 4, "mm"};
-}
-
-QString length(double micrometres)
-{
-    const Unit unit = unitOf(CanvasHost::displayUnit());
-    return QStringLiteral("%1 %2").arg(
-        QString::number(micrometres / unit.micrometres, 'f', unit.decimals),
-        QString::fromUtf8(unit.name));
-}
-
 QList<MeasurePane*>& panes()
 {
     static QList<MeasurePane*> thePanes;
@@ -104,6 +75,8 @@ void MeasurePane::retranslate()
         return;
     }
     const QPointF offset = m_points->second - m_points->first;
-    m_distance->setText(length(std::hypot(offset.x(), offset.y())));
-    m_offsets->setText(tr("dx %1   dy %2").arg(length(offset.x()), length(offset.y())));
+    m_distance->setText(CanvasHost::lengthText(std::hypot(offset.x(), offset.y())));
+    m_offsets->setText(
+        tr("dx %1   dy %2")
+            .arg(CanvasHost::lengthText(offset.x()), CanvasHost::lengthText(offset.y())));
 }

@@ -11,6 +11,10 @@ class QWidget;
 
 namespace CanvasHost {
 
+/// The name under which the host itself sends and is addressed. Not a QStringLiteral: a receiver
+/// may keep it longer than the module that sent it is loaded.
+inline const QString hostName = QString::fromLatin1("Canvas_Host.dll");
+
 /// A module's exported entry points.
 using CreateInstance = void* (*)(QWidget* parent);
 using DeliverMessage = void (*)(void* instance, PluginMetaData message);

@@ -1,7 +1,8 @@
-#include "SymbolNameStandIn.h"
 #include "UiApiStandIn.h"
 #include "UnitText.h"
 #include "ui_api.h"
+
+#include <SymbolNames.h>
 
 #include <QApplication>
 #include <QMessageBox>

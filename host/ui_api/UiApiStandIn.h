@@ -5,6 +5,7 @@
 #include <ui_api.h>
 
 #include <functional>
+#include <vector>
 
 namespace CanvasHost {
 
@@ -14,6 +15,24 @@ enum class DisplayUnit { Mil, Inch, Micrometre, Millimetre };
 
 CANVAS_HOST_EXPORT void setDisplayUnit(DisplayUnit unit);
 CANVAS_HOST_EXPORT DisplayUnit displayUnit();
+
+/// A unit of length.
+struct LengthUnit {
+    DisplayUnit unit;
+    const char* name;  ///< as options and session files write it
+    double micrometres;
+    int decimals;        ///< of a length that people read
+    const char* title;   ///< this and the next two: to be translated in the context "Lengths"
+    const char* length;  ///< "%1 mm"
+    const char* point;   ///< "%1, %2 mm"
+};
+CANVAS_HOST_EXPORT const std::vector<LengthUnit>& lengthUnits();
+
+/// In the user's language: the unit's title, and a length or a point (micrometres) in the unit that
+/// is set.
+CANVAS_HOST_EXPORT QString unitText(const LengthUnit& unit);
+CANVAS_HOST_EXPORT QString lengthText(double micrometres);
+CANVAS_HOST_EXPORT QString lengthText(const QPointF& point);
 
 CANVAS_HOST_EXPORT void setEQVisible(bool visible);
 

@@ -1,8 +1,9 @@
 #include "UnitText.h"
 
-#include "SymbolNameStandIn.h"
 #include "UiApiStandIn.h"
 #include "ui_api.h"
+
+#include <SymbolNames.h>
 
 #include <algorithm>
 #include <cmath>

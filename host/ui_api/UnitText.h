@@ -1,11 +1,13 @@
 #pragma once
 
+#include <LengthUnits.h>
+
 #include <QString>
 
 namespace CanvasHost {
 
 /// Mil to micrometre, and inch to millimetre.
-constexpr double metricFactor = 25.4;
+constexpr double metricFactor = micrometresOfMil;
 
 /// Whether the user works in metric units.
 bool isMetric();

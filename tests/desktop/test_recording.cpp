@@ -148,10 +148,9 @@ private Q_SLOTS:
     void handsAndTheirRecording()
     {
         const QString file = m_folder.filePath("hands.session");
-        QString error;
         {
             SessionRecorder recorder(m_window.get());
-            QVERIFY2(recorder.start(file, &error), qPrintable(error));
+            recorder.start(file);
             useTools();
             describePad();
         }
@@ -160,24 +159,23 @@ private Q_SLOTS:
         closeWindow();
 
         openWindow();
-        Session session;
-        QVERIFY2(SessionParser::readFile(file, &session, &error), qPrintable(error));
+        QFile recorded(file);
+        QVERIFY(recorded.open(QIODevice::ReadOnly));
+        const QByteArray steps = recorded.readAll();
         QStringList commands;
-        for (const SessionStep& step : session.steps) {
-            commands.append(step.command);
+        for (const QString& line : QString::fromUtf8(steps).split('\n')) {
+            commands.append(SessionParser::split(line).value(0));
         }
         for (const char* const command : {"click", "rightclick", "type", "key", "choose", "box"}) {
             QVERIFY2(commands.contains(command), qPrintable(commands.join(' ')));
         }
-        SessionPlayer player(session, m_window->host(), m_window.get(), m_log.get());
+        SessionPlayer player(SessionParser::read(steps, file), m_window->host(), m_window.get(),
+                             m_log.get());
         const QSignalSpy finished(&player, &SessionPlayer::finished);
         const QSignalSpy failed(&player, &SessionPlayer::failed);
         player.start();
         QVERIFY(QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 30000));
         QVERIFY2(failed.isEmpty(), qPrintable(failed.value(0).value(0).toString()));
-        QFile recorded(file);
-        QVERIFY(recorded.open(QIODevice::ReadOnly));
-        const QByteArray steps = recorded.readAll();
         QVERIFY2(trace() == sent, steps + "\n" + sent.join('\n').toUtf8() + "\nplayed:\n" +
                                       trace().join('\n').toUtf8());
     }

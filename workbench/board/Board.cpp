@@ -48,22 +48,6 @@ Indexes reached(const Board& board, const Indexes& seeds, IsJoined isJoined)
     return found;
 }
 
-/// The area of some features in their order, filled by the winding rule.
-QPainterPath composed(const Board& board, const Indexes& group)
-{
-    QPainterPath area;
-    for (const int index : group) {
-        const Feature& feature = at(board, index);
-        const QPainterPath shape = byWinding(feature.area());
-        if (!feature.isPositive()) {
-            area = area.subtracted(shape);
-        } else {
-            area = area.isEmpty() ? shape : area.united(shape);
-        }
-    }
-    return byWinding(area);
-}
-
 bool conducts(const Feature& a, const Feature& b)
 {
     return a.isPositive() && b.isPositive() && touch(a, b);
@@ -121,24 +105,19 @@ QRectF boundsOf(const Board& board)
 
 QPainterPath coveredArea(const Board& board)
 {
-    // What overlaps nothing need not be united with anything, which takes long.
-    const auto overlaps = [](const Feature& a, const Feature& b) {
-        return a.bounds().intersects(b.bounds());
-    };
-    std::vector<bool> isDone(board.features.size(), false);
-    QPainterPath whole;
-    whole.setFillRule(Qt::WindingFill);
+    QPainterPath area;
+    QPainterPath run;  // features of one polarity are taken together, which is much faster
+    run.setFillRule(Qt::WindingFill);
     for (int index = 0; exists(board, index); ++index) {
-        if (isDone[static_cast<size_t>(index)]) {
+        const Feature& feature = at(board, index);
+        run.addPath(byWinding(feature.area()));
+        if (exists(board, index + 1) && at(board, index + 1).isPositive() == feature.isPositive()) {
             continue;
         }
-        const Indexes group = reached(board, {index}, overlaps);
-        for (const int member : group) {
-            isDone[static_cast<size_t>(member)] = true;
-        }
-        whole.addPath(composed(board, group));
+        area = feature.isPositive() ? united(area, run) : subtracted(area, run);
+        run.clear();
     }
-    return whole;
+    return area;
 }
 
 int featureAt(const Board& board, const QPointF& point, double tolerance)

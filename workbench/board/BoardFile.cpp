@@ -1,9 +1,10 @@
 #include "board/BoardFile.h"
 
 #include "board/FeatureJson.h"
-#include "board/FileOutput.h"
 
-#include <QFile>
+#include <Files.h>
+#include <Json.h>
+
 #include <QJsonDocument>
 
 namespace Pcb {
@@ -17,7 +18,7 @@ QByteArray compact(const QJsonValue& value)
     return listed.mid(1, listed.size() - 2);
 }
 
-Board boardFromJson(const JsonNode& root)
+Board boardFromJson(const CanvasHost::JsonNode& root)
 {
     root.requireObject({QStringLiteral("format"), QStringLiteral("job"), QStringLiteral("step"),
                         QStringLiteral("outline"), QStringLiteral("features")});
@@ -26,7 +27,7 @@ Board boardFromJson(const JsonNode& root)
     board.job = root.member(QStringLiteral("job")).text();
     board.step = root.member(QStringLiteral("step")).text();
     board.outline = QPolygonF(pointsFromJson(root.member(QStringLiteral("outline"))));
-    for (const JsonNode& node : root.member(QStringLiteral("features")).entries()) {
+    for (const CanvasHost::JsonNode& node : root.member(QStringLiteral("features")).entries()) {
         board.features.push_back(featureFromJson(node));
     }
     return board;
@@ -50,53 +51,20 @@ QByteArray toJson(const Board& board)
     return text + (board.features.empty() ? "]\n}\n" : "\n  ]\n}\n");
 }
 
-std::optional<Board> fromJson(const QByteArray& text, QString* error)
+Board fromJson(const QByteArray& text, const QString& file)
 {
-    const auto fail = [error](int line, const QString& reason) {
-        if (error) {
-            *error = QStringLiteral("%1: %2").arg(line).arg(reason);
-        }
-        return std::nullopt;
-    };
-    QJsonParseError parsed;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &parsed);
-    if (parsed.error != QJsonParseError::NoError) {
-        return fail(CanvasHost::lineOfOffset(text, parsed.offset), parsed.errorString());
-    }
-    const CanvasHost::JsonPlace places = CanvasHost::findJsonPlaces(text);
-    const QJsonValue value =
-        document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
-    try {
-        return boardFromJson(JsonNode(value, places, QStringLiteral("the document")));
-    } catch (const JsonFault& fault) {
-        return fail(fault.line, fault.reason);
-    }
+    const CanvasHost::JsonDocument document(text, file);
+    return boardFromJson(document.root());
 }
 
-std::optional<Board> readBoardFile(const QString& file, QString* error)
+Board readBoardFile(const QString& file)
 {
-    QFile device(file);
-    QByteArray text;
-    if (device.open(QIODevice::ReadOnly)) {
-        text = device.readAll();
-    }
-    if (device.error() != QFileDevice::NoError) {
-        if (error) {
-            *error = QStringLiteral("%1:0: %2").arg(file, device.errorString());
-        }
-        return std::nullopt;
-    }
-    QString reason;
-    std::optional<Board> board = fromJson(text, &reason);
-    if (!board && error) {
-        *error = QStringLiteral("%1:%2").arg(file, reason);
-    }
-    return board;
+    return fromJson(CanvasHost::readWhole(file), file);
 }
 
-bool writeBoardFile(const Board& board, const QString& file, QString* error)
+void writeBoardFile(const Board& board, const QString& file)
 {
-    return writeWhole(file, toJson(board), error);
+    CanvasHost::writeWhole(file, toJson(board));
 }
 
 }  // namespace Pcb

@@ -43,13 +43,14 @@ QPainterPath swept(const QPainterPath& shape, const QPointF& from, const QPointF
 QPainterPath lineArea(const Geometry& line)
 {
     const Symbol symbol = parseSymbol(line.symbol);
-    if (symbol.family == SymbolFamily::Round) {
+    if (symbol.shape == SymbolShape::Round) {
         return roundStroke(middleOf(line), symbol.width);
     }
     return swept(symbolShape(symbol), line.points.at(0), line.points.at(1));
 }
 
-/// A strip of ring between two round ends, all turning the same way.
+/// A strip of ring between two round ends. Where the pen reaches beyond the centre, the inner
+/// radius is negative: the edge runs on the other side of it, within what the ends cover.
 QPainterPath arcStrip(const ArcPlace& arc, double pen)
 {
     const auto append = [](QPainterPath& path, const QPointF& centre, double radius, double start,
@@ -75,12 +76,11 @@ QPainterPath arcArea(const Geometry& geometry)
     const ArcPlace arc = arcPlace(geometry);
     const double pen = arcPenWidth(geometry.symbol) / 2;
     const bool isCircle = std::abs(arc.sweep) >= 360;
-    if (arc.radius <= pen) {
-        return isCircle ? circlePath(arc.centre, arc.radius + pen)
-                        : roundStroke(middleOf(geometry), 2 * pen);
-    }
     if (!isCircle) {
         return arcStrip(arc, pen);
+    }
+    if (arc.radius <= pen) {
+        return circlePath(arc.centre, arc.radius + pen);
     }
     QPainterPath ring = circlePath(arc.centre, arc.radius + pen);
     ring.addPath(circlePath(arc.centre, arc.radius - pen));

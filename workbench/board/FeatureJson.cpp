@@ -3,6 +3,9 @@
 #include "board/TextJson.h"
 
 namespace Pcb {
+
+using CanvasHost::JsonNode;
+
 namespace {
 
 const QStringList kinds = {QStringLiteral("line"), QStringLiteral("pad"), QStringLiteral("surface"),
@@ -86,11 +89,7 @@ void readPoints(const JsonNode& node, Geometry& geometry)
 void readOfKind(const JsonNode& node, const KindKeys& keys, Geometry& geometry)
 {
     if (keys.symbol) {
-        const JsonNode symbol = node.member(QStringLiteral("symbol"));
-        geometry.symbol = symbol.text();
-        if (geometry.symbol.isEmpty()) {
-            symbol.fail(QStringLiteral("must not be empty"));
-        }
+        geometry.symbol = node.member(QStringLiteral("symbol")).name();
     }
     if (keys.shape) {
         geometry.round = node.member(QStringLiteral("shape")).choice(shapes) == 1;

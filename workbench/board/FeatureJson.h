@@ -1,7 +1,8 @@
 #pragma once
 
 #include "board/Feature.h"
-#include "board/JsonNode.h"
+
+#include <Json.h>
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -12,11 +13,11 @@ namespace Pcb {
 constexpr double farthest = 1e7;
 
 QJsonArray toJsonPoints(const QVector<QPointF>& points);
-QVector<QPointF> pointsFromJson(const JsonNode& node);
+QVector<QPointF> pointsFromJson(const CanvasHost::JsonNode& node);
 
 QJsonObject toJsonFeature(const Feature& feature);
 
-/// Throws a JsonFault.
-Feature featureFromJson(const JsonNode& node);
+/// Throws a FileError.
+Feature featureFromJson(const CanvasHost::JsonNode& node);
 
 }  // namespace Pcb

@@ -1,9 +1,10 @@
 #include "board/GerberExport.h"
 
-#include "board/FileOutput.h"
 #include "board/GerberWriter.h"
 #include "board/Paths.h"
 #include "board/Symbol.h"
+
+#include <Files.h>
 
 #include <cmath>
 
@@ -13,7 +14,7 @@ namespace {
 void writeLine(GerberWriter& writer, const Geometry& line, const QPainterPath& area)
 {
     const Symbol symbol = parseSymbol(line.symbol);
-    if (symbol.family == SymbolFamily::Round) {
+    if (symbol.shape == SymbolShape::Round) {
         writer.draw(symbol.width, QPolygonF(line.points));
     } else {
         writer.region(area);
@@ -33,16 +34,16 @@ QByteArray plainAperture(const Geometry& pad, const Symbol& symbol)
     const bool isEvenlyScaled = std::abs(pad.xScale) == std::abs(pad.yScale);
     const bool isUpright = isQuarterTurn(pad.rotation) && symbol.rotation == 0;
     const bool isAside = std::fmod(std::abs(pad.rotation), 180) == 90;
-    switch (symbol.family) {
-        case SymbolFamily::Round:
+    switch (symbol.shape) {
+        case SymbolShape::Round:
             return isEvenlyScaled ? GerberWriter::aperture('C', width) : QByteArray();
-        case SymbolFamily::Oval:
+        case SymbolShape::Oval:
             if (!isEvenlyScaled) {
                 return {};
             }
             break;
-        case SymbolFamily::Square:
-        case SymbolFamily::Rectangle:
+        case SymbolShape::Square:
+        case SymbolShape::Rectangle:
             break;
         default:
             return {};
@@ -50,7 +51,7 @@ QByteArray plainAperture(const Geometry& pad, const Symbol& symbol)
     if (!isUpright) {
         return {};
     }
-    const char kind = symbol.family == SymbolFamily::Oval ? 'O' : 'R';
+    const char kind = symbol.shape == SymbolShape::Oval ? 'O' : 'R';
     return isAside ? GerberWriter::aperture(kind, height, width)
                    : GerberWriter::aperture(kind, width, height);
 }
@@ -116,32 +117,22 @@ void writeFeature(GerberWriter& writer, const Feature& feature)
 
 }  // namespace
 
-std::optional<QByteArray> toGerber(const Board& board, QString* error)
+QByteArray toGerber(const Board& board, const QString& file)
 {
     GerberWriter writer;
     for (const Feature& feature : board.features) {
         writeFeature(writer, feature);
     }
     if (!writer.isInRange()) {
-        if (error) {
-            *error = QStringLiteral("a coordinate is ten metres or farther from 0");
-        }
-        return std::nullopt;
+        throw CanvasHost::FileError{file, 0,
+                                    QStringLiteral("a coordinate is ten metres or farther from 0")};
     }
     return writer.file();
 }
 
-bool writeGerber(const Board& board, const QString& file, QString* error)
+void writeGerber(const Board& board, const QString& file)
 {
-    QString reason;
-    const std::optional<QByteArray> content = toGerber(board, &reason);
-    if (!content) {
-        if (error) {
-            *error = QStringLiteral("%1: %2").arg(file, reason);
-        }
-        return false;
-    }
-    return writeWhole(file, *content, error);
+    CanvasHost::writeWhole(file, toGerber(board, file));
 }
 
 }  // namespace Pcb

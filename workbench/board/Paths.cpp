@@ -1,12 +1,11 @@
 #include "board/Paths.h"
 
-#include <QLineF>
-#include <QMap>
 #include <QtMath>
+
+#include <polyclipping/clipper.hpp>
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 #include <vector>
 
 namespace Pcb {
@@ -50,133 +49,93 @@ QPolygonF opened(QPolygonF polygon)
     return polygon;
 }
 
-/// A point of the outline that is no corner, as outlines may share corners.
-QPointF middleOfLongestEdge(const QPolygonF& polygon)
+constexpr double unitsOfMicrometre = 1000;  // whole nanometres, as Gerber files have them
+constexpr double farthestUnit = 1e15;
+
+ClipperLib::Path toUnits(const QPolygonF& polygon)
 {
-    QLineF longest;
-    for (int i = 0; i < polygon.size(); ++i) {
-        const QLineF edge(polygon.at(i), polygon.at((i + 1) % polygon.size()));
-        if (edge.length() >= longest.length()) {
-            longest = edge;
-        }
+    const auto unit = [](double micrometres) {
+        return qRound64(qBound(-farthestUnit, micrometres * unitsOfMicrometre, farthestUnit));
+    };
+    ClipperLib::Path path;
+    path.reserve(static_cast<size_t>(polygon.size()));
+    for (const QPointF& point : polygon) {
+        path.emplace_back(unit(point.x()), unit(point.y()));
     }
-    return longest.center();
+    return path;
 }
 
-QPolygonF withTurn(QPolygonF polygon, bool counterclockwise)
+QPolygonF fromUnits(const ClipperLib::Path& path)
 {
-    if ((signedArea(polygon) > 0) != counterclockwise) {
-        std::reverse(polygon.begin(), polygon.end());
+    QPolygonF polygon;
+    polygon.reserve(static_cast<int>(path.size()));
+    for (const ClipperLib::IntPoint& point : path) {
+        polygon.append(QPointF(static_cast<double>(point.X), static_cast<double>(point.Y)) /
+                       unitsOfMicrometre);
     }
     return polygon;
 }
 
-QVector<QPolygonF> simplified(const QVector<QPolygonF>& polygons, Qt::FillRule rule)
+void add(ClipperLib::Clipper& clipper, const QPainterPath& path, ClipperLib::PolyType role)
 {
-    QPainterPath straight;
-    straight.setFillRule(rule);
-    for (const QPolygonF& polygon : polygons) {
-        straight.addPolygon(polygon);
-        straight.closeSubpath();
+    for (const QPolygonF& outline : flattened(path)) {
+        clipper.AddPath(toUnits(outline), role, true);
     }
-    return flattened(straight.simplified());
 }
 
-bool isConvex(const QPolygonF& polygon)
+ClipperLib::PolyFillType ruleOf(const QPainterPath& path)
 {
-    const double hull = signedArea(convexHull(polygon));
-    return std::abs(std::abs(signedArea(polygon)) - hull) <= 1e-9 * hull;
+    return path.fillRule() == Qt::WindingFill ? ClipperLib::pftNonZero : ClipperLib::pftEvenOdd;
 }
 
-/// An outline with what tells quickly that it crosses no other one.
-struct Outline {
-    QPolygonF polygon;
-    QRectF bounds;
-    bool isBox = false;
-
-    explicit Outline(const QPolygonF& corners)
-        : polygon(corners), bounds(corners.boundingRect()), isBox(corners.size() == 4)
-    {
-        for (int i = 0; isBox && i < corners.size(); ++i) {
-            const QPointF side = corners.at((i + 1) % 4) - corners.at(i);
-            isBox = side.x() == 0 || side.y() == 0;
-        }
-    }
-
-    bool isAround(const Outline& other) const
-    {
-        return isBox && bounds.adjusted(1, 1, -1, -1).contains(other.bounds);
-    }
-};
-
-/// Sets of outlines that may cross each other; by the odd-even rule boxes may also stand around
-/// others without having to do with them.
-QVector<QVector<QPolygonF>> crossingSets(const std::vector<Outline>& outlines, Qt::FillRule rule)
-{
-    std::vector<size_t> leader(outlines.size());
-    std::iota(leader.begin(), leader.end(), size_t(0));
-    const auto leaderOf = [&leader](size_t i) {
-        while (leader[i] != i) {
-            i = leader[i] = leader[leader[i]];
-        }
-        return i;
-    };
-    for (size_t i = 0; i < outlines.size(); ++i) {
-        for (size_t k = 0; k < i; ++k) {
-            const Outline& a = outlines[i];
-            const Outline& b = outlines[k];
-            const bool isNested = rule == Qt::OddEvenFill && (a.isAround(b) || b.isAround(a));
-            if (a.bounds.adjusted(-1, -1, 1, 1).intersects(b.bounds) && !isNested) {
-                leader[leaderOf(i)] = leaderOf(k);
-            }
-        }
-    }
-    QMap<size_t, QVector<QPolygonF>> sets;
-    for (size_t i = 0; i < outlines.size(); ++i) {
-        sets[leaderOf(i)].append(outlines[i].polygon);
-    }
-    return sets.values().toVector();
-}
-
-/// The outlines of the area, none of which crosses another or itself. Simplifying takes long for
-/// many outlines, so each set that may cross is done by itself.
-QVector<QPolygonF> cleanOutlines(const QPainterPath& path)
+bool isSliver(const ClipperLib::PolyNode& node)
 {
     constexpr double smallestArea = 0.01;
-    std::vector<Outline> outlines;
-    for (const QPolygonF& polygon : flattened(path)) {
-        outlines.emplace_back(polygon);
-    }
-    QVector<QPolygonF> clean;
-    for (const QVector<QPolygonF>& set : crossingSets(outlines, path.fillRule())) {
-        const bool isClean = set.size() == 1 && isConvex(set.first());
-        for (const QPolygonF& polygon : isClean ? set : simplified(set, path.fillRule())) {
-            if (polygon.size() > 2 && std::abs(signedArea(polygon)) > smallestArea) {
-                clean.append(polygon);
-            }
-        }
-    }
-    return clean;
+    return std::abs(ClipperLib::Area(node.Contour)) <=
+           smallestArea * unitsOfMicrometre * unitsOfMicrometre;
 }
 
-/// For each outline the indexes of those that it lies in.
-QVector<QVector<int>> surroundings(const QVector<QPolygonF>& outlines)
+QVector<Island> islandsOf(const ClipperLib::PolyTree& tree)
 {
-    QVector<QRectF> bounds;
-    for (const QPolygonF& outline : outlines) {
-        bounds.append(outline.boundingRect());
-    }
-    QVector<QVector<int>> around(outlines.size());
-    for (int inner = 0; inner < outlines.size(); ++inner) {
-        const QPointF probe = middleOfLongestEdge(outlines.at(inner));
-        for (int outer = 0; outer < outlines.size(); ++outer) {
-            if (outer != inner && bounds.at(outer).contains(probe) &&
-                outlines.at(outer).containsPoint(probe, Qt::OddEvenFill)) {
-                around[inner].append(outer);
+    QVector<Island> found;
+    for (const ClipperLib::PolyNode* node = tree.GetFirst(); node; node = node->GetNext()) {
+        if (node->IsHole() || isSliver(*node)) {
+            continue;
+        }
+        Island island{fromUnits(node->Contour), {}};
+        for (const ClipperLib::PolyNode* const hole : node->Childs) {
+            if (!isSliver(*hole)) {
+                island.holes.append(fromUnits(hole->Contour));
             }
         }
+        found.append(island);
     }
-    return around;
+    return found;
+}
+
+QPainterPath windingPath(const QVector<Island>& all)
+{
+    QPainterPath winding;
+    winding.setFillRule(Qt::WindingFill);
+    const auto append = [&winding](const QPolygonF& polygon) {
+        winding.addPolygon(polygon);
+        winding.closeSubpath();
+    };
+    for (const Island& island : all) {
+        append(island.outline);
+        std::for_each(island.holes.begin(), island.holes.end(), append);
+    }
+    return winding;
+}
+
+QPainterPath combined(const QPainterPath& area, const QPainterPath& shape, ClipperLib::ClipType how)
+{
+    ClipperLib::Clipper clipper;
+    add(clipper, area, ClipperLib::ptSubject);
+    add(clipper, shape, ClipperLib::ptClip);
+    ClipperLib::PolyTree tree;
+    clipper.Execute(how, tree, ruleOf(area), ruleOf(shape));
+    return windingPath(islandsOf(tree));
 }
 
 /// Where the outline is met first on the way from `point` to the left: the edge's index and place.
@@ -346,25 +305,21 @@ QVector<QPolygonF> flattened(const QPainterPath& path)
 
 QVector<Island> islands(const QPainterPath& path)
 {
-    const QVector<QPolygonF> outlines = cleanOutlines(path);
-    const QVector<QVector<int>> around = surroundings(outlines);
-    QVector<Island> found;
-    QVector<int> islandOf(outlines.size(), -1);
-    for (int i = 0; i < outlines.size(); ++i) {
-        if (around.at(i).size() % 2 == 0) {
-            islandOf[i] = found.size();
-            found.append({withTurn(outlines.at(i), true), {}});
-        }
-    }
-    for (int i = 0; i < outlines.size(); ++i) {
-        for (const int outer : around.at(i)) {
-            if (around.at(i).size() % 2 == 1 &&
-                around.at(outer).size() + 1 == around.at(i).size()) {
-                found[islandOf.at(outer)].holes.append(withTurn(outlines.at(i), false));
-            }
-        }
-    }
-    return found;
+    ClipperLib::Clipper clipper;
+    add(clipper, path, ClipperLib::ptSubject);
+    ClipperLib::PolyTree tree;
+    clipper.Execute(ClipperLib::ctUnion, tree, ruleOf(path), ruleOf(path));
+    return islandsOf(tree);
+}
+
+QPainterPath united(const QPainterPath& area, const QPainterPath& shape)
+{
+    return combined(area, shape, ClipperLib::ctUnion);
+}
+
+QPainterPath subtracted(const QPainterPath& area, const QPainterPath& shape)
+{
+    return combined(area, shape, ClipperLib::ctDifference);
 }
 
 QPolygonF cutOpen(const Island& island)
@@ -393,20 +348,7 @@ QPolygonF cutOpen(const Island& island)
 
 QPainterPath byWinding(const QPainterPath& path)
 {
-    if (path.fillRule() == Qt::WindingFill) {
-        return path;
-    }
-    QPainterPath winding;
-    winding.setFillRule(Qt::WindingFill);
-    const auto add = [&winding](const QPolygonF& polygon) {
-        winding.addPolygon(polygon);
-        winding.closeSubpath();
-    };
-    for (const Island& island : islands(path)) {
-        add(island.outline);
-        std::for_each(island.holes.begin(), island.holes.end(), add);
-    }
-    return winding;
+    return windingPath(islands(path));
 }
 
 double distanceToSegment(const QPointF& point, const QPointF& a, const QPointF& b)

@@ -55,14 +55,19 @@ struct Island {
     QVector<QPolygonF> holes;  ///< clockwise
 };
 
-/// A path taken apart. Islands within holes are islands of their own.
+/// A path taken apart, its corners on whole nanometres. Islands within holes are islands of their
+/// own.
 QVector<Island> islands(const QPainterPath& path);
 
-/// One closed outline for an island: each hole is joined by a horizontal cut.
+/// One closed outline for an island: each hole is joined by a horizontal cut, as a Gerber region
+/// has no holes.
 QPolygonF cutOpen(const Island& island);
 
-/// The same area by the winding rule: outlines counterclockwise, holes clockwise. A path that is
-/// filled by that rule already is given back.
+/// Areas by the winding rule, both shapes taken by their own.
+QPainterPath united(const QPainterPath& area, const QPainterPath& shape);
+QPainterPath subtracted(const QPainterPath& area, const QPainterPath& shape);
+
+/// The same area by the winding rule: outlines counterclockwise, holes clockwise, none crossing.
 QPainterPath byWinding(const QPainterPath& path);
 
 /// How far `point` lies from the segment `a` to `b`.

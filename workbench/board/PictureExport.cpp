@@ -1,6 +1,6 @@
 #include "board/PictureExport.h"
 
-#include "board/FileOutput.h"
+#include <Files.h>
 
 #include <QBuffer>
 #include <QSvgGenerator>
@@ -29,12 +29,13 @@ QSize sizeOf(const QRectF& area, int longerSide)
     return {std::max(1, qRound(area.width() * scale)), std::max(1, qRound(area.height() * scale))};
 }
 
-bool refuseNothing(const QRectF& area, const QString& file, QString* error)
+QRectF areaOf(const Board& board, const QString& file)
 {
-    if (area.isEmpty() && error) {
-        *error = QStringLiteral("%1: the board is empty").arg(file);
+    const QRectF area = shownArea(board);
+    if (area.isEmpty()) {
+        throw CanvasHost::FileError{file, 0, QStringLiteral("the board is empty")};
     }
-    return area.isEmpty();
+    return area;
 }
 
 }  // namespace
@@ -76,23 +77,18 @@ QImage toImage(const Board& board, int pixels, const PictureColours& colours)
     return image;
 }
 
-bool writePng(const Board& board, const QString& file, int pixels, QString* error)
+void writePng(const Board& board, const QString& file, int pixels)
 {
-    if (refuseNothing(shownArea(board), file, error)) {
-        return false;
-    }
+    areaOf(board, file);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     toImage(board, pixels).save(&buffer, "PNG");
-    return writeWhole(file, buffer.data(), error);
+    CanvasHost::writeWhole(file, buffer.data());
 }
 
-bool writeSvg(const Board& board, const QString& file, QString* error)
+void writeSvg(const Board& board, const QString& file)
 {
-    const QRectF area = shownArea(board);
-    if (refuseNothing(area, file, error)) {
-        return false;
-    }
+    const QRectF area = areaOf(board, file);
     const QSize size = sizeOf(area, svgSide);
     QBuffer buffer;
     QSvgGenerator generator;
@@ -104,7 +100,7 @@ bool writeSvg(const Board& board, const QString& file, QString* error)
     QPainter painter(&generator);
     paintBoard(painter, board, area, QRectF(QPointF(), size));
     painter.end();
-    return writeWhole(file, buffer.data(), error);
+    CanvasHost::writeWhole(file, buffer.data());
 }
 
 }  // namespace Pcb

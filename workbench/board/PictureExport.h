@@ -24,7 +24,7 @@ void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const
 QImage toImage(const Board& board, int pixels, const PictureColours& colours = {});
 
 /// All or nothing, as writeBoardFile(). A board of nothing is an error.
-bool writePng(const Board& board, const QString& file, int pixels, QString* error);
-bool writeSvg(const Board& board, const QString& file, QString* error);
+void writePng(const Board& board, const QString& file, int pixels);
+void writeSvg(const Board& board, const QString& file);
 
 }  // namespace Pcb

@@ -142,7 +142,8 @@ Geometries ofText(const Brush& brush, const QPointF& corner, const QMap<QString,
     text.text.content = resolveSpecialText(brush.text.content, values);
     text.rotation = brush.rotation;
     text.mirror = brush.mirror;
-    return text.text.content.isEmpty() ? Geometries() : Geometries{text};
+    const bool isNothing = leftOut(text.text).size() >= text.text.content.left(longestText).size();
+    return isNothing ? Geometries() : Geometries{text};
 }
 
 }  // namespace
@@ -159,6 +160,13 @@ void Placement::setDirection(Direction direction, double fixedAngle)
 {
     m_brush.direction = direction;
     m_brush.fixedAngle = fixedAngle;
+}
+
+QString Placement::leftOut() const
+{
+    TextSpec text = m_brush.text;
+    text.content = resolveSpecialText(text.content, m_specialTexts);
+    return m_brush.kind == Kind::Text ? Pcb::leftOut(text) : QString();
 }
 
 QPointF Placement::constrained(const QPointF& point) const
@@ -310,16 +318,6 @@ Features Placement::preview() const
         }
     }
     return features;
-}
-
-QPainterPath Placement::previewPath() const
-{
-    QPainterPath path;
-    path.setFillRule(Qt::WindingFill);
-    for (const Feature& feature : preview()) {
-        path.addPath(byWinding(feature.area()));
-    }
-    return path;
 }
 
 }  // namespace Pcb

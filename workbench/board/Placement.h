@@ -4,7 +4,6 @@
 #include "board/Feature.h"
 
 #include <QMap>
-#include <QPainterPath>
 #include <QPointF>
 #include <QVector>
 
@@ -32,7 +31,8 @@ namespace Pcb {
 ///   circle 4             three points of the circle
 ///
 /// Arcs run clockwise or not as the brush says; arc 2 runs through its third point. A click that
-/// would give nothing (a line without length, three points on a line) is not taken.
+/// would give nothing (a line without length, three points on a line, a code that can carry nothing
+/// of its text) is not taken.
 class Placement {
 public:
     /// Another brush keeps the clicks made so far if the same clicks are meant by it, else drops
@@ -45,6 +45,8 @@ public:
 
     /// What "$$NAME" stands for in texts.
     void setSpecialTexts(const QMap<QString, QString>& values) { m_specialTexts = values; }
+    /// The characters of the text to be placed that its code cannot carry.
+    QString leftOut() const;
 
     /// A click; gives the features that it completed, bottom first.
     Features press(const QPointF& point);
@@ -64,7 +66,6 @@ public:
     /// What a click under the cursor would add, and what it would add to. Where that is not yet a
     /// whole feature, the line from the last point to the cursor.
     Features preview() const;
-    QPainterPath previewPath() const;
 
 private:
     QVector<QPointF> with(const QPointF& point) const;

@@ -2,7 +2,7 @@
 
 #include "board/Paths.h"
 
-#include <SymbolNameStandIn.h>
+#include <LengthUnits.h>
 
 #include <QTransform>
 
@@ -12,9 +12,8 @@
 namespace Pcb {
 namespace {
 
-using Shape = QPainterPath (*)(const Symbol&);
+using CanvasHost::micrometresOfMil;
 
-constexpr double micrometresOfMil = 25.4;
 constexpr double placeholderSize = 60 * micrometresOfMil;
 
 QPainterPath closed(const QPolygonF& polygon)
@@ -125,25 +124,12 @@ QPainterPath placeholder(const Symbol& symbol)
     return path;
 }
 
-struct Family {
-    ZENTRA::API::symbol_type type;
-    SymbolFamily family;
-    Shape shape;
-};
+using Draw = QPainterPath (*)(const Symbol&);
 
-constexpr Family families[] = {
-    {ZENTRA::API::round, SymbolFamily::Round, ellipse},
-    {ZENTRA::API::square, SymbolFamily::Square, box},
-    {ZENTRA::API::rectangle, SymbolFamily::Rectangle, box},
-    {ZENTRA::API::oval, SymbolFamily::Oval, oval},
-    {ZENTRA::API::diamond, SymbolFamily::Diamond, diamond},
-    {ZENTRA::API::octagon, SymbolFamily::Octagon, octagon},
-    {ZENTRA::API::hexagon, SymbolFamily::Hexagon, hexagon},
-    {ZENTRA::API::triangle, SymbolFamily::Triangle, triangle},
-    {ZENTRA::API::ellipse, SymbolFamily::Ellipse, ellipse},
-    {ZENTRA::API::round_ring, SymbolFamily::RoundRing, roundRing},
-    {ZENTRA::API::square_ring, SymbolFamily::SquareRing, squareRing},
-    {ZENTRA::API::user, SymbolFamily::Special, placeholder},
+/// In the order of SymbolShape.
+constexpr Draw drawings[] = {
+    ellipse, box,      box,     oval,      diamond,    octagon,
+    hexagon, triangle, ellipse, roundRing, squareRing, placeholder,
 };
 
 Symbol special()
@@ -153,19 +139,14 @@ Symbol special()
     return symbol;
 }
 
-bool isRing(SymbolFamily family)
-{
-    return family == SymbolFamily::RoundRing || family == SymbolFamily::SquareRing;
-}
-
 /// The cut of the corners where the name gives none: that of a regular polygon, if it is as wide
 /// as it is high.
 double regularCut(const Symbol& symbol)
 {
-    if (symbol.family == SymbolFamily::Octagon) {
+    if (symbol.shape == SymbolShape::Octagon) {
         return std::min(symbol.width, symbol.height) / (2 + std::sqrt(2.0));
     }
-    return symbol.family == SymbolFamily::Hexagon ? symbol.width / 4 : 0;
+    return symbol.shape == SymbolShape::Hexagon ? symbol.width / 4 : 0;
 }
 
 std::vector<double> micrometres(const QStringList& sizes)
@@ -190,20 +171,17 @@ Symbol parseSymbol(const QString& name)
         return special();
     }
     Symbol symbol;
-    for (const Family& family : families) {
-        if (family.type == parsed->type) {
-            symbol.family = family.family;
-        }
-    }
+    symbol.shape = parsed->shape;
     symbol.width = sizes.front();
-    symbol.height = sizes.size() > 1 && !isRing(symbol.family) ? sizes[1] : sizes.front();
-    if (isRing(symbol.family)) {
+    symbol.height =
+        sizes.size() > 1 && !CanvasHost::isRing(symbol.shape) ? sizes[1] : sizes.front();
+    if (CanvasHost::isRing(symbol.shape)) {
         symbol.detail = sizes[1];
         if (!(symbol.detail < symbol.width)) {
             return special();
         }
     } else {
-        const double most = symbol.family == SymbolFamily::Hexagon
+        const double most = symbol.shape == SymbolShape::Hexagon
                                 ? symbol.width / 2
                                 : std::min(symbol.width, symbol.height) / 2;
         symbol.detail = std::min(sizes.size() > 2 ? sizes[2] : regularCut(symbol), most);
@@ -214,12 +192,8 @@ Symbol parseSymbol(const QString& name)
 
 QPainterPath symbolShape(const Symbol& symbol)
 {
-    for (const Family& family : families) {
-        if (family.family == symbol.family) {
-            return QTransform().rotate(symbol.rotation).map(family.shape(symbol));
-        }
-    }
-    return placeholder(symbol);
+    const Draw draw = drawings[static_cast<int>(symbol.shape)];
+    return QTransform().rotate(symbol.rotation).map(draw(symbol));
 }
 
 QPainterPath symbolShape(const QString& name)

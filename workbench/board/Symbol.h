@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SymbolNames.h>
+
 #include <QPainterPath>
 #include <QString>
 
@@ -7,24 +9,11 @@
 
 namespace Pcb {
 
-enum class SymbolFamily {
-    Round,
-    Square,
-    Rectangle,
-    Oval,
-    Diamond,
-    Octagon,
-    Hexagon,
-    Triangle,
-    Ellipse,
-    RoundRing,
-    SquareRing,
-    Special,  ///< a name without sizes in it, drawn as a placeholder
-};
+using CanvasHost::SymbolShape;
 
-/// What the name of a symbol says.
+/// What the name of a symbol says. A special one is drawn as a placeholder.
 struct Symbol {
-    SymbolFamily family = SymbolFamily::Special;
+    SymbolShape shape = SymbolShape::Special;
     double width = 0;     ///< micrometres
     double height = 0;    ///< micrometres
     double detail = 0;    ///< micrometres: cut of a corner, or inner size of a ring

@@ -3,6 +3,9 @@
 #include "board/FeatureJson.h"
 
 namespace Pcb {
+
+using CanvasHost::JsonNode;
+
 namespace {
 
 const QStringList formats = {QStringLiteral("string"), QStringLiteral("barcode"),

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "board/JsonNode.h"
 #include "board/TextShape.h"
+
+#include <Json.h>
 
 #include <QJsonObject>
 
@@ -9,8 +10,8 @@ namespace Pcb {
 
 QJsonObject toJsonText(const TextSpec& text);
 
-/// Throws a JsonFault. "format" and "content" must be there, the rest has the values of an
+/// Throws a FileError. "format" and "content" must be there, the rest has the values of an
 /// untouched TextSpec.
-TextSpec textFromJson(const JsonNode& node);
+TextSpec textFromJson(const CanvasHost::JsonNode& node);
 
 }  // namespace Pcb

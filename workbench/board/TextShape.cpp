@@ -1,7 +1,6 @@
 #include "board/TextShape.h"
 
-#include "board/Barcode.h"
-#include "board/DataMatrix.h"
+#include "board/Codes.h"
 #include "board/Paths.h"
 #include "board/StrokeFont.h"
 
@@ -49,53 +48,36 @@ double widthOfString(const QString& text, const CharacterSize& size)
     return text.isEmpty() ? 0 : column * (columnsOfAdvance * text.size() - 2);
 }
 
-struct Code {
+/// A code in its place, the corner of its box at the origin.
+struct PlacedCode {
     QPainterPath bars;
     QRectF box;
     double quiet = 0;
 };
 
-Code linearCode(BarcodeType type, const QString& text, double height)
+/// Bars that touch are one area, so that nothing gapes between them.
+PlacedCode placed(const Code& code, bool isMatrix, double height)
 {
-    const double narrow = height / narrowBarsOfHeight;
-    Code code;
-    double x = 0;
-    bool isBar = true;
-    for (const int width : linearBarcode(type, text)) {
-        if (isBar) {
-            code.bars.addRect(x, 0, width * narrow, height);
-        }
-        x += width * narrow;
-        isBar = !isBar;
-    }
-    code.box = QRectF(0, 0, x, height);
-    code.quiet = quietBars * narrow;
-    return code;
-}
-
-/// Dark modules that stand side by side are one bar, so that nothing gapes between them.
-Code matrixCode(const QString& text, const QString& matrix, double height)
-{
-    const Modules modules = dataMatrix(text, matrix);
-    const int side = modules.size();
-    const double step = height / side;
-    Code code;
-    for (int row = 0; row < side; ++row) {
-        const double y = (side - 1 - row) * step;
-        for (int column = 0; column < side; ++column) {
+    const int count = code.rows.size();
+    const double step = isMatrix ? height / count : height / narrowBarsOfHeight;
+    const double heightOfRow = height / count;
+    const int width = code.rows.first().size();
+    QPainterPath bars;
+    for (int row = 0; row < count; ++row) {
+        const QVector<bool>& modules = code.rows.at(row);
+        for (int column = 0; column < width; ++column) {
             const int first = column;
-            while (column < side && modules.at(row).at(column)) {
+            while (column < width && modules.at(column)) {
                 ++column;
             }
             if (column > first) {
-                code.bars.addRect(first * step, y, (column - first) * step, step);
+                bars.addRect(first * step, (count - 1 - row) * heightOfRow, (column - first) * step,
+                             heightOfRow);
             }
         }
     }
-    code.bars = code.bars.simplified();
-    code.box = QRectF(0, 0, height, height);
-    code.quiet = quietModules * step;
-    return code;
+    return {isMatrix ? bars.simplified() : bars, QRectF(0, 0, width * step, height),
+            (isMatrix ? quietModules : quietBars) * step};
 }
 
 /// An angle in each corner of the quiet zone, as thick as a quarter of it.
@@ -131,7 +113,7 @@ TextDrawing drawString(const TextSpec& text)
     return drawing;
 }
 
-void addReadableString(TextDrawing& drawing, const TextSpec& text, const Code& code)
+void addReadableString(TextDrawing& drawing, const TextSpec& text, const PlacedCode& code)
 {
     const double height = text.barcodeHeight * stringOfHeight;
     const CharacterSize size{height * 2 / 3, height};
@@ -145,8 +127,11 @@ void addReadableString(TextDrawing& drawing, const TextSpec& text, const Code& c
 TextDrawing drawBarcode(const TextSpec& text)
 {
     const bool isMatrix = text.barcode == BarcodeType::Matrix;
-    const Code code = isMatrix ? matrixCode(text.content, text.matrix, text.barcodeHeight)
-                               : linearCode(text.barcode, text.content, text.barcodeHeight);
+    const Code encoded = encode(text.barcode, text.content, text.matrix);
+    if (encoded.rows.isEmpty()) {
+        return {};
+    }
+    const PlacedCode code = placed(encoded, isMatrix, text.barcodeHeight);
     const QRectF zone = code.box.adjusted(-code.quiet, -code.quiet, code.quiet, code.quiet);
     TextDrawing drawing;
     drawing.areas = code.bars;
@@ -168,7 +153,10 @@ TextDrawing drawStamp(const TextSpec& text)
     const double height = stampHeight * text.stampFontSize * text.stampZoom;
     TextDrawing drawing;
     if (text.stampBarcode) {
-        drawing.areas = linearCode(BarcodeType::Code39, text.content, height * 2).bars;
+        const Code code = encode(BarcodeType::Code39, text.content);
+        if (!code.rows.isEmpty()) {
+            drawing.areas = placed(code, false, height * 2).bars;
+        }
         return drawing;
     }
     drawing.lineWidth = height * strokeOfHeight;
@@ -222,6 +210,16 @@ TextDrawing drawText(const TextSpec& given)
             break;
     }
     return drawString(text);
+}
+
+QString leftOut(const TextSpec& text)
+{
+    const QString content = text.content.left(longestText);
+    if (text.format == TextFormat::Barcode) {
+        return encode(text.barcode, content, text.matrix).leftOut;
+    }
+    const bool isBars = text.format == TextFormat::PlotStamp && text.stampBarcode;
+    return isBars ? encode(BarcodeType::Code39, content).leftOut : QString();
 }
 
 QPainterPath coveredBy(const TextDrawing& drawing)

@@ -51,6 +51,9 @@ constexpr int longestText = 256;
 
 TextDrawing drawText(const TextSpec& text);
 
+/// The characters that the text's code cannot carry; empty for a text that is no code.
+QString leftOut(const TextSpec& text);
+
 /// The area of a drawing: its strokes and its areas.
 QPainterPath coveredBy(const TextDrawing& drawing);
 

@@ -1,11 +1,12 @@
 #include "compose/ComposeDialog.h"
 
-#include "HostName.h"
 #include "compose/FaultMark.h"
 #include "compose/PayloadTable.h"
+#include "messages/HostState.h"
 #include "messages/MessageNames.h"
-#include "session/MessageWords.h"
-#include "window/HostState.h"
+#include "messages/MessageWords.h"
+
+#include <PluginManagerStandIn.h>
 
 #include <QComboBox>
 #include <QEvent>
@@ -110,7 +111,7 @@ void ComposeDialog::createCode()
             QStringLiteral("%1 %2").arg(row.code).arg(QLatin1String(row.name)));
     }
     m_pComposeSenderTitleLB = named(new QLabel(this), "m_pComposeSenderTitleLB");
-    m_pComposeSenderLE = named(new QLineEdit(hostName, this), "m_pComposeSenderLE");
+    m_pComposeSenderLE = named(new QLineEdit(CanvasHost::hostName, this), "m_pComposeSenderLE");
     m_pComposeCodeTitleLB->setBuddy(m_pComposeCodeCMB);
     m_pComposeSenderTitleLB->setBuddy(m_pComposeSenderLE);
     auto* const row = new QHBoxLayout;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/HostMessage.h"
+#include "messages/HostMessage.h"
 
 #include <QDialog>
 

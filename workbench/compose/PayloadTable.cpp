@@ -1,7 +1,7 @@
 #include "compose/PayloadTable.h"
 
 #include "compose/FaultMark.h"
-#include "session/MessageWords.h"
+#include "messages/MessageWords.h"
 
 #include <QComboBox>
 #include <QHeaderView>

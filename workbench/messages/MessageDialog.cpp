@@ -1,7 +1,7 @@
 #include "messages/MessageDialog.h"
 
+#include <RecordTable.h>
 #include "messages/MessageNames.h"
-#include "messages/RecordTable.h"
 
 #include <QApplication>
 #include <QClipboard>

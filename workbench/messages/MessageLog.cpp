@@ -1,8 +1,7 @@
 #include "messages/MessageLog.h"
 
-#include "messages/Values.h"
-
-#include <QSaveFile>
+#include <Files.h>
+#include <Values.h>
 
 MessageLog::MessageLog(QObject* parent) : QObject(parent)
 {
@@ -34,17 +33,11 @@ void MessageLog::clear()
     Q_EMIT cleared();
 }
 
-bool MessageLog::save(const QString& file, QString* error) const
+void MessageLog::save(const QString& file) const
 {
-    QSaveFile out(file);
-    if (out.open(QIODevice::WriteOnly)) {
-        for (const MessageRecord& message : m_messages) {
-            out.write(message.toJson() + '\n');
-        }
-        if (out.commit()) {
-            return true;
-        }
+    QByteArray trace;
+    for (const MessageRecord& message : m_messages) {
+        trace += message.toJson() + '\n';
     }
-    *error = out.errorString();
-    return false;
+    CanvasHost::writeWhole(file, trace);
 }

@@ -18,8 +18,8 @@ public:
     const std::vector<MessageRecord>& messages() const { return m_messages; }
     /// The next feature record is still compared with the one that went before.
     void clear();
-    /// Writes all messages as a trace. On failure `error` holds the reason.
-    bool save(const QString& file, QString* error) const;
+    /// Writes all messages as a trace. Throws a CanvasHost::FileError when it cannot be written.
+    void save(const QString& file) const;
 
 Q_SIGNALS:
     void appended(const MessageRecord& message);

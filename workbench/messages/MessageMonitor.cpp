@@ -1,10 +1,11 @@
 #include "messages/MessageMonitor.h"
 
+#include <FileError.h>
+#include <RecordTable.h>
 #include "messages/MessageDialog.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
-#include "messages/RecordTable.h"
 
 #include <QEvent>
 #include <QFileDialog>
@@ -194,9 +195,14 @@ void MessageMonitor::saveTrace()
     const QString file =
         QFileDialog::getSaveFileName(this, tr("Save Trace"), QStringLiteral("messages.jsonl"),
                                      tr("Message traces (*.jsonl);;All files (*)"));
-    QString error;
-    if (!file.isEmpty() && !m_log->save(file, &error)) {
-        QMessageBox::warning(this, tr("Save Trace"), tr("%1 was not saved: %2").arg(file, error));
+    if (file.isEmpty()) {
+        return;
+    }
+    try {
+        m_log->save(file);
+    } catch (const CanvasHost::FileError& error) {
+        QMessageBox::warning(this, tr("Save Trace"),
+                             tr("%1 was not saved: %2").arg(file, error.reason));
     }
 }
 

@@ -1,8 +1,9 @@
 #include "messages/MessageNames.h"
 
-#include "HostName.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+
+#include <PluginManagerStandIn.h>
 
 #include <QCoreApplication>
 
@@ -118,7 +119,7 @@ const std::vector<Row>& rowsOf(const QString& receiver)
     if (receiver == ModuleNames::toolStrip) {
         return acceptedRows;
     }
-    return receiver == hostName ? hostRows : sentRows;
+    return receiver == CanvasHost::hostName ? hostRows : sentRows;
 }
 
 const Row* findIn(const std::vector<Row>& rows, int code)

@@ -1,7 +1,7 @@
 #include "messages/MessageRecord.h"
 
+#include <Values.h>
 #include "messages/MessageNames.h"
-#include "messages/Values.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"

@@ -1,9 +1,13 @@
 #include "messages/MessageTrace.h"
 
-bool MessageTrace::open(const QString& file)
+#include <FileError.h>
+
+void MessageTrace::open(const QString& file)
 {
     m_file.setFileName(file);
-    return m_file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        throw CanvasHost::FileError{file, 0, m_file.errorString()};
+    }
 }
 
 void MessageTrace::append(const MessageRecord& message)

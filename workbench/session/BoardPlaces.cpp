@@ -1,5 +1,7 @@
 #include "session/BoardPlaces.h"
 
+#include <UiApiStandIn.h>
+
 #include <QMetaObject>
 #include <QWidget>
 
@@ -7,12 +9,6 @@
 
 namespace BoardPlaces {
 namespace {
-
-struct Unit {
-    const char* suffix;
-    double micrometres;
-};
-constexpr Unit units[] = {{"um", 1.0}, {"mm", 1000.0}, {"mil", 25.4}, {"inch", 25400.0}};
 
 bool offers(const QWidget* canvas, const char* signature)
 {
@@ -36,19 +32,15 @@ QString number(double value)
 
 const QString canvasName = QStringLiteral("m_pBoardView");
 
-bool toWidget(const QWidget* canvas, const QPointF& place, QPoint* position, QString* reason)
+std::optional<QPoint> toWidget(const QWidget* canvas, const QPointF& place)
 {
-    if (!offers(canvas, "viewPoint(double,double)") ||
-        !QMetaObject::invokeMethod(const_cast<QWidget*>(canvas), "viewPoint", Qt::DirectConnection,
-                                   Q_RETURN_ARG(QPoint, *position), Q_ARG(double, place.x()),
-                                   Q_ARG(double, place.y()))) {
-        *reason = QStringLiteral(
-                      "\"%1\" does not know places on the board: it has no method "
-                      "viewPoint(double,double)")
-                      .arg(canvas->objectName());
-        return false;
-    }
-    return true;
+    QPoint position;
+    const bool known =
+        offers(canvas, "viewPoint(double,double)") &&
+        QMetaObject::invokeMethod(const_cast<QWidget*>(canvas), "viewPoint", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QPoint, position), Q_ARG(double, place.x()),
+                                  Q_ARG(double, place.y()));
+    return known ? std::optional<QPoint>(position) : std::nullopt;
 }
 
 bool toBoard(const QWidget* canvas, const QPoint& position, QPointF* place)
@@ -63,8 +55,8 @@ bool readLength(const QString& text, double* micrometres)
 {
     double factor = 1.0;
     QString digits = text;
-    for (const Unit& unit : units) {
-        const QLatin1String suffix(unit.suffix);
+    for (const CanvasHost::LengthUnit& unit : CanvasHost::lengthUnits()) {
+        const QLatin1String suffix(unit.name);
         if (text.endsWith(suffix)) {
             factor = unit.micrometres;
             digits = text.chopped(suffix.size());

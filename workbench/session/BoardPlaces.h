@@ -4,6 +4,8 @@
 #include <QPointF>
 #include <QString>
 
+#include <optional>
+
 class QWidget;
 
 /// Places on the board that a canvas shows, in micrometres, y up. A canvas offers them by two
@@ -14,8 +16,8 @@ namespace BoardPlaces {
 /// The object name of the canvas.
 extern const QString canvasName;
 
-/// False, with a reason, for a widget that does not offer it.
-bool toWidget(const QWidget* canvas, const QPointF& place, QPoint* position, QString* reason);
+/// Nothing, or false, for a widget that does not offer it.
+std::optional<QPoint> toWidget(const QWidget* canvas, const QPointF& place);
 bool toBoard(const QWidget* canvas, const QPoint& position, QPointF* place);
 
 /// A length with a unit (um, mm, mil, inch; um when absent) in micrometres; false for none.

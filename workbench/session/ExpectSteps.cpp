@@ -11,185 +11,104 @@ namespace {
 
 constexpr int settleTime = 60;  // milliseconds in which a late message would have come
 
-/// "key=value" apart; false without a key.
-bool takePair(const QString& word, QString* key, QString* value)
+QString fault(const QString& wanted, const QString& got)
 {
-    const int equals = word.indexOf(QLatin1Char('='));
-    *key = word.left(equals);
-    *value = word.mid(equals + 1);
-    return equals > 0;
-}
-
-StepResult expected(StepResult::Kind kind, const QString& wanted, const QString& got)
-{
-    return {kind, QStringLiteral("expected %1, got %2").arg(wanted, got)};
-}
-
-QString checkMessage(const QStringList& words)
-{
-    MessageExpectation expectation;
-    QString reason;
-    MessageExpectation::read(words, &expectation, &reason);
-    return reason;
-}
-
-QString checkNothing(const QStringList& words)
-{
-    return words.isEmpty() ? QString() : QStringLiteral("nothing follows \"nothing\"");
-}
-
-QString checkState(const QStringList& words)
-{
-    if (words.size() < 2) {
-        return QStringLiteral("usage: expect state NAME PROPERTY=VALUE ...");
-    }
-    for (const QString& word : words.mid(1)) {
-        QString property;
-        QString value;
-        if (!takePair(word, &property, &value)) {
-            return QStringLiteral("\"%1\" is no state PROPERTY=VALUE").arg(word);
-        }
-    }
-    return {};
+    return QStringLiteral("expected %1, got %2").arg(wanted, got);
 }
 
 StepActionList expectMessage(const QStringList& words)
 {
-    MessageExpectation expectation;
-    QString reason;
-    MessageExpectation::read(words, &expectation, &reason);
-    return {[expectation](const StepContext& context) -> StepResult {
-        if (context.sent->take(expectation)) {
-            return {};
+    return {[expectation = MessageExpectation::read(words)](StepContext& context) {
+        if (!context.sent->take(expectation)) {
+            notYet(fault(expectation.text(), context.sent->insteadOf(expectation)));
         }
-        return expected(StepResult::Again, expectation.text(),
-                        context.sent->insteadOf(expectation));
     }};
 }
 
-StepActionList expectNothing(const QStringList&)
+StepActionList expectNothing(const QStringList& words)
 {
-    return {[](const StepContext&) {
-                return StepResult{StepResult::Done, {}, settleTime};
-            },
-            [](const StepContext& context) -> StepResult {
-                if (context.sent->isEmpty()) {
-                    return {};
+    if (!words.isEmpty()) {
+        malformed(QStringLiteral("nothing follows \"nothing\""));
+    }
+    return {[](StepContext& context) { context.pause = settleTime; },
+            [](StepContext& context) {
+                if (!context.sent->isEmpty()) {
+                    never(fault(QStringLiteral("no further message"), context.sent->text()));
                 }
-                return expected(StepResult::Failed, QStringLiteral("no further message"),
-                                context.sent->text());
             }};
 }
 
 StepAction expectProperty(const QString& name, const QString& property, const QString& value)
 {
-    return [=](const StepContext&) -> StepResult {
-        StepResult result;
+    return [=](StepContext&) {
         const QString wanted = QStringLiteral("%1=\"%2\" of \"%3\"").arg(property, value, name);
-        const QWidget* const widget = StepReach::find(name, &result);
-        if (!widget) {
-            return expected(StepResult::Again, wanted, result.reason);
+        const QWidget* widget = nullptr;
+        try {
+            widget = StepReach::find(name);
+        } catch (const StepFault& absent) {
+            notYet(fault(wanted, absent.reason));
         }
-        QString got;
-        QString reason;
-        if (!WidgetState::read(widget, property, &got, &reason)) {
-            return StepReach::failed(reason);
+        const QString got = WidgetState::read(widget, property);
+        if (got != value) {
+            notYet(fault(wanted, QStringLiteral("\"%1\"").arg(got)));
         }
-        return got == value
-                   ? StepResult{}
-                   : expected(StepResult::Again, wanted, QStringLiteral("\"%1\"").arg(got));
     };
 }
 
 StepActionList expectState(const QStringList& words)
 {
+    if (words.size() < 2) {
+        malformed(QStringLiteral("usage: expect state NAME PROPERTY=VALUE ..."));
+    }
     StepActionList actions;
     for (const QString& word : words.mid(1)) {
-        QString property;
-        QString value;
-        takePair(word, &property, &value);
-        actions.push_back(expectProperty(words[0], property, value));
+        const int equals = word.indexOf(QLatin1Char('='));
+        if (equals < 1) {
+            malformed(QStringLiteral("\"%1\" is no state PROPERTY=VALUE").arg(word));
+        }
+        actions.push_back(expectProperty(words[0], word.left(equals), word.mid(equals + 1)));
     }
     return actions;
 }
 
-/// What can be expected.
-struct Kind {
-    const char* name;
-    QString (*check)(const QStringList& words);
-    StepActionList (*actions)(const QStringList& words);
-};
-constexpr Kind kinds[] = {{"message", checkMessage, expectMessage},
-                          {"nothing", checkNothing, expectNothing},
-                          {"state", checkState, expectState}};
-
-const Kind* kindOf(const QString& name)
-{
-    for (const Kind& kind : kinds) {
-        if (name == QLatin1String(kind.name)) {
-            return &kind;
-        }
-    }
-    return nullptr;
-}
-
-/// False, with a reason, for words that are no expectation of a box.
-bool readBox(const QStringList& words, BoxExpectation* box, QString* reason)
-{
-    box->accept = words[0] == QLatin1String("accept");
-    if (!box->accept && words[0] != QLatin1String("reject")) {
-        *reason = QStringLiteral("\"%1\" is no answer; known are accept, reject").arg(words[0]);
-        return false;
-    }
-    for (const QString& word : words.mid(1)) {
-        QString key;
-        QString value;
-        takePair(word, &key, &value);
-        if (key == QLatin1String("title")) {
-            box->title = value;
-        } else if (key == QLatin1String("text")) {
-            box->text = value;
-        } else {
-            *reason = QStringLiteral("\"%1\" is neither title=... nor text=...").arg(word);
-            return false;
-        }
-    }
-    return true;
-}
-
 }  // namespace
 
-QString checkExpect(const QStringList& arguments)
+StepActionList expect(const QStringList& words)
 {
-    const Kind* const kind = kindOf(arguments[0]);
-    return kind ? kind->check(arguments.mid(1))
-                : QStringLiteral("\"%1\" cannot be expected; known are message, nothing, state")
-                      .arg(arguments[0]);
+    const QStringList rest = words.mid(2);
+    if (words[1] == QLatin1String("message")) {
+        return expectMessage(rest);
+    }
+    if (words[1] == QLatin1String("nothing")) {
+        return expectNothing(rest);
+    }
+    if (words[1] == QLatin1String("state")) {
+        return expectState(rest);
+    }
+    malformed(QStringLiteral("\"%1\" cannot be expected; known are message, nothing, state")
+                  .arg(words[1]));
 }
 
-QString checkBox(const QStringList& arguments)
+StepActionList box(const QStringList& words)
 {
     BoxExpectation box;
-    QString reason;
-    readBox(arguments, &box, &reason);
-    return reason;
-}
-
-StepActionList expect(const QStringList& arguments)
-{
-    return kindOf(arguments[0])->actions(arguments.mid(1));
-}
-
-StepActionList box(const QStringList& arguments)
-{
-    BoxExpectation box;
-    QString reason;
-    readBox(arguments, &box, &reason);
-    return {[box](const StepContext& context) {
-        BoxExpectation here = box;
-        here.line = context.line;
-        context.boxes->expect(here);
-        return StepResult{};
+    box.accept = words[1] == QLatin1String("accept");
+    if (!box.accept && words[1] != QLatin1String("reject")) {
+        malformed(QStringLiteral("\"%1\" is no answer; known are accept, reject").arg(words[1]));
+    }
+    for (const QString& word : words.mid(2)) {
+        const QString value = word.section(QLatin1Char('='), 1);
+        if (word.startsWith(QLatin1String("title="))) {
+            box.title = value;
+        } else if (word.startsWith(QLatin1String("text="))) {
+            box.text = value;
+        } else {
+            malformed(QStringLiteral("\"%1\" is neither title=... nor text=...").arg(word));
+        }
+    }
+    return {[box](StepContext& context) mutable {
+        box.line = context.line;
+        context.boxes->expect(box);
     }};
 }
 

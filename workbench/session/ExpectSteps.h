@@ -1,17 +1,15 @@
 #pragma once
 
-#include "session/StepTable.h"
+#include "session/Step.h"
 
-/// The steps that expect something: what their words must be, and the actions that they are made
-/// of.
+#include <QStringList>
+
+/// The steps that expect something. Each reads the words of its line, its own name first.
 namespace ExpectSteps {
 
-/// "message CODE ...", "nothing" or "state NAME PROPERTY=VALUE ...".
-QString checkExpect(const QStringList& arguments);
+/// "message CODE ...", "nothing" or "state NAME PROPERTY=VALUE ..."
+StepActionList expect(const QStringList& words);
 /// "accept|reject [title=...] [text=...]"
-QString checkBox(const QStringList& arguments);
-
-StepActionList expect(const QStringList& arguments);
-StepActionList box(const QStringList& arguments);
+StepActionList box(const QStringList& words);
 
 }  // namespace ExpectSteps

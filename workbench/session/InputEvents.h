@@ -7,7 +7,8 @@
 class QWidget;
 
 /// Mouse and key events as a window system sends them: they go to the window, and Qt finds the
-/// widget. Each call returns when the events are handled.
+/// widget. Each call returns when the events are handled. By hand: Qt Test's functions go to a
+/// widget past the menus and boxes that would keep a user from it, and belong in no program.
 namespace InputEvents {
 
 /// `position` is in the coordinates of `widget`.

@@ -1,15 +1,15 @@
 #include "session/MessageExpectation.h"
 
-#include "messages/Values.h"
-#include "session/MessageWords.h"
+#include "messages/MessageWords.h"
+
+#include <FileError.h>
+#include <Values.h>
 
 #include <algorithm>
 
 namespace {
 
-using MessageNames::Extra;
-
-/// The value as a session writes it: "key=text", "key:int=7".
+/// The entry as a session writes it: "key=text", "key:int=7".
 QString entryText(const QString& key, const QVariant& value, bool typed)
 {
     static const QMap<QString, QString> types{
@@ -22,7 +22,13 @@ QString entryText(const QString& key, const QVariant& value, bool typed)
     return QStringLiteral("%1%2=%3").arg(key, type, value.toString());
 }
 
-QString objectText(const QMap<QString, QString>& object)
+QString extraText(qint64 number)
+{
+    return QStringLiteral("extra=%1").arg(number);
+}
+
+/// As MessageRecord::pointedAt has it.
+QString extraText(const QMap<QString, QString>& object)
 {
     QStringList pairs;
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
@@ -30,6 +36,29 @@ QString objectText(const QMap<QString, QString>& object)
                                            : entry.key() + QLatin1Char('=') + entry.value());
     }
     return QStringLiteral("extra={%1}").arg(pairs.join(QLatin1Char(',')));
+}
+
+QString extraText(const std::string& text)
+{
+    return extraText({{QString(), QString::fromStdString(text)}});
+}
+
+QString extraText(const HostMessage::Symbols& symbols)
+{
+    QMap<QString, QString> object;
+    for (const auto& [number, symbol] : symbols) {
+        object.insert(QString::number(number), QString::fromStdString(symbol));
+    }
+    return extraText(object);
+}
+
+QString extraText(const HostMessage::Attributes& attributes)
+{
+    QMap<QString, QString> object;
+    for (const auto& [name, value] : attributes) {
+        object.insert(QString::fromStdString(name), QString::fromStdString(value));
+    }
+    return extraText(object);
 }
 
 QString joined(int code, const QString& receiver, const QStringList& parts)
@@ -42,130 +71,92 @@ QString joined(int code, const QString& receiver, const QStringList& parts)
 
 }  // namespace
 
-bool MessageExpectation::read(const QStringList& words, MessageExpectation* expectation,
-                              QString* reason)
+MessageExpectation MessageExpectation::read(const QStringList& words)
 {
-    bool ok = false;
-    expectation->m_code = words.value(0).toInt(&ok);
-    if (!ok) {
-        *reason = QStringLiteral("\"%1\" is no message code").arg(words.value(0));
-        return false;
-    }
+    MessageExpectation expectation;
+    expectation.m_code = MessageWords::readCode(words.value(0));
     for (const QString& word : words.mid(1)) {
-        if (!expectation->readWord(word)) {
-            *reason = QStringLiteral("\"%1\" cannot be expected of a message").arg(word);
-            return false;
+        if (!expectation.readWord(word)) {
+            throw CanvasHost::FileError{
+                {}, 0, QStringLiteral("\"%1\" cannot be expected of a message").arg(word)};
         }
     }
-    return true;
+    std::stable_sort(expectation.m_parts.begin(), expectation.m_parts.end(),
+                     [](const Part& a, const Part& b) { return a.place < b.place; });
+    return expectation;
 }
 
 bool MessageExpectation::readWord(const QString& text)
 {
     MessageWords::Word word;
-    bool ok = MessageWords::take(text, &word);
-    if (!ok) {
+    if (!MessageWords::take(text, &word)) {
         return false;
     }
     if (word.key == QLatin1String("extra")) {
         return readExtra(word.type, word.value);
     }
+    bool ok = true;
     const bool plain = word.type.isEmpty();
     if (plain && word.key == QLatin1String("to")) {
         m_receiver = word.value;
     } else if (plain && word.key == QLatin1String("from")) {
-        m_sender = word.value;
+        m_parts.push_back(
+            {Part::Sender, QStringLiteral("from=") + word.value, [](const MessageRecord& message) {
+                 return QStringLiteral("from=") + message.sender;
+             }});
     } else if (plain && word.key == QLatin1String("total")) {
-        m_total = word.value.toInt(&ok);
+        const auto total = [](int count) { return QStringLiteral("total=%1").arg(count); };
+        m_parts.push_back(
+            {Part::Total, total(word.value.toInt(&ok)),
+             [total](const MessageRecord& message) { return total(message.payload.size()); }});
     } else {
         const QVariant value = MessageWords::payloadValue(word.type, word.value, &ok);
-        m_entries.append({word.key, word.type, word.value, value});
+        m_parts.push_back({Part::Entry, entryText(word.key, value, !plain),
+                           [key = word.key, plain](const MessageRecord& message) {
+                               return message.payload.contains(key)
+                                          ? entryText(key, message.payload[key], !plain)
+                                          : QStringLiteral("no %1").arg(key);
+                           }});
     }
     return ok;
 }
 
 bool MessageExpectation::readExtra(const QString& type, const QString& text)
 {
-    Extra kind = Extra::Number;
+    MessageNames::Extra kind = MessageNames::Extra::Number;
     HostMessage::ExtraWord extra;
     if (!MessageWords::extraKind(type, &kind) || !MessageWords::extraValue(kind, text, &extra)) {
         return false;
     }
-    QMap<QString, QString> object;
-    if (const auto* const number = std::get_if<qint64>(&extra)) {
-        m_extra = *number;
-        return true;
-    }
-    if (const auto* const string = std::get_if<std::string>(&extra)) {
-        object.insert(QString(), QString::fromStdString(*string));
-    } else if (const auto* const symbols = std::get_if<HostMessage::Symbols>(&extra)) {
-        for (const auto& [number, symbol] : *symbols) {
-            object.insert(QString::number(number), QString::fromStdString(symbol));
-        }
-    } else {
-        for (const auto& [name, value] : std::get<HostMessage::Attributes>(extra)) {
-            object.insert(QString::fromStdString(name), QString::fromStdString(value));
-        }
-    }
-    m_object = object;
+    m_parts.push_back(
+        {Part::Extra, std::visit([](const auto& value) { return extraText(value); }, extra),
+         [](const MessageRecord& message) {
+             return message.hasAddress() ? extraText(message.pointedAt) : extraText(message.extra);
+         }});
     return true;
 }
 
 bool MessageExpectation::matches(const MessageRecord& message) const
 {
-    const auto holds = [&](const Entry& entry) {
-        const auto found = message.payload.find(entry.key);
-        if (found == message.payload.end() || found->toString() != entry.value.toString()) {
-            return false;
-        }
-        return entry.type.isEmpty() || Values::typeName(*found) == Values::typeName(entry.value);
-    };
     return message.code == m_code && (m_receiver.isEmpty() || message.receiver == m_receiver) &&
-           (m_sender.isEmpty() || message.sender == m_sender) &&
-           (!m_extra || (!message.hasAddress() && message.extra == *m_extra)) &&
-           (!m_object || (message.hasAddress() && message.pointedAt == *m_object)) &&
-           (!m_total || message.payload.size() == *m_total) &&
-           std::all_of(m_entries.begin(), m_entries.end(), holds);
+           std::all_of(m_parts.begin(), m_parts.end(),
+                       [&](const Part& part) { return part.got(message) == part.wanted; });
 }
 
 QString MessageExpectation::text() const
 {
-    QStringList parts;
-    if (!m_sender.isEmpty()) {
-        parts.append(QStringLiteral("from=") + m_sender);
+    QStringList texts;
+    for (const Part& part : m_parts) {
+        texts.append(part.wanted);
     }
-    for (const Entry& entry : m_entries) {
-        parts.append(entryText(entry.key, entry.value, !entry.type.isEmpty()));
-    }
-    if (m_extra) {
-        parts.append(QStringLiteral("extra=%1").arg(*m_extra));
-    }
-    if (m_object) {
-        parts.append(objectText(*m_object));
-    }
-    if (m_total) {
-        parts.append(QStringLiteral("total=%1").arg(*m_total));
-    }
-    return joined(m_code, m_receiver, parts);
+    return joined(m_code, m_receiver, texts);
 }
 
 QString MessageExpectation::textOf(const MessageRecord& message) const
 {
-    QStringList parts;
-    if (!m_sender.isEmpty()) {
-        parts.append(QStringLiteral("from=") + message.sender);
+    QStringList texts;
+    for (const Part& part : m_parts) {
+        texts.append(part.got(message));
     }
-    for (const Entry& entry : m_entries) {
-        parts.append(message.payload.contains(entry.key)
-                         ? entryText(entry.key, message.payload[entry.key], !entry.type.isEmpty())
-                         : QStringLiteral("no %1").arg(entry.key));
-    }
-    if (m_extra || m_object) {
-        parts.append(message.hasAddress() ? objectText(message.pointedAt)
-                                          : QStringLiteral("extra=%1").arg(message.extra));
-    }
-    if (m_total) {
-        parts.append(QStringLiteral("total=%1").arg(message.payload.size()));
-    }
-    return joined(message.code, m_receiver.isEmpty() ? QString() : message.receiver, parts);
+    return joined(message.code, m_receiver.isEmpty() ? QString() : message.receiver, texts);
 }

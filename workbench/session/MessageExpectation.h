@@ -3,16 +3,16 @@
 #include "messages/MessageRecord.h"
 
 #include <QStringList>
-#include <QVector>
 
-#include <optional>
+#include <functional>
+#include <vector>
 
 /// What a session expects of a message that the module sends.
 class MessageExpectation {
 public:
     /// Of the words "CODE [to=RECEIVER] [from=SENDER] [key[:type]=value ...] [extra[:kind]=value]
-    /// [total=N]". False, with a reason, for words that are none.
-    static bool read(const QStringList& words, MessageExpectation* expectation, QString* reason);
+    /// [total=N]". Throws a CanvasHost::FileError without a place for words that are none.
+    static MessageExpectation read(const QStringList& words);
 
     bool matches(const MessageRecord& message) const;
     int code() const { return m_code; }
@@ -23,12 +23,12 @@ public:
     QString textOf(const MessageRecord& message) const;
 
 private:
-    /// An entry of the payload; without a type the value counts in any.
-    struct Entry {
-        QString key;
-        QString type;
-        QString text;
-        QVariant value;
+    /// A part of a message beside code and receiver, as a session writes it. It is as expected when
+    /// it reads the same.
+    struct Part {
+        enum Place { Sender, Entry, Extra, Total } place;  ///< the order in which parts are told
+        QString wanted;
+        std::function<QString(const MessageRecord&)> got;
     };
 
     bool readWord(const QString& text);
@@ -36,9 +36,5 @@ private:
 
     int m_code = -1;
     QString m_receiver;
-    QString m_sender;
-    QVector<Entry> m_entries;
-    std::optional<qint64> m_extra;
-    std::optional<QMap<QString, QString>> m_object;  ///< as MessageRecord::pointedAt
-    std::optional<int> m_total;                      ///< the number of entries of the payload
+    std::vector<Part> m_parts;
 };

@@ -1,10 +1,15 @@
 #include "session/MouseSteps.h"
 
 #include "session/BoardPlaces.h"
-#include "session/StepActions.h"
+#include "session/InputEvents.h"
+#include "session/StepReach.h"
+#include "session/WidgetSteps.h"
 
+#include <QCursor>
 #include <QHash>
+#include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 
 namespace MouseSteps {
@@ -12,248 +17,158 @@ namespace {
 
 using StepReach::Target;
 
-bool isWhole(const QString& word)
+/// What a step says beside its place.
+struct Extra {
+    Qt::MouseButton button = Qt::LeftButton;
+    double notches = 0;
+};
+
+/// What the mouse does in a step.
+struct MouseStep {
+    const char* name;
+    const char* boardUsage;
+    enum { Nothing, Button, Entry, Notches } extra;
+    enum { OrMiddle, Inside, Anywhere } place;  ///< on a widget OrMiddle may be left out
+    void (*act)(QWidget* widget, const QPoint& position, const Extra& extra);
+};
+
+constexpr MouseStep steps[] = {
+    {"click", "X Y", MouseStep::Nothing, MouseStep::OrMiddle,
+     [](QWidget* widget, const QPoint& position, const Extra&) {
+         InputEvents::click(widget, position);
+     }},
+    {"doubleclick", "X Y", MouseStep::Nothing, MouseStep::OrMiddle,
+     [](QWidget* widget, const QPoint& position, const Extra&) {
+         InputEvents::doubleClick(widget, position);
+     }},
+    {"rightclick", "X Y [ENTRY]", MouseStep::Entry, MouseStep::OrMiddle,
+     [](QWidget* widget, const QPoint& position, const Extra&) {
+         // A menu opens where the mouse stands.
+         QCursor::setPos(widget->mapToGlobal(position));
+         InputEvents::click(widget, position, Qt::RightButton);
+     }},
+    {"move", "X Y", MouseStep::Nothing, MouseStep::Anywhere,
+     [](QWidget* widget, const QPoint& position, const Extra&) {
+         InputEvents::move(widget, position);
+     }},
+    {"press", "X Y [BUTTON]", MouseStep::Button, MouseStep::Inside,
+     [](QWidget* widget, const QPoint& position, const Extra& extra) {
+         InputEvents::press(widget, position, extra.button);
+     }},
+    {"release", "X Y [BUTTON]", MouseStep::Button, MouseStep::Anywhere,
+     [](QWidget* widget, const QPoint& position, const Extra& extra) {
+         InputEvents::release(widget, position, extra.button);
+     }},
+    {"wheel", "X Y NOTCHES", MouseStep::Notches, MouseStep::OrMiddle,
+     [](QWidget* widget, const QPoint& position, const Extra& extra) {
+         InputEvents::wheel(widget, position, extra.notches);
+     }},
+};
+
+const MouseStep* find(const QString& name)
 {
-    bool ok = false;
-    word.toInt(&ok);
-    return ok;
+    const auto found = std::find_if(std::begin(steps), std::end(steps), [&](const MouseStep& step) {
+        return name == QLatin1String(step.name);
+    });
+    return found == std::end(steps) ? nullptr : found;
 }
 
-/// Whether a position begins at that word.
-bool hasPosition(const QStringList& words, int at)
-{
-    return words.size() > at + 1 && isWhole(words[at]) && isWhole(words[at + 1]);
-}
-
-QString positionFault()
-{
-    return QStringLiteral("a position is two whole numbers: x y");
-}
-
-/// Of the words "NAME [x y]".
-Target target(const QStringList& words)
-{
-    if (!hasPosition(words, 1)) {
-        return {words[0], Target::Centre};
-    }
-    return {words[0], Target::Pixels, QPointF(words[1].toInt(), words[2].toInt())};
-}
-
-Target leaving(Target target)
-{
-    target.mayLeave = true;
-    return target;
-}
-
-bool buttonOf(const QString& name, Qt::MouseButton* button)
+Extra readExtra(const MouseStep& step, const QString& word)
 {
     static const QHash<QString, Qt::MouseButton> buttons{
+        {QString(), Qt::LeftButton},
         {QStringLiteral("left"), Qt::LeftButton},
         {QStringLiteral("middle"), Qt::MiddleButton},
         {QStringLiteral("right"), Qt::RightButton}};
-    *button = buttons.value(name, Qt::LeftButton);
-    return buttons.contains(name);
-}
-
-Qt::MouseButton buttonOf(const QString& name)
-{
-    Qt::MouseButton button = Qt::LeftButton;
-    buttonOf(name, &button);
-    return button;
-}
-
-QString buttonFault(const QString& name)
-{
-    Qt::MouseButton button = Qt::LeftButton;
-    return name.isEmpty() || buttonOf(name, &button)
-               ? QString()
-               : QStringLiteral("\"%1\" is no button; known are left, middle, right").arg(name);
-}
-
-QString notchesFault(const QString& word)
-{
-    bool ok = false;
-    const double notches = word.toDouble(&ok);
-    return ok && std::abs(notches) <= 1000
-               ? QString()
-               : QStringLiteral("\"%1\" is no number of notches").arg(word);
-}
-
-using CanvasActions = StepActionList (*)(const Target& target, const QString& last);
-
-/// A step of the canvas: what follows the place, if anything may, and the actions.
-struct CanvasStep {
-    const char* name;
-    const char* usage;
-    enum { Nothing, Button, Entry, Notches } last;
-    CanvasActions actions;
-};
-
-StepActionList rightClickAt(const Target& target, const QString& entry)
-{
-    return {StepActions::rightClick(target),
-            entry.isEmpty() ? StepActions::dismissMenuIfAny() : StepActions::pickEntry(entry)};
-}
-
-const std::vector<CanvasStep>& canvasSteps()
-{
-    static const std::vector<CanvasStep> all{
-        {"click", "X Y", CanvasStep::Nothing,
-         [](const Target& target, const QString&) -> StepActionList {
-             return {StepActions::click(target)};
-         }},
-        {"doubleclick", "X Y", CanvasStep::Nothing,
-         [](const Target& target, const QString&) -> StepActionList {
-             return {StepActions::doubleClick(target)};
-         }},
-        {"rightclick", "X Y [ENTRY]", CanvasStep::Entry, rightClickAt},
-        {"move", "X Y", CanvasStep::Nothing,
-         [](const Target& target, const QString&) -> StepActionList {
-             return {StepActions::move(leaving(target))};
-         }},
-        {"press", "X Y [BUTTON]", CanvasStep::Button,
-         [](const Target& target, const QString& button) -> StepActionList {
-             return {StepActions::press(target, buttonOf(button))};
-         }},
-        {"release", "X Y [BUTTON]", CanvasStep::Button,
-         [](const Target& target, const QString& button) -> StepActionList {
-             return {StepActions::release(leaving(target), buttonOf(button))};
-         }},
-        {"wheel", "X Y NOTCHES", CanvasStep::Notches,
-         [](const Target& target, const QString& notches) -> StepActionList {
-             return {StepActions::wheel(target, notches.toDouble())};
-         }},
-    };
-    return all;
-}
-
-const CanvasStep* canvasStep(const QString& name)
-{
-    for (const CanvasStep& step : canvasSteps()) {
-        if (name == QLatin1String(step.name)) {
-            return &step;
+    Extra extra;
+    if (step.extra == MouseStep::Button) {
+        if (!buttons.contains(word)) {
+            malformed(
+                QStringLiteral("\"%1\" is no button; known are left, middle, right").arg(word));
+        }
+        extra.button = buttons.value(word);
+    } else if (step.extra == MouseStep::Notches) {
+        bool ok = false;
+        extra.notches = word.toDouble(&ok);
+        if (!ok || !(std::abs(extra.notches) <= 1000)) {
+            malformed(QStringLiteral("\"%1\" is no number of notches").arg(word));
         }
     }
-    return nullptr;
+    return extra;
 }
 
-QString canvasStepNames()
+/// `word` is what stands beside the place, if anything does.
+StepActionList actionsOf(const MouseStep& step, Target target, const QString& word)
 {
-    QStringList names;
-    for (const CanvasStep& step : canvasSteps()) {
-        names.append(QLatin1String(step.name));
+    target.mayLeave = step.place == MouseStep::Anywhere;
+    StepActionList actions{[act = step.act, target, extra = readExtra(step, word)](StepContext&) {
+        const StepReach::Place place = StepReach::reach(target);
+        act(place.widget, place.position, extra);
+    }};
+    if (step.extra == MouseStep::Entry) {
+        // The middle of a widget is clicked for its menu, a place perhaps for something else.
+        actions.push_back(word.isEmpty() ? WidgetSteps::dismissMenu(target.kind == Target::Centre)
+                                         : WidgetSteps::pickEntry(word));
     }
-    return names.join(QStringLiteral(", "));
+    return actions;
+}
+
+bool takePlace(QStringList* words, QPointF* place)
+{
+    bool xIsWhole = false;
+    bool yIsWhole = false;
+    *place = QPointF(words->value(0).toInt(&xIsWhole), words->value(1).toInt(&yIsWhole));
+    const bool found = xIsWhole && yIsWhole;
+    *words = words->mid(found ? 2 : 0);
+    return found;
+}
+
+double length(const QString& word)
+{
+    double micrometres = 0;
+    if (!BoardPlaces::readLength(word, &micrometres)) {
+        malformed(
+            QStringLiteral("\"%1\" is no length (a number, and um, mm, mil or inch)").arg(word));
+    }
+    return micrometres;
 }
 
 }  // namespace
 
-QString checkClick(const QStringList& arguments)
+StepActionList onWidget(const QStringList& words)
 {
-    const bool right =
-        arguments.size() == 1 || (arguments.size() == 3 && hasPosition(arguments, 1));
-    return right ? QString() : positionFault();
-}
-
-QString checkRightClick(const QStringList& arguments)
-{
-    return arguments.size() < 3 || hasPosition(arguments, 1) ? QString() : positionFault();
-}
-
-QString checkPress(const QStringList& arguments)
-{
-    return hasPosition(arguments, 1) ? buttonFault(arguments.value(3)) : positionFault();
-}
-
-QString checkMove(const QStringList& arguments)
-{
-    return hasPosition(arguments, 1) ? QString() : positionFault();
-}
-
-QString checkWheel(const QStringList& arguments)
-{
-    QString fault = notchesFault(arguments[1]);
-    if (!fault.isEmpty()) {
-        return fault;
+    const MouseStep& step = *find(words[0]);
+    Target target{words[1]};
+    const bool notches = step.extra == MouseStep::Notches;
+    QStringList rest = words.mid(notches ? 3 : 2);
+    if (takePlace(&rest, &target.place)) {
+        target.kind = Target::Pixels;
+    } else if (step.place != MouseStep::OrMiddle ||
+               rest.size() > (step.extra == MouseStep::Entry ? 1 : 0)) {
+        malformed(QStringLiteral("a position is two whole numbers: x y"));
     }
-    return arguments.size() == 2 || hasPosition(arguments, 2) ? QString() : positionFault();
+    return actionsOf(step, target, notches ? words[2] : rest.value(0));
 }
 
-QString checkCanvas(const QStringList& arguments)
+StepActionList onBoard(const QStringList& words)
 {
-    const CanvasStep* const step = canvasStep(arguments[0]);
+    const MouseStep* const step = find(words[1]);
     if (!step) {
-        return QStringLiteral("unknown step \"%1\" of the canvas; known are %2")
-            .arg(arguments[0], canvasStepNames());
-    }
-    for (const QString& word : arguments.mid(1, 2)) {
-        double length = 0;
-        if (!BoardPlaces::readLength(word, &length)) {
-            return QStringLiteral("\"%1\" is no length (a number, and um, mm, mil or inch)")
-                .arg(word);
+        QStringList names;
+        for (const MouseStep& known : steps) {
+            names.append(QLatin1String(known.name));
         }
+        malformed(QStringLiteral("unknown step \"%1\" of the canvas; known are %2")
+                      .arg(words[1], names.join(QStringLiteral(", "))));
     }
-    const QString last = arguments.value(3);
-    const bool missing = step->last == CanvasStep::Notches && arguments.size() < 4;
-    if (missing || (step->last == CanvasStep::Nothing && arguments.size() > 3)) {
-        return QStringLiteral("wrong number of words; usage: canvas %1 %2")
-            .arg(QLatin1String(step->name), QLatin1String(step->usage));
+    const QPointF place(length(words[2]), length(words[3]));
+    const int extras = words.size() - 4;
+    if ((step->extra == MouseStep::Nothing && extras > 0) ||
+        (step->extra == MouseStep::Notches && extras == 0)) {
+        malformed(QStringLiteral("wrong number of words; usage: canvas %1 %2")
+                      .arg(QLatin1String(step->name), QLatin1String(step->boardUsage)));
     }
-    if (step->last == CanvasStep::Notches) {
-        return notchesFault(last);
-    }
-    return step->last == CanvasStep::Button ? buttonFault(last) : QString();
-}
-
-StepActionList click(const QStringList& arguments)
-{
-    return {StepActions::click(target(arguments))};
-}
-
-StepActionList doubleClick(const QStringList& arguments)
-{
-    return {StepActions::doubleClick(target(arguments))};
-}
-
-StepActionList rightClick(const QStringList& arguments)
-{
-    if (hasPosition(arguments, 1)) {
-        return rightClickAt(target(arguments), arguments.value(3));
-    }
-    return {StepActions::rightClick(target(arguments)), arguments.size() > 1
-                                                            ? StepActions::pickEntry(arguments[1])
-                                                            : StepActions::dismissMenu()};
-}
-
-StepActionList press(const QStringList& arguments)
-{
-    return {StepActions::press(target(arguments), buttonOf(arguments.value(3)))};
-}
-
-StepActionList move(const QStringList& arguments)
-{
-    return {StepActions::move(leaving(target(arguments)))};
-}
-
-StepActionList release(const QStringList& arguments)
-{
-    return {StepActions::release(leaving(target(arguments)), buttonOf(arguments.value(3)))};
-}
-
-StepActionList wheel(const QStringList& arguments)
-{
-    QStringList place = arguments;
-    place.removeAt(1);
-    return {StepActions::wheel(target(place), arguments[1].toDouble())};
-}
-
-StepActionList canvas(const QStringList& arguments)
-{
-    QPointF place;
-    BoardPlaces::readLength(arguments[1], &place.rx());
-    BoardPlaces::readLength(arguments[2], &place.ry());
-    return canvasStep(arguments[0])
-        ->actions({BoardPlaces::canvasName, Target::Board, place}, arguments.value(3));
+    return actionsOf(*step, {BoardPlaces::canvasName, Target::Board, place}, words.value(4));
 }
 
 }  // namespace MouseSteps

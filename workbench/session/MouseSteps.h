@@ -1,24 +1,15 @@
 #pragma once
 
-#include "session/StepTable.h"
+#include "session/Step.h"
 
-/// The steps of the mouse: what their words must be, and the actions that they are made of.
+#include <QStringList>
+
+/// The steps of the mouse. Each does the same on a widget and at a place on the board.
 namespace MouseSteps {
 
-QString checkClick(const QStringList& arguments);
-QString checkRightClick(const QStringList& arguments);
-QString checkPress(const QStringList& arguments);
-QString checkMove(const QStringList& arguments);
-QString checkWheel(const QStringList& arguments);
-QString checkCanvas(const QStringList& arguments);
-
-StepActionList click(const QStringList& arguments);
-StepActionList doubleClick(const QStringList& arguments);
-StepActionList rightClick(const QStringList& arguments);
-StepActionList press(const QStringList& arguments);
-StepActionList move(const QStringList& arguments);
-StepActionList release(const QStringList& arguments);
-StepActionList wheel(const QStringList& arguments);
-StepActionList canvas(const QStringList& arguments);
+/// "STEP NAME [x y] [...]", pixels of the widget; its middle without a place.
+StepActionList onWidget(const QStringList& words);
+/// "canvas STEP X Y [...]", lengths on the board.
+StepActionList onBoard(const QStringList& words);
 
 }  // namespace MouseSteps

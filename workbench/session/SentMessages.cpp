@@ -1,6 +1,5 @@
 #include "session/SentMessages.h"
 
-#include "HostName.h"
 #include "messages/MessageLog.h"
 #include "plugin/ModuleNames.h"
 #include "session/MessageExpectation.h"
@@ -12,7 +11,7 @@ namespace {
 bool isFromModule(const MessageRecord& message)
 {
     // By who else sends: the module writes more than one name as its own.
-    return message.receiver != ModuleNames::toolStrip && message.sender != hostName &&
+    return message.receiver != ModuleNames::toolStrip && message.sender != CanvasHost::hostName &&
            message.sender != ModuleNames::viewer && message.sender != ModuleNames::jobTree;
 }
 

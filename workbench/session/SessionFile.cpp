@@ -1,5 +1,7 @@
 #include "session/SessionFile.h"
 
+#include <FileError.h>
+
 namespace {
 
 bool isPlain(const QString& word)
@@ -22,15 +24,13 @@ QString quoted(QString text)
 
 }  // namespace
 
-bool SessionFile::open(const QString& file, QString* error)
+void SessionFile::open(const QString& file)
 {
     m_file.close();
     m_file.setFileName(file);
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        *error = m_file.errorString();
-        return false;
+        throw CanvasHost::FileError{file, 0, m_file.errorString()};
     }
-    return true;
 }
 
 void SessionFile::append(const QStringList& words)

@@ -7,8 +7,8 @@
 /// amended, so that what is typed becomes one step and yet survives whatever comes after.
 class SessionFile {
 public:
-    /// Empties `file`, or makes it. False, with a reason, when it cannot be written.
-    bool open(const QString& file, QString* error);
+    /// Empties `file`, or makes it. Throws a CanvasHost::FileError when it cannot be written.
+    void open(const QString& file);
 
     void append(const QStringList& words);
     /// A line that players pass over.

@@ -6,6 +6,8 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include <optional>
+
 namespace {
 
 constexpr int tickTime = 15;  // milliseconds
@@ -19,15 +21,11 @@ bool innerLoop()
 
 SessionPlayer::SessionPlayer(const Session& session, HostState* host, QWidget* window,
                              const MessageLog* log, QObject* parent)
-    : QObject(parent),
-      m_file(session.file),
-      m_log(log),
-      m_context{host, window, &m_boxes, nullptr, 0}
+    : QObject(parent), m_file(session.file), m_log(log), m_context{host, window, &m_boxes, nullptr}
 {
     for (const SessionStep& step : session.steps) {
-        const StepKind* const kind = StepTable::find(step.command);
-        for (const StepAction& action : kind->actions(step.arguments)) {
-            m_entries.push_back({step.line, action, kind->answersBox});
+        for (const StepAction& action : step.actions) {
+            m_entries.push_back({step.line, action, step.answersBox});
         }
     }
 }
@@ -56,7 +54,7 @@ void SessionPlayer::tick()
         return;
     }
     // An action that has not returned goes on by itself, unless it waits in an inner loop.
-    if (m_waiting.elapsed() < m_pause || (m_running > 0 && !innerLoop())) {
+    if (m_waiting.elapsed() < m_context.pause || (m_running > 0 && !innerLoop())) {
         return;
     }
     if (m_entries.empty()) {
@@ -91,20 +89,24 @@ void SessionPlayer::runNext()
     const Entry entry = m_entries.front();
     m_entries.pop_front();
     m_line = entry.line;
-    m_pause = 0;
     m_context.line = entry.line;
+    m_context.pause = 0;
+    std::optional<StepFault> fault;
     ++m_running;
-    const StepResult result = entry.action(m_context);
+    try {
+        entry.action(m_context);
+    } catch (const StepFault& thrown) {
+        fault = thrown;
+    }
     --m_running;
     if (m_over) {
         return;
     }
-    if (result.kind == StepResult::Done) {
-        m_pause = qMax(m_pause, result.pause);
+    if (!fault) {
         m_waiting.restart();
-    } else if (result.kind == StepResult::Failed || waitedTooLong()) {
+    } else if (!fault->mayPass || waitedTooLong()) {
         m_line = entry.line;
-        fail(result.reason);
+        fail(fault->reason);
     } else {
         m_entries.push_front(entry);
     }
@@ -127,12 +129,12 @@ void SessionPlayer::tryToFinish()
 
 bool SessionPlayer::waitedTooLong() const
 {
-    return m_waiting.elapsed() > m_pause + m_patience;
+    return m_waiting.elapsed() > m_context.pause + m_patience;
 }
 
 QString SessionPlayer::at(const QString& text) const
 {
-    return QStringLiteral("%1:%2: %3").arg(m_file).arg(m_line).arg(text);
+    return CanvasHost::FileError{m_file, m_line, text}.text();
 }
 
 void SessionPlayer::fail(const QString& reason)

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "session/BoxAnswers.h"
-#include "session/Session.h"
-#include "session/StepTable.h"
+#include "session/Step.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -55,7 +54,6 @@ private:
     StepContext m_context;
     QElapsedTimer m_waiting;  ///< since the next action is due
     int m_patience = 3000;
-    int m_pause = 0;    ///< milliseconds before the next action
     int m_line = 0;     ///< of the action that was started last
     int m_running = 0;  ///< actions that were started and have not returned
     bool m_over = false;

@@ -128,17 +128,14 @@ SessionRecorder::SessionRecorder(QWidget* window, QObject* parent)
 {
 }
 
-bool SessionRecorder::start(const QString& file, QString* error)
+void SessionRecorder::start(const QString& file)
 {
-    if (!m_file.open(file, error)) {
-        return false;
-    }
+    m_file.open(file);
     m_file.comment(QStringLiteral("Recorded by hand."));
     qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* focus) { watchText(focus); });
     watchText(QApplication::focusWidget());
-    return true;
 }
 
 bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)

@@ -23,9 +23,9 @@ public:
     /// `window` is the host's; closing it is not a step. Not owned.
     explicit SessionRecorder(QWidget* window, QObject* parent = nullptr);
 
-    /// Records into `file` from now on, what was there is lost. False, with a reason, when it
-    /// cannot be written.
-    bool start(const QString& file, QString* error);
+    /// Records into `file` from now on, what was there is lost. Throws a CanvasHost::FileError when
+    /// it cannot be written.
+    void start(const QString& file);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -9,72 +9,54 @@
 namespace StepReach {
 namespace {
 
-bool positionOf(const Target& target, const QWidget* widget, QPoint* position, StepResult* result)
+QPoint onBoard(const QWidget* widget, const QPointF& place)
 {
-    QString reason;
-    switch (target.kind) {
-        case Target::Centre:
-            *position = widget->rect().center();
-            return true;
-        case Target::Pixels:
-            *position = target.place.toPoint();
-            break;
-        case Target::Board:
-            if (!BoardPlaces::toWidget(widget, target.place, position, &reason)) {
-                *result = failed(reason);
-                return false;
-            }
-            break;
+    const std::optional<QPoint> position = BoardPlaces::toWidget(widget, place);
+    if (!position) {
+        never(QStringLiteral("\"%1\" does not know places on the board: it has no method "
+                             "viewPoint(double,double)")
+                  .arg(widget->objectName()));
     }
-    if (target.mayLeave || widget->rect().contains(*position)) {
-        return true;
+    return *position;
+}
+
+QPoint positionOf(const Target& target, const QWidget* widget)
+{
+    if (target.kind == Target::Centre) {
+        return widget->rect().center();
     }
-    *result = target.kind == Target::Board
-                  ? failed(QStringLiteral("\"%1\" does not show %2")
-                               .arg(target.name, BoardPlaces::text(target.place)))
-                  : failed(QStringLiteral("\"%1\" is only %2 x %3 wide and high")
-                               .arg(target.name)
-                               .arg(widget->width())
-                               .arg(widget->height()));
-    return false;
+    const bool board = target.kind == Target::Board;
+    const QPoint position = board ? onBoard(widget, target.place) : target.place.toPoint();
+    if (!target.mayLeave && !widget->rect().contains(position)) {
+        never(board ? QStringLiteral("\"%1\" does not show %2")
+                          .arg(target.name, BoardPlaces::text(target.place))
+                    : QStringLiteral("\"%1\" is only %2 x %3 wide and high")
+                          .arg(target.name)
+                          .arg(widget->width())
+                          .arg(widget->height()));
+    }
+    return position;
 }
 
 }  // namespace
 
-StepResult again(const QString& reason)
-{
-    return {StepResult::Again, reason};
-}
-
-StepResult failed(const QString& reason)
-{
-    return {StepResult::Failed, reason};
-}
-
-QWidget* find(const QString& name, StepResult* result)
+QWidget* find(const QString& name)
 {
     QWidget* const widget = WidgetFinder::find(name);
     if (!widget) {
-        const QStringList similar = WidgetFinder::similarNames(name);
-        *result =
-            again(QStringLiteral("no widget \"%1\"%2")
-                      .arg(name, similar.isEmpty() ? QString()
-                                                   : QStringLiteral("; there is %1")
-                                                         .arg(similar.join(QStringLiteral(", ")))));
+        const QString similar = WidgetFinder::similarNames(name).join(QStringLiteral(", "));
+        notYet(QStringLiteral("no widget \"%1\"").arg(name) +
+               (similar.isEmpty() ? QString() : QStringLiteral("; there is ") + similar));
     }
     return widget;
 }
 
-QWidget* reach(const QString& name, StepResult* result)
+QWidget* reach(const QString& name)
 {
-    QWidget* const widget = find(name, result);
-    if (!widget) {
-        return nullptr;
-    }
+    QWidget* const widget = find(name);
     const QString obstacle = WidgetFinder::obstacle(widget);
     if (!obstacle.isEmpty()) {
-        *result = again(obstacle);
-        return nullptr;
+        notYet(obstacle);
     }
     // A window manager makes a window active when it is clicked. Menus and lists never are.
     QWidget* const window = widget->window();
@@ -86,20 +68,16 @@ QWidget* reach(const QString& name, StepResult* result)
     return widget;
 }
 
-QWidget* reach(const Target& target, QPoint* position, StepResult* result)
+Place reach(const Target& target)
 {
-    QWidget* const widget = reach(target.name, result);
-    if (!widget || !positionOf(target, widget, position, result)) {
-        return nullptr;
+    QWidget* const widget = reach(target.name);
+    const QPoint position = positionOf(target, widget);
+    const QWidget* const window = widget->window();
+    QWidget* const hit = window->childAt(widget->mapTo(window, position));
+    if (!target.mayLeave && widget != window && hit != widget && !widget->isAncestorOf(hit)) {
+        notYet(QStringLiteral("\"%1\" is covered or out of sight").arg(target.name));
     }
-    const QPoint inWindow = widget->mapTo(widget->window(), *position);
-    QWidget* const hit = widget->window()->childAt(inWindow);
-    if (!target.mayLeave && widget != widget->window() && hit != widget &&
-        !widget->isAncestorOf(hit)) {
-        *result = again(QStringLiteral("\"%1\" is covered or out of sight").arg(target.name));
-        return nullptr;
-    }
-    return widget;
+    return {widget, position};
 }
 
 }  // namespace StepReach

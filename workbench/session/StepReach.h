@@ -1,16 +1,17 @@
 #pragma once
 
-#include "session/StepTable.h"
+#include "session/Step.h"
 
 #include <QPoint>
 #include <QPointF>
 
 class QWidget;
 
-/// How the actions of a session find their widgets, and the place on them.
+/// How the actions of a session find their widgets, and the place on them. What cannot be found or
+/// reached is a StepFault.
 namespace StepReach {
 
-/// A place on a widget.
+/// Where the mouse is to be, as a session says it.
 struct Target {
     enum Kind {
         Centre,
@@ -23,14 +24,17 @@ struct Target {
     bool mayLeave = false;  ///< the place may be outside the widget: a drag leaves it
 };
 
-StepResult again(const QString& reason);
-StepResult failed(const QString& reason);
+/// Where that is now.
+struct Place {
+    QWidget* widget;
+    QPoint position;  ///< in the coordinates of the widget
+};
 
-/// The widget called `name`; null, with the reason, when there is none.
-QWidget* find(const QString& name, StepResult* result);
+/// The widget called `name`.
+QWidget* find(const QString& name);
 /// The same when a user could work on it now. Its window is made active.
-QWidget* reach(const QString& name, StepResult* result);
-/// The same, with the place of `target` in its coordinates, where the mouse could reach it.
-QWidget* reach(const Target& target, QPoint* position, StepResult* result);
+QWidget* reach(const QString& name);
+/// The same, and the place where the mouse could reach it.
+Place reach(const Target& target);
 
 }  // namespace StepReach

@@ -1,155 +1,70 @@
 #include "session/StepTable.h"
 
 #include "session/ExpectSteps.h"
-#include "session/InputEvents.h"
-#include "session/MessageWords.h"
 #include "session/MouseSteps.h"
-#include "session/StepActions.h"
-#include "window/HostState.h"
-
-#include <QFileInfo>
-#include <QImageWriter>
+#include "session/WidgetSteps.h"
 
 #include <algorithm>
 #include <climits>
 
 namespace {
 
-QString checkKey(const QStringList& arguments)
-{
-    return InputEvents::keyOfName(arguments[1]).isEmpty()
-               ? QStringLiteral("\"%1\" is no key").arg(arguments[1])
-               : QString();
-}
+struct Kind {
+    const char* name;
+    const char* usage;
+    int least;  ///< bounds of the number of words after the name
+    int most;
+    StepActionList (*parse)(const QStringList& words);
+    bool answersBox = false;
+};
 
-QString checkMessage(const QStringList& arguments)
-{
-    HostMessage message;
-    QString reason;
-    MessageWords::read(arguments, &message, &reason);
-    return reason;
-}
-
-QString checkPicture(const QStringList& arguments)
-{
-    static const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
-    const QByteArray suffix = QFileInfo(arguments[0]).suffix().toLower().toLatin1();
-    return formats.contains(suffix)
-               ? QString()
-               : QStringLiteral("\"%1\" does not end like a picture (.png)").arg(arguments[0]);
-}
-
-QString checkWait(const QStringList& arguments)
-{
-    bool ok = false;
-    const int milliseconds = arguments[0].toInt(&ok);
-    return ok && milliseconds >= 0
-               ? QString()
-               : QStringLiteral("\"%1\" is no time in milliseconds").arg(arguments[0]);
-}
-
-StepActionList typeActions(const QStringList& arguments)
-{
-    return {StepActions::type(arguments[0], arguments[1])};
-}
-
-StepActionList keyActions(const QStringList& arguments)
-{
-    return {StepActions::key(arguments[0], InputEvents::keyOfName(arguments[1]))};
-}
-
-StepActionList chooseActions(const QStringList& arguments)
-{
-    return {StepActions::openList(arguments[0], arguments[1]),
-            StepActions::pickItem(arguments[0], arguments[1])};
-}
-
-StepActionList sendActions(const QStringList& arguments)
-{
-    HostMessage message;
-    QString reason;
-    MessageWords::read(arguments, &message, &reason);
-    return {[message](const StepContext& context) {
-        context.host->send(message);
-        return StepResult{};
-    }};
-}
-
-StepActionList pictureActions(const QStringList& arguments)
-{
-    return {StepActions::picture(arguments[0], arguments.value(1))};
-}
-
-StepActionList waitActions(const QStringList& arguments)
-{
-    return {[pause = arguments[0].toInt()](const StepContext&) {
-        return StepResult{StepResult::Done, {}, pause};
-    }};
-}
-
-StepActionList setActions(const QStringList& arguments)
-{
-    return {StepActions::setItem(arguments[0], arguments[1])};
-}
-
-StepActionList menuActions(const QStringList& arguments)
-{
-    return {StepActions::openBarMenu(arguments[0]), StepActions::pickEntry(arguments[1])};
-}
-
-StepActionList closeActions(const QStringList& arguments)
-{
-    return {StepActions::closeWindow(arguments[0])};
-}
-
-const std::vector<StepKind>& kinds()
-{
-    // clang-format off
-    static const std::vector<StepKind> all{
-        {"click", "click NAME [x y]", 1, 3, MouseSteps::checkClick, MouseSteps::click},
-        {"doubleclick", "doubleclick NAME [x y]", 1, 3, MouseSteps::checkClick, MouseSteps::doubleClick},
-        {"rightclick", "rightclick NAME [x y] [ENTRY]", 1, 4, MouseSteps::checkRightClick, MouseSteps::rightClick},
-        {"press", "press NAME x y [BUTTON]", 3, 4, MouseSteps::checkPress, MouseSteps::press},
-        {"move", "move NAME x y", 3, 3, MouseSteps::checkMove, MouseSteps::move},
-        {"release", "release NAME x y [BUTTON]", 3, 4, MouseSteps::checkPress, MouseSteps::release},
-        {"wheel", "wheel NAME NOTCHES [x y]", 2, 4, MouseSteps::checkWheel, MouseSteps::wheel},
-        {"canvas", "canvas STEP X Y [...]", 3, 4, MouseSteps::checkCanvas, MouseSteps::canvas},
-        {"type", "type NAME TEXT", 2, 2, nullptr, typeActions},
-        {"key", "key NAME KEY", 2, 2, checkKey, keyActions},
-        {"choose", "choose NAME ITEM", 2, 2, nullptr, chooseActions},
-        {"set", "set NAME ITEM", 2, 2, nullptr, setActions},
-        {"menu", "menu NAME ENTRY", 2, 2, nullptr, menuActions},
-        {"close", "close NAME", 1, 1, nullptr, closeActions},
-        {"send", "send CODE [key=value ...] [extra=N]", 1, INT_MAX, checkMessage, sendActions},
-        {"picture", "picture FILE [NAME]", 1, 2, checkPicture, pictureActions},
-        {"wait", "wait MILLISECONDS", 1, 1, checkWait, waitActions},
-        {"box", "box accept|reject [title=TEXT] [text=TEXT]", 1, 3, ExpectSteps::checkBox, ExpectSteps::box, true},
-        {"expect", "expect message|nothing|state ...", 1, INT_MAX, ExpectSteps::checkExpect, ExpectSteps::expect},
-    };
-    // clang-format on
-    return all;
-}
+// clang-format off
+constexpr Kind kinds[] = {
+    {"click", "click NAME [x y]", 1, 3, MouseSteps::onWidget},
+    {"doubleclick", "doubleclick NAME [x y]", 1, 3, MouseSteps::onWidget},
+    {"rightclick", "rightclick NAME [x y] [ENTRY]", 1, 4, MouseSteps::onWidget},
+    {"press", "press NAME x y [BUTTON]", 3, 4, MouseSteps::onWidget},
+    {"move", "move NAME x y", 3, 3, MouseSteps::onWidget},
+    {"release", "release NAME x y [BUTTON]", 3, 4, MouseSteps::onWidget},
+    {"wheel", "wheel NAME NOTCHES [x y]", 2, 4, MouseSteps::onWidget},
+    {"canvas", "canvas STEP X Y [...]", 3, 4, MouseSteps::onBoard},
+    {"type", "type NAME TEXT", 2, 2, WidgetSteps::type},
+    {"key", "key NAME KEY", 2, 2, WidgetSteps::key},
+    {"choose", "choose NAME ITEM", 2, 2, WidgetSteps::choose},
+    {"set", "set NAME ITEM", 2, 2, WidgetSteps::set},
+    {"menu", "menu NAME ENTRY", 2, 2, WidgetSteps::menu},
+    {"close", "close NAME", 1, 1, WidgetSteps::close},
+    {"send", "send CODE [key=value ...] [extra=N]", 1, INT_MAX, WidgetSteps::send},
+    {"picture", "picture FILE [NAME]", 1, 2, WidgetSteps::picture},
+    {"wait", "wait MILLISECONDS", 1, 1, WidgetSteps::wait},
+    {"box", "box accept|reject [title=TEXT] [text=TEXT]", 1, 3, ExpectSteps::box, true},
+    {"expect", "expect message|nothing|state ...", 1, INT_MAX, ExpectSteps::expect},
+};
+// clang-format on
 
 }  // namespace
 
-namespace StepTable {
-
-const StepKind* find(const QString& name)
+SessionStep StepTable::parse(const QStringList& words)
 {
-    const auto& all = kinds();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const StepKind& kind) {
-        return name == QLatin1String(kind.name);
+    const auto kind = std::find_if(std::begin(kinds), std::end(kinds), [&](const Kind& candidate) {
+        return words[0] == QLatin1String(candidate.name);
     });
-    return found == all.end() ? nullptr : &*found;
+    if (kind == std::end(kinds)) {
+        malformed(QStringLiteral("unknown step \"%1\"; known are %2")
+                      .arg(words[0], names().join(QStringLiteral(", "))));
+    }
+    if (words.size() - 1 < kind->least || words.size() - 1 > kind->most) {
+        malformed(
+            QStringLiteral("wrong number of words; usage: %1").arg(QLatin1String(kind->usage)));
+    }
+    return {0, kind->parse(words), kind->answersBox};
 }
 
-QStringList names()
+QStringList StepTable::names()
 {
     QStringList list;
-    for (const StepKind& kind : kinds()) {
+    for (const Kind& kind : kinds) {
         list.append(QLatin1String(kind.name));
     }
     return list;
 }
-
-}  // namespace StepTable

@@ -1,5 +1,7 @@
 #include "session/WidgetState.h"
 
+#include "session/Step.h"
+
 #include <QComboBox>
 #include <QMetaProperty>
 #include <QSize>
@@ -58,32 +60,30 @@ QString itemsOf(const QComboBox* combo)
 
 }  // namespace
 
-bool read(const QWidget* widget, const QString& property, QString* value, QString* reason)
+QString read(const QWidget* widget, const QString& property)
 {
     const auto* const combo = qobject_cast<const QComboBox*>(widget);
     if (combo && property == QLatin1String("items")) {
-        *value = itemsOf(combo);
-        return true;
+        return itemsOf(combo);
     }
     const QMetaProperty found = find(widget, property);
     if (!found.isValid()) {
-        *reason = QStringLiteral("\"%1\" has no %2").arg(widget->objectName(), property);
-        return false;
+        never(QStringLiteral("\"%1\" has no %2").arg(widget->objectName(), property));
     }
     const QVariant held = found.read(widget);
     if (found.isEnumType() && !found.isFlagType()) {
-        *value = QString::fromLatin1(found.enumerator().valueToKey(held.toInt()));
-    } else if (held.userType() == QMetaType::QSize) {
-        *value = QStringLiteral("%1x%2").arg(held.toSize().width()).arg(held.toSize().height());
-    } else if (held.userType() == QMetaType::QStringList) {
-        *value = held.toStringList().join(QLatin1Char(','));
-    } else if (held.canConvert<QString>()) {
-        *value = held.toString();
-    } else {
-        *reason = QStringLiteral("%1 of \"%2\" has no text").arg(property, widget->objectName());
-        return false;
+        return QString::fromLatin1(found.enumerator().valueToKey(held.toInt()));
     }
-    return true;
+    if (held.userType() == QMetaType::QSize) {
+        return QStringLiteral("%1x%2").arg(held.toSize().width()).arg(held.toSize().height());
+    }
+    if (held.userType() == QMetaType::QStringList) {
+        return held.toStringList().join(QLatin1Char(','));
+    }
+    if (!held.canConvert<QString>()) {
+        never(QStringLiteral("%1 of \"%2\" has no text").arg(property, widget->objectName()));
+    }
+    return held.toString();
 }
 
 }  // namespace WidgetState

@@ -1,5 +1,7 @@
 #include "window/Options.h"
 
+#include <FileError.h>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
@@ -8,8 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-using CanvasHost::DisplayUnit;
 
 QString languageCodes()
 {
@@ -89,54 +89,49 @@ QString defaultModuleDirectory()
                                 : besideProgram(QStringLiteral("../" WORKBENCH_MODULE_DIRECTORY));
 }
 
-/// The choice called `name`; null, with a reason in `error`, when there is none.
-template <typename Choice>
-const Choice* choose(const std::vector<Choice>& choices, const char* Choice::*key,
-                     const QCommandLineOption& option, const QString& name, QString* error)
+[[noreturn]] void refuse(const QString& reason)
 {
+    throw CanvasHost::FileError{QStringLiteral("workbench"), 0, reason};
+}
+
+/// The choice that the option names.
+template <typename Choice>
+const Choice& choose(const QCommandLineParser& parser, const QCommandLineOption& option,
+                     const std::vector<Choice>& choices, const char* Choice::*key)
+{
+    const QString name = parser.value(option);
     const auto found = std::find_if(choices.begin(), choices.end(), [&](const Choice& choice) {
         return name == QLatin1String(choice.*key);
     });
     if (found != choices.end()) {
-        return &*found;
+        return *found;
     }
     QStringList names;
     for (const Choice& choice : choices) {
         names.append(QLatin1String(choice.*key));
     }
-    *error = QStringLiteral("unknown %1 \"%2\"; known are %3")
-                 .arg(option.names().constFirst(), name, names.join(QStringLiteral(", ")));
-    return nullptr;
+    refuse(QStringLiteral("unknown %1 \"%2\"; known are %3")
+               .arg(option.names().constFirst(), name, names.join(QStringLiteral(", "))));
 }
 
-void readFontSize(const QCommandLineParser& parser, Options* options, QString* error)
+int fontSize(const QCommandLineParser& parser)
 {
     constexpr int smallest = 6;
     constexpr int largest = 48;
     if (!parser.isSet(fontSizeOption)) {
-        return;
+        return 0;
     }
-    options->fontSize = parser.value(fontSizeOption).toInt();
-    if (options->fontSize < smallest || options->fontSize > largest) {
-        *error = QStringLiteral("\"%1\" is no font size; it is %2 to %3")
-                     .arg(parser.value(fontSizeOption))
-                     .arg(smallest)
-                     .arg(largest);
+    const int size = parser.value(fontSizeOption).toInt();
+    if (size < smallest || size > largest) {
+        refuse(QStringLiteral("\"%1\" is no font size; it is %2 to %3")
+                   .arg(parser.value(fontSizeOption))
+                   .arg(smallest)
+                   .arg(largest));
     }
+    return size;
 }
 
 }  // namespace
-
-const std::vector<UnitChoice>& unitChoices()
-{
-    static const std::vector<UnitChoice> choices{
-        {"mil", DisplayUnit::Mil, QT_TRANSLATE_NOOP("WorkbenchWindow", "mil")},
-        {"inch", DisplayUnit::Inch, QT_TRANSLATE_NOOP("WorkbenchWindow", "inch")},
-        {"um", DisplayUnit::Micrometre, QT_TRANSLATE_NOOP("WorkbenchWindow", "micrometre")},
-        {"mm", DisplayUnit::Millimetre, QT_TRANSLATE_NOOP("WorkbenchWindow", "millimetre")},
-    };
-    return choices;
-}
 
 const std::vector<LanguageChoice>& languageChoices()
 {
@@ -158,7 +153,7 @@ QStringList Options::withoutQts(const QStringList& arguments)
     return own;
 }
 
-Options Options::parse(const QStringList& arguments, QString* error, QString* help)
+Options Options::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
@@ -169,17 +164,15 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
                        languageOption, darkOption, fontSizeOption, helpOption});
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
-        *error = parser.errorText();
-        return options;
+        refuse(parser.errorText());
     }
     if (parser.isSet(helpOption)) {
-        *help = parser.helpText();
+        options.help = parser.helpText();
         return options;
     }
     if (!parser.positionalArguments().isEmpty()) {
-        *error = QStringLiteral("unexpected argument \"%1\"")
-                     .arg(parser.positionalArguments().constFirst());
-        return options;
+        refuse(QStringLiteral("unexpected argument \"%1\"")
+                   .arg(parser.positionalArguments().constFirst()));
     }
     const auto valueOr = [&](const QCommandLineOption& option, const QString& other) {
         return parser.isSet(option) ? parser.value(option) : other;
@@ -194,18 +187,16 @@ Options Options::parse(const QStringList& arguments, QString* error, QString* he
     options.boardFile = parser.value(boardOption);
     options.exportFile = parser.value(exportOption);
     options.exit = parser.isSet(exitOption);
-    options.language = parser.value(languageOption);
     options.isDark = parser.isSet(darkOption);
-    readFontSize(parser, &options, error);
-    choose(languageChoices(), &LanguageChoice::code, languageOption, options.language, error);
-    if (const UnitChoice* const choice =
-            choose(unitChoices(), &UnitChoice::name, unitOption, parser.value(unitOption), error)) {
-        options.unit = choice->unit;
-    }
+    options.fontSize = ::fontSize(parser);
+    options.language = QLatin1String(
+        choose(parser, languageOption, languageChoices(), &LanguageChoice::code).code);
+    options.unit =
+        choose(parser, unitOption, CanvasHost::lengthUnits(), &CanvasHost::LengthUnit::name).unit;
     return options;
 }
 
-Options Options::ofProgram(int argc, char* argv[], QString* error)
+Options Options::ofProgram(int argc, char* argv[])
 {
     // Before the program has a screen: a wrong option is told without one as well.
     const QCoreApplication program(argc, argv);
@@ -213,10 +204,9 @@ Options Options::ofProgram(int argc, char* argv[], QString* error)
     for (int i = 0; i < argc; ++i) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
-    QString help;
-    Options options = parse(arguments, error, &help);
-    if (!help.isEmpty()) {
-        fputs(qPrintable(help), stdout);
+    Options options = parse(arguments);
+    if (!options.help.isEmpty()) {
+        fputs(qPrintable(options.help), stdout);
         ::exit(EXIT_SUCCESS);
     }
     return options;

@@ -6,14 +6,6 @@
 
 #include <vector>
 
-/// A display unit by the name that the command line knows.
-struct UnitChoice {
-    const char* name;
-    CanvasHost::DisplayUnit unit;
-    const char* text;  ///< to be translated in the context "WorkbenchWindow"
-};
-const std::vector<UnitChoice>& unitChoices();
-
 /// A language by its code; its own name for itself is never translated.
 struct LanguageChoice {
     const char* code;
@@ -35,14 +27,15 @@ struct Options {
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
     QString language = QStringLiteral("en");
     bool isDark = false;
-    int fontSize = 0;  ///< in points; 0: as the desktop has it
+    int fontSize = 0;   ///< in points; 0: as the desktop has it
+    QString help = {};  ///< to be shown; empty when it is not asked for
 
-    /// The options of the program, read before there is an application object. A wrong one fills
-    /// `error` with one line; with --help the program ends here.
-    static Options ofProgram(int argc, char* argv[], QString* error);
-    /// The same from `arguments` (the program's name first). `help` is filled when it is asked for.
-    /// The options of Qt itself ("-platform offscreen") are passed over.
-    static Options parse(const QStringList& arguments, QString* error, QString* help);
+    /// The options of the program, read before there is an application object. A wrong one is
+    /// thrown as a CanvasHost::FileError of the program; with --help the program ends here.
+    static Options ofProgram(int argc, char* argv[]);
+    /// The same from `arguments` (the program's name first). The options of Qt itself ("-platform
+    /// offscreen") are passed over.
+    static Options parse(const QStringList& arguments);
 
 private:
     static QStringList withoutQts(const QStringList& arguments);

@@ -1,9 +1,9 @@
 // The widgets of the window, and their texts.
 
+#include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
 #include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
-#include "window/HostState.h"
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>
@@ -68,9 +68,9 @@ void WorkbenchWindow::createControls()
     for (const CanvasHost::Job& job : CanvasHost::jobs()) {
         m_pHostJobCMB->addItem(QString::fromStdString(job.name));
     }
-    for (const UnitChoice& choice : unitChoices()) {
+    for (const CanvasHost::LengthUnit& unit : CanvasHost::lengthUnits()) {
         m_pHostUnitCMB->addItem(QString());
-        if (choice.unit == m_options.unit) {
+        if (unit.unit == m_options.unit) {
             m_pHostUnitCMB->setCurrentIndex(m_pHostUnitCMB->count() - 1);
         }
     }
@@ -170,7 +170,8 @@ void WorkbenchWindow::retranslate()
     m_pHostEqCB->setText(tr("&EQ tool"));
     m_pHostEqCB->setToolTip(tr("Whether the host offers the EQ tool; the strip is made anew."));
     for (int index = 0; index < m_pHostUnitCMB->count(); ++index) {
-        m_pHostUnitCMB->setItemText(index, tr(unitChoices().at(size_t(index)).text));
+        m_pHostUnitCMB->setItemText(
+            index, CanvasHost::unitText(CanvasHost::lengthUnits().at(size_t(index))));
     }
     m_stripDock->setWindowTitle(tr("Edit tools"));
     m_jobTreeDock->setWindowTitle(tr("Jobs"));

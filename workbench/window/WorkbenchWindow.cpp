@@ -1,13 +1,12 @@
 #include "window/WorkbenchWindow.h"
 
-#include "HostName.h"
 #include "compose/ComposeDialog.h"
+#include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
+#include "messages/WindowPicture.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
-#include "window/HostState.h"
-#include "window/WindowPicture.h"
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
@@ -36,7 +35,7 @@ WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
     createMenus();
     retranslate();
     connectControls();
-    CanvasHost::addInstance(hostName, this, &WorkbenchWindow::receive, this);
+    CanvasHost::addInstance(CanvasHost::hostName, this, &WorkbenchWindow::receive, this);
     new WindowPlacer(this);
     // At the left, so that the modules' windows find room beside it.
     resize(1200, 860);
@@ -87,8 +86,9 @@ void WorkbenchWindow::connectControls()
             [this] { m_host->openStep(m_pHostJobCMB->currentText()); });
     connect(m_pHostStepCMB, changed, this,
             [this] { m_host->openStep(m_host->job(), m_pHostStepCMB->currentText()); });
-    connect(m_pHostUnitCMB, changed, this,
-            [this](int index) { m_host->setUnit(unitChoices().at(size_t(index)).unit); });
+    connect(m_pHostUnitCMB, changed, this, [this](int index) {
+        m_host->setUnit(CanvasHost::lengthUnits().at(size_t(index)).unit);
+    });
     connect(m_pHostLanguageCMB, changed, this, &WorkbenchWindow::changeLanguage);
     connect(m_monitor, &MessageMonitor::composeAsked, this, &WorkbenchWindow::compose);
     connect(m_pHostEqCB, &QCheckBox::toggled, this, &WorkbenchWindow::showEq);

@@ -19,10 +19,9 @@ QByteArray document(const QByteArray& feature)
            feature + "\n]\n}\n";
 }
 
-QString errorOf(const QByteArray& text)
+QString readingError(const QByteArray& text)
 {
-    QString error;
-    return fromJson(text, &error) ? QStringLiteral("none") : error;
+    return errorOf([&text] { fromJson(text); });
 }
 
 void write(const QString& file, const QByteArray& content)
@@ -48,12 +47,10 @@ private slots:
     {
         Board board = sampleBoard();
         board.job = QStringLiteral("\"quoted\"\nünïcode");
-        QString error;
-        const std::optional<Board> read = fromJson(toJson(board), &error);
-        QVERIFY2(read, qPrintable(error));
-        QVERIFY(*read == board);
-        QCOMPARE(toJson(*read), toJson(board));
-        QVERIFY(*fromJson(toJson(Board()), nullptr) == Board());
+        const Board read = fromJson(toJson(board));
+        QVERIFY(read == board);
+        QCOMPARE(toJson(read), toJson(board));
+        QVERIFY(fromJson(toJson(Board())) == Board());
     }
 
     void aFeatureIsALine()
@@ -71,9 +68,7 @@ private slots:
         const QRegularExpression pattern(QStringLiteral("\\A[1-9][0-9]*: .+"));
         const int lines = text.count('\n') + 1;
         for (int size = 0; size < text.size(); ++size) {
-            QString error;
-            const bool isRead = fromJson(text.left(size), &error).has_value();
-            QVERIFY2(!isRead, qPrintable(QString::number(size)));
+            const QString error = readingError(text.left(size));
             QVERIFY2(pattern.match(error).hasMatch(), qPrintable(error));
             QVERIFY(error.section(QLatin1Char(':'), 0, 0).toInt() <= lines);
         }
@@ -81,16 +76,16 @@ private slots:
 
     void everyDamagedByteIsReadOrReported()
     {
+        int reported = 0;
         const QByteArray text = document(oneLine);
         for (int place = 0; place < text.size(); ++place) {
             for (const char damage : {'\0', '"', '}', '9', '\xff', '-', '['}) {
                 QByteArray damaged = text;
                 damaged[place] = damage;
-                QString error;
-                const std::optional<Board> board = fromJson(damaged, &error);
-                QVERIFY(board || !error.isEmpty());
+                reported += readingError(damaged) != QLatin1String("none") ? 1 : 0;
             }
         }
+        QVERIFY(reported > text.size());
     }
 
     void mistakesAreNamed_data()
@@ -105,7 +100,7 @@ private slots:
         };
         row("array", "[]", "1: the document must be an object");
         row("format", document(oneLine).replace("1,\n\"job", "2,\n\"job"),
-            "2: \"format\" must be from 1 to 1");
+            "2: \"format\" must be 1");
         row("format text", document(oneLine).replace("1,\n\"job", "\"1\",\n\"job"),
             "2: \"format\" must be a number");
         row("no job", document(oneLine).replace("\"job\": \"demo\",\n", ""),
@@ -148,7 +143,7 @@ private slots:
     {
         QFETCH(QByteArray, text);
         QFETCH(QString, error);
-        QCOMPARE(errorOf(text), error);
+        QCOMPARE(readingError(text), error);
     }
 
     void filesAreReadAndWritten()
@@ -156,16 +151,14 @@ private slots:
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("board.json"));
         const Board board = sampleBoard();
-        QString error;
-        QVERIFY2(writeBoardFile(board, file, &error), qPrintable(error));
-        QVERIFY(*readBoardFile(file, &error) == board);
+        writeBoardFile(board, file);
+        QVERIFY(readBoardFile(file) == board);
         write(file, document("7"));
-        QVERIFY(!readBoardFile(file, &error));
-        QCOMPARE(error, file + QStringLiteral(":7: an entry of \"features\" must be an object"));
+        QCOMPARE(errorOf([&] { readBoardFile(file); }),
+                 file + QStringLiteral(":7: an entry of \"features\" must be an object"));
         const QString missing = folder.filePath(QStringLiteral("missing.json"));
-        QVERIFY(!readBoardFile(missing, &error));
-        QVERIFY(error.startsWith(missing + QStringLiteral(":0: ")));
-        QVERIFY(!readBoardFile(folder.path(), &error));
+        QVERIFY(errorOf([&] { readBoardFile(missing); }).startsWith(missing + ": "));
+        QVERIFY(errorOf([&] { readBoardFile(folder.path()); }).startsWith(folder.path() + ": "));
     }
 
     void aFailingSaveLeavesTheOldFile()
@@ -176,12 +169,14 @@ private slots:
         // The file that stands in until all is written has a longer name: one too long.
         const QString longName = folder.filePath(QString(250, QLatin1Char('n')));
         write(longName, "old");
-        QString error;
-        QVERIFY(!writeBoardFile(sampleBoard(), longName, &error));
-        QVERIFY(error.startsWith(longName + QStringLiteral(": ")));
+        QVERIFY(errorOf([&] {
+                    writeBoardFile(sampleBoard(), longName);
+                }).startsWith(longName + QStringLiteral(": ")));
         QCOMPARE(contentOf(longName), QByteArray("old"));
-        QVERIFY(!writeBoardFile(sampleBoard(), folder.filePath(QStringLiteral("no/folder.json")),
-                                &error));
+        const QString homeless = folder.filePath(QStringLiteral("no/folder.json"));
+        QVERIFY(errorOf([&] {
+                    writeBoardFile(sampleBoard(), homeless);
+                }).startsWith(homeless + QStringLiteral(": ")));
         QCOMPARE(contentOf(file), QByteArray("old"));
     }
 };

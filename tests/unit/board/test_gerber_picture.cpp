@@ -119,11 +119,7 @@ QImage rendered(const Board& board, const View& view, const QTemporaryDir& folde
     const QString gerber = folder.filePath(QStringLiteral("board.gbr"));
     const QString picture = folder.filePath(QStringLiteral("board.png"));
     QFile::remove(picture);
-    QString error;
-    if (!writeGerber(board, gerber, &error)) {
-        qWarning("%s", qPrintable(error));
-        return {};
-    }
+    writeGerber(board, gerber);
     QProcess process;
     process.start(QStringLiteral("gerbv"),
                   QStringLiteral("-x png -D %1 -O %2 -W %3x%3 -B 0 -b #FFFFFF -f #000000 -o")

@@ -220,7 +220,7 @@ private slots:
         QCOMPARE(pads[5].bounds().size(), QSizeF(40 * 25.4, 40 * 25.4));
         Placement placement;
         placement.setBrush(brush);
-        QVERIFY(placement.previewPath().isEmpty());
+        QVERIFY(placement.preview().empty());
         placement.move({0, 0});
         QCOMPARE(placement.preview().size(), size_t(6));
         QVERIFY(!placement.isActive());

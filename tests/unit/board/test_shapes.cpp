@@ -82,7 +82,7 @@ private slots:
     {
         for (const char* name :
              {"logo", "", "r0", "rect20", "r-5", "ring_r30x60", "R10", "r10x20"}) {
-            QCOMPARE(parseSymbol(QString::fromLatin1(name)).family, SymbolFamily::Special);
+            QCOMPARE(parseSymbol(QString::fromLatin1(name)).shape, SymbolShape::Special);
             QCOMPARE(symbolShape(QString::fromLatin1(name)).boundingRect().width(), 60 * mil);
         }
         QCOMPARE(parseSymbol(QStringLiteral("r99999999999")).width, largestSymbolSize * mil);
@@ -188,6 +188,23 @@ private slots:
         QVERIFY(!Feature(circle).area().contains(QPointF(0, 0)));
         const Geometry small = arcGeometry(pen, {100, 0}, {100, 0}, {0, 0}, true);
         QVERIFY(isAbout(areaOfArc(small), M_PI * 227 * 227, 3e-3));
+    }
+
+    /// The pen of a small arc reaches beyond its centre.
+    void smallArcsCoverWhatTheirPenCovers()
+    {
+        for (const double radius : {1.0, 60.0, 126.9, 127.0, 127.1}) {
+            for (int degrees = 15; degrees < 360; degrees += 15) {
+                for (const bool clockwise : {false, true}) {
+                    const QPointF end = polar({}, radius, degrees);
+                    const Feature arc(
+                        arcGeometry(QStringLiteral("r10"), {radius, 0}, end, {0, 0}, clockwise));
+                    const double stroked = coveredArea(roundStroke(middleOf(arc.geometry()), 254));
+                    QVERIFY2(isAbout(coveredArea(arc.area()), stroked, 5e-3),
+                             qPrintable(QStringLiteral("%1 %2").arg(radius).arg(degrees)));
+                }
+            }
+        }
     }
 
     void padsAreMirroredThenTurned()

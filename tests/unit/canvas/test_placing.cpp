@@ -125,6 +125,28 @@ private Q_SLOTS:
         QCOMPARE(fixture.features()[0].geometry().text.content, QString("job"));
     }
 
+    void whatACodeCannotCarryIsSaid()
+    {
+        const CanvasFixture fixture;
+        const auto receive = [&fixture](const char* content) {
+            fixture.receive(50, 0,
+                            {{"Features", 5},
+                             {RecordKeys::textFormat, TextKind::barcode},
+                             {RecordKeys::barcodeMode, Symbology::code128B.toInt()},
+                             {RecordKeys::textContains, content}});
+        };
+        receive("8 \u00b5m");
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 QString("Click where the feature begins; its code cannot carry \"\u00b5\"."));
+        fixture.click(4000, 5000);
+        QCOMPARE(fixture.features().size(), size_t(1));
+        receive("\u00b5");
+        fixture.click(14000, 5000);
+        QCOMPARE(fixture.features().size(), size_t(1));
+        receive("8 um");
+        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click where the feature begins."));
+    }
+
     void pickingLetsTheDrawingGoOn()
     {
         const CanvasFixture fixture({Pcb::Feature(Pcb::padGeometry("r60", {16000, 10000}))});

@@ -298,8 +298,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("said");
         QTest::newRow("orthogonal")
-            << 0 << "^Along x 11[78]\\.\\d mil, along y 15[678]\\.\\d mil\\.$";
-        QTest::newRow("point to point") << 1 << "^Distance 19[67]\\.\\d mil\\.$";
+            << 0 << "^Along x 11[78]\\.\\d\\d mil, along y 15[678]\\.\\d\\d mil\\.$";
+        QTest::newRow("point to point") << 1 << "^Distance 19[67]\\.\\d\\d mil\\.$";
     }
     void marks()
     {

@@ -3,10 +3,12 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "messages/MessageLog.h"
+#include "messages/MessageNames.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 #include "viewer/BoardView.h"
+#include "viewer/ToolSet.h"
 #include "viewer/ViewerPane.h"
 
 #include <common_widgets.h>
@@ -47,6 +49,17 @@ class TestViewer : public QObject {
     }
 
 private Q_SLOTS:
+    void everyToolMessageHasItsMeaning()
+    {
+        for (const MessageNames::Row& row : MessageNames::sent()) {
+            const ToolSet::Row* const tool = ToolSet::find(row.code);
+            QVERIFY2((tool != nullptr) == row.tool, row.name);
+            QVERIFY2(!tool || ToolSet::text(*tool) == MessageNames::text(row), row.name);
+            const bool ends = QByteArray(row.name).endsWith("Off");
+            QVERIFY2((ToolSet::ended(row.code) != nullptr) == ends, row.name);
+        }
+    }
+
     void initTestCase()
     {
         CanvasHost::addInstance("Canvas_Tool_Strip.dll", this, [](void*, PluginMetaData) {});

@@ -43,6 +43,14 @@ private Q_SLOTS:
             QCOMPARE(CanvasHost::jobs().size(), jobs);  // what was loaded before stays
         }
     }
+
+    void unknownKeysAreNamed()
+    {
+        const QString file = write("{ \"format\": 1,\n  \"jobs\": [\n    { \"stops\": [] } ] }");
+        QString error;
+        QVERIFY(!CanvasHost::loadJobs(file, &error));
+        QCOMPARE(error, file + ":3: \"stops\" does not belong to an entry of \"jobs\"");
+    }
 };
 
 CTS_MAIN(TestJobFile)

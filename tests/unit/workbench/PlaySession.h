@@ -1,9 +1,10 @@
 #pragma once
 
+#include "ErrorOf.h"
+#include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
-#include "window/HostState.h"
 
 #include <QtTest>
 
@@ -19,8 +20,8 @@ inline Played playSession(const QString& text, QWidget* window)
 {
     Played played;
     Session session;
-    session.file = "demo";
-    if (!SessionParser::read(text, &session, &played.error)) {
+    played.error = errorOf([&] { session = SessionParser::read(text.toUtf8(), "demo"); });
+    if (!played.error.isEmpty()) {
         return played;
     }
     HostState host(window);

@@ -3,9 +3,9 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "compose/ComposeDialog.h"
+#include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "plugin/MessageCodes.h"
-#include "window/HostState.h"
 
 #include <PluginManagerStandIn.h>
 

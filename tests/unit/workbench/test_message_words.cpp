@@ -1,9 +1,10 @@
 // The words of a session's "send" step.
 
+#include "ErrorOf.h"
 #include "Main.h"
+#include "messages/MessageWords.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/PayloadKeys.h"
-#include "session/MessageWords.h"
 
 namespace Accepted = MessageCodes::Accepted;
 
@@ -13,12 +14,9 @@ class TestMessageWords : public QObject {
 private Q_SLOTS:
     void payload()
     {
-        HostMessage message;
-        QString reason;
-        QVERIFY2(MessageWords::read({"20002400", "JobName=a=b", "Empty=", "A:B:text=c", "N:int=-7",
-                                     "D:decimal=0.5", "T:bool=true", "F:bool=false"},
-                                    &message, &reason),
-                 qPrintable(reason));
+        const HostMessage message =
+            MessageWords::read({"20002400", "JobName=a=b", "Empty=", "A:B:text=c", "N:int=-7",
+                                "D:decimal=0.5", "T:bool=true", "F:bool=false"});
         QCOMPARE(message.code, Accepted::JobOpened);
         const QMap<QString, QVariant> expected{{PayloadKeys::jobName, QString("a=b")},
                                                {"Empty", QString("")},
@@ -36,17 +34,14 @@ private Q_SLOTS:
 
     void objectsInTheExtraWord()
     {
-        HostMessage message;
-        QString reason;
-        QVERIFY(MessageWords::read({"20000201", "extra=-3"}, &message, &reason));
+        HostMessage message = MessageWords::read({"20000201", "extra=-3"});
         QCOMPARE(std::get<qint64>(message.extra), qint64(-3));
-        QVERIFY(MessageWords::read({"20002003", "extra:string=demo"}, &message, &reason));
+        message = MessageWords::read({"20002003", "extra:string=demo"});
         QCOMPARE(std::get<std::string>(message.extra), std::string("demo"));
-        QVERIFY(MessageWords::read({"20001811", "extra:symbols=1=r10,2=s20"}, &message, &reason));
+        message = MessageWords::read({"20001811", "extra:symbols=1=r10,2=s20"});
         QVERIFY(std::get<HostMessage::Symbols>(message.extra) ==
                 (HostMessage::Symbols{{1, "r10"}, {2, "s20"}}));
-        QVERIFY(
-            MessageWords::read({"20001807", "extra:attributes=.net=gnd,.smd="}, &message, &reason));
+        message = MessageWords::read({"20001807", "extra:attributes=.net=gnd,.smd="});
         QVERIFY(std::get<HostMessage::Attributes>(message.extra) ==
                 (HostMessage::Attributes{{".net", "gnd"}, {".smd", ""}}));
     }
@@ -87,10 +82,7 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, words);
         QFETCH(QString, expected);
-        HostMessage message;
-        QString reason;
-        QVERIFY(!MessageWords::read(words, &message, &reason));
-        QCOMPARE(reason, expected);
+        QCOMPARE(errorOf([&] { MessageWords::read(words); }), expected);
     }
 };
 

@@ -1,7 +1,7 @@
 // The table in which the canvas shows the feature record.
 
+#include <RecordTable.h>
 #include "Main.h"
-#include "messages/RecordTable.h"
 #include "plugin/RecordKeys.h"
 
 namespace {

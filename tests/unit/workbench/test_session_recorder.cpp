@@ -1,11 +1,12 @@
 // What the hand does is written as a session; played again, it sends the same messages.
 
+#include "ErrorOf.h"
 #include "Main.h"
+#include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
-#include "window/HostState.h"
 
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
@@ -173,10 +174,7 @@ class TestSessionRecorder : public QObject {
         const QString file = m_folder.filePath("recorded.session");
         {
             SessionRecorder recorder(m_window.get());
-            QString error;
-            if (!recorder.start(file, &error)) {
-                return {error};
-            }
+            recorder.start(file);
             hand();
             QTest::qWait(20);
         }
@@ -194,8 +192,9 @@ class TestSessionRecorder : public QObject {
         m_window->show();
         m_trace.clear();
         Session session;
-        QString error;
-        if (!SessionParser::readFile(m_folder.filePath("recorded.session"), &session, &error)) {
+        const QString error = errorOf(
+            [&] { session = SessionParser::readFile(m_folder.filePath("recorded.session")); });
+        if (!error.isEmpty()) {
             return error;
         }
         HostState host(m_window.get());
@@ -418,8 +417,7 @@ private Q_SLOTS:
     {
         const QString file = m_folder.filePath("crash.session");
         SessionRecorder recorder(m_window.get());
-        QString error;
-        QVERIFY(recorder.start(file, &error));
+        recorder.start(file);
         const auto lastLine = [&] {
             QFile in(file);
             in.open(QIODevice::ReadOnly);
@@ -434,17 +432,14 @@ private Q_SLOTS:
         QCOMPARE(lastLine(), QString("press m_pOnCB 8 9"));
         QTest::mouseRelease(handle(), Qt::LeftButton, {}, at(the("m_pOnCB"), {8, 9}));
         QCOMPARE(lastLine(), QString("click m_pOnCB 8 9"));
-        QVERIFY(!recorder.start(m_folder.filePath("no/file"), &error));
-        QVERIFY(!error.isEmpty());
+        const QString nowhere = m_folder.filePath("no/file");
+        QVERIFY(errorOf([&] { recorder.start(nowhere); }).startsWith(nowhere + ": "));
     }
 
     void wordsSurviveTheFile()
     {
         const QStringList words{"type", "m_pX", "", "a b", "#x", "it's", "\"", "\\", "x#", "é 中"};
-        QStringList read;
-        QString reason;
-        QVERIFY(SessionParser::split(SessionFile::lineOf(words), &read, &reason));
-        QCOMPARE(read, words);
+        QCOMPARE(SessionParser::split(SessionFile::lineOf(words)), words);
     }
 };
 

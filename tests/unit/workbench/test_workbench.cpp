@@ -1,5 +1,6 @@
 // What the workbench reads (options, sessions) and writes (message records).
 
+#include "ErrorOf.h"
 #include "Main.h"
 #include "messages/MessageNames.h"
 #include "messages/MessageRecord.h"
@@ -7,6 +8,7 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
+#include "session/BoardPlaces.h"
 #include "session/SessionParser.h"
 #include "window/Options.h"
 
@@ -47,9 +49,9 @@ QMap<QString, int> codesOf(const std::vector<MessageNames::Row>& rows)
     return codes;
 }
 
-Options parsed(const QStringList& arguments, QString* error, QString* help)
+Options parsed(const QStringList& arguments)
 {
-    return Options::parse(QStringList("workbench") + arguments, error, help);
+    return Options::parse(QStringList("workbench") + arguments);
 }
 
 }  // namespace
@@ -91,13 +93,10 @@ private Q_SLOTS:
 
     void options()
     {
-        QString error;
-        QString help;
         const Options options =
             parsed({"--modules", "m", "--job", "j", "--trace", "t", "--screenshot", "s.png",
-                    "--play", "p", "--exit", "--unit", "mm", "--language", "zh_CN"},
-                   &error, &help);
-        QCOMPARE(error, QString());
+                    "--play", "p", "--exit", "--unit", "mm", "--language", "zh_CN"});
+        QCOMPARE(options.help, QString());
         QCOMPARE(options.moduleDirectory, QString("m"));
         QCOMPARE(options.jobFile, QString("j"));
         QCOMPARE(options.traceFile, QString("t"));
@@ -106,20 +105,34 @@ private Q_SLOTS:
         QVERIFY(options.exit);
         QCOMPARE(options.unit, CanvasHost::DisplayUnit::Millimetre);
         QCOMPARE(options.language, QString("zh_CN"));
-        parsed({"--help"}, &error, &help);
+        const QString help = parsed({"--help"}).help;
         for (const char* const option : {"--modules", "--job", "--trace", "--screenshot", "--play",
                                          "--exit", "--unit", "--language"}) {
             QVERIFY2(help.contains(option), option);
         }
     }
 
+    void aLengthReadsTheSameEverywhere()
+    {
+        for (const CanvasHost::LengthUnit& unit : CanvasHost::lengthUnits()) {
+            const QString name = unit.name;
+            QCOMPARE(parsed({"--unit", name}).unit, unit.unit);
+            double micrometres = 0;
+            QVERIFY2(BoardPlaces::readLength("2.5" + name, &micrometres), unit.name);
+            QCOMPARE(micrometres, 2.5 * unit.micrometres);
+            CanvasHost::setDisplayUnit(unit.unit);
+            const QString read = CanvasHost::lengthText(micrometres);
+            QCOMPARE(read, QString::number(2.5, 'f', unit.decimals) + " " + name);
+            QVERIFY(BoardPlaces::readLength(QString(read).remove(' '), &micrometres));
+            QCOMPARE(micrometres, 2.5 * unit.micrometres);
+        }
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
+    }
+
     void optionsOfQtArePassedOver()
     {
-        QString error;
-        QString help;
-        const Options options = parsed(
-            {"-platform", "offscreen", "-style=fusion", "-reverse", "--play", "p"}, &error, &help);
-        QCOMPARE(error, QString());
+        const Options options =
+            parsed({"-platform", "offscreen", "-style=fusion", "-reverse", "--play", "p"});
         QCOMPARE(options.sessionFile, QString("p"));
     }
 
@@ -143,31 +156,28 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, arguments);
         QFETCH(QString, names);
-        QString error;
-        QString help;
-        parsed(arguments, &error, &help);
-        QVERIFY2(error.contains(names), qPrintable(error));
-        QVERIFY(help.isEmpty());
+        const QString error = errorOf([&] { parsed(arguments); });
+        QVERIFY2(error.startsWith("workbench: ") && error.contains(names), qPrintable(error));
         QVERIFY(!error.contains('\n'));
     }
 
     void sessions()
     {
-        Session session;
-        session.file = "demo";
-        QString error;
-        QVERIFY2(SessionParser::read("# comment\n\nclick m_pLineTB  # the first\n"
-                                     "type m_pTextLE \"two words # no comment\"\n"
-                                     "rightclick m_pMarkTB 'Mark Orthogonal'\n"
-                                     "send 20002400 JobName=demo StepName=pcb\n",
-                                     &session, &error),
-                 qPrintable(error));
+        const QStringList lines{"# comment",
+                                "",
+                                "click m_pLineTB  # the first",
+                                "type m_pTextLE \"two words # no comment\"",
+                                "rightclick m_pMarkTB 'Mark Orthogonal'",
+                                "send 20002400 JobName=demo StepName=pcb"};
+        const Session session = SessionParser::read(lines.join('\n').toUtf8(), "demo");
+        QCOMPARE(session.file, QString("demo"));
         QCOMPARE(int(session.steps.size()), 4);
         QCOMPARE(session.steps[0].line, 3);
-        QCOMPARE(session.steps[0].command, QString("click"));
-        QCOMPARE(session.steps[0].arguments, QStringList("m_pLineTB"));
-        QCOMPARE(session.steps[1].arguments, (QStringList{"m_pTextLE", "two words # no comment"}));
-        QCOMPARE(session.steps[2].arguments, (QStringList{"m_pMarkTB", "Mark Orthogonal"}));
+        QCOMPARE(SessionParser::split(lines[2]), (QStringList{"click", "m_pLineTB"}));
+        QCOMPARE(SessionParser::split(lines[3]),
+                 (QStringList{"type", "m_pTextLE", "two words # no comment"}));
+        QCOMPARE(SessionParser::split(lines[4]),
+                 (QStringList{"rightclick", "m_pMarkTB", "Mark Orthogonal"}));
     }
 
     void wrongSessions_data()
@@ -200,19 +210,14 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(QString, error);
-        Session session;
-        session.file = "demo";
-        QString actual;
-        QVERIFY(!SessionParser::read(text, &session, &actual));
+        const QString actual = errorOf([&] { SessionParser::read(text.toUtf8(), "demo"); });
         QVERIFY2(actual.startsWith(error), qPrintable(actual));
         QVERIFY(!actual.contains('\n'));
     }
 
     void absentSession()
     {
-        Session session;
-        QString error;
-        QVERIFY(!SessionParser::readFile("/nowhere/at.all", &session, &error));
+        const QString error = errorOf([] { SessionParser::readFile("/nowhere/at.all"); });
         QVERIFY2(error.startsWith("/nowhere/at.all: "), qPrintable(error));
     }
 };

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <HostExport.h>
+
+#include <QMap>
+#include <QStringList>
+#include <QTableWidget>
+#include <QVariant>
+#include <QVector>
+
+/// Shows named values as a table of key, value and type. What changed is marked.
+class CANVAS_HOST_EXPORT RecordTable : public QTableWidget {
+    Q_OBJECT
+
+public:
+    struct Row {
+        QString key;
+        QString value;
+        QString type;
+        bool changed = false;
+    };
+
+    explicit RecordTable(const char* name, QWidget* parent = nullptr);
+
+    void showRows(const QVector<Row>& rows);
+    /// Marks what changed since the values before. The same values again leave the marks alone: an
+    /// entry that is sent twice still shows what it changed.
+    void showValues(const QMap<QString, QVariant>& values);
+    /// The rows of `values`, those of the `changed` keys marked.
+    static QVector<Row> rowsOf(const QMap<QString, QVariant>& values, const QStringList& changed);
+
+    void retranslate();
+
+private:
+    QMap<QString, QVariant> m_values;
+};

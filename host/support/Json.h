@@ -1,0 +1,73 @@
+#pragma once
+
+#include <FileError.h>
+
+#include <QByteArray>
+#include <QJsonValue>
+#include <QStringList>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace CanvasHost {
+
+struct JsonPlace;
+
+/// A JSON value that knows where it stands. Every operation throws a FileError with that line for a
+/// value that is not what it asks for.
+class JsonNode {
+public:
+    [[noreturn]] void fail(const QString& reason) const;  ///< "<what it is> <reason>"
+
+    /// An object with all its keys among `known`, each once.
+    void requireObject(const QStringList& known) const;
+    bool has(const QString& key) const;
+    JsonNode member(const QString& key) const;
+    /// The members of an object with any keys, each once.
+    std::vector<std::pair<QString, JsonNode>> members() const;
+    std::vector<JsonNode> entries() const;
+
+    QString text() const;
+    QString name() const;       ///< a text that is not empty
+    QStringList names() const;  ///< a list of names, each once
+    bool isTrue() const;
+    double number(double least, double most) const;
+    int integer(int least, int most) const;
+    /// The index of the text among the choices.
+    int choice(const QStringList& choices) const;
+    /// Refuses a name that is among `before`.
+    void requireNew(const QStringList& before) const;
+
+private:
+    friend class JsonDocument;
+
+    struct Source;
+
+    JsonNode(const Source& source, QJsonValue value, const JsonPlace& place, QString label);
+
+    [[noreturn]] void failAt(const JsonPlace& place, const QString& reason) const;
+    void requireUniqueKeys() const;
+
+    const Source* m_source;
+    QJsonValue m_value;
+    const JsonPlace* m_place;
+    QString m_label;
+};
+
+/// A JSON text that was parsed; its nodes must not outlive it.
+class JsonDocument {
+public:
+    /// Throws a FileError for a text that is no JSON. `file` is what errors name.
+    explicit JsonDocument(const QByteArray& text, const QString& file = {});
+    ~JsonDocument();
+    JsonDocument(const JsonDocument&) = delete;
+    JsonDocument& operator=(const JsonDocument&) = delete;
+
+    JsonNode root() const;
+
+private:
+    std::unique_ptr<const JsonNode::Source> m_source;
+};
+
+}  // namespace CanvasHost

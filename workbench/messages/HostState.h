@@ -1,0 +1,42 @@
+#pragma once
+
+#include "messages/HostMessage.h"
+
+#include <UiApiStandIn.h>
+
+#include <QObject>
+#include <QString>
+
+/// What the host owns (job and step, unit), and how the tool strip is told of a change.
+class HostState : public QObject {
+    Q_OBJECT
+
+public:
+    /// `window` is the sender pointer of every message.
+    explicit HostState(QWidget* window);
+
+    QString job() const { return m_job; }
+    QString step() const { return m_step; }
+
+    /// Opens a step, and its job when that is another one than before. An empty step stands for the
+    /// job's first one. Nothing happens for a job that is not known.
+    void openStep(const QString& job, const QString& step = {});
+    void setUnit(CanvasHost::DisplayUnit unit);
+    /// Tells tool strip and canvas of job and step, which a new one does not know.
+    void announceJob();
+    /// Sends a message to the tool strip.
+    void send(const HostMessage& message);
+    /// Sends a message of `code` with the entries that belong to it: the open job and step, or a
+    /// sample of what would be picked on the board.
+    void sendSample(int code);
+
+Q_SIGNALS:
+    void stepOpened(const QString& job, const QString& step);
+
+private:
+    void sendTo(const QString& module, const HostMessage& message);
+
+    QWidget* m_window;
+    QString m_job;
+    QString m_step;
+};

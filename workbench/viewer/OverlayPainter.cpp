@@ -1,0 +1,76 @@
+#include "viewer/OverlayPainter.h"
+
+#include "viewer/CanvasColours.h"
+
+#include <UiApiStandIn.h>
+
+#include <QPainter>
+
+namespace {
+
+constexpr double textGap = 4;  // pixels
+
+void label(QPainter& painter, const QPointF& middle, const QString& text)
+{
+    QRectF box = painter.fontMetrics().boundingRect(text);
+    box.adjust(-textGap, -textGap / 2, textGap, textGap / 2);
+    box.moveCenter(middle);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(CanvasColours::ground);
+    painter.drawRoundedRect(box, textGap / 2, textGap / 2);
+    painter.setPen(CanvasColours::mark);
+    painter.drawText(box, Qt::AlignCenter, text);
+}
+
+/// A leg of a mark, its length in its middle. `line` is in pixels, `length` in micrometres.
+void leg(QPainter& painter, const QLineF& line, double length)
+{
+    if (line.length() < 1) {
+        return;
+    }
+    painter.setPen(QPen(CanvasColours::mark, 1.5));
+    painter.drawLine(line);
+    label(painter, line.center(), CanvasHost::lengthText(length));
+}
+
+void paintMark(QPainter& painter, const QTransform& toView, const Mark& mark)
+{
+    const QLineF line = toView.map(mark.line);
+    if (mark.orthogonal) {
+        const QPointF corner(line.x2(), line.y1());
+        leg(painter, {line.p1(), corner}, qAbs(mark.line.dx()));
+        leg(painter, {corner, line.p2()}, qAbs(mark.line.dy()));
+    } else {
+        leg(painter, line, mark.line.length());
+    }
+    painter.setBrush(CanvasColours::mark);
+    painter.setPen(Qt::NoPen);
+    for (const QPointF& end : {line.p1(), line.p2()}) {
+        painter.drawEllipse(end, 3, 3);
+    }
+}
+
+}  // namespace
+
+void paintOverlay(QPainter& painter, const QTransform& toView, const Overlay& overlay,
+                  const std::vector<Mark>& marks)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(CanvasColours::preview);
+    for (const Pcb::Feature& feature : overlay.preview) {
+        painter.drawPath(feature.area());
+    }
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(CanvasColours::rubber, 0, Qt::DashLine));
+    painter.drawPath(overlay.rubber);
+
+    painter.save();
+    painter.resetTransform();
+    for (const Mark& mark : marks) {
+        paintMark(painter, toView, mark);
+    }
+    for (const Mark& mark : overlay.marks) {
+        paintMark(painter, toView, mark);
+    }
+    painter.restore();
+}

@@ -1,0 +1,212 @@
+// What each message of the tool strip and of the host does on the canvas.
+
+#include "board/Brush.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
+#include "plugin/PayloadKeys.h"
+#include "viewer/Inspector.h"
+#include "viewer/ToolSet.h"
+#include "viewer/ViewerPane.h"
+#include "viewer/tools/PlaceTool.h"
+#include "viewer/tools/ViewTools.h"
+
+#include <CommonWidgetsStandIn.h>
+#include <QTpluginsManger4CAM.h>
+
+#include <QDateTime>
+
+namespace Sent = MessageCodes::Sent;
+namespace Accepted = MessageCodes::Accepted;
+
+void ViewerPane::receive(const PluginMetaData& message)
+{
+    switch (message.code) {
+        case Sent::Record:
+            takeRecord(message);
+            break;
+        case Sent::DirectionRecord:
+            takeDirection(message);
+            break;
+        case Sent::AttributeMap:
+            takeAttributes(message);
+            break;
+        case Sent::Fill:
+            if (m_place) {
+                m_place->fill();
+                m_canvas.refresh();
+            }
+            break;
+        case Sent::SelectSymbol:
+            startPicking(tr("Click a feature to take its symbol."), &ViewerPane::sendSymbol);
+            break;
+        case Sent::SelectFromEditor:
+            startPicking(tr("Click a feature to take its attributes."),
+                         &ViewerPane::sendAttributes);
+            break;
+        case Sent::DialogsClosed:
+            startTool(m_tool, m_mode);  // what was begun, or asked for, is given up
+            break;
+        case Sent::MarkSettings:
+            m_canvas.say(tr("This canvas has nothing to set for marks."));
+            break;
+        case Accepted::JobOpened:
+            openStep(message);
+            break;
+        default:
+            followTool(message);
+    }
+    showTool();
+    if (message.code == Sent::AddFeature) {
+        // The dialog was made a moment ago and does not know in which unit the user works.
+        send(Accepted::UnitChanged);
+    }
+}
+
+void ViewerPane::takeRecord(const PluginMetaData& message)
+{
+    m_inspector->showRecord(message);
+    m_record = message.payload;
+    // The tool announces itself only once; later its record is what begins the drawing.
+    PlaceTool* const place = m_place ? m_place : startPlacing();
+    place->setBrush(Pcb::readBrush(m_record, m_attributes));
+    m_canvas.refresh();
+}
+
+void ViewerPane::takeDirection(const PluginMetaData& message)
+{
+    m_inspector->showRecord(message);
+    m_record = message.payload;
+    if (m_place) {
+        m_place->setDirection(Pcb::readBrush(m_record));
+        m_canvas.refresh();
+    }
+}
+
+void ViewerPane::takeAttributes(const PluginMetaData& message)
+{
+    const auto* const map = ExtraWord::object<std::map<std::string, std::string>>(message.extra);
+    if (!map) {
+        return;
+    }
+    QMap<QString, QVariant> shown;
+    m_attributes.clear();
+    for (const auto& [name, value] : *map) {
+        m_attributes.insert(QString::fromStdString(name), QString::fromStdString(value));
+        shown.insert(QString::fromStdString(name), QString::fromStdString(value));
+    }
+    m_inspector->showAttributes(shown);
+    if (m_place) {
+        m_place->setBrush(Pcb::readBrush(m_record, m_attributes));
+        m_canvas.refresh();
+    }
+}
+
+void ViewerPane::followTool(const PluginMetaData& message)
+{
+    if (const ToolSet::Row* const row = ToolSet::find(message.code)) {
+        startTool(row, message.extra);
+    } else if (ToolSet::ended(message.code)) {
+        startTool(nullptr, 0);
+    }
+}
+
+/// What the tool before was waiting for is given up.
+void ViewerPane::startTool(const ToolSet::Row* row, qint64 mode)
+{
+    m_tool = row;
+    m_mode = mode;
+    m_place = nullptr;
+    m_canvas.say({});
+    if (!row) {
+        m_canvas.setTool(nullptr);
+    } else if (row->code == Sent::AddFeature) {
+        startPlacing()->setBrush(Pcb::readBrush(m_record, m_attributes));
+    } else if (row->code == Sent::OpenPopView) {
+        m_canvas.setTool(nullptr);
+        openSecondView();
+    } else {
+        m_canvas.setTool(row->create ? row->create(m_canvas, mode) : nullptr);
+        if (!m_canvas.tool()) {
+            m_canvas.say(tr("This canvas does not perform \"%1\".").arg(ToolSet::text(*row)));
+        }
+    }
+}
+
+PlaceTool* ViewerPane::startPlacing()
+{
+    m_tool = ToolSet::find(Sent::AddFeature);
+    m_mode = 0;
+    auto tool = std::make_unique<PlaceTool>(m_canvas);
+    const Pcb::Board& board = m_canvas.document().board();
+    const QDateTime now = QDateTime::currentDateTime();
+    tool->setSpecialTexts({{"JOB", board.job},
+                           {"STEP", board.step},
+                           {"LAYER", QStringLiteral("top")},
+                           {"DATE", now.date().toString(Qt::ISODate)},
+                           {"TIME", now.time().toString(QStringLiteral("HH:mm"))}});
+    m_place = tool.get();
+    m_canvas.say({});
+    m_canvas.setTool(std::move(tool));
+    return m_place;
+}
+
+void ViewerPane::startMeasuring()
+{
+    // No message says that the measure tool is active.
+    m_tool = &ToolSet::measuring();
+    m_mode = 0;
+    m_place = nullptr;
+    m_canvas.say({});
+    m_canvas.setTool(std::make_unique<MeasureTool>(m_canvas, CanvasHost::reportMeasurement));
+    showTool();
+}
+
+/// Picking takes one click; then what was being drawn goes on.
+void ViewerPane::startPicking(const QString& hint, void (ViewerPane::*picked)(int))
+{
+    m_place = nullptr;
+    m_canvas.setTool(std::make_unique<PickTool>(m_canvas, hint, [this, picked](int feature) {
+        m_canvas.setTool(nullptr);
+        (this->*picked)(feature);
+        if (!m_canvas.tool()) {
+            startTool(m_tool, m_mode);
+        }
+    }));
+}
+
+void ViewerPane::sendSymbol(int feature)
+{
+    std::map<int, std::string> symbols;
+    const QString symbol =
+        m_canvas.document().board().features[static_cast<size_t>(feature)].symbol();
+    if (!symbol.isEmpty()) {
+        symbols[feature] = symbol.toStdString();
+    }
+    send(Accepted::SymbolsPicked, ExtraWord::pointingAt(symbols));
+}
+
+void ViewerPane::sendAttributes(int feature)
+{
+    std::map<std::string, std::string> attributes;
+    const auto picked =
+        m_canvas.document().board().features[static_cast<size_t>(feature)].attributes();
+    for (auto attribute = picked.begin(); attribute != picked.end(); ++attribute) {
+        attributes[attribute.key().toStdString()] = attribute->toStdString();
+    }
+    send(Accepted::AttributesPicked, ExtraWord::pointingAt(attributes));
+}
+
+void ViewerPane::send(int code, qint64 extra)
+{
+    PluginMetaData message(ModuleNames::viewer, ModuleNames::toolStrip);
+    message.code = code;
+    message.extra = extra;
+    QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, message);
+}
+
+void ViewerPane::openStep(const PluginMetaData& message)
+{
+    m_canvas.openStep(message.payload.value(PayloadKeys::jobName).toString(),
+                      message.payload.value(PayloadKeys::stepName).toString());
+}

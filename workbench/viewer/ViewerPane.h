@@ -1,0 +1,77 @@
+#pragma once
+
+#include "board/Feature.h"
+#include "viewer/CanvasController.h"
+#include "viewer/ToolSet.h"
+
+#include <PluginMetaData.h>
+
+#include <QPointer>
+#include <QWidget>
+
+class BoardView;
+class CanvasBar;
+class Inspector;
+class PlaceTool;
+class QLabel;
+
+/// The canvas: draws what the tool strip describes, does what its tools do, and sends back what the
+/// user picks on the board. It never sends a tool's message back, which would go round for ever.
+class ViewerPane : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `parent` is the sender pointer of every message.
+    explicit ViewerPane(QWidget* parent);
+    ~ViewerPane() override;
+
+    void receive(const PluginMetaData& message);
+
+    CanvasController& canvas() { return m_canvas; }
+
+    /// For those who control the canvas from outside: what went wrong, empty when nothing did.
+    Q_INVOKABLE QString openBoard(const QString& file);
+    Q_INVOKABLE QString exportBoard(const QString& file);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QLayout* createHead();
+    void connectCanvas();
+
+    void takeRecord(const PluginMetaData& message);
+    void takeDirection(const PluginMetaData& message);
+    void takeAttributes(const PluginMetaData& message);
+    void followTool(const PluginMetaData& message);
+    void startTool(const ToolSet::Row* row, qint64 mode);
+    PlaceTool* startPlacing();
+    void openSecondView();
+    void startMeasuring();
+    void startPicking(const QString& hint, void (ViewerPane::*picked)(int));
+    void sendSymbol(int feature);
+    void sendAttributes(int feature);
+    void send(int code, qint64 extra = 0);
+    void openStep(const PluginMetaData& message);
+
+    void showHovered(int feature);
+    void showTool();
+    void retranslate();
+
+    QWidget* m_parent;
+    CanvasController m_canvas;
+    BoardView* m_view;
+    CanvasBar* m_bar;
+    Inspector* m_inspector;
+    QLabel* m_pActiveToolLB;
+    QLabel* m_pPickHintLB;
+    QLabel* m_pPositionLB;
+    QLabel* m_pCanvasStatusLB;
+    QLabel* m_pHoveredLB;
+    QPointer<QWidget> m_secondView;
+    const ToolSet::Row* m_tool = nullptr;  ///< the message that announced it; null: none
+    qint64 m_mode = 0;
+    PlaceTool* m_place = nullptr;  ///< the tool at work, when it is this one
+    QMap<QString, QVariant> m_record;
+    Pcb::Attributes m_attributes;
+};

@@ -1,0 +1,193 @@
+#include "messages/MessageLog.h"
+#include "messages/MessageTrace.h"
+#include "messages/WindowPicture.h"
+#include "session/SessionParser.h"
+#include "session/SessionPlayer.h"
+#include "session/SessionRecorder.h"
+#include "window/Options.h"
+#include "window/WorkbenchWindow.h"
+
+#include <CamApiStandIn.h>
+#include <FileError.h>
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QStyleFactory>
+#include <QTimer>
+#include <QWindow>
+
+#include <cstdio>
+
+using CanvasHost::FileError;
+
+namespace {
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x35, 0x38, 0x3d), QColor(0x2d, 0x30, 0x34));
+    palette.setColor(QPalette::Base, QColor(0x22, 0x24, 0x28));
+    palette.setColor(QPalette::AlternateBase, QColor(0x2a, 0x2d, 0x31));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x7d, 0xd1));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0xa0, 0xa8));
+    return palette;
+}
+
+/// The look that the options ask for, set before any window is made.
+void dress(const Options& options)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (options.isDark) {
+        QApplication::setPalette(darkPalette());
+    }
+    if (options.fontSize > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(options.fontSize);
+        QApplication::setFont(font);
+    }
+}
+
+enum ExitStatus { Good = 0, StepFailed = 1, BadInput = 2 };
+
+void complain(const QString& text)
+{
+    fprintf(stderr, "%s\n", qUtf8Printable(text));
+}
+
+/// Words of others, who have put the place in front already.
+[[noreturn]] void refuse(const QString& text)
+{
+    throw FileError{{}, 0, text};
+}
+
+/// What the command line names, read and opened.
+struct Inputs {
+    Options options;
+    Session session;
+    MessageTrace trace;
+};
+
+/// Reads everything that may be wrong before a window is made.
+void readInputs(int argc, char* argv[], Inputs* inputs)
+{
+    inputs->options = Options::ofProgram(argc, argv);
+    const Options& options = inputs->options;
+    QString error;
+    if (!CanvasHost::loadJobs(options.jobFile, &error)) {
+        refuse(error);
+    }
+    if (!options.sessionFile.isEmpty()) {
+        inputs->session = SessionParser::readFile(options.sessionFile);
+    }
+    if (!options.recordFile.isEmpty() && QFileInfo::exists(options.recordFile) &&
+        QFileInfo(options.recordFile) == QFileInfo(options.sessionFile)) {
+        throw FileError{options.recordFile, 0,
+                        QStringLiteral("a session is not recorded over the one that is played")};
+    }
+    if (!options.traceFile.isEmpty()) {
+        inputs->trace.open(options.traceFile);
+    }
+}
+
+/// Calls `then` when `window` has been on the screen for a moment.
+void whenPainted(QWidget* window, const std::function<void()>& then)
+{
+    const bool exposed = window->windowHandle() && window->windowHandle()->isExposed();
+    QTimer::singleShot(exposed ? 150 : 20, window, [=] {
+        if (exposed) {
+            then();
+        } else {
+            whenPainted(window, then);
+        }
+    });
+}
+
+/// Has the canvas open or export a file. The canvas is a module, known by its name and methods
+/// alone.
+void askCanvas(QWidget* window, const char* method, const QString& file)
+{
+    if (file.isEmpty()) {
+        return;
+    }
+    auto* const canvas = window->findChild<QWidget*>(QStringLiteral("m_pViewer"));
+    QString error;
+    if (!canvas || !QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(QString, error),
+                                              Q_ARG(QString, file))) {
+        throw FileError{file, 0, QStringLiteral("the canvas knows no %1").arg(method)};
+    }
+    if (!error.isEmpty()) {
+        refuse(error);
+    }
+}
+
+/// What is left to write when everything was played.
+void writeOutputs(const Options& options, QWidget* window)
+{
+    askCanvas(window, "exportBoard", options.exportFile);
+    if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
+        throw FileError{options.screenshotFile, 0, QStringLiteral("the picture cannot be written")};
+    }
+}
+
+void end(const Options& options, QWidget* window)
+{
+    try {
+        writeOutputs(options, window);
+        if (options.exit) {
+            QCoreApplication::exit(Good);
+        }
+    } catch (const FileError& error) {
+        complain(error.text());
+        QCoreApplication::exit(BadInput);
+    }
+}
+
+int run(int argc, char* argv[])
+{
+    Inputs inputs;
+    readInputs(argc, argv, &inputs);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("workbench"));
+    dress(inputs.options);
+    MessageLog log;
+    QObject::connect(&log, &MessageLog::appended, &application,
+                     [&](const MessageRecord& message) { inputs.trace.append(message); });
+    WorkbenchWindow window(inputs.options, &log);
+    QString error;
+    if (!window.start(&error)) {
+        refuse(error);
+    }
+    askCanvas(&window, "openBoard", inputs.options.boardFile);
+    SessionRecorder recorder(&window);
+    if (!inputs.options.recordFile.isEmpty()) {
+        recorder.start(inputs.options.recordFile);
+    }
+    SessionPlayer player(inputs.session, window.host(), &window, &log);
+    QObject::connect(&player, &SessionPlayer::noted, &application, complain);
+    QObject::connect(&player, &SessionPlayer::failed, &application, [](const QString& text) {
+        complain(text);
+        QCoreApplication::exit(StepFailed);
+    });
+    QObject::connect(&player, &SessionPlayer::finished, &window,
+                     [&] { end(inputs.options, &window); });
+    window.show();
+    whenPainted(&window, [&] { player.start(); });
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    try {
+        return run(argc, argv);
+    } catch (const FileError& error) {
+        complain(error.text());
+        return BadInput;
+    }
+}
