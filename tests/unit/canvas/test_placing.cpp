@@ -129,8 +129,8 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture;
         const auto receive = [&fixture](const char* content) {
-            fixture.receive(50, 0,
-                            {{"Features", 5},
+            fixture.receive(MessageCodes::Sent::Record, 0,
+                            {{RecordKeys::features, 5},
                              {RecordKeys::textFormat, TextKind::barcode},
                              {RecordKeys::barcodeMode, Symbology::code128B.toInt()},
                              {RecordKeys::textContains, content}});
