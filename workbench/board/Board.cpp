@@ -1,5 +1,6 @@
 #include "board/Board.h"
 
+#include "board/Areas.h"
 #include "board/Paths.h"
 
 #include <QSet>

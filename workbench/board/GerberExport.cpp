@@ -1,7 +1,7 @@
 #include "board/GerberExport.h"
 
+#include "board/Areas.h"
 #include "board/GerberWriter.h"
-#include "board/Paths.h"
 #include "board/Symbol.h"
 
 #include <Files.h>

@@ -1,5 +1,6 @@
 #include "board/GerberWriter.h"
 
+#include "board/Areas.h"
 #include "board/Paths.h"
 
 #include <cmath>

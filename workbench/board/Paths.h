@@ -43,32 +43,8 @@ QPolygonF convexHull(QPolygonF points);
 /// Positive for a counterclockwise polygon, in square micrometres.
 double signedArea(const QPolygonF& polygon);
 
-/// The area that `path` covers by its fill rule, in square micrometres, flattened.
-double coveredArea(const QPainterPath& path);
-
 /// The outlines of a path, flattened to within `flatness` and closed implicitly.
 QVector<QPolygonF> flattened(const QPainterPath& path);
-
-/// An outline with the holes that lie directly in it; none of them crosses another.
-struct Island {
-    QPolygonF outline;         ///< counterclockwise
-    QVector<QPolygonF> holes;  ///< clockwise
-};
-
-/// A path taken apart, its corners on whole nanometres. Islands within holes are islands of their
-/// own.
-QVector<Island> islands(const QPainterPath& path);
-
-/// One closed outline for an island: each hole is joined by a horizontal cut, as a Gerber region
-/// has no holes.
-QPolygonF cutOpen(const Island& island);
-
-/// Areas by the winding rule, both shapes taken by their own.
-QPainterPath united(const QPainterPath& area, const QPainterPath& shape);
-QPainterPath subtracted(const QPainterPath& area, const QPainterPath& shape);
-
-/// The same area by the winding rule: outlines counterclockwise, holes clockwise, none crossing.
-QPainterPath byWinding(const QPainterPath& path);
 
 /// How far `point` lies from the segment `a` to `b`.
 double distanceToSegment(const QPointF& point, const QPointF& a, const QPointF& b);

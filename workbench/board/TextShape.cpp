@@ -1,5 +1,6 @@
 #include "board/TextShape.h"
 
+#include "board/Areas.h"
 #include "board/Codes.h"
 #include "board/Paths.h"
 #include "board/StrokeFont.h"

@@ -1,4 +1,5 @@
 #include "Main.h"
+#include "board/Areas.h"
 #include "board/Board.h"
 #include "board/EditOps.h"
 #include "board/Paths.h"

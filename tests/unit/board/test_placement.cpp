@@ -1,4 +1,5 @@
 #include "Main.h"
+#include "board/Areas.h"
 #include "board/Paths.h"
 #include "board/Placement.h"
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QVector>
+
+/// Areas as their outlines. Lengths are micrometres, y points up.
+namespace Pcb {
+
+/// An outline with the holes that lie directly in it; none of them crosses another.
+struct Island {
+    QPolygonF outline;         ///< counterclockwise
+    QVector<QPolygonF> holes;  ///< clockwise
+};
+
+/// A path taken apart, its corners on whole nanometres. Islands within holes are islands of their
+/// own.
+QVector<Island> islands(const QPainterPath& path);
+
+/// One closed outline for an island: each hole is joined by a horizontal cut, as a Gerber region
+/// has no holes.
+QPolygonF cutOpen(const Island& island);
+
+/// Areas by the winding rule, both shapes taken by their own.
+QPainterPath united(const QPainterPath& area, const QPainterPath& shape);
+QPainterPath subtracted(const QPainterPath& area, const QPainterPath& shape);
+
+/// The same area by the winding rule: outlines counterclockwise, holes clockwise, none crossing.
+QPainterPath byWinding(const QPainterPath& path);
+
+/// The area that `path` covers by its fill rule, in square micrometres, flattened.
+double coveredArea(const QPainterPath& path);
+
+}  // namespace Pcb
