@@ -309,10 +309,10 @@ bool RandomUser::focus(QWidget* control)
 {
     const QPointer<QWidget> reached(control);
     activate(control->window());
-    if (reached) {
+    if (reached && control->isVisible()) {
         control->setFocus(below(2) ? Qt::MouseFocusReason : Qt::TabFocusReason);
     }
-    return reached && control->hasFocus();
+    return reached && control->isVisible() && control->hasFocus();
 }
 
 /// What is done in the dialog while an entry is pending, or to make it so.

@@ -35,8 +35,15 @@ Agreement::Agreement(QWidget& dialog)
 void Agreement::watchEdit(QLineEdit* edit)
 {
     const QString name = edit->objectName();
-    connect(edit, &QLineEdit::textEdited, this, [this, name] { m_pending.insert(name); });
-    connect(edit, &QLineEdit::editingFinished, this, [this, name] { m_pending.remove(name); });
+    connect(edit, &QLineEdit::textEdited, this, [this, name] {
+        m_pending.insert(name);
+        m_leftUnreported.remove(name);
+    });
+    connect(edit, &QLineEdit::editingFinished, this, [this, name] {
+        m_pending.remove(name);
+        m_leftUnreported.remove(name);
+    });
+    edit->installEventFilter(this);
 }
 
 void Agreement::watchSymbol()
@@ -78,6 +85,11 @@ bool Agreement::eventFilter(QObject* object, QEvent* event)
     if (object == &m_dialog && event->type() == QEvent::Close && isPending(symbolField)) {
         m_isPendingSinceClose = true;
     }
+    const auto* const edit = qobject_cast<const QLineEdit*>(object);
+    if (edit && event->type() == QEvent::FocusOut && isPending(edit->objectName()) &&
+        !edit->hasAcceptableInput()) {
+        m_leftUnreported.insert(edit->objectName());
+    }
     return QObject::eventFilter(object, event);
 }
 
@@ -102,6 +114,7 @@ QVector<Agreement::Finding> Agreement::look(const QVariantMap& record) const
     for (int i = 0; i < fields.size(); ++i) {
         const AgreementTable::Field& field = fields[i];
         shown.widget = m_widgets[i];
+        shown.isLeftUnreported = m_leftUnreported.contains(field.names.first());
         shown.record = record.value(QLatin1String(field.key)).toString();
         Finding finding{field.names.first(), Result::Holds, {}};
         if (isUnfinished(*shown.widget)) {

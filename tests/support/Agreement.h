@@ -53,6 +53,7 @@ private:
     QLineEdit* m_symbol;
     QLabel* m_unit;
     QSet<QString> m_pending;
+    QSet<QString> m_leftUnreported;
     QSet<qint64> m_suffixes;
     QString m_background;
     bool m_isTyping = false;

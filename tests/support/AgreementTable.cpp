@@ -96,10 +96,21 @@ int indexOf(const Shown& shown)
 }
 
 struct Exception {
-    QStringList fields;  ///< empty: all combo boxes with values
+    QStringList fields;  ///< empty: all
     const char* reason;
     bool (*applies)(const Shown& shown);
 };
+
+QStringList combosWithValues()
+{
+    QStringList names;
+    for (const Field& field : fields()) {
+        if (field.kind == Kind::Choice) {
+            names.append(field.names.first());
+        }
+    }
+    return names;
+}
 
 const QVector<Exception>& exceptions()
 {
@@ -125,8 +136,10 @@ const QVector<Exception>& exceptions()
          [](const Shown& shown) { return shown.record == "6350" && agree(metricLength(shown), 250); }},
         {{"m_pCannedHoleSizeLE"}, "built in metric units: the first size is stored as if in mil",
          [](const Shown& shown) { return shown.record == "508" && agree(metricLength(shown), 20); }},
-        {{}, "no item is chosen: nothing is stored",
+        {combosWithValues(), "no item is chosen: nothing is stored",
          [](const Shown& shown) { return indexOf(shown) < 0; }},
+        {{}, "left as a text that its validator refused; another type or unit made it one that it takes",
+         [](const Shown& shown) { return shown.isLeftUnreported; }},
     };
     // clang-format on
     return all;
@@ -266,8 +279,8 @@ bool isStored(const Field& field, const Shown& shown)
 QString exceptionOf(const Field& field, const Shown& shown)
 {
     for (const Exception& exception : exceptions()) {
-        const bool isMeant = exception.fields.isEmpty() ? field.kind == Kind::Choice
-                                                        : exception.fields.contains(field.names[0]);
+        const bool isMeant =
+            exception.fields.isEmpty() || exception.fields.contains(field.names.first());
         if (isMeant && exception.applies(shown)) {
             return QLatin1String(exception.reason);
         }

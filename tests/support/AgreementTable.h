@@ -36,6 +36,7 @@ struct Shown {
     QString background;                ///< what the markers said when the background was ticked
     bool isEmptiedByProgram = false;   ///< the symbol field
     bool isPendingSinceClose = false;  ///< the symbol field
+    bool isLeftUnreported = false;     ///< its validator refused it when it was left
 };
 
 const QVector<Field>& fields();
