@@ -41,7 +41,10 @@ RandomUser::RandomUser(std::optional<int> forbiddenCode)
     CanvasHost::addInstance(QStringLiteral("Canvas_Tool_Strip.dll"), m_strip, recMsgFromManager,
                             m_window.get());
     m_recorder.setOnMessage([this](const Recorder::Entry& entry) {
-        if (entry.message.code == dialogMade && entry.sender == m_window.get()) {
+        if (entry.sender != m_window.get()) {
+            return;  // what this user sent to the module
+        }
+        if (entry.message.code == dialogMade) {
             greetTheDialog();
         }
         receiveAnswer();
