@@ -62,7 +62,7 @@ void UnitField::focusOutEvent(QFocusEvent* event)
 {
     LineField::focusOutEvent(event);
     if (isModified() && !hasAcceptableInput() && text() == m_converted) {
-        finish();
+        Q_EMIT editingFinished();
     }
 }
 

@@ -39,6 +39,22 @@ expect "$class::On_SelectPolyline_Clicked(int)"
 expect "$class::on_m_pEqTB_clecked()"
 expect "$class::on_m_mark_setting_clicked()"
 
+# The exported function hands its copy to the member of its own name, the only one that takes one.
+objdump -d --disassemble=recMsgFromManager "$1" |
+    grep -q "call .*<_ZN17${class}17recMsgFromManagerE14PluginMetaData@plt>" || {
+    echo "recMsgFromManager does not call $class::recMsgFromManager"
+    failed=1
+}
+takers=$(printf '%s\n' "$names" | grep -F "(PluginMetaData)" | sort)
+[ "$takers" = "$class::recMsgFromManager(PluginMetaData)" ] || {
+    echo "taking a message: $takers"
+    failed=1
+}
+if printf '%s\n' "$names" | grep -qF "$class::handleMessage("; then
+    echo "a second member delivers messages"
+    failed=1
+fi
+
 others=$(printf '%s\n' "$names" | grep -vE \
     "^(GetPluginInstance|recMsgFromManager|($class::|(vtable|typeinfo|typeinfo name) for $class$|non-virtual thunk to $class::).*)\$")
 if [ -n "$others" ]; then

@@ -1,5 +1,6 @@
 // What a random number makes the user or the host do.
 
+#include "FindChild.h"
 #include "RandomUser.h"
 #include "Refusals.h"
 #include "plugin/ExtraWord.h"
@@ -18,18 +19,34 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
 const QVector<int> acceptedCodes = Accepted::all();
 
+/// In an order that is the same each time.
+QList<QWidget*> windows()
+{
+    QList<QWidget*> all = QApplication::topLevelWidgets();
+    const auto name = [](const QWidget* window) {
+        return window->objectName() + window->metaObject()->className() + window->windowTitle();
+    };
+    std::sort(all.begin(), all.end(),
+              [&](const QWidget* a, const QWidget* b) { return name(a) < name(b); });
+    return all;
+}
+
 }  // namespace
 
 void RandomUser::act()
 {
-    const int kind = below(20);
-    if (kind < 2) {
+    const int kind = below(26);
+    if (kind >= 20) {
+        useFocus(kind - 20);
+    } else if (kind < 2) {
         clickTool();
     } else if (kind == 2) {
         openMenu();
@@ -47,7 +64,7 @@ void RandomUser::act()
     } else if (kind == 8) {
         switchLanguage();
     } else if (kind == 9) {
-        useWindow(oneOf(QApplication::topLevelWidgets()));
+        useWindow(oneOf(windows()));
     } else if (dialog()) {
         useWindow(dialog());
     } else {
@@ -71,6 +88,9 @@ void RandomUser::clickTool()
 {
     QWidget* const tool = m_strip->itemAt(below(ToolTable::toolCount))->widget();
     m_story = "click " + tool->objectName();
+    if (below(2)) {
+        activate(m_window.get());
+    }
     QTest::mouseClick(tool, Qt::LeftButton);
 }
 
@@ -79,16 +99,20 @@ void RandomUser::openMenu()
     const int tools[] = {5, 23, 24};
     QWidget* const tool = m_strip->itemAt(oneOf(tools))->widget();
     const int choice = below(4);
-    QTimer::singleShot(0, tool, [choice] {
-        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [choice] {
+        QWidget* const popup = QApplication::activePopupWidget();
+        auto* const menu = qobject_cast<QMenu*>(popup);
         if (menu && choice < menu->actions().size()) {
             QTest::mouseClick(menu, Qt::LeftButton, {},
                               menu->actionGeometry(menu->actions().at(choice)).center());
-        } else if (menu) {
-            menu->close();
+        } else if (popup) {
+            popup->close();
         }
     });
+    watch.start(0);
     m_story = QStringLiteral("right-click %1, entry %2").arg(tool->objectName()).arg(choice);
+    activate(m_window.get());  // a menu that a box closes before it is up would never end
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
     QApplication::sendEvent(tool, &event);
 }
@@ -108,9 +132,8 @@ PluginMetaData RandomUser::message()
     }
     prepareExtra(message);
     if (message.code == Accepted::UnitChanged) {
-        const auto unit = CanvasHost::DisplayUnit(below(4));
-        CanvasHost::setDisplayUnit(unit);
-        m_story = QStringLiteral("unit %1 ").arg(int(unit));
+        m_unitToCome = CanvasHost::DisplayUnit(below(4));
+        m_story = QStringLiteral("unit %1 ").arg(int(m_unitToCome));
     }
     return message;
 }
@@ -143,7 +166,16 @@ void RandomUser::receive()
     m_story += QStringLiteral("receive %1 with %2 entries").arg(sent.code).arg(sent.payload.size());
     // A picked symbol may be one that is refused.
     m_mayRefuse = m_mayRefuse || sent.code == Accepted::SymbolsPicked;
-    QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, sent);
+    deliver(sent);
+}
+
+/// A host says at once what unit it works in now.
+void RandomUser::deliver(const PluginMetaData& message)
+{
+    if (message.code == Accepted::UnitChanged) {
+        CanvasHost::setDisplayUnit(m_unitToCome);
+    }
+    QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, message);
 }
 
 /// What a host that is linked against the class may call.
@@ -182,7 +214,7 @@ void RandomUser::switchLanguage()
 
 void RandomUser::closeWindow()
 {
-    QWidget* const window = oneOf(QApplication::topLevelWidgets());
+    QWidget* const window = oneOf(windows());
     if (window == m_window.get() || !window->isVisible()) {
         m_story = QStringLiteral("wait");
         return;
@@ -203,6 +235,11 @@ void RandomUser::useWindow(QWidget* window)
         m_story = QStringLiteral("wait");
         return;
     }
+    if (window == dialog() && !window->isVisible()) {
+        m_story = QStringLiteral("open the dialog again");
+        m_strip->On_AddFeature_Clicked();
+        return;
+    }
     window->show();
     useControl(oneOf(controls));
 }
@@ -215,23 +252,35 @@ void RandomUser::useControl(QWidget* control)
         m_story += QStringLiteral(" item %1").arg(item);
         combo->setCurrentIndex(item);
     } else if (auto* const spin = qobject_cast<QSpinBox*>(control)) {
-        spin->setValue(below(400));
-        m_story += QStringLiteral(" value %1").arg(spin->value());
-        QTest::keyClick(spin, Qt::Key_Return);
+        if (focus(spin)) {
+            const QString value = QString::number(below(400));
+            m_story += " value " + value;
+            spin->selectAll();
+            QTest::keyClicks(spin, value);
+            leave(spin);
+        }
     } else if (auto* const edit = qobject_cast<QLineEdit*>(control)) {
-        enterText(edit);
+        if (enterText(edit)) {
+            leave(edit);
+        }
     } else {
+        if (below(2)) {
+            focus(control);
+        }
         QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
     }
 }
 
-void RandomUser::enterText(QLineEdit* field)
+/// Types or pastes into the field, and stays there. False when the field cannot be reached or is
+/// gone.
+bool RandomUser::enterText(QLineEdit* field)
 {
     const QString text = randomText();
     const bool byKeys = below(2);
-    const int key = below(2) ? Qt::Key_Return : Qt::Key_Tab;
-    m_story += QStringLiteral(" %1 \"%2\" %3")
-                   .arg(byKeys ? "type" : "paste", text, key == Qt::Key_Tab ? "Tab" : "Enter");
+    if (!focus(field)) {
+        return false;
+    }
+    m_story += QStringLiteral(" %1 \"%2\"").arg(byKeys ? "type" : "paste", text);
     const QString type = dialog() ? Refusals::chosenType(*dialog()) : QString();
     // A validator leaves out what it does not take: of "12.5" a count keeps "125".
     static const QRegularExpression kept("\\A[a-z0-9]*\\z");
@@ -244,7 +293,68 @@ void RandomUser::enterText(QLineEdit* field)
     } else {
         field->insert(text);
     }
-    if (left) {
-        QTest::keyClick(field, Qt::Key(key));
+    return left;
+}
+
+void RandomUser::leave(QWidget* field)
+{
+    const int key = below(2) ? Qt::Key_Return : Qt::Key_Tab;
+    m_story += key == Qt::Key_Tab ? " Tab" : " Enter";
+    QTest::keyClick(field, Qt::Key(key));
+}
+
+void RandomUser::activate(QWidget* window)
+{
+    if (window->isVisible() && !window->isActiveWindow()) {
+        QApplication::setActiveWindow(window);
+    }
+}
+
+/// As a click into the control or Tab moves the focus there. False when it cannot have it.
+bool RandomUser::focus(QWidget* control)
+{
+    const QPointer<QWidget> reached(control);
+    activate(control->window());
+    if (reached && control->isVisible()) {
+        control->setFocus(below(2) ? Qt::MouseFocusReason : Qt::TabFocusReason);
+    }
+    return reached && control->isVisible() && control->hasFocus();
+}
+
+/// What is done in the dialog while an entry is pending, or to make it so.
+void RandomUser::useFocus(int kind)
+{
+    if (!dialog() || !dialog()->isVisible()) {
+        m_story = QStringLiteral("open the dialog");
+        m_strip->On_AddFeature_Clicked();
+        return;
+    }
+    if (kind == 0) {
+        const QString typeButton =
+            oneOf(QStringList{"m_pLineTB", "m_pPadTB", "m_pSurfaceTB", "m_pArcTB", "m_pTextTB"});
+        m_story = "click " + typeButton;
+        QTest::mouseClick(&findNamed(*dialog(), typeButton), Qt::LeftButton);
+        return;
+    }
+    QList<QWidget*> reachable;
+    for (QWidget* const control : dialog()->findChildren<QWidget*>()) {
+        const bool isField = qobject_cast<QLineEdit*>(control) || qobject_cast<QSpinBox*>(control);
+        if (control->isVisible() && control->isEnabled() && control->window() == dialog() &&
+            !control->objectName().startsWith("qt_") &&
+            (kind < 4 ? isField : bool(control->focusPolicy() & Qt::TabFocus))) {
+            reachable.append(control);
+        }
+    }
+    if (reachable.isEmpty()) {
+        m_story = QStringLiteral("wait");
+        return;
+    }
+    QWidget* const control = oneOf(reachable);
+    m_story = "focus " + control->objectName();
+    auto* const edit = qobject_cast<QLineEdit*>(control);
+    if (edit && kind < 4) {
+        enterText(edit);
+    } else if (focus(control) && kind < 4) {
+        QTest::keyClicks(control, QString::number(below(10)));
     }
 }

@@ -40,7 +40,15 @@ RandomUser::RandomUser(std::optional<int> forbiddenCode)
     m_window->show();
     CanvasHost::addInstance(QStringLiteral("Canvas_Tool_Strip.dll"), m_strip, recMsgFromManager,
                             m_window.get());
-    m_recorder.setOnMessage([this](const Recorder::Entry&) { receiveAnswer(); });
+    m_recorder.setOnMessage([this](const Recorder::Entry& entry) {
+        if (entry.sender != m_window.get()) {
+            return;  // what this user sent to the module
+        }
+        if (entry.message.code == MessageCodes::Sent::AddFeature) {
+            greetTheDialog();
+        }
+        receiveAnswer();
+    });
     // A dialog that is made later starts in mil.
     QObject::connect(m_strip, &Canvas_Tool_Strip::Current_Unit_Changed, m_window.get(),
                      [this](bool isMM) { m_isMetric = isMM && dialog(); });
@@ -86,7 +94,7 @@ QString RandomUser::fault()
     }
     QString found = faultOfBoxes();
     if (found.isEmpty() && dialog()) {
-        record();  // its own message is looked at with the others
+        found = faultOfFields();  // the record's own message is looked at with the others
     }
     return found.isEmpty() ? faultOfMessages() : found;
 }
@@ -103,6 +111,31 @@ QString RandomUser::faultOfBoxes()
             return "a box without a reason: " + words;
         }
     }
+    return {};
+}
+
+QString RandomUser::faultOfFields()
+{
+    bool isWhole = true;
+    for (const Agreement::Finding& finding : m_agreement->look(record())) {
+        Looks& looks = m_looks[finding.field];
+        switch (finding.result) {
+            case Agreement::Result::Holds:
+                ++looks.held;
+                break;
+            case Agreement::Result::Unfinished:
+                ++looks.unfinished;
+                break;
+            case Agreement::Result::Excepted:
+                ++looks.excepted;
+                break;
+            case Agreement::Result::Broken:
+                return finding.words;
+        }
+        isWhole = isWhole && finding.result == Agreement::Result::Holds;
+    }
+    ++m_steps;
+    m_wholeSteps += isWhole;
     return {};
 }
 
@@ -136,11 +169,20 @@ QVariantMap RandomUser::record()
     return m_recorder.messages().last().message.payload;
 }
 
+/// A new dialog takes lengths as mil until it is told.
+void RandomUser::greetTheDialog()
+{
+    m_agreement = std::make_unique<Agreement>(*dialog());
+    PluginMetaData unit("Sibling.dll", "Canvas_Tool_Strip.dll");
+    unit.code = Accepted::UnitChanged;
+    QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, unit);
+}
+
 /// What the canvas was told to answer to the next message, within the call.
 void RandomUser::receiveAnswer()
 {
     if (const std::optional<PluginMetaData> answer = std::exchange(m_answer, {})) {
         m_mayRefuse = m_mayRefuse || answer->code == Accepted::SymbolsPicked;
-        QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, *answer);
+        deliver(*answer);
     }
 }

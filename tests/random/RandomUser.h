@@ -1,10 +1,13 @@
 #pragma once
 
+#include "Agreement.h"
 #include "BoxCatcher.h"
 #include "QuotingTranslator.h"
 #include "Recorder.h"
 #include "addfeature/AddFeature.h"
 #include "toolbar/Canvas_Tool_Strip.h"
+
+#include <UiApiStandIn.h>
 
 #include <QMap>
 #include <QPointer>
@@ -34,6 +37,17 @@ public:
     const QMap<int, int>& sent() const { return m_sent; }
     int boxCount() const { return m_boxCount; }
 
+    /// How often a field was found in each state, after a step with the dialog.
+    struct Looks {
+        qint64 held = 0;
+        qint64 unfinished = 0;
+        qint64 excepted = 0;
+    };
+    const QMap<QString, Looks>& looks() const { return m_looks; }
+    /// The steps after which the fields were looked at, and those without any left out.
+    qint64 steps() const { return m_steps; }
+    qint64 wholeSteps() const { return m_wholeSteps; }
+
     /// What Qt says on its own account (a connection that fails, a style sheet that it cannot
     /// read) is a fault; set by the program's message handler.
     static QString& complaint();
@@ -58,12 +72,19 @@ private:
     void switchLanguage();
     void useWindow(QWidget* window);
     void useControl(QWidget* control);
-    void enterText(QLineEdit* field);
+    bool enterText(QLineEdit* field);
+    void leave(QWidget* field);
+    void activate(QWidget* window);
+    bool focus(QWidget* control);
+    void useFocus(int kind);
     void closeWindow();
+    void deliver(const PluginMetaData& message);
+    void greetTheDialog();
 
     QString fault();
     QString faultOfBoxes();
     QString faultOfMessages();
+    QString faultOfFields();
     AddFeature* dialog() const;
     QVariantMap record();
 
@@ -73,7 +94,12 @@ private:
     std::unique_ptr<QuotingTranslator> m_translator;
     std::unique_ptr<QWidget> m_window;
     QPointer<Canvas_Tool_Strip> m_strip;
+    std::unique_ptr<Agreement> m_agreement;
+    QMap<QString, Looks> m_looks;
+    qint64 m_steps = 0;
+    qint64 m_wholeSteps = 0;
     std::optional<PluginMetaData> m_answer;
+    CanvasHost::DisplayUnit m_unitToCome = CanvasHost::DisplayUnit::Mil;
     std::optional<int> m_forbiddenCode;
     QString m_story;
     QMap<int, int> m_sent;

@@ -58,6 +58,7 @@ public:
         }
         m_out << count << " seeds, " << m_steps << " steps each: " << m_messages << " messages of "
               << m_codes.size() << " kinds, " << m_boxes << " boxes, no fault\n";
+        tellAgreement();
         return 0;
     }
 
@@ -143,7 +144,39 @@ private:
             m_messages += sent.value();
         }
         m_boxes += user.boxCount();
+        for (auto field = user.looks().begin(); field != user.looks().end(); ++field) {
+            RandomUser::Looks& looks = m_looks[field.key()];
+            looks.held += field->held;
+            looks.unfinished += field->unfinished;
+            looks.excepted += field->excepted;
+        }
+        m_lookedSteps += user.steps();
+        m_wholeSteps += user.wholeSteps();
         return {};
+    }
+
+    static QString share(qint64 part, qint64 whole)
+    {
+        return QString::number(whole > 0 ? 100.0 * double(part) / double(whole) : 0.0, 'f', 2);
+    }
+
+    /// In what share of the steps the record was held against the fields.
+    void tellAgreement()
+    {
+        qint64 held = 0;
+        for (const RandomUser::Looks& looks : qAsConst(m_looks)) {
+            held += looks.held;
+        }
+        m_out << "fields and record agree after " << m_lookedSteps
+              << " steps; looked at: " << share(held, m_lookedSteps * m_looks.size())
+              << " % of all fields, all at once in " << share(m_wholeSteps, m_lookedSteps)
+              << " % of the steps\nfield                  looked at  unfinished  excepted (%)\n";
+        for (auto field = m_looks.begin(); field != m_looks.end(); ++field) {
+            m_out << field.key().leftJustified(24)
+                  << share(field->held, m_lookedSteps).leftJustified(11)
+                  << share(field->unfinished, m_lookedSteps).leftJustified(12)
+                  << share(field->excepted, m_lookedSteps) << '\n';
+        }
     }
 
     QTextStream m_out{stdout};
@@ -153,6 +186,9 @@ private:
     qint64 m_messages = 0;
     qint64 m_boxes = 0;
     QSet<int> m_codes;
+    QMap<QString, RandomUser::Looks> m_looks;
+    qint64 m_lookedSteps = 0;
+    qint64 m_wholeSteps = 0;
 };
 
 /// What Qt itself complains of is a fault; what the windowless platform cannot do is not.

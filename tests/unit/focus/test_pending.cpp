@@ -1,0 +1,212 @@
+// An entry that is pending when a box opens elsewhere is taken once the box is closed.
+
+#include "Entries.h"
+#include "FocusFixture.h"
+#include "Main.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/RecordKeys.h"
+
+#include <UiApiStandIn.h>
+
+#include <QLineEdit>
+
+#include <stdexcept>
+
+namespace Accepted = MessageCodes::Accepted;
+namespace Sent = MessageCodes::Sent;
+
+namespace {
+
+const QString sizeBox = "Information|The value must lie between 0 and 50000.";
+const QString pickBox = "Dialog Box|Illegal symbol name: ";
+
+/// What taking an entry of that field sends.
+QVector<int> codesOf(const Entry& entry)
+{
+    const QString field = entry.field;
+    if (field.startsWith("m_pSlot") || field == "m_pLengthLE") {
+        return {};
+    }
+    // Counts and factors have been sent while they were typed.
+    if (field.startsWith("m_pDril") && !field.contains("D", Qt::CaseSensitive)) {
+        return {};
+    }
+    if (!entry.box.isEmpty() && field != "m_pSymbolTextLE") {
+        return {};
+    }
+    return {field == "m_pAngleLE" ? Sent::DirectionRecord : Sent::Record};
+}
+
+bool isCheckedWhileTyping(const Entry& entry)
+{
+    const QString field = entry.field;
+    return field.startsWith("m_pDrilN") || field.endsWith("sclLE");
+}
+
+/// Entries on pages whose symbol is checked when the record goes.
+QVector<int> entriesWithSymbol()
+{
+    QVector<int> numbers;
+    for (int i = 0; i < allEntries().size(); ++i) {
+        const Entry& entry = allEntries()[i];
+        const QString field = entry.field;
+        if (entry.isTyped() && field != "m_pSymbolTextLE" && !isCheckedWhileTyping(entry) &&
+            (qstrcmp(entry.type, "m_pLineTB") == 0 || qstrcmp(entry.type, "m_pPadTB") == 0)) {
+            numbers.append(i);
+        }
+    }
+    return numbers;
+}
+
+}  // namespace
+
+class TestPending : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusedSymbolAtTheSend_data()
+    {
+        QTest::addColumn<int>("number");
+        for (const int number : entriesWithSymbol()) {
+            QTest::addRow("%s %s", allEntries()[number].field,
+                          qPrintable(allEntries()[number].typed))
+                << number;
+        }
+        QVERIFY(entriesWithSymbol().size() > 10);
+    }
+
+    /// The canvas asks for the record while the symbol is one that the host refuses.
+    void refusedSymbolAtTheSend()
+    {
+        QFETCH(int, number);
+        const Entry& entry = allEntries()[number];
+        FocusFixture fixture;
+        entry.reachField(fixture);
+        fixture.find<QLineEdit>("m_pSymbolTextLE").setText("r60000");
+        fixture.boxes.take();
+        entry.enter(fixture);
+        fixture.recorder.clear();
+        fixture.receive(Accepted::AddFeature);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AddFeatureStarted} + codesOf(entry));
+        QStringList boxes = fixture.boxes.takeTexts();
+        QCOMPARE(boxes.value(0), sizeBox);
+        QCOMPARE(boxes.size(), entry.box.isEmpty() ? 1 : 2);
+        QVERIFY(entry.box.isEmpty() || boxes[1].startsWith(entry.box));
+        QCOMPARE(fixture.value(entry.key), entry.stored);
+        QCOMPARE(fixture.find<QLineEdit>("m_pSymbolTextLE").text(), QString());
+        QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
+
+        // Nothing more comes of leaving the field; a spin box may send the same once more.
+        const QVariantMap before = fixture.record();
+        fixture.leave();
+        QCOMPARE(fixture.record(), before);
+        QVERIFY(fixture.boxes.take().isEmpty());
+    }
+
+    void picks_data()
+    {
+        QTest::addColumn<QStringList>("picked");
+        QTest::addColumn<QStringList>("boxes");
+        QTest::addColumn<QStringList>("sent");
+        QTest::newRow("refused") << QStringList{"s5"} << QStringList{pickBox + "s5"}
+                                 << QStringList{"r30"};
+        QTest::newRow("refused twice")
+            << QStringList{"s5", "s6"} << QStringList{pickBox + "s5", pickBox + "s6"}
+            << QStringList{"r30"};
+        QTest::newRow("refused, accepted")
+            << QStringList{"s5", "r7"} << QStringList{pickBox + "s5"} << QStringList{"r30", "r7"};
+        QTest::newRow("accepted, refused")
+            << QStringList{"r7", "s5"} << QStringList{pickBox + "s5"} << QStringList{"r7", "r7"};
+        QTest::newRow("accepted") << QStringList{"r7"} << QStringList() << QStringList{"r7"};
+    }
+
+    void picks()
+    {
+        QFETCH(QStringList, picked);
+        QFETCH(QStringList, boxes);
+        QFETCH(QStringList, sent);
+        FocusFixture fixture;
+        fixture.click("m_pArcTB");
+        fixture.type("m_pSymbolTextLE", "r30");
+        fixture.recorder.clear();
+        std::map<int, std::string> symbols;
+        for (const QString& name : picked) {
+            symbols[int(symbols.size())] = name.toStdString();
+        }
+        fixture.receive(Accepted::SymbolsPicked, ExtraWord::pointingAt(symbols));
+        QCOMPARE(fixture.boxes.takeTexts(), boxes);
+        QStringList names;
+        for (const Recorder::Entry& entry : fixture.recorder.messages()) {
+            QCOMPARE(entry.message.code, int(Sent::Record));
+            names.append(entry.message.payload.value(RecordKeys::symbolText).toString());
+        }
+        QCOMPARE(names, sent);
+        QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
+    }
+
+    /// The box of one field, while the symbol is pending.
+    void anotherFieldsRefusal()
+    {
+        FocusFixture fixture;
+        fixture.click("m_pPadTB");
+        auto& pitch = fixture.find<QLineEdit>("m_pDrilDxLE");
+        pitch.setText("100005");
+        fixture.type("m_pSymbolTextLE", "s20");
+        fixture.recorder.clear();
+        fixture.dialog->on_m_pDrilDxLE_editingFinished();
+        QCOMPARE(fixture.boxes.takeTexts(),
+                 QStringList{"Information|The current value out of range:-100000 to 100000"});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        QCOMPARE(fixture.value(RecordKeys::symbolText), QString("s20"));
+        QCOMPARE(fixture.value(RecordKeys::padDx), QString("0"));
+        QCOMPARE(pitch.text(), QString("0"));
+    }
+
+    void failingTextHandler_data()
+    {
+        QTest::addColumn<bool>("isText");
+        QTest::addColumn<QString>("type");
+        for (const char* const type : {"m_pLineTB", "m_pPadTB", "m_pArcTB"}) {
+            QTest::addRow("a text, %s", type) << true << type;
+            QTest::addRow("an exception, %s", type) << false << type;
+        }
+    }
+
+    /// The host fails while a symbol is typed: one box for each letter, and the text stays.
+    void failingTextHandler()
+    {
+        QFETCH(bool, isText);
+        QFETCH(QString, type);
+        FocusFixture fixture;
+        fixture.click(type);
+        fixture.focus("m_pSymbolTextLE");
+        fixture.recorder.clear();
+        auto& getUnit = CanvasHost::uiApiOverrides().getUnit;
+        getUnit = [isText](void*) -> int {
+            if (isText) {
+                throw "no unit";
+            }
+            throw std::runtime_error("no unit");
+        };
+        QTest::keyClicks(&fixture.find("m_pSymbolTextLE"), "r1");
+        getUnit = nullptr;
+        QCOMPARE(fixture.boxes.takeTexts(),
+                 (QStringList{"Information|no unit", "Information|no unit"}));
+        QCOMPARE(fixture.find<QLineEdit>("m_pSymbolTextLE").text(), QString("r1"));
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        QCOMPARE(fixture.value(RecordKeys::symbolText), QString());
+
+        // The host is well again: the entry goes on.
+        fixture.open();
+        fixture.focus("m_pSymbolTextLE");
+        QTest::keyClicks(&fixture.find("m_pSymbolTextLE"), "0");
+        fixture.leave();
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        QCOMPARE(fixture.value(RecordKeys::symbolText), QString("r10"));
+        QVERIFY(fixture.boxes.take().isEmpty());
+    }
+};
+
+CTS_MAIN(TestPending)
+#include "test_pending.moc"

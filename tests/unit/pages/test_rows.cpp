@@ -1,0 +1,97 @@
+// How the rows of dialog and pages are put together, where it cannot be seen from the widgets.
+
+#include "Main.h"
+#include "PageFixture.h"
+
+#include <QLayout>
+#include <QLineEdit>
+#include <QRegExpValidator>
+#include <QWidget>
+
+namespace {
+
+QStringList namesIn(QLayout* layout)
+{
+    QStringList names;
+    for (int i = 0; layout && i < layout->count(); ++i) {
+        names.append(layout->itemAt(i)->widget() ? layout->itemAt(i)->widget()->objectName() : "");
+    }
+    return names;
+}
+
+}  // namespace
+
+class TestRows : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// First row, four sub-pages, spacer, font row, text row.
+    void textPage()
+    {
+        PageFixture fixture;
+        QLayout* const rows = fixture.widget("m_pTextPage")->layout();
+        QCOMPARE(rows->count(), 8);
+        QCOMPARE(namesIn(rows->itemAt(0)->layout()),
+                 (QStringList{"m_pTextFormatCMB", "m_pUPCCMB"}));
+        QCOMPARE(namesIn(rows).mid(1, 4), (QStringList{"m_pStringPage", "m_pBarcodePage",
+                                                       "m_pPlotStampPage", "m_pCannedTextPage"}));
+        QSpacerItem* const spacer = rows->itemAt(5)->spacerItem();
+        QVERIFY(spacer);
+        QCOMPARE(spacer->sizeHint(), QSize(1, 2));
+        QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+        QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+        QCOMPARE(namesIn(rows->itemAt(6)->layout()), (QStringList{"m_pFontPB", "m_pFontLE"}));
+        QCOMPARE(namesIn(rows->itemAt(7)->layout()), (QStringList{"m_pTextPB", "m_pTextLE"}));
+    }
+
+    /// Two rows of their own, whose fields begin and end at one line.
+    void fieldsOfTheTextPageStandInLine()
+    {
+        PageFixture fixture;
+        fixture.click("m_pTextTB");
+        QCoreApplication::processEvents();
+        QCOMPARE(fixture.widget("m_pFontLE")->x(), fixture.widget("m_pTextLE")->x());
+        QCOMPARE(fixture.widget("m_pFontLE")->width(), fixture.widget("m_pTextLE")->width());
+        QVERIFY(fixture.widget("m_pFontLE")->width() > fixture.widget("m_pFontPB")->width());
+    }
+
+    void rowsHaveNoMargins_data()
+    {
+        QTest::addColumn<QString>("row");
+        for (const char* const row :
+             {"m_pSymbolWidget", "m_pAttributesWidget", "m_pLinePage", "m_pPadPage",
+              "m_pSurfacePage", "m_pArcPage", "m_pTextPage", "m_pStringPage", "m_pBarcodePage",
+              "m_pPlotStampPage", "m_pCannedTextPage"}) {
+            QTest::newRow(row) << row;
+        }
+    }
+
+    void rowsHaveNoMargins()
+    {
+        QFETCH(QString, row);
+        PageFixture fixture;
+        QCOMPARE(fixture.widget(row)->layout()->contentsMargins(), QMargins());
+    }
+
+    /// A whole number without leading zeros, or a lone "0".
+    void cornerRadius()
+    {
+        PageFixture fixture;
+        auto& field = fixture.find<QLineEdit>("m_pCornerRadiusLE");
+        const auto* const validator = qobject_cast<const QRegExpValidator*>(field.validator());
+        QVERIFY(validator);
+        QCOMPARE(validator->regExp().pattern(), QString("^[1-9][0-9]*|0$"));
+        QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
+        QCOMPARE(int(validator->regExp().patternSyntax()), int(QRegExp::RegExp));
+        fixture.perform(QStringList{"m_pLineCMB=2", "m_pCornerTypeCMB=1"});
+        for (const auto& [typed, kept] :
+             {std::pair("10", "10"), std::pair("0", "0"), std::pair("01", "0"),
+              std::pair("1.5", "15"), std::pair("105", "105"), std::pair("-3", "3")}) {
+            fixture.type("m_pCornerRadiusLE", typed);
+            QCOMPARE(field.text(), QString(kept));
+        }
+    }
+};
+
+CTS_MAIN(TestRows)
+#include "test_rows.moc"
