@@ -348,7 +348,9 @@ void SymbolEntry::changeUnit(bool isMetric)
     // Not typed by the user: the kept texts stay.
     const char* const slot = SLOT(on_m_pSymbolTextLE_textChanged(QString));
     m_door.disconnectFromSlot(m_pSymbolTextLE, SIGNAL(textChanged(QString)), slot);
+    const bool isUntaken = m_pSymbolTextLE->isModified();
     m_pSymbolTextLE->setText(kept);
+    m_pSymbolTextLE->setModified(isUntaken);
     m_door.connectToSlot(m_pSymbolTextLE, SIGNAL(textChanged(QString)), slot);
 }
 
