@@ -30,7 +30,9 @@ test_toolbar_incoming test_dialog_attributes test_page_fonts_and_special_texts
 test_toolbar_activation test_dialog_frame test_dialog_symbol_units test_dialog_symbol_pick
 test_toolbar_construction test_dialog_sending test_translations test_accessibility test_layout
 test_resources test_page_pad test_page_text_formats test_page_line test_page_surface_and_arc
-test_page_text test_dialog_symbol_entry test_failing_construction test_reentrancy random_use
+test_page_text test_page_rows test_element_area test_guard_title test_focus_agreement
+test_focus_type_change test_focus_refused_symbol test_focus_pending
+test_dialog_symbol_entry test_failing_construction test_reentrancy random_use
 """.split()
 ENVIRONMENT = dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
 TARGET_SHARE = 0.95
