@@ -104,16 +104,12 @@ QWidget* cannedText(QWidget* text)
     return page;
 }
 
-QLayout* fields(QWidget* page)
+QLayout* fieldRow(const char* text, QWidget* field)
 {
-    auto* const grid = new QGridLayout;
-    auto* const font = field("standard", nullptr, page);
-    font->setReadOnly(true);
-    grid->addWidget(new QPushButton("Font\t\t:", page), 0, 0);
-    grid->addWidget(font, 0, 1);
-    grid->addWidget(new QPushButton("Text\t\t:", page), 1, 0);
-    grid->addWidget(field({}, characters, page), 1, 1);
-    return grid;
+    auto* const row = new QHBoxLayout;
+    row->addWidget(new QPushButton(text, field->parentWidget()));
+    row->addWidget(field, 1);
+    return row;
 }
 
 }  // namespace
@@ -140,7 +136,10 @@ QWidget* text(QWidget* dialog)
         hidden->hide();
     }
     rows->addItem(new QSpacerItem(1, 2, QSizePolicy::Minimum, QSizePolicy::Expanding));
-    rows->addLayout(fields(page));
+    auto* const font = field("standard", nullptr, page);
+    font->setReadOnly(true);
+    rows->addLayout(fieldRow("Font\t\t:", font));
+    rows->addLayout(fieldRow("Text\t\t:", field({}, characters, page)));
     return page;
 }
 

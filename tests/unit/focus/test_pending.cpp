@@ -163,6 +163,25 @@ private Q_SLOTS:
         QCOMPARE(pitch.text(), QString("0"));
     }
 
+    /// Reported twice while a box is open, an entry is taken once.
+    void reportedTwiceInsideTheBox()
+    {
+        FocusFixture fixture;
+        fixture.click("m_pFixedAngleRB");
+        fixture.find<QLineEdit>("m_pSymbolTextLE").setText("r60000");
+        fixture.type("m_pAngleLE", "45");
+        fixture.recorder.clear();
+        fixture.boxes.setOnBox([&] {
+            fixture.dialog->on_m_pAngleLE_editingFinished();
+            fixture.dialog->on_m_pAngleLE_editingFinished();
+        });
+        fixture.dialog->getChangeCurrentTool();
+        fixture.boxes.setOnBox({});
+        QCOMPARE(fixture.boxes.takeTexts(), QStringList{sizeBox});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::DirectionRecord});
+        QCOMPARE(fixture.value("Angel(deg)"), QString("45"));
+    }
+
     void failingTextHandler_data()
     {
         QTest::addColumn<bool>("isText");
