@@ -308,8 +308,9 @@ void AddFeature::storeRotation()
 
 void AddFeature::on_m_pSymbolTextLE_editingFinished()
 {
-    // Closing the window takes the focus from the field: no entry of the user's.
-    if (!m_closing) {
+    if (m_closing) {
+        m_symbol->dropEntry();  // closing the window takes the focus: no entry of the user's
+    } else {
         m_symbol->finish();
     }
 }

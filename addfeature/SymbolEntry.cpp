@@ -239,6 +239,11 @@ void SymbolEntry::finish()
     m_door.refusals().report(m_pSymbolTextLE, [this] { takeEntry(); });
 }
 
+void SymbolEntry::dropEntry()
+{
+    m_pSymbolTextLE->setModified(false);
+}
+
 void SymbolEntry::takeEntry()
 {
     const bool sends = m_door.isToolActive();

@@ -53,6 +53,8 @@ public:
     void enterText();
     /// Takes over the entry that the user has finished; see RefusalGuard.
     void finish();
+    /// Leaves an entry that was pending where it is; it is not taken later either.
+    void dropEntry();
     /// Keeps what stands in the field for a change of the unit; guarded.
     void noteText(const QString& text);
     /// Cuts the entry at the cursor and sends it.

@@ -11,6 +11,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QLoggingCategory>
 #include <QSpinBox>
 #include <QtTest>
 
@@ -18,6 +19,8 @@ namespace Accepted = MessageCodes::Accepted;
 
 FocusFixture::FocusFixture(bool metric)
 {
+    // Thousands of dialogs, each of whose records would be written out.
+    QLoggingCategory::setFilterRules(QStringLiteral("canvastoolstrip.*.debug=false"));
     openDemoJobs();
     CanvasHost::camApiOverrides() = {};
     CanvasHost::uiApiOverrides() = {};

@@ -179,7 +179,7 @@ private Q_SLOTS:
         fixture.boxes.setOnBox({});
         QCOMPARE(fixture.boxes.takeTexts(), QStringList{sizeBox});
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::DirectionRecord});
-        QCOMPARE(fixture.value("Angel(deg)"), QString("45"));
+        QCOMPARE(fixture.value(RecordKeys::angle), QString("45"));
     }
 
     void failingTextHandler_data()

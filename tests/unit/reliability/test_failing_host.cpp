@@ -104,7 +104,7 @@ const Operation operations[] = {
      receiveUnitChanged, true, false},
     {"getUnit",
      [](Thrown kind) { uiApiOverrides().getUnit = [=](void*) -> int { throwAs(kind); }; },
-     [](DialogFixture& fixture) { QTest::keyClick(&fixture.symbol(), Qt::Key_S); }, true, false},
+     [](DialogFixture& fixture) { fixture.symbol().insert("s20"); }, true, false},
     {"getUnit for a picked symbol",
      [](Thrown kind) { uiApiOverrides().getUnit = [=](void*) -> int { throwAs(kind); }; },
      [](DialogFixture& fixture) {
