@@ -61,8 +61,7 @@ void Field::retranslate()
 
 void Field::setRowEnabled(bool enabled)
 {
-    for (QWidget* const part :
-         {static_cast<QWidget*>(m_label), widget(), static_cast<QWidget*>(m_unitLabel)}) {
+    for (QWidget* const part : parts()) {
         if (part) {
             part->setEnabled(enabled);
         }
@@ -73,8 +72,7 @@ void Field::addRow(QGridLayout* grid)
 {
     const int row = grid->count() == 0 ? 0 : grid->rowCount();
     int column = 0;
-    for (QWidget* const part :
-         {static_cast<QWidget*>(m_label), widget(), static_cast<QWidget*>(m_unitLabel)}) {
+    for (QWidget* const part : parts()) {
         if (part) {
             grid->addWidget(part, row, column);
         }

@@ -31,7 +31,6 @@ struct Caption {
     static constexpr Caption label(const char* text) { return {Kind::Label, text}; }
     static constexpr Caption own(const char* text) { return {Kind::Own, text}; }
     static constexpr Caption spoken(const char* text) { return {Kind::Spoken, text}; }
-
     static constexpr Caption none() { return {Kind::None, nullptr}; }
 
     QString translated() const;
