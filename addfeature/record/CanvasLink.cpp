@@ -26,6 +26,9 @@ PluginMetaData messageToCanvas(int code, const QMap<QString, QVariant>& payload 
 
 void logEntries(const QMap<QString, QVariant>& payload)
 {
+    if (!recordLog().isDebugEnabled()) {
+        return;
+    }
     for (auto entry = payload.cbegin(); entry != payload.cend(); ++entry) {
         qCDebug(recordLog).noquote().nospace()
             << "name: " << entry.key() << " value " << entry.value().toString();

@@ -23,23 +23,6 @@ bool RefusalGuard::isHandling(const QObject* field) const
     return std::find(handled.begin(), handled.end(), field) != handled.end();
 }
 
-void RefusalGuard::run(const QObject* field, const Handler& handler)
-{
-    run(m_state, field, handler);
-}
-
-void RefusalGuard::run(std::shared_ptr<State> state, const QObject* field, const Handler& handler)
-{
-    state->handled.push_back(field);
-    try {
-        handler();
-    } catch (...) {
-        leave(state);
-        throw;
-    }
-    leave(state);
-}
-
 /// When the outermost handler ends, what was reported while its boxes were open has its turn.
 void RefusalGuard::leave(const std::shared_ptr<State>& state)
 {
@@ -47,6 +30,6 @@ void RefusalGuard::leave(const std::shared_ptr<State>& state)
     if (state->isAlive && state->handled.empty() && !state->pending.empty()) {
         const Report next = std::move(state->pending.front());
         state->pending.erase(state->pending.begin());
-        run(state, next.field, next.handler);
+        runIn(state, next.field, next.handler);
     }
 }

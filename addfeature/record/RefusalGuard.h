@@ -29,8 +29,12 @@ public:
     /// Whether a handler of `field` runs.
     bool isHandling(const QObject* field) const;
 
-    /// Runs `handler`, which may open a box; `field`, which may be null, is what it is about.
-    void run(const QObject* field, const Handler& handler);
+    /// Runs `action`, which may open a box; `field`, which may be null, is what it is about.
+    template <class Action>
+    void run(const QObject* field, Action&& action)
+    {
+        runIn(m_state, field, std::forward<Action>(action));
+    }
 
     /// Runs `check`, which may show a box, and returns its result.
     template <class Check>
@@ -66,8 +70,19 @@ private:
         std::shared_ptr<State> m_state;
     };
 
-    // The state by value: the guard may go inside a handler.
-    static void run(std::shared_ptr<State> state, const QObject* field, const Handler& handler);
+    // The state by value: the guard may go inside the action.
+    template <class Action>
+    static void runIn(std::shared_ptr<State> state, const QObject* field, Action&& action)
+    {
+        state->handled.push_back(field);
+        try {
+            action();
+        } catch (...) {
+            leave(state);
+            throw;
+        }
+        leave(state);
+    }
     static void leave(const std::shared_ptr<State>& state);
 
     std::shared_ptr<State> m_state;
