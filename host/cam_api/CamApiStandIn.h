@@ -30,9 +30,8 @@ struct Job {
 };
 
 /// Replaces all jobs by those of a job file (JSON; see workbench/docs/files.md) and makes its first
-/// one current. On failure nothing changes, and `error` reads "<file>:<line>: <reason>", without a
-/// line for a file that cannot be read.
-CANVAS_HOST_EXPORT bool loadJobs(const QString& file, QString* error = nullptr);
+/// one current. Throws a FileError (host/support/FileError.h), and then changes nothing.
+CANVAS_HOST_EXPORT void loadJobs(const QString& file);
 
 CANVAS_HOST_EXPORT const std::vector<Job>& jobs();
 /// Adds `job`, or replaces the one of the same name. The first job added becomes current.

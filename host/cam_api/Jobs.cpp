@@ -28,18 +28,10 @@ std::vector<Job>::iterator position(const std::string& name)
 
 }  // namespace
 
-bool loadJobs(const QString& file, QString* error)
+void loadJobs(const QString& file)
 {
-    try {
-        state().jobs = readJobFile(file);
-    } catch (const FileError& fault) {
-        if (error) {
-            *error = fault.text();
-        }
-        return false;
-    }
+    state().jobs = readJobFile(file);
     state().current = state().jobs.empty() ? std::string() : state().jobs.front().name;
-    return true;
 }
 
 const std::vector<Job>& jobs()

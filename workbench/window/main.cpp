@@ -73,10 +73,7 @@ void readInputs(int argc, char* argv[], Inputs* inputs)
 {
     inputs->options = Options::ofProgram(argc, argv);
     const Options& options = inputs->options;
-    QString error;
-    if (!CanvasHost::loadJobs(options.jobFile, &error)) {
-        refuse(error);
-    }
+    CanvasHost::loadJobs(options.jobFile);
     if (!options.sessionFile.isEmpty()) {
         inputs->session = SessionParser::readFile(options.sessionFile);
     }

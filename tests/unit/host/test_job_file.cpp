@@ -1,5 +1,6 @@
 // A job file that was cut off, anywhere, is refused with its line.
 
+#include "ErrorOf.h"
 #include "Main.h"
 
 #include <CamApiStandIn.h>
@@ -29,12 +30,12 @@ private Q_SLOTS:
         QFile sample(SAMPLE_FILE);
         QVERIFY(sample.open(QIODevice::ReadOnly));
         const QByteArray whole = sample.readAll().trimmed();
-        QVERIFY(CanvasHost::loadJobs(write(whole)));
+        CanvasHost::loadJobs(write(whole));
         const size_t jobs = CanvasHost::jobs().size();
         for (int size = 0; size < whole.size(); ++size) {
             const QString file = write(whole.left(size));
-            QString error;
-            QVERIFY2(!CanvasHost::loadJobs(file, &error), qPrintable(QString::number(size)));
+            const QString error = errorOf([&] { CanvasHost::loadJobs(file); });
+            QVERIFY2(!error.isEmpty(), qPrintable(QString::number(size)));
             const QRegularExpression place('^' + QRegularExpression::escape(file) + ":([0-9]+): .");
             const QRegularExpressionMatch match = place.match(error);
             QVERIFY2(match.hasMatch(), qPrintable(error));
@@ -47,9 +48,8 @@ private Q_SLOTS:
     void unknownKeysAreNamed()
     {
         const QString file = write("{ \"format\": 1,\n  \"jobs\": [\n    { \"stops\": [] } ] }");
-        QString error;
-        QVERIFY(!CanvasHost::loadJobs(file, &error));
-        QCOMPARE(error, file + ":3: \"stops\" does not belong to an entry of \"jobs\"");
+        QCOMPARE(errorOf([&] { CanvasHost::loadJobs(file); }),
+                 file + ":3: \"stops\" does not belong to an entry of \"jobs\"");
     }
 };
 
