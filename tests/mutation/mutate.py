@@ -26,7 +26,8 @@ ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
 FOLDERS = ("plugin", "toolbar", "addfeature", "dimensions")
 # The fast tests of the module, the quickest first; the order changes as tests prove useful.
-TESTS = """test_contract test_protocol test_fields test_rules test_toolbar_entry test_toolbar_language test_dimensions test_toolbar_menus
+TESTS = """test_contract test_protocol test_fields test_rules test_toolbar_entry
+test_toolbar_language test_dimensions test_toolbar_menus
 test_toolbar_incoming test_dialog_attributes test_page_fonts_and_special_texts
 test_toolbar_activation test_dialog_frame test_dialog_symbol_units test_dialog_symbol_pick
 test_toolbar_construction test_dialog_sending test_translations test_accessibility test_layout
@@ -114,6 +115,8 @@ class Copy:
             return None
         finally:
             path.write_text(original, encoding="utf-8")
+            if self.readers(mutant.path):
+                self.compile(self.readers(mutant.path))
 
     @staticmethod
     def readers(path):
