@@ -20,7 +20,7 @@ Q_DECLARE_METATYPE(UnitField::Unit)
 namespace {
 
 const QString key("Key");
-constexpr char finishSlot[] = SLOT(on_m_pAnyLE_editingFinished());
+const char* const finishSlot = SLOT(on_m_pAnyLE_editingFinished());
 
 Field::Details line(Sends sends, Message message = Message::Record)
 {
