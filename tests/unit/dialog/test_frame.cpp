@@ -227,6 +227,20 @@ private Q_SLOTS:
             QVERIFY2(isQtsOwn || !widget->objectName().isEmpty(), type.constData());
         }
     }
+
+    void controlsWithoutALabelSayWhatTheyAre()
+    {
+        const DialogFixture fixture;
+        const QStringList controls = {
+            "m_pPolarityCMB",  "m_pMirrorCMB", "m_pAngleValueSB",     "m_pSymbolTextLE",
+            "m_pLineCMB",      "m_pArcCMB",    "m_pArcAndCircleCMB",  "m_pCircleCMB",
+            "m_pSurfShapeCMB", "m_pUPCCMB",    "m_pCannedHoleSizeLE", "m_pSlotPlatedCMB"};
+        for (const QString& control : controls) {
+            const QWidget& widget = fixture.find(control);
+            QVERIFY2(!widget.accessibleName().isEmpty(), qPrintable(control));
+            QCOMPARE(widget.toolTip(), widget.accessibleName());
+        }
+    }
 };
 
 CTS_MAIN(TestFrame)

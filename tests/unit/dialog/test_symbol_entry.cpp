@@ -362,6 +362,22 @@ private Q_SLOTS:
                  QVariant(QString("rect20x40")));
     }
 
+    /// The canvas opens a box of its own while it is told: the field reports the same entry again.
+    void aBoxOfTheCanvasSendsNothingTwice()
+    {
+        DialogFixture fixture;
+        fixture.type("r10");
+        bool isFirst = true;
+        fixture.recorder.setOnMessage([&](const Recorder::Entry&) {
+            if (std::exchange(isFirst, false)) {
+                fixture.dialog->on_m_pSymbolTextLE_editingFinished();
+            }
+        });
+        fixture.leave("Tab");
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        fixture.recorder.setOnMessage({});
+    }
+
     void aPickDuringTheBoxOfARefusalStays()
     {
         DialogFixture fixture;

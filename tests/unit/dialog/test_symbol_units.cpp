@@ -135,6 +135,20 @@ private Q_SLOTS:
         QCOMPARE(fixture.symbol().text(), QString("ring_r1524x762"));
     }
 
+    /// What a unit change writes is not what the user typed: the handler of typed text rests.
+    void aUnitChangeIsNoTyping()
+    {
+        DialogFixture fixture;
+        fixture.type("r10");
+        int asked = 0;
+        CanvasHost::uiApiOverrides().getUnit = [&asked](void*) { return ++asked, 1; };
+        fixture.dialog->change_current_units(true);
+        QCOMPARE(fixture.symbol().text(), QString("r254"));
+        QCOMPARE(asked, 0);
+        QTest::keyClicks(&fixture.symbol(), "0");
+        QVERIFY(asked > 0);
+    }
+
     void afterAFailureTheFieldItselfIsConverted()
     {
         DialogFixture fixture;

@@ -193,6 +193,26 @@ private Q_SLOTS:
         fixture.strip->On_DeleteFeat_Clicked();
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
     }
+
+    void entriesHaveTheirNames()
+    {
+        StripFixture fixture;
+        fixture.panel.show();
+        QStringList names;
+        for (const int tool : {deleteTool, netTool, markTool}) {
+            rightClick(fixture, tool, {});
+        }
+        for (const QAction* const action : fixture.panel.findChildren<QAction*>()) {
+            if (action->objectName().startsWith("m_p")) {
+                names.append(action->objectName());
+            }
+        }
+        names.sort();
+        QCOMPARE(names, (QStringList{"m_pDeleteFeatureAct", "m_pDeleteToIntersectionAct",
+                                     "m_pMarkOrthogonalAct", "m_pMarkPointToPointAct",
+                                     "m_pMarkSettingAct", "m_pSelectBoardNetAct",
+                                     "m_pSelectLayerNetAct", "m_pSelectPolylineAct"}));
+    }
 };
 
 CTS_MAIN(TestMenus)
