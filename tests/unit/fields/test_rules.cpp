@@ -222,6 +222,39 @@ private Q_SLOTS:
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
+    /// Hiding the page of the strings ends an entry there, which is sent with the format of before.
+    void theBarcodesPageIsShownBeforeTheFormatIsStored()
+    {
+        FakeDoor door;
+        TextPage page(door);
+        door.route(SLOT(on_Textformart_ComboBox_Changed()), [&] { page.chooseFormat(); });
+        page.show();
+        QApplication::setActiveWindow(&page);
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        LengthField& size = *page.m_strings->m_pXSizeLE;
+        QString formatWhenSent;
+        door.onSend = [&] { formatWhenSent = door.record().text(RecordKeys::textFormat); };
+        for (const int format : {1, 2}) {
+            page.m_pTextFormatCMB->setCurrentIndex(0);
+            size.setFocus();
+            QTest::keyClicks(&size, "1");
+            page.m_pTextFormatCMB->setCurrentIndex(format);
+            QCOMPARE(formatWhenSent, format == 1 ? TextKind::string : TextKind::plotStamp);
+        }
+    }
+
+    void countsAndFactorsHaveNoGroups()
+    {
+        FakeDoor door;
+        const PadPage page(door);
+        for (NumberField* const field :
+             {page.m_pDrilNxLE, page.m_pDrilNyLE, page.m_pDrilXsclLE, page.m_pDrilYsclLE}) {
+            field->selectAll();
+            QTest::keyClicks(field, "1,5");
+            QCOMPARE(field->text(), QString("15"));
+        }
+    }
+
     void changingTheUnitOfAPageSendsAndStoresNothing()
     {
         FakeDoor door;
