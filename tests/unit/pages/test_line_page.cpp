@@ -250,15 +250,11 @@ private Q_SLOTS:
     void texts()
     {
         PageFixture fixture;
-        QStringList texts = fixture.visibleTexts("m_pLinePage");
-        QStringList expected = {"Single Line", "Polyline",    "Rectangle",      "Slot",
-                                "Closed",      "Angle (deg)", "Straight",       "Round",
-                                "Chamfer",     "Oblong",      "Corner Type : ", "Corner Radius : ",
-                                "mil",         "Length : ",   "Angle (deg) : ", "Decode: ",
-                                "\"",          "Plated",      "Non Plated"};
-        texts.sort();
-        expected.sort();
-        QCOMPARE(texts, expected);
+        QCOMPARE(fixture.visibleTexts("m_pLinePage"),
+                 (QStringList{"Single Line", "Polyline", "Rectangle", "Slot", "Closed",
+                              "Angle (deg)", "Corner Type : ", "Straight", "Round", "Chamfer",
+                              "Oblong", "Corner Radius : ", "mil", "Length : ", "\"",
+                              "Angle (deg) : ", "Decode: ", "Plated", "Non Plated"}));
         QCOMPARE(fixture.greyedItems("m_pLinePage"), QStringList("m_pLineCMB 3"));
     }
 
