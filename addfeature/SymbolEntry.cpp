@@ -234,7 +234,7 @@ void SymbolEntry::finish()
 {
     const RefusalGuard& refusals = m_door.refusals();
     if (!m_pSymbolTextLE->isModified() && refusals.isHandling(m_pSymbolTextLE)) {
-        return;  // the same once more, from a box that a receiver opens; see Field::finish()
+        return;  // the same once more, from a box that a receiver opens; see LineField::finish()
     }
     m_door.refusals().report(m_pSymbolTextLE, [this] { takeEntry(); });
 }

@@ -22,15 +22,6 @@ Field::Field(DialogDoor& door, QObject* control, QWidget* page, const Details& d
     }
 }
 
-void Field::finish()
-{
-    // A box that a receiver opens while it is told of an entry makes Qt report the same once more.
-    if (!hasNewEntry() && m_door.refusals().isHandling(m_control)) {
-        return;
-    }
-    m_door.refusals().report(m_control, [this] { take(); });
-}
-
 void Field::change()
 {
     m_door.refusals().run(m_control, [this] { take(); });

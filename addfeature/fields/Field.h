@@ -57,8 +57,6 @@ public:
     Field(const Field&) = delete;
     Field& operator=(const Field&) = delete;
 
-    /// Applies a finished entry. Called for each report of the control; see RefusalGuard.
-    void finish();
     /// Applies what the control says now.
     void change();
     /// Sends a change, where it is one that is sent.
@@ -83,8 +81,6 @@ protected:
 
     /// Stores what the control says, or refuses it, and sends.
     virtual void take() = 0;
-    /// Whether there may be an entry that was not taken yet.
-    virtual bool hasNewEntry() const { return true; }
 
     /// Called last in a constructor: building a field sends nothing.
     void connectSignal(const char* signal);

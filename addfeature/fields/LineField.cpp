@@ -1,5 +1,7 @@
 #include "addfeature/fields/LineField.h"
 
+#include "addfeature/record/RefusalGuard.h"
+
 #include <QRegExpValidator>
 
 using ZENTRA::UIAPI::ZTERegExp;
@@ -13,6 +15,15 @@ LineField::LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Det
     if (details.pattern) {
         setPattern(details.pattern);
     }
+}
+
+void LineField::finish()
+{
+    // A box that a receiver opens while it is told of an entry makes Qt report the same once more.
+    if (!isModified() && m_door.refusals().isHandling(this)) {
+        return;
+    }
+    m_door.refusals().report(this, [this] { take(); });
 }
 
 void LineField::setPattern(const char* expression)

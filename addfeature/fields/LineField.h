@@ -10,11 +10,12 @@ public:
     /// What the host lets the user type, by the host's number for it.
     enum class Pattern { Length = 1, Decimal = 3, Text = 6 };
 
+    /// Applies a finished entry. Called for each report of the field; see RefusalGuard.
+    void finish();
+
     /// Restricts what can be typed to a regular expression, case sensitive and in ASCII.
     void setPattern(const char* expression);
 
 protected:
-    bool hasNewEntry() const override { return isModified(); }
-
     LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details);
 };

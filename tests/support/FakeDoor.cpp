@@ -1,6 +1,6 @@
 #include "FakeDoor.h"
 
-#include "addfeature/fields/Field.h"
+#include "addfeature/fields/LineField.h"
 
 #include <utility>
 
@@ -114,10 +114,11 @@ void FakeDoor::take()
         return;
     }
     auto* const field = dynamic_cast<Field*>(sender());
+    auto* const line = dynamic_cast<LineField*>(field);
     if (!field) {
         m_calls.append(m_slots.value(sender()));
-    } else if (m_slots.value(sender()).endsWith("_editingFinished()")) {
-        field->finish();
+    } else if (line && m_slots.value(sender()).endsWith("_editingFinished()")) {
+        line->finish();
     } else {
         field->change();
     }
