@@ -137,8 +137,8 @@ bool AddFeature::eventFilter(QObject* watched, QEvent* event)
 /// Not every window system keeps the dialog above the host's window when that becomes active.
 void AddFeature::stayAbove(const QObject* active)
 {
-    const QWidget* const host = parentWidget() ? parentWidget()->window() : nullptr;
-    if (active && host && host->windowHandle() == active && isVisible()) {
+    const QWindow* const host = parentWidget() ? parentWidget()->window()->windowHandle() : nullptr;
+    if (host && host == active && isVisible()) {
         raise();
     }
 }

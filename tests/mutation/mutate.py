@@ -31,7 +31,7 @@ test_toolbar_language test_dimensions test_toolbar_menus
 test_toolbar_incoming test_dialog_attributes test_page_fonts_and_special_texts
 test_toolbar_activation test_dialog_frame test_dialog_symbol_units test_dialog_symbol_pick
 test_toolbar_construction test_dialog_sending test_translations test_accessibility test_layout
-test_resources test_page_pad test_page_text_formats test_page_line test_page_surface_and_arc
+test_resources test_looks test_page_pad test_page_text_formats test_page_line test_page_surface_and_arc
 test_page_text test_page_rows test_element_area test_guard_title test_focus_agreement
 test_focus_type_change test_focus_refused_symbol test_focus_pending
 test_dialog_symbol_entry test_failing_construction test_reentrancy random_use
@@ -94,7 +94,7 @@ class Copy:
     def passes(self, test):
         try:
             return subprocess.run([self.build / "bin" / test], cwd=self.build, env=ENVIRONMENT, capture_output=True,
-                                  timeout=60, check=False).returncode == 0
+                                  timeout=180, check=False).returncode == 0
         except subprocess.TimeoutExpired:
             return False
 

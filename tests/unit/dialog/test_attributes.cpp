@@ -9,6 +9,7 @@
 #include <common_widgets.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QPushButton>
 
 namespace Sent = MessageCodes::Sent;
@@ -35,6 +36,18 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::AttributeMap}));
         QCOMPARE(fixture.record().value(RecordKeys::attributes), QVariant(HasAttributes::no));
         QVERIFY(!fixture.isShown("m_pValuesPB"));
+    }
+
+    /// A slot hides the row; ticked meanwhile, the box shows the values' button alone.
+    void valuesAreShownAlone()
+    {
+        DialogFixture fixture;
+        fixture.find<QComboBox>("m_pLineCMB").setCurrentText("Slot");
+        QVERIFY(!fixture.isShown("m_pAttributesCB"));
+        QVERIFY(!fixture.isShown("m_pFillPB"));
+        fixture.find<QCheckBox>("m_pAttributesCB").setChecked(true);
+        QVERIFY(fixture.isShown("m_pValuesPB"));
+        QVERIFY(!fixture.isShown("m_pAttributesCB"));
     }
 
     void envelope()

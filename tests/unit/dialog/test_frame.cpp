@@ -9,10 +9,12 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QPushButton>
 #include <QRegExpValidator>
 #include <QSpinBox>
 #include <QToolButton>
+#include <QWindow>
 
 namespace Sent = MessageCodes::Sent;
 
@@ -22,6 +24,18 @@ const char* const pages[] = {"m_pLinePage", "m_pPadPage", "m_pSurfacePage", "m_p
                              "m_pTextPage"};
 const QStringList symbolControls = {"m_pSymbolPB", "m_pSymbolTextLE", "m_pSelectFromEditorPB"};
 const QStringList placementControls = {"m_pMirrorCMB", "m_pAngleValueSB"};
+
+/// How often a window was raised.
+class RaiseCounter : public QObject {
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+
+    int count = 0;
+};
 
 QImage picture(const QIcon& icon)
 {
@@ -214,6 +228,40 @@ private Q_SLOTS:
         QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pMirrorCMB")),
                  (QStringList{"<Mir>", "<No Mir>"}));
         QVERIFY(fixture.recorder.messages().isEmpty());
+    }
+
+    /// The host's window becomes active: the dialog comes before it, unless it is hidden.
+    void staysBeforeTheHostsWindow()
+    {
+        DialogFixture fixture;
+        QWidget other;
+        other.show();
+        const auto raisedBy = [&fixture](const QWidget& active) {
+            RaiseCounter counter;
+            fixture.dialog->installEventFilter(&counter);
+            Q_EMIT qGuiApp->focusWindowChanged(active.windowHandle());
+            fixture.dialog->removeEventFilter(&counter);
+            return counter.count;
+        };
+        QCOMPARE(raisedBy(fixture.window), 1);
+        QCOMPARE(raisedBy(other), 0);
+        fixture.dialog->hide();
+        QCOMPARE(raisedBy(fixture.window), 0);
+    }
+
+    /// The host's window is active already: a press raises it, and other events do not.
+    void staysBeforeAPressedWindow()
+    {
+        DialogFixture fixture;
+        RaiseCounter counter;
+        fixture.dialog->installEventFilter(&counter);
+        QTest::mouseMove(fixture.window.windowHandle(), QPoint(3, 3));
+        QTest::keyClick(fixture.window.windowHandle(), Qt::Key_Shift);
+        QCOMPARE(counter.count, 0);
+        QTest::mousePress(fixture.window.windowHandle(), Qt::LeftButton, {}, QPoint(3, 3));
+        QCOMPARE(counter.count, 1);
+        QTest::mouseRelease(fixture.window.windowHandle(), Qt::LeftButton, {}, QPoint(3, 3));
+        QCOMPARE(counter.count, 1);
     }
 
     void everyWidgetHasAName()

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 
 #include <stdexcept>
+#include <utility>
 
 namespace Accepted = MessageCodes::Accepted;
 namespace Sent = MessageCodes::Sent;
@@ -190,6 +191,39 @@ private Q_SLOTS:
             QTest::addRow("a text, %s", type) << true << type;
             QTest::addRow("an exception, %s", type) << false << type;
         }
+    }
+
+    void boxOfAReceiver_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("field");
+        QTest::newRow("text") << "m_pTextTB"
+                              << "m_pTextLE";
+        QTest::newRow("length") << "m_pTextTB"
+                                << "m_pXSizeLE";
+        QTest::newRow("pitch") << "m_pPadTB"
+                               << "m_pDrilDxLE";
+    }
+
+    /// Told of an entry, the canvas opens a box: the focus goes, and the entry is not sent again.
+    void boxOfAReceiver()
+    {
+        QFETCH(QString, page);
+        QFETCH(QString, field);
+        FocusFixture fixture;
+        fixture.click(page);
+        fixture.type(field, "12");
+        fixture.recorder.clear();
+        bool isOpened = false;
+        fixture.recorder.setOnMessage([&](const Recorder::Entry& /*sent*/) {
+            if (!std::exchange(isOpened, true)) {
+                fixture.openHostBox();
+            }
+        });
+        fixture.key(Qt::Key_Return);
+        fixture.recorder.setOnMessage({});
+        QCOMPARE(fixture.boxes.takeTexts(), QStringList{"Host|Elsewhere"});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
     }
 
     /// The host fails while a symbol is typed: one box for each letter, and the text stays.
