@@ -61,7 +61,8 @@ private slots:
                          Feature(arcGeometry(pen, {1000, 0}, {1000, 0}, {0, 0}, true))}),
                  file("%ADD10C,0.254000*%\n",
                       "D10*\nX1000000Y0D02*\nG03*\nX0Y1000000I-1000000J0D01*\nG01*\n"
-                      "X1000000Y0D02*\nG02*\nX1000000Y0I-1000000J0D01*\nG01*\n"));
+                      "X1000000Y0D02*\nG02*\nX-1000000Y0I-1000000J0D01*\n"
+                      "X1000000Y0I1000000J0D01*\nG01*\n"));
     }
 
     void padsAreFlashed()
