@@ -3,6 +3,8 @@
 #include "board/GerberExport.h"
 #include "board/PictureExport.h"
 
+#include <Files.h>
+
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 
@@ -156,7 +158,8 @@ private slots:
         QImage drawn(1000, 1000, QImage::Format_ARGB32_Premultiplied);
         drawn.fill(Qt::white);
         QPainter painter(&drawn);
-        renderer.render(&painter);
+        const double margin = 3000 / 66.0;  // which only the other picture has
+        renderer.render(&painter, QRectF(drawn.rect()).adjusted(margin, margin, -margin, -margin));
         painter.end();
         QCOMPARE(differing(drawn, QImage(png)), 0);
         QCOMPARE(errorOf([&] { writePng(Board(), png, 100); }),
@@ -164,6 +167,24 @@ private slots:
         QCOMPARE(QImage(png).size(), QSize(1000, 1000));
         const QString homeless = folder.filePath(QStringLiteral("no/board.svg"));
         QVERIFY(errorOf([&] { writeSvg(board, homeless); }).startsWith(homeless + ": "));
+    }
+
+    void drawingsAreToSize()
+    {
+        const QTemporaryDir folder;
+        const QString name = folder.filePath(QStringLiteral("board.svg"));
+        Board board;
+        board.outline = QPolygonF(QRectF(-1000, 500, 34000, 12500));
+        for (const auto& [step, title] :
+             {std::pair("panel", "demo panel"), std::pair("", "demo")}) {
+            board.job = QStringLiteral("demo");
+            board.step = QString::fromLatin1(step);
+            writeSvg(board, name);
+            const QByteArray text = CanvasHost::readWhole(name);
+            QVERIFY2(text.contains("<svg width=\"34mm\" height=\"12.5mm\""), text.left(300));
+            QVERIFY(text.contains("viewBox=\"0 0 34000 12500\""));
+            QVERIFY(text.contains(QByteArray("<title>") + title + "</title>"));
+        }
     }
 };
 
