@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Measures every figure of the module beside its floor, and prints one table; docs/performance.md
-# says how to read it. Usage: ./bench.sh [--json FILE] [--only TEXT] [--repetitions N]
+# says how to read it, and --markdown replaces the table there.
+# Usage: ./bench.sh [--json FILE] [--markdown] [--only TEXT] [--repetitions N]
 set -u
 options=() previous=
 for option in "$@"; do
@@ -9,6 +10,8 @@ for option in "$@"; do
         option=$(realpath -m "$option")
     elif [[ $option = --json=* ]]; then
         option=--json=$(realpath -m "${option#--json=}")
+    elif [ "$option" = --markdown ]; then
+        option=--markdown=docs/performance.md
     fi
     options+=("$option")
     previous=$option

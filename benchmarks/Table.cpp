@@ -5,11 +5,19 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
+#include <QSysInfo>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
 
 namespace {
+
+#ifdef __clang__
+constexpr char compiler[] = __VERSION__;  // with its name
+#else
+constexpr char compiler[] = "GCC " __VERSION__;
+#endif
 
 QString duration(double nanoseconds)
 {
@@ -17,10 +25,11 @@ QString duration(double nanoseconds)
         double size;
         const char* name;
     };
-    static constexpr Unit units[] = {{1e9, "s"}, {1e6, "ms"}, {1e3, "us"}, {1, "ns"}};
+    static constexpr Unit units[] = {{1e9, "s"}, {1e6, "ms"}, {1e3, "\u00b5s"}, {1, "ns"}};
     for (const Unit& unit : units) {
         if (nanoseconds >= unit.size || unit.size == 1) {
-            return QString::number(nanoseconds / unit.size, 'g', 4) + ' ' + unit.name;
+            return QString::number(nanoseconds / unit.size, 'g', 4) + ' ' +
+                   QString::fromUtf8(unit.name);
         }
     }
     return {};
@@ -71,15 +80,46 @@ QString line(const QStringList& cells, const std::vector<int>& widths)
     return text.trimmed() + '\n';
 }
 
+QVector<QStringList> rows(const std::vector<Result>& results)
+{
+    QVector<QStringList> all = {{"What", "Project", "Floor", "Ratio", "Target", "Holds"}};
+    for (const Result& result : results) {
+        all.append(QStringList{title(result)} + numbers(result) +
+                   QStringList{result.holds() ? "yes" : "NO"});
+    }
+    return all;
+}
+
+bool writeFile(const QString& name, const QByteArray& text)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
+        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(name), qUtf8Printable(file.errorString()));
+        return false;
+    }
+    return true;
+}
+
+QString markdownTable(const std::vector<Result>& results, const Effort& effort)
+{
+    QString table;
+    for (const QStringList& cells : rows(results)) {
+        table += "| " + cells.join(" | ") + " |\n";
+        if (table.count('\n') == 1) {
+            table += "|---|---|---|---|---|---|\n";
+        }
+    }
+    return table + QStringLiteral("\nRepetitions: %1. %2, Qt %3, %4, %5 processors.\n")
+                       .arg(effort.repetitions)
+                       .arg(QSysInfo::prettyProductName(), qVersion(), compiler)
+                       .arg(QThread::idealThreadCount());
+}
+
 }  // namespace
 
 QString resultTable(const std::vector<Result>& results)
 {
-    QVector<QStringList> lines = {{"what", "project", "floor", "ratio", "target", "holds"}};
-    for (const Result& result : results) {
-        lines.append(QStringList{title(result)} + numbers(result) +
-                     QStringList{result.holds() ? "yes" : "NO"});
-    }
+    const QVector<QStringList> lines = rows(results);
     std::vector<int> widths(static_cast<size_t>(lines.first().size()), 0);
     for (const QStringList& cells : lines) {
         for (int column = 0; column < cells.size(); ++column) {
@@ -97,7 +137,7 @@ QString resultTable(const std::vector<Result>& results)
 bool writeJson(const std::vector<Result>& results, const Effort& effort, const QString& file)
 {
     static constexpr const char* kinds[] = {"ratio", "exponent", "bytes", "count"};
-    QJsonArray rows;
+    QJsonArray figures;
     for (const Result& result : results) {
         QJsonObject row{{"id", result.figure->id},
                         {"what", title(result)},
@@ -113,15 +153,26 @@ bool writeJson(const std::vector<Result>& results, const Effort& effort, const Q
             row["least_ns"] = result.floor;
             row["most_ns"] = result.project;
         }
-        rows.append(row);
+        figures.append(row);
     }
-    const QJsonObject document{{"repetitions", effort.repetitions}, {"figures", rows}};
-    QFile output(file);
-    const QByteArray text = QJsonDocument(document).toJson();
-    if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size()) {
-        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(file),
-                     qUtf8Printable(output.errorString()));
+    const QJsonObject document{{"repetitions", effort.repetitions}, {"figures", figures}};
+    return writeFile(file, QJsonDocument(document).toJson());
+}
+
+bool writeMarkdown(const std::vector<Result>& results, const Effort& effort, const QString& file)
+{
+    QFile page(file);
+    page.open(QIODevice::ReadOnly);
+    QString text = QString::fromUtf8(page.readAll());
+    page.close();
+    const QString heading = QStringLiteral("\n## Table\n");
+    const int start = text.indexOf(heading) + heading.size();
+    if (start < heading.size()) {
+        std::fprintf(stderr, "%s: no section \"Table\"\n", qUtf8Printable(file));
         return false;
     }
-    return true;
+    const int end = text.indexOf(QStringLiteral("\n## "), start);
+    text.replace(start, (end < 0 ? text.size() : end) - start,
+                 '\n' + markdownTable(results, effort));
+    return writeFile(file, text.toUtf8());
 }

@@ -12,3 +12,7 @@ QString resultTable(const std::vector<Result>& results);
 /// Writes the results, with the least and most that went into them, as JSON. False with a message
 /// on stderr when the file cannot be written.
 bool writeJson(const std::vector<Result>& results, const Effort& effort, const QString& file);
+
+/// Replaces the section "Table" of the page `file` by the results. False as above, or where the
+/// page has no such section.
+bool writeMarkdown(const std::vector<Result>& results, const Effort& effort, const QString& file);

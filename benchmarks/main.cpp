@@ -50,7 +50,7 @@ void startBenchmarks(char* program)
 }
 
 /// Ends the program where an option is not understood.
-Effort readOptions(const QApplication& application, QString* jsonFile)
+Effort readOptions(const QApplication& application, QString* jsonFile, QString* page)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -59,6 +59,9 @@ Effort readOptions(const QApplication& application, QString* jsonFile)
     const QCommandLineOption json(QStringLiteral("json"),
                                   QStringLiteral("Write the figures to FILE as well."),
                                   QStringLiteral("FILE"));
+    const QCommandLineOption markdown(QStringLiteral("markdown"),
+                                      QStringLiteral("Write the table into the page FILE as well."),
+                                      QStringLiteral("FILE"));
     const QCommandLineOption only(QStringLiteral("only"),
                                   QStringLiteral("Measure the figures whose id contains TEXT."),
                                   QStringLiteral("TEXT"));
@@ -68,7 +71,7 @@ Effort readOptions(const QApplication& application, QString* jsonFile)
     const QCommandLineOption quick(
         QStringLiteral("quick"),
         QStringLiteral("Measure once and shortly, to see that everything works."));
-    parser.addOptions({json, only, repetitions, quick});
+    parser.addOptions({json, markdown, only, repetitions, quick});
     parser.process(application);
 
     Effort effort;
@@ -80,6 +83,7 @@ Effort readOptions(const QApplication& application, QString* jsonFile)
         effort.seconds = effort.growthSeconds = 1e-6;
     }
     *jsonFile = parser.value(json);
+    *page = parser.value(markdown);
     return effort;
 }
 
@@ -111,7 +115,12 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QString jsonFile;
-    const Effort effort = readOptions(application, &jsonFile);
+    QString page;
+    const Effort effort = readOptions(application, &jsonFile, &page);
+    if (!page.isEmpty() && !effort.only.empty()) {
+        std::fputs("--markdown needs all figures, not those of --only\n", stderr);
+        return EXIT_FAILURE;
+    }
     silenceLogs(argv[0]);
     startBenchmarks(argv[0]);
 
@@ -132,6 +141,9 @@ int main(int argc, char** argv)
     }
     if (effort.only.empty() && !complete(results)) {
         std::fputs("a figure is missing\n", stderr);
+        return EXIT_FAILURE;
+    }
+    if (!page.isEmpty() && !writeMarkdown(results, effort, page)) {
         return EXIT_FAILURE;
     }
     return untimedHold(results) ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -2,10 +2,13 @@
 
 #include "board/Paths.h"
 
+#include <QMap>
+
 #include <polyclipping/clipper.hpp>
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 namespace Pcb {
@@ -38,16 +41,70 @@ QPolygonF fromUnits(const ClipperLib::Path& path)
     return polygon;
 }
 
-void add(ClipperLib::Clipper& clipper, const QPainterPath& path, ClipperLib::PolyType role)
+/// Outlines in groups whose boxes do not touch: one group does not change what another covers.
+QList<QVector<QPolygonF>> groupsApart(const QVector<QPolygonF>& outlines)
 {
-    for (const QPolygonF& outline : flattened(path)) {
-        clipper.AddPath(toUnits(outline), role, true);
+    struct Part {
+        QPolygonF outline;
+        QRectF box;     // and a unit around it
+        size_t leader;  // another part of the group; itself for the one that stands for the group
+    };
+    constexpr double unit = 1 / unitsOfMicrometre;
+    std::vector<Part> parts;
+    for (const QPolygonF& outline : outlines) {
+        const QRectF box = outline.boundingRect().adjusted(-unit, -unit, unit, unit);
+        parts.push_back({outline, box, 0});
     }
+    std::sort(parts.begin(), parts.end(),
+              [](const Part& a, const Part& b) { return a.box.left() < b.box.left(); });
+    const auto leaderOf = [&parts](size_t i) {
+        while (parts[i].leader != i) {
+            i = parts[i].leader = parts[parts[i].leader].leader;
+        }
+        return i;
+    };
+    std::vector<size_t> reaching;  // those before that reach as far right as the next one begins
+    for (size_t i = 0; i < parts.size(); ++i) {
+        const QRectF& box = parts[i].box;
+        const auto isPassed = [&](size_t k) { return parts[k].box.right() < box.left(); };
+        reaching.erase(std::remove_if(reaching.begin(), reaching.end(), isPassed), reaching.end());
+        parts[i].leader = i;
+        for (const size_t k : reaching) {
+            if (box.intersects(parts[k].box)) {
+                parts[leaderOf(k)].leader = i;
+            }
+        }
+        reaching.push_back(i);
+    }
+    QMap<size_t, QVector<QPolygonF>> groups;
+    for (size_t i = 0; i < parts.size(); ++i) {
+        groups[leaderOf(i)].append(parts[i].outline);
+    }
+    return groups.values();
 }
 
-ClipperLib::PolyFillType ruleOf(const QPainterPath& path)
+bool isConvex(const QPolygonF& outline)
 {
-    return path.fillRule() == Qt::WindingFill ? ClipperLib::pftNonZero : ClipperLib::pftEvenOdd;
+    return signedArea(outline) >= signedArea(convexHull(outline)) * (1 - 1e-9);
+}
+
+/// What covers the same with fewer edges: neighbours, of outlines sorted from left to right, are
+/// united first, which is much faster than all at once. Wrong for outlines that wind around
+/// anything clockwise.
+ClipperLib::Paths unitedByStrips(const ClipperLib::Paths& outlines)
+{
+    constexpr size_t outlinesOfStrip = 300;
+    ClipperLib::Paths all;
+    for (size_t first = 0; first < outlines.size(); first += outlinesOfStrip) {
+        ClipperLib::Clipper clipper;
+        for (size_t i = first; i < std::min(first + outlinesOfStrip, outlines.size()); ++i) {
+            clipper.AddPath(outlines[i], ClipperLib::ptSubject, true);
+        }
+        ClipperLib::Paths strip;
+        clipper.Execute(ClipperLib::ctUnion, strip, ClipperLib::pftNonZero);
+        all.insert(all.end(), strip.begin(), strip.end());
+    }
+    return all;
 }
 
 bool isSliver(const ClipperLib::PolyNode& node)
@@ -73,31 +130,6 @@ QVector<Island> islandsOf(const ClipperLib::PolyTree& tree)
         found.append(island);
     }
     return found;
-}
-
-QPainterPath windingPath(const QVector<Island>& all)
-{
-    QPainterPath winding;
-    winding.setFillRule(Qt::WindingFill);
-    const auto append = [&winding](const QPolygonF& polygon) {
-        winding.addPolygon(polygon);
-        winding.closeSubpath();
-    };
-    for (const Island& island : all) {
-        append(island.outline);
-        std::for_each(island.holes.begin(), island.holes.end(), append);
-    }
-    return winding;
-}
-
-QPainterPath combined(const QPainterPath& area, const QPainterPath& shape, ClipperLib::ClipType how)
-{
-    ClipperLib::Clipper clipper;
-    add(clipper, area, ClipperLib::ptSubject);
-    add(clipper, shape, ClipperLib::ptClip);
-    ClipperLib::PolyTree tree;
-    clipper.Execute(how, tree, ruleOf(area), ruleOf(shape));
-    return windingPath(islandsOf(tree));
 }
 
 /// Where the outline is met first on the way from `point` to the left: the edge's index and place.
@@ -141,21 +173,22 @@ void joinHole(QPolygonF& outline, const QPolygonF& hole, int leftmost)
 
 QVector<Island> islands(const QPainterPath& path)
 {
-    ClipperLib::Clipper clipper;
-    add(clipper, path, ClipperLib::ptSubject);
-    ClipperLib::PolyTree tree;
-    clipper.Execute(ClipperLib::ctUnion, tree, ruleOf(path), ruleOf(path));
-    return islandsOf(tree);
-}
-
-QPainterPath united(const QPainterPath& area, const QPainterPath& shape)
-{
-    return combined(area, shape, ClipperLib::ctUnion);
-}
-
-QPainterPath subtracted(const QPainterPath& area, const QPainterPath& shape)
-{
-    return combined(area, shape, ClipperLib::ctDifference);
+    const bool winding = path.fillRule() == Qt::WindingFill;
+    QVector<Island> found;
+    for (const QVector<QPolygonF>& group : groupsApart(flattened(path))) {
+        ClipperLib::Paths outlines;
+        std::transform(group.begin(), group.end(), std::back_inserter(outlines), toUnits);
+        if (winding && std::all_of(group.begin(), group.end(), isConvex)) {
+            outlines = unitedByStrips(outlines);
+        }
+        ClipperLib::Clipper clipper;
+        clipper.AddPaths(outlines, ClipperLib::ptSubject, true);
+        ClipperLib::PolyTree tree;
+        clipper.Execute(ClipperLib::ctUnion, tree,
+                        winding ? ClipperLib::pftNonZero : ClipperLib::pftEvenOdd);
+        found += islandsOf(tree);
+    }
+    return found;
 }
 
 QPolygonF cutOpen(const Island& island)
@@ -184,19 +217,17 @@ QPolygonF cutOpen(const Island& island)
 
 QPainterPath byWinding(const QPainterPath& path)
 {
-    return windingPath(islands(path));
-}
-
-double coveredArea(const QPainterPath& path)
-{
-    double area = 0;
+    QPainterPath winding;
+    winding.setFillRule(Qt::WindingFill);
+    const auto append = [&winding](const QPolygonF& polygon) {
+        winding.addPolygon(polygon);
+        winding.closeSubpath();
+    };
     for (const Island& island : islands(path)) {
-        area += signedArea(island.outline);
-        for (const QPolygonF& hole : island.holes) {
-            area += signedArea(hole);
-        }
+        append(island.outline);
+        std::for_each(island.holes.begin(), island.holes.end(), append);
     }
-    return area;
+    return winding;
 }
 
 }  // namespace Pcb

@@ -21,14 +21,7 @@ QVector<Island> islands(const QPainterPath& path);
 /// has no holes.
 QPolygonF cutOpen(const Island& island);
 
-/// Areas by the winding rule, both shapes taken by their own.
-QPainterPath united(const QPainterPath& area, const QPainterPath& shape);
-QPainterPath subtracted(const QPainterPath& area, const QPainterPath& shape);
-
 /// The same area by the winding rule: outlines counterclockwise, holes clockwise, none crossing.
 QPainterPath byWinding(const QPainterPath& path);
-
-/// The area that `path` covers by its fill rule, in square micrometres, flattened.
-double coveredArea(const QPainterPath& path);
 
 }  // namespace Pcb

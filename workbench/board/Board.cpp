@@ -1,6 +1,5 @@
 #include "board/Board.h"
 
-#include "board/Areas.h"
 #include "board/Paths.h"
 
 #include <QSet>
@@ -102,23 +101,6 @@ QRectF boundsOf(const Board& board)
         bounds |= feature.bounds();
     }
     return bounds;
-}
-
-QPainterPath coveredArea(const Board& board)
-{
-    QPainterPath area;
-    QPainterPath run;  // features of one polarity are taken together, which is much faster
-    run.setFillRule(Qt::WindingFill);
-    for (int index = 0; exists(board, index); ++index) {
-        const Feature& feature = at(board, index);
-        run.addPath(byWinding(feature.area()));
-        if (exists(board, index + 1) && at(board, index + 1).isPositive() == feature.isPositive()) {
-            continue;
-        }
-        area = feature.isPositive() ? united(area, run) : subtracted(area, run);
-        run.clear();
-    }
-    return area;
 }
 
 int featureAt(const Board& board, const QPointF& point, double tolerance)

@@ -25,9 +25,6 @@ using Indexes = std::vector<int>;  ///< of features; ascending, each once
 /// Outline and features; invalid for a board of nothing.
 QRectF boundsOf(const Board& board);
 
-/// The area of the layer: positive features less the negative ones that came after them.
-QPainterPath coveredArea(const Board& board);
-
 /// The topmost feature at `point` or no farther from it than `tolerance`; -1: none.
 int featureAt(const Board& board, const QPointF& point, double tolerance);
 

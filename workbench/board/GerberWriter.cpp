@@ -117,19 +117,24 @@ void GerberWriter::draw(double width, const QPolygonF& points)
 
 void GerberWriter::drawArc(double width, const ArcPlace& arc)
 {
-    const QPointF from = polar(arc.centre, arc.radius, arc.start);
-    const bool isCircle = std::abs(arc.sweep) >= 360;
-    const QPointF to = isCircle ? from : polar(arc.centre, arc.radius, arc.start + arc.sweep);
-    // Ends that fall together on the grid would be read as a whole circle.
-    if (std::abs(arc.sweep) < 180 && onGrid(QPolygonF() << from << to).size() == 1) {
-        flash(aperture('C', width), from);
+    // Where little or nothing lies between the ends, readers take a whole circle for none.
+    const int parts = std::abs(arc.sweep) > 270 ? 2 : 1;
+    QPolygonF ends;
+    for (int part = 0; part <= parts; ++part) {
+        ends.append(polar(arc.centre, arc.radius, arc.start + arc.sweep * part / parts));
+    }
+    if (onGrid(ends).size() == 1) {
+        flash(aperture('C', width), ends.first());
         return;
     }
     select(aperture('C', width));
-    const QPointF toCentre = arc.centre - from;
-    m_body += coordinates(from) + "D02*\n";
+    m_body += coordinates(ends.first()) + "D02*\n";
     m_body += arc.sweep < 0 ? "G02*\n" : "G03*\n";
-    m_body += coordinates(to) + number('I', toCentre.x()) + number('J', toCentre.y()) + "D01*\n";
+    for (int part = 0; part < parts; ++part) {
+        const QPointF toCentre = arc.centre - ends.at(part);
+        m_body += coordinates(ends.at(part + 1)) + number('I', toCentre.x()) +
+                  number('J', toCentre.y()) + "D01*\n";
+    }
     m_body += "G01*\n";
 }
 

@@ -8,17 +8,6 @@
 namespace Pcb {
 namespace {
 
-QRectF squareAround(const QPointF& centre, double radius)
-{
-    return {centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius};
-}
-
-/// Qt measures its angles in a plane whose y points down.
-void appendArc(QPainterPath& path, const QPointF& centre, double radius, double start, double sweep)
-{
-    path.arcTo(squareAround(centre, radius), -start, -sweep);
-}
-
 double cross(const QPointF& origin, const QPointF& a, const QPointF& b)
 {
     return (a.x() - origin.x()) * (b.y() - origin.y()) -
@@ -27,15 +16,11 @@ double cross(const QPointF& origin, const QPointF& a, const QPointF& b)
 
 void appendCapsule(QPainterPath& path, const QPointF& from, const QPointF& to, double radius)
 {
-    if (from == to) {
-        path.addPath(circlePath(from, radius));
-        return;
-    }
-    const double direction = angleOf(from, to);
-    path.moveTo(polar(from, radius, direction - 90));
-    appendArc(path, to, radius, direction - 90, 180);
-    appendArc(path, from, radius, direction + 90, 180);
-    path.closeSubpath();
+    QPainterPath level;
+    level.addRoundedRect(-radius, -radius, distance(from, to) + 2 * radius, 2 * radius, radius,
+                         radius);
+    path.addPath(
+        QTransform::fromTranslate(from.x(), from.y()).rotate(angleOf(from, to)).map(level));
 }
 
 QPolygonF opened(QPolygonF polygon)
@@ -81,18 +66,18 @@ QPointF turned(const QPointF& point, const QPointF& centre, double degrees)
 
 QPainterPath arcPath(const QPointF& centre, double radius, double start, double sweep)
 {
+    // Qt measures its angles in a plane whose y points down.
+    const QRectF square(centre - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
     QPainterPath path;
-    path.arcMoveTo(squareAround(centre, radius), -start);
-    appendArc(path, centre, radius, start, sweep);
+    path.arcMoveTo(square, -start);
+    path.arcTo(square, -start, -sweep);
     return path;
 }
 
 QPainterPath circlePath(const QPointF& centre, double radius)
 {
     QPainterPath path;
-    path.moveTo(centre + QPointF(radius, 0));
-    appendArc(path, centre, radius, 0, 360);
-    path.closeSubpath();
+    path.addEllipse(centre, radius, radius);
     return path;
 }
 

@@ -1,6 +1,7 @@
 #include "board/PictureExport.h"
 
 #include <Files.h>
+#include <LengthUnits.h>
 
 #include <QBuffer>
 #include <QSvgGenerator>
@@ -11,7 +12,6 @@ namespace Pcb {
 namespace {
 
 constexpr int largestPicture = 20000;  // pixels of a side
-constexpr int svgSide = 1000;          // of the longer side
 constexpr double margin = 0.05;
 
 /// What is shown: the board and a margin; invalid for a board of nothing.
@@ -29,13 +29,11 @@ QSize sizeOf(const QRectF& area, int longerSide)
     return {std::max(1, qRound(area.width() * scale)), std::max(1, qRound(area.height() * scale))};
 }
 
-QRectF areaOf(const Board& board, const QString& file)
+void requireArea(const QRectF& area, const QString& file)
 {
-    const QRectF area = shownArea(board);
     if (area.isEmpty()) {
         throw CanvasHost::FileError{file, 0, QStringLiteral("the board is empty")};
     }
-    return area;
 }
 
 }  // namespace
@@ -79,7 +77,7 @@ QImage toImage(const Board& board, int pixels, const PictureColours& colours)
 
 void writePng(const Board& board, const QString& file, int pixels)
 {
-    areaOf(board, file);
+    requireArea(boundsOf(board), file);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     toImage(board, pixels).save(&buffer, "PNG");
@@ -88,17 +86,18 @@ void writePng(const Board& board, const QString& file, int pixels)
 
 void writeSvg(const Board& board, const QString& file)
 {
-    const QRectF area = areaOf(board, file);
-    const QSize size = sizeOf(area, svgSide);
+    const QRectF area = boundsOf(board);
+    requireArea(area, file);
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setSize(size);
-    generator.setViewBox(QRect(QPoint(), size));
-    generator.setTitle(board.step.isEmpty() ? board.job
-                                            : board.job + QLatin1Char(' ') + board.step);
+    // Dots of an inch: a dot is a micrometre, so that the drawing says how large the board is.
+    generator.setResolution(qRound(1000 * CanvasHost::micrometresOfMil));
+    generator.setSize(area.size().toSize().expandedTo({1, 1}));
+    generator.setViewBox(QRectF(QPointF(), area.size()));
+    generator.setTitle((board.job + QLatin1Char(' ') + board.step).trimmed());
     QPainter painter(&generator);
-    paintBoard(painter, board, area, QRectF(QPointF(), size));
+    paintBoard(painter, board, area, QRectF(QPointF(), area.size()));
     painter.end();
     CanvasHost::writeWhole(file, buffer.data());
 }

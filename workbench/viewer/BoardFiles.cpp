@@ -44,13 +44,7 @@ QString errorOf(Work work)
 
 QString BoardFiles::open(Document& document, const QString& file)
 {
-    return errorOf([&] {
-        Pcb::Board board = Pcb::readBoardFile(file);
-        // The step stays what it is, whatever the file was saved from.
-        board.job = document.board().job;
-        board.step = document.board().step;
-        document.replace(board);
-    });
+    return errorOf([&] { document.replace(Pcb::readBoardFile(file)); });
 }
 
 QString BoardFiles::save(const Document& document, const QString& file)

@@ -55,19 +55,6 @@ class BoardTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void polarityCountsInOrder()
-    {
-        const Board cut = boardOf({square(0, 0, 1000), square(200, 200, 400, false)});
-        QCOMPARE(coveredArea(coveredArea(cut)), 1e6 - 16e4);
-        QVERIFY(!coveredArea(cut).contains(QPointF(400, 400)));
-        const Board over = boardOf({square(200, 200, 400, false), square(0, 0, 1000)});
-        QCOMPARE(coveredArea(coveredArea(over)), 1e6);
-        const Board again =
-            boardOf({square(0, 0, 1000), square(200, 200, 400, false), square(300, 300, 100)});
-        QCOMPARE(coveredArea(coveredArea(again)), 1e6 - 16e4 + 1e4);
-        QVERIFY(coveredArea(Board()).isEmpty());
-    }
-
     void hitsTheTopmost()
     {
         const Board board = boardOf({square(0, 0, 1000), square(200, 200, 400, false)});

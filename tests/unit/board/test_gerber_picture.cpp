@@ -6,6 +6,7 @@
 
 #include <QImage>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtMath>
@@ -101,6 +102,26 @@ int farFrom(const QImage& a, const QImage& b)
     return count;
 }
 
+/// 400 thin circles and arcs that begin anywhere, between whose ends `gap` micrometres are left.
+Board ringsWithGaps(double gap)
+{
+    QRandomGenerator random(9);
+    Board board;
+    for (int i = 0; i < 400; ++i) {
+        const QPointF centre(1500 + i % 20 * 3000 + random.generateDouble(),
+                             1500 + i / 20 * 3000 + random.generateDouble());
+        const double radius = 200 + random.bounded(1100.0);
+        const double start = random.bounded(360.0);
+        const bool clockwise = i % 2 == 1;
+        const double turn = 360 - qRadiansToDegrees(gap / radius);
+        const QPointF from = polar(centre, radius, start);
+        const QPointF to =
+            gap > 0 ? polar(centre, radius, start + (clockwise ? -turn : turn)) : from;
+        board.features.emplace_back(arcGeometry(QStringLiteral("r4"), from, to, centre, clockwise));
+    }
+    return board;
+}
+
 QImage painted(const Board& board, const View& view)
 {
     PictureColours colours;
@@ -189,6 +210,28 @@ private slots:
                                      .arg(geometry.symbol, geometry.text.content);
             QVERIFY2(covered > 5000 && astray <= covered / 1000, qPrintable(what));
         }
+    }
+
+    void circlesAndAlmostCirclesAgree_data()
+    {
+        QTest::addColumn<double>("gap");
+        QTest::newRow("circles") << 0.0;
+        QTest::newRow("less than the grid") << 0.0004;
+        QTest::newRow("the grid") << 0.001;
+        QTest::newRow("less than the pen") << 20.0;
+        QTest::newRow("more than the pen") << 400.0;
+    }
+
+    void circlesAndAlmostCirclesAgree()
+    {
+        QFETCH(double, gap);
+        const Board board = ringsWithGaps(gap);
+        const QImage theirs = rendered(board, m_whole, m_folder);
+        const QImage ours = painted(board, m_whole);
+        keep(ours, theirs);
+        QCOMPARE(theirs.size(), ours.size());
+        QVERIFY(compare(ours, theirs).covered > 200000);
+        QCOMPARE(farFrom(ours, theirs) + farFrom(theirs, ours), 0);
     }
 
     /// What the comparison says of a file that lacks its cut-outs.

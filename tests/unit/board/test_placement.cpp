@@ -1,5 +1,5 @@
+#include "CoveredArea.h"
 #include "Main.h"
-#include "board/Areas.h"
 #include "board/Paths.h"
 #include "board/Placement.h"
 

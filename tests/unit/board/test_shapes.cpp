@@ -1,9 +1,10 @@
+#include "CoveredArea.h"
 #include "Main.h"
-#include "board/Areas.h"
 #include "board/Feature.h"
 #include "board/Paths.h"
 #include "board/Symbol.h"
 
+#include <QRandomGenerator>
 #include <QtMath>
 
 using namespace Pcb;
@@ -18,9 +19,41 @@ bool isAbout(double value, double expected, double part = 1e-3)
     return std::abs(value - expected) <= std::abs(expected) * part + 1e-6;
 }
 
+QPolygonF regular(const QPointF& centre, double radius, int corners, double turn = 1)
+{
+    QPolygonF polygon;
+    for (int i = 0; i < corners; ++i) {
+        polygon.append(polar(centre, radius, turn * 360 * i / corners));
+    }
+    return polygon;
+}
+
+/// Many outlines, most of which overlap, among them `others` that are not convex counterclockwise.
+QPainterPath crowd(Qt::FillRule rule, int others)
+{
+    QRandomGenerator random(5);
+    QPainterPath path;
+    path.setFillRule(rule);
+    const auto place = [&random] {
+        return QPointF(random.bounded(20000.0), random.bounded(20000.0));
+    };
+    for (int i = 0; i < 1000; ++i) {
+        path.addPolygon(regular(place(), 100 + random.bounded(400.0), 12));
+        path.closeSubpath();
+    }
+    for (int i = 0; i < others; ++i) {
+        path.addPolygon(regular(place(), 1500, 12, -1));
+        path.closeSubpath();
+        path.addPolygon(regular(place(), 1500, 5, 2));  // a star
+        path.closeSubpath();
+    }
+    return path;
+}
+
 }  // namespace
 
 Q_DECLARE_METATYPE(QVector<QPointF>)
+Q_DECLARE_METATYPE(QPainterPath)
 
 class ShapesTest : public QObject {
     Q_OBJECT
@@ -146,6 +179,42 @@ private slots:
         QCOMPARE(coveredArea(byWinding(path)), coveredArea(path));
         QCOMPARE(byWinding(path).fillRule(), Qt::WindingFill);
         QVERIFY(!byWinding(path).contains(QPointF(120, 120)));
+    }
+
+    void crowdsCoverTheSame_data()
+    {
+        QTest::addColumn<QPainterPath>("path");
+        QTest::newRow("odd-even") << crowd(Qt::OddEvenFill, 0);
+        QTest::newRow("winding") << crowd(Qt::WindingFill, 0);
+        QTest::newRow("winding both ways") << crowd(Qt::WindingFill, 20);
+    }
+
+    void crowdsCoverTheSame()
+    {
+        QFETCH(QPainterPath, path);
+        const QPainterPath same = byWinding(path);
+        QRandomGenerator random(6);
+        int covered = 0;
+        int differing = 0;
+        for (int i = 0; i < 700; ++i) {
+            const QPointF point(random.bounded(20000.0), random.bounded(20000.0));
+            covered += path.contains(point) ? 1 : 0;
+            differing += path.contains(point) != same.contains(point) ? 1 : 0;
+        }
+        QVERIFY2(covered > 70 && covered < 630, qPrintable(QString::number(covered)));
+        QCOMPARE(differing, 0);
+    }
+
+    void outlinesThatTouchAreOneIsland()
+    {
+        QPainterPath path;
+        for (int i = 0; i < 400; ++i) {
+            path.addRect(i % 20 * 100, i / 20 * 100, 100, 100);
+        }
+        path.addRect(2000.002, 0, 100, 100);
+        QCOMPARE(islands(path).size(), 2);
+        path.addRect(1900, -100, 200, 100);
+        QCOMPARE(islands(path).size(), 1);
     }
 
     void nearness()

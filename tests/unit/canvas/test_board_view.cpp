@@ -3,8 +3,10 @@
 #include "BoxCatcher.h"
 #include "CanvasFixture.h"
 #include "Main.h"
+#include "board/BoardFile.h"
 #include "viewer/BoardFiles.h"
 
+#include <Files.h>
 #include <UiApiStandIn.h>
 
 #include <QFileDialog>
@@ -161,6 +163,20 @@ private Q_SLOTS:
         QVERIFY(fixture.pane->exportBoard("/no/such/place/board.gbr").startsWith("/no/such/place"));
         QVERIFY(fixture.pane->exportBoard("board.txt").contains("must end in"));
         QVERIFY(fixture.pane->openBoard("/no/such/file.json").startsWith("/no/such/file.json: "));
+    }
+
+    void whatIsOpenedIsWhatIsSaved()
+    {
+        const QTemporaryDir directory;
+        const QString opened = directory.filePath("opened.json");
+        const QString saved = directory.filePath("saved.json");
+        const Pcb::Board board{"another job", "another step", QPolygonF(QRectF(0, 0, 9, 9)), {}};
+        Pcb::writeBoardFile(board, opened);
+        const CanvasFixture fixture(twoPads());
+        QCOMPARE(fixture.pane->openBoard(opened), QString());
+        QCOMPARE(fixture.document().board().job, QString("another job"));
+        QCOMPARE(fixture.pane->exportBoard(saved), QString());
+        QCOMPARE(CanvasHost::readWhole(saved), CanvasHost::readWhole(opened));
     }
 };
 
