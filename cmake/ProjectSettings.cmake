@@ -31,7 +31,10 @@ endif()
 
 add_library(cts_settings INTERFACE)
 target_compile_definitions(cts_settings INTERFACE QT_DEPRECATED_WARNINGS)
-if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+if(MSVC)
+    target_compile_options(cts_settings INTERFACE
+        /utf-8 /permissive- /Zc:__cplusplus /W4 $<$<BOOL:${CTS_WERROR}>:/WX>)
+elseif(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(cts_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
         -Woverloaded-virtual -Wconversion -Wno-sign-conversion $<$<BOOL:${CTS_WERROR}>:-Werror>)
     if(CTS_CCACHE)

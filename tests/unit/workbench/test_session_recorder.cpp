@@ -438,7 +438,8 @@ private Q_SLOTS:
 
     void wordsSurviveTheFile()
     {
-        const QStringList words{"type", "m_pX", "", "a b", "#x", "it's", "\"", "\\", "x#", "é 中"};
+        const QStringList words{"type", "m_pX", "",   "a b", "#x",
+                                "it's", "\"",   "\\", "x#",  "\u00e9 \u4e2d"};
         QCOMPARE(SessionParser::split(SessionFile::lineOf(words)), words);
     }
 };
