@@ -37,6 +37,10 @@ if(MSVC)
 elseif(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(cts_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
         -Woverloaded-virtual -Wconversion -Wno-sign-conversion $<$<BOOL:${CTS_WERROR}>:-Werror>)
+    if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        # qCDebug(category) << ... leaves the macro's last argument out.
+        target_compile_options(cts_settings INTERFACE -Wno-gnu-zero-variadic-macro-arguments)
+    endif()
     if(CTS_CCACHE)
         target_compile_options(cts_settings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
     endif()

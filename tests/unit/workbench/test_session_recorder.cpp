@@ -11,6 +11,7 @@
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
