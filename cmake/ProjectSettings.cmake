@@ -18,7 +18,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CTS_MODULE_DIR ${CMAKE_BINARY_DIR}/modules)
-# Modules, stand-ins and translations, where the linker of other programs does not look.
+# Modules, stand-ins and translations, where other programs look for no library.
 set(CTS_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/canvas-tool-strip)
 set(CTS_INSTALL_MODULE_DIR ${CTS_PRIVATE_DIR}/modules)
 
