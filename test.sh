@@ -11,6 +11,6 @@ release | debug | asan | coverage)
     shift
     ;;
 esac
-need_packages build run bench test
+need_packages build run bench test border
 build "$preset" all benchmarks
 ctest --test-dir "build/$preset" --output-on-failure --parallel "$(nproc)" "$@"

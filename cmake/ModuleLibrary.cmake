@@ -6,7 +6,7 @@ set_target_properties(Canvas_Tool_Strip PROPERTIES
     PREFIX ""
     LIBRARY_OUTPUT_DIRECTORY ${CTS_MODULE_DIR}
     RUNTIME_OUTPUT_DIRECTORY ${CTS_MODULE_DIR}
-    INSTALL_RPATH "$ORIGIN/../..")
+    INSTALL_RPATH "$ORIGIN/../host")
 if(UNIX AND NOT APPLE)
     # Template instances of Qt and the standard library would leave as weak symbols otherwise.
     set(CTS_EXPORTS ${CMAKE_CURRENT_SOURCE_DIR}/cmake/Canvas_Tool_Strip.map)

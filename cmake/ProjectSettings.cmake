@@ -18,7 +18,9 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CTS_MODULE_DIR ${CMAKE_BINARY_DIR}/modules)
-set(CTS_INSTALL_MODULE_DIR ${CMAKE_INSTALL_LIBDIR}/canvas-tool-strip/modules)
+# Modules, stand-ins and translations, where other programs look for no library.
+set(CTS_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/canvas-tool-strip)
+set(CTS_INSTALL_MODULE_DIR ${CTS_PRIVATE_DIR}/modules)
 
 find_program(CTS_CCACHE ccache)
 if(CTS_CCACHE)
@@ -29,9 +31,16 @@ endif()
 
 add_library(cts_settings INTERFACE)
 target_compile_definitions(cts_settings INTERFACE QT_DEPRECATED_WARNINGS)
-if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+if(MSVC)
+    target_compile_options(cts_settings INTERFACE
+        /utf-8 /permissive- /Zc:__cplusplus /W4 $<$<BOOL:${CTS_WERROR}>:/WX>)
+elseif(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(cts_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
         -Woverloaded-virtual -Wconversion -Wno-sign-conversion $<$<BOOL:${CTS_WERROR}>:-Werror>)
+    if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        # qCDebug(category) << ... leaves the macro's last argument out.
+        target_compile_options(cts_settings INTERFACE -Wno-gnu-zero-variadic-macro-arguments)
+    endif()
     if(CTS_CCACHE)
         target_compile_options(cts_settings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
     endif()

@@ -64,7 +64,7 @@ struct Row {
     const char* image;  ///< file names in the resource tree
     const char* checkedImage;
     Start start;
-    const char* clickSlot;  ///< SLOT(…) that clicked() is connected to
+    const char* clickSlot;  ///< SLOT(...) that clicked() is connected to
     int onCode;             ///< sent by a standard handler while the button is checked; Unset:
                             ///< the tool's handler is its own
     int offCode;            ///< sent otherwise; equal to onCode for a tool with one code
@@ -80,7 +80,7 @@ struct MenuEntry {
     const char* objectName;
     const char* text;
     const char* laterText;  ///< after a language change; null: it keeps its text
-    const char* slot;       ///< SLOT(…) that triggered(bool) is connected to
+    const char* slot;       ///< SLOT(...) that triggered(bool) is connected to
 };
 
 /// A right-click menu.
@@ -88,7 +88,7 @@ struct Menu {
     const char* objectName;
     Tool owner;            ///< whose button opens it
     Tool parent;           ///< whose button it is a child of
-    const char* openSlot;  ///< SLOT(…) that customContextMenuRequested(QPoint) is connected to
+    const char* openSlot;  ///< SLOT(...) that customContextMenuRequested(QPoint) is connected to
     std::vector<MenuEntry> entries;
 };
 

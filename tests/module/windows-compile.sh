@@ -1,20 +1,22 @@
 #!/usr/bin/env bash
-# Every source file of the module compiles for Windows: with Debian's cross compiler against Qt's
-# headers, without linking. Status 77 where the compiler is missing.
-# Usage: windows-compile.sh INCLUDES SOURCES   (two files, a path a line: what the module is built of)
+# Every source file of the module compiles for Windows, and so does a host that imports the module's
+# class: with Debian's cross compiler against Qt's headers, without linking.
+# Usage: windows-compile.sh INCLUDES SOURCES HOST WORK
+#   INCLUDES and SOURCES are files, a path a line: what the module is built of
 set -u
-compiler=$(command -v x86_64-w64-mingw32-g++-posix) || { echo "no cross compiler"; exit 77; }
+host=$3 work=$4
+tool=x86_64-w64-mingw32
 mapfile -t includes < <(sort -u "$1")
 mapfile -t files < <(grep '\.cpp$' "$2")
+[ "${#files[@]}" -gt 0 ] || { echo "no files"; exit 1; }
 
 # Of this system's headers only the log's: the C library's are those of Windows.
-other=$(mktemp -d)
-trap 'rm -rf "$other"' EXIT
+rm -rf "$work"
+mkdir -p "$work/include"
 for name in glog gflags; do
-    [ -e "/usr/include/$name" ] && ln -s "/usr/include/$name" "$other/$name"
+    [ -e "/usr/include/$name" ] && ln -s "/usr/include/$name" "$work/include/$name"
 done
-options=(-std=c++17 -fsyntax-only -Wall -Wextra -DCANVAS_TOOL_STRIP_BUILD -DGOOGLE_GLOG_DLL_DECL=
-    -DGLOG_NO_ABBREVIATED_SEVERITIES)
+options=(-std=c++17 -Wall -Wextra -Werror -DGOOGLE_GLOG_DLL_DECL= -DGLOG_NO_ABBREVIATED_SEVERITIES)
 for folder in "${includes[@]}"; do
     case $folder in
         /usr/include) ;;
@@ -22,9 +24,16 @@ for folder in "${includes[@]}"; do
         *) options+=(-I"$folder") ;;
     esac
 done
-options+=(-isystem "$other")
+options+=(-isystem "$work/include")
 
-[ "${#files[@]}" -gt 0 ] || { echo "no files"; exit 1; }
+"$tool-g++-posix" "${options[@]}" -O1 -c "$host" -o "$work/host.o" || exit 1
+"$tool-nm" "$work/host.o" | awk '{ print $NF }' >"$work/names"
+class=_ZN17Canvas_Tool_Strip
+for name in GetPluginInstance recMsgFromManager "${class}C2EP7QWidget" \
+    "${class}16staticMetaObjectE" "${class}17close_all_DialogsEv" "${class}12GetRulerinfoEv"; do
+    grep -qx "__imp_$name" "$work/names" || { echo "the host does not import $name"; exit 1; }
+done
+
 echo "${#files[@]} files"
-printf '%s\0' "${files[@]}" |
-    xargs -0 -P "$(nproc)" -I FILE "$compiler" "${options[@]}" FILE
+printf '%s\0' "${files[@]}" | xargs -0 -P "$(nproc)" -I FILE \
+    "$tool-g++-posix" "${options[@]}" -DCANVAS_TOOL_STRIP_BUILD -fsyntax-only FILE

@@ -1,5 +1,6 @@
 #include "BoxCatcher.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QtTest>
 

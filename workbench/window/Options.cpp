@@ -135,7 +135,8 @@ int fontSize(const QCommandLineParser& parser)
 
 const std::vector<LanguageChoice>& languageChoices()
 {
-    static const std::vector<LanguageChoice> choices{{"en", "English"}, {"zh_CN", "简体中文"}};
+    static const std::vector<LanguageChoice> choices{{"en", "English"},
+                                                     {"zh_CN", "\u7b80\u4f53\u4e2d\u6587"}};
     return choices;
 }
 

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 #include <QPixmap>
 #include <QStyleFactory>
 #include <QTimer>
@@ -145,7 +146,9 @@ int run(int argc, char* argv[])
     Inputs inputs;
     readInputs(argc, argv, &inputs);
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("workbench"));
+    QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
+    QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
     dress(inputs.options);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, &application,

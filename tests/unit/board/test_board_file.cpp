@@ -46,7 +46,7 @@ private slots:
     void boardsComeBackAsTheyWere()
     {
         Board board = sampleBoard();
-        board.job = QStringLiteral("\"quoted\"\nünïcode");
+        board.job = QStringLiteral("\"quoted\"\n\u00fcn\u00efcode");
         const Board read = fromJson(toJson(board));
         QVERIFY(read == board);
         QCOMPARE(toJson(read), toJson(board));

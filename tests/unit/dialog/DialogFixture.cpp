@@ -5,6 +5,7 @@
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
 
+#include <QToolButton>
 #include <QtTest>
 
 namespace {

@@ -8,6 +8,7 @@
 #include "plugin/MessageCodes.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
+#include <QAbstractButton>
 #include <QPointer>
 
 #include <memory>

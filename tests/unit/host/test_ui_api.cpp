@@ -1,6 +1,7 @@
 #include <UiApiStandIn.h>
 #include <ui_api.h>
 
+#include <QAbstractButton>
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTimer>

@@ -163,10 +163,10 @@ private Q_SLOTS:
     void specialTextBeyondTheValidator()
     {
         DialogFixture fixture;
-        fixture.dialog->get_Special_TEXT(QString::fromUtf8("日期|"));
+        fixture.dialog->get_Special_TEXT(QString::fromUtf8("\u65e5\u671f|"));
         QCOMPARE(
             fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::textContains),
-            QVariant(QString::fromUtf8("$$日期|")));
+            QVariant(QString::fromUtf8("$$\u65e5\u671f|")));
     }
 
     void theOtherTextSlotDoesNothing()

@@ -6,6 +6,7 @@
 #include <UiApiStandIn.h>
 
 #include <QImage>
+#include <QMenu>
 
 namespace {
 

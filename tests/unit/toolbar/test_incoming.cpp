@@ -263,9 +263,9 @@ private Q_SLOTS:
                                             {PayloadKeys::stepName, "pcb"}}
                                  << ""
                                  << "";
-        QTest::newRow("unicode") << Payload{{PayloadKeys::jobName, QString::fromUtf8("板7")},
+        QTest::newRow("unicode") << Payload{{PayloadKeys::jobName, QString::fromUtf8("\u677f7")},
                                             {PayloadKeys::stepName, "p c"}}
-                                 << QString::fromUtf8("板7") << "p c";
+                                 << QString::fromUtf8("\u677f7") << "p c";
     }
     void jobOpened()
     {

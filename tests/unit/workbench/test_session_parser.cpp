@@ -9,7 +9,7 @@ namespace {
 
 /// One of each step, with quotes, comments and letters of several bytes.
 const char* const full =
-    "# Ein Stück Arbeit\n"
+    "# Ein St\u00fcck Arbeit\n"
     "click m_pA 1 2\n"
     "doubleclick m_pA\n"
     "rightclick m_pA 3 4 \"Save \\\"all\\\"\"   # a comment\n"
@@ -19,9 +19,9 @@ const char* const full =
     "wheel m_pA -1.5 3 4\n"
     "canvas click 1.5mm -20\n"
     "canvas wheel 1 2 3\n"
-    "type m_pA 'größer als'\n"
+    "type m_pA 'gr\u00f6\u00dfer als'\n"
     "key m_pA Shift+Tab\n"
-    "choose m_pLanguage 简体中文\n"
+    "choose m_pLanguage \u7b80\u4f53\u4e2d\u6587\n"
     "set m_pA b\\ c\n"
     "menu m_pA b\n"
     "close m_pA\n"
@@ -72,7 +72,7 @@ private Q_SLOTS:
             QVERIFY2(commands.contains(name), qPrintable(name));
         }
         QCOMPARE(lines[2], (QStringList{"rightclick", "m_pA", "3", "4", "Save \"all\""}));
-        QCOMPARE(lines[9], (QStringList{"type", "m_pA", "größer als"}));
+        QCOMPARE(lines[9], (QStringList{"type", "m_pA", "gr\u00f6\u00dfer als"}));
     }
 
     void eachStepIsDescribed()

@@ -11,6 +11,7 @@
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -438,7 +439,8 @@ private Q_SLOTS:
 
     void wordsSurviveTheFile()
     {
-        const QStringList words{"type", "m_pX", "", "a b", "#x", "it's", "\"", "\\", "x#", "é 中"};
+        const QStringList words{"type", "m_pX", "",   "a b", "#x",
+                                "it's", "\"",   "\\", "x#",  "\u00e9 \u4e2d"};
         QCOMPARE(SessionParser::split(SessionFile::lineOf(words)), words);
     }
 };
