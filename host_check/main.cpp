@@ -18,10 +18,10 @@ constexpr int wrongUsage = 2;
 bool readOptions(const QApplication& application, Situation& situation, bool& isVerbose)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Holds the host's libraries against the interface of the tool strip. Each "
-                       "difference is one "
-                       "line. The status is 1 if anything differs. Run it once for each unit."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Holds the host's libraries against the interface of the tool strip. Each "
+        "difference is one line; the status is 1 if there is one. To be run once for "
+        "each unit."));
     const QCommandLineOption unit(
         QStringLiteral("unit"), QStringLiteral("The unit that the host is set to: metric or inch."),
         QStringLiteral("UNIT"));
@@ -63,13 +63,13 @@ int main(int argc, char** argv)
     if (!readOptions(application, situation, isVerbose)) {
         return wrongUsage;
     }
-    QWidget window;
-    auto* const strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(&window));
-    window.setLayout(strip);
-    situation.context = &window;
-    situation.strip = strip;
-
     Report report(isVerbose);
+    QWidget window;
+    situation.context = &window;
+    report.run(QStringLiteral("GetPluginInstance()"), [&] {
+        situation.strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(&window));
+        window.setLayout(situation.strip);
+    });
     checkPluginManager(report);
     checkCamApi(report, situation);
     checkUiApi(report, situation);
