@@ -71,16 +71,18 @@ void receiveAsJobTree(void*, PluginMetaData) {}
 int run(const Module& module, bool quit)
 {
     QWidget window;
+    window.setObjectName(QStringLiteral("window"));
     auto* const buttons = new QWidget(&window);
+    buttons->setObjectName(QStringLiteral("buttons"));
     auto* const canvas = new QLabel(QStringLiteral("The canvas"), &window);
+    canvas->setObjectName(QStringLiteral("canvas"));
     canvas->setMinimumSize(400, 300);
     canvas->setAlignment(Qt::AlignCenter);
     auto* const row = new QHBoxLayout(&window);
     row->addWidget(buttons);
     row->addWidget(canvas, 1);
 
-    // `buttons` holds the strip: the buttons are its children, and it is the strip's sender
-    // pointer.
+    // The tool buttons become children of `buttons`, which is also the strip's sender pointer.
     void* const instance = module.create(buttons);
     if (!instance) {
         return EXIT_FAILURE;
