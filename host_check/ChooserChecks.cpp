@@ -38,9 +38,9 @@ Symbol identify(const std::string& name, bool arc)
     return symbol;
 }
 
-/// Chooses the last name of the list. `sent` is where the window's signals leave their names, each
-/// with the name that it brings.
-void expectChosen(Report& report, const QString& signal, QWidget& window, const QStringList& sent)
+/// Chooses the first name of the list, then the last. `sent` is where the window's signals leave
+/// their names, each with the name that it brings.
+void expectChosen(Report& report, const QString& signal, QWidget& window, QStringList& sent)
 {
     const QString what = QStringLiteral("%1: signals of a choice").arg(signal);
     QAbstractItemView* const list = UserActions::listOf(window);
@@ -48,16 +48,19 @@ void expectChosen(Report& report, const QString& signal, QWidget& window, const 
         report.untried(what, QStringLiteral("the window has no list with an entry"));
         return;
     }
-    const QModelIndex last = list->model()->index(list->model()->rowCount() - 1, 0);
-    const QString name = last.data().toString();
-    BoxCounter boxes;
-    UserActions::choose(window, *list, last, sent);
-    if (sent.isEmpty()) {
-        report.untried(what,
-                       QStringLiteral("neither Enter nor a double click nor a button chooses"));
-        return;
+    for (const int row : {0, list->model()->rowCount() - 1}) {
+        const QModelIndex index = list->model()->index(row, 0);
+        const QString name = index.data().toString();
+        BoxCounter boxes;
+        sent.clear();
+        UserActions::choose(window, *list, index, sent);
+        if (sent.isEmpty()) {
+            report.untried(what,
+                           QStringLiteral("neither Enter nor a double click nor a button chooses"));
+            return;
+        }
+        report.expect(what, {QStringLiteral("%1(%2)").arg(signal, name)}, sent);
     }
-    report.expect(what, {QStringLiteral("%1(%2)").arg(signal, name)}, sent);
 }
 
 /// The symbols of the job itself are learnt from the chooser: nothing else tells their names.

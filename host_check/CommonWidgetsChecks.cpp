@@ -6,10 +6,11 @@
 #include <common_widgets.h>
 
 #include <QAbstractButton>
-#include <QMetaObject>
+#include <QMetaMethod>
 #include <QPointer>
 
 #include <functional>
+#include <memory>
 
 namespace {
 

@@ -55,8 +55,8 @@ bool anySymbolForArcs(const std::string& name, API::symbol_type& type, int& a, i
 bool twoBoxes(double value, double minimum, double maximum, void* context)
 {
     return own(uiApiOverrides().isNumValueLegal, [&] {
-        return UIAPI::isNumValueLegal(value, minimum, maximum, context) &
-               UIAPI::isNumValueLegal(value, minimum, maximum, context);
+        UIAPI::isNumValueLegal(value, minimum, maximum, context);
+        return UIAPI::isNumValueLegal(value, minimum, maximum, context);
     });
 }
 

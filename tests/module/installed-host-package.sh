@@ -1,6 +1,7 @@
 #!/bin/sh
 # Installs the packages, then builds the module a second time against what was installed, as an
-# integrator would, has the host checked, and builds a sibling. Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
+# integrator would, has the host checked, and builds a sibling.
+# Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
 set -eu
 source=$1 build=$2 work=$3 type=$4 sanitize=$5
 
