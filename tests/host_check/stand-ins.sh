@@ -5,16 +5,19 @@ set -u
 program=$1
 export CANVAS_HOST_JOBS="$2"
 failed=0
+errors=$(mktemp)
+trap 'rm -f "$errors"' EXIT
 
 # expect STATUS UNTRIED OPTION...: host_check ends so, and so many lines say what was not tried.
 expect() {
     status=$1 untried=$2
     shift 2
-    output=$("$program" "$@" 2>/dev/null)
+    output=$("$program" "$@" 2>"$errors")
     got=$?
     lines=$(printf '%s\n' "$output" | grep -c '^not tried: ')
     if [ "$got" -ne "$status" ] || [ "$lines" -ne "$untried" ]; then
         printf '%s\n' "$output"
+        cat "$errors"
         echo "host_check $* in $CANVAS_HOST_UNIT: status $got, $lines not tried"
         failed=1
     fi
