@@ -1,6 +1,8 @@
 #pragma once
 
-// What only the stand-in of the CAM data API has: the jobs themselves, and faults for tests.
+// What only the stand-in of the CAM data API has: the jobs themselves, and faults for tests. For
+// programs that know nothing of it, CANVAS_HOST_JOBS in the environment names the job file that is
+// loaded at the start.
 
 #include <cam_api.h>
 

@@ -14,9 +14,23 @@ struct State {
     std::string current;
 };
 
+State stateOf(const QString& jobFile)
+{
+    State loaded;
+    loaded.jobs = readJobFile(jobFile);
+    loaded.current = loaded.jobs.empty() ? std::string() : loaded.jobs.front().name;
+    return loaded;
+}
+
+State initialState()
+{
+    const QString file = qEnvironmentVariable("CANVAS_HOST_JOBS");
+    return file.isEmpty() ? State() : stateOf(file);
+}
+
 State& state()
 {
-    static State theState;
+    static State theState = initialState();
     return theState;
 }
 
@@ -30,8 +44,7 @@ std::vector<Job>::iterator position(const std::string& name)
 
 void loadJobs(const QString& file)
 {
-    state().jobs = readJobFile(file);
-    state().current = state().jobs.empty() ? std::string() : state().jobs.front().name;
+    state() = stateOf(file);
 }
 
 const std::vector<Job>& jobs()

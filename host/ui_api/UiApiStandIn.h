@@ -1,6 +1,8 @@
 #pragma once
 
 // What only the stand-in of the UI utility library has: the host's settings, and faults for tests.
+// For programs that know nothing of it, CANVAS_HOST_UNIT in the environment names the unit at the
+// start (mil, inch, um, mm); mil without it.
 
 #include <ui_api.h>
 

@@ -10,9 +10,21 @@ struct Settings {
     bool eqVisible = true;
 };
 
+Settings initialSettings()
+{
+    Settings initial;
+    const QString name = qEnvironmentVariable("CANVAS_HOST_UNIT");
+    for (const LengthUnit& unit : lengthUnits()) {
+        if (name == QLatin1String(unit.name)) {
+            initial.unit = unit.unit;
+        }
+    }
+    return initial;
+}
+
 Settings& settings()
 {
-    static Settings theSettings;
+    static Settings theSettings = initialSettings();
     return theSettings;
 }
 

@@ -1,6 +1,7 @@
 #!/bin/sh
 # Installs the packages, then builds the module a second time against what was installed, as an
-# integrator would, and a sibling of it. Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
+# integrator would, has the host checked, and builds a sibling.
+# Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
 set -eu
 source=$1 build=$2 work=$3 type=$4 sanitize=$5
 
@@ -11,10 +12,11 @@ package=$(find "$work/prefix" -name CanvasHostConfig.cmake)
 [ -n "$package" ] || { echo "no CanvasHostConfig.cmake was installed"; exit 1; }
 
 cmake -S "$source" -B "$work/module" -G Ninja -DCMAKE_BUILD_TYPE="$type" \
-    -DCTS_SANITIZE="$sanitize" -DCanvasHost_DIR="$(dirname "$package")" >"$work/configure.log" ||
-    { cat "$work/configure.log"; exit 1; }
-cmake --build "$work/module" --target Canvas_Tool_Strip >"$work/build.log" ||
+    -DCTS_SANITIZE="$sanitize" -DCanvasHost_DIR="$(dirname "$package")" -DCTS_CHECK_HOST=ON \
+    >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
+cmake --build "$work/module" --target Canvas_Tool_Strip host_check >"$work/build.log" ||
     { cat "$work/build.log"; exit 1; }
+"$work/module/bin/host_check" --unit inch 2>"$work/check.log" || { cat "$work/check.log"; exit 1; }
 
 # The headers came from the installed package, not from the tree.
 for header in cam_api.h ui_api.h common_widgets.h QTpluginsManger4CAM.h PluginMetaData.h; do

@@ -245,20 +245,6 @@ private Q_SLOTS:
         QCOMPARE(distance.text(), nothing);
         CanvasHost::setMeasureStarted({});
     }
-
-    void closingHides()
-    {
-        QWidget owner;
-        QPointer<QWidget> windows[] = {
-            new Widget_Attributes(&owner), new Widget_SymbolSelection("job", &owner, &owner),
-            new Widget_listpopup(17, "job", &owner), new Grc_Tbe_measurepopup(nullptr, &owner)};
-        for (const auto& window : windows) {
-            window->show();
-            window->close();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QVERIFY(window && !window->isVisible());
-        }
-    }
 };
 
 CTS_MAIN(TestCommonWidgets)

@@ -41,12 +41,6 @@ class TestPluginManager : public QObject {
 private Q_SLOTS:
     void cleanup() { CanvasHost::setObserver({}); }
 
-    void oneManager()
-    {
-        QVERIFY(QTpluginsManger4CAM::instance());
-        QCOMPARE(QTpluginsManger4CAM::instance(), QTpluginsManger4CAM::instance());
-    }
-
     void envelope()
     {
         const PluginMetaData message("A.dll", "B.dll");

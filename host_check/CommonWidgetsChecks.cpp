@@ -1,0 +1,215 @@
+#include "BoxCounter.h"
+#include "Checks.h"
+#include "Report.h"
+#include "UserActions.h"
+
+#include <common_widgets.h>
+
+#include <QAbstractButton>
+#include <QMetaMethod>
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+using Attributes = std::vector<std::pair<std::string, std::string>>;
+
+const Attributes picked = {{"cts_first", "1"}, {"cts_second", "two"}};
+
+/// The module connects these by their text: another spelling of a type would fail at run time.
+struct Signature {
+    const QMetaObject* widget;
+    QMetaMethod::MethodType kind;
+    const char* text;
+};
+
+const Signature signatures[] = {
+    {&Widget_Attributes::staticMetaObject, QMetaMethod::Signal, "change_button_color()"},
+    {&Widget_Attributes::staticMetaObject, QMetaMethod::Signal, "remove_button_color()"},
+    {&Widget_Attributes::staticMetaObject, QMetaMethod::Signal, "send_attribute_signal()"},
+    {&Widget_Attributes::staticMetaObject, QMetaMethod::Signal,
+     "send_attribute_list(std::vector<std::pair<std::string,std::string>>)"},
+    {&Widget_Attributes::staticMetaObject, QMetaMethod::Slot,
+     "get_attributeinfo_list(std::vector<std::pair<std::string,std::string>>)"},
+    {&Widget_SymbolSelection::staticMetaObject, QMetaMethod::Signal, "sendText(QString)"},
+    {&Widget_SymbolSelection::staticMetaObject, QMetaMethod::Slot, "change_unit()"},
+    {&Widget_listpopup::staticMetaObject, QMetaMethod::Signal, "on_send_Font(QString)"},
+    {&Widget_listpopup::staticMetaObject, QMetaMethod::Signal, "on_send_changeText(QString)"},
+    {&Grc_Tbe_measurepopup::staticMetaObject, QMetaMethod::Slot, "change_language()"},
+    {&Grc_Tbe_measurepopup::staticMetaObject, QMetaMethod::Slot, "onMeasureButtonClicked()"},
+};
+
+void checkSignatures(Report& report)
+{
+    for (const Signature& row : signatures) {
+        const int index = row.widget->indexOfMethod(QMetaObject::normalizedSignature(row.text));
+        report.expect(QStringLiteral("%1 has the %2 %3")
+                          .arg(QLatin1String(row.widget->className()),
+                               row.kind == QMetaMethod::Signal ? QStringLiteral("signal")
+                                                               : QStringLiteral("slot"),
+                               QLatin1String(row.text)),
+                      true, index >= 0 && row.widget->method(index).methodType() == row.kind);
+    }
+}
+
+struct Window {
+    const char* name;
+    std::function<QWidget*(const Situation&, QWidget* parent)> create;
+};
+
+const Window windows[] = {
+    {"Widget_Attributes",
+     [](const Situation&, QWidget* parent) { return new Widget_Attributes(parent); }},
+    {"Widget_SymbolSelection",
+     [](const Situation& situation, QWidget* parent) {
+         return new Widget_SymbolSelection(situation.job.toStdString(), situation.context, parent);
+     }},
+    {"Widget_listpopup of fonts",
+     [](const Situation& situation, QWidget* parent) {
+         return new Widget_listpopup(17, situation.job.toStdString(), parent);
+     }},
+    {"Widget_listpopup of special texts",
+     [](const Situation& situation, QWidget* parent) {
+         return new Widget_listpopup(16, situation.job.toStdString(), situation.step.toStdString(),
+                                     parent);
+     }},
+    {"Grc_Tbe_measurepopup",
+     [](const Situation& situation, QWidget* parent) {
+         return new Grc_Tbe_measurepopup(situation.strip, parent);
+     }},
+};
+
+/// Each is a window of its own that goes with its parent, and that closing hides.
+void checkWindow(Report& report, const Situation& situation, const Window& row)
+{
+    const QString name = QLatin1String(row.name);
+    auto parent = std::make_unique<QWidget>();
+    const QPointer<QWidget> window = row.create(situation, parent.get());
+    report.expect(name + QStringLiteral(": its parent is the given one"), true,
+                  window->parentWidget() == parent.get());
+    report.expect(name + QStringLiteral(": is a window"), true, window->isWindow());
+    window->show();
+    report.expect(name + QStringLiteral(": is visible when shown"), true, window->isVisible());
+    UserActions::close(*window);
+    if (report.expect(name + QStringLiteral(": is there after closing"), true, !window.isNull())) {
+        report.expect(name + QStringLiteral(": is visible after closing"), false,
+                      window->isVisible());
+        window->show();
+        report.expect(name + QStringLiteral(": is visible when shown again"), true,
+                      window->isVisible());
+    }
+    parent.reset();
+    report.expect(name + QStringLiteral(": is there after its parent"), false, !window.isNull());
+}
+
+QStringList texts(const Attributes& attributes)
+{
+    QStringList all;
+    for (const auto& [name, value] : attributes) {
+        all.append(QString::fromStdString(name + '=' + value));
+    }
+    all.sort();
+    return all;
+}
+
+QStringList dataOf(Widget_Attributes& window)
+{
+    std::map<std::string, std::string> data{{"left over", ""}};
+    window.getAttributeData(data);
+    return texts(Attributes(data.begin(), data.end()));
+}
+
+void checkAttributes(Report& report)
+{
+    QWidget parent;
+    Widget_Attributes window(&parent);
+    int coloured = 0;
+    int plain = 0;
+    QObject::connect(&window, &Widget_Attributes::change_button_color, &parent,
+                     [&] { ++coloured; });
+    QObject::connect(&window, &Widget_Attributes::remove_button_color, &parent, [&] { ++plain; });
+    const QString data = QStringLiteral("Widget_Attributes::getAttributeData() ");
+    report.expect(data + QStringLiteral("keeps what stood in the map"), false,
+                  dataOf(window).contains(QStringLiteral("left over=")));
+    window.get_attributeinfo_list({});
+    plain = 0;
+
+    window.get_attributeinfo_list(picked);
+    report.expect(data + QStringLiteral("after two were picked"), texts(picked), dataOf(window));
+    window.get_attributeinfo_list({picked.back()});
+    report.expect(data + QStringLiteral("after one was picked"), texts({picked.back()}),
+                  dataOf(window));
+    report.expect(QStringLiteral("Widget_Attributes::change_button_color() of a filled table"), 1,
+                  coloured);
+    report.expect(QStringLiteral("Widget_Attributes::remove_button_color() of a filled table"), 0,
+                  plain);
+    window.get_attributeinfo_list({});
+    report.expect(data + QStringLiteral("after none was picked"), QStringList(), dataOf(window));
+    report.expect(QStringLiteral("Widget_Attributes::change_button_color() of an empty table"), 1,
+                  coloured);
+    report.expect(QStringLiteral("Widget_Attributes::remove_button_color() of an empty table"), 1,
+                  plain);
+}
+
+/// What the buttons are for is not known: each is tried on a filled table.
+void checkAttributeButtons(Report& report)
+{
+    QWidget parent;
+    Widget_Attributes window(&parent);
+    int asked = 0;
+    QVector<QStringList> sent;
+    QObject::connect(&window, &Widget_Attributes::send_attribute_signal, &parent, [&] { ++asked; });
+    QObject::connect(&window, &Widget_Attributes::send_attribute_list, &parent,
+                     [&](const Attributes& attributes) { sent.append(texts(attributes)); });
+    BoxCounter boxes;
+    for (auto* const button : window.findChildren<QAbstractButton*>()) {
+        window.get_attributeinfo_list(picked);
+        window.show();
+        button->click();
+    }
+    const QString noButton = QStringLiteral("no button of the window does it");
+    if (asked == 0) {
+        report.untried(QStringLiteral("Widget_Attributes::send_attribute_signal()"), noButton);
+    } else {
+        report.expect(QStringLiteral("Widget_Attributes::send_attribute_signal()"), 1, asked);
+    }
+    if (sent.isEmpty()) {
+        report.untried(QStringLiteral("Widget_Attributes::send_attribute_list()"), noButton);
+        return;
+    }
+    for (const QStringList& list : sent) {
+        report.expect(QStringLiteral("Widget_Attributes::send_attribute_list()"), texts(picked),
+                      list);
+    }
+}
+
+void checkMeasurePopup(Report& report, const Situation& situation)
+{
+    QWidget parent;
+    Grc_Tbe_measurepopup popup(situation.strip, &parent);
+    popup.show();
+    for (const char* const slot : {"change_language", "onMeasureButtonClicked"}) {
+        report.expect(QStringLiteral("Grc_Tbe_measurepopup::%1() by its name").arg(slot), true,
+                      QMetaObject::invokeMethod(&popup, slot));
+    }
+    report.expect(QStringLiteral("Grc_Tbe_measurepopup: is visible after its slots"), true,
+                  popup.isVisible());
+}
+
+}  // namespace
+
+void checkCommonWidgets(Report& report, const Situation& situation)
+{
+    checkSignatures(report);
+    for (const Window& row : windows) {
+        report.run(QLatin1String(row.name), [&] { checkWindow(report, situation, row); });
+    }
+    report.run(QStringLiteral("Widget_Attributes: picked attributes"),
+               [&] { checkAttributes(report); });
+    report.run(QStringLiteral("Widget_Attributes: buttons"),
+               [&] { checkAttributeButtons(report); });
+    report.run(QStringLiteral("Grc_Tbe_measurepopup: slots"),
+               [&] { checkMeasurePopup(report, situation); });
+}

@@ -1,0 +1,203 @@
+#include "Checks.h"
+#include "RandomNumbers.h"
+#include "Report.h"
+#include "UserActions.h"
+
+#include <ui_api.h>
+
+#include <QIntValidator>
+#include <QLocale>
+
+using ZENTRA::UIAPI::ZTERegExp;
+using ZENTRA::UIAPI::ZTLineEdit;
+
+namespace {
+
+// The module knows the patterns by their numbers.
+enum Pattern {
+    UnsignedDecimal,
+    SignedLength,
+    UnsignedInteger,
+    SignedDecimal,
+    SignedInteger,
+    SymbolName,
+    FreeText,
+};
+
+/// A line edit, and how often it has said that editing has finished.
+struct Field {
+    ZTLineEdit edit;
+    int finished = 0;
+
+    Field(Pattern pattern, QWidget* context) : edit(static_cast<ZTERegExp>(pattern), context)
+    {
+        QObject::connect(&edit, &QLineEdit::editingFinished, &edit, [this] { ++finished; });
+    }
+};
+
+struct Typing {
+    Pattern pattern;
+    const char* typed;
+    const char* shown;
+};
+
+constexpr Typing typings[] = {
+    {UnsignedDecimal, "-2.5", "2.5"}, {UnsignedDecimal, "1,5", "15"},
+    {SignedLength, "-1.5x", "-1.5"},  {SignedLength, "1e5", "15"},
+    {UnsignedInteger, "-2.5", "25"},  {SignedDecimal, "-a12.3.4", "-12.34"},
+    {SignedDecimal, "1e5", "15"},     {SignedDecimal, "1,5", "15"},
+    {SignedInteger, "-2.5", "-25"},   {SymbolName, "r10 _4,5", "r10_45"},
+    {SymbolName, "R1.5+-", "R1.5+-"}, {FreeText, "a B-1,5", "a B-1,5"},
+};
+
+struct InBothUnits {
+    Pattern pattern;
+    const char* mil;
+    const char* metric;
+};
+
+constexpr InBothUnits unitTexts[] = {
+    {SignedLength, "10", "254"},
+    {SignedDecimal, "-0.5", "-12.7"},
+    {SignedDecimal, "10", "254"},
+    {SignedDecimal, "50000", "1270000"},
+    {SignedLength, "50000", "1270000"},
+    {SignedDecimal, "0.00001", "0.000254"},
+    {SignedDecimal, "0", "0"},
+    {SignedDecimal, "", ""},
+    {SignedDecimal, "-", "-"},
+    {SignedLength, ".", "."},
+    {FreeText, "10", "10"},
+    {FreeText, "r10", "r10"},
+};
+
+QString named(Pattern pattern, const char* what)
+{
+    return QStringLiteral("ZTLineEdit of pattern %1: %2").arg(pattern).arg(QLatin1String(what));
+}
+
+void checkTyping(Report& report, QWidget* context)
+{
+    // A point is the decimal sign everywhere, also where the user writes a comma.
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    for (const Typing& row : typings) {
+        Field field(row.pattern, context);
+        UserActions::type(field.edit, QLatin1String(row.typed));
+        report.expect(
+            named(row.pattern, "what is shown of the typed \"%1\"").arg(QLatin1String(row.typed)),
+            QLatin1String(row.shown), field.edit.text());
+    }
+    QLocale::setDefault(before);
+}
+
+void checkEditing(Report& report, QWidget* context)
+{
+    for (const Pattern pattern : {SignedLength, SignedDecimal}) {
+        Field field(pattern, context);
+        report.expect(named(pattern, "its parent is the context"), true,
+                      field.edit.parentWidget() == context);
+        for (const char* const text : {"", "-", ".", "1.5"}) {
+            field.edit.setText(QLatin1String(text));
+            field.finished = 0;
+            UserActions::pressKey(field.edit, Qt::Key_Return);
+            report.expect(
+                named(pattern, "editingFinished after \"%1\" and Return").arg(QLatin1String(text)),
+                1, field.finished);
+        }
+    }
+    Field field(SignedDecimal, nullptr);
+    QIntValidator integers;
+    field.edit.setValidator(&integers);
+    UserActions::type(field.edit, QStringLiteral("1.5"));
+    report.expect(named(SignedDecimal, "what a later validator of integers leaves of \"1.5\""),
+                  QStringLiteral("15"), field.edit.text());
+}
+
+/// Changes the unit twice, of which the second is none, and looks for what must not happen.
+void expectChanged(Report& report, Field& field, const QString& what, bool isMetric,
+                   const QString& expected)
+{
+    const bool wasAcceptable = field.edit.hasAcceptableInput();
+    field.finished = 0;
+    for (int i = 0; i < 2; ++i) {
+        field.edit.changeunit(isMetric);
+        report.expect(QStringLiteral("%1: changeunit(%2) %3")
+                          .arg(what, isMetric ? QStringLiteral("metric") : QStringLiteral("mil"),
+                               i == 0 ? QStringLiteral("once") : QStringLiteral("twice")),
+                      expected, field.edit.text());
+    }
+    report.expect(what + QStringLiteral(": changeunit() emits editingFinished"), 0, field.finished);
+    report.expect(what + QStringLiteral(": acceptable after changeunit()"), wasAcceptable,
+                  field.edit.hasAcceptableInput());
+}
+
+void checkUnitTexts(Report& report, const Situation& situation)
+{
+    for (const InBothUnits& row : unitTexts) {
+        const QString own = QLatin1String(situation.isMetric ? row.metric : row.mil);
+        const QString other = QLatin1String(situation.isMetric ? row.mil : row.metric);
+        const QString what = named(row.pattern, "\"%1\"").arg(own);
+        Field field(row.pattern, situation.context);
+        field.edit.setText(own);
+        expectChanged(report, field, what + QStringLiteral(" in its own unit"), situation.isMetric,
+                      own);
+        for (int round = 0; round < 3; ++round) {
+            expectChanged(report, field, what, !situation.isMetric, other);
+            expectChanged(report, field, what + QStringLiteral(" and back"), situation.isMetric,
+                          own);
+        }
+    }
+}
+
+void checkTextsComeBack(Report& report, const Situation& situation)
+{
+    RandomNumbers numbers;
+    Field field(SignedLength, situation.context);
+    bool isSame = true;
+    for (int i = 0; i < 2000 && isSame; ++i) {
+        const QString text = numbers.next(9);
+        field.edit.setText(text);
+        field.edit.changeunit(!situation.isMetric);
+        const QString what = named(SignedLength, "\"%1\" in the other unit").arg(text);
+        isSame = report.expect(what + QStringLiteral(" is acceptable"), true,
+                               field.edit.hasAcceptableInput());
+        field.edit.changeunit(situation.isMetric);
+        isSame &= report.expect(what + QStringLiteral(" and back"), text, field.edit.text());
+    }
+    const QString zeros = QStringLiteral("10.500");
+    field.edit.setText(zeros);
+    field.edit.changeunit(!situation.isMetric);
+    field.edit.changeunit(situation.isMetric);
+    report.expect(named(SignedLength, "\"10.500\" there and back"), zeros, field.edit.text());
+}
+
+void checkEditedText(Report& report, const Situation& situation)
+{
+    Field field(SignedLength, situation.context);
+    field.edit.changeunit(false);
+    field.edit.setText(QStringLiteral("10.50"));
+    field.edit.changeunit(true);
+    field.edit.setText(QStringLiteral("508"));
+    field.edit.changeunit(false);
+    report.expect(named(SignedLength, "\"508\", typed in place of a converted text, in mil"),
+                  QStringLiteral("20"), field.edit.text());
+    field.edit.changeunit(true);
+    report.expect(named(SignedLength, "\"508\", typed in place of a converted text, and back"),
+                  QStringLiteral("508"), field.edit.text());
+}
+
+}  // namespace
+
+void checkLineEdit(Report& report, const Situation& situation)
+{
+    report.run(QStringLiteral("ZTLineEdit: typing"),
+               [&] { checkTyping(report, situation.context); });
+    report.run(QStringLiteral("ZTLineEdit: editing"),
+               [&] { checkEditing(report, situation.context); });
+    report.run(QStringLiteral("ZTLineEdit: changeunit()"), [&] {
+        checkUnitTexts(report, situation);
+        checkTextsComeBack(report, situation);
+        checkEditedText(report, situation);
+    });
+}

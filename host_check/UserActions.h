@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QStringList>
+
+class QAbstractItemView;
+class QModelIndex;
+class QWidget;
+
+/// What a user does to a widget whose insides are not known.
+namespace UserActions {
+
+void pressKey(QWidget& widget, int key, const QString& text = QString());
+void type(QWidget& widget, const QString& text);
+
+/// The first list of `window` that has entries; null if there is none.
+QAbstractItemView* listOf(const QWidget& window);
+/// The entries of the list of `window`; empty if it has none.
+QStringList namesIn(const QWidget& window);
+
+/// Chooses the entry at `index` of `list` by Enter, by a double click, or by a button of `window`,
+/// until `chosen` is not empty.
+void choose(QWidget& window, QAbstractItemView& list, const QModelIndex& index,
+            const QStringList& chosen);
+
+/// Closes `window`, and lets what it put off for later happen.
+void close(QWidget& window);
+
+}  // namespace UserActions

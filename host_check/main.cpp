@@ -1,0 +1,82 @@
+// Holds a host's four libraries against the interface that host/ documents.
+
+#include "Checks.h"
+#include "Report.h"
+#include "plugin/PluginEntry.h"
+#include "toolbar/Canvas_Tool_Strip.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTextStream>
+#include <QWidget>
+
+namespace {
+
+constexpr int different = 1;
+constexpr int wrongUsage = 2;
+
+/// False, with the usage on the error channel, where the options are not understood.
+bool readOptions(const QApplication& application, Situation& situation, bool& isVerbose)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Holds the host's libraries against the interface of the tool strip. Each "
+        "difference is one line; the status is 1 if there is one. To be run once for "
+        "each unit."));
+    const QCommandLineOption unit(
+        QStringLiteral("unit"), QStringLiteral("The unit that the host is set to: metric or inch."),
+        QStringLiteral("UNIT"));
+    const QCommandLineOption job(QStringLiteral("job"),
+                                 QStringLiteral("The job that is open in the host."),
+                                 QStringLiteral("NAME"));
+    const QCommandLineOption step(QStringLiteral("step"),
+                                  QStringLiteral("A step of that job, for its special texts."),
+                                  QStringLiteral("NAME"));
+    const QCommandLineOption verbose(
+        QStringLiteral("verbose"),
+        QStringLiteral("Print each step before it is tried, to see where a host crashes."));
+    parser.addOptions({unit, job, step, verbose});
+    parser.addHelpOption();
+    parser.process(application);
+
+    const QString value = parser.value(unit);
+    situation.isMetric = value == QLatin1String("metric");
+    if ((!situation.isMetric && value != QLatin1String("inch")) ||
+        !parser.positionalArguments().isEmpty()) {
+        QTextStream(stderr)
+            << "usage: host_check --unit metric|inch [--job NAME] [--step NAME] [--verbose]\n";
+        return false;
+    }
+    situation.job = parser.value(job);
+    situation.step = parser.value(step);
+    isVerbose = parser.isSet(verbose);
+    return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    Situation situation;
+    bool isVerbose = false;
+    if (!readOptions(application, situation, isVerbose)) {
+        return wrongUsage;
+    }
+    Report report(isVerbose);
+    QWidget window;
+    situation.context = &window;
+    report.run(QStringLiteral("GetPluginInstance()"), [&] {
+        situation.strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(&window));
+        window.setLayout(situation.strip);
+    });
+    checkPluginManager(report);
+    checkCamApi(report, situation);
+    checkUiApi(report, situation);
+    checkLineEdit(report, situation);
+    checkCommonWidgets(report, situation);
+    checkChoosers(report, situation);
+    report.finish();
+    return report.isClean() ? 0 : different;
+}
