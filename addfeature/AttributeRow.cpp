@@ -66,7 +66,7 @@ void AttributeRow::hideAll()
 void AttributeRow::setShown(QWidget* control, bool shown)
 {
     control->setVisible(shown);
-    setVisible(!m_pAttributesCB->isHidden() || !m_pValuesPB->isHidden() || !m_pFillPB->isHidden());
+    setVisible(!m_pAttributesCB->isHidden() || !m_pValuesPB->isHidden());
 }
 
 void AttributeRow::setFillEnabled(bool enabled)
