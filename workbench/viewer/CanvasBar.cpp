@@ -3,6 +3,8 @@
 #include "viewer/BoardFiles.h"
 #include "viewer/BoardView.h"
 
+#include <FileError.h>
+
 #include <QAction>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -107,12 +109,16 @@ void CanvasBar::run(File what)
         return;
     }
     Document& document = m_canvas.document();
-    const QString error = what == File::Open   ? BoardFiles::open(document, file)
-                          : what == File::Save ? BoardFiles::save(document, file)
-                                               : BoardFiles::exportTo(document, file);
-    if (error.isEmpty()) {
+    try {
+        if (what == File::Open) {
+            BoardFiles::open(document, file);
+        } else if (what == File::Save) {
+            BoardFiles::save(document, file);
+        } else {
+            BoardFiles::exportTo(document, file);
+        }
         m_canvas.say(what == File::Open ? tr("Opened %1.").arg(file) : tr("Wrote %1.").arg(file));
-    } else {
-        QMessageBox::warning(this, tr("Board"), error);
+    } catch (const CanvasHost::FileError& error) {
+        QMessageBox::warning(this, tr("Board"), error.text());
     }
 }

@@ -25,6 +25,18 @@ QLabel* createLabel(const char* name, QWidget* parent)
     return label;
 }
 
+/// The error that `work` ends with.
+template <class Work>
+CanvasHost::FileError errorOf(Work work)
+{
+    try {
+        work();
+    } catch (const CanvasHost::FileError& error) {
+        return error;
+    }
+    return {};
+}
+
 }  // namespace
 
 ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
@@ -106,16 +118,17 @@ void ViewerPane::connectCanvas()
     CanvasHost::setMeasureStarted([this] { startMeasuring(); });
 }
 
-QString ViewerPane::openBoard(const QString& file)
+CanvasHost::FileError ViewerPane::openBoard(const QString& file)
 {
-    QString error = BoardFiles::open(m_canvas.document(), file);
-    m_view->fit();
-    return error;
+    return errorOf([&] {
+        BoardFiles::open(m_canvas.document(), file);
+        m_view->fit();
+    });
 }
 
-QString ViewerPane::exportBoard(const QString& file)
+CanvasHost::FileError ViewerPane::exportBoard(const QString& file)
 {
-    return BoardFiles::exportTo(m_canvas.document(), file);
+    return errorOf([&] { BoardFiles::exportTo(m_canvas.document(), file); });
 }
 
 void ViewerPane::openSecondView()

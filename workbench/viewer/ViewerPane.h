@@ -4,6 +4,7 @@
 #include "viewer/CanvasController.h"
 #include "viewer/ToolSet.h"
 
+#include <FileError.h>
 #include <PluginMetaData.h>
 
 #include <QPointer>
@@ -29,9 +30,10 @@ public:
 
     CanvasController& canvas() { return m_canvas; }
 
-    /// For those who control the canvas from outside: what went wrong, empty when nothing did.
-    Q_INVOKABLE QString openBoard(const QString& file);
-    Q_INVOKABLE QString exportBoard(const QString& file);
+    /// For those who control the canvas from outside, by name: no exception passes such a call, so
+    /// that the error is returned; its reason is empty when there was none.
+    Q_INVOKABLE CanvasHost::FileError openBoard(const QString& file);
+    Q_INVOKABLE CanvasHost::FileError exportBoard(const QString& file);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -10,6 +10,7 @@
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
+#include <FileError.h>
 #include <PluginManagerStandIn.h>
 #include <ui_api.h>
 
@@ -55,17 +56,14 @@ WorkbenchWindow::~WorkbenchWindow()
     CanvasHost::removeInstance(this);
 }
 
-bool WorkbenchWindow::start(QString* error)
+void WorkbenchWindow::start()
 {
     for (ModulePlace* const place : {m_viewer.get(), m_jobTree.get(), m_strip.get()}) {
-        if (!place->fill(m_options.moduleDirectory, error)) {
-            return false;
-        }
+        place->fill(m_options.moduleDirectory);
     }
     if (const CanvasHost::Job* const job = CanvasHost::currentJob()) {
         m_host->openStep(QString::fromStdString(job->name));
     }
-    return true;
 }
 
 void WorkbenchWindow::receive(void* window, PluginMetaData message)
@@ -119,12 +117,12 @@ void WorkbenchWindow::showEq(bool visible)
 {
     // The strip asks once, while it is made: a host makes a new one.
     CanvasHost::setEQVisible(visible);
-    QString error;
-    if (!m_strip->fill(m_options.moduleDirectory, &error)) {
-        QMessageBox::warning(this, tr("Modules"), error);
-        return;
+    try {
+        m_strip->fill(m_options.moduleDirectory);
+        m_host->announceJob();
+    } catch (const CanvasHost::FileError& error) {
+        QMessageBox::warning(this, tr("Modules"), error.text());
     }
-    m_host->announceJob();
 }
 
 void WorkbenchWindow::savePicture()
@@ -139,18 +137,16 @@ void WorkbenchWindow::savePicture()
 
 void WorkbenchWindow::openDimensions()
 {
-    if (!m_dimensions) {
-        QString error;
-        void* const instance = CanvasHost::loadModule(QStringLiteral("Canvas_Dimensions.dll"),
-                                                      m_options.moduleDirectory, this, &error);
-        m_dimensions = qobject_cast<QWidget*>(static_cast<QObject*>(instance));
+    try {
         if (!m_dimensions) {
-            QMessageBox::warning(this, tr("Modules"), error);
-            return;
+            m_dimensions = static_cast<QWidget*>(static_cast<QObject*>(CanvasHost::loadModule(
+                QStringLiteral("Canvas_Dimensions.dll"), m_options.moduleDirectory, this)));
         }
+        m_dimensions->show();
+        m_dimensions->raise();
+    } catch (const CanvasHost::FileError& error) {
+        QMessageBox::warning(this, tr("Modules"), error.text());
     }
-    m_dimensions->show();
-    m_dimensions->raise();
 }
 
 void WorkbenchWindow::compose()

@@ -32,8 +32,8 @@ public:
     WorkbenchWindow(const Options& options, MessageLog* log);
     ~WorkbenchWindow() override;
 
-    /// Loads the modules and opens the first job. On failure `error` names file and reason.
-    bool start(QString* error);
+    /// Loads the modules and opens the first job. Throws a FileError.
+    void start();
 
     HostState* host() const { return m_host; }
 

@@ -55,12 +55,6 @@ void complain(const QString& text)
     fprintf(stderr, "%s\n", qUtf8Printable(text));
 }
 
-/// Words of others, who have put the place in front already.
-[[noreturn]] void refuse(const QString& text)
-{
-    throw FileError{{}, 0, text};
-}
-
 /// What the command line names, read and opened.
 struct Inputs {
     Options options;
@@ -108,13 +102,14 @@ void askCanvas(QWidget* window, const char* method, const QString& file)
         return;
     }
     auto* const canvas = window->findChild<QWidget*>(QStringLiteral("m_pViewer"));
-    QString error;
-    if (!canvas || !QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(QString, error),
-                                              Q_ARG(QString, file))) {
+    FileError error;
+    if (!canvas ||
+        !QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(CanvasHost::FileError, error),
+                                   Q_ARG(QString, file))) {
         throw FileError{file, 0, QStringLiteral("the canvas knows no %1").arg(method)};
     }
-    if (!error.isEmpty()) {
-        refuse(error);
+    if (!error.reason.isEmpty()) {
+        throw error;
     }
 }
 
@@ -151,10 +146,7 @@ int run(int argc, char* argv[])
     QObject::connect(&log, &MessageLog::appended, &application,
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
-    QString error;
-    if (!window.start(&error)) {
-        refuse(error);
-    }
+    window.start();
     askCanvas(&window, "openBoard", inputs.options.boardFile);
     SessionRecorder recorder(&window);
     if (!inputs.options.recordFile.isEmpty()) {
