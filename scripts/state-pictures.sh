@@ -15,7 +15,7 @@ picture() {
     local tag=$1 scale=$2
     shift 2
     sed "s#OUT#$out/$tag#" scripts/state-pictures.session >"$out/session"
-    QT_SCALE_FACTOR=$scale QT_LOGGING_RULES='canvastoolstrip*=false' scripts/with-display.sh \
+    QT_SCALE_FACTOR=$scale scripts/with-display.sh \
         build/release/bin/workbench --job workbench/samples/board.json --play "$out/session" \
         --exit "$@" >"$out/log" 2>&1 || {
         cat "$out/log" >&2

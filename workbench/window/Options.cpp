@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -63,6 +64,10 @@ const QCommandLineOption fontSizeOption(QStringLiteral("font-size"),
                                         QStringLiteral("Start with a font of <points> (6 to 48)."),
                                         QStringLiteral("points"));
 
+const QCommandLineOption logOption(QStringLiteral("log"),
+                                   QStringLiteral("Show the debug lines of the modules as well."));
+const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("version")},
+                                       QStringLiteral("Show the version."));
 const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
                                     QStringLiteral("Show this help."));
 
@@ -91,7 +96,8 @@ QString defaultModuleDirectory()
 
 [[noreturn]] void refuse(const QString& reason)
 {
-    throw CanvasHost::FileError{QStringLiteral("workbench"), 0, reason};
+    throw CanvasHost::FileError{QStringLiteral("workbench"), 0,
+                                reason + QStringLiteral("; see --help")};
 }
 
 /// The choice that the option names.
@@ -161,13 +167,19 @@ Options Options::parse(const QStringList& arguments)
         QStringLiteral("A small host application for the Canvas Tool Strip."));
     parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
                        recordOption, boardOption, exportOption, exitOption, unitOption,
-                       languageOption, darkOption, fontSizeOption, helpOption});
+                       languageOption, darkOption, fontSizeOption, logOption, versionOption,
+                       helpOption});
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
-        refuse(parser.errorText());
+        // Qt ends some of its texts with a full stop.
+        refuse(parser.errorText().remove(QRegularExpression(QStringLiteral("\\.$"))));
     }
     if (parser.isSet(helpOption)) {
-        options.help = parser.helpText();
+        options.answer = parser.helpText();
+        return options;
+    }
+    if (parser.isSet(versionOption)) {
+        options.answer = QStringLiteral("workbench " WORKBENCH_VERSION "\n");
         return options;
     }
     if (!parser.positionalArguments().isEmpty()) {
@@ -187,6 +199,7 @@ Options Options::parse(const QStringList& arguments)
     options.boardFile = parser.value(boardOption);
     options.exportFile = parser.value(exportOption);
     options.exit = parser.isSet(exitOption);
+    options.log = parser.isSet(logOption);
     options.isDark = parser.isSet(darkOption);
     options.fontSize = ::fontSize(parser);
     options.language = QLatin1String(
@@ -205,8 +218,8 @@ Options Options::ofProgram(int argc, char* argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     Options options = parse(arguments);
-    if (!options.help.isEmpty()) {
-        fputs(qPrintable(options.help), stdout);
+    if (!options.answer.isEmpty()) {
+        fputs(qPrintable(options.answer), stdout);
         ::exit(EXIT_SUCCESS);
     }
     return options;

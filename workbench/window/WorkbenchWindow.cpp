@@ -15,6 +15,7 @@
 #include <ui_api.h>
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QEvent>
 #include <QFileDialog>
@@ -157,6 +158,14 @@ void WorkbenchWindow::compose()
     m_compose->show();
     m_compose->raise();
     m_compose->activateWindow();
+}
+
+void WorkbenchWindow::closeEvent(QCloseEvent* event)
+{
+    QMainWindow::closeEvent(event);
+    if (event->isAccepted()) {
+        Q_EMIT closed();
+    }
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event)

@@ -37,8 +37,12 @@ public:
 
     HostState* host() const { return m_host; }
 
+Q_SIGNALS:
+    void closed();
+
 protected:
     void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     /// A menu entry and its text, which is read again when the language changes.

@@ -4,6 +4,7 @@
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
+#include "window/Display.h"
 #include "window/Options.h"
 #include "window/WorkbenchWindow.h"
 
@@ -12,6 +13,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QPixmap>
 #include <QStyleFactory>
 #include <QTimer>
@@ -139,11 +141,13 @@ int run(int argc, char* argv[])
 {
     Inputs inputs;
     readInputs(argc, argv, &inputs);
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("workbench"));
+    if (!inputs.options.log) {
+        QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    }
+    const auto application = openApplication(argc, argv, BadInput);
     dress(inputs.options);
     MessageLog log;
-    QObject::connect(&log, &MessageLog::appended, &application,
+    QObject::connect(&log, &MessageLog::appended, application.get(),
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
     window.start();
@@ -153,13 +157,14 @@ int run(int argc, char* argv[])
         recorder.start(inputs.options.recordFile);
     }
     SessionPlayer player(inputs.session, window.host(), &window, &log);
-    QObject::connect(&player, &SessionPlayer::noted, &application, complain);
-    QObject::connect(&player, &SessionPlayer::failed, &application, [](const QString& text) {
+    QObject::connect(&player, &SessionPlayer::noted, application.get(), complain);
+    QObject::connect(&player, &SessionPlayer::failed, application.get(), [](const QString& text) {
         complain(text);
         QCoreApplication::exit(StepFailed);
     });
     QObject::connect(&player, &SessionPlayer::finished, &window,
                      [&] { end(inputs.options, &window); });
+    QObject::connect(&window, &WorkbenchWindow::closed, application.get(), &QCoreApplication::quit);
     window.show();
     whenPainted(&window, [&] { player.start(); });
     return QApplication::exec();
