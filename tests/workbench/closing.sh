@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Closing the main window ends the program, whatever other windows are open; and nothing is on the
-# terminal but errors. Usage: closing.sh WORKBENCH MODULES JOBS
+# Closing the main window ends the program, whatever other windows are open; a session that expects no
+# box is not asked for changes; and nothing is on the terminal but errors. Usage: closing.sh WORKBENCH MODULES JOBS
 set -u
 workbench=$1 modules=$2 jobs=$3
 dir=$(mktemp -d)
@@ -14,6 +14,9 @@ click m_pPadTB
 type m_pSymbolTextLE r10
 key m_pSymbolTextLE Enter
 expect state m_pSecondView visible=true
+click m_pDeleteFeatTB
+canvas click 17500 5400
+expect state m_pWorkbench windowModified=true
 close m_pWorkbench
 END
 # run OPTION...: the program must end by itself.

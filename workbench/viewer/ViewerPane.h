@@ -12,6 +12,8 @@
 
 class BoardView;
 class CanvasBar;
+class EditActions;
+class FileActions;
 class Inspector;
 class PlaceTool;
 class QLabel;
@@ -63,6 +65,8 @@ private:
     QWidget* m_parent;
     CanvasController m_canvas;
     BoardView* m_view;
+    FileActions* m_files;
+    EditActions* m_edits;
     CanvasBar* m_bar;
     Inspector* m_inspector;
     QLabel* m_pActiveToolLB;

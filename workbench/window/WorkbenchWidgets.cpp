@@ -2,22 +2,18 @@
 
 #include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
-#include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>
 #include <ui_api.h>
 
-#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -115,54 +111,10 @@ void WorkbenchWindow::createDocks(MessageLog* log)
     resizeDocks({m_monitorDock}, {260}, Qt::Vertical);
 }
 
-QAction* WorkbenchWindow::addEntry(QMenu* menu, const char* name, const char* text)
-{
-    QAction* const action = named(menu->addAction(QString()), name);
-    m_entries.append({action, text});
-    return action;
-}
-
-void WorkbenchWindow::createMenus()
-{
-    m_fileMenu = named(menuBar()->addMenu(QString()), "m_pFileMenu");
-    connect(addEntry(m_fileMenu, "m_pSaveTraceAct", QT_TR_NOOP("Save &Trace...")),
-            &QAction::triggered, m_monitor, &MessageMonitor::saveTrace);
-    connect(addEntry(m_fileMenu, "m_pSavePictureAct", QT_TR_NOOP("Save &Picture...")),
-            &QAction::triggered, this, &WorkbenchWindow::savePicture);
-    m_fileMenu->addSeparator();
-    QAction* const quit = addEntry(m_fileMenu, "m_pQuitAct", QT_TR_NOOP("&Quit"));
-    quit->setShortcut(QKeySequence::Quit);
-    connect(quit, &QAction::triggered, this, &QWidget::close);
-
-    m_toolsMenu = named(menuBar()->addMenu(QString()), "m_pToolsMenu");
-    bool tool = false;
-    for (const MessageNames::Row& row : MessageNames::accepted()) {
-        if (row.tool != tool) {
-            m_toolsMenu->addSeparator();
-            tool = row.tool;
-        }
-        QAction* const action = m_toolsMenu->addAction(QString());
-        action->setObjectName(QStringLiteral("m_pSend%1Act").arg(row.code));
-        action->setData(row.code);
-        m_sendActions.append(action);
-        connect(action, &QAction::triggered, m_host,
-                [this, code = row.code] { m_host->sendSample(code); });
-    }
-
-    m_viewMenu = named(menuBar()->addMenu(QString()), "m_pViewMenu");
-    for (QDockWidget* const dock : {m_stripDock, m_jobTreeDock, m_monitorDock}) {
-        m_viewMenu->addAction(dock->toggleViewAction());
-    }
-    m_viewMenu->addSeparator();
-    connect(addEntry(m_viewMenu, "m_pDimensionsAct", QT_TR_NOOP("&Dimensions Popup")),
-            &QAction::triggered, this, &WorkbenchWindow::openDimensions);
-}
-
 void WorkbenchWindow::retranslate()
 {
-    setWindowTitle(m_host->job().isEmpty()
-                       ? tr("Workbench")
-                       : tr("%1 / %2 - Workbench").arg(m_host->job(), m_host->step()));
+    showTitle();
+    retranslateMenus();
     m_pHostJobLB->setText(tr("&Job"));
     m_pHostStepLB->setText(tr("&Step"));
     m_pHostUnitLB->setText(tr("&Unit"));
@@ -176,15 +128,4 @@ void WorkbenchWindow::retranslate()
     m_stripDock->setWindowTitle(tr("Edit tools"));
     m_jobTreeDock->setWindowTitle(tr("Jobs"));
     m_monitorDock->setWindowTitle(tr("Messages"));
-    m_fileMenu->setTitle(tr("&File"));
-    m_toolsMenu->setTitle(tr("&Tools"));
-    m_viewMenu->setTitle(tr("&View"));
-    for (const Entry& entry : m_entries) {
-        entry.action->setText(tr(entry.text));
-    }
-    for (QAction* const action : m_sendActions) {
-        const int code = action->data().toInt();
-        action->setText(
-            tr("%1 (%2)").arg(MessageNames::text(ModuleNames::toolStrip, code)).arg(code));
-    }
 }

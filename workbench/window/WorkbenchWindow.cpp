@@ -39,6 +39,7 @@ WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
     connectControls();
     CanvasHost::addInstance(CanvasHost::hostName, this, &WorkbenchWindow::receive, this);
     new WindowPlacer(this);
+    setAcceptDrops(true);
     // At the left, so that the modules' windows find room beside it.
     resize(1200, 860);
     move(screen()->availableGeometry().topLeft() + QPoint(20, 40));
@@ -62,6 +63,8 @@ void WorkbenchWindow::start()
     for (ModulePlace* const place : {m_viewer.get(), m_jobTree.get(), m_strip.get()}) {
         place->fill(m_options.moduleDirectory);
     }
+    addCanvasEntries();
+    retranslateMenus();
     if (const CanvasHost::Job* const job = CanvasHost::currentJob()) {
         m_host->openStep(QString::fromStdString(job->name));
     }
@@ -162,7 +165,7 @@ void WorkbenchWindow::compose()
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
-    QMainWindow::closeEvent(event);
+    event->setAccepted(mayClose());
     if (event->isAccepted()) {
         Q_EMIT closed();
     }

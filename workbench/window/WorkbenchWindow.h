@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 class ComposeDialog;
@@ -37,12 +38,20 @@ public:
 
     HostState* host() const { return m_host; }
 
+    /// Whether a user is there to be asked before changes of a board are lost.
+    void setMayAsk(const std::function<bool()>& mayAsk);
+
 Q_SIGNALS:
     void closed();
 
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private Q_SLOTS:
+    void showTitle();
 
 private:
     /// A menu entry and its text, which is read again when the language changes.
@@ -57,6 +66,8 @@ private:
     void createDocks(MessageLog* log);
     QDockWidget* createDock(const char* name, Qt::DockWidgetArea area, QWidget* content);
     void createMenus();
+    void createSendEntries();
+    void addCanvasEntries();
     QAction* addEntry(QMenu* menu, const char* name, const char* text);
     void connectControls();
 
@@ -66,7 +77,12 @@ private:
     void savePicture();
     void openDimensions();
     void compose();
+    void showAbout();
+    void listRecentFiles();
+    void openBoard(const QString& file);
+    bool mayClose() const;
     void retranslate();
+    void retranslateMenus();
 
     Options m_options;
     Language m_language;
@@ -85,8 +101,12 @@ private:
     QDockWidget* m_jobTreeDock;
     QDockWidget* m_monitorDock;
     QMenu* m_fileMenu;
-    QMenu* m_toolsMenu;
+    QMenu* m_recentMenu = nullptr;
+    QMenu* m_editMenu;
     QMenu* m_viewMenu;
+    QMenu* m_sendMenu;
+    QMenu* m_helpMenu;
+    QPointer<QObject> m_boardFiles;  // the canvas's, see FileActions
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
     ComposeDialog* m_compose = nullptr;  // made when it is first asked for

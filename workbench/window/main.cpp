@@ -165,6 +165,7 @@ int run(int argc, char* argv[])
     QObject::connect(&player, &SessionPlayer::finished, &window,
                      [&] { end(inputs.options, &window); });
     QObject::connect(&window, &WorkbenchWindow::closed, application.get(), &QCoreApplication::quit);
+    window.setMayAsk([&] { return player.isOver() ? !inputs.options.exit : player.expectsBox(); });
     window.show();
     whenPainted(&window, [&] { player.start(); });
     return QApplication::exec();
