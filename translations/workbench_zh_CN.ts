@@ -1425,5 +1425,9 @@ Qt %2</translation>
         <source>Open &amp;Recent</source>
         <translation>最近打开的文件(&amp;R)</translation>
     </message>
+    <message>
+        <source>Restore &amp;Layout</source>
+        <translation>恢复布局(&amp;L)</translation>
+    </message>
 </context>
 </TS>

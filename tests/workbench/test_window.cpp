@@ -6,12 +6,14 @@
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>
+#include <Settings.h>
 
 #include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 
@@ -21,6 +23,7 @@ class TestWindow : public QObject {
     Q_OBJECT
 
 private:
+    QTemporaryDir m_directory;
     std::unique_ptr<MessageLog> m_log;
     std::unique_ptr<WorkbenchWindow> m_window;
 
@@ -51,6 +54,7 @@ private Q_SLOTS:
     void init()
     {
         CanvasHost::loadJobs(JOB_FILE);
+        m_window.reset();
         Options options;
         options.moduleDirectory = MODULE_DIR;
         m_log = std::make_unique<MessageLog>();
@@ -60,6 +64,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
+        CanvasHost::Settings::keepIn({});
         m_window.reset();
         m_log.reset();
     }
@@ -160,6 +165,49 @@ private Q_SLOTS:
         action("m_pQuitAct").trigger();
         QVERIFY(!m_window->isVisible());
         QCOMPARE(closed.count(), 1);
+    }
+
+    void layoutIsRememberedAndRestored()
+    {
+        CanvasHost::Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        init();
+        const QSize first = m_window->size();
+        auto& monitor = findNamed(*m_window, "m_pMonitorDock");
+        QVERIFY(monitor.isVisible());
+        monitor.hide();
+        m_window->resize(first - QSize(20, 30));
+        m_window->move(17, 39);
+        m_window->close();
+        init();
+        QCOMPARE(m_window->size(), first - QSize(20, 30));
+        QCOMPARE(m_window->pos(), QPoint(17, 39));
+        QVERIFY(!findNamed(*m_window, "m_pMonitorDock").isVisible());
+        action("m_pRestoreLayoutAct").trigger();
+        QCOMPARE(m_window->size(), first);
+        QVERIFY(findNamed(*m_window, "m_pMonitorDock").isVisible());
+        QTRY_VERIFY(findNamed(*m_window, "m_pMonitorDock").height() > 100);
+    }
+
+    void aSecondInstanceIsOffset()
+    {
+        CanvasHost::Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        init();
+        Options options;
+        options.moduleDirectory = MODULE_DIR;
+        WorkbenchWindow second(options, m_log.get());
+        second.start();
+        QVERIFY(second.pos().x() > m_window->pos().x());
+        QVERIFY(second.pos().y() > m_window->pos().y());
+        QVERIFY(second.screen()->availableGeometry().contains(second.frameGeometry()));
+    }
+
+    void withoutSettingsNothingIsKept()
+    {
+        const QSize first = m_window->size();
+        m_window->resize(first - QSize(20, 30));
+        m_window->close();
+        init();
+        QCOMPARE(m_window->size(), first);
     }
 
     void documentation()

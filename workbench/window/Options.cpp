@@ -50,6 +50,11 @@ const QCommandLineOption exportOption(
     QStringLiteral("Write the board to <file>, after playing or the first paint: .json, .gbr "
                    "(Gerber), .png or .svg."),
     QStringLiteral("file"));
+const QCommandLineOption settingsOption(
+    QStringLiteral("settings"),
+    QStringLiteral("Keep the settings in <file>. Sessions, pictures and all that ends by itself "
+                   "begin without settings otherwise, and keep none."),
+    QStringLiteral("file"));
 const QCommandLineOption exitOption(QStringLiteral("exit"),
                                     QStringLiteral("Leave after playing, or the first paint."));
 const QCommandLineOption unitOption(QStringLiteral("unit"),
@@ -166,9 +171,9 @@ Options Options::parse(const QStringList& arguments)
     parser.setApplicationDescription(
         QStringLiteral("A small host application for the Canvas Tool Strip."));
     parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
-                       recordOption, boardOption, exportOption, exitOption, unitOption,
-                       languageOption, darkOption, fontSizeOption, logOption, versionOption,
-                       helpOption});
+                       recordOption, boardOption, exportOption, settingsOption, exitOption,
+                       unitOption, languageOption, darkOption, fontSizeOption, logOption,
+                       versionOption, helpOption});
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
         // Qt ends some of its texts with a full stop.
@@ -199,6 +204,7 @@ Options Options::parse(const QStringList& arguments)
     options.boardFile = parser.value(boardOption);
     options.exportFile = parser.value(exportOption);
     options.exit = parser.isSet(exitOption);
+    options.settingsFile = parser.value(settingsOption);
     options.log = parser.isSet(logOption);
     options.isDark = parser.isSet(darkOption);
     options.fontSize = ::fontSize(parser);

@@ -23,6 +23,7 @@ struct Options {
     QString recordFile;      ///< empty: nothing is recorded
     QString boardFile;       ///< empty: the canvas begins with its own
     QString exportFile;      ///< empty: nothing is exported
+    QString settingsFile;    ///< empty: the user's, or none where nobody works by hand
     bool exit = false;       ///< leave after playing, or after the first paint
     bool log = false;        ///< debug lines go to the terminal
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;

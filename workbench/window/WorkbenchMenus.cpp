@@ -69,6 +69,8 @@ void WorkbenchWindow::createMenus()
     m_viewMenu->addSeparator();
     connect(addEntry(m_viewMenu, "m_pDimensionsAct", QT_TR_NOOP("&Dimensions Popup")),
             &QAction::triggered, this, &WorkbenchWindow::openDimensions);
+    connect(addEntry(m_viewMenu, "m_pRestoreLayoutAct", QT_TR_NOOP("Restore &Layout")),
+            &QAction::triggered, this, [this] { m_layout->restoreFirst(); });
 
     createSendEntries();
     connect(addEntry(m_helpMenu, "m_pDocumentationAct", QT_TR_NOOP("&Documentation")),

@@ -44,17 +44,18 @@ void WorkbenchWindow::createControls()
     auto* const bar = named(new QToolBar(this), "m_pHostTB");
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    auto* const box = new QWidget(bar);
-    auto* const layout = new QHBoxLayout(box);
-    layout->setContentsMargins(8, 4, 8, 4);
+    // Each by itself: what a narrow window has no room for goes behind the bar's arrow.
     const auto addCombo = [&](QLabel*& label, const char* labelName, const char* comboName) {
+        auto* const box = new QWidget(bar);
+        auto* const layout = new QHBoxLayout(box);
+        layout->setContentsMargins(8, 4, 6, 4);
         label = named(new QLabel(box), labelName);
         auto* const combo = named(new QComboBox(box), comboName);
         combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         label->setBuddy(combo);
         layout->addWidget(label);
         layout->addWidget(combo);
-        layout->addSpacing(14);
+        bar->addWidget(box);
         return combo;
     };
     m_pHostJobCMB = addCombo(m_pHostJobLB, "m_pHostJobLB", "m_pHostJobCMB");
@@ -76,20 +77,16 @@ void WorkbenchWindow::createControls()
             m_pHostLanguageCMB->setCurrentIndex(m_pHostLanguageCMB->count() - 1);
         }
     }
-    m_pHostEqCB = named(new QCheckBox(box), "m_pHostEqCB");
+    m_pHostEqCB = named(new QCheckBox(bar), "m_pHostEqCB");
     m_pHostEqCB->setChecked(ZENTRA::UIAPI::getEQVisible());
-    layout->addWidget(m_pHostEqCB);
-    layout->addStretch();
-    bar->addWidget(box);
+    bar->addWidget(m_pHostEqCB);
     addToolBar(bar);
 }
 
-QDockWidget* WorkbenchWindow::createDock(const char* name, Qt::DockWidgetArea area,
-                                         QWidget* content)
+QDockWidget* WorkbenchWindow::createDock(const char* name, QWidget* content)
 {
     auto* const dock = named(new QDockWidget(this), name);
     dock->setWidget(content);
-    addDockWidget(area, dock);
     return dock;
 }
 
@@ -99,16 +96,15 @@ void WorkbenchWindow::createDocks(MessageLog* log)
     QWidget* const jobTree = createHolder("m_pJobTreeHolder", 0);
     QWidget* const viewer = createHolder("m_pViewerHolder", 0);
     m_monitor = new MessageMonitor(log, this);
-    m_stripDock = createDock("m_pStripDock", Qt::LeftDockWidgetArea, strip);
-    m_jobTreeDock = createDock("m_pJobTreeDock", Qt::LeftDockWidgetArea, jobTree);
-    m_monitorDock = createDock("m_pMonitorDock", Qt::BottomDockWidgetArea, m_monitor);
+    m_stripDock = createDock("m_pStripDock", strip);
+    m_jobTreeDock = createDock("m_pJobTreeDock", jobTree);
+    m_monitorDock = createDock("m_pMonitorDock", m_monitor);
     setCentralWidget(viewer);
-    setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
+    m_layout = std::make_unique<WindowLayout>(
+        this, WindowLayout::Docks{m_stripDock, m_jobTreeDock, m_monitorDock});
     m_strip = std::make_unique<ModulePlace>(ModuleNames::toolStrip, strip);
     m_jobTree = std::make_unique<ModulePlace>(ModuleNames::jobTree, jobTree);
     m_viewer = std::make_unique<ModulePlace>(ModuleNames::viewer, viewer);
-    resizeDocks({m_stripDock}, {220}, Qt::Horizontal);
-    resizeDocks({m_monitorDock}, {260}, Qt::Vertical);
 }
 
 void WorkbenchWindow::retranslate()

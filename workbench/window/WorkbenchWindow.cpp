@@ -21,7 +21,6 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPixmap>
-#include <QScreen>
 #include <QSignalBlocker>
 
 namespace Accepted = MessageCodes::Accepted;
@@ -40,9 +39,6 @@ WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
     CanvasHost::addInstance(CanvasHost::hostName, this, &WorkbenchWindow::receive, this);
     new WindowPlacer(this);
     setAcceptDrops(true);
-    // At the left, so that the modules' windows find room beside it.
-    resize(1200, 860);
-    move(screen()->availableGeometry().topLeft() + QPoint(20, 40));
 }
 
 WorkbenchWindow::~WorkbenchWindow()
@@ -68,6 +64,7 @@ void WorkbenchWindow::start()
     if (const CanvasHost::Job* const job = CanvasHost::currentJob()) {
         m_host->openStep(QString::fromStdString(job->name));
     }
+    m_layout->restore();
 }
 
 void WorkbenchWindow::receive(void* window, PluginMetaData message)
@@ -167,6 +164,7 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(mayClose());
     if (event->isAccepted()) {
+        m_layout->save();
         Q_EMIT closed();
     }
 }

@@ -3,6 +3,7 @@
 #include "window/Language.h"
 #include "window/ModulePlace.h"
 #include "window/Options.h"
+#include "window/WindowLayout.h"
 
 #include <PluginMetaData.h>
 
@@ -33,7 +34,8 @@ public:
     WorkbenchWindow(const Options& options, MessageLog* log);
     ~WorkbenchWindow() override;
 
-    /// Loads the modules and opens the first job. Throws a FileError.
+    /// Loads the modules, opens the first job, and takes the place on the screen. Throws a
+    /// FileError.
     void start();
 
     HostState* host() const { return m_host; }
@@ -64,7 +66,7 @@ private:
 
     void createControls();
     void createDocks(MessageLog* log);
-    QDockWidget* createDock(const char* name, Qt::DockWidgetArea area, QWidget* content);
+    QDockWidget* createDock(const char* name, QWidget* content);
     void createMenus();
     void createSendEntries();
     void addCanvasEntries();
@@ -111,6 +113,7 @@ private:
     QList<QAction*> m_sendActions;
     ComposeDialog* m_compose = nullptr;  // made when it is first asked for
     QPointer<QWidget> m_dimensions;      // a window of its own, made when it is first asked for
+    std::unique_ptr<WindowLayout> m_layout;
     std::unique_ptr<ModulePlace> m_strip;
     std::unique_ptr<ModulePlace> m_viewer;
     std::unique_ptr<ModulePlace> m_jobTree;

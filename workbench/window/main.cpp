@@ -10,12 +10,15 @@
 
 #include <CamApiStandIn.h>
 #include <FileError.h>
+#include <Settings.h>
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPixmap>
+#include <QStandardPaths>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWindow>
 
@@ -83,6 +86,19 @@ void readInputs(int argc, char* argv[], Inputs* inputs)
     }
 }
 
+/// The file of the settings: the user's where a user is at work, otherwise a new one in `own`.
+QString settingsFile(const Options& options, const QTemporaryDir& own)
+{
+    if (!options.settingsFile.isEmpty()) {
+        return options.settingsFile;
+    }
+    const bool byHand = !options.exit && options.sessionFile.isEmpty() &&
+                        options.recordFile.isEmpty() && options.screenshotFile.isEmpty();
+    return byHand ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                        QStringLiteral("/canvas-tool-strip/workbench.ini")
+                  : own.filePath(QStringLiteral("workbench.ini"));
+}
+
 /// Calls `then` when `window` has been on the screen for a moment.
 void whenPainted(QWidget* window, const std::function<void()>& then)
 {
@@ -145,6 +161,8 @@ int run(int argc, char* argv[])
         QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     }
     const auto application = openApplication(argc, argv, BadInput);
+    const QTemporaryDir ownSettings;
+    CanvasHost::Settings::keepIn(settingsFile(inputs.options, ownSettings));
     dress(inputs.options);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
