@@ -28,7 +28,7 @@ set(CPACK_DEBIAN_MODULE_PACKAGE_DEPENDS "libqt5widgets5 (>= 5.15), libgoogle-glo
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_NAME canvas-tool-strip-workbench)
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS
     "canvas-tool-strip (= ${PROJECT_VERSION}), libqt5widgets5 (>= 5.15), libqt5svg5 (>= 5.15), \
-libpolyclipping22, libzint2.11")
+libpolyclipping22, libzint2.11, qttranslations5-l10n")
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_RECOMMENDS "fonts-wqy-microhei")
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME canvas-tool-strip-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)

@@ -29,13 +29,6 @@
     </message>
 </context>
 <context>
-    <name>BoardFiles</name>
-    <message>
-        <source>the name must end in .json, .gbr, .png or .svg</source>
-        <translation>文件名必须以 .json、.gbr、.png 或 .svg 结尾</translation>
-    </message>
-</context>
-<context>
     <name>CanvasBar</name>
     <message>
         <source>Undo</source>
@@ -92,6 +85,10 @@
     <message>
         <source>&amp;Redo %1</source>
         <translation>重做(&amp;R) %1</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适合窗口</translation>
     </message>
 </context>
 <context>
@@ -363,6 +360,145 @@
     <message>
         <source>Board</source>
         <translation>板</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+</context>
+<context>
+    <name>FileErrors</name>
+    <message>
+        <source>must not be 0</source>
+        <translation>不能为 0</translation>
+    </message>
+    <message>
+        <source>must have %1 points or more, not %2</source>
+        <translation>必须有 %1 个或更多点，而不是 %2 个</translation>
+    </message>
+    <message>
+        <source>must have %1 points, not %2</source>
+        <translation>必须有 %1 个点，而不是 %2 个</translation>
+    </message>
+    <message>
+        <source>must be a pair of numbers</source>
+        <translation>必须是一对数字</translation>
+    </message>
+    <message>
+        <source>a coordinate is ten metres or farther from 0</source>
+        <translation>有坐标距 0 达十米或更远</translation>
+    </message>
+    <message>
+        <source>the board is empty</source>
+        <translation>板为空</translation>
+    </message>
+    <message>
+        <source>must be more than 0</source>
+        <translation>必须大于 0</translation>
+    </message>
+    <message>
+        <source>the name must end in .json, .gbr, .png or .svg</source>
+        <translation>文件名必须以 .json、.gbr、.png 或 .svg 结尾</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written</source>
+        <translation>无法写入图片</translation>
+    </message>
+    <message>
+        <source>is neither a layout nor a widget</source>
+        <translation>既不是布局也不是控件</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>不能为空</translation>
+    </message>
+    <message>
+        <source>belongs to the kind &quot;choice&quot; only</source>
+        <translation>只属于种类“choice”</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>没有该文件</translation>
+    </message>
+    <message>
+        <source>no entry point %1</source>
+        <translation>没有入口点 %1</translation>
+    </message>
+    <message>
+        <source>made no instance</source>
+        <translation>未创建实例</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice in one object</source>
+        <translation>“%1”在同一对象中出现两次</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not belong to %2</source>
+        <translation>“%1”不属于%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>缺少“%1”</translation>
+    </message>
+    <message>
+        <source>must be an array</source>
+        <translation>必须是数组</translation>
+    </message>
+    <message>
+        <source>an entry of %1</source>
+        <translation>%1 的一项</translation>
+    </message>
+    <message>
+        <source>must be a string</source>
+        <translation>必须是字符串</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice</source>
+        <translation>“%1”出现两次</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>必须是 true 或 false</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>必须是数字</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>必须是 %1</translation>
+    </message>
+    <message>
+        <source>must be from %1 to %2</source>
+        <translation>必须在 %1 到 %2 之间</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>必须是整数</translation>
+    </message>
+    <message>
+        <source>is not one of </source>
+        <translation>不是以下之一：</translation>
     </message>
 </context>
 <context>
@@ -999,6 +1135,21 @@
     <message>
         <source>Click where the feature begins; its code cannot carry &quot;%1&quot;.</source>
         <translation>单击图元的起点；其条码无法包含“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Not a directory</source>
+        <translation>不是目录</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>是目录</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>只读文件系统</translation>
     </message>
 </context>
 <context>

@@ -91,7 +91,7 @@ std::shared_ptr<QLibrary> openLibrary(const QString& file, CreateInstance* creat
                                       DeliverMessage* deliver)
 {
     if (!QFileInfo::exists(file)) {
-        throw FileError{file, 0, QStringLiteral("no such file")};
+        throw FileError{file, 0, QCoreApplication::translate("FileErrors", "no such file")};
     }
     auto library = std::make_shared<QLibrary>(file);
     if (!library->load()) {
@@ -102,7 +102,9 @@ std::shared_ptr<QLibrary> openLibrary(const QString& file, CreateInstance* creat
     if (!*create || !*deliver) {
         const auto missing = *create ? "recMsgFromManager" : "GetPluginInstance";
         library->unload();
-        throw FileError{file, 0, QStringLiteral("no entry point %1").arg(QLatin1String(missing))};
+        throw FileError{file, 0,
+                        QCoreApplication::translate("FileErrors", "no entry point %1")
+                            .arg(QLatin1String(missing))};
     }
     return library;
 }
@@ -137,7 +139,7 @@ void* loadModule(const QString& moduleName, const QString& directory, QWidget* p
     void* const instance = create(parent);
     if (!instance) {
         library->unload();
-        throw FileError{file, 0, QStringLiteral("made no instance")};
+        throw FileError{file, 0, QCoreApplication::translate("FileErrors", "made no instance")};
     }
     const auto known = state().libraries.value(moduleName);
     if (known && known->fileName() == library->fileName()) {

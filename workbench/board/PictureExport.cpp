@@ -3,6 +3,7 @@
 #include <Files.h>
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -33,7 +34,8 @@ QRectF areaOf(const Board& board, const QString& file)
 {
     const QRectF area = shownArea(board);
     if (area.isEmpty()) {
-        throw CanvasHost::FileError{file, 0, QStringLiteral("the board is empty")};
+        throw CanvasHost::FileError{
+            file, 0, QCoreApplication::translate("FileErrors", "the board is empty")};
     }
     return area;
 }

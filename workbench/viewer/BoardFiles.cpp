@@ -55,6 +55,6 @@ void BoardFiles::exportTo(const Document& document, const QString& file)
     }
     throw CanvasHost::FileError{
         file, 0,
-        QCoreApplication::translate("BoardFiles",
+        QCoreApplication::translate("FileErrors",
                                     "the name must end in .json, .gbr, .png or .svg")};
 }

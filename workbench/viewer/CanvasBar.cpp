@@ -62,6 +62,7 @@ void CanvasBar::retranslate()
     m_undo->setIconText(tr("Undo"));
     m_redo->setIconText(tr("Redo"));
     m_fit->setText(tr("&Fit"));
+    m_fit->setIconText(tr("Fit"));
     m_zoomIn->setText(tr("Zoom &In"));
     m_zoomOut->setText(tr("Zoom &Out"));
     m_zoomIn->setIconText(tr("+"));

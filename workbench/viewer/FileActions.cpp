@@ -42,6 +42,9 @@ void FileActions::retranslate()
     m_save->setText(tr("&Save"));
     m_saveAs->setText(tr("Save &As..."));
     m_export->setText(tr("&Export..."));
+    m_open->setIconText(tr("Open"));
+    m_save->setIconText(tr("Save"));
+    m_export->setIconText(tr("Export"));
     m_open->setToolTip(tr("Open a board file"));
     m_save->setToolTip(tr("Save the board as a file"));
     m_export->setToolTip(tr("Export the board as Gerber or as a picture"));

@@ -3,6 +3,7 @@
 #include <FileError.h>
 #include <PluginManagerStandIn.h>
 
+#include <QCoreApplication>
 #include <QLayout>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -39,8 +40,9 @@ void ModulePlace::fill(const QString& directory)
         m_holder->layout()->addWidget(m_panel);
     } else {
         clear();
-        throw CanvasHost::FileError{m_moduleName, 0,
-                                    QStringLiteral("is neither a layout nor a widget")};
+        throw CanvasHost::FileError{
+            m_moduleName, 0,
+            QCoreApplication::translate("FileErrors", "is neither a layout nor a widget")};
     }
     m_panel->show();
 }

@@ -5,6 +5,7 @@
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
 #include "window/Display.h"
+#include "window/Look.h"
 #include "window/Options.h"
 #include "window/WorkbenchWindow.h"
 
@@ -13,11 +14,11 @@
 #include <Settings.h>
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWindow>
@@ -27,31 +28,6 @@
 using CanvasHost::FileError;
 
 namespace {
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(0x35, 0x38, 0x3d), QColor(0x2d, 0x30, 0x34));
-    palette.setColor(QPalette::Base, QColor(0x22, 0x24, 0x28));
-    palette.setColor(QPalette::AlternateBase, QColor(0x2a, 0x2d, 0x31));
-    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x7d, 0xd1));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0xa0, 0xa8));
-    return palette;
-}
-
-/// The look that the options ask for, set before any window is made.
-void dress(const Options& options)
-{
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    if (options.isDark) {
-        QApplication::setPalette(darkPalette());
-    }
-    if (options.fontSize > 0) {
-        QFont font = QApplication::font();
-        font.setPointSize(options.fontSize);
-        QApplication::setFont(font);
-    }
-}
 
 enum ExitStatus { Good = 0, StepFailed = 1, BadInput = 2 };
 
@@ -136,7 +112,8 @@ void writeOutputs(const Options& options, QWidget* window)
 {
     askCanvas(window, "exportBoard", options.exportFile);
     if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
-        throw FileError{options.screenshotFile, 0, QStringLiteral("the picture cannot be written")};
+        throw FileError{options.screenshotFile, 0,
+                        QCoreApplication::translate("FileErrors", "the picture cannot be written")};
     }
 }
 
@@ -163,7 +140,7 @@ int run(int argc, char* argv[])
     const auto application = openApplication(argc, argv, BadInput);
     const QTemporaryDir ownSettings;
     CanvasHost::Settings::keepIn(settingsFile(inputs.options, ownSettings));
-    dress(inputs.options);
+    Look::dress(inputs.options);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
