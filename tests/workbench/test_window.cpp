@@ -199,6 +199,29 @@ private Q_SLOTS:
         QVERIFY(second.pos().x() > m_window->pos().x());
         QVERIFY(second.pos().y() > m_window->pos().y());
         QVERIFY(second.screen()->availableGeometry().contains(second.frameGeometry()));
+        second.close();
+        QVERIFY(!CanvasHost::Settings::value("window/geometry").isValid());
+        m_window->close();
+        QVERIFY(CanvasHost::Settings::value("window/geometry").isValid());
+    }
+
+    void recentFiles()
+    {
+        CanvasHost::Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        const auto list = [this] {
+            Q_EMIT findNamed<QMenu>(*m_window, "m_pFileMenu").aboutToShow();
+            return findNamed<QMenu>(*m_window, "m_pRecentMenu").actions();
+        };
+        QVERIFY(list().isEmpty());
+        const QString file = writeBoard(m_directory);
+        QMetaObject::invokeMethod(m_window->findChild<QObject*>("m_pBoardFiles"), "open",
+                                  Q_ARG(QString, file));
+        action("m_pNewBoardAct").trigger();
+        QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
+        QCOMPARE(list().size(), 1);
+        QCOMPARE(list()[0]->text(), file);
+        list()[0]->trigger();
+        QVERIFY(m_window->windowTitle().startsWith("dropped.json"));
     }
 
     void withoutSettingsNothingIsKept()

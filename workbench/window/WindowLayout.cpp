@@ -61,9 +61,10 @@ void WindowLayout::restore()
     place();
     m_window->restoreGeometry(Settings::value(geometryKey).toByteArray());
     m_window->restoreState(Settings::value(docksKey).toByteArray());
-    if (const int number = instanceNumber()) {
+    m_instance = findInstance();
+    if (m_instance > 0) {
         const QRect screen = m_window->screen()->availableGeometry();
-        const QPoint position = m_window->pos() + number * instanceOffset;
+        const QPoint position = m_window->pos() + m_instance * instanceOffset;
         // Where there is no room to the right and below, the window becomes smaller.
         const QSize room(screen.right() - position.x() - frame.width(),
                          screen.bottom() - position.y() - frame.height());
@@ -92,11 +93,13 @@ void WindowLayout::place()
 
 void WindowLayout::save() const
 {
-    Settings::set(geometryKey, m_window->saveGeometry());
-    Settings::set(docksKey, m_window->saveState());
+    if (m_instance == 0) {
+        Settings::set(geometryKey, m_window->saveGeometry());
+        Settings::set(docksKey, m_window->saveState());
+    }
 }
 
-int WindowLayout::instanceNumber()
+int WindowLayout::findInstance()
 {
     const QString settings = Settings::file();
     if (settings.isEmpty()) {

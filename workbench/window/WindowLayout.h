@@ -26,14 +26,16 @@ public:
     /// As it was left, or as it is first.
     void restore();
     void restoreFirst();
+    /// The first program that runs is the one that is remembered.
     void save() const;
 
 private:
     void place();
-    int instanceNumber();
+    int findInstance();
 
     QMainWindow* m_window;
     Docks m_docks;
     QByteArray m_first;                 ///< the docks as they are first
+    int m_instance = 0;                 ///< how many others run already
     std::unique_ptr<QLockFile> m_lock;  ///< held by each program that runs
 };
