@@ -30,7 +30,8 @@ application, which supplies the job, the units and the canvas.
 
 A small host, to see it at work, is in canvas-tool-strip-workbench.")
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_NAME canvas-tool-strip-workbench)
-set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS "canvas-tool-strip (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_WORKBENCH_PACKAGE_DEPENDS
+    "canvas-tool-strip (= ${PROJECT_VERSION}), qttranslations5-l10n")
 set(CPACK_DEBIAN_WORKBENCH_PACKAGE_RECOMMENDS fonts-wqy-microhei)
 set(CPACK_DEBIAN_WORKBENCH_DESCRIPTION "small host application for the Canvas Tool Strip
 The workbench shows the edit toolbar at work: on a canvas whose boards can

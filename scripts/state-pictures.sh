@@ -15,7 +15,7 @@ picture() {
     local tag=$1 scale=$2
     shift 2
     sed "s#OUT#$out/$tag#" scripts/state-pictures.session >"$out/session"
-    QT_SCALE_FACTOR=$scale QT_LOGGING_RULES='canvastoolstrip*=false' scripts/with-display.sh \
+    QT_SCALE_FACTOR=$scale scripts/with-display.sh \
         build/release/bin/workbench --job workbench/samples/board.json --play "$out/session" \
         --exit "$@" >"$out/log" 2>&1 || {
         cat "$out/log" >&2
@@ -28,7 +28,14 @@ for language in en zh_CN; do
         picture "$language-$scale" "$scale" --language "$language"
         picture "$language-$scale-dark" "$scale" --language "$language" --dark
     done
-    picture "$language-14pt" 1 --language "$language" --font-size 14
+    for points in 14 20; do
+        picture "$language-${points}pt" 1 --language "$language" --font-size "$points"
+    done
+    # The screens of laptops.
+    for screen in 1366x768 1024x700; do
+        SCREEN=$screen picture "$language-$screen" 1 --language "$language"
+    done
+    SCREEN=1920x1080 picture "$language-1920x1080" 2 --language "$language"
 done
 rm -f "$out/session" "$out/log"
 echo "Pictures: $root/$out"

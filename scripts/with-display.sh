@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Runs a command under a virtual display with a window manager. Usage: with-display.sh COMMAND...
-exec xvfb-run -a -s '-screen 0 1920x1200x24' bash -c '
+# SCREEN is its size, 1920x1200 unless set.
+exec xvfb-run -a -s "-screen 0 ${SCREEN:-1920x1200}x24" bash -c '
     # A window that is there before the manager would not get the focus.
     ready=$(mktemp -u)
     openbox --startup "touch $ready" & manager=$!

@@ -29,13 +29,6 @@
     </message>
 </context>
 <context>
-    <name>BoardFiles</name>
-    <message>
-        <source>%1: the name must end in .json, .gbr, .png or .svg</source>
-        <translation>%1：文件名必须以 .json、.gbr、.png 或 .svg 结尾</translation>
-    </message>
-</context>
-<context>
     <name>CanvasBar</name>
     <message>
         <source>Undo</source>
@@ -46,28 +39,12 @@
         <translation>重做</translation>
     </message>
     <message>
-        <source>Fit</source>
-        <translation>适合窗口</translation>
-    </message>
-    <message>
         <source>+</source>
         <translation>+</translation>
     </message>
     <message>
         <source>-</source>
         <translation>-</translation>
-    </message>
-    <message>
-        <source>Open...</source>
-        <translation>打开...</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>保存...</translation>
-    </message>
-    <message>
-        <source>Export...</source>
-        <translation>导出...</translation>
     </message>
     <message>
         <source>Show the whole board</source>
@@ -82,18 +59,6 @@
         <translation>缩小</translation>
     </message>
     <message>
-        <source>Open a board file</source>
-        <translation>打开板文件</translation>
-    </message>
-    <message>
-        <source>Save the board as a file</source>
-        <translation>将板保存为文件</translation>
-    </message>
-    <message>
-        <source>Export the board as Gerber or as a picture</source>
-        <translation>将板导出为 Gerber 或图片</translation>
-    </message>
-    <message>
         <source>Undo: %1</source>
         <translation>撤销：%1</translation>
     </message>
@@ -102,44 +67,28 @@
         <translation>重做：%1</translation>
     </message>
     <message>
-        <source>Export board</source>
-        <translation>导出板</translation>
+        <source>&amp;Fit</source>
+        <translation>适合窗口(&amp;F)</translation>
     </message>
     <message>
-        <source>Gerber (*.gbr)</source>
-        <translation>Gerber (*.gbr)</translation>
+        <source>Zoom &amp;In</source>
+        <translation>放大(&amp;I)</translation>
     </message>
     <message>
-        <source>Picture (*.png)</source>
-        <translation>图片 (*.png)</translation>
+        <source>Zoom &amp;Out</source>
+        <translation>缩小(&amp;O)</translation>
     </message>
     <message>
-        <source>Drawing (*.svg)</source>
-        <translation>矢量图 (*.svg)</translation>
+        <source>&amp;Undo %1</source>
+        <translation>撤销(&amp;U) %1</translation>
     </message>
     <message>
-        <source>Open board</source>
-        <translation>打开板</translation>
+        <source>&amp;Redo %1</source>
+        <translation>重做(&amp;R) %1</translation>
     </message>
     <message>
-        <source>Save board</source>
-        <translation>保存板</translation>
-    </message>
-    <message>
-        <source>Board (*.json)</source>
-        <translation>板 (*.json)</translation>
-    </message>
-    <message>
-        <source>Opened %1.</source>
-        <translation>已打开 %1。</translation>
-    </message>
-    <message>
-        <source>Wrote %1.</source>
-        <translation>已写入 %1。</translation>
-    </message>
-    <message>
-        <source>Board</source>
-        <translation>板</translation>
+        <source>Fit</source>
+        <translation>适合窗口</translation>
     </message>
 </context>
 <context>
@@ -219,6 +168,40 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>Documentation</name>
+    <message>
+        <source>Documentation</source>
+        <translation>文档</translation>
+    </message>
+</context>
+<context>
+    <name>EditActions</name>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Dese&amp;lect</source>
+        <translation>取消选择(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Deselect</source>
+        <translation>取消选择</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
     </message>
 </context>
 <context>
@@ -322,6 +305,231 @@
     <message>
         <source>Click the place of the end.</source>
         <translation>单击端点的新位置。</translation>
+    </message>
+</context>
+<context>
+    <name>FileActions</name>
+    <message>
+        <source>&amp;New</source>
+        <translation>新建(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>另存为(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>导出(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Open a board file</source>
+        <translation>打开板文件</translation>
+    </message>
+    <message>
+        <source>Save the board as a file</source>
+        <translation>将板保存为文件</translation>
+    </message>
+    <message>
+        <source>Export the board as Gerber or as a picture</source>
+        <translation>将板导出为 Gerber 或图片</translation>
+    </message>
+    <message>
+        <source>Opened %1.</source>
+        <translation>已打开 %1。</translation>
+    </message>
+    <message>
+        <source>Wrote %1.</source>
+        <translation>已写入 %1。</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>未保存的更改</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed. Save the changes?</source>
+        <translation>“%1”已更改。是否保存更改？</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>板</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+</context>
+<context>
+    <name>FileErrors</name>
+    <message>
+        <source>must not be 0</source>
+        <translation>不能为 0</translation>
+    </message>
+    <message>
+        <source>must have %1 points or more, not %2</source>
+        <translation>必须有 %1 个或更多点，而不是 %2 个</translation>
+    </message>
+    <message>
+        <source>must have %1 points, not %2</source>
+        <translation>必须有 %1 个点，而不是 %2 个</translation>
+    </message>
+    <message>
+        <source>must be a pair of numbers</source>
+        <translation>必须是一对数字</translation>
+    </message>
+    <message>
+        <source>a coordinate is ten metres or farther from 0</source>
+        <translation>有坐标距 0 达十米或更远</translation>
+    </message>
+    <message>
+        <source>the board is empty</source>
+        <translation>板为空</translation>
+    </message>
+    <message>
+        <source>must be more than 0</source>
+        <translation>必须大于 0</translation>
+    </message>
+    <message>
+        <source>the name must end in .json, .gbr, .png or .svg</source>
+        <translation>文件名必须以 .json、.gbr、.png 或 .svg 结尾</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written</source>
+        <translation>无法写入图片</translation>
+    </message>
+    <message>
+        <source>is neither a layout nor a widget</source>
+        <translation>既不是布局也不是控件</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>不能为空</translation>
+    </message>
+    <message>
+        <source>belongs to the kind &quot;choice&quot; only</source>
+        <translation>只属于种类“choice”</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>没有该文件</translation>
+    </message>
+    <message>
+        <source>no entry point %1</source>
+        <translation>没有入口点 %1</translation>
+    </message>
+    <message>
+        <source>made no instance</source>
+        <translation>未创建实例</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice in one object</source>
+        <translation>“%1”在同一对象中出现两次</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not belong to %2</source>
+        <translation>“%1”不属于%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>缺少“%1”</translation>
+    </message>
+    <message>
+        <source>must be an array</source>
+        <translation>必须是数组</translation>
+    </message>
+    <message>
+        <source>an entry of %1</source>
+        <translation>%1 的一项</translation>
+    </message>
+    <message>
+        <source>must be a string</source>
+        <translation>必须是字符串</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice</source>
+        <translation>“%1”出现两次</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>必须是 true 或 false</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>必须是数字</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>必须是 %1</translation>
+    </message>
+    <message>
+        <source>must be from %1 to %2</source>
+        <translation>必须在 %1 到 %2 之间</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>必须是整数</translation>
+    </message>
+    <message>
+        <source>is not one of </source>
+        <translation>不是以下之一：</translation>
+    </message>
+</context>
+<context>
+    <name>FileNames</name>
+    <message>
+        <source>Open board</source>
+        <translation>打开板</translation>
+    </message>
+    <message>
+        <source>Export board</source>
+        <translation>导出板</translation>
+    </message>
+    <message>
+        <source>Gerber (*.gbr)</source>
+        <translation>Gerber (*.gbr)</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>图片 (*.png)</translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg)</source>
+        <translation>矢量图 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Board (*.json)</source>
+        <translation>板 (*.json)</translation>
+    </message>
+    <message>
+        <source>Save board</source>
+        <translation>保存板</translation>
     </message>
 </context>
 <context>
@@ -930,6 +1138,21 @@
     </message>
 </context>
 <context>
+    <name>QIODevice</name>
+    <message>
+        <source>Not a directory</source>
+        <translation>不是目录</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>是目录</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>只读文件系统</translation>
+    </message>
+</context>
+<context>
     <name>RecordTable</name>
     <message>
         <source>Key</source>
@@ -1248,10 +1471,6 @@
         <translation>工作台</translation>
     </message>
     <message>
-        <source>%1 / %2 - Workbench</source>
-        <translation>%1 / %2 - 工作台</translation>
-    </message>
-    <message>
         <source>&amp;Job</source>
         <translation>料号(&amp;J)</translation>
     </message>
@@ -1292,10 +1511,6 @@
         <translation>文件(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Tools</source>
-        <translation>工具(&amp;T)</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>视图(&amp;V)</translation>
     </message>
@@ -1318,6 +1533,52 @@
     <message>
         <source>%1 was not saved.</source>
         <translation>%1 未能保存。</translation>
+    </message>
+    <message>
+        <source>&amp;Documentation</source>
+        <translation>文档(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>关于(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>%1 / %2[*] - Workbench</source>
+        <translation>%1 / %2[*] - 工作台</translation>
+    </message>
+    <message>
+        <source>%1[*] - %2 / %3 - Workbench</source>
+        <translation>%1[*] - %2 / %3 - 工作台</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Workbench %1, a small host of the Canvas Tool Strip.
+Qt %2</source>
+        <translation>工作台 %1，画布工具条的小型宿主。
+Qt %2</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation>发送(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近打开的文件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Restore &amp;Layout</source>
+        <translation>恢复布局(&amp;L)</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,8 @@
 #include <Files.h>
 #include <Json.h>
 
+#include <QCoreApplication>
+
 namespace CanvasHost {
 namespace {
 
@@ -31,8 +33,9 @@ std::vector<std::string> readChoices(const JsonNode& attribute, AttributeKind ki
     const JsonNode node = attribute.member(key);
     std::vector<std::string> choices = namesOf(node);
     if (choices.empty() == isChoice) {
-        node.fail(isChoice ? QStringLiteral("must not be empty")
-                           : QStringLiteral("belongs to the kind \"choice\" only"));
+        node.fail(isChoice ? QCoreApplication::translate("FileErrors", "must not be empty")
+                           : QCoreApplication::translate("FileErrors",
+                                                         "belongs to the kind \"choice\" only"));
     }
     return choices;
 }

@@ -16,6 +16,7 @@ RecordTable::RecordTable(const char* name, QWidget* parent) : QTableWidget(0, 3,
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setMinimumSectionSize(8 * fontMetrics().averageCharWidth());
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     horizontalHeader()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
     setColumnWidth(0, 18 * fontMetrics().averageCharWidth());

@@ -1,6 +1,8 @@
 #include "PluginManagerStandIn.h"
 #include "QTpluginsManger4CAM.h"
 
+#include <FileError.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -84,26 +86,25 @@ void fail(QString* error, const QString& text)
     }
 }
 
-/// The library with both entry points found, loaded; null with a reason otherwise.
+/// The library with both entry points found, loaded.
 std::shared_ptr<QLibrary> openLibrary(const QString& file, CreateInstance* create,
-                                      DeliverMessage* deliver, QString* error)
+                                      DeliverMessage* deliver)
 {
     if (!QFileInfo::exists(file)) {
-        fail(error, QStringLiteral("%1: no such file").arg(file));
-        return nullptr;
+        throw FileError{file, 0, QCoreApplication::translate("FileErrors", "no such file")};
     }
     auto library = std::make_shared<QLibrary>(file);
     if (!library->load()) {
-        fail(error, QStringLiteral("%1: %2").arg(file, library->errorString()));
-        return nullptr;
+        throw FileError{file, 0, library->errorString()};
     }
     *create = reinterpret_cast<CreateInstance>(library->resolve("GetPluginInstance"));
     *deliver = reinterpret_cast<DeliverMessage>(library->resolve("recMsgFromManager"));
     if (!*create || !*deliver) {
         const auto missing = *create ? "recMsgFromManager" : "GetPluginInstance";
-        fail(error, QStringLiteral("%1: no entry point %2").arg(file, QLatin1String(missing)));
         library->unload();
-        return nullptr;
+        throw FileError{file, 0,
+                        QCoreApplication::translate("FileErrors", "no entry point %1")
+                            .arg(QLatin1String(missing))};
     }
     return library;
 }
@@ -129,21 +130,16 @@ void removeInstance(void* instance)
               all.end());
 }
 
-void* loadModule(const QString& moduleName, const QString& directory, QWidget* parent,
-                 QString* error)
+void* loadModule(const QString& moduleName, const QString& directory, QWidget* parent)
 {
     const QString file = libraryFile(moduleName, directory);
     CreateInstance create = nullptr;
     DeliverMessage deliver = nullptr;
-    const auto library = openLibrary(file, &create, &deliver, error);
-    if (!library) {
-        return nullptr;
-    }
+    const auto library = openLibrary(file, &create, &deliver);
     void* const instance = create(parent);
     if (!instance) {
-        fail(error, QStringLiteral("%1: made no instance").arg(file));
         library->unload();
-        return nullptr;
+        throw FileError{file, 0, QCoreApplication::translate("FileErrors", "made no instance")};
     }
     const auto known = state().libraries.value(moduleName);
     if (known && known->fileName() == library->fileName()) {

@@ -43,11 +43,11 @@ CANVAS_HOST_EXPORT void removeInstance(void* instance);
 /// Loads `moduleName` from `directory`, makes an instance in `parent` and adds it.
 ///
 /// "Canvas_Viewer.dll" is looked for as "Canvas_Viewer" with this platform's library suffix. On
-/// failure (missing file, no library, an entry point absent, no instance) the result is null,
-/// `error` names file and reason, and the manager is as it was. The caller owns the instance: a
-/// QObject, to be removed with removeInstance() and deleted before its library is unloaded.
+/// failure (missing file, no library, an entry point absent, no instance) a FileError is thrown,
+/// and the manager is as it was. The caller owns the instance: a QObject, to be removed with
+/// removeInstance() and deleted before its library is unloaded.
 CANVAS_HOST_EXPORT void* loadModule(const QString& moduleName, const QString& directory,
-                                    QWidget* parent, QString* error = nullptr);
+                                    QWidget* parent);
 
 /// Unloads the library of `moduleName`. False, with the reason in `error`, when it is not loaded,
 /// still has instances or refuses.

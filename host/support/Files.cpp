@@ -1,9 +1,21 @@
 #include "Files.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QSaveFile>
 
 namespace CanvasHost {
+
+FileError fileError(const QFileDevice& device)
+{
+    // Qt has translations of most of the system's texts, but does not look them up itself.
+    static const char* const ours[] = {QT_TRANSLATE_NOOP("QIODevice", "Not a directory"),
+                                       QT_TRANSLATE_NOOP("QIODevice", "Is a directory"),
+                                       QT_TRANSLATE_NOOP("QIODevice", "Read-only file system")};
+    Q_UNUSED(ours)
+    return {device.fileName(), 0,
+            QCoreApplication::translate("QIODevice", qUtf8Printable(device.errorString()))};
+}
 
 QByteArray readWhole(const QString& file)
 {
@@ -13,7 +25,7 @@ QByteArray readWhole(const QString& file)
         content = device.readAll();
     }
     if (device.error() != QFileDevice::NoError) {
-        throw FileError{file, 0, device.errorString()};
+        throw fileError(device);
     }
     return content;
 }
@@ -23,7 +35,7 @@ void writeWhole(const QString& file, const QByteArray& content)
     QSaveFile device(file);
     if (!device.open(QIODevice::WriteOnly) || device.write(content) != content.size() ||
         !device.commit()) {
-        throw FileError{file, 0, device.errorString()};
+        throw fileError(device);
     }
 }
 

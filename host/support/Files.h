@@ -4,7 +4,12 @@
 
 #include <QByteArray>
 
+class QFileDevice;
+
 namespace CanvasHost {
+
+/// Why the last operation on the file failed, in the user's language.
+FileError fileError(const QFileDevice& device);
 
 /// The whole content of a file; throws a FileError.
 QByteArray readWhole(const QString& file);

@@ -1,5 +1,6 @@
 #include "Json.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -125,6 +126,9 @@ int lineOfOffset(const QByteArray& text, int offset)
 
 JsonDocument::JsonDocument(const QByteArray& text, const QString& file)
 {
+    if (text.trimmed().isEmpty()) {
+        throw FileError{file, 0, QCoreApplication::translate("FileErrors", "the file is empty")};
+    }
     QJsonParseError parsed;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsed);
     if (parsed.error != QJsonParseError::NoError) {
@@ -139,7 +143,8 @@ JsonDocument::~JsonDocument() = default;
 
 JsonNode JsonDocument::root() const
 {
-    return {*m_source, m_source->value, m_source->place, QStringLiteral("the document")};
+    return {*m_source, m_source->value, m_source->place,
+            QCoreApplication::translate("FileErrors", "the document")};
 }
 
 JsonNode::JsonNode(const Source& source, QJsonValue value, const JsonPlace& place, QString label)
@@ -160,11 +165,11 @@ void JsonNode::fail(const QString& reason) const
 void JsonNode::requireUniqueKeys() const
 {
     if (!m_value.isObject()) {
-        fail(QStringLiteral("must be an object"));
+        fail(QCoreApplication::translate("FileErrors", "must be an object"));
     }
     if (m_place->repeatedKey >= 0) {
         failAt(m_place->parts[static_cast<size_t>(m_place->repeatedKey)],
-               QStringLiteral("\"%1\" stands twice in one object")
+               QCoreApplication::translate("FileErrors", "\"%1\" stands twice in one object")
                    .arg(m_place->keys.at(m_place->repeatedKey)));
     }
 }
@@ -174,9 +179,9 @@ void JsonNode::requireObject(const QStringList& known) const
     requireUniqueKeys();
     for (int i = 0; i < m_place->keys.size(); ++i) {
         if (!known.contains(m_place->keys.at(i))) {
-            failAt(
-                m_place->parts[static_cast<size_t>(i)],
-                QStringLiteral("\"%1\" does not belong to %2").arg(m_place->keys.at(i), m_label));
+            failAt(m_place->parts[static_cast<size_t>(i)],
+                   QCoreApplication::translate("FileErrors", "\"%1\" does not belong to %2")
+                       .arg(m_place->keys.at(i), m_label));
         }
     }
 }
@@ -190,7 +195,7 @@ JsonNode JsonNode::member(const QString& key) const
 {
     const int index = m_place->keys.indexOf(key);
     if (index < 0) {
-        failAt(*m_place, QStringLiteral("\"%1\" is missing").arg(key));
+        failAt(*m_place, QCoreApplication::translate("FileErrors", "\"%1\" is missing").arg(key));
     }
     return {*m_source, m_value.toObject().value(key), m_place->parts[static_cast<size_t>(index)],
             QStringLiteral("\"%1\"").arg(key)};
@@ -209,10 +214,10 @@ std::vector<std::pair<QString, JsonNode>> JsonNode::members() const
 std::vector<JsonNode> JsonNode::entries() const
 {
     if (!m_value.isArray()) {
-        fail(QStringLiteral("must be an array"));
+        fail(QCoreApplication::translate("FileErrors", "must be an array"));
     }
     const QJsonArray array = m_value.toArray();
-    const QString label = QStringLiteral("an entry of %1").arg(m_label);
+    const QString label = QCoreApplication::translate("FileErrors", "an entry of %1").arg(m_label);
     std::vector<JsonNode> nodes;
     nodes.reserve(static_cast<size_t>(array.size()));
     for (int i = 0; i < array.size(); ++i) {
@@ -224,7 +229,7 @@ std::vector<JsonNode> JsonNode::entries() const
 QString JsonNode::text() const
 {
     if (!m_value.isString()) {
-        fail(QStringLiteral("must be a string"));
+        fail(QCoreApplication::translate("FileErrors", "must be a string"));
     }
     return m_value.toString();
 }
@@ -232,7 +237,7 @@ QString JsonNode::text() const
 QString JsonNode::name() const
 {
     if (text().isEmpty()) {
-        fail(QStringLiteral("must not be empty"));
+        fail(QCoreApplication::translate("FileErrors", "must not be empty"));
     }
     return text();
 }
@@ -250,14 +255,15 @@ QStringList JsonNode::names() const
 void JsonNode::requireNew(const QStringList& before) const
 {
     if (before.contains(name())) {
-        failAt(*m_place, QStringLiteral("\"%1\" stands twice").arg(name()));
+        failAt(*m_place,
+               QCoreApplication::translate("FileErrors", "\"%1\" stands twice").arg(name()));
     }
 }
 
 bool JsonNode::isTrue() const
 {
     if (!m_value.isBool()) {
-        fail(QStringLiteral("must be true or false"));
+        fail(QCoreApplication::translate("FileErrors", "must be true or false"));
     }
     return m_value.toBool();
 }
@@ -265,12 +271,14 @@ bool JsonNode::isTrue() const
 double JsonNode::number(double least, double most) const
 {
     if (!m_value.isDouble()) {
-        fail(QStringLiteral("must be a number"));
+        fail(QCoreApplication::translate("FileErrors", "must be a number"));
     }
     const double value = m_value.toDouble();
     if (!(value >= least && value <= most)) {
-        fail(least == most ? QStringLiteral("must be %1").arg(least)
-                           : QStringLiteral("must be from %1 to %2").arg(least).arg(most));
+        fail(least == most ? QCoreApplication::translate("FileErrors", "must be %1").arg(least)
+                           : QCoreApplication::translate("FileErrors", "must be from %1 to %2")
+                                 .arg(least)
+                                 .arg(most));
     }
     return value;
 }
@@ -279,7 +287,7 @@ int JsonNode::integer(int least, int most) const
 {
     const double value = number(least, most);
     if (value != std::floor(value)) {
-        fail(QStringLiteral("must be a whole number"));
+        fail(QCoreApplication::translate("FileErrors", "must be a whole number"));
     }
     return static_cast<int>(value);
 }
@@ -288,7 +296,8 @@ int JsonNode::choice(const QStringList& choices) const
 {
     const int index = choices.indexOf(text());
     if (index < 0) {
-        fail(QStringLiteral("is not one of ") + choices.join(QStringLiteral(", ")));
+        fail(QCoreApplication::translate("FileErrors", "is not one of ") +
+             choices.join(QStringLiteral(", ")));
     }
     return index;
 }

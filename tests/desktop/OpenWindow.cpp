@@ -6,14 +6,11 @@
 
 std::unique_ptr<WorkbenchWindow> openWindow(MessageLog& log)
 {
-    QString error;
     Options options;
     options.moduleDirectory = MODULE_DIR;
     auto window = std::make_unique<WorkbenchWindow>(options, &log);
     CanvasHost::loadJobs(JOB_FILE);
-    if (!window->start(&error)) {
-        qFatal("%s", qPrintable(error));
-    }
+    window->start();
     window->move(20, 40);
     window->show();
     Desktop::waitForWindow(window.get());

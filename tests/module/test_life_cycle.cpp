@@ -41,11 +41,7 @@ struct Host {
 
     Host()
     {
-        QString error;
-        instance = CanvasHost::loadModule(moduleName, moduleDir, &window, &error);
-        if (!instance) {
-            qFatal("%s", qPrintable(error));
-        }
+        instance = CanvasHost::loadModule(moduleName, moduleDir, &window);
         window.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance)));
         window.show();
     }

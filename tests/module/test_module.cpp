@@ -1,6 +1,7 @@
 // The built library, loaded as a host loads it.
 
 #include "BoxCatcher.h"
+#include "ErrorOf.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "toolbar/ToolTable.h"
@@ -25,16 +26,9 @@ const QString moduleDir = QStringLiteral(MODULE_DIR);
 /// A module instance as a host keeps it: placed in its widget, removed before it is deleted.
 struct LoadedStrip {
     QWidget panel;
-    void* instance = nullptr;
-    QString error;
+    void* instance = CanvasHost::loadModule(moduleName, moduleDir, &panel);
 
-    LoadedStrip()
-    {
-        instance = CanvasHost::loadModule(moduleName, moduleDir, &panel, &error);
-        if (instance) {
-            panel.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance)));
-        }
-    }
+    LoadedStrip() { panel.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance))); }
     ~LoadedStrip() { CanvasHost::removeInstance(instance); }
 
     bool isChecked(const char* name) const
@@ -65,7 +59,7 @@ private Q_SLOTS:
     void makesA26ToolGrid()
     {
         LoadedStrip strip;
-        QVERIFY2(strip.instance, qPrintable(strip.error));
+        QVERIFY(strip.instance);
         auto* const grid = qobject_cast<QGridLayout*>(static_cast<QObject*>(strip.instance));
         QVERIFY(grid);
         QCOMPARE(grid->count(), ToolTable::toolCount);
@@ -106,7 +100,7 @@ private Q_SLOTS:
         for (int round = 0; round < 20; ++round) {
             {
                 LoadedStrip strip;
-                QVERIFY2(strip.instance, qPrintable(strip.error));
+                QVERIFY(strip.instance);
                 QString error;
                 QVERIFY2(!CanvasHost::unloadModule(moduleName, &error),
                          "unloaded under a living instance");
@@ -144,9 +138,8 @@ private Q_SLOTS:
         QFETCH(QString, module);
         QFETCH(QString, reason);
         QWidget panel;
-        QString error;
-        QVERIFY(!CanvasHost::loadModule(module, directory, &panel, &error));
-        QVERIFY2(error.contains(reason), qPrintable(error));
+        const QString error = errorOf([&] { CanvasHost::loadModule(module, directory, &panel); });
+        QVERIFY2(error.startsWith(directory + "/" + reason), qPrintable(error));
 
         bool delivered = true;
         CanvasHost::setObserver(

@@ -14,7 +14,7 @@ expect() {
     shift 2
     "$workbench" "$@" --exit >"$dir/out" 2>"$dir/err"
     status=$?
-    grep -vE '^(QStandardPaths|This plugin|canvastoolstrip)' "$dir/err" >"$dir/lines"
+    grep -vE '^(QStandardPaths|This plugin)' "$dir/err" >"$dir/lines"
     lines=$(wc -l <"$dir/lines")
     if [ $status -ne "$wanted" ] || [ "$lines" -ne 1 ] || ! grep -qF -- "$text" "$dir/lines"; then
         echo "$*: status $status, expected $wanted and one line with: $text"
@@ -26,6 +26,7 @@ expect() {
 printf '{ "format": 1,\n  "jobs": [\n' >"$dir/open.json"
 printf '{ "format": 1,\n  "jobs": [ { "name": 7 } ] }\n' >"$dir/name.json"
 printf '\377\376' >"$dir/binary.json"
+: >"$dir/empty.json"
 printf 'click m_pMarkTB\njump\n' >"$dir/jump.session"
 printf '\n\nclick m_p\377\n' >"$dir/binary.session"
 printf 'send 20001811 extra=77\n' >"$dir/address.session"
@@ -38,11 +39,12 @@ mkdir "$dir/modules"
 cp "$modules"/Canvas_Viewer.* "$dir/modules/"
 echo "no library" >"$dir/modules/Canvas_JobTree.so"
 
-expect 2 "Unknown option 'bogus'" --bogus
+expect 2 "Unknown option 'bogus'; see --help" --bogus
 expect 2 "Unknown option 'bogus'" -bogus
 expect 2 "unexpected argument \"$dir\"" "$dir"
 expect 2 "foot" --unit foot
 expect 2 "$dir/absent.json" --job "$dir/absent.json"
+expect 2 "$dir/empty.json: the file is empty" --job "$dir/empty.json"
 expect 2 "$dir:" --job "$dir"
 expect 2 "$dir/binary.json:1: " --job "$dir/binary.json"
 expect 2 "$dir/open.json:3: " --job "$dir/open.json"
@@ -69,6 +71,17 @@ expect 2 "a session is not recorded over the one that is played" \
     --play "$dir/state.session" --record "$dir/state.session"
 grep -q expect "$dir/state.session" || {
     echo "the session was recorded over"
+    failed=1
+}
+
+# Without a display: one line, and no core.
+for platform in xcb nonsense; do
+    DISPLAY=:4711 QT_QPA_PLATFORM=$platform expect 2 "workbench: no window can be shown: " \
+        --modules "$modules"
+done
+
+"$workbench" --version 2>"$dir/err" | grep -qxE 'workbench [0-9]+(\.[0-9]+)+' || {
+    echo "--version: no version"
     failed=1
 }
 

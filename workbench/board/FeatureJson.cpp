@@ -2,6 +2,8 @@
 
 #include "board/TextJson.h"
 
+#include <QCoreApplication>
+
 namespace Pcb {
 
 using CanvasHost::JsonNode;
@@ -59,7 +61,7 @@ double scaleFromJson(const JsonNode& node)
 {
     const double scale = node.number(-largestScale, largestScale);
     if (scale == 0) {
-        node.fail(QStringLiteral("must not be 0"));
+        node.fail(QCoreApplication::translate("FileErrors", "must not be 0"));
     }
     return scale;
 }
@@ -79,9 +81,11 @@ void readPoints(const JsonNode& node, Geometry& geometry)
     const int least = leastPoints(geometry);
     const bool mayHaveMore = geometry.kind == Kind::Surface && !geometry.round;
     if (geometry.points.size() < least || (geometry.points.size() > least && !mayHaveMore)) {
-        node.fail(QStringLiteral("must have %1 points%2, not %3")
+        const char* const reason =
+            mayHaveMore ? QT_TRANSLATE_NOOP("FileErrors", "must have %1 points or more, not %2")
+                        : QT_TRANSLATE_NOOP("FileErrors", "must have %1 points, not %2");
+        node.fail(QCoreApplication::translate("FileErrors", reason)
                       .arg(least)
-                      .arg(mayHaveMore ? QStringLiteral(" or more") : QString())
                       .arg(geometry.points.size()));
     }
 }
@@ -127,7 +131,7 @@ QVector<QPointF> pointsFromJson(const JsonNode& node)
     for (const JsonNode& entry : node.entries()) {
         const std::vector<JsonNode> pair = entry.entries();
         if (pair.size() != 2) {
-            entry.fail(QStringLiteral("must be a pair of numbers"));
+            entry.fail(QCoreApplication::translate("FileErrors", "must be a pair of numbers"));
         }
         points.append({pair[0].number(-farthest, farthest), pair[1].number(-farthest, farthest)});
     }

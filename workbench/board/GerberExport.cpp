@@ -6,6 +6,8 @@
 
 #include <Files.h>
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 namespace Pcb {
@@ -124,8 +126,10 @@ QByteArray toGerber(const Board& board, const QString& file)
         writeFeature(writer, feature);
     }
     if (!writer.isInRange()) {
-        throw CanvasHost::FileError{file, 0,
-                                    QStringLiteral("a coordinate is ten metres or farther from 0")};
+        throw CanvasHost::FileError{
+            file, 0,
+            QCoreApplication::translate("FileErrors",
+                                        "a coordinate is ten metres or farther from 0")};
     }
     return writer.file();
 }

@@ -4,6 +4,7 @@
 #include <LengthUnits.h>
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -32,7 +33,8 @@ QSize sizeOf(const QRectF& area, int longerSide)
 void requireArea(const QRectF& area, const QString& file)
 {
     if (area.isEmpty()) {
-        throw CanvasHost::FileError{file, 0, QStringLiteral("the board is empty")};
+        throw CanvasHost::FileError{
+            file, 0, QCoreApplication::translate("FileErrors", "the board is empty")};
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "board/FeatureJson.h"
 
+#include <QCoreApplication>
+
 namespace Pcb {
 
 using CanvasHost::JsonNode;
@@ -90,7 +92,7 @@ double sizeFromJson(const JsonNode& node)
 {
     const double size = node.number(0, farthest);
     if (size <= 0) {
-        node.fail(QStringLiteral("must be more than 0"));
+        node.fail(QCoreApplication::translate("FileErrors", "must be more than 0"));
     }
     return size;
 }

@@ -107,6 +107,7 @@ QWidget* MessageMonitor::createDetail()
 {
     auto* const side = new QWidget(this);
     m_pMessageLB = named(new QLabel(side), "m_pMessageLB");
+    m_pMessageLB->setWordWrap(true);
     m_pMessageLB->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_pMessageLB->setMinimumHeight(m_pMonitorFilterLE->sizeHint().height());
     m_pMessageTW = new RecordTable("m_pMessageTW", side);

@@ -1,12 +1,12 @@
 #include "messages/MessageTrace.h"
 
-#include <FileError.h>
+#include <Files.h>
 
 void MessageTrace::open(const QString& file)
 {
     m_file.setFileName(file);
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        throw CanvasHost::FileError{file, 0, m_file.errorString()};
+        throw CanvasHost::fileError(m_file);
     }
 }
 

@@ -9,14 +9,14 @@
 
 namespace {
 
-QAbstractButton* buttonFor(const QMessageBox* box, bool accept)
+QAbstractButton* buttonFor(const QMessageBox* box, BoxAnswer answer)
 {
     for (QAbstractButton* const button : box->buttons()) {
-        if (BoxAnswers::meaning(box, button) == accept) {
+        if (BoxAnswers::meaning(box, button) == answer) {
             return button;
         }
     }
-    return accept ? box->buttons().value(0) : nullptr;
+    return answer == BoxAnswer::Accept ? box->buttons().value(0) : nullptr;
 }
 
 QString faultOf(const BoxExpectation& expected, const QMessageBox* box)
@@ -45,15 +45,24 @@ QString BoxAnswers::textOf(const QMessageBox* box)
     return box->text().simplified();
 }
 
-std::optional<bool> BoxAnswers::meaning(const QMessageBox* box, QAbstractButton* button)
+const QStringList& BoxAnswers::words()
+{
+    static const QStringList all{QStringLiteral("accept"), QStringLiteral("reject"),
+                                 QStringLiteral("discard")};
+    return all;
+}
+
+std::optional<BoxAnswer> BoxAnswers::meaning(const QMessageBox* box, QAbstractButton* button)
 {
     switch (box->buttonRole(button)) {
         case QMessageBox::AcceptRole:
         case QMessageBox::YesRole:
-            return true;
+            return BoxAnswer::Accept;
         case QMessageBox::RejectRole:
         case QMessageBox::NoRole:
-            return false;
+            return BoxAnswer::Reject;
+        case QMessageBox::DestructiveRole:
+            return BoxAnswer::Discard;
         default:
             return {};
     }
@@ -62,22 +71,22 @@ std::optional<bool> BoxAnswers::meaning(const QMessageBox* box, QAbstractButton*
 BoxAnswers::Answer BoxAnswers::answer(QMessageBox* box)
 {
     Answer answer;
-    bool accept = true;
+    BoxAnswer wanted = BoxAnswer::Accept;
     if (m_expected.empty()) {
         answer.note =
             QStringLiteral("answered the box \"%1\": %2").arg(box->windowTitle(), textOf(box));
     } else {
         const BoxExpectation expected = m_expected.front();
         m_expected.pop_front();
-        accept = expected.accept;
+        wanted = expected.answer;
         answer.expected = true;
         answer.line = expected.line;
         answer.fault = faultOf(expected, box);
     }
-    if (QAbstractButton* const button = buttonFor(box, accept)) {
+    if (QAbstractButton* const button = buttonFor(box, wanted)) {
         InputEvents::click(button, button->rect().center());
     } else {
-        box->done(accept ? QDialog::Accepted : QDialog::Rejected);
+        box->done(wanted == BoxAnswer::Accept ? QDialog::Accepted : QDialog::Rejected);
     }
     return answer;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <deque>
 #include <optional>
@@ -8,9 +8,11 @@
 class QAbstractButton;
 class QMessageBox;
 
+enum class BoxAnswer { Accept, Reject, Discard };
+
 /// A message box that a session expects, and how it is answered.
 struct BoxExpectation {
-    bool accept = true;
+    BoxAnswer answer = BoxAnswer::Accept;
     std::optional<QString> title;
     std::optional<QString> text;
     int line = 0;  ///< where the session says so
@@ -31,8 +33,10 @@ public:
     static QMessageBox* waiting();
     /// The text of a box on one line.
     static QString textOf(const QMessageBox* box);
-    /// Whether a click on `button` answers yes (true), no (false), or something else (none).
-    static std::optional<bool> meaning(const QMessageBox* box, QAbstractButton* button);
+    /// The words that sessions have for the answers, in their order.
+    static const QStringList& words();
+    /// What a click on `button` answers; nothing for other buttons.
+    static std::optional<BoxAnswer> meaning(const QMessageBox* box, QAbstractButton* button);
 
     /// The next box is expected, or the one that waits now.
     void expect(const BoxExpectation& box) { m_expected.push_back(box); }

@@ -92,10 +92,12 @@ StepActionList expect(const QStringList& words)
 StepActionList box(const QStringList& words)
 {
     BoxExpectation box;
-    box.accept = words[1] == QLatin1String("accept");
-    if (!box.accept && words[1] != QLatin1String("reject")) {
-        malformed(QStringLiteral("\"%1\" is no answer; known are accept, reject").arg(words[1]));
+    const int answer = BoxAnswers::words().indexOf(words[1]);
+    if (answer < 0) {
+        malformed(QStringLiteral("\"%1\" is no answer; known are %2")
+                      .arg(words[1], BoxAnswers::words().join(QStringLiteral(", "))));
     }
+    box.answer = static_cast<BoxAnswer>(answer);
     for (const QString& word : words.mid(2)) {
         const QString value = word.section(QLatin1Char('='), 1);
         if (word.startsWith(QLatin1String("title="))) {

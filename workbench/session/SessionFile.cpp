@@ -1,6 +1,6 @@
 #include "session/SessionFile.h"
 
-#include <FileError.h>
+#include <Files.h>
 
 namespace {
 
@@ -29,7 +29,7 @@ void SessionFile::open(const QString& file)
     m_file.close();
     m_file.setFileName(file);
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        throw CanvasHost::FileError{file, 0, m_file.errorString()};
+        throw CanvasHost::fileError(m_file);
     }
 }
 

@@ -84,6 +84,11 @@ bool SessionPlayer::answerBox()
     return true;
 }
 
+bool SessionPlayer::expectsBox() const
+{
+    return m_boxes.anyExpected() || (!m_entries.empty() && m_entries.front().answersBox);
+}
+
 void SessionPlayer::runNext()
 {
     const Entry entry = m_entries.front();

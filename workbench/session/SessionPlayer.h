@@ -23,6 +23,9 @@ public:
     /// How long a step waits for what it needs; 3000 unless set.
     void setPatience(int milliseconds) { m_patience = milliseconds; }
     void start();
+    bool isOver() const { return m_over; }
+    /// Whether a box that opens now is one that the session answers.
+    bool expectsBox() const;
 
 Q_SIGNALS:
     void finished();

@@ -459,9 +459,9 @@ void SessionRecorder::typed(QWidget* widget, const QString& text)
 void SessionRecorder::watchBox(QMessageBox* box)
 {
     const auto finished = [this, box] {
-        const bool accepted = BoxAnswers::meaning(box, box->clickedButton()).value_or(true);
-        m_file.append({QStringLiteral("box"),
-                       accepted ? QStringLiteral("accept") : QStringLiteral("reject"),
+        const BoxAnswer answer =
+            BoxAnswers::meaning(box, box->clickedButton()).value_or(BoxAnswer::Accept);
+        m_file.append({QStringLiteral("box"), BoxAnswers::words().at(static_cast<int>(answer)),
                        QStringLiteral("title=") + box->windowTitle().simplified(),
                        QStringLiteral("text=") + BoxAnswers::textOf(box)});
     };

@@ -37,7 +37,7 @@ constexpr Kind kinds[] = {
     {"send", "send CODE [key=value ...] [extra=N]", 1, INT_MAX, WidgetSteps::send},
     {"picture", "picture FILE [NAME]", 1, 2, WidgetSteps::picture},
     {"wait", "wait MILLISECONDS", 1, 1, WidgetSteps::wait},
-    {"box", "box accept|reject [title=TEXT] [text=TEXT]", 1, 3, ExpectSteps::box, true},
+    {"box", "box accept|reject|discard [title=TEXT] [text=TEXT]", 1, 3, ExpectSteps::box, true},
     {"expect", "expect message|nothing|state ...", 1, INT_MAX, ExpectSteps::expect},
 };
 // clang-format on

@@ -83,7 +83,12 @@ QString read(const QWidget* widget, const QString& property)
     if (!held.canConvert<QString>()) {
         never(QStringLiteral("%1 of \"%2\" has no text").arg(property, widget->objectName()));
     }
-    return held.toString();
+    QString text = held.toString();
+    if (qstrcmp(found.name(), "windowTitle") == 0) {
+        // As it is seen: Qt puts its mark there.
+        text.replace(QLatin1String("[*]"), QLatin1String(widget->isWindowModified() ? "*" : ""));
+    }
+    return text;
 }
 
 }  // namespace WidgetState

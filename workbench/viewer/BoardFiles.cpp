@@ -28,39 +28,29 @@ const Kind kinds[] = {
     {"svg", Pcb::writeSvg},
 };
 
-/// What went wrong in `work`; empty when nothing did.
-template <class Work>
-QString errorOf(Work work)
-{
-    try {
-        work();
-    } catch (const CanvasHost::FileError& error) {
-        return error.text();
-    }
-    return {};
-}
-
 }  // namespace
 
-QString BoardFiles::open(Document& document, const QString& file)
+void BoardFiles::open(Document& document, const QString& file)
 {
-    return errorOf([&] { document.replace(Pcb::readBoardFile(file)); });
+    document.replace(Pcb::readBoardFile(file));
 }
 
-QString BoardFiles::save(const Document& document, const QString& file)
+void BoardFiles::save(const Document& document, const QString& file)
 {
-    return errorOf([&] { Pcb::writeBoardFile(document.board(), file); });
+    Pcb::writeBoardFile(document.board(), file);
 }
 
-QString BoardFiles::exportTo(const Document& document, const QString& file)
+void BoardFiles::exportTo(const Document& document, const QString& file)
 {
     const QString suffix = QFileInfo(file).suffix().toLower();
     for (const Kind& kind : kinds) {
         if (suffix == QLatin1String(kind.suffix)) {
-            return errorOf([&] { kind.write(document.board(), file); });
+            kind.write(document.board(), file);
+            return;
         }
     }
-    return QCoreApplication::translate("BoardFiles",
-                                       "%1: the name must end in .json, .gbr, .png or .svg")
-        .arg(file);
+    throw CanvasHost::FileError{
+        file, 0,
+        QCoreApplication::translate("FileErrors",
+                                    "the name must end in .json, .gbr, .png or .svg")};
 }

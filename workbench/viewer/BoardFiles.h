@@ -7,14 +7,13 @@
 /// A step's board as a file: opened, saved, exported.
 namespace BoardFiles {
 
-/// Each returns what went wrong, with the file's name and a line where there is one; empty: nothing
-/// did. A file that is refused leaves the document as it is; one that cannot be written leaves the
-/// file that was there.
-QString open(Document& document, const QString& file);
-QString save(const Document& document, const QString& file);
+/// Each throws a FileError. A file that is refused leaves the document as it is; one that cannot be
+/// written leaves the file that was there.
+void open(Document& document, const QString& file);
+void save(const Document& document, const QString& file);
 
 /// The kind follows from the end of the name: ".gbr" Gerber, ".png" or ".svg" a picture, ".json"
 /// the board itself.
-QString exportTo(const Document& document, const QString& file);
+void exportTo(const Document& document, const QString& file);
 
 }  // namespace BoardFiles

@@ -1,11 +1,9 @@
 #include "viewer/CanvasBar.h"
 
-#include "viewer/BoardFiles.h"
 #include "viewer/BoardView.h"
+#include "viewer/FileActions.h"
 
 #include <QAction>
-#include <QFileDialog>
-#include <QMessageBox>
 #include <QToolButton>
 
 namespace {
@@ -14,7 +12,8 @@ constexpr double zoomStep = 1.5;
 
 }  // namespace
 
-CanvasBar::CanvasBar(CanvasController& canvas, BoardView& view, QWidget* parent)
+CanvasBar::CanvasBar(CanvasController& canvas, BoardView& view, const FileActions& files,
+                     QWidget* parent)
     : QToolBar(parent), m_canvas(canvas)
 {
     setObjectName(QStringLiteral("m_pCanvasBar"));
@@ -26,9 +25,9 @@ CanvasBar::CanvasBar(CanvasController& canvas, BoardView& view, QWidget* parent)
     m_zoomIn = add("m_pZoomInTB", QKeySequence::ZoomIn);
     m_zoomOut = add("m_pZoomOutTB", QKeySequence::ZoomOut);
     addSeparator();
-    m_open = add("m_pOpenBoardTB", QKeySequence::Open);
-    m_save = add("m_pSaveBoardTB", QKeySequence::Save);
-    m_export = add("m_pExportBoardTB", QKeySequence());
+    place(files.openAction(), "m_pOpenBoardTB");
+    place(files.saveAction(), "m_pSaveBoardTB");
+    place(files.exportAction(), "m_pExportBoardTB");
 
     QUndoGroup& histories = canvas.histories();
     connect(m_undo, &QAction::triggered, &histories, &QUndoGroup::undo);
@@ -38,38 +37,41 @@ CanvasBar::CanvasBar(CanvasController& canvas, BoardView& view, QWidget* parent)
     connect(m_fit, &QAction::triggered, &view, &BoardView::fit);
     connect(m_zoomIn, &QAction::triggered, &view, [&view] { view.zoom(zoomStep); });
     connect(m_zoomOut, &QAction::triggered, &view, [&view] { view.zoom(1 / zoomStep); });
-    connect(m_open, &QAction::triggered, this, [this] { run(File::Open); });
-    connect(m_save, &QAction::triggered, this, [this] { run(File::Save); });
-    connect(m_export, &QAction::triggered, this, [this] { run(File::Export); });
     retranslate();
 }
 
 QAction* CanvasBar::add(const char* objectName, const QKeySequence& shortcut)
 {
-    QAction* const action = addAction(QString());
+    auto* const action = new QAction(this);
     action->setShortcut(shortcut);
-    widgetForAction(action)->setObjectName(QLatin1String(objectName));
+    // "m_pUndoTB" is the button of "m_pUndoAct", which the window's menus show as well.
+    action->setObjectName(
+        QString::fromLatin1(objectName).replace(QLatin1String("TB"), QLatin1String("Act")));
+    place(action, objectName);
     return action;
+}
+
+void CanvasBar::place(QAction* action, const char* objectName)
+{
+    addAction(action);
+    widgetForAction(action)->setObjectName(QLatin1String(objectName));
 }
 
 void CanvasBar::retranslate()
 {
-    m_undo->setText(tr("Undo"));
-    m_redo->setText(tr("Redo"));
-    m_fit->setText(tr("Fit"));
-    m_zoomIn->setText(tr("+"));
-    m_zoomOut->setText(tr("-"));
-    m_open->setText(tr("Open..."));
-    m_save->setText(tr("Save..."));
-    m_export->setText(tr("Export..."));
+    m_undo->setIconText(tr("Undo"));
+    m_redo->setIconText(tr("Redo"));
+    m_fit->setText(tr("&Fit"));
+    m_fit->setIconText(tr("Fit"));
+    m_zoomIn->setText(tr("Zoom &In"));
+    m_zoomOut->setText(tr("Zoom &Out"));
+    m_zoomIn->setIconText(tr("+"));
+    m_zoomOut->setIconText(tr("-"));
     m_fit->setToolTip(tr("Show the whole board"));
     m_zoomIn->setToolTip(tr("Zoom in"));
     m_zoomOut->setToolTip(tr("Zoom out"));
-    m_open->setToolTip(tr("Open a board file"));
-    m_save->setToolTip(tr("Save the board as a file"));
-    m_export->setToolTip(tr("Export the board as Gerber or as a picture"));
-    for (const QAction* const action : {m_fit, m_zoomIn, m_zoomOut, m_open, m_save, m_export}) {
-        widgetForAction(const_cast<QAction*>(action))->setAccessibleName(action->toolTip());
+    for (QAction* const action : {m_fit, m_zoomIn, m_zoomOut}) {
+        widgetForAction(action)->setAccessibleName(action->toolTip());
     }
     nameHistory();
 }
@@ -79,40 +81,8 @@ void CanvasBar::nameHistory()
     const QUndoGroup& histories = m_canvas.histories();
     m_undo->setEnabled(histories.canUndo());
     m_redo->setEnabled(histories.canRedo());
+    m_undo->setText(tr("&Undo %1").arg(histories.undoText()).trimmed());
+    m_redo->setText(tr("&Redo %1").arg(histories.redoText()).trimmed());
     m_undo->setToolTip(tr("Undo: %1").arg(histories.undoText()));
     m_redo->setToolTip(tr("Redo: %1").arg(histories.redoText()));
-}
-
-QString CanvasBar::askName(File what)
-{
-    QFileDialog dialog(this);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setFileMode(what == File::Open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    dialog.setAcceptMode(what == File::Open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-    if (what == File::Export) {
-        dialog.setWindowTitle(tr("Export board"));
-        dialog.setNameFilters({tr("Gerber (*.gbr)"), tr("Picture (*.png)"), tr("Drawing (*.svg)")});
-    } else {
-        dialog.setWindowTitle(what == File::Open ? tr("Open board") : tr("Save board"));
-        dialog.setNameFilter(tr("Board (*.json)"));
-        dialog.setDefaultSuffix(QStringLiteral("json"));
-    }
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
-
-void CanvasBar::run(File what)
-{
-    const QString file = askName(what);
-    if (file.isEmpty()) {
-        return;
-    }
-    Document& document = m_canvas.document();
-    const QString error = what == File::Open   ? BoardFiles::open(document, file)
-                          : what == File::Save ? BoardFiles::save(document, file)
-                                               : BoardFiles::exportTo(document, file);
-    if (error.isEmpty()) {
-        m_canvas.say(what == File::Open ? tr("Opened %1.").arg(file) : tr("Wrote %1.").arg(file));
-    } else {
-        QMessageBox::warning(this, tr("Board"), error);
-    }
 }

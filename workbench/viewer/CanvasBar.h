@@ -5,24 +5,22 @@
 #include <QToolBar>
 
 class BoardView;
+class FileActions;
 class QAction;
 
-/// The canvas's own actions: undo and redo, zoom, files.
+/// The canvas's own actions: undo and redo, zoom; and those of its files.
 class CanvasBar : public QToolBar {
     Q_OBJECT
 
 public:
-    CanvasBar(CanvasController& canvas, BoardView& view, QWidget* parent);
+    CanvasBar(CanvasController& canvas, BoardView& view, const FileActions& files, QWidget* parent);
 
     void retranslate();
 
 private:
-    enum class File { Open, Save, Export };
-
     QAction* add(const char* objectName, const QKeySequence& shortcut);
+    void place(QAction* action, const char* objectName);
     void nameHistory();
-    void run(File what);
-    QString askName(File what);
 
     CanvasController& m_canvas;
     QAction* m_undo;
@@ -30,7 +28,4 @@ private:
     QAction* m_fit;
     QAction* m_zoomIn;
     QAction* m_zoomOut;
-    QAction* m_open;
-    QAction* m_save;
-    QAction* m_export;
 };

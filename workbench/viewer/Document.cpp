@@ -16,6 +16,7 @@ public:
     }
     void undo() override { m_document.setState(m_before); }
     void redo() override { m_document.setState(m_after); }
+    bool changesBoard() const { return !(m_before.board == m_after.board); }
 
 private:
     Document& m_document;
@@ -63,6 +64,17 @@ void Document::replace(const Pcb::Board& board)
 {
     m_history.clear();
     setState({board, {}, {}, {}});
+}
+
+bool Document::isModified() const
+{
+    const int saved = m_history.cleanIndex();
+    bool modified = saved < 0;  // undone, and gone for good
+    for (int i = qMin(saved, m_history.index()); !modified && i < qMax(saved, m_history.index());
+         ++i) {
+        modified = static_cast<const StateChange*>(m_history.command(i))->changesBoard();
+    }
+    return modified;
 }
 
 void Document::setState(const CanvasState& state)

@@ -39,6 +39,11 @@ public:
     const Pcb::Board& board() const { return m_state.board; }
     QUndoStack& history() { return m_history; }
 
+    /// Whether the board is another than when it was opened or saved last. What is selected, marked
+    /// or highlighted is not saved and does not count.
+    bool isModified() const;
+    void setSaved() { m_history.setClean(); }
+
     /// Makes `after` the state, as one entry of the history named `text`. Nothing happens when it
     /// is the state already.
     void apply(const QString& text, const CanvasState& after);

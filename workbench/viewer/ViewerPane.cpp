@@ -4,6 +4,8 @@
 #include "viewer/BoardFiles.h"
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
+#include "viewer/EditActions.h"
+#include "viewer/FileActions.h"
 #include "viewer/Inspector.h"
 
 #include <CommonWidgetsStandIn.h>
@@ -25,13 +27,29 @@ QLabel* createLabel(const char* name, QWidget* parent)
     return label;
 }
 
+/// The error that `work` ends with.
+template <class Work>
+CanvasHost::FileError errorOf(Work work)
+{
+    try {
+        work();
+    } catch (const CanvasHost::FileError& error) {
+        return error;
+    }
+    return {};
+}
+
 }  // namespace
 
 ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
 {
     setObjectName(QStringLiteral("m_pViewer"));
     m_view = new BoardView(&m_canvas.scene(), this);
-    m_bar = new CanvasBar(m_canvas, *m_view, this);
+    // What is dropped is the window's, which opens it.
+    m_view->viewport()->setAcceptDrops(false);
+    m_files = new FileActions(m_canvas, this);
+    m_edits = new EditActions(m_canvas, this);
+    m_bar = new CanvasBar(m_canvas, *m_view, *m_files, this);
     m_inspector = new Inspector(this);
     auto* const head = createHead();
 
@@ -101,21 +119,20 @@ void ViewerPane::connectCanvas()
     });
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
+    connect(m_files, &FileActions::opened, m_view, &BoardView::fit);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, &m_canvas,
             &CanvasController::cancel);
     CanvasHost::setMeasureStarted([this] { startMeasuring(); });
 }
 
-QString ViewerPane::openBoard(const QString& file)
+CanvasHost::FileError ViewerPane::openBoard(const QString& file)
 {
-    QString error = BoardFiles::open(m_canvas.document(), file);
-    m_view->fit();
-    return error;
+    return errorOf([&] { m_files->openAtOnce(file); });
 }
 
-QString ViewerPane::exportBoard(const QString& file)
+CanvasHost::FileError ViewerPane::exportBoard(const QString& file)
 {
-    return BoardFiles::exportTo(m_canvas.document(), file);
+    return errorOf([&] { BoardFiles::exportTo(m_canvas.document(), file); });
 }
 
 void ViewerPane::openSecondView()
@@ -158,6 +175,8 @@ void ViewerPane::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         m_inspector->retranslate();
+        m_files->retranslate();
+        m_edits->retranslate();
         m_bar->retranslate();
         retranslate();
     }

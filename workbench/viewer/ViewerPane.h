@@ -4,6 +4,7 @@
 #include "viewer/CanvasController.h"
 #include "viewer/ToolSet.h"
 
+#include <FileError.h>
 #include <PluginMetaData.h>
 
 #include <QPointer>
@@ -11,6 +12,8 @@
 
 class BoardView;
 class CanvasBar;
+class EditActions;
+class FileActions;
 class Inspector;
 class PlaceTool;
 class QLabel;
@@ -29,9 +32,10 @@ public:
 
     CanvasController& canvas() { return m_canvas; }
 
-    /// For those who control the canvas from outside: what went wrong, empty when nothing did.
-    Q_INVOKABLE QString openBoard(const QString& file);
-    Q_INVOKABLE QString exportBoard(const QString& file);
+    /// For those who control the canvas from outside, by name: no exception passes such a call, so
+    /// that the error is returned; its reason is empty when there was none.
+    Q_INVOKABLE CanvasHost::FileError openBoard(const QString& file);
+    Q_INVOKABLE CanvasHost::FileError exportBoard(const QString& file);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -61,6 +65,8 @@ private:
     QWidget* m_parent;
     CanvasController m_canvas;
     BoardView* m_view;
+    FileActions* m_files;
+    EditActions* m_edits;
     CanvasBar* m_bar;
     Inspector* m_inspector;
     QLabel* m_pActiveToolLB;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLibraryInfo>
 
 Language::Language(const QString& moduleDirectory) : m_moduleDirectory(moduleDirectory) {}
 
@@ -9,8 +10,10 @@ void Language::set(const QString& code)
 {
     const QDir modules(m_moduleDirectory);
     const QStringList folders{modules.filePath(QStringLiteral("../translations")),
-                              modules.filePath(QStringLiteral("translations"))};
+                              modules.filePath(QStringLiteral("translations")),
+                              QLibraryInfo::location(QLibraryInfo::TranslationsPath)};
     const std::pair<QTranslator*, QString> all[] = {
+        {&m_qt, QStringLiteral("qtbase_")},
         {&m_module, QStringLiteral("Canvas_Tool_Strip_")},
         {&m_workbench, QStringLiteral("workbench_")},
     };

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QTranslator>
 
-/// The language of the program: the translations of the module and of the workbench itself.
+/// The language of the program: the translations of Qt, of the module and of the workbench itself.
 class Language {
 public:
     /// Translations are looked for in "translations" beside and in `moduleDirectory`.
@@ -14,6 +14,7 @@ public:
 
 private:
     QString m_moduleDirectory;
+    QTranslator m_qt;
     QTranslator m_module;
     QTranslator m_workbench;
 };

@@ -1,10 +1,14 @@
 #include "window/ModulePlace.h"
 
+#include <FileError.h>
 #include <PluginManagerStandIn.h>
 
+#include <QCoreApplication>
 #include <QLayout>
 #include <QVBoxLayout>
 #include <QWidget>
+
+#include <memory>
 
 ModulePlace::ModulePlace(const QString& moduleName, QWidget* holder)
     : m_moduleName(moduleName), m_holder(holder)
@@ -16,13 +20,14 @@ ModulePlace::~ModulePlace()
     clear();
 }
 
-bool ModulePlace::fill(const QString& directory, QString* error)
+void ModulePlace::fill(const QString& directory)
 {
     clear();
-    m_panel = new QWidget(m_holder);
-    m_panel->setObjectName(m_holder->objectName() + QStringLiteral("Panel"));
+    auto panel = std::make_unique<QWidget>(m_holder);
+    panel->setObjectName(m_holder->objectName() + QStringLiteral("Panel"));
+    m_instance = CanvasHost::loadModule(m_moduleName, directory, panel.get());
+    m_panel = panel.release();
     // A module is a layout to be placed, or a widget.
-    m_instance = CanvasHost::loadModule(m_moduleName, directory, m_panel, error);
     auto* const object = static_cast<QObject*>(m_instance);
     if (auto* const layout = qobject_cast<QLayout*>(object)) {
         m_panel->setLayout(layout);
@@ -34,14 +39,12 @@ bool ModulePlace::fill(const QString& directory, QString* error)
         around->addWidget(widget);
         m_holder->layout()->addWidget(m_panel);
     } else {
-        if (object) {
-            *error = QStringLiteral("%1: is neither a layout nor a widget").arg(m_moduleName);
-        }
         clear();
-        return false;
+        throw CanvasHost::FileError{
+            m_moduleName, 0,
+            QCoreApplication::translate("FileErrors", "is neither a layout nor a widget")};
     }
     m_panel->show();
-    return true;
 }
 
 void ModulePlace::clear()

@@ -13,9 +13,9 @@ public:
     ModulePlace(const QString& moduleName, QWidget* holder);
     ~ModulePlace();
 
-    /// Makes an instance in a new panel; the one before is deleted. On failure `error` names file
-    /// and reason, and the place is empty.
-    bool fill(const QString& directory, QString* error);
+    /// Makes an instance in a new panel; the one before is deleted. On failure a FileError is
+    /// thrown, and the place is empty.
+    void fill(const QString& directory);
     /// Takes the instance from the plug-in manager and deletes it with all its windows.
     void clear();
 

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -49,6 +50,11 @@ const QCommandLineOption exportOption(
     QStringLiteral("Write the board to <file>, after playing or the first paint: .json, .gbr "
                    "(Gerber), .png or .svg."),
     QStringLiteral("file"));
+const QCommandLineOption settingsOption(
+    QStringLiteral("settings"),
+    QStringLiteral("Keep the settings in <file>. Sessions, pictures and all that ends by itself "
+                   "begin without settings otherwise, and keep none."),
+    QStringLiteral("file"));
 const QCommandLineOption exitOption(QStringLiteral("exit"),
                                     QStringLiteral("Leave after playing, or the first paint."));
 const QCommandLineOption unitOption(QStringLiteral("unit"),
@@ -63,6 +69,10 @@ const QCommandLineOption fontSizeOption(QStringLiteral("font-size"),
                                         QStringLiteral("Start with a font of <points> (6 to 48)."),
                                         QStringLiteral("points"));
 
+const QCommandLineOption logOption(QStringLiteral("log"),
+                                   QStringLiteral("Show the debug lines of the modules as well."));
+const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("version")},
+                                       QStringLiteral("Show the version."));
 const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
                                     QStringLiteral("Show this help."));
 
@@ -91,7 +101,8 @@ QString defaultModuleDirectory()
 
 [[noreturn]] void refuse(const QString& reason)
 {
-    throw CanvasHost::FileError{QStringLiteral("workbench"), 0, reason};
+    throw CanvasHost::FileError{QStringLiteral("workbench"), 0,
+                                reason + QStringLiteral("; see --help")};
 }
 
 /// The choice that the option names.
@@ -161,14 +172,20 @@ Options Options::parse(const QStringList& arguments)
     parser.setApplicationDescription(
         QStringLiteral("A small host application for the Canvas Tool Strip."));
     parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
-                       recordOption, boardOption, exportOption, exitOption, unitOption,
-                       languageOption, darkOption, fontSizeOption, helpOption});
+                       recordOption, boardOption, exportOption, settingsOption, exitOption,
+                       unitOption, languageOption, darkOption, fontSizeOption, logOption,
+                       versionOption, helpOption});
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
-        refuse(parser.errorText());
+        // Qt ends some of its texts with a full stop.
+        refuse(parser.errorText().remove(QRegularExpression(QStringLiteral("\\.$"))));
     }
     if (parser.isSet(helpOption)) {
-        options.help = parser.helpText();
+        options.answer = parser.helpText();
+        return options;
+    }
+    if (parser.isSet(versionOption)) {
+        options.answer = QStringLiteral("workbench " WORKBENCH_VERSION "\n");
         return options;
     }
     if (!parser.positionalArguments().isEmpty()) {
@@ -188,6 +205,8 @@ Options Options::parse(const QStringList& arguments)
     options.boardFile = parser.value(boardOption);
     options.exportFile = parser.value(exportOption);
     options.exit = parser.isSet(exitOption);
+    options.settingsFile = parser.value(settingsOption);
+    options.log = parser.isSet(logOption);
     options.isDark = parser.isSet(darkOption);
     options.fontSize = ::fontSize(parser);
     options.language = QLatin1String(
@@ -206,8 +225,8 @@ Options Options::ofProgram(int argc, char* argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     Options options = parse(arguments);
-    if (!options.help.isEmpty()) {
-        fputs(qPrintable(options.help), stdout);
+    if (!options.answer.isEmpty()) {
+        fputs(qPrintable(options.answer), stdout);
         ::exit(EXIT_SUCCESS);
     }
     return options;

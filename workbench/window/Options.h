@@ -23,15 +23,18 @@ struct Options {
     QString recordFile;      ///< empty: nothing is recorded
     QString boardFile;       ///< empty: the canvas begins with its own
     QString exportFile;      ///< empty: nothing is exported
+    QString settingsFile;    ///< empty: the user's, or none where nobody works by hand
     bool exit = false;       ///< leave after playing, or after the first paint
+    bool log = false;        ///< debug lines go to the terminal
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
     QString language = QStringLiteral("en");
     bool isDark = false;
-    int fontSize = 0;   ///< in points; 0: as the desktop has it
-    QString help = {};  ///< to be shown; empty when it is not asked for
+    int fontSize = 0;     ///< in points; 0: as the desktop has it
+    QString answer = {};  ///< help or version, to be shown; empty when neither is asked for
 
     /// The options of the program, read before there is an application object. A wrong one is
-    /// thrown as a CanvasHost::FileError of the program; with --help the program ends here.
+    /// thrown as a CanvasHost::FileError of the program; with --help or --version the program ends
+    /// here.
     static Options ofProgram(int argc, char* argv[]);
     /// The same from `arguments` (the program's name first). The options of Qt itself ("-platform
     /// offscreen") are passed over.

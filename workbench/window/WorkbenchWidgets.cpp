@@ -2,22 +2,18 @@
 
 #include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
-#include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>
 #include <ui_api.h>
 
-#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -48,17 +44,18 @@ void WorkbenchWindow::createControls()
     auto* const bar = named(new QToolBar(this), "m_pHostTB");
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    auto* const box = new QWidget(bar);
-    auto* const layout = new QHBoxLayout(box);
-    layout->setContentsMargins(8, 4, 8, 4);
+    // Each by itself: what a narrow window has no room for goes behind the bar's arrow.
     const auto addCombo = [&](QLabel*& label, const char* labelName, const char* comboName) {
+        auto* const box = new QWidget(bar);
+        auto* const layout = new QHBoxLayout(box);
+        layout->setContentsMargins(8, 4, 6, 4);
         label = named(new QLabel(box), labelName);
         auto* const combo = named(new QComboBox(box), comboName);
         combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         label->setBuddy(combo);
         layout->addWidget(label);
         layout->addWidget(combo);
-        layout->addSpacing(14);
+        bar->addWidget(box);
         return combo;
     };
     m_pHostJobCMB = addCombo(m_pHostJobLB, "m_pHostJobLB", "m_pHostJobCMB");
@@ -80,20 +77,16 @@ void WorkbenchWindow::createControls()
             m_pHostLanguageCMB->setCurrentIndex(m_pHostLanguageCMB->count() - 1);
         }
     }
-    m_pHostEqCB = named(new QCheckBox(box), "m_pHostEqCB");
+    m_pHostEqCB = named(new QCheckBox(bar), "m_pHostEqCB");
     m_pHostEqCB->setChecked(ZENTRA::UIAPI::getEQVisible());
-    layout->addWidget(m_pHostEqCB);
-    layout->addStretch();
-    bar->addWidget(box);
+    bar->addWidget(m_pHostEqCB);
     addToolBar(bar);
 }
 
-QDockWidget* WorkbenchWindow::createDock(const char* name, Qt::DockWidgetArea area,
-                                         QWidget* content)
+QDockWidget* WorkbenchWindow::createDock(const char* name, QWidget* content)
 {
     auto* const dock = named(new QDockWidget(this), name);
     dock->setWidget(content);
-    addDockWidget(area, dock);
     return dock;
 }
 
@@ -103,66 +96,21 @@ void WorkbenchWindow::createDocks(MessageLog* log)
     QWidget* const jobTree = createHolder("m_pJobTreeHolder", 0);
     QWidget* const viewer = createHolder("m_pViewerHolder", 0);
     m_monitor = new MessageMonitor(log, this);
-    m_stripDock = createDock("m_pStripDock", Qt::LeftDockWidgetArea, strip);
-    m_jobTreeDock = createDock("m_pJobTreeDock", Qt::LeftDockWidgetArea, jobTree);
-    m_monitorDock = createDock("m_pMonitorDock", Qt::BottomDockWidgetArea, m_monitor);
+    m_stripDock = createDock("m_pStripDock", strip);
+    m_jobTreeDock = createDock("m_pJobTreeDock", jobTree);
+    m_monitorDock = createDock("m_pMonitorDock", m_monitor);
     setCentralWidget(viewer);
-    setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
+    m_layout = std::make_unique<WindowLayout>(
+        this, WindowLayout::Docks{m_stripDock, m_jobTreeDock, m_monitorDock});
     m_strip = std::make_unique<ModulePlace>(ModuleNames::toolStrip, strip);
     m_jobTree = std::make_unique<ModulePlace>(ModuleNames::jobTree, jobTree);
     m_viewer = std::make_unique<ModulePlace>(ModuleNames::viewer, viewer);
-    resizeDocks({m_stripDock}, {220}, Qt::Horizontal);
-    resizeDocks({m_monitorDock}, {260}, Qt::Vertical);
-}
-
-QAction* WorkbenchWindow::addEntry(QMenu* menu, const char* name, const char* text)
-{
-    QAction* const action = named(menu->addAction(QString()), name);
-    m_entries.append({action, text});
-    return action;
-}
-
-void WorkbenchWindow::createMenus()
-{
-    m_fileMenu = named(menuBar()->addMenu(QString()), "m_pFileMenu");
-    connect(addEntry(m_fileMenu, "m_pSaveTraceAct", QT_TR_NOOP("Save &Trace...")),
-            &QAction::triggered, m_monitor, &MessageMonitor::saveTrace);
-    connect(addEntry(m_fileMenu, "m_pSavePictureAct", QT_TR_NOOP("Save &Picture...")),
-            &QAction::triggered, this, &WorkbenchWindow::savePicture);
-    m_fileMenu->addSeparator();
-    QAction* const quit = addEntry(m_fileMenu, "m_pQuitAct", QT_TR_NOOP("&Quit"));
-    quit->setShortcut(QKeySequence::Quit);
-    connect(quit, &QAction::triggered, this, &QWidget::close);
-
-    m_toolsMenu = named(menuBar()->addMenu(QString()), "m_pToolsMenu");
-    bool tool = false;
-    for (const MessageNames::Row& row : MessageNames::accepted()) {
-        if (row.tool != tool) {
-            m_toolsMenu->addSeparator();
-            tool = row.tool;
-        }
-        QAction* const action = m_toolsMenu->addAction(QString());
-        action->setObjectName(QStringLiteral("m_pSend%1Act").arg(row.code));
-        action->setData(row.code);
-        m_sendActions.append(action);
-        connect(action, &QAction::triggered, m_host,
-                [this, code = row.code] { m_host->sendSample(code); });
-    }
-
-    m_viewMenu = named(menuBar()->addMenu(QString()), "m_pViewMenu");
-    for (QDockWidget* const dock : {m_stripDock, m_jobTreeDock, m_monitorDock}) {
-        m_viewMenu->addAction(dock->toggleViewAction());
-    }
-    m_viewMenu->addSeparator();
-    connect(addEntry(m_viewMenu, "m_pDimensionsAct", QT_TR_NOOP("&Dimensions Popup")),
-            &QAction::triggered, this, &WorkbenchWindow::openDimensions);
 }
 
 void WorkbenchWindow::retranslate()
 {
-    setWindowTitle(m_host->job().isEmpty()
-                       ? tr("Workbench")
-                       : tr("%1 / %2 - Workbench").arg(m_host->job(), m_host->step()));
+    showTitle();
+    retranslateMenus();
     m_pHostJobLB->setText(tr("&Job"));
     m_pHostStepLB->setText(tr("&Step"));
     m_pHostUnitLB->setText(tr("&Unit"));
@@ -176,15 +124,4 @@ void WorkbenchWindow::retranslate()
     m_stripDock->setWindowTitle(tr("Edit tools"));
     m_jobTreeDock->setWindowTitle(tr("Jobs"));
     m_monitorDock->setWindowTitle(tr("Messages"));
-    m_fileMenu->setTitle(tr("&File"));
-    m_toolsMenu->setTitle(tr("&Tools"));
-    m_viewMenu->setTitle(tr("&View"));
-    for (const Entry& entry : m_entries) {
-        entry.action->setText(tr(entry.text));
-    }
-    for (QAction* const action : m_sendActions) {
-        const int code = action->data().toInt();
-        action->setText(
-            tr("%1 (%2)").arg(MessageNames::text(ModuleNames::toolStrip, code)).arg(code));
-    }
 }

@@ -10,16 +10,17 @@
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
+#include <FileError.h>
 #include <PluginManagerStandIn.h>
 #include <ui_api.h>
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QEvent>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPixmap>
-#include <QScreen>
 #include <QSignalBlocker>
 
 namespace Accepted = MessageCodes::Accepted;
@@ -37,9 +38,7 @@ WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
     connectControls();
     CanvasHost::addInstance(CanvasHost::hostName, this, &WorkbenchWindow::receive, this);
     new WindowPlacer(this);
-    // At the left, so that the modules' windows find room beside it.
-    resize(1200, 860);
-    move(screen()->availableGeometry().topLeft() + QPoint(20, 40));
+    setAcceptDrops(true);
 }
 
 WorkbenchWindow::~WorkbenchWindow()
@@ -55,17 +54,17 @@ WorkbenchWindow::~WorkbenchWindow()
     CanvasHost::removeInstance(this);
 }
 
-bool WorkbenchWindow::start(QString* error)
+void WorkbenchWindow::start()
 {
     for (ModulePlace* const place : {m_viewer.get(), m_jobTree.get(), m_strip.get()}) {
-        if (!place->fill(m_options.moduleDirectory, error)) {
-            return false;
-        }
+        place->fill(m_options.moduleDirectory);
     }
+    addCanvasEntries();
+    retranslateMenus();
     if (const CanvasHost::Job* const job = CanvasHost::currentJob()) {
         m_host->openStep(QString::fromStdString(job->name));
     }
-    return true;
+    m_layout->restore();
 }
 
 void WorkbenchWindow::receive(void* window, PluginMetaData message)
@@ -119,12 +118,12 @@ void WorkbenchWindow::showEq(bool visible)
 {
     // The strip asks once, while it is made: a host makes a new one.
     CanvasHost::setEQVisible(visible);
-    QString error;
-    if (!m_strip->fill(m_options.moduleDirectory, &error)) {
-        QMessageBox::warning(this, tr("Modules"), error);
-        return;
+    try {
+        m_strip->fill(m_options.moduleDirectory);
+        m_host->announceJob();
+    } catch (const CanvasHost::FileError& error) {
+        QMessageBox::warning(this, tr("Modules"), error.text());
     }
-    m_host->announceJob();
 }
 
 void WorkbenchWindow::savePicture()
@@ -139,18 +138,16 @@ void WorkbenchWindow::savePicture()
 
 void WorkbenchWindow::openDimensions()
 {
-    if (!m_dimensions) {
-        QString error;
-        void* const instance = CanvasHost::loadModule(QStringLiteral("Canvas_Dimensions.dll"),
-                                                      m_options.moduleDirectory, this, &error);
-        m_dimensions = qobject_cast<QWidget*>(static_cast<QObject*>(instance));
+    try {
         if (!m_dimensions) {
-            QMessageBox::warning(this, tr("Modules"), error);
-            return;
+            m_dimensions = static_cast<QWidget*>(static_cast<QObject*>(CanvasHost::loadModule(
+                QStringLiteral("Canvas_Dimensions.dll"), m_options.moduleDirectory, this)));
         }
+        m_dimensions->show();
+        m_dimensions->raise();
+    } catch (const CanvasHost::FileError& error) {
+        QMessageBox::warning(this, tr("Modules"), error.text());
     }
-    m_dimensions->show();
-    m_dimensions->raise();
 }
 
 void WorkbenchWindow::compose()
@@ -161,6 +158,15 @@ void WorkbenchWindow::compose()
     m_compose->show();
     m_compose->raise();
     m_compose->activateWindow();
+}
+
+void WorkbenchWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(mayClose());
+    if (event->isAccepted()) {
+        m_layout->save();
+        Q_EMIT closed();
+    }
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event)

@@ -3,12 +3,14 @@
 #include "window/Language.h"
 #include "window/ModulePlace.h"
 #include "window/Options.h"
+#include "window/WindowLayout.h"
 
 #include <PluginMetaData.h>
 
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 class ComposeDialog;
@@ -32,13 +34,26 @@ public:
     WorkbenchWindow(const Options& options, MessageLog* log);
     ~WorkbenchWindow() override;
 
-    /// Loads the modules and opens the first job. On failure `error` names file and reason.
-    bool start(QString* error);
+    /// Loads the modules, opens the first job, and takes the place on the screen. Throws a
+    /// FileError.
+    void start();
 
     HostState* host() const { return m_host; }
 
+    /// Whether a user is there to be asked before changes of a board are lost.
+    void setMayAsk(const std::function<bool()>& mayAsk);
+
+Q_SIGNALS:
+    void closed();
+
 protected:
     void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private Q_SLOTS:
+    void showTitle();
 
 private:
     /// A menu entry and its text, which is read again when the language changes.
@@ -51,8 +66,10 @@ private:
 
     void createControls();
     void createDocks(MessageLog* log);
-    QDockWidget* createDock(const char* name, Qt::DockWidgetArea area, QWidget* content);
+    QDockWidget* createDock(const char* name, QWidget* content);
     void createMenus();
+    void createSendEntries();
+    void addCanvasEntries();
     QAction* addEntry(QMenu* menu, const char* name, const char* text);
     void connectControls();
 
@@ -62,7 +79,12 @@ private:
     void savePicture();
     void openDimensions();
     void compose();
+    void showAbout();
+    void listRecentFiles();
+    void openBoard(const QString& file);
+    bool mayClose() const;
     void retranslate();
+    void retranslateMenus();
 
     Options m_options;
     Language m_language;
@@ -81,12 +103,17 @@ private:
     QDockWidget* m_jobTreeDock;
     QDockWidget* m_monitorDock;
     QMenu* m_fileMenu;
-    QMenu* m_toolsMenu;
+    QMenu* m_recentMenu = nullptr;
+    QMenu* m_editMenu;
     QMenu* m_viewMenu;
+    QMenu* m_sendMenu;
+    QMenu* m_helpMenu;
+    QPointer<QObject> m_boardFiles;  // the canvas's, see FileActions
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
     ComposeDialog* m_compose = nullptr;  // made when it is first asked for
     QPointer<QWidget> m_dimensions;      // a window of its own, made when it is first asked for
+    std::unique_ptr<WindowLayout> m_layout;
     std::unique_ptr<ModulePlace> m_strip;
     std::unique_ptr<ModulePlace> m_viewer;
     std::unique_ptr<ModulePlace> m_jobTree;

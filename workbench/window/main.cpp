@@ -4,17 +4,23 @@
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
+#include "window/Display.h"
+#include "window/Look.h"
 #include "window/Options.h"
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>
 #include <FileError.h>
+#include <Settings.h>
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <QLoggingCategory>
 #include <QPixmap>
-#include <QStyleFactory>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWindow>
 
@@ -24,42 +30,11 @@ using CanvasHost::FileError;
 
 namespace {
 
-QPalette darkPalette()
-{
-    QPalette palette(QColor(0x35, 0x38, 0x3d), QColor(0x2d, 0x30, 0x34));
-    palette.setColor(QPalette::Base, QColor(0x22, 0x24, 0x28));
-    palette.setColor(QPalette::AlternateBase, QColor(0x2a, 0x2d, 0x31));
-    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x7d, 0xd1));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0xa0, 0xa8));
-    return palette;
-}
-
-/// The look that the options ask for, set before any window is made.
-void dress(const Options& options)
-{
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    if (options.isDark) {
-        QApplication::setPalette(darkPalette());
-    }
-    if (options.fontSize > 0) {
-        QFont font = QApplication::font();
-        font.setPointSize(options.fontSize);
-        QApplication::setFont(font);
-    }
-}
-
 enum ExitStatus { Good = 0, StepFailed = 1, BadInput = 2 };
 
 void complain(const QString& text)
 {
     fprintf(stderr, "%s\n", qUtf8Printable(text));
-}
-
-/// Words of others, who have put the place in front already.
-[[noreturn]] void refuse(const QString& text)
-{
-    throw FileError{{}, 0, text};
 }
 
 /// What the command line names, read and opened.
@@ -88,6 +63,19 @@ void readInputs(int argc, char* argv[], Inputs* inputs)
     }
 }
 
+/// The file of the settings: the user's where a user is at work, otherwise a new one in `own`.
+QString settingsFile(const Options& options, const QTemporaryDir& own)
+{
+    if (!options.settingsFile.isEmpty()) {
+        return options.settingsFile;
+    }
+    const bool byHand = !options.exit && options.sessionFile.isEmpty() &&
+                        options.recordFile.isEmpty() && options.screenshotFile.isEmpty();
+    return byHand ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                        QStringLiteral("/canvas-tool-strip/workbench.ini")
+                  : own.filePath(QStringLiteral("workbench.ini"));
+}
+
 /// Calls `then` when `window` has been on the screen for a moment.
 void whenPainted(QWidget* window, const std::function<void()>& then)
 {
@@ -109,13 +97,14 @@ void askCanvas(QWidget* window, const char* method, const QString& file)
         return;
     }
     auto* const canvas = window->findChild<QWidget*>(QStringLiteral("m_pViewer"));
-    QString error;
-    if (!canvas || !QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(QString, error),
-                                              Q_ARG(QString, file))) {
+    FileError error;
+    if (!canvas ||
+        !QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(CanvasHost::FileError, error),
+                                   Q_ARG(QString, file))) {
         throw FileError{file, 0, QStringLiteral("the canvas knows no %1").arg(method)};
     }
-    if (!error.isEmpty()) {
-        refuse(error);
+    if (!error.reason.isEmpty()) {
+        throw error;
     }
 }
 
@@ -124,7 +113,8 @@ void writeOutputs(const Options& options, QWidget* window)
 {
     askCanvas(window, "exportBoard", options.exportFile);
     if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
-        throw FileError{options.screenshotFile, 0, QStringLiteral("the picture cannot be written")};
+        throw FileError{options.screenshotFile, 0,
+                        QCoreApplication::translate("FileErrors", "the picture cannot be written")};
     }
 }
 
@@ -145,32 +135,36 @@ int run(int argc, char* argv[])
 {
     Inputs inputs;
     readInputs(argc, argv, &inputs);
-    QApplication application(argc, argv);
+    if (!inputs.options.log) {
+        QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    }
+    const auto application = openApplication(argc, argv, BadInput);
     QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
     QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
-    dress(inputs.options);
+    const QTemporaryDir ownSettings;
+    CanvasHost::Settings::keepIn(settingsFile(inputs.options, ownSettings));
+    Look::dress(inputs.options);
     MessageLog log;
-    QObject::connect(&log, &MessageLog::appended, &application,
+    QObject::connect(&log, &MessageLog::appended, application.get(),
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
-    QString error;
-    if (!window.start(&error)) {
-        refuse(error);
-    }
+    window.start();
     askCanvas(&window, "openBoard", inputs.options.boardFile);
     SessionRecorder recorder(&window);
     if (!inputs.options.recordFile.isEmpty()) {
         recorder.start(inputs.options.recordFile);
     }
     SessionPlayer player(inputs.session, window.host(), &window, &log);
-    QObject::connect(&player, &SessionPlayer::noted, &application, complain);
-    QObject::connect(&player, &SessionPlayer::failed, &application, [](const QString& text) {
+    QObject::connect(&player, &SessionPlayer::noted, application.get(), complain);
+    QObject::connect(&player, &SessionPlayer::failed, application.get(), [](const QString& text) {
         complain(text);
         QCoreApplication::exit(StepFailed);
     });
     QObject::connect(&player, &SessionPlayer::finished, &window,
                      [&] { end(inputs.options, &window); });
+    QObject::connect(&window, &WorkbenchWindow::closed, application.get(), &QCoreApplication::quit);
+    window.setMayAsk([&] { return player.isOver() ? !inputs.options.exit : player.expectsBox(); });
     window.show();
     whenPainted(&window, [&] { player.start(); });
     return QApplication::exec();

@@ -150,7 +150,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, beginning);
         const QTemporaryDir directory;
         const CanvasFixture fixture(twoPads());
-        QCOMPARE(fixture.pane->exportBoard(directory.filePath(name)), QString());
+        QCOMPARE(fixture.pane->exportBoard(directory.filePath(name)).text(), QString());
         QFile file(directory.filePath(name));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray text = file.readAll();
@@ -160,9 +160,13 @@ private Q_SLOTS:
     void whatCannotBeWrittenIsTold()
     {
         const CanvasFixture fixture(twoPads());
-        QVERIFY(fixture.pane->exportBoard("/no/such/place/board.gbr").startsWith("/no/such/place"));
-        QVERIFY(fixture.pane->exportBoard("board.txt").contains("must end in"));
-        QVERIFY(fixture.pane->openBoard("/no/such/file.json").startsWith("/no/such/file.json: "));
+        const auto exported = [&](const char* file) {
+            return fixture.pane->exportBoard(file).text();
+        };
+        QVERIFY(exported("/no/such/place/board.gbr").startsWith("/no/such/place"));
+        QVERIFY(exported("board.txt").startsWith("board.txt: the name must end in"));
+        const QString opened = fixture.pane->openBoard("/no/such/file.json").text();
+        QVERIFY(opened.startsWith("/no/such/file.json: "));
     }
 
     void whatIsOpenedIsWhatIsSaved()

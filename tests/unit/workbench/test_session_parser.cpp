@@ -145,7 +145,7 @@ private Q_SLOTS:
         row("canvas click inf 2", "\"inf\" is no length (a number, and um, mm, mil or inch)");
         row("canvas click 1 2 3", "wrong number of words; usage: canvas click X Y");
         row("canvas wheel 1 2", "wrong number of words; usage: canvas wheel X Y NOTCHES");
-        row("box open", "\"open\" is no answer; known are accept, reject");
+        row("box open", "\"open\" is no answer; known are accept, reject, discard");
         row("box accept colour=red", "\"colour=red\" is neither title=... nor text=...");
         row("expect rain", "\"rain\" cannot be expected; known are message, nothing, state");
         row("expect message", "\"\" is no message code");

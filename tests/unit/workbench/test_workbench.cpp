@@ -96,7 +96,8 @@ private Q_SLOTS:
         const Options options =
             parsed({"--modules", "m", "--job", "j", "--trace", "t", "--screenshot", "s.png",
                     "--play", "p", "--exit", "--unit", "mm", "--language", "zh_CN"});
-        QCOMPARE(options.help, QString());
+        QCOMPARE(options.answer, QString());
+        QVERIFY(!options.log);
         QCOMPARE(options.moduleDirectory, QString("m"));
         QCOMPARE(options.jobFile, QString("j"));
         QCOMPARE(options.traceFile, QString("t"));
@@ -105,7 +106,7 @@ private Q_SLOTS:
         QVERIFY(options.exit);
         QCOMPARE(options.unit, CanvasHost::DisplayUnit::Millimetre);
         QCOMPARE(options.language, QString("zh_CN"));
-        const QString help = parsed({"--help"}).help;
+        const QString help = parsed({"--help"}).answer;
         for (const char* const option : {"--modules", "--job", "--trace", "--screenshot", "--play",
                                          "--exit", "--unit", "--language"}) {
             QVERIFY2(help.contains(option), option);
@@ -158,7 +159,15 @@ private Q_SLOTS:
         QFETCH(QString, names);
         const QString error = errorOf([&] { parsed(arguments); });
         QVERIFY2(error.startsWith("workbench: ") && error.contains(names), qPrintable(error));
+        QVERIFY2(error.endsWith("; see --help"), qPrintable(error));
         QVERIFY(!error.contains('\n'));
+    }
+
+    void version()
+    {
+        QVERIFY(QRegularExpression("^workbench \\d+\\.\\d+\\.\\d+\n$")
+                    .match(parsed({"--version"}).answer)
+                    .hasMatch());
     }
 
     void sessions()

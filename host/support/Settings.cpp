@@ -1,0 +1,37 @@
+#include "Settings.h"
+
+#include <QCoreApplication>
+#include <QSettings>
+
+namespace CanvasHost {
+
+namespace {
+
+// The modules that remember something have this code each, and the application object in common.
+constexpr const char* fileProperty = "settingsFile";
+
+}  // namespace
+
+void Settings::keepIn(const QString& file)
+{
+    qApp->setProperty(fileProperty, file);
+}
+
+QString Settings::file()
+{
+    return qApp->property(fileProperty).toString();
+}
+
+QVariant Settings::value(const QString& key)
+{
+    return file().isEmpty() ? QVariant() : QSettings(file(), QSettings::IniFormat).value(key);
+}
+
+void Settings::set(const QString& key, const QVariant& value)
+{
+    if (!file().isEmpty()) {
+        QSettings(file(), QSettings::IniFormat).setValue(key, value);
+    }
+}
+
+}  // namespace CanvasHost

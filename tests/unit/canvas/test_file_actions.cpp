@@ -1,0 +1,272 @@
+// The board as a file: what is not saved is not lost without a word.
+
+#include "CanvasFixture.h"
+#include "Main.h"
+#include "board/BoardFile.h"
+#include "viewer/FileActions.h"
+
+#include <Settings.h>
+
+#include <QAction>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
+
+namespace {
+
+class FileFixture : public CanvasFixture {
+public:
+    FileFixture()
+        : CanvasFixture({Pcb::Feature(Pcb::padGeometry("r60", {5000, 5000})),
+                         Pcb::Feature(Pcb::padGeometry("s60", {9000, 5000}))})
+    {
+    }
+
+    FileActions& files() const { return *pane->findChild<FileActions*>("m_pBoardFiles"); }
+    QAction& action(const char* name) const { return *pane->findChild<QAction*>(name); }
+    QString path(const char* name) const { return directory.filePath(name); }
+    void deleteAll() const
+    {
+        action("m_pSelectAllAct").trigger();
+        action("m_pDeleteAct").trigger();
+    }
+    /// Saves the board as the file that is open from now on.
+    bool save(const char* name) const
+    {
+        QDir(directory.path()).mkpath(QFileInfo(name).path());
+        Pcb::writeBoardFile(document().board(), path(name));
+        files().openAtOnce(path(name));
+        return files().file() == path(name);
+    }
+    QByteArray saved(const char* name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir directory;
+};
+
+/// Answers the next box, and counts it.
+class Answer {
+public:
+    explicit Answer(QMessageBox::StandardButton button)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this, button] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                texts.append(box->windowTitle() + "|" + box->text());
+                box->button(button)->click();
+            }
+        });
+        m_timer.start(10);
+    }
+    QStringList texts;
+
+private:
+    QTimer m_timer;
+};
+
+/// Answers the next file dialog as a user does; without a name leaves it.
+class Chosen {
+public:
+    explicit Chosen(const QString& file = {}, int filter = 0)
+    {
+        QTimer::singleShot(100, [this, file, filter] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog) {
+                return;
+            }
+            auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
+            offered = name.text();
+            folder = dialog->directory().path();
+            if (filter > 0) {
+                dialog->selectNameFilter(dialog->nameFilters().at(filter));
+                Q_EMIT dialog->filterSelected(dialog->nameFilters().at(filter));
+            }
+            if (file.isEmpty()) {
+                dialog->reject();
+                return;
+            }
+            name.setText(file);
+            QTest::keyClick(&name, Qt::Key_Return);
+        });
+    }
+    QString offered;
+    QString folder;
+};
+
+}  // namespace
+
+class TestFileActions : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { CanvasHost::Settings::keepIn({}); }
+
+    void onlyTheBoardCountsAsChanged()
+    {
+        const FileFixture fixture;
+        QVERIFY(!fixture.files().isModified());
+        fixture.action("m_pSelectAllAct").trigger();
+        QCOMPARE(int(fixture.state().selected.size()), 2);
+        QVERIFY(!fixture.files().isModified());
+        fixture.action("m_pDeselectAct").trigger();
+        QVERIFY(fixture.state().selected.empty());
+        fixture.action("m_pDeleteAct").trigger();
+        QCOMPARE(int(fixture.features().size()), 2);
+        fixture.deleteAll();
+        QVERIFY(fixture.features().empty());
+        QVERIFY(fixture.files().isModified());
+        fixture.document().history().undo();
+        QVERIFY(!fixture.files().isModified());
+    }
+
+    void savingKeepsTheHistory()
+    {
+        const FileFixture fixture;
+        const Chosen chosen(fixture.path("a"));
+        fixture.deleteAll();
+        fixture.action("m_pSaveBoardAct").trigger();  // nothing is open: asks for a name
+        QCOMPARE(chosen.offered, QString("job-step.json"));
+        QCOMPARE(fixture.files().file(), fixture.path("a.json"));
+        QVERIFY(!fixture.files().isModified());
+        fixture.document().history().undo();
+        QCOMPARE(int(fixture.features().size()), 2);
+        QVERIFY(fixture.files().isModified());
+        const int before = fixture.saved("a.json").size();
+        fixture.action("m_pSaveBoardAct").trigger();  // to the file that is open
+        QVERIFY(fixture.saved("a.json").size() > before);
+        QVERIFY(!fixture.files().isModified());
+        QVERIFY(fixture.document().history().canRedo());
+    }
+
+    void openingAsksFirst()
+    {
+        const FileFixture fixture;
+        QVERIFY(fixture.save("two.json"));
+        fixture.deleteAll();
+        {
+            const Answer cancel(QMessageBox::Cancel);
+            QVERIFY(!fixture.files().open(fixture.path("two.json")));
+            QCOMPARE(
+                cancel.texts,
+                QStringList("Unsaved Changes|\"two.json\" has been changed. Save the changes?"));
+        }
+        QVERIFY(fixture.features().empty());
+        {
+            const Answer discard(QMessageBox::Discard);
+            QVERIFY(fixture.files().open(fixture.path("two.json")));
+            QCOMPARE(discard.texts.size(), 1);
+        }
+        QCOMPARE(int(fixture.features().size()), 2);
+        fixture.deleteAll();
+        const Answer save(QMessageBox::Save);
+        QVERIFY(fixture.files().open(fixture.path("two.json")));
+        QVERIFY(fixture.features().empty());  // as it was saved a moment ago
+        QCOMPARE(save.texts.size(), 1);
+    }
+
+    void aNewBoardAsksFirst()
+    {
+        const FileFixture fixture;
+        QVERIFY(fixture.save("two.json"));
+        fixture.deleteAll();
+        const Answer cancel(QMessageBox::Cancel);
+        fixture.action("m_pNewBoardAct").trigger();
+        QCOMPARE(cancel.texts.size(), 1);
+        fixture.document().history().undo();
+        fixture.action("m_pNewBoardAct").trigger();
+        QCOMPARE(cancel.texts.size(), 1);
+        QVERIFY(fixture.features().empty());
+        QCOMPARE(fixture.files().file(), QString());
+        QVERIFY(!fixture.document().board().outline.isEmpty());
+    }
+
+    void eachStepKeepsItsBoardAndItsFile()
+    {
+        const FileFixture fixture;
+        CanvasController& canvas = fixture.pane->canvas();
+        QVERIFY(fixture.save("two.json"));
+        fixture.deleteAll();
+        canvas.openStep("demo", "pcb");
+        QCOMPARE(fixture.files().file(), QString());
+        QVERIFY(!fixture.files().isModified());
+        fixture.deleteAll();
+        const Answer discard(QMessageBox::Discard);
+        QVERIFY(fixture.files().mayClose());
+        QCOMPARE(discard.texts.size(), 2);
+        QVERIFY(discard.texts[0].contains("\"two.json\""));
+        QVERIFY(discard.texts[1].contains("\"demo-pcb.json\""));
+        canvas.openStep({}, {});
+        QCOMPARE(fixture.files().file(), fixture.path("two.json"));
+        QVERIFY(fixture.features().empty());
+        QVERIFY(fixture.files().isModified());
+    }
+
+    void whatIsNotSavedKeepsTheWindowOpen()
+    {
+        const FileFixture fixture;
+        QVERIFY(fixture.files().mayClose());
+        fixture.deleteAll();
+        {
+            const Answer cancel(QMessageBox::Cancel);
+            QVERIFY(!fixture.files().mayClose());
+        }
+        fixture.files().setMayAsk([] { return false; });
+        QVERIFY(fixture.files().mayClose());
+    }
+
+    void aBoardThatFailsToBeSavedIsKept()
+    {
+        const FileFixture fixture;
+        QVERIFY(fixture.save("folder/two.json"));
+        fixture.deleteAll();
+        QVERIFY(QDir(fixture.path("folder")).removeRecursively());
+        int boxes = 0;
+        QTimer answers;
+        connect(&answers, &QTimer::timeout, [&] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                ++boxes;
+                box->button(boxes == 1 ? QMessageBox::Save : QMessageBox::Ok)->click();
+            }
+        });
+        answers.start(10);
+        QVERIFY(!fixture.files().mayClose());
+        QCOMPARE(boxes, 2);
+        QVERIFY(fixture.files().isModified());
+    }
+
+    void exportsTakeTheSuffixOfTheirKind()
+    {
+        const FileFixture fixture;
+        for (const auto& [filter, suffix] :
+             {std::pair<int, QString>{0, "gbr"}, {1, "png"}, {2, "svg"}}) {
+            const Chosen chosen(fixture.path("drawn"), filter);
+            fixture.action("m_pExportBoardAct").trigger();
+            QCOMPARE(chosen.offered, QString("job-step"));
+            QVERIFY2(QFileInfo::exists(fixture.path("drawn") + "." + suffix), qPrintable(suffix));
+        }
+    }
+
+    void folderAndRecentFilesAreRemembered()
+    {
+        const FileFixture fixture;
+        CanvasHost::Settings::keepIn(fixture.path("settings.ini"));
+        QVERIFY(QDir(fixture.directory.path()).mkdir("boards"));
+        const Chosen first(fixture.path("boards/one.json"));
+        fixture.action("m_pSaveBoardAsAct").trigger();
+        const Chosen second(fixture.path("boards/other.json"));
+        fixture.action("m_pSaveBoardAsAct").trigger();
+        QCOMPARE(second.folder, fixture.path("boards"));
+        QCOMPARE(second.offered, QString("one.json"));
+        const Chosen again;
+        fixture.action("m_pOpenBoardAct").trigger();
+        QCOMPARE(again.folder, fixture.path("boards"));
+        QCOMPARE(CanvasHost::Settings::value("files/recent").toStringList(),
+                 QStringList({fixture.path("boards/other.json"), fixture.path("boards/one.json")}));
+    }
+};
+
+CTS_MAIN(TestFileActions)
+#include "test_file_actions.moc"

@@ -1,0 +1,171 @@
+// How the program looks: edges in the dark palette, large fonts, the texts of files and of Qt.
+
+#include "ErrorOf.h"
+#include "FindChild.h"
+#include "Main.h"
+#include "messages/MessageLog.h"
+#include "window/Language.h"
+#include "window/Look.h"
+#include "window/WorkbenchWindow.h"
+
+#include <CamApiStandIn.h>
+#include <Files.h>
+#include <Json.h>
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTableView>
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+double luminance(const QColor& colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+/// The ratio by which accessibility is judged: a part that must be seen has 3 or more.
+double contrast(const QColor& one, const QColor& other)
+{
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(other) + 0.05;
+    return qMax(a, b) / qMin(a, b);
+}
+
+bool isChinese(const QString& text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar c) { return c.unicode() >= 0x4e00 && c.unicode() < 0xa000; });
+}
+
+}  // namespace
+
+class TestLook : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void darkFieldsHaveEdges()
+    {
+        Options options;
+        options.isDark = true;
+        Look::dress(options);
+        QWidget window;
+        QVBoxLayout layout(&window);
+        QLineEdit line;
+        QSpinBox spin;
+        QComboBox combo;
+        QPushButton button("Push");
+        QCheckBox check;
+        QRadioButton radio;
+        QGroupBox group("Group");
+        QTableView table;
+        const QList<QWidget*> all{&line, &spin, &combo, &button, &check, &radio, &group, &table};
+        for (QWidget* const widget : all) {
+            layout.addWidget(widget);
+        }
+        window.show();
+        const QImage picture = window.grab().toImage();
+        const QColor desk = window.palette().color(QPalette::Window);
+        for (const QWidget* const widget : all) {
+            // Across the widget's left edge there is a pixel that stands out.
+            double best = 0;
+            const QRect place = widget->geometry();
+            for (int x = place.left(); x < place.left() + 5; ++x) {
+                best = qMax(best, contrast(picture.pixelColor(x, place.center().y()), desk));
+            }
+            QVERIFY2(
+                best > 3,
+                qPrintable(QString("%1: %2").arg(widget->metaObject()->className()).arg(best)));
+        }
+    }
+
+    void textsOfQtAndOfFiles()
+    {
+        Language language(MODULE_DIR);
+        language.set("zh_CN");
+        QMessageBox box(QMessageBox::Warning, {}, {},
+                        QMessageBox::Ok | QMessageBox::Save | QMessageBox::Discard |
+                            QMessageBox::Cancel | QMessageBox::Yes | QMessageBox::No);
+        for (const QAbstractButton* const button : box.buttons()) {
+            QVERIFY2(isChinese(button->text()), qPrintable(button->text()));
+        }
+        const QString absent = errorOf([] { CanvasHost::readWhole("/no/such.file"); });
+        QVERIFY2(absent.startsWith("/no/such.file: ") && isChinese(absent), qPrintable(absent));
+        for (const char* const text : {"{ \"a\": 1", "", "{ \"format\": 1 }", "[]",
+                                       "{ \"format\": 1.5 }", "{ \"wrong\": 1 }"}) {
+            const QString error = errorOf([&] {
+                const CanvasHost::JsonDocument document(text, "file");
+                document.root().requireObject({"format"});
+                document.root().member("format").integer(2, 2);
+            });
+            QVERIFY2(error.startsWith("file:") && isChinese(error), qPrintable(error));
+        }
+        language.set("en");
+        QCOMPARE(errorOf([] { CanvasHost::readWhole("/no/such.file"); }),
+                 QString("/no/such.file: No such file or directory"));
+    }
+
+    void nothingIsCutInLargeFonts_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("English") << "en";
+        QTest::newRow("Chinese") << "zh_CN";
+    }
+    void nothingIsCutInLargeFonts()
+    {
+        QFETCH(QString, language);
+        Options options;
+        options.moduleDirectory = MODULE_DIR;
+        options.fontSize = 20;
+        options.language = language;
+        Look::dress(options);
+        CanvasHost::loadJobs(JOB_FILE);
+        MessageLog log;
+        WorkbenchWindow window(options, &log);
+        window.start();
+        window.resize(1366, 760);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        int looked = 0;
+        for (const QWidget* const widget : window.findChildren<QWidget*>()) {
+            const auto* const label = qobject_cast<const QLabel*>(widget);
+            const bool isButton = qobject_cast<const QPushButton*>(widget) ||
+                                  qobject_cast<const QCheckBox*>(widget) ||
+                                  qobject_cast<const QComboBox*>(widget);
+            const bool mayBeCut = !label || label->wordWrap() ||
+                                  label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+            if (widget->isVisible() && (isButton || !mayBeCut)) {
+                QVERIFY2(widget->width() >= widget->minimumSizeHint().width() &&
+                             widget->height() >= widget->minimumSizeHint().height(),
+                         qPrintable(widget->objectName()));
+                ++looked;
+            }
+        }
+        QVERIFY(looked > 10);
+        for (const QHeaderView* const header : window.findChildren<QHeaderView*>()) {
+            for (int column = 0; header->isVisible() && column < header->count(); ++column) {
+                const QString text = header->model()->headerData(column, Qt::Horizontal).toString();
+                if (header->orientation() == Qt::Horizontal) {
+                    QVERIFY2(header->sectionSize(column) >=
+                                 header->fontMetrics().horizontalAdvance(text),
+                             qPrintable(text));
+                }
+            }
+        }
+    }
+};
+
+CTS_MAIN(TestLook)
+#include "test_look.moc"

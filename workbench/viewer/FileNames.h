@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// The names of board files as the user chooses them, and what is remembered of them.
+namespace FileNames {
+
+enum class Purpose { Open, Save, Export };
+
+/// The file that the user chooses, beginning in the folder of the last one; `offered` is its name
+/// unless the user writes another. The suffix of the chosen kind is added to a name without one.
+/// Empty: the user does not want to.
+QString ask(Purpose purpose, const QString& offered, QWidget* parent);
+
+/// The file stands first among the recent ones, which the host's window lists.
+void remember(const QString& file);
+
+}  // namespace FileNames

@@ -1,0 +1,30 @@
+#include "window/Documentation.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTextBrowser>
+#include <QUrl>
+
+namespace {
+
+const QString name = QStringLiteral("m_pDocumentation");
+
+}  // namespace
+
+void Documentation::show(QWidget* parent)
+{
+    auto* browser = parent->findChild<QTextBrowser*>(name);
+    if (!browser) {
+        browser = new QTextBrowser(parent);
+        browser->setObjectName(name);
+        browser->setWindowFlag(Qt::Window);
+        browser->setOpenExternalLinks(true);
+        browser->resize(760, 560);
+    }
+    const QDir pages(QCoreApplication::applicationDirPath() +
+                     QStringLiteral("/../" WORKBENCH_DOCS_DIRECTORY "/workbench/docs"));
+    browser->setWindowTitle(QCoreApplication::translate("Documentation", "Documentation"));
+    browser->setSource(QUrl::fromLocalFile(QDir::cleanPath(pages.filePath("canvas.md"))));
+    browser->show();
+    browser->raise();
+}

@@ -1,0 +1,118 @@
+#include "window/WindowLayout.h"
+
+#include <Settings.h>
+
+#include <QDir>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QMainWindow>
+#include <QScreen>
+
+namespace Settings = CanvasHost::Settings;
+
+namespace {
+
+const QString geometryKey = QStringLiteral("window/geometry");
+const QString docksKey = QStringLiteral("window/docks");
+
+constexpr QSize roomy(1200, 860);
+constexpr int shortScreen = 640;  // of less height strip and job tree do not stand over each other
+constexpr QPoint corner(20, 40);
+constexpr QPoint instanceOffset(36, 36);
+constexpr int mostInstances = 6;
+// The window's frame is not known before it is shown.
+constexpr QSize frame(8, 34);
+
+/// As much of `wanted` as the screen has room for, and inside it.
+QRect inside(const QRect& screen, const QPoint& position, const QSize& wanted)
+{
+    const QSize size = wanted.boundedTo(screen.size() - frame);
+    const QPoint last = screen.bottomRight() - QPoint(size.width() + frame.width() - 1,
+                                                      size.height() + frame.height() - 1);
+    return {QPoint(qBound(screen.left(), position.x(), last.x()),
+                   qBound(screen.top(), position.y(), last.y())),
+            size};
+}
+
+}  // namespace
+
+WindowLayout::WindowLayout(QMainWindow* window, const Docks& docks)
+    : m_window(window), m_docks(docks)
+{
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, docks.strip);
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, docks.jobTree);
+    m_window->addDockWidget(Qt::BottomDockWidgetArea, docks.monitor);
+    const int height = m_window->screen()->availableGeometry().height() - frame.height();
+    // Where the height does not do for all, the strip has the whole of it.
+    m_window->setCorner(Qt::BottomLeftCorner, height < roomy.height() ? Qt::LeftDockWidgetArea
+                                                                      : Qt::BottomDockWidgetArea);
+    if (height < shortScreen) {
+        m_window->tabifyDockWidget(docks.strip, docks.jobTree);
+        docks.strip->raise();
+    }
+    m_first = m_window->saveState();
+}
+
+WindowLayout::~WindowLayout() = default;
+
+void WindowLayout::restore()
+{
+    place();
+    m_window->restoreGeometry(Settings::value(geometryKey).toByteArray());
+    m_window->restoreState(Settings::value(docksKey).toByteArray());
+    m_instance = findInstance();
+    if (m_instance > 0) {
+        const QRect screen = m_window->screen()->availableGeometry();
+        const QPoint position = m_window->pos() + m_instance * instanceOffset;
+        // Where there is no room to the right and below, the window becomes smaller.
+        const QSize room(screen.right() - position.x() - frame.width(),
+                         screen.bottom() - position.y() - frame.height());
+        m_window->setWindowState(Qt::WindowNoState);
+        m_window->resize(m_window->size().boundedTo(room));
+        m_window->move(position);
+    }
+}
+
+void WindowLayout::restoreFirst()
+{
+    m_window->setWindowState(Qt::WindowNoState);
+    m_window->restoreState(m_first);
+    place();
+}
+
+void WindowLayout::place()
+{
+    const QRect screen = m_window->screen()->availableGeometry();
+    const QRect place = inside(screen, screen.topLeft() + corner, roomy);
+    m_window->resize(place.size());
+    m_window->move(place.topLeft());
+    m_window->resizeDocks({m_docks.strip}, {220}, Qt::Horizontal);
+    m_window->resizeDocks({m_docks.monitor}, {place.height() * 3 / 10}, Qt::Vertical);
+}
+
+void WindowLayout::save() const
+{
+    if (m_instance == 0) {
+        Settings::set(geometryKey, m_window->saveGeometry());
+        Settings::set(docksKey, m_window->saveState());
+    }
+}
+
+int WindowLayout::findInstance()
+{
+    const QString settings = Settings::file();
+    if (settings.isEmpty()) {
+        return 0;
+    }
+    QFileInfo(settings).dir().mkpath(QStringLiteral("."));
+    for (int number = 0; number < mostInstances; ++number) {
+        m_lock =
+            std::make_unique<QLockFile>(QStringLiteral("%1.%2.lock").arg(settings).arg(number));
+        m_lock->setStaleLockTime(0);
+        if (m_lock->tryLock()) {
+            return number;
+        }
+    }
+    return mostInstances;
+}
