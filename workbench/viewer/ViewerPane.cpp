@@ -57,6 +57,7 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     layout->addWidget(splitter, 1);
     layout->addLayout(foot);
     connectCanvas();
+    stripWasMade();
     retranslate();
 }
 

@@ -33,6 +33,11 @@ public:
     Q_INVOKABLE QString openBoard(const QString& file);
     Q_INVOKABLE QString exportBoard(const QString& file);
 
+    /// For the host, which alone knows: the tool strip was made anew, or there was a message to or
+    /// from it that does not come here. The canvas's tool is the one that the strip shows.
+    Q_INVOKABLE void stripWasMade();
+    Q_INVOKABLE void overhear(int code);
+
 protected:
     void changeEvent(QEvent* event) override;
 
