@@ -5,9 +5,9 @@
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
 #include "viewer/Inspector.h"
+#include "viewer/ToolLine.h"
 
 #include <CommonWidgetsStandIn.h>
-#include <UiApiStandIn.h>
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -16,24 +16,13 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-namespace {
-
-QLabel* createLabel(const char* name, QWidget* parent)
-{
-    auto* const label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    return label;
-}
-
-}  // namespace
-
 ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
 {
     setObjectName(QStringLiteral("m_pViewer"));
     m_view = new BoardView(&m_canvas.scene(), this);
     m_bar = new CanvasBar(m_canvas, *m_view, this);
     m_inspector = new Inspector(this);
-    auto* const head = createHead();
+    m_toolLine = new ToolLine({"m_pActiveToolLB", "m_pPickHintLB", "m_pPositionLB"}, this);
 
     auto* const splitter = new QSplitter(this);
     splitter->setObjectName(QStringLiteral("m_pViewerSplitter"));
@@ -42,20 +31,13 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
     splitter->setChildrenCollapsible(false);
-    m_pCanvasStatusLB = createLabel("m_pCanvasStatusLB", this);
-    m_pHoveredLB = createLabel("m_pHoveredLB", this);
-    auto* const foot = new QHBoxLayout;
-    foot->setContentsMargins(8, 3, 8, 3);
-    foot->addWidget(m_pCanvasStatusLB);
-    foot->addStretch(1);
-    foot->addWidget(m_pHoveredLB);
-
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addLayout(head);
+    layout->addWidget(m_bar);
+    layout->addWidget(m_toolLine);
     layout->addWidget(splitter, 1);
-    layout->addLayout(foot);
+    layout->addLayout(createFoot());
     connectCanvas();
     stripWasMade();
     retranslate();
@@ -67,39 +49,27 @@ ViewerPane::~ViewerPane()
     delete m_secondView;
 }
 
-QLayout* ViewerPane::createHead()
+QLayout* ViewerPane::createFoot()
 {
-    m_pActiveToolLB = createLabel("m_pActiveToolLB", this);
-    QFont font = m_pActiveToolLB->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.15);
-    m_pActiveToolLB->setFont(font);
-    m_pPickHintLB = createLabel("m_pPickHintLB", this);
-    m_pPositionLB = createLabel("m_pPositionLB", this);
-    // A long hint does not widen the window.
-    m_pPickHintLB->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto* const words = new QHBoxLayout;
-    words->setContentsMargins(8, 2, 8, 4);
-    words->addWidget(m_pActiveToolLB);
-    words->addSpacing(16);
-    words->addWidget(m_pPickHintLB, 1);
-    words->addWidget(m_pPositionLB);
-    auto* const head = new QVBoxLayout;
-    head->setSpacing(0);
-    head->addWidget(m_bar);
-    head->addLayout(words);
-    return head;
+    m_pCanvasStatusLB = createSteadyLabel("m_pCanvasStatusLB", this);
+    m_pHoveredLB = createSteadyLabel("m_pHoveredLB", this);
+    m_pHoveredLB->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* const foot = new QHBoxLayout;
+    foot->setContentsMargins(8, 3, 8, 3);
+    makeSteady(foot, m_pCanvasStatusLB);
+    foot->addWidget(m_pCanvasStatusLB, 1);
+    foot->addWidget(m_pHoveredLB, 1);
+    return foot;
 }
 
 void ViewerPane::connectCanvas()
 {
     m_canvas.connectView(m_view);
-    connect(&m_canvas, &CanvasController::said, m_pCanvasStatusLB, &QLabel::setText);
+    connect(&m_canvas, &CanvasController::said, this,
+            [this](const QString& text) { showSteadily(m_pCanvasStatusLB, text); });
     connect(&m_canvas, &CanvasController::hintChanged, this,
-            [this] { m_pPickHintLB->setText(m_canvas.hint()); });
-    connect(&m_canvas, &CanvasController::moved, this, [this](const QPointF& point) {
-        m_pPositionLB->setText(CanvasHost::lengthText(point));
-    });
+            [this] { m_toolLine->showHint(m_canvas.hint()); });
+    connect(&m_canvas, &CanvasController::moved, m_toolLine, &ToolLine::showPosition);
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, &m_canvas,
@@ -150,7 +120,7 @@ void ViewerPane::showHovered(int feature)
                                               : attribute.key() + '=' + attribute.value());
         }
     }
-    m_pHoveredLB->setText(words.join(QStringLiteral("  ")));
+    showSteadily(m_pHoveredLB, words.join(QStringLiteral("  ")));
     m_view->viewport()->setToolTip(words.join('\n'));
 }
 
@@ -173,13 +143,13 @@ void ViewerPane::showTool()
             tool = tr("%1, mode %2").arg(tool).arg(m_mode);
         }
     }
-    m_pActiveToolLB->setText(tr("Tool: %1").arg(tool));
+    m_toolLine->showTool(tr("Tool: %1").arg(tool));
 }
 
 void ViewerPane::retranslate()
 {
     showTool();
-    m_pPickHintLB->setText(m_canvas.hint());
+    m_toolLine->showHint(m_canvas.hint());
     m_view->setAccessibleName(tr("Board"));
     if (m_secondView) {
         m_secondView->setWindowTitle(tr("Second view"));

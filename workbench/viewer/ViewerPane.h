@@ -14,6 +14,7 @@ class CanvasBar;
 class Inspector;
 class PlaceTool;
 class QLabel;
+class ToolLine;
 
 /// The canvas: draws what the tool strip describes, does what its tools do, and sends back what the
 /// user picks on the board. It never sends a tool's message back, which would go round for ever.
@@ -42,7 +43,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QLayout* createHead();
+    QLayout* createFoot();
     void connectCanvas();
 
     void takeRecord(const PluginMetaData& message);
@@ -68,9 +69,7 @@ private:
     BoardView* m_view;
     CanvasBar* m_bar;
     Inspector* m_inspector;
-    QLabel* m_pActiveToolLB;
-    QLabel* m_pPickHintLB;
-    QLabel* m_pPositionLB;
+    ToolLine* m_toolLine;
     QLabel* m_pCanvasStatusLB;
     QLabel* m_pHoveredLB;
     QPointer<QWidget> m_secondView;
