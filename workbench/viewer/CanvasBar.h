@@ -16,6 +16,9 @@ public:
 
     void retranslate();
 
+    /// The keys of fit and zoom for a window with a view of its own.
+    static void addZoomKeys(QWidget* window, BoardView& view);
+
 private:
     enum class File { Open, Save, Export };
 

@@ -48,34 +48,52 @@ void CanvasController::openStep(const QString& job, const QString& step)
 
 void CanvasController::connectView(BoardView* view)
 {
-    m_view = m_view ? m_view : view;
-    connect(view, &BoardView::pressed, this, [this](const QPointF& point, bool extends) {
-        if (m_tool) {
-            m_tool->press(point, extends);
-        }
-        refresh();
+    m_view = m_view ? m_view.data() : view;
+    connect(view, &BoardView::pressed, this, [this, view](const QPointF& point, bool extends) {
+        m_view = view;
+        press(point, extends);
     });
-    connect(view, &BoardView::moved, this, [this](const QPointF& point) {
-        if (m_tool) {
-            m_tool->move(point);
-        }
-        hover(point);
-        refresh();
-        Q_EMIT moved(point);
+    connect(view, &BoardView::moved, this, [this, view](const QPointF& point) {
+        m_view = view;
+        move(point);
     });
-    connect(view, &BoardView::released, this, [this](const QPointF& point) {
-        if (m_tool) {
-            m_tool->release(point);
-        }
-        refresh();
-    });
-    connect(view, &BoardView::finished, this, [this] {
-        if (m_tool) {
-            m_tool->finish();
-        }
-        refresh();
-    });
+    connect(view, &BoardView::released, this, &CanvasController::release);
+    connect(view, &BoardView::finished, this, &CanvasController::finish);
     connect(view, &BoardView::left, this, [this] { hover({}); });
+}
+
+void CanvasController::press(const QPointF& point, bool extends)
+{
+    if (m_tool) {
+        m_tool->press(point, extends);
+    }
+    refresh();
+}
+
+void CanvasController::move(const QPointF& point)
+{
+    if (m_tool) {
+        m_tool->move(point);
+    }
+    hover(point);
+    refresh();
+    Q_EMIT moved(point);
+}
+
+void CanvasController::release(const QPointF& point)
+{
+    if (m_tool) {
+        m_tool->release(point);
+    }
+    refresh();
+}
+
+void CanvasController::finish()
+{
+    if (m_tool) {
+        m_tool->finish();
+    }
+    refresh();
 }
 
 void CanvasController::setTool(std::unique_ptr<CanvasTool> tool)

@@ -5,6 +5,7 @@
 #include "viewer/Document.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QUndoGroup>
 
 #include <map>
@@ -27,7 +28,7 @@ public:
     QUndoGroup& histories() { return m_histories; }
     BoardScene& scene() { return m_scene; }
 
-    /// The first view connected is the one that the tools show things in.
+    /// The tools show things in the view that the hand was in last; at first in the first one.
     void connectView(BoardView* view);
 
     /// Null: clicks do nothing.
@@ -54,6 +55,10 @@ Q_SIGNALS:
     void hovered(int feature);  ///< -1: none
 
 private:
+    void press(const QPointF& point, bool extends);
+    void move(const QPointF& point);
+    void release(const QPointF& point);
+    void finish();
     /// Nothing: the mouse is outside all views.
     void hover(const std::optional<QPointF>& cursor);
 
@@ -61,7 +66,7 @@ private:
     QUndoGroup m_histories;
     std::map<std::pair<QString, QString>, std::unique_ptr<Document>> m_steps;
     Document* m_document = nullptr;
-    BoardView* m_view = nullptr;
+    QPointer<BoardView> m_view;
     std::unique_ptr<CanvasTool> m_tool;
     std::optional<QPointF> m_cursor;
 };

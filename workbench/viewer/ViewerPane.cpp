@@ -4,15 +4,17 @@
 #include "viewer/BoardFiles.h"
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
+#include "viewer/CanvasKeys.h"
+#include "viewer/EditActions.h"
 #include "viewer/Inspector.h"
 #include "viewer/ToolLine.h"
 
 #include <CommonWidgetsStandIn.h>
 
+#include <QAction>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -21,6 +23,7 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     setObjectName(QStringLiteral("m_pViewer"));
     m_view = new BoardView(&m_canvas.scene(), this);
     m_bar = new CanvasBar(m_canvas, *m_view, this);
+    m_edits = new EditActions(m_canvas, this);
     m_inspector = new Inspector(this);
     m_toolLine = new ToolLine({"m_pActiveToolLB", "m_pPickHintLB", "m_pPositionLB"}, this);
 
@@ -39,6 +42,7 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     layout->addWidget(splitter, 1);
     layout->addLayout(createFoot());
     connectCanvas();
+    m_keys = new CanvasKeys(this);
     stripWasMade();
     retranslate();
 }
@@ -67,14 +71,21 @@ void ViewerPane::connectCanvas()
     m_canvas.connectView(m_view);
     connect(&m_canvas, &CanvasController::said, this,
             [this](const QString& text) { showSteadily(m_pCanvasStatusLB, text); });
-    connect(&m_canvas, &CanvasController::hintChanged, this,
-            [this] { m_toolLine->showHint(m_canvas.hint()); });
-    connect(&m_canvas, &CanvasController::moved, m_toolLine, &ToolLine::showPosition);
+    connectLine(m_toolLine);
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, &m_canvas,
-            &CanvasController::cancel);
+    auto* const cancel = new QAction(this);
+    cancel->setObjectName(QStringLiteral("m_pCancelAct"));
+    cancel->setShortcut(Qt::Key_Escape);
+    connect(cancel, &QAction::triggered, &m_canvas, &CanvasController::cancel);
     CanvasHost::setMeasureStarted([this] { startMeasuring(); });
+}
+
+void ViewerPane::connectLine(ToolLine* line)
+{
+    connect(&m_canvas, &CanvasController::hintChanged, line,
+            [this, line] { line->showHint(m_canvas.hint()); });
+    connect(&m_canvas, &CanvasController::moved, line, &ToolLine::showPosition);
 }
 
 QString ViewerPane::openBoard(const QString& file)
@@ -92,14 +103,32 @@ QString ViewerPane::exportBoard(const QString& file)
 void ViewerPane::openSecondView()
 {
     if (!m_secondView) {
-        auto* const view = new BoardView(&m_canvas.scene());
-        view->setObjectName(QStringLiteral("m_pSecondView"));
-        m_canvas.connectView(view);
-        m_secondView = view;
+        createSecondView();
         retranslate();
     }
     m_secondView->show();
     m_secondView->raise();
+}
+
+void ViewerPane::createSecondView()
+{
+    m_secondView = new QWidget;
+    m_secondView->setObjectName(QStringLiteral("m_pSecondView"));
+    m_secondLine =
+        new ToolLine({"m_pSecondToolLB", "m_pSecondHintLB", "m_pSecondPositionLB"}, m_secondView);
+    auto* const view = new BoardView(&m_canvas.scene(), m_secondView);
+    view->setObjectName(QStringLiteral("m_pSecondBoardView"));
+    auto* const layout = new QVBoxLayout(m_secondView);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_secondLine);
+    layout->addWidget(view, 1);
+    m_canvas.connectView(view);
+    connectLine(m_secondLine);
+    connect(&m_canvas, &CanvasController::documentOpened, view, &BoardView::fit);
+    CanvasBar::addZoomKeys(m_secondView, *view);
+    m_keys->addTo(m_secondView);
+    view->setFocus();
 }
 
 void ViewerPane::showHovered(int feature)
@@ -130,6 +159,7 @@ void ViewerPane::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange) {
         m_inspector->retranslate();
         m_bar->retranslate();
+        m_edits->retranslate();
         retranslate();
     }
 }
@@ -143,13 +173,17 @@ void ViewerPane::showTool()
             tool = tr("%1, mode %2").arg(tool).arg(m_mode);
         }
     }
-    m_toolLine->showTool(tr("Tool: %1").arg(tool));
+    for (ToolLine* const line : {m_toolLine, m_secondLine}) {
+        if (line) {
+            line->showTool(tr("Tool: %1").arg(tool));
+        }
+    }
 }
 
 void ViewerPane::retranslate()
 {
     showTool();
-    m_toolLine->showHint(m_canvas.hint());
+    m_canvas.refresh();  // the hint
     m_view->setAccessibleName(tr("Board"));
     if (m_secondView) {
         m_secondView->setWindowTitle(tr("Second view"));

@@ -10,6 +10,8 @@
 #include <QWidget>
 
 class BoardView;
+class CanvasKeys;
+class EditActions;
 class CanvasBar;
 class Inspector;
 class PlaceTool;
@@ -45,6 +47,8 @@ protected:
 private:
     QLayout* createFoot();
     void connectCanvas();
+    void connectLine(ToolLine* line);
+    void createSecondView();
 
     void takeRecord(const PluginMetaData& message);
     void takeDirection(const PluginMetaData& message);
@@ -68,11 +72,14 @@ private:
     CanvasController m_canvas;
     BoardView* m_view;
     CanvasBar* m_bar;
+    EditActions* m_edits;
+    CanvasKeys* m_keys;
     Inspector* m_inspector;
     ToolLine* m_toolLine;
     QLabel* m_pCanvasStatusLB;
     QLabel* m_pHoveredLB;
     QPointer<QWidget> m_secondView;
+    ToolLine* m_secondLine = nullptr;      ///< in the second view
     const ToolSet::Row* m_tool = nullptr;  ///< the message that announced it; null: none
     qint64 m_mode = 0;
     PlaceTool* m_place = nullptr;  ///< the tool at work, when it is this one
