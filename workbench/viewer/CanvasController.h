@@ -31,6 +31,14 @@ public:
     /// The tools show things in the view that the hand was in last; at first in the first one.
     void connectView(BoardView* view);
 
+    /// Points that tools ask for snap to the grid, and to ends and centres of features.
+    void setSnapping(bool snaps);
+    /// In micrometres; above 0.
+    void setGridStep(double step);
+    double gridStep() const { return m_gridStep; }
+    /// As a click exactly there.
+    void clickAt(const QPointF& place);
+
     /// Null: clicks do nothing.
     void setTool(std::unique_ptr<CanvasTool> tool);
     CanvasTool* tool() const { return m_tool.get(); }
@@ -44,6 +52,7 @@ public:
     Document& document() override { return *m_document; }
     int featureAt(const QPointF& point) const override;
     double tolerance() const override;
+    QPointF snapped(const QPointF& point) const override;
     void showArea(const QRectF& area) override;
     void say(const QString& text) override { Q_EMIT said(text); }
 
@@ -59,6 +68,10 @@ private:
     void move(const QPointF& point);
     void release(const QPointF& point);
     void finish();
+    /// Where the tool gets the point.
+    QPointF aim(const QPointF& point);
+    void showGrid();
+    Snapping::Place nearest(const QPointF& point) const;
     /// Nothing: the mouse is outside all views.
     void hover(const std::optional<QPointF>& cursor);
 
@@ -66,7 +79,11 @@ private:
     QUndoGroup m_histories;
     std::map<std::pair<QString, QString>, std::unique_ptr<Document>> m_steps;
     Document* m_document = nullptr;
+    std::vector<QPointer<BoardView>> m_views;
     QPointer<BoardView> m_view;
     std::unique_ptr<CanvasTool> m_tool;
     std::optional<QPointF> m_cursor;
+    bool m_snaps = false;
+    double m_gridStep;
+    std::optional<Snapping::Place> m_snap;  ///< of the cursor, when the tool asks for a place
 };

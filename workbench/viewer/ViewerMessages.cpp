@@ -124,6 +124,8 @@ void ViewerPane::overhear(int code)
     } else if ((code == Accepted::AddFeatureActive || code == Sent::AddFeatureStarted) &&
                m_tool != adding) {
         startTool(adding, 0);
+    } else if (code == Accepted::UnitChanged) {
+        showLengths();
     }
     showTool();
 }

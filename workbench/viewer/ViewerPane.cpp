@@ -7,6 +7,7 @@
 #include "viewer/CanvasKeys.h"
 #include "viewer/EditActions.h"
 #include "viewer/Inspector.h"
+#include "viewer/SnapControls.h"
 #include "viewer/ToolLine.h"
 
 #include <CommonWidgetsStandIn.h>
@@ -24,8 +25,10 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     m_view = new BoardView(&m_canvas.scene(), this);
     m_bar = new CanvasBar(m_canvas, *m_view, this);
     m_edits = new EditActions(m_canvas, this);
+    m_snapping = new SnapControls(m_canvas, m_bar);
     m_inspector = new Inspector(this);
-    m_toolLine = new ToolLine({"m_pActiveToolLB", "m_pPickHintLB", "m_pPositionLB"}, this);
+    auto* const toolLine =
+        new ToolLine({"m_pActiveToolLB", "m_pPickHintLB", "m_pPositionLE"}, this);
 
     auto* const splitter = new QSplitter(this);
     splitter->setObjectName(QStringLiteral("m_pViewerSplitter"));
@@ -38,10 +41,11 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_bar);
-    layout->addWidget(m_toolLine);
+    layout->addWidget(toolLine);
     layout->addWidget(splitter, 1);
     layout->addLayout(createFoot());
     connectCanvas();
+    connectLine(toolLine, m_view);
     m_keys = new CanvasKeys(this);
     stripWasMade();
     retranslate();
@@ -71,7 +75,7 @@ void ViewerPane::connectCanvas()
     m_canvas.connectView(m_view);
     connect(&m_canvas, &CanvasController::said, this,
             [this](const QString& text) { showSteadily(m_pCanvasStatusLB, text); });
-    connectLine(m_toolLine);
+    connect(m_snapping, &SnapControls::finished, m_view, qOverload<>(&QWidget::setFocus));
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
     auto* const cancel = new QAction(this);
@@ -81,11 +85,18 @@ void ViewerPane::connectCanvas()
     CanvasHost::setMeasureStarted([this] { startMeasuring(); });
 }
 
-void ViewerPane::connectLine(ToolLine* line)
+void ViewerPane::connectLine(ToolLine* line, BoardView* view)
 {
+    m_lines.push_back(line);
     connect(&m_canvas, &CanvasController::hintChanged, line,
             [this, line] { line->showHint(m_canvas.hint()); });
-    connect(&m_canvas, &CanvasController::moved, line, &ToolLine::showPosition);
+    connect(&m_canvas, &CanvasController::moved, line,
+            [line](const QPointF& point) { line->showPosition(point); });
+    connect(line, &ToolLine::placeTyped, &m_canvas, &CanvasController::clickAt);
+    connect(line, &ToolLine::noPlaceTyped, this, [this](const QString& text) {
+        m_canvas.say(tr("\"%1\" is no place (two numbers, and mil, inch, um or mm).").arg(text));
+    });
+    connect(line, &ToolLine::finished, view, qOverload<>(&QWidget::setFocus));
 }
 
 QString ViewerPane::openBoard(const QString& file)
@@ -114,17 +125,17 @@ void ViewerPane::createSecondView()
 {
     m_secondView = new QWidget;
     m_secondView->setObjectName(QStringLiteral("m_pSecondView"));
-    m_secondLine =
-        new ToolLine({"m_pSecondToolLB", "m_pSecondHintLB", "m_pSecondPositionLB"}, m_secondView);
+    auto* const line =
+        new ToolLine({"m_pSecondToolLB", "m_pSecondHintLB", "m_pSecondPositionLE"}, m_secondView);
     auto* const view = new BoardView(&m_canvas.scene(), m_secondView);
     view->setObjectName(QStringLiteral("m_pSecondBoardView"));
     auto* const layout = new QVBoxLayout(m_secondView);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_secondLine);
+    layout->addWidget(line);
     layout->addWidget(view, 1);
     m_canvas.connectView(view);
-    connectLine(m_secondLine);
+    connectLine(line, view);
     connect(&m_canvas, &CanvasController::documentOpened, view, &BoardView::fit);
     CanvasBar::addZoomKeys(m_secondView, *view);
     m_keys->addTo(m_secondView);
@@ -160,6 +171,7 @@ void ViewerPane::changeEvent(QEvent* event)
         m_inspector->retranslate();
         m_bar->retranslate();
         m_edits->retranslate();
+        m_snapping->retranslate();
         retranslate();
     }
 }
@@ -173,10 +185,8 @@ void ViewerPane::showTool()
             tool = tr("%1, mode %2").arg(tool).arg(m_mode);
         }
     }
-    for (ToolLine* const line : {m_toolLine, m_secondLine}) {
-        if (line) {
-            line->showTool(tr("Tool: %1").arg(tool));
-        }
+    for (ToolLine* const line : m_lines) {
+        line->showTool(tr("Tool: %1").arg(tool));
     }
 }
 
@@ -189,4 +199,13 @@ void ViewerPane::retranslate()
         m_secondView->setWindowTitle(tr("Second view"));
         m_secondView->setAccessibleName(tr("Second view"));
     }
+}
+
+void ViewerPane::showLengths()
+{
+    m_snapping->showStep();
+    for (ToolLine* const line : m_lines) {
+        line->showPosition();
+    }
+    m_canvas.scene().update();  // marks have lengths as well
 }

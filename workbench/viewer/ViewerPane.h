@@ -16,6 +16,7 @@ class CanvasBar;
 class Inspector;
 class PlaceTool;
 class QLabel;
+class SnapControls;
 class ToolLine;
 
 /// The canvas: draws what the tool strip describes, does what its tools do, and sends back what the
@@ -47,7 +48,7 @@ protected:
 private:
     QLayout* createFoot();
     void connectCanvas();
-    void connectLine(ToolLine* line);
+    void connectLine(ToolLine* line, BoardView* view);
     void createSecondView();
 
     void takeRecord(const PluginMetaData& message);
@@ -66,6 +67,7 @@ private:
 
     void showHovered(int feature);
     void showTool();
+    void showLengths();
     void retranslate();
 
     QWidget* m_parent;
@@ -73,13 +75,13 @@ private:
     BoardView* m_view;
     CanvasBar* m_bar;
     EditActions* m_edits;
+    SnapControls* m_snapping;
     CanvasKeys* m_keys;
     Inspector* m_inspector;
-    ToolLine* m_toolLine;
+    std::vector<ToolLine*> m_lines;  ///< that of the pane, and that of the second view
     QLabel* m_pCanvasStatusLB;
     QLabel* m_pHoveredLB;
     QPointer<QWidget> m_secondView;
-    ToolLine* m_secondLine = nullptr;      ///< in the second view
     const ToolSet::Row* m_tool = nullptr;  ///< the message that announced it; null: none
     qint64 m_mode = 0;
     PlaceTool* m_place = nullptr;  ///< the tool at work, when it is this one

@@ -134,8 +134,9 @@ private Q_SLOTS:
         QCOMPARE(text("m_pSecondHintLB"), fixture.text("m_pPickHintLB"));
         const auto& view = findNamed<BoardView>(second, "m_pSecondBoardView");
         QTest::mouseMove(view.viewport(), view.viewPoint(5000, 5000));
-        QVERIFY(!text("m_pSecondPositionLB").isEmpty());
-        QCOMPARE(text("m_pSecondPositionLB"), fixture.text("m_pPositionLB"));
+        const auto& position = findNamed<QLineEdit>(second, "m_pSecondPositionLE");
+        QVERIFY(position.text().endsWith(" mil"));
+        QCOMPARE(position.text(), findNamed<QLineEdit>(*fixture.pane, "m_pPositionLE").text());
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewPoint(5000, 5000));
         QCOMPARE(text("m_pSecondHintLB"),
                  QString("Click the place where it is to go; a right click gives it up."));
