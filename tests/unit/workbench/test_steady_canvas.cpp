@@ -69,17 +69,21 @@ class TestSteadyCanvas : public QObject {
                                   Q_ARG(double, x), Q_ARG(double, y));
         return position;
     }
-    /// As a hand does it: by the window, which has time for what it does between two events.
+    /// As a hand does it: by the window, which has time for what it does between two events, and on
+    /// a fine screen, where mouse and window stand between two pixels.
     void click(const QWidget& widget, const QPoint& position) const
     {
-        QWindow* const window = widget.window()->windowHandle();
-        const QPoint inWindow = widget.mapTo(widget.window(), position);
-        QTest::mouseMove(window, inWindow);
-        settle();
-        QTest::mousePress(window, Qt::LeftButton, {}, inWindow);
-        settle();
-        QTest::mouseRelease(window, Qt::LeftButton, {}, inWindow);
-        settle();
+        const QWidget* const window = widget.window();
+        const QPointF local = widget.mapTo(window, position) + QPointF(0.5, 0.5);
+        const QPointF global = widget.mapToGlobal(position);
+        const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+            QMouseEvent event(type, local, local, global, button, held, Qt::NoModifier);
+            QCoreApplication::sendEvent(window->windowHandle(), &event);
+            settle();
+        };
+        send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+        send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
     }
     void click(const QPoint& position) const { click(board(), position); }
     void click(const char* name) const
