@@ -19,6 +19,12 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+namespace {
+
+constexpr QSize secondViewSize(800, 560);
+
+}  // namespace
+
 ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
 {
     setObjectName(QStringLiteral("m_pViewer"));
@@ -140,6 +146,7 @@ void ViewerPane::createSecondView()
     CanvasBar::addZoomKeys(m_secondView, *view);
     m_keys->addTo(m_secondView);
     view->setFocus();
+    m_secondView->resize(secondViewSize);
 }
 
 void ViewerPane::showHovered(int feature)

@@ -90,6 +90,7 @@ private Q_SLOTS:
         row("corner of a surface", {18100, 12100}, {18050, 12050}, Kind::End);
         row("middle of a surface", {18500, 12600}, {18550, 12550}, Kind::Centre);
         row("centre of a disc", {5200, 11000}, {5150, 11150}, Kind::Centre);
+        row("nearest of three", {1040, 1110}, {1000, 1100}, Kind::End);
     }
     void nearestPlace()
     {
@@ -100,6 +101,7 @@ private Q_SLOTS:
         features.push_back(Feature(Pcb::surfaceGeometry(
             {{18050, 12050}, {19050, 12050}, {19050, 13050}, {18050, 13050}})));
         features.push_back(Feature(Pcb::discGeometry({5150, 11150}, {6150, 11150})));
+        features.push_back(Feature(Pcb::lineGeometry("r4", {1000, 1100}, {1200, 1100})));
         const auto place = Snapping::nearest({{}, {}, {}, features}, point, 300, 1000);
         QVERIFY2(isNear(place.point, expected, 0.01),
                  qPrintable(QString("%1 %2").arg(place.point.x()).arg(place.point.y())));

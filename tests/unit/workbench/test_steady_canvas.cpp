@@ -145,6 +145,10 @@ private Q_SLOTS:
             }
         }
         QVERIFY2(said.size() > 5, qPrintable(QStringList(said.values()).join('|')));
+        for (const char* const name : {"m_pCanvasStatusLB", "m_pHoveredLB", "m_pPickHintLB"}) {
+            const auto& label = findNamed<QLabel>(*m_window, name);
+            QVERIFY2(label.height() >= label.fontMetrics().height(), name);
+        }
         m_window->host()->send({Accepted::ReleaseAll, {}, qint64(0)});
         QCOMPARE(place(), expected);
         QCOMPARE(m_window->size(), size);
