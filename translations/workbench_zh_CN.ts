@@ -1225,6 +1225,56 @@
     </message>
 </context>
 <context>
+    <name>SnapControls</name>
+    <message>
+        <source>Points snap.</source>
+        <translation>点将被捕捉。</translation>
+    </message>
+    <message>
+        <source>Points do not snap.</source>
+        <translation>点不被捕捉。</translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation>捕捉</translation>
+    </message>
+    <message>
+        <source>Snap to the grid, and to ends and centres of features (%1)</source>
+        <translation>捕捉到网格以及图元的端点和中心 (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Grid</source>
+        <translation>网格(&amp;G)</translation>
+    </message>
+    <message>
+        <source>The step of the grid that points snap to</source>
+        <translation>捕捉网格的间距</translation>
+    </message>
+    <message>
+        <source>Step of the grid</source>
+        <translation>网格间距</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no step of a grid (%2 to %3).</source>
+        <translation>“%1”不是网格间距（%2 至 %3）。</translation>
+    </message>
+</context>
+<context>
+    <name>ToolLine</name>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>x y</source>
+        <translation>x y</translation>
+    </message>
+    <message>
+        <source>The position of the mouse. Type another, such as 12.5 40 or 1mm 40mil: Enter clicks there.</source>
+        <translation>鼠标的位置。输入另一个位置，如 12.5 40 或 1mm 40mil，按回车键即在该处单击。</translation>
+    </message>
+</context>
+<context>
     <name>ToolSet</name>
     <message>
         <source>Area zoom</source>
@@ -1446,6 +1496,10 @@
     <message>
         <source>Second view</source>
         <translation>第二视图</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no place (two numbers, and mil, inch, um or mm).</source>
+        <translation>“%1”不是位置（两个数，以及 mil、inch、um 或 mm）。</translation>
     </message>
 </context>
 <context>

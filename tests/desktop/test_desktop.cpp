@@ -328,6 +328,64 @@ private Q_SLOTS:
         QVERIFY(boxes.takeTexts().isEmpty());
         QCOMPARE(sent(), QVector<int>{Sent::AreaZoom});
     }
+
+    void keysWhileTheDialogIsActive()
+    {
+        QWidget& dialog = openDialog("m_pSurfaceTB");
+        const auto& board = findNamed(*m_window, "m_pBoardView");
+        dialog.move(m_window->x(), m_window->frameGeometry().bottom() + 10);
+        QTest::qWait(100);
+        Desktop::clickAt(bigPad(board));
+        Desktop::clickAt(bigPad(board) + QPoint(30, 30));
+        const auto undo = [&] { return tool("m_pUndoTB").toolTip(); };
+        QTRY_COMPARE(undo(), QString("Undo: Add feature"));
+
+        Desktop::click(findNamed(dialog, "m_pSurfaceTB"));
+        Desktop::waitForWindow(&dialog);
+        Desktop::key("ctrl+z");
+        QTRY_COMPARE(undo(), QString("Undo: "));
+        Desktop::key("ctrl+shift+z");
+        QTRY_COMPARE(undo(), QString("Undo: Add feature"));
+        Desktop::key("ctrl+a");
+        QTRY_COMPARE(undo(), QString("Undo: Select all"));
+        Desktop::key("Delete");
+        QTRY_COMPARE(undo(), QString("Undo: Delete"));
+        Desktop::key("ctrl+z");
+        Desktop::key("ctrl+z");
+        QTRY_COMPARE(undo(), QString("Undo: Add feature"));
+
+        // What is typed is the field's own to undo.
+        Desktop::click(findNamed(dialog, "m_pPadTB"));
+        auto& symbol = findNamed<QLineEdit>(dialog, "m_pSymbolTextLE");
+        Desktop::click(symbol);
+        Desktop::type("r10");
+        Desktop::key("ctrl+z");
+        QTRY_VERIFY(symbol.text() != "r10");
+        Desktop::key("ctrl+y");
+        Desktop::key("Delete");
+        Desktop::key("Escape");
+        QTest::qWait(100);
+        QCOMPARE(undo(), QString("Undo: Add feature"));
+        QVERIFY(dialog.isVisible());
+    }
+
+    void keysWhileTheSecondViewIsActive()
+    {
+        Desktop::click(tool("m_pOpenPopViewTB"));
+        QWidget* second = nullptr;
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            second = window->objectName() == "m_pSecondView" ? window : second;
+        }
+        QVERIFY(second);
+        Desktop::waitForWindow(second);
+        Desktop::key("ctrl+a");
+        QTRY_COMPARE(tool("m_pUndoTB").toolTip(), QString("Undo: Select all"));
+        Desktop::key("Delete");
+        QTRY_COMPARE(tool("m_pUndoTB").toolTip(), QString("Undo: Delete"));
+        Desktop::key("ctrl+z");
+        Desktop::key("ctrl+z");
+        QTRY_COMPARE(tool("m_pUndoTB").toolTip(), QString("Undo: "));
+    }
 };
 
 CTS_MAIN(TestDesktop)

@@ -153,27 +153,26 @@ bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)
 
 void SessionRecorder::readWindowEvent(QObject* watched, QEvent* event)
 {
-    const auto hit = [&](const QPoint& global) -> QWidget* {
-        QWidget* const window = widgetOf(watched);
-        return window ? hitBy(window, global) : nullptr;
-    };
     const auto mouse = [&] { return static_cast<const QMouseEvent*>(event); };
+    const auto hit = [&] { return locate(watched, mouse()->localPos(), mouse()->screenPos()); };
     switch (event->type()) {
         case QEvent::MouseButtonPress:
-            press(hit(mouse()->globalPos()), mouse());
+            press(hit(), mouse());
             break;
         case QEvent::MouseButtonDblClick:
-            doubleClick(hit(mouse()->globalPos()), mouse());
+            doubleClick(hit());
             break;
         case QEvent::MouseMove:
+            hit();
             move(mouse());
             break;
         case QEvent::MouseButtonRelease:
+            hit();
             release(mouse());
             break;
         case QEvent::Wheel: {
             const auto* const turned = static_cast<const QWheelEvent*>(event);
-            wheel(hit(turned->globalPosition().toPoint()), turned);
+            wheel(locate(watched, turned->position(), turned->globalPosition()), turned);
             break;
         }
         case QEvent::KeyPress:
@@ -182,6 +181,15 @@ void SessionRecorder::readWindowEvent(QObject* watched, QEvent* event)
         default:
             break;
     }
+}
+
+QWidget* SessionRecorder::locate(const QObject* watched, const QPointF& local,
+                                 const QPointF& global)
+{
+    // The window's whole pixels are what its widgets get; those of the screen may begin elsewhere.
+    QWidget* const window = widgetOf(watched);
+    m_mouse = window ? window->mapToGlobal(local.toPoint()) : global.toPoint();
+    return window ? hitBy(window, m_mouse) : nullptr;
 }
 
 void SessionRecorder::readWidgetEvent(QWidget* widget, QEvent* event)
@@ -217,7 +225,7 @@ void SessionRecorder::press(QWidget* hit, const QMouseEvent* event)
     if (onlyOpens(hit) && !right) {
         return;
     }
-    const RecordedPlace place(hit, event->globalPos());
+    const RecordedPlace place(hit, m_mouse);
     if (!place.isValid()) {
         m_file.comment(QStringLiteral("A click on something without a name was not recorded."));
     } else if (right) {
@@ -230,13 +238,13 @@ void SessionRecorder::press(QWidget* hit, const QMouseEvent* event)
     }
 }
 
-void SessionRecorder::doubleClick(QWidget* hit, const QMouseEvent* event)
+void SessionRecorder::doubleClick(QWidget* hit)
 {
     m_held = false;
     if (!hit || QApplication::activePopupWidget() || isInBox(hit) || onlyOpens(hit)) {
         return;
     }
-    const RecordedPlace place(hit, event->globalPos());
+    const RecordedPlace place(hit, m_mouse);
     if (!place.isValid()) {
         return;
     }
@@ -253,18 +261,18 @@ void SessionRecorder::move(const QMouseEvent* event)
     if (!m_held || !m_pressed.isValid() || event->buttons() == Qt::NoButton) {
         return;
     }
-    const QPoint way = event->globalPos() - m_pressed.global();
+    const QPoint way = m_mouse - m_pressed.global();
     if (!m_dragged && way.manhattanLength() < QApplication::startDragDistance()) {
         return;
     }
     m_dragged = true;
-    m_file.append(m_pressed.movedTo(event->globalPos()).exact(QStringLiteral("move")));
+    m_file.append(m_pressed.movedTo(m_mouse).exact(QStringLiteral("move")));
 }
 
 void SessionRecorder::release(const QMouseEvent* event)
 {
     if (QWidget* const popup = QApplication::activePopupWidget()) {
-        popupRelease(popup, event);
+        popupRelease(popup);
         return;
     }
     if (!m_held || event->button() == Qt::RightButton) {
@@ -279,8 +287,7 @@ void SessionRecorder::release(const QMouseEvent* event)
     if (still && !m_dragged && event->button() == Qt::LeftButton) {
         m_file.amend(m_pressed.click(QStringLiteral("click")));
     } else {
-        m_file.append(
-            m_pressed.movedTo(event->globalPos()).exact(QStringLiteral("release"), button));
+        m_file.append(m_pressed.movedTo(m_mouse).exact(QStringLiteral("release"), button));
     }
 }
 
@@ -290,7 +297,7 @@ void SessionRecorder::wheel(QWidget* hit, const QWheelEvent* event)
     if (!hit || event->angleDelta().y() == 0 || QApplication::activePopupWidget()) {
         return;
     }
-    const RecordedPlace place(hit, event->globalPosition().toPoint());
+    const RecordedPlace place(hit, m_mouse);
     if (place.isValid()) {
         m_file.append(place.wheel(event->angleDelta().y() / eighthsOfDegree));
     }
@@ -330,17 +337,17 @@ void SessionRecorder::writeKey(QWidget* focus, const QString& key)
     }
 }
 
-void SessionRecorder::popupRelease(QWidget* popup, const QMouseEvent* event)
+void SessionRecorder::popupRelease(QWidget* popup)
 {
     if (auto* const menu = qobject_cast<QMenu*>(popup)) {
-        chooseEntry(menu, menu->actionAt(menu->mapFromGlobal(event->globalPos())));
+        chooseEntry(menu, menu->actionAt(menu->mapFromGlobal(m_mouse)));
     } else if (QComboBox* const combo = comboOf(popup)) {
         const QWidget* const view = combo->view()->viewport();
-        const QPoint position = view->mapFromGlobal(event->globalPos());
+        const QPoint position = view->mapFromGlobal(m_mouse);
         if (view->rect().contains(position)) {
             chooseItem(combo, combo->view()->indexAt(position));
         }
-    } else if (popup->rect().contains(popup->mapFromGlobal(event->globalPos()))) {
+    } else if (popup->rect().contains(popup->mapFromGlobal(m_mouse))) {
         m_file.comment(QStringLiteral("A choice in a list without a name was not recorded."));
     }
 }

@@ -32,9 +32,11 @@ public:
 private:
     void readWindowEvent(QObject* watched, QEvent* event);
     void readWidgetEvent(QWidget* widget, QEvent* event);
+    /// Notes where the mouse is; returns what lies there.
+    QWidget* locate(const QObject* watched, const QPointF& local, const QPointF& global);
 
     void press(QWidget* hit, const QMouseEvent* event);
-    void doubleClick(QWidget* hit, const QMouseEvent* event);
+    void doubleClick(QWidget* hit);
     void move(const QMouseEvent* event);
     void release(const QMouseEvent* event);
     void wheel(QWidget* hit, const QWheelEvent* event);
@@ -42,7 +44,7 @@ private:
     void shortcut(const QObject* receiver, const QShortcutEvent* event);
     void writeKey(QWidget* focus, const QString& key);
 
-    void popupRelease(QWidget* popup, const QMouseEvent* event);
+    void popupRelease(QWidget* popup);
     void popupKey(QWidget* popup, const QKeyEvent* event);
     void chooseEntry(QMenu* menu, const QAction* action);
     void chooseItem(QComboBox* combo, const QModelIndex& index);
@@ -55,6 +57,7 @@ private:
 
     QWidget* m_window;
     SessionFile m_file;
+    QPoint m_mouse;           ///< on the screen
     RecordedPlace m_pressed;  ///< where a button was pressed last
     RecordedPlace m_rightClick;
     bool m_held = false;     ///< that button is held

@@ -20,10 +20,10 @@ constexpr double notchFactor = 1.25;
 constexpr double finest = 20;  // pixels to a micrometre
 constexpr double coarsest = 1.0 / 1e5;
 
-/// The least of 1, 2, 5, 10, 20, ... micrometres that is not less than `length`.
-double gridStep(double length)
+/// The least of 1, 2, 5, 10, 20, ... times `first` that is not less than `length`.
+double gridStep(double first, double length)
 {
-    double step = 1;
+    double step = first;
     while (step < length) {
         for (const double factor : {2.0, 2.5, 2.0}) {
             if (step < length) {
@@ -87,6 +87,13 @@ void BoardView::zoom(double factor)
     const QPointF centre = boardPoint(viewport()->rect().center());
     setScale(factor / pixelSize(), centre);
     m_fits = false;
+}
+
+void BoardView::setGrid(double step)
+{
+    m_grid = step;
+    resetCachedContent();
+    viewport()->update();
 }
 
 void BoardView::setScale(double pixelsPerMicrometre, const QPointF& centre)
@@ -197,7 +204,7 @@ void BoardView::drawBackground(QPainter* painter, const QRectF& area)
 
 void BoardView::drawGrid(QPainter* painter, const QRectF& area) const
 {
-    const double step = gridStep(leastGrid * pixelSize());
+    const double step = gridStep(m_grid > 0 ? m_grid : 1, leastGrid * pixelSize());
     const QRectF board = m_scene->document()->board().outline.boundingRect() & area;
     QVector<QLineF> lines;
     QVector<QPointF> points;

@@ -17,6 +17,9 @@ public:
     void showArea(const QRectF& area);
     void zoom(double factor);
 
+    /// Draws lines at multiples of this step; 0: at multiples of whatever is well seen.
+    void setGrid(double step);
+
     /// Micrometres to a pixel.
     double pixelSize() const;
 
@@ -53,6 +56,7 @@ private:
     void drawGrid(QPainter* painter, const QRectF& area) const;
 
     BoardScene* m_scene;
+    double m_grid = 0;
     bool m_fits = true;
     bool m_isPanning = false;
     QPoint m_panFrom;

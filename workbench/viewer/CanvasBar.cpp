@@ -20,6 +20,8 @@ CanvasBar::CanvasBar(CanvasController& canvas, BoardView& view, const FileAction
     setToolButtonStyle(Qt::ToolButtonTextOnly);
     m_undo = add("m_pUndoTB", QKeySequence::Undo);
     m_redo = add("m_pRedoTB", QKeySequence::Redo);
+    m_redo->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
     addSeparator();
     m_fit = add("m_pFitTB", QKeySequence(QStringLiteral("Ctrl+0")));
     m_zoomIn = add("m_pZoomInTB", QKeySequence::ZoomIn);
@@ -85,4 +87,20 @@ void CanvasBar::nameHistory()
     m_redo->setText(tr("&Redo %1").arg(histories.redoText()).trimmed());
     m_undo->setToolTip(tr("Undo: %1").arg(histories.undoText()));
     m_redo->setToolTip(tr("Redo: %1").arg(histories.redoText()));
+}
+
+void CanvasBar::addZoomKeys(QWidget* window, BoardView& view)
+{
+    const auto add = [window](const QKeySequence& shortcut) {
+        auto* const action = new QAction(window);
+        action->setShortcut(shortcut);
+        window->addAction(action);
+        return action;
+    };
+    connect(add(QKeySequence(QStringLiteral("Ctrl+0"))), &QAction::triggered, &view,
+            &BoardView::fit);
+    connect(add(QKeySequence::ZoomIn), &QAction::triggered, &view,
+            [&view] { view.zoom(zoomStep); });
+    connect(add(QKeySequence::ZoomOut), &QAction::triggered, &view,
+            [&view] { view.zoom(1 / zoomStep); });
 }

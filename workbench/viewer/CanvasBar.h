@@ -17,6 +17,9 @@ public:
 
     void retranslate();
 
+    /// The keys of fit and zoom for a window with a view of its own.
+    static void addZoomKeys(QWidget* window, BoardView& view);
+
 private:
     QAction* add(const char* objectName, const QKeySequence& shortcut);
     void place(QAction* action, const char* objectName);

@@ -3,15 +3,28 @@
 #include "viewer/BoardView.h"
 #include "viewer/DemoBoard.h"
 
+#include <UiApiStandIn.h>
+
+#include <QScopedValueRollback>
+
 #include <utility>
 
 namespace {
 
 constexpr double pickDistance = 4;  // pixels
+constexpr double snapDistance = 10;
+
+/// A usual one in the user's system of units, in micrometres.
+double usualGridStep()
+{
+    const bool isMetric = CanvasHost::displayUnit() == CanvasHost::DisplayUnit::Micrometre ||
+                          CanvasHost::displayUnit() == CanvasHost::DisplayUnit::Millimetre;
+    return isMetric ? 500 : 635;
+}
 
 }  // namespace
 
-CanvasController::CanvasController(QObject* parent) : QObject(parent)
+CanvasController::CanvasController(QObject* parent) : QObject(parent), m_gridStep(usualGridStep())
 {
     openStep({}, {});
 }
@@ -48,39 +61,120 @@ void CanvasController::openStep(const QString& job, const QString& step)
 
 void CanvasController::connectView(BoardView* view)
 {
-    m_view = m_view ? m_view : view;
-    connect(view, &BoardView::pressed, this, [this](const QPointF& point, bool extends) {
-        if (m_tool) {
-            m_tool->press(point, extends);
-        }
+    m_view = m_view ? m_view.data() : view;
+    m_views.emplace_back(view);
+    showGrid();
+    connect(view, &BoardView::pressed, this, [this, view](const QPointF& point, bool extends) {
+        m_view = view;
+        press(point, extends);
+    });
+    connect(view, &BoardView::moved, this, [this, view](const QPointF& point) {
+        m_view = view;
+        move(point);
+    });
+    connect(view, &BoardView::released, this, &CanvasController::release);
+    connect(view, &BoardView::finished, this, &CanvasController::finish);
+    connect(view, &BoardView::left, this, [this] {
+        m_snap.reset();
+        hover({});
         refresh();
     });
-    connect(view, &BoardView::moved, this, [this](const QPointF& point) {
-        if (m_tool) {
-            m_tool->move(point);
+}
+
+void CanvasController::setSnapping(bool snaps)
+{
+    m_snaps = snaps;
+    showGrid();
+}
+
+void CanvasController::setGridStep(double step)
+{
+    m_gridStep = step;
+    showGrid();
+}
+
+/// The grid that is seen is the one that points snap to.
+void CanvasController::showGrid()
+{
+    for (const QPointer<BoardView>& view : m_views) {
+        if (view) {
+            view->setGrid(m_snaps ? m_gridStep : 0);
         }
-        hover(point);
+    }
+    if (m_cursor) {
+        aim(*m_cursor);
         refresh();
-        Q_EMIT moved(point);
-    });
-    connect(view, &BoardView::released, this, [this](const QPointF& point) {
-        if (m_tool) {
-            m_tool->release(point);
-        }
-        refresh();
-    });
-    connect(view, &BoardView::finished, this, [this] {
-        if (m_tool) {
-            m_tool->finish();
-        }
-        refresh();
-    });
-    connect(view, &BoardView::left, this, [this] { hover({}); });
+    }
+}
+
+Snapping::Place CanvasController::nearest(const QPointF& point) const
+{
+    const double reach = m_view ? snapDistance * m_view->pixelSize() : 0;
+    return Snapping::nearest(m_document->board(), point, reach, m_gridStep);
+}
+
+QPointF CanvasController::snapped(const QPointF& point) const
+{
+    return m_snaps ? nearest(point).point : point;
+}
+
+QPointF CanvasController::aim(const QPointF& point)
+{
+    m_snap.reset();
+    if (m_snaps && m_tool && m_tool->takesPlace()) {
+        m_snap = nearest(point);
+    }
+    return m_snap ? m_snap->point : point;
+}
+
+void CanvasController::clickAt(const QPointF& place)
+{
+    const QScopedValueRollback<bool> exact(m_snaps, false);
+    move(place);
+    press(place, false);
+    release(place);
+}
+
+void CanvasController::press(const QPointF& point, bool extends)
+{
+    if (m_tool) {
+        m_tool->press(aim(point), extends);
+        aim(point);
+    }
+    refresh();
+}
+
+void CanvasController::move(const QPointF& point)
+{
+    const QPointF place = aim(point);
+    if (m_tool) {
+        m_tool->move(place);
+    }
+    hover(point);
+    refresh();
+    Q_EMIT moved(place);
+}
+
+void CanvasController::release(const QPointF& point)
+{
+    if (m_tool) {
+        m_tool->release(aim(point));
+    }
+    refresh();
+}
+
+void CanvasController::finish()
+{
+    if (m_tool) {
+        m_tool->finish();
+    }
+    refresh();
 }
 
 void CanvasController::setTool(std::unique_ptr<CanvasTool> tool)
 {
     m_tool = std::move(tool);
+    m_snap.reset();
     refresh();
 }
 
@@ -94,7 +188,9 @@ void CanvasController::cancel()
 
 void CanvasController::refresh()
 {
-    m_scene.setOverlay(m_tool ? m_tool->overlay() : Overlay{});
+    Overlay overlay = m_tool ? m_tool->overlay() : Overlay{};
+    overlay.snap = m_snap;
+    m_scene.setOverlay(overlay);
     Q_EMIT hintChanged();
 }
 

@@ -5,6 +5,7 @@
 #include "viewer/Document.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QUndoGroup>
 
 #include <map>
@@ -27,8 +28,16 @@ public:
     QUndoGroup& histories() { return m_histories; }
     BoardScene& scene() { return m_scene; }
 
-    /// The first view connected is the one that the tools show things in.
+    /// The tools show things in the view that the hand was in last; at first in the first one.
     void connectView(BoardView* view);
+
+    /// Points that tools ask for snap to the grid, and to ends and centres of features.
+    void setSnapping(bool snaps);
+    /// In micrometres; above 0.
+    void setGridStep(double step);
+    double gridStep() const { return m_gridStep; }
+    /// As a click exactly there.
+    void clickAt(const QPointF& place);
 
     /// Null: clicks do nothing.
     void setTool(std::unique_ptr<CanvasTool> tool);
@@ -43,6 +52,7 @@ public:
     Document& document() override { return *m_document; }
     int featureAt(const QPointF& point) const override;
     double tolerance() const override;
+    QPointF snapped(const QPointF& point) const override;
     void showArea(const QRectF& area) override;
     void say(const QString& text) override { Q_EMIT said(text); }
 
@@ -54,6 +64,14 @@ Q_SIGNALS:
     void hovered(int feature);  ///< -1: none
 
 private:
+    void press(const QPointF& point, bool extends);
+    void move(const QPointF& point);
+    void release(const QPointF& point);
+    void finish();
+    /// Where the tool gets the point.
+    QPointF aim(const QPointF& point);
+    void showGrid();
+    Snapping::Place nearest(const QPointF& point) const;
     /// Nothing: the mouse is outside all views.
     void hover(const std::optional<QPointF>& cursor);
 
@@ -61,7 +79,11 @@ private:
     QUndoGroup m_histories;
     std::map<std::pair<QString, QString>, std::unique_ptr<Document>> m_steps;
     Document* m_document = nullptr;
-    BoardView* m_view = nullptr;
+    std::vector<QPointer<BoardView>> m_views;
+    QPointer<BoardView> m_view;
     std::unique_ptr<CanvasTool> m_tool;
     std::optional<QPointF> m_cursor;
+    bool m_snaps = false;
+    double m_gridStep;
+    std::optional<Snapping::Place> m_snap;  ///< of the cursor, when the tool asks for a place
 };

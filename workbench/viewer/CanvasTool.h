@@ -2,17 +2,21 @@
 
 #include "board/Feature.h"
 #include "viewer/Document.h"
+#include "viewer/Snapping.h"
 
 #include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
 
+#include <optional>
+
 /// What a tool draws over the board while it is at work.
 struct Overlay {
     Pcb::Features preview;  ///< as they would be
     QPainterPath rubber;    ///< guide lines
     std::vector<Mark> marks;
+    std::optional<Snapping::Place> snap = {};  ///< where the next click goes
 };
 
 /// What a tool may ask of the canvas.
@@ -25,6 +29,8 @@ public:
     virtual int featureAt(const QPointF& point) const = 0;
     /// Micrometres that look like one step of the hand: less is no drag.
     virtual double tolerance() const = 0;
+    /// Where `point` snaps to; itself while points do not snap.
+    virtual QPointF snapped(const QPointF& point) const = 0;
     virtual void showArea(const QRectF& area) = 0;
     /// Says something to the user, in the line below the board.
     virtual void say(const QString& text) = 0;
@@ -38,6 +44,8 @@ public:
     CanvasTool(const CanvasTool&) = delete;
     CanvasTool& operator=(const CanvasTool&) = delete;
 
+    /// Whether the next press gives a place, which may snap, and does not pick what lies there.
+    virtual bool takesPlace() const { return false; }
     virtual void press(const QPointF& point, bool extends) = 0;  ///< `extends`: with Ctrl
     virtual void move(const QPointF& point) { Q_UNUSED(point) }
     virtual void release(const QPointF& point) { Q_UNUSED(point) }

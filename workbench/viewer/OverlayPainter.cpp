@@ -50,6 +50,34 @@ void paintMark(QPainter& painter, const QTransform& toView, const Mark& mark)
     }
 }
 
+/// A square at an end, a circle at a centre, a cross on the grid.
+void drawSnap(QPainter& painter, const QPointF& point, Snapping::Kind kind)
+{
+    constexpr double size = 5;  // pixels from the middle
+    switch (kind) {
+        case Snapping::Kind::End:
+            painter.drawRect(QRectF(point.x() - size, point.y() - size, 2 * size, 2 * size));
+            break;
+        case Snapping::Kind::Centre:
+            painter.drawEllipse(point, size, size);
+            break;
+        case Snapping::Kind::Grid:
+            painter.drawLine(point - QPointF(size, 0), point + QPointF(size, 0));
+            painter.drawLine(point - QPointF(0, size), point + QPointF(0, size));
+            break;
+    }
+}
+
+/// With a dark edge, so that it is seen on any feature.
+void paintSnap(QPainter& painter, const QPointF& point, Snapping::Kind kind)
+{
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(CanvasColours::ground, 4.5));
+    drawSnap(painter, point, kind);
+    painter.setPen(QPen(CanvasColours::snap, 2));
+    drawSnap(painter, point, kind);
+}
+
 }  // namespace
 
 void paintOverlay(QPainter& painter, const QTransform& toView, const Overlay& overlay,
@@ -71,6 +99,9 @@ void paintOverlay(QPainter& painter, const QTransform& toView, const Overlay& ov
     }
     for (const Mark& mark : overlay.marks) {
         paintMark(painter, toView, mark);
+    }
+    if (overlay.snap) {
+        paintSnap(painter, toView.map(overlay.snap->point), overlay.snap->kind);
     }
     painter.restore();
 }

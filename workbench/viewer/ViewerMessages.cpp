@@ -53,6 +53,9 @@ void ViewerPane::receive(const PluginMetaData& message)
         case Accepted::JobOpened:
             openStep(message);
             break;
+        case Sent::Unset:
+            startTool(nullptr, 0);  // a mode that is none: no tool before it goes on
+            break;
         default:
             followTool(message);
     }
@@ -68,7 +71,12 @@ void ViewerPane::takeRecord(const PluginMetaData& message)
     m_inspector->showRecord(message);
     m_record = message.payload;
     // The tool announces itself only once; later its record is what begins the drawing.
+    const bool wasOther = m_tool != ToolSet::find(Sent::AddFeature);
     PlaceTool* const place = m_place ? m_place : startPlacing();
+    if (wasOther) {
+        // The dialog was used while the strip showed another tool.
+        send(Accepted::AddFeatureActive);
+    }
     place->setBrush(Pcb::readBrush(m_record, m_attributes));
     m_canvas.refresh();
 }
@@ -100,6 +108,26 @@ void ViewerPane::takeAttributes(const PluginMetaData& message)
         m_place->setBrush(Pcb::readBrush(m_record, m_attributes));
         m_canvas.refresh();
     }
+}
+
+void ViewerPane::stripWasMade()
+{
+    startTool(ToolSet::find(Sent::AreaZoom), 0);
+    showTool();
+}
+
+void ViewerPane::overhear(int code)
+{
+    const ToolSet::Row* const adding = ToolSet::find(Sent::AddFeature);
+    if (code == Accepted::ReleaseAll) {
+        startTool(nullptr, 0);
+    } else if ((code == Accepted::AddFeatureActive || code == Sent::AddFeatureStarted) &&
+               m_tool != adding) {
+        startTool(adding, 0);
+    } else if (code == Accepted::UnitChanged) {
+        showLengths();
+    }
+    showTool();
 }
 
 void ViewerPane::followTool(const PluginMetaData& message)

@@ -4,28 +4,25 @@
 #include "viewer/BoardFiles.h"
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
+#include "viewer/CanvasKeys.h"
 #include "viewer/EditActions.h"
 #include "viewer/FileActions.h"
 #include "viewer/Inspector.h"
+#include "viewer/SnapControls.h"
+#include "viewer/ToolLine.h"
 
 #include <CommonWidgetsStandIn.h>
-#include <UiApiStandIn.h>
 
+#include <QAction>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
 namespace {
 
-QLabel* createLabel(const char* name, QWidget* parent)
-{
-    auto* const label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    return label;
-}
+constexpr QSize secondViewSize(800, 560);
 
 /// The error that `work` ends with.
 template <class Work>
@@ -50,8 +47,10 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     m_files = new FileActions(m_canvas, this);
     m_edits = new EditActions(m_canvas, this);
     m_bar = new CanvasBar(m_canvas, *m_view, *m_files, this);
+    m_snapping = new SnapControls(m_canvas, m_bar);
     m_inspector = new Inspector(this);
-    auto* const head = createHead();
+    auto* const toolLine =
+        new ToolLine({"m_pActiveToolLB", "m_pPickHintLB", "m_pPositionLE"}, this);
 
     auto* const splitter = new QSplitter(this);
     splitter->setObjectName(QStringLiteral("m_pViewerSplitter"));
@@ -60,21 +59,17 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
     splitter->setChildrenCollapsible(false);
-    m_pCanvasStatusLB = createLabel("m_pCanvasStatusLB", this);
-    m_pHoveredLB = createLabel("m_pHoveredLB", this);
-    auto* const foot = new QHBoxLayout;
-    foot->setContentsMargins(8, 3, 8, 3);
-    foot->addWidget(m_pCanvasStatusLB);
-    foot->addStretch(1);
-    foot->addWidget(m_pHoveredLB);
-
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addLayout(head);
+    layout->addWidget(m_bar);
+    layout->addWidget(toolLine);
     layout->addWidget(splitter, 1);
-    layout->addLayout(foot);
+    layout->addLayout(createFoot());
     connectCanvas();
+    connectLine(toolLine, m_view);
+    m_keys = new CanvasKeys(this);
+    stripWasMade();
     retranslate();
 }
 
@@ -84,45 +79,47 @@ ViewerPane::~ViewerPane()
     delete m_secondView;
 }
 
-QLayout* ViewerPane::createHead()
+QLayout* ViewerPane::createFoot()
 {
-    m_pActiveToolLB = createLabel("m_pActiveToolLB", this);
-    QFont font = m_pActiveToolLB->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.15);
-    m_pActiveToolLB->setFont(font);
-    m_pPickHintLB = createLabel("m_pPickHintLB", this);
-    m_pPositionLB = createLabel("m_pPositionLB", this);
-    // A long hint does not widen the window.
-    m_pPickHintLB->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto* const words = new QHBoxLayout;
-    words->setContentsMargins(8, 2, 8, 4);
-    words->addWidget(m_pActiveToolLB);
-    words->addSpacing(16);
-    words->addWidget(m_pPickHintLB, 1);
-    words->addWidget(m_pPositionLB);
-    auto* const head = new QVBoxLayout;
-    head->setSpacing(0);
-    head->addWidget(m_bar);
-    head->addLayout(words);
-    return head;
+    m_pCanvasStatusLB = createSteadyLabel("m_pCanvasStatusLB", this);
+    m_pHoveredLB = createSteadyLabel("m_pHoveredLB", this);
+    m_pHoveredLB->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* const foot = new QHBoxLayout;
+    foot->setContentsMargins(8, 3, 8, 3);
+    makeSteady(foot, m_pCanvasStatusLB);
+    foot->addWidget(m_pCanvasStatusLB, 1);
+    foot->addWidget(m_pHoveredLB, 1);
+    return foot;
 }
 
 void ViewerPane::connectCanvas()
 {
     m_canvas.connectView(m_view);
-    connect(&m_canvas, &CanvasController::said, m_pCanvasStatusLB, &QLabel::setText);
-    connect(&m_canvas, &CanvasController::hintChanged, this,
-            [this] { m_pPickHintLB->setText(m_canvas.hint()); });
-    connect(&m_canvas, &CanvasController::moved, this, [this](const QPointF& point) {
-        m_pPositionLB->setText(CanvasHost::lengthText(point));
-    });
+    connect(&m_canvas, &CanvasController::said, this,
+            [this](const QString& text) { showSteadily(m_pCanvasStatusLB, text); });
+    connect(m_snapping, &SnapControls::finished, m_view, qOverload<>(&QWidget::setFocus));
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
     connect(m_files, &FileActions::opened, m_view, &BoardView::fit);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, &m_canvas,
-            &CanvasController::cancel);
+    auto* const cancel = new QAction(this);
+    cancel->setObjectName(QStringLiteral("m_pCancelAct"));
+    cancel->setShortcut(Qt::Key_Escape);
+    connect(cancel, &QAction::triggered, &m_canvas, &CanvasController::cancel);
     CanvasHost::setMeasureStarted([this] { startMeasuring(); });
+}
+
+void ViewerPane::connectLine(ToolLine* line, BoardView* view)
+{
+    m_lines.push_back(line);
+    connect(&m_canvas, &CanvasController::hintChanged, line,
+            [this, line] { line->showHint(m_canvas.hint()); });
+    connect(&m_canvas, &CanvasController::moved, line,
+            [line](const QPointF& point) { line->showPosition(point); });
+    connect(line, &ToolLine::placeTyped, &m_canvas, &CanvasController::clickAt);
+    connect(line, &ToolLine::noPlaceTyped, this, [this](const QString& text) {
+        m_canvas.say(tr("\"%1\" is no place (two numbers, and mil, inch, um or mm).").arg(text));
+    });
+    connect(line, &ToolLine::finished, view, qOverload<>(&QWidget::setFocus));
 }
 
 CanvasHost::FileError ViewerPane::openBoard(const QString& file)
@@ -138,14 +135,33 @@ CanvasHost::FileError ViewerPane::exportBoard(const QString& file)
 void ViewerPane::openSecondView()
 {
     if (!m_secondView) {
-        auto* const view = new BoardView(&m_canvas.scene());
-        view->setObjectName(QStringLiteral("m_pSecondView"));
-        m_canvas.connectView(view);
-        m_secondView = view;
+        createSecondView();
         retranslate();
     }
     m_secondView->show();
     m_secondView->raise();
+}
+
+void ViewerPane::createSecondView()
+{
+    m_secondView = new QWidget;
+    m_secondView->setObjectName(QStringLiteral("m_pSecondView"));
+    auto* const line =
+        new ToolLine({"m_pSecondToolLB", "m_pSecondHintLB", "m_pSecondPositionLE"}, m_secondView);
+    auto* const view = new BoardView(&m_canvas.scene(), m_secondView);
+    view->setObjectName(QStringLiteral("m_pSecondBoardView"));
+    auto* const layout = new QVBoxLayout(m_secondView);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(line);
+    layout->addWidget(view, 1);
+    m_canvas.connectView(view);
+    connectLine(line, view);
+    connect(&m_canvas, &CanvasController::documentOpened, view, &BoardView::fit);
+    CanvasBar::addZoomKeys(m_secondView, *view);
+    m_keys->addTo(m_secondView);
+    view->setFocus();
+    m_secondView->resize(secondViewSize);
 }
 
 void ViewerPane::showHovered(int feature)
@@ -166,7 +182,7 @@ void ViewerPane::showHovered(int feature)
                                               : attribute.key() + '=' + attribute.value());
         }
     }
-    m_pHoveredLB->setText(words.join(QStringLiteral("  ")));
+    showSteadily(m_pHoveredLB, words.join(QStringLiteral("  ")));
     m_view->viewport()->setToolTip(words.join('\n'));
 }
 
@@ -178,6 +194,7 @@ void ViewerPane::changeEvent(QEvent* event)
         m_files->retranslate();
         m_edits->retranslate();
         m_bar->retranslate();
+        m_snapping->retranslate();
         retranslate();
     }
 }
@@ -191,16 +208,27 @@ void ViewerPane::showTool()
             tool = tr("%1, mode %2").arg(tool).arg(m_mode);
         }
     }
-    m_pActiveToolLB->setText(tr("Tool: %1").arg(tool));
+    for (ToolLine* const line : m_lines) {
+        line->showTool(tr("Tool: %1").arg(tool));
+    }
 }
 
 void ViewerPane::retranslate()
 {
     showTool();
-    m_pPickHintLB->setText(m_canvas.hint());
+    m_canvas.refresh();  // the hint
     m_view->setAccessibleName(tr("Board"));
     if (m_secondView) {
         m_secondView->setWindowTitle(tr("Second view"));
         m_secondView->setAccessibleName(tr("Second view"));
     }
+}
+
+void ViewerPane::showLengths()
+{
+    m_snapping->showStep();
+    for (ToolLine* const line : m_lines) {
+        line->showPosition();
+    }
+    m_canvas.scene().update();  // marks have lengths as well
 }

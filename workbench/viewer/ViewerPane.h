@@ -11,12 +11,16 @@
 #include <QWidget>
 
 class BoardView;
+class CanvasKeys;
+class EditActions;
 class CanvasBar;
 class EditActions;
 class FileActions;
 class Inspector;
 class PlaceTool;
 class QLabel;
+class SnapControls;
+class ToolLine;
 
 /// The canvas: draws what the tool strip describes, does what its tools do, and sends back what the
 /// user picks on the board. It never sends a tool's message back, which would go round for ever.
@@ -37,12 +41,19 @@ public:
     Q_INVOKABLE CanvasHost::FileError openBoard(const QString& file);
     Q_INVOKABLE CanvasHost::FileError exportBoard(const QString& file);
 
+    /// For the host, which alone knows: the tool strip was made anew, or there was a message to or
+    /// from it that does not come here. The canvas's tool is the one that the strip shows.
+    Q_INVOKABLE void stripWasMade();
+    Q_INVOKABLE void overhear(int code);
+
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QLayout* createHead();
+    QLayout* createFoot();
     void connectCanvas();
+    void connectLine(ToolLine* line, BoardView* view);
+    void createSecondView();
 
     void takeRecord(const PluginMetaData& message);
     void takeDirection(const PluginMetaData& message);
@@ -60,6 +71,7 @@ private:
 
     void showHovered(int feature);
     void showTool();
+    void showLengths();
     void retranslate();
 
     QWidget* m_parent;
@@ -68,10 +80,11 @@ private:
     FileActions* m_files;
     EditActions* m_edits;
     CanvasBar* m_bar;
+    EditActions* m_edits;
+    SnapControls* m_snapping;
+    CanvasKeys* m_keys;
     Inspector* m_inspector;
-    QLabel* m_pActiveToolLB;
-    QLabel* m_pPickHintLB;
-    QLabel* m_pPositionLB;
+    std::vector<ToolLine*> m_lines;  ///< that of the pane, and that of the second view
     QLabel* m_pCanvasStatusLB;
     QLabel* m_pHoveredLB;
     QPointer<QWidget> m_secondView;

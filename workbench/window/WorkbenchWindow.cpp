@@ -2,6 +2,7 @@
 
 #include "compose/ComposeDialog.h"
 #include "messages/HostState.h"
+#include "messages/MessageLog.h"
 #include "messages/MessageMonitor.h"
 #include "messages/WindowPicture.h"
 #include "plugin/MessageCodes.h"
@@ -36,6 +37,7 @@ WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
     createMenus();
     retranslate();
     connectControls();
+    connect(log, &MessageLog::appended, this, &WorkbenchWindow::tellCanvas);
     CanvasHost::addInstance(CanvasHost::hostName, this, &WorkbenchWindow::receive, this);
     new WindowPlacer(this);
     setAcceptDrops(true);
@@ -118,11 +120,28 @@ void WorkbenchWindow::showEq(bool visible)
 {
     // The strip asks once, while it is made: a host makes a new one.
     CanvasHost::setEQVisible(visible);
+    invokeCanvas("stripWasMade");
     try {
         m_strip->fill(m_options.moduleDirectory);
         m_host->announceJob();
     } catch (const CanvasHost::FileError& error) {
         QMessageBox::warning(this, tr("Modules"), error.text());
+    }
+}
+
+/// The strip's active tool may change by messages that do not go to the canvas.
+void WorkbenchWindow::tellCanvas(const MessageRecord& message)
+{
+    if (message.receiver != ModuleNames::viewer) {
+        invokeCanvas("overhear", Q_ARG(int, message.code));
+    }
+}
+
+/// The canvas is a module, known by its name and methods alone.
+void WorkbenchWindow::invokeCanvas(const char* method, QGenericArgument argument)
+{
+    if (auto* const canvas = findChild<QWidget*>(QStringLiteral("m_pViewer"))) {
+        QMetaObject::invokeMethod(canvas, method, argument);
     }
 }
 

@@ -17,6 +17,7 @@ class ComposeDialog;
 class HostState;
 class MessageLog;
 class MessageMonitor;
+struct MessageRecord;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -76,6 +77,8 @@ private:
     void showStep(const QString& job, const QString& step);
     void changeLanguage(int index);
     void showEq(bool visible);
+    void tellCanvas(const MessageRecord& message);
+    void invokeCanvas(const char* method, QGenericArgument argument = {});
     void savePicture();
     void openDimensions();
     void compose();

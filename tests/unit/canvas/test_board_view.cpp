@@ -79,14 +79,15 @@ private Q_SLOTS:
         const CanvasFixture fixture;
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Millimetre);
         fixture.move(10000, 7000);
-        const QString words = fixture.text("m_pPositionLB");
+        const auto& position = findNamed<QLineEdit>(*fixture.pane, "m_pPositionLE");
+        const QString words = position.text();
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
         QVERIFY2(QRegularExpression("^(9\\.9|10\\.0)\\d{3}, (6\\.9|7\\.0)\\d{3} mm$")
                      .match(words)
                      .hasMatch(),
                  qPrintable(words));
         fixture.move(5080, 7000);
-        QVERIFY(fixture.text("m_pPositionLB").endsWith(" mil"));
+        QVERIFY(position.text().endsWith(" mil"));
     }
 
     void staysFittedWhileItGrows()

@@ -346,8 +346,8 @@ private Q_SLOTS:
         QVERIFY(second);
         // The tool works in both.
         fixture.receive(Sent::DeleteFeature, 0);
-        auto* const view = qobject_cast<BoardView*>(second);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->viewPoint(16000, 10000));
+        const auto& view = findNamed<BoardView>(*second, "m_pSecondBoardView");
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewPoint(16000, 10000));
         QCOMPARE(fixture.features().size(), size_t(3));
     }
 

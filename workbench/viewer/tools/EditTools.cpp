@@ -157,7 +157,7 @@ void MoveTool::press(const QPointF& point, bool /*extends*/)
         return;
     }
     m_grabbed = meantBy(document(), feature);
-    m_from = m_cursor = point;
+    m_from = m_cursor = canvas().snapped(point);
 }
 
 void MoveTool::release(const QPointF& point)

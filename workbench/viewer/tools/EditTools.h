@@ -74,6 +74,7 @@ class MoveTool : public CanvasTool {
 public:
     MoveTool(Canvas& canvas, const MoveEdit& edit) : CanvasTool(canvas), m_edit(edit) {}
 
+    bool takesPlace() const override { return !m_grabbed.empty(); }
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
     void release(const QPointF& point) override;
@@ -97,6 +98,7 @@ class LineEndTool : public CanvasTool {
 public:
     LineEndTool(Canvas& canvas, const LineEndEdit& edit) : CanvasTool(canvas), m_edit(edit) {}
 
+    bool takesPlace() const override { return m_feature >= 0; }
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
     void cancel() override { m_feature = -1; }

@@ -18,6 +18,7 @@ public:
     /// The surface that is being drawn is complete as it is.
     void fill();
 
+    bool takesPlace() const override { return true; }
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_placement.move(point); }
     void finish() override;

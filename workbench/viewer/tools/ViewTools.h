@@ -40,6 +40,7 @@ class MarkTool : public CanvasTool {
 public:
     MarkTool(Canvas& canvas, bool orthogonal) : CanvasTool(canvas), m_orthogonal(orthogonal) {}
 
+    bool takesPlace() const override { return true; }
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
     void finish() override;
@@ -66,6 +67,7 @@ public:
     {
     }
 
+    bool takesPlace() const override { return true; }
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
     void cancel() override { m_first.reset(); }

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+
+class CanvasController;
+class QAction;
+class QLabel;
+class QLineEdit;
+class QToolBar;
+
+/// In the canvas's bar: whether points snap, and the step of the grid.
+class SnapControls : public QObject {
+    Q_OBJECT
+
+public:
+    SnapControls(CanvasController& canvas, QToolBar* bar);
+
+    void retranslate();
+    /// In the unit that the user has chosen.
+    void showStep();
+
+Q_SIGNALS:
+    /// A step was typed: the keys are the board's again.
+    void finished();
+
+private:
+    void takeStep();
+
+    CanvasController& m_canvas;
+    QAction* m_snap;
+    QLabel* m_label;
+    QLineEdit* m_step;
+};
