@@ -28,8 +28,9 @@ QRectF boundsOf(const Board& board);
 /// The area of the layer: positive features less the negative ones that came after them.
 QPainterPath coveredArea(const Board& board);
 
-/// The topmost feature at `point` or no farther from it than `tolerance`; -1: none.
-int featureAt(const Board& board, const QPointF& point, double tolerance);
+/// The topmost of `candidates` at `point` or no farther from it than `tolerance`; -1: none.
+int featureAt(const Board& board, const Indexes& candidates, const QPointF& point,
+              double tolerance);
 
 bool touch(const Feature& a, const Feature& b);
 
