@@ -34,6 +34,11 @@ const std::vector<Figure>& figures()
         {"grow-special",    "special symbols of the job at send",                 Kind::Exponent, 1.1},
         {"grow-strips",     "strips in one process",                              Kind::Exponent, 1.1},
         {"memory",          "heap after all clicks and sends",                    Kind::Bytes, allocatorCaches},
+        {"board-wheel",     "board: a notch of the wheel, painted",               Kind::Ratio, 100},
+        {"board-pan",       "board: a step of a pan, painted",                    Kind::Ratio, 100},
+        {"board-hover",     "board: the mouse over another feature",              Kind::Ratio, 3},
+        {"board-delete",    "board: one feature deleted, painted",                Kind::Ratio, 3},
+        {"board-undo",      "board: the same undone",                             Kind::Ratio, 3},
         {"host-calls",      "calls of any one host function in a send",           Kind::Count, 1},
     };
     // clang-format on

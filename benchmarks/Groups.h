@@ -13,3 +13,4 @@ void addProcessFigures(Runner& runner);
 void addGrowthFigures(Runner& runner);
 void addMemoryFigures(Runner& runner);
 void addHostCallFigures(Runner& runner);
+void addBoardFigures(Runner& runner);

@@ -127,7 +127,7 @@ int main(int argc, char** argv)
     Runner runner(effort);
     for (const auto add : {addStripFigures, addClickFigures, addIncomingFigures, addRecordFigures,
                            addDialogFigures, addKeyFigures, addProcessFigures, addGrowthFigures,
-                           addMemoryFigures, addHostCallFigures}) {
+                           addMemoryFigures, addBoardFigures, addHostCallFigures}) {
         add(runner);
     }
     const std::vector<Result> results = runner.run();

@@ -1133,6 +1133,10 @@
         <translation>单击图元的起点。</translation>
     </message>
     <message>
+        <source>Click where the feature begins; no symbol is named, %1 is drawn.</source>
+        <translation>单击图元的起点；未指定符号，将绘制 %1。</translation>
+    </message>
+    <message>
         <source>Click where the feature begins; its code cannot carry &quot;%1&quot;.</source>
         <translation>单击图元的起点；其条码无法包含“%1”。</translation>
     </message>

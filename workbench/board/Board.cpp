@@ -103,14 +103,12 @@ QRectF boundsOf(const Board& board)
     return bounds;
 }
 
-int featureAt(const Board& board, const QPointF& point, double tolerance)
+int featureAt(const Board& board, const Indexes& candidates, const QPointF& point, double tolerance)
 {
-    for (int index = static_cast<int>(board.features.size()) - 1; index >= 0; --index) {
-        if (isNear(at(board, index).area(), point, tolerance)) {
-            return index;
-        }
-    }
-    return -1;
+    const auto found = std::find_if(candidates.rbegin(), candidates.rend(), [&](int index) {
+        return isNear(at(board, index).area(), point, tolerance);
+    });
+    return found == candidates.rend() ? -1 : *found;
 }
 
 bool touch(const Feature& a, const Feature& b)

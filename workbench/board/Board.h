@@ -25,8 +25,9 @@ using Indexes = std::vector<int>;  ///< of features; ascending, each once
 /// Outline and features; invalid for a board of nothing.
 QRectF boundsOf(const Board& board);
 
-/// The topmost feature at `point` or no farther from it than `tolerance`; -1: none.
-int featureAt(const Board& board, const QPointF& point, double tolerance);
+/// The topmost of `candidates` at `point` or no farther from it than `tolerance`; -1: none.
+int featureAt(const Board& board, const Indexes& candidates, const QPointF& point,
+              double tolerance);
 
 bool touch(const Feature& a, const Feature& b);
 

@@ -81,7 +81,8 @@ void readFrame(const Reader& record, Brush& brush)
     brush.mirror = record.is(RecordKeys::mirror, Mirror::yes, brush.mirror);
     brush.rotation = record.angle(RecordKeys::mirrorRotate);
     const QString symbol = withoutRotation(record.text(RecordKeys::symbolText));
-    if (!symbol.isEmpty()) {
+    brush.symbolNamed = !symbol.isEmpty();
+    if (brush.symbolNamed) {
         brush.symbol = symbol;
     }
 }
@@ -172,8 +173,8 @@ void readText(const Reader& record, TextSpec& text)
 auto tiedCommon(const Brush& brush)
 {
     return std::tie(brush.kind, brush.positive, brush.mirror, brush.rotation, brush.symbol,
-                    brush.attributes, brush.text, brush.surface, brush.circle, brush.arcMethod,
-                    brush.circleMethod, brush.clockwise);
+                    brush.symbolNamed, brush.attributes, brush.text, brush.surface, brush.circle,
+                    brush.arcMethod, brush.circleMethod, brush.clockwise);
 }
 
 auto tiedShapes(const Brush& brush)

@@ -40,6 +40,7 @@ struct Brush {
     bool mirror = false;
     double rotation = 0;
     QString symbol = QStringLiteral("r10");
+    bool symbolNamed = false;  ///< the record names the symbol
     Attributes attributes;
 
     LineMode line = LineMode::Single;

@@ -153,17 +153,19 @@ Parts crossings(const Board& board, int index)
     return parts;
 }
 
-template <typename Edit>
-Board withEdited(const Board& board, const Indexes& indexes, Edit edit)
+bool exists(const Board& board, int index)
 {
-    Board edited = board;
-    for (const int index : indexes) {
-        if (index >= 0 && index < static_cast<int>(edited.features.size())) {
-            Feature& feature = edited.features[static_cast<size_t>(index)];
-            feature = edit(feature);
-        }
+    return index >= 0 && index < static_cast<int>(board.features.size());
+}
+
+/// One more feature is replaced; neighbours make one splice.
+void replace(Edit& edit, int index, const Features& by)
+{
+    if (edit.empty() || edit.back().index + edit.back().count != index) {
+        edit.push_back({index, 0, {}});
     }
-    return edited;
+    ++edit.back().count;
+    edit.back().entries.insert(edit.back().entries.end(), by.begin(), by.end());
 }
 
 }  // namespace
@@ -273,8 +275,7 @@ Features broken(const Feature& feature, const QPointF& point)
 
 std::optional<Features> deletedToIntersection(const Board& board, int index, const QPointF& point)
 {
-    if (index < 0 || index >= static_cast<int>(board.features.size()) ||
-        !isLine(board.features[static_cast<size_t>(index)])) {
+    if (!exists(board, index) || !isLine(board.features[static_cast<size_t>(index)])) {
         return std::nullopt;
     }
     const Feature& line = board.features[static_cast<size_t>(index)];
@@ -300,54 +301,58 @@ std::optional<Features> deletedToIntersection(const Board& board, int index, con
     return left;
 }
 
-Board withReplaced(const Board& board, int index, const Features& by)
+Edit withReplaced(const Board& board, int index, const Features& by)
 {
-    Board edited = board;
-    if (index >= 0 && index < static_cast<int>(board.features.size())) {
-        const auto place = edited.features.erase(edited.features.begin() + index);
-        edited.features.insert(place, by.begin(), by.end());
-    }
-    return edited;
+    return exists(board, index) ? Edit{{index, 1, by}} : Edit();
 }
 
-Board without(const Board& board, const Indexes& indexes)
+Edit without(const Board& board, const Indexes& indexes)
 {
-    Board edited = board;
-    edited.features.clear();
-    for (int index = 0; index < static_cast<int>(board.features.size()); ++index) {
-        if (std::find(indexes.begin(), indexes.end(), index) == indexes.end()) {
-            edited.features.push_back(board.features[static_cast<size_t>(index)]);
+    Edit edit;
+    for (const int index : indexes) {
+        if (exists(board, index)) {
+            replace(edit, index, {});
         }
     }
-    return edited;
+    return edit;
 }
 
-Board withAdded(const Board& board, const Features& features)
+Edit withAdded(const Board& board, const Features& features)
 {
-    Board edited = board;
-    edited.features.insert(edited.features.end(), features.begin(), features.end());
-    return edited;
+    return {{static_cast<int>(board.features.size()), 0, features}};
 }
 
-Board withMoved(const Board& board, const Indexes& indexes, const QPointF& by)
+Edit withEach(const Board& board, const Indexes& indexes,
+              const std::function<Feature(const Feature&)>& change)
 {
-    return withEdited(board, indexes, [&by](const Feature& feature) { return moved(feature, by); });
+    Edit edit;
+    for (const int index : indexes) {
+        if (exists(board, index)) {
+            replace(edit, index, {change(board.features[static_cast<size_t>(index)])});
+        }
+    }
+    return edit;
 }
 
-Board withCopied(const Board& board, const Indexes& indexes, const QPointF& by)
+Edit withMoved(const Board& board, const Indexes& indexes, const QPointF& by)
+{
+    return withEach(board, indexes, [&by](const Feature& feature) { return moved(feature, by); });
+}
+
+Edit withCopied(const Board& board, const Indexes& indexes, const QPointF& by)
 {
     Features copies;
     for (const int index : indexes) {
-        if (index >= 0 && index < static_cast<int>(board.features.size())) {
+        if (exists(board, index)) {
             copies.push_back(moved(board.features[static_cast<size_t>(index)], by));
         }
     }
     return withAdded(board, copies);
 }
 
-Board withInverted(const Board& board, const Indexes& indexes)
+Edit withInverted(const Board& board, const Indexes& indexes)
 {
-    return withEdited(board, indexes, inverted);
+    return withEach(board, indexes, inverted);
 }
 
 }  // namespace Pcb

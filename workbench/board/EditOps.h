@@ -2,7 +2,9 @@
 
 #include "board/Board.h"
 #include "board/Feature.h"
+#include "board/Splice.h"
 
+#include <functional>
 #include <optional>
 
 /// Edits as functions of values: nothing given is changed. Lengths are micrometres, angles are
@@ -40,12 +42,18 @@ Features broken(const Feature& feature, const QPointF& point);
 /// is left. Nothing for what is no line.
 std::optional<Features> deletedToIntersection(const Board& board, int index, const QPointF& point);
 
-/// Boards with features replaced, deleted or added. Indexes that do not exist are left out.
-Board withReplaced(const Board& board, int index, const Features& by);
-Board without(const Board& board, const Indexes& indexes);
-Board withAdded(const Board& board, const Features& features);
-Board withMoved(const Board& board, const Indexes& indexes, const QPointF& by);
-Board withCopied(const Board& board, const Indexes& indexes, const QPointF& by);
-Board withInverted(const Board& board, const Indexes& indexes);
+/// An edit as what it changes of a board's features.
+using Edit = Splices<Feature>;
+
+/// Edits that replace, delete or add features. Indexes are ascending; those that do not exist are
+/// left out.
+Edit withReplaced(const Board& board, int index, const Features& by);
+Edit without(const Board& board, const Indexes& indexes);
+Edit withAdded(const Board& board, const Features& features);
+Edit withEach(const Board& board, const Indexes& indexes,
+              const std::function<Feature(const Feature&)>& change);
+Edit withMoved(const Board& board, const Indexes& indexes, const QPointF& by);
+Edit withCopied(const Board& board, const Indexes& indexes, const QPointF& by);
+Edit withInverted(const Board& board, const Indexes& indexes);
 
 }  // namespace Pcb

@@ -141,14 +141,21 @@ int leastPoints(const Geometry& geometry)
     }
 }
 
-Feature::Feature(Geometry geometry)
-    : m_geometry(std::move(geometry)), m_area(areaOf(m_geometry)), m_bounds(m_area.boundingRect())
+Feature::Feature()
 {
+    static const auto nothing = std::make_shared<const Data>();
+    m_data = nothing;
+}
+
+Feature::Feature(Geometry geometry)
+{
+    const QPainterPath area = areaOf(geometry);
+    m_data = std::make_shared<const Data>(Data{area.boundingRect(), std::move(geometry), area});
 }
 
 QString Feature::net() const
 {
-    return m_geometry.attributes.value(QStringLiteral(".net"));
+    return attributes().value(QStringLiteral(".net"));
 }
 
 double arcPenWidth(const QString& symbol)

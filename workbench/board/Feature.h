@@ -9,6 +9,7 @@
 #include <QTransform>
 #include <QVector>
 
+#include <memory>
 #include <vector>
 
 namespace Pcb {
@@ -44,32 +45,39 @@ struct Geometry {
 /// How many points a geometry of this kind must have; surfaces that are not round may have more.
 int leastPoints(const Geometry& geometry);
 
-/// A feature of the board: a value that does not change once it is made. Copies share the area.
+/// A feature of the board: a value that does not change once it is made. Copies share all of it.
 class Feature {
 public:
-    Feature() = default;
+    Feature();
     explicit Feature(Geometry geometry);
 
-    const Geometry& geometry() const { return m_geometry; }
-    Kind kind() const { return m_geometry.kind; }
-    bool isPositive() const { return m_geometry.positive; }
-    const QString& symbol() const { return m_geometry.symbol; }
-    const Attributes& attributes() const { return m_geometry.attributes; }
+    const Geometry& geometry() const { return m_data->geometry; }
+    Kind kind() const { return m_data->geometry.kind; }
+    bool isPositive() const { return m_data->geometry.positive; }
+    const QString& symbol() const { return m_data->geometry.symbol; }
+    const Attributes& attributes() const { return m_data->geometry.attributes; }
 
     /// The net it belongs to, from the attribute ".net"; empty where there is none.
     QString net() const;
 
     /// What it covers, whatever its polarity, by the path's fill rule. Empty for a geometry of too
     /// few points.
-    const QPainterPath& area() const { return m_area; }
-    const QRectF& bounds() const { return m_bounds; }
+    const QPainterPath& area() const { return m_data->area; }
+    const QRectF& bounds() const { return m_data->bounds; }
 
-    bool operator==(const Feature& other) const { return m_geometry == other.m_geometry; }
+    bool operator==(const Feature& other) const
+    {
+        return m_data == other.m_data || geometry() == other.geometry();
+    }
 
 private:
-    Geometry m_geometry;
-    QPainterPath m_area;
-    QRectF m_bounds;
+    struct Data {
+        QRectF bounds;
+        Geometry geometry;
+        QPainterPath area;
+    };
+
+    std::shared_ptr<const Data> m_data;
 };
 
 using Features = std::vector<Feature>;

@@ -7,15 +7,13 @@
 
 #include <vector>
 
-class FeatureItem;
-
-/// The features of a document as items in board coordinates (micrometres; the views let y point
-/// up), and what the tool at work draws over them.
+/// What the views show, in board coordinates (micrometres; the views let y point up): a document,
+/// the feature under the mouse, and what the tool at work draws.
 class BoardScene : public QGraphicsScene {
     Q_OBJECT
 
 public:
-    explicit BoardScene(QObject* parent = nullptr);
+    using QGraphicsScene::QGraphicsScene;
 
     /// Shows another document; the caller owns it, and it must outlive this or be replaced.
     void setDocument(Document* document);
@@ -28,13 +26,16 @@ public:
     void setOverlay(const Overlay& overlay);
     const Overlay& overlay() const { return m_overlay; }
 
+Q_SIGNALS:
+    /// Features in these areas look otherwise.
+    void repainted(const std::vector<QRectF>& areas);
+    /// All of the board is another.
+    void replaced();
+
 private:
-    void rebuild();
-    void recolour();
+    void fitField();
 
     Document* m_document = nullptr;
-    std::vector<FeatureItem*> m_items;
-    Pcb::Features m_shown;
     int m_hovered = -1;
     Overlay m_overlay;
 };

@@ -2,6 +2,7 @@
 
 #include "viewer/BoardScene.h"
 #include "viewer/CanvasColours.h"
+#include "viewer/FeaturePainter.h"
 #include "viewer/OverlayPainter.h"
 
 #include <QMouseEvent>
@@ -17,8 +18,8 @@ constexpr int margin = 24;        // pixels around the board
 constexpr double leastGrid = 12;  // pixels between grid lines
 constexpr double notch = 120;     // what a wheel reports for one step
 constexpr double notchFactor = 1.25;
-constexpr double finest = 20;  // pixels to a micrometre
-constexpr double coarsest = 1.0 / 1e5;
+constexpr double finest = 1;        // pixels to a micrometre
+constexpr double leastBoard = 0.1;  // of the view
 
 /// The least of 1, 2, 5, 10, 20, ... times `first` that is not less than `length`.
 double gridStep(double first, double length)
@@ -62,6 +63,34 @@ BoardView::BoardView(BoardScene* scene, QWidget* parent)
     setMinimumSize(240, 180);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
+    // The board is drawn anew only where it has changed or has come into view.
+    setCacheMode(QGraphicsView::CacheBackground);
+    connect(scene, &BoardScene::repainted, this, &BoardView::updateAreas);
+    connect(scene, &BoardScene::replaced, this, &BoardView::updateAll);
+}
+
+void BoardView::updateAreas(const std::vector<QRectF>& areas)
+{
+    constexpr size_t mostAreas = 100;
+    if (areas.size() > mostAreas) {
+        updateAll();
+        return;
+    }
+    for (const QRectF& area : areas) {
+        invalidateScene(widened(area), QGraphicsScene::BackgroundLayer);
+    }
+}
+
+/// Edges, grid points and what is widened to be seen reach beyond their place.
+QRectF BoardView::widened(const QRectF& area) const
+{
+    const double reach = 3 * pixelSize();
+    return area.adjusted(-reach, -reach, reach, reach);
+}
+
+void BoardView::updateAll()
+{
+    invalidateScene(mapToScene(viewport()->rect()).boundingRect(), QGraphicsScene::BackgroundLayer);
 }
 
 void BoardView::fit()
@@ -80,9 +109,16 @@ void BoardView::showArea(const QRectF& area)
     setScale(qMin(room.width() / qMax(area.width(), 1.0), room.height() / qMax(area.height(), 1.0)),
              area.center());
     m_fits = false;
+    tellPlace();
 }
 
 void BoardView::zoom(double factor)
+{
+    scaleBy(factor);
+    tellPlace();
+}
+
+void BoardView::scaleBy(double factor)
 {
     const QPointF centre = boardPoint(viewport()->rect().center());
     setScale(factor / pixelSize(), centre);
@@ -98,9 +134,21 @@ void BoardView::setGrid(double step)
 
 void BoardView::setScale(double pixelsPerMicrometre, const QPointF& centre)
 {
-    const double scale = qBound(coarsest, pixelsPerMicrometre, finest);
+    const QRectF board = m_scene->document()->bounds();
+    const double coarsest = leastBoard * qMin(viewport()->width() / qMax(board.width(), 1.0),
+                                              viewport()->height() / qMax(board.height(), 1.0));
+    const double scale = qBound(qMin(coarsest, finest), pixelsPerMicrometre, finest);
     setTransform(QTransform::fromScale(scale, -scale));
     centerOn(centre);
+    updateAll();
+}
+
+/// The board has moved under a mouse that rests.
+void BoardView::tellPlace()
+{
+    if (m_cursor) {
+        Q_EMIT moved(viewportTransform().inverted().map(*m_cursor));
+    }
 }
 
 double BoardView::pixelSize() const
@@ -135,7 +183,8 @@ void BoardView::mousePressEvent(QMouseEvent* event)
 void BoardView::mouseMoveEvent(QMouseEvent* event)
 {
     panTo(event->pos());
-    Q_EMIT moved(viewportTransform().inverted().map(event->localPos()));
+    m_cursor = event->localPos();
+    tellPlace();
 }
 
 void BoardView::panTo(const QPoint& position)
@@ -168,10 +217,18 @@ void BoardView::wheelEvent(QWheelEvent* event)
 {
     const QPoint cursor = event->position().toPoint();
     const QPointF before = mapToScene(cursor);
-    zoom(std::pow(notchFactor, event->angleDelta().y() / notch));
+    scaleBy(std::pow(notchFactor, event->angleDelta().y() / notch));
     // What was under the cursor stays there.
     scrollBy(mapFromScene(before) - cursor);
+    m_cursor = event->position();
+    tellPlace();
     event->accept();
+}
+
+void BoardView::keyPressEvent(QKeyEvent* event)
+{
+    QGraphicsView::keyPressEvent(event);
+    tellPlace();  // the arrows scroll
 }
 
 void BoardView::contextMenuEvent(QContextMenuEvent* event)
@@ -190,16 +247,35 @@ void BoardView::resizeEvent(QResizeEvent* event)
 void BoardView::leaveEvent(QEvent* event)
 {
     QGraphicsView::leaveEvent(event);
+    m_cursor.reset();
     Q_EMIT left();
 }
 
 void BoardView::drawBackground(QPainter* painter, const QRectF& area)
+{
+    const QTransform toView = painter->worldTransform();
+    painter->resetTransform();
+    const QRegion exposed = painter->hasClipping() ? painter->clipRegion()
+                                                   : QRegion(toView.mapRect(area).toAlignedRect());
+    // What is seen of two areas would be drawn twice where one lies over the other.
+    for (const QRect& part : exposed) {
+        painter->save();
+        painter->setClipRect(part);
+        painter->setTransform(toView);
+        drawBoard(painter, widened(toView.inverted().mapRect(QRectF(part))));
+        painter->restore();
+    }
+    painter->setTransform(toView);
+}
+
+void BoardView::drawBoard(QPainter* painter, const QRectF& area) const
 {
     painter->fillRect(area, CanvasColours::ground);
     painter->setPen(QPen(CanvasColours::boardEdge, 0));
     painter->setBrush(CanvasColours::boardGround);
     painter->drawPolygon(m_scene->document()->board().outline);
     drawGrid(painter, area);
+    paintFeatures(*painter, *m_scene->document(), area);
 }
 
 void BoardView::drawGrid(QPainter* painter, const QRectF& area) const
@@ -232,6 +308,11 @@ void BoardView::drawGrid(QPainter* painter, const QRectF& area) const
 
 void BoardView::drawForeground(QPainter* painter, const QRectF& /*area*/)
 {
-    paintOverlay(*painter, viewportTransform(), m_scene->overlay(),
-                 m_scene->document()->state().marks);
+    const Document& document = *m_scene->document();
+    if (m_scene->hovered() >= 0) {
+        painter->setPen(QPen(CanvasColours::hovered, 0));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawPath(document.board().features[size_t(m_scene->hovered())].area());
+    }
+    paintOverlay(*painter, viewportTransform(), m_scene->overlay(), document.state().marks);
 }

@@ -2,6 +2,9 @@
 
 #include <QGraphicsView>
 
+#include <optional>
+#include <vector>
+
 class BoardScene;
 
 /// A view on the board: grid, wheel zoom, middle-button pan; hands on what the mouse does in board
@@ -15,6 +18,7 @@ public:
     /// The whole board; it stays whole when the view grows, until something else is shown.
     void fit();
     void showArea(const QRectF& area);
+    /// Between the board as a tenth of the view and a micrometre to a pixel.
     void zoom(double factor);
 
     /// Draws lines at multiples of this step; 0: at multiples of whatever is well seen.
@@ -45,14 +49,21 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
+    void updateAreas(const std::vector<QRectF>& areas);
+    void updateAll();
+    QRectF widened(const QRectF& area) const;
+    void drawBoard(QPainter* painter, const QRectF& area) const;
     void panTo(const QPoint& position);
     void scrollBy(const QPoint& pixels);
+    void scaleBy(double factor);
     void setScale(double pixelsPerMicrometre, const QPointF& centre);
+    void tellPlace();
     void drawGrid(QPainter* painter, const QRectF& area) const;
 
     BoardScene* m_scene;
@@ -60,4 +71,5 @@ private:
     bool m_fits = true;
     bool m_isPanning = false;
     QPoint m_panFrom;
+    std::optional<QPointF> m_cursor;  ///< where the mouse is in the viewport
 };

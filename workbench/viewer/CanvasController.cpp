@@ -196,7 +196,7 @@ void CanvasController::refresh()
 
 int CanvasController::featureAt(const QPointF& point) const
 {
-    return Pcb::featureAt(m_document->board(), point, tolerance());
+    return m_document->featureAt(point, tolerance());
 }
 
 double CanvasController::tolerance() const

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "board/Board.h"
+#include "board/BoxIndex.h"
+#include "board/EditOps.h"
+#include "board/IdSet.h"
+#include "board/Sketch.h"
 
 #include <QLineF>
 #include <QObject>
@@ -28,7 +32,10 @@ struct CanvasState {
     bool operator==(const CanvasState& other) const;
 };
 
-/// The step that the canvas shows, with its history.
+struct DocumentStep;
+
+/// The step that the canvas shows, with its history. Each feature has an id, which it keeps while
+/// others come and go; the history holds what each entry changed, and ids of what was selected.
 class Document : public QObject {
     Q_OBJECT
 
@@ -44,25 +51,61 @@ public:
     bool isModified() const;
     void setSaved() { m_history.setClean(); }
 
-    /// Makes `after` the state, as one entry of the history named `text`. Nothing happens when it
-    /// is the state already.
-    void apply(const QString& text, const CanvasState& after);
-    /// The same for another board: what was selected or highlighted stays so only while there are
-    /// as many features as before.
-    void applyBoard(const QString& text, const Pcb::Board& board);
+    // Each is one entry of the history named `text`. Nothing happens when nothing changes.
+
+    /// What was selected or highlighted stays so, and what takes its place is so, too.
+    void applyBoard(const QString& text, const Pcb::Edit& edit);
+    /// The same, and what the edit adds is selected in place of what was.
+    void applyAndSelect(const QString& text, const Pcb::Edit& edit);
     void select(const QString& text, const Pcb::Indexes& indexes);
+    void highlight(const QString& text, const Pcb::Indexes& indexes);
+    void setMarks(const QString& text, const std::vector<Mark>& marks);
 
     /// Another board from outside: the history begins anew.
     void replace(const Pcb::Board& board);
 
+    /// The features whose bounds meet the area.
+    Pcb::Indexes featuresIn(const QRectF& area) const;
+    const Pcb::Sketch& sketch(int feature) const
+    {
+        return m_sketches[static_cast<size_t>(m_ids[static_cast<size_t>(feature)])];
+    }
+    /// The topmost feature at `point` or no farther from it than `tolerance`; -1: none.
+    int featureAt(const QPointF& point, double tolerance) const;
+    /// Holds outline and features; what was deleted may have left it wider than they are.
+    const QRectF& bounds() const { return m_bounds; }
+
 Q_SIGNALS:
+    /// Features in these areas look otherwise.
+    void repainted(const std::vector<QRectF>& areas);
+    /// All of it is another.
+    void replaced();
+    /// After either of them.
     void changed();
 
 private:
     friend class StateChange;
+    using Ids = std::vector<int>;
 
-    void setState(const CanvasState& state);
+    DocumentStep stepOf(const Pcb::Edit& edit);
+    Pcb::Splice<int> idsFor(const Pcb::Splice<Pcb::Feature>& splice);
+    Pcb::IdSet inherited(const Pcb::Splices<int>& splices, const Pcb::Indexes& indexes) const;
+    void addNew(const Ids& ids, Ids& to) const;
+    void push(const QString& text, const DocumentStep& step);
+    void take(const DocumentStep& step);
+    std::vector<QRectF> exchange(const DocumentStep& step);
+    void setBoard(const Pcb::Board& board);
+    void addFeature(int index);
+
+    Ids idsOf(const Pcb::Indexes& indexes) const;
+    Pcb::Indexes indexesOf(const Ids& ids) const;
+    void toggle(Pcb::Indexes& indexes, const Ids& before, const Ids& toggled) const;
 
     CanvasState m_state;
+    Ids m_ids;                            ///< of the board's features, in their order
+    Pcb::Indexes m_places;                ///< by id; -1 where there is no such feature now
+    std::vector<Pcb::Sketch> m_sketches;  ///< by id
+    Pcb::BoxIndex m_boxes;                ///< by id
+    QRectF m_bounds;
     QUndoStack m_history;
 };

@@ -49,6 +49,12 @@ Board boardOf(const Features& features)
     return board;
 }
 
+Board edited(Board board, const Edit& edit)
+{
+    substitute(edit, board.features);
+    return board;
+}
+
 }  // namespace
 
 class BoardTest : public QObject {
@@ -58,11 +64,11 @@ private slots:
     void hitsTheTopmost()
     {
         const Board board = boardOf({square(0, 0, 1000), square(200, 200, 400, false)});
-        QCOMPARE(featureAt(board, {400, 400}, 0), 1);
-        QCOMPARE(featureAt(board, {100, 100}, 0), 0);
-        QCOMPARE(featureAt(board, {195, 400}, 10), 1);
-        QCOMPARE(featureAt(board, {1009, 500}, 10), 0);
-        QCOMPARE(featureAt(board, {1011, 500}, 10), -1);
+        QCOMPARE(featureAt(board, {0, 1}, {400, 400}, 0), 1);
+        QCOMPARE(featureAt(board, {0, 1}, {100, 100}, 0), 0);
+        QCOMPARE(featureAt(board, {0, 1}, {195, 400}, 10), 1);
+        QCOMPARE(featureAt(board, {0, 1}, {1009, 500}, 10), 0);
+        QCOMPARE(featureAt(board, {0, 1}, {1011, 500}, 10), -1);
     }
 
     void netsAreWhatTouches()
@@ -197,18 +203,19 @@ private slots:
     void boardsAreEdited()
     {
         const Board board = boardOf({square(0, 0, 10), square(20, 0, 10), square(40, 0, 10)});
-        QCOMPARE(without(board, {0, 2, 9}).features.size(), size_t(1));
-        const Board moved = withMoved(board, {1, -1}, {5, 5});
+        QCOMPARE(edited(board, without(board, {0, 2, 9})).features.size(), size_t(1));
+        const Board moved = edited(board, withMoved(board, {-1, 1}, {5, 5}));
         QCOMPARE(moved.features[1].bounds(), QRectF(25, 5, 10, 10));
         QCOMPARE(moved.features[0].bounds(), QRectF(0, 0, 10, 10));
-        const Board copied = withCopied(board, {0, 1}, {0, 100});
+        const Board copied = edited(board, withCopied(board, {0, 1}, {0, 100}));
         QCOMPARE(copied.features.size(), size_t(5));
         QCOMPARE(copied.features[4].bounds(), QRectF(20, 100, 10, 10));
-        QVERIFY(!withInverted(board, {2}).features[2].isPositive());
-        const Board replaced = withReplaced(board, 1, {square(1, 1, 1), square(2, 2, 2)});
+        QVERIFY(!edited(board, withInverted(board, {2})).features[2].isPositive());
+        const Board replaced =
+            edited(board, withReplaced(board, 1, {square(1, 1, 1), square(2, 2, 2)}));
         QCOMPARE(replaced.features.size(), size_t(4));
         QCOMPARE(replaced.features[2].bounds(), QRectF(2, 2, 2, 2));
-        QVERIFY(withReplaced(board, 8, {}) == board);
+        QVERIFY(edited(board, withReplaced(board, 8, {})) == board);
     }
 };
 

@@ -119,7 +119,7 @@ private:
             default:
                 made = placement.press(point);
         }
-        board = withAdded(board, made);
+        substitute(withAdded(board, made), board.features);
     }
 };
 

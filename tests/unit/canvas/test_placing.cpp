@@ -211,6 +211,45 @@ private Q_SLOTS:
         open("demo", "pcb");
         QVERIFY(fixture.features().empty());
     }
+
+    void aMissingSymbolIsSaid_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<bool>("isSaid");
+        QTest::newRow("line") << FeatureKind::line.toInt() << true;
+        QTest::newRow("pad") << FeatureKind::pad.toInt() << true;
+        QTest::newRow("surface") << FeatureKind::surface.toInt() << false;
+        QTest::newRow("arc") << FeatureKind::arc.toInt() << true;
+        QTest::newRow("text") << FeatureKind::text.toInt() << false;
+    }
+    void aMissingSymbolIsSaid()
+    {
+        QFETCH(int, kind);
+        QFETCH(bool, isSaid);
+        const CanvasFixture fixture;
+        Record record{{RecordKeys::features, kind}, {RecordKeys::symbolText, ""}};
+        fixture.receive(Sent::AddFeature);
+        fixture.receive(Sent::Record, 0, record);
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 isSaid
+                     ? QString("Click where the feature begins; no symbol is named, r10 is drawn.")
+                     : QString("Click where the feature begins."));
+        record[RecordKeys::symbolText] = "r20";
+        fixture.receive(Sent::Record, 0, record);
+        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click where the feature begins."));
+    }
+
+    void whatIsSaidIsDrawn()
+    {
+        const CanvasFixture fixture;
+        Record record = lineRecord(LineKind::single);
+        record[RecordKeys::symbolText] = "";
+        fixture.receive(Sent::Record, 0, record);
+        fixture.click(2000, 2000);
+        fixture.click(8000, 4000);
+        QCOMPARE(fixture.features().size(), size_t(1));
+        QCOMPARE(fixture.features()[0].symbol(), QString("r10"));
+    }
 };
 
 CTS_MAIN(TestPlacing)

@@ -19,18 +19,6 @@ const Pcb::Feature& featureOf(const Pcb::Board& board, int index)
     return board.features[static_cast<size_t>(index)];
 }
 
-/// Each of the features changed by itself; the others stay.
-template <class Change>
-Pcb::Board withEach(const Pcb::Board& board, const Pcb::Indexes& indexes, Change change)
-{
-    Pcb::Board after = board;
-    for (const int index : indexes) {
-        auto& feature = after.features[static_cast<size_t>(index)];
-        feature = change(feature);
-    }
-    return after;
-}
-
 QPointF centreOf(const Pcb::Board& board, const Pcb::Indexes& indexes)
 {
     QRectF bounds;
@@ -42,7 +30,7 @@ QPointF centreOf(const Pcb::Board& board, const Pcb::Indexes& indexes)
 
 constexpr double quarterTurn = 90;
 
-using Edited = std::optional<Pcb::Board>;
+using Edited = std::optional<Pcb::Edit>;
 
 Edited withoutMeant(const Pcb::Board& board, const FeatureClick& click)
 {
@@ -62,18 +50,18 @@ Edited withInverted(const Pcb::Board& board, const FeatureClick& click)
 
 Edited withRotated(const Pcb::Board& board, const FeatureClick& click)
 {
-    return withEach(board, click.meant,
-                    [centre = centreOf(board, click.meant)](const Pcb::Feature& old) {
-                        return Pcb::rotated(old, centre, quarterTurn);
-                    });
+    return Pcb::withEach(board, click.meant,
+                         [centre = centreOf(board, click.meant)](const Pcb::Feature& old) {
+                             return Pcb::rotated(old, centre, quarterTurn);
+                         });
 }
 
 Edited withMirrored(const Pcb::Board& board, const FeatureClick& click)
 {
-    return withEach(board, click.meant,
-                    [centre = centreOf(board, click.meant)](const Pcb::Feature& old) {
-                        return Pcb::mirrored(old, centre.x());
-                    });
+    return Pcb::withEach(board, click.meant,
+                         [centre = centreOf(board, click.meant)](const Pcb::Feature& old) {
+                             return Pcb::mirrored(old, centre.x());
+                         });
 }
 
 Edited withBroken(const Pcb::Board& board, const FeatureClick& click)
@@ -119,10 +107,10 @@ const ClickEdit Edits::breakLine = {
     QT_TRANSLATE_NOOP("EditTools", "Click the place where a line is to break."), withBroken};
 const MoveEdit Edits::move = {QT_TRANSLATE_NOOP("EditTools", "Move feature"),
                               QT_TRANSLATE_NOOP("EditTools", "Click a feature to move it."),
-                              Pcb::withMoved};
+                              Pcb::withMoved, false};
 const MoveEdit Edits::copy = {QT_TRANSLATE_NOOP("EditTools", "Copy feature"),
                               QT_TRANSLATE_NOOP("EditTools", "Click a feature to copy it."),
-                              Pcb::withCopied};
+                              Pcb::withCopied, true};
 const LineEndEdit Edits::changeAngle = {
     QT_TRANSLATE_NOOP("EditTools", "Change line angle"),
     QT_TRANSLATE_NOOP("EditTools", "Click the direction that it is to have."), turnedTo};
@@ -169,7 +157,12 @@ void MoveTool::release(const QPointF& point)
 
 void MoveTool::drop(const QPointF& point)
 {
-    document().applyBoard(tr(m_edit.name), m_edit.edited(board(), m_grabbed, point - m_from));
+    const Pcb::Edit edit = m_edit.edited(board(), m_grabbed, point - m_from);
+    if (m_edit.selectsAdded) {
+        document().applyAndSelect(tr(m_edit.name), edit);
+    } else {
+        document().applyBoard(tr(m_edit.name), edit);
+    }
     cancel();
 }
 

@@ -19,14 +19,15 @@ struct ClickEdit {
     const char* name;
     const char* hint;
     /// Nothing for a feature of a kind that the edit is not for.
-    std::optional<Pcb::Board> (*edited)(const Pcb::Board& board, const FeatureClick& click);
+    std::optional<Pcb::Edit> (*edited)(const Pcb::Board& board, const FeatureClick& click);
 };
 
 /// What is done to features that go from one place to another.
 struct MoveEdit {
     const char* name;
     const char* hint;
-    Pcb::Board (*edited)(const Pcb::Board& board, const Pcb::Indexes& indexes, const QPointF& by);
+    Pcb::Edit (*edited)(const Pcb::Board& board, const Pcb::Indexes& indexes, const QPointF& by);
+    bool selectsAdded;  ///< what is at the new place is the selection afterwards
 };
 
 /// What is done to the end of a line that is pulled to a point.

@@ -55,6 +55,12 @@ QString PlaceTool::hint() const
     if (!leftOut.isEmpty()) {
         return tr("Click where the feature begins; its code cannot carry \"%1\".").arg(leftOut);
     }
-    return m_placement.isActive() ? tr("Click the next point; a right click gives it up.")
-                                  : tr("Click where the feature begins.");
+    if (m_placement.isActive()) {
+        return tr("Click the next point; a right click gives it up.");
+    }
+    const bool hasSymbol = brush.kind != Kind::Surface && brush.kind != Kind::Text;
+    return hasSymbol && !brush.symbolNamed
+               ? tr("Click where the feature begins; no symbol is named, %1 is drawn.")
+                     .arg(brush.symbol)
+               : tr("Click where the feature begins.");
 }

@@ -14,23 +14,21 @@ QString AreaZoomTool::hint() const
 void HighlightTool::press(const QPointF& point, bool /*extends*/)
 {
     const int feature = canvas().featureAt(point);
-    CanvasState after = document().state();
     if (feature < 0) {
-        after.highlighted.clear();
-        document().apply(tr("Highlight nothing"), after);
+        document().highlight(tr("Highlight nothing"), {});
         return;
     }
+    const Pcb::Indexes& before = document().state().highlighted;
     const Pcb::Indexes net = Pcb::netOf(board(), feature);
     Pcb::Indexes all;
-    if (std::includes(after.highlighted.begin(), after.highlighted.end(), net.begin(), net.end())) {
-        std::set_difference(after.highlighted.begin(), after.highlighted.end(), net.begin(),
-                            net.end(), std::back_inserter(all));
+    if (std::includes(before.begin(), before.end(), net.begin(), net.end())) {
+        std::set_difference(before.begin(), before.end(), net.begin(), net.end(),
+                            std::back_inserter(all));
     } else {
-        std::set_union(after.highlighted.begin(), after.highlighted.end(), net.begin(), net.end(),
+        std::set_union(before.begin(), before.end(), net.begin(), net.end(),
                        std::back_inserter(all));
     }
-    after.highlighted = all;
-    document().apply(tr("Highlight"), after);
+    document().highlight(tr("Highlight"), all);
 }
 
 QString HighlightTool::hint() const
@@ -45,11 +43,11 @@ void MarkTool::press(const QPointF& point, bool /*extends*/)
         m_first = point;
         return;
     }
-    CanvasState after = document().state();
     const Mark mark = markTo(point);
-    after.marks.push_back(mark);
+    std::vector<Mark> marks = document().state().marks;
+    marks.push_back(mark);
     cancel();
-    document().apply(tr("Mark"), after);
+    document().setMarks(tr("Mark"), marks);
     canvas().say(m_orthogonal ? tr("Along x %1, along y %2.")
                                     .arg(CanvasHost::lengthText(qAbs(mark.line.dx())),
                                          CanvasHost::lengthText(qAbs(mark.line.dy())))
@@ -62,9 +60,7 @@ void MarkTool::finish()
         cancel();
         return;
     }
-    CanvasState after = document().state();
-    after.marks.clear();
-    document().apply(tr("Take marks away"), after);
+    document().setMarks(tr("Take marks away"), {});
 }
 
 Overlay MarkTool::overlay() const

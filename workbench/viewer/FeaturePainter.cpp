@@ -1,0 +1,132 @@
+#include "viewer/FeaturePainter.h"
+
+#include "viewer/CanvasColours.h"
+#include "viewer/Document.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr size_t many = 10000;  // features of a board: fewer are always drawn as they are
+constexpr double dot = 3;       // pixels: what is no larger is drawn as a rectangle
+constexpr double dash = 6;      // pixels: a line that is no longer, and as thin as a hair, is one
+constexpr double hair = 1.5;    // pixels
+
+const QColor& colourOf(Pcb::Kind kind)
+{
+    switch (kind) {
+        case Pcb::Kind::Line:
+        case Pcb::Kind::Arc:
+            return CanvasColours::line;
+        case Pcb::Kind::Pad:
+            return CanvasColours::pad;
+        case Pcb::Kind::Surface:
+            return CanvasColours::plane;
+        case Pcb::Kind::Text:
+            return CanvasColours::text;
+    }
+    return CanvasColours::line;
+}
+
+/// Walks through indexes that ascend, and says whether one that comes later than the last is there.
+class Walk {
+public:
+    explicit Walk(const Pcb::Indexes& indexes) : m_next(indexes.begin()), m_end(indexes.end()) {}
+    bool isAt(int index)
+    {
+        m_next = std::lower_bound(m_next, m_end, index);
+        return m_next != m_end && *m_next == index;
+    }
+
+private:
+    Pcb::Indexes::const_iterator m_next;
+    Pcb::Indexes::const_iterator m_end;
+};
+
+/// Draws features by a painter whose state it changes only where it must.
+class FeatureBrush {
+public:
+    explicit FeatureBrush(QPainter& painter)
+        : m_painter(painter), m_pixel(1 / painter.worldTransform().m11())
+    {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+
+    /// Draws it from afar; false where it is too large for that.
+    bool draw(const Pcb::Sketch& sketch, const QColor& colour)
+    {
+        const double size = std::max(sketch.bounds.width(), sketch.bounds.height()) / m_pixel;
+        if (size <= dot) {
+            drawDot(sketch.bounds, colour);
+        } else if (size <= dash && isHair(sketch)) {
+            drawDash(sketch.line, colour);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    void draw(const QPainterPath& area, const QColor& colour, bool hasEdge)
+    {
+        m_painter.setRenderHint(QPainter::Antialiasing);
+        m_painter.setPen(hasEdge ? QPen(CanvasColours::rubber, 0) : QPen(Qt::NoPen));
+        m_painter.setBrush(colour);
+        m_painter.drawPath(area);
+        m_painter.setRenderHint(QPainter::Antialiasing, false);
+        m_dashColour = nullptr;
+    }
+
+private:
+    bool isHair(const Pcb::Sketch& sketch) const
+    {
+        const double width = sketch.bounds.width() - std::abs(sketch.line.dx());
+        return sketch.kind == Pcb::Kind::Line && width <= hair * m_pixel;
+    }
+
+    void drawDot(const QRectF& bounds, const QColor& colour)
+    {
+        // Less than a pixel would not be seen.
+        const double dx = std::max(0.0, m_pixel - bounds.width()) / 2;
+        const double dy = std::max(0.0, m_pixel - bounds.height()) / 2;
+        m_painter.fillRect(bounds.adjusted(-dx, -dy, dx, dy), colour);
+    }
+
+    void drawDash(const QLineF& line, const QColor& colour)
+    {
+        if (m_dashColour != &colour) {
+            m_painter.setPen(QPen(colour, 0));
+            m_dashColour = &colour;
+        }
+        m_painter.drawLine(line);
+    }
+
+    QPainter& m_painter;
+    double m_pixel;                        ///< micrometres
+    const QColor* m_dashColour = nullptr;  ///< of the painter's pen, where it is a dash's
+};
+
+}  // namespace
+
+void paintFeatures(QPainter& painter, const Document& document, const QRectF& area)
+{
+    const CanvasState& state = document.state();
+    Walk selected(state.selected);
+    Walk highlighted(state.highlighted);
+    FeatureBrush brush(painter);
+    const bool isLarge = state.board.features.size() > many;
+    for (const int index : document.featuresIn(area)) {
+        const Pcb::Sketch& sketch = document.sketch(index);
+        const bool isSelected = selected.isAt(index);
+        // A negative feature cuts out what lies below it: the board's ground shows.
+        const QColor& colour = isSelected                ? CanvasColours::selected
+                               : highlighted.isAt(index) ? CanvasColours::highlighted
+                               : sketch.positive         ? colourOf(sketch.kind)
+                                                         : CanvasColours::boardGround;
+        if (!isLarge || !brush.draw(sketch, colour)) {
+            brush.draw(state.board.features[static_cast<size_t>(index)].area(), colour, isSelected);
+        }
+    }
+}
