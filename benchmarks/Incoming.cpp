@@ -14,6 +14,9 @@
 
 #include <QLineEdit>
 
+#include <deque>
+#include <vector>
+
 namespace {
 
 namespace Accepted = MessageCodes::Accepted;
@@ -21,7 +24,7 @@ namespace Accepted = MessageCodes::Accepted;
 using Entry = void (*)(void* instance, PluginMetaData message);
 
 constexpr int unknownCode = 20009999;
-constexpr int codes[] = {
+const std::vector<int> allCodes = {
     Accepted::ReleaseAll,         Accepted::AreaZoom,
     Accepted::FeatureSelection,   Accepted::RectangleSelection,
     Accepted::PolygonSelection,   Accepted::AddFeatureActive,
@@ -60,15 +63,25 @@ PluginMetaData message(int code)
     return built;
 }
 
-/// Hands the message over again and again; all queued events are handled meanwhile, untimed.
-void deliver(benchmark::State& state, Entry entry, void* instance, int code)
+/// A message on its way to a module.
+struct Delivery {
+    void* instance;
+    PluginMetaData message;
+};
+
+/// Hands the messages over again and again; all queued events are handled meanwhile, untimed.
+void deliver(benchmark::State& state, Entry entry, const std::vector<Delivery>& deliveries)
 {
-    const PluginMetaData prepared = message(code);
-    entry(instance, prepared);  // opens what is opened once
+    const auto deliverAll = [&] {
+        for (const Delivery& delivery : deliveries) {
+            entry(delivery.instance, delivery.message);
+        }
+    };
+    deliverAll();  // opens what is opened once
     QApplication::processEvents();
     benchmark::DoNotOptimize(entry);
     for (auto _ : state) {
-        entry(instance, prepared);
+        deliverAll();
     }
     QApplication::processEvents();
 }
@@ -80,52 +93,82 @@ void listen(Sender* sender, long& heard, Sent... sent)
     (QObject::connect(sender, sent, sender, [&heard] { ++heard; }), ...);
 }
 
-void deliverToStrip(benchmark::State& state, int code)
+/// Each message goes to a strip of its own, so that none meets what another has opened.
+void deliverToStrips(benchmark::State& state, const std::vector<int>& codes)
 {
     using Strip = Canvas_Tool_Strip;
     openBenchmarkJob();
     long heard = 0;
     Canvas canvas;
     const Connected connected(canvas);
-    Panel panel;
-    auto* const strip = new Strip(&panel);
-    listen(strip, heard, &Strip::send_Attribute_Info, &Strip::Current_Unit_Changed,
-           &Strip::refresh_user_list, &Strip::language_changed, &Strip::send_Symbol_Info,
-           &Strip::send_job_info);
-    panel.setLayout(strip);
-    panel.showPainted();
-    deliver(state, recMsgFromManager, strip, code);
+    std::deque<Panel> panels(codes.size());
+    std::vector<Delivery> deliveries;
+    for (size_t i = 0; i < codes.size(); ++i) {
+        auto* const strip = new Strip(&panels[i]);
+        listen(strip, heard, &Strip::send_Attribute_Info, &Strip::Current_Unit_Changed,
+               &Strip::refresh_user_list, &Strip::language_changed, &Strip::send_Symbol_Info,
+               &Strip::send_job_info);
+        panels[i].setLayout(strip);
+        panels[i].showPainted();
+        deliveries.push_back({strip, message(codes[i])});
+    }
+    deliver(state, recMsgFromManager, deliveries);
 }
 
-void deliverToSwitch(benchmark::State& state, int code)
+/// A plain switch with what Add Feature opens.
+struct PlainReceiver {
+    PlainReceiver(const QMap<QString, QVariant>& entries, Canvas& canvas, long& heard)
+        : plain(&panel, canvas), record(entries, " ", &panel, canvas)
+    {
+        using Plain = PlainSwitch;
+        listen(&plain, heard, &Plain::attributesPicked, &Plain::unitChanged,
+               &Plain::userSymbolsChanged, &Plain::languageChanged, &Plain::symbolsPicked,
+               &Plain::jobOpened);
+        panel.setLayout(plain.strip());
+        panel.showPainted();
+        auto* const dialog = new QWidget(&panel, Qt::Window);
+        auto* const symbol = new QLineEdit(dialog);
+        dialog->show();
+        plain.setDialog(dialog, symbol, &record);
+    }
+
+    Panel panel;
+    PlainSwitch plain;
+    PlainRecord record;
+};
+
+void deliverToSwitches(benchmark::State& state, const std::vector<int>& codes)
 {
-    using Plain = PlainSwitch;
     // What the module's record holds when Add Feature is clicked.
     const DialogWindow window;
+    const QMap<QString, QVariant> entries = window.canvas.last().payload;
     long heard = 0;
     Canvas canvas;
-    Panel panel;
-    Plain plain(&panel, canvas);
-    listen(&plain, heard, &Plain::attributesPicked, &Plain::unitChanged, &Plain::userSymbolsChanged,
-           &Plain::languageChanged, &Plain::symbolsPicked, &Plain::jobOpened);
-    panel.setLayout(plain.strip());
-    panel.showPainted();
-    PlainRecord record(window.canvas.last().payload, " ", &panel, canvas);
-    auto* const dialog = new QWidget(&panel, Qt::Window);
-    auto* const symbol = new QLineEdit(dialog);
-    dialog->show();
-    plain.setDialog(dialog, symbol, &record);
-    deliver(state, Plain::receive, &plain, code);
+    std::deque<PlainReceiver> receivers;
+    std::vector<Delivery> deliveries;
+    for (const int code : codes) {
+        receivers.emplace_back(entries, canvas, heard);
+        deliveries.push_back({&receivers.back().plain, message(code)});
+    }
+    deliver(state, PlainSwitch::receive, deliveries);
+}
+
+void addPair(Runner& runner, const std::string& part, const std::vector<int>& codes)
+{
+    runner.addPair(
+        "incoming", part, [=](benchmark::State& state) { deliverToStrips(state, codes); },
+        [=](benchmark::State& state) { deliverToSwitches(state, codes); });
 }
 
 }  // namespace
 
 void addIncomingFigures(Runner& runner)
 {
-    for (const int code : codes) {
-        runner.addPair(
-            "incoming", code == unknownCode ? "any other code" : std::to_string(code),
-            [=](benchmark::State& state) { deliverToStrip(state, code); },
-            [=](benchmark::State& state) { deliverToSwitch(state, code); });
+    addPair(runner, "all in turn", allCodes);
+    if (runner.effort().only.empty()) {
+        return;  // most of the single ones are too short for a ratio that holds on every machine
+    }
+    for (const int code : allCodes) {
+        addPair(runner, code == unknownCode ? "any other code" : std::to_string(code), {code});
     }
 }

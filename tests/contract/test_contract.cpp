@@ -1,14 +1,13 @@
 // What siblings and hosts rely on, compared with the lists beside this file in both directions:
 // nothing missing, nothing extra, nothing altered.
 
+#include "DemoJobs.h"
 #include "Main.h"
 #include "Recorder.h"
 #include "addfeature/AddFeature.h"
 #include "dimensions/Dimensious.h"
 #include "plugin/MessageCodes.h"
 #include "toolbar/Canvas_Tool_Strip.h"
-
-#include <CamApiStandIn.h>
 
 #include <QFile>
 #include <QMetaMethod>
@@ -98,11 +97,7 @@ private Q_SLOTS:
 
     void record()
     {
-        CanvasHost::clearJobs();
-        CanvasHost::Job job;
-        job.name = "job";
-        job.fonts = {"standard"};
-        CanvasHost::addJob(job);
+        openDemoJobs();
         Recorder recorder;
         QWidget window;
         AddFeature dialog(&window, "job", "step", &window);

@@ -41,36 +41,73 @@ QList<QWidget*> windows()
 
 }  // namespace
 
+/// What the user and the host do, and how often of all that they do.
+struct RandomUser::Action {
+    int often;
+    const char* words;
+    void (RandomUser::*perform)();
+};
+
+const QVector<RandomUser::Action>& RandomUser::actions()
+{
+    static const QVector<Action> all = {
+        {2, "click a tool of the strip", &RandomUser::clickTool},
+        {1, "right-click a tool and choose from its menu", &RandomUser::openMenu},
+        {2, "receive a message of a sibling", &RandomUser::receive},
+        {1, "have the canvas answer the next message", &RandomUser::prepareAnswer},
+        {1, "call what a host may call itself", &RandomUser::callDirectly},
+        {1, "close a window", &RandomUser::closeWindow},
+        {1, "switch the language", &RandomUser::switchLanguage},
+        {1, "use a control of any window", &RandomUser::useAnyWindow},
+        {10, "use a control of the dialog", &RandomUser::useDialog},
+        {1, "choose a feature type, whatever is being typed", &RandomUser::chooseType},
+        {3, "type into a field of the dialog and stay there", &RandomUser::typeAndStay},
+        {2, "move the focus in the dialog", &RandomUser::moveFocus},
+    };
+    return all;
+}
+
 void RandomUser::act()
 {
-    const int kind = below(26);
-    if (kind >= 20) {
-        useFocus(kind - 20);
-    } else if (kind < 2) {
-        clickTool();
-    } else if (kind == 2) {
-        openMenu();
-    } else if (kind < 5) {
-        receive();
-    } else if (kind == 5) {
-        m_answer = message();
-        m_story =
-            QStringLiteral("let the canvas answer the next message with %1: ").arg(m_answer->code) +
-            m_story;
-    } else if (kind == 6) {
-        callDirectly();
-    } else if (kind == 7) {
-        closeWindow();
-    } else if (kind == 8) {
-        switchLanguage();
-    } else if (kind == 9) {
-        useWindow(oneOf(windows()));
-    } else if (dialog()) {
+    int whole = 0;
+    for (const Action& action : actions()) {
+        whole += action.often;
+    }
+    int chosen = below(whole);
+    for (const Action& action : actions()) {
+        chosen -= action.often;
+        if (chosen < 0) {
+            (this->*action.perform)();
+            m_story = QLatin1String(action.words) + (": " + m_story);
+            return;
+        }
+    }
+}
+
+void RandomUser::prepareAnswer()
+{
+    m_answer = message();
+    m_story = QStringLiteral("with %1").arg(m_answer->code) + m_story;
+}
+
+void RandomUser::useAnyWindow()
+{
+    useWindow(oneOf(windows()));
+}
+
+void RandomUser::useDialog()
+{
+    if (dialog()) {
         useWindow(dialog());
     } else {
-        m_story = QStringLiteral("open the dialog");
-        m_strip->On_AddFeature_Clicked();
+        openDialog();
     }
+}
+
+void RandomUser::openDialog()
+{
+    m_story = QStringLiteral("open the dialog");
+    m_strip->On_AddFeature_Clicked();
 }
 
 QString RandomUser::randomText()
@@ -87,7 +124,7 @@ QString RandomUser::randomText()
 void RandomUser::clickTool()
 {
     QWidget* const tool = m_strip->itemAt(below(ToolTable::toolCount))->widget();
-    m_story = "click " + tool->objectName();
+    m_story = tool->objectName();
     if (below(2)) {
         activate(m_window.get());
     }
@@ -96,8 +133,8 @@ void RandomUser::clickTool()
 
 void RandomUser::openMenu()
 {
-    const int tools[] = {5, 23, 24};
-    QWidget* const tool = m_strip->itemAt(oneOf(tools))->widget();
+    const Tool owner = oneOf(ToolTable::menus()).owner;
+    QWidget* const tool = m_strip->itemAt(int(owner))->widget();
     const int choice = below(4);
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &watch, [choice] {
@@ -111,7 +148,7 @@ void RandomUser::openMenu()
         }
     });
     watch.start(0);
-    m_story = QStringLiteral("right-click %1, entry %2").arg(tool->objectName()).arg(choice);
+    m_story = QStringLiteral("%1, entry %2").arg(tool->objectName()).arg(choice);
     activate(m_window.get());  // a menu that a box closes before it is up would never end
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
     QApplication::sendEvent(tool, &event);
@@ -133,7 +170,7 @@ PluginMetaData RandomUser::message()
     prepareExtra(message);
     if (message.code == Accepted::UnitChanged) {
         m_unitToCome = CanvasHost::DisplayUnit(below(4));
-        m_story = QStringLiteral("unit %1 ").arg(int(m_unitToCome));
+        m_story = QStringLiteral(", unit %1").arg(int(m_unitToCome));
     }
     return message;
 }
@@ -163,7 +200,8 @@ void RandomUser::prepareExtra(PluginMetaData& message)
 void RandomUser::receive()
 {
     const PluginMetaData sent = message();
-    m_story += QStringLiteral("receive %1 with %2 entries").arg(sent.code).arg(sent.payload.size());
+    m_story =
+        QStringLiteral("%1 with %2 entries").arg(sent.code).arg(sent.payload.size()) + m_story;
     // A picked symbol may be one that is refused.
     m_mayRefuse = m_mayRefuse || sent.code == Accepted::SymbolsPicked;
     deliver(sent);
@@ -181,30 +219,34 @@ void RandomUser::deliver(const PluginMetaData& message)
 /// What a host that is linked against the class may call.
 void RandomUser::callDirectly()
 {
-    const int which = below(6);
-    m_story = QStringLiteral("call %1").arg(which);
-    if (which == 0) {
-        m_strip->get_right_click_zoom_area();
-    } else if (which == 1) {
-        m_strip->close_all_Dialogs();
-    } else if (which == 2) {
-        m_mayHaveAllTools = true;
-        m_strip->SetAllButtonchecked(true, nullptr);
-    } else if (which == 3) {
-        m_strip->On_SelectPolyline_Clicked(int(m_random.generate()));
-    } else if (which == 4) {
-        m_strip->on_m_pAddfeature_Select_symbol();
-    } else {
-        m_strip->SetAllButtonchecked(false, nullptr);
-    }
+    const struct {
+        const char* words;
+        std::function<void()> call;
+    } calls[] = {
+        {"zoom by a right click", [this] { m_strip->get_right_click_zoom_area(); }},
+        {"close all dialogs", [this] { m_strip->close_all_Dialogs(); }},
+        {"check all tools",
+         [this] {
+             m_mayHaveAllTools = true;
+             m_strip->SetAllButtonchecked(true, nullptr);
+         }},
+        {"select by net in any mode",
+         [this] { m_strip->On_SelectPolyline_Clicked(int(m_random.generate())); }},
+        {"ask for a symbol", [this] { m_strip->on_m_pAddfeature_Select_symbol(); }},
+        {"release all tools", [this] { m_strip->SetAllButtonchecked(false, nullptr); }},
+    };
+    const auto& chosen = calls[below(int(std::size(calls)))];
+    m_story = QLatin1String(chosen.words);
+    chosen.call();
 }
 
 void RandomUser::switchLanguage()
 {
-    m_story = QStringLiteral("switch the language");
     if (m_translator) {
+        m_story = QStringLiteral("back");
         m_translator.reset();
     } else {
+        m_story = QStringLiteral("to another one");
         m_translator = std::make_unique<QuotingTranslator>("AddFeature");
     }
     PluginMetaData changed("Sibling.dll", "Canvas_Tool_Strip.dll");
@@ -219,7 +261,7 @@ void RandomUser::closeWindow()
         m_story = QStringLiteral("wait");
         return;
     }
-    m_story = "close " + window->objectName();
+    m_story = window->objectName();
     window->close();
 }
 
@@ -236,9 +278,7 @@ void RandomUser::useWindow(QWidget* window)
         return;
     }
     if (window == dialog() && !window->isVisible()) {
-        m_story = QStringLiteral("open the dialog again");
-        m_strip->On_AddFeature_Clicked();
-        return;
+        return openDialog();
     }
     window->show();
     useControl(oneOf(controls));
@@ -246,7 +286,7 @@ void RandomUser::useWindow(QWidget* window)
 
 void RandomUser::useControl(QWidget* control)
 {
-    m_story = "use " + control->objectName();
+    m_story = control->objectName();
     if (auto* const combo = qobject_cast<QComboBox*>(control)) {
         constexpr int noItemOnceIn = 50;
         const int item = below(noItemOnceIn) > 0 && combo->count() > 0 ? below(combo->count()) : -1;
@@ -322,40 +362,72 @@ bool RandomUser::focus(QWidget* control)
     return reached && control->isVisible() && control->hasFocus();
 }
 
-/// What is done in the dialog while an entry is pending, or to make it so.
-void RandomUser::useFocus(int kind)
+/// What follows is done while an entry is pending, or makes it so. True: first the dialog had to be
+/// opened.
+bool RandomUser::hadToOpenDialog()
 {
-    if (!dialog() || !dialog()->isVisible()) {
-        m_story = QStringLiteral("open the dialog");
-        m_strip->On_AddFeature_Clicked();
+    if (dialog() && dialog()->isVisible()) {
+        return false;
+    }
+    openDialog();
+    return true;
+}
+
+void RandomUser::chooseType()
+{
+    if (hadToOpenDialog()) {
         return;
     }
-    if (kind == 0) {
-        const QString typeButton =
-            oneOf(QStringList{"m_pLineTB", "m_pPadTB", "m_pSurfaceTB", "m_pArcTB", "m_pTextTB"});
-        m_story = "click " + typeButton;
-        QTest::mouseClick(&findNamed(*dialog(), typeButton), Qt::LeftButton);
-        return;
-    }
-    QList<QWidget*> reachable;
+    m_story = oneOf(QStringList{"m_pLineTB", "m_pPadTB", "m_pSurfaceTB", "m_pArcTB", "m_pTextTB"});
+    QTest::mouseClick(&findNamed(*dialog(), m_story), Qt::LeftButton);
+}
+
+/// The controls of the dialog that can be reached and are wanted.
+QList<QWidget*> RandomUser::reachable(bool (*isWanted)(const QWidget& control)) const
+{
+    QList<QWidget*> found;
     for (QWidget* const control : dialog()->findChildren<QWidget*>()) {
-        const bool isField = qobject_cast<QLineEdit*>(control) || qobject_cast<QSpinBox*>(control);
         if (control->isVisible() && control->isEnabled() && control->window() == dialog() &&
-            !control->objectName().startsWith("qt_") &&
-            (kind < 4 ? isField : bool(control->focusPolicy() & Qt::TabFocus))) {
-            reachable.append(control);
+            !control->objectName().startsWith("qt_") && isWanted(*control)) {
+            found.append(control);
         }
     }
-    if (reachable.isEmpty()) {
+    return found;
+}
+
+void RandomUser::typeAndStay()
+{
+    if (hadToOpenDialog()) {
+        return;
+    }
+    const QList<QWidget*> fields = reachable([](const QWidget& control) {
+        return qobject_cast<const QLineEdit*>(&control) || qobject_cast<const QSpinBox*>(&control);
+    });
+    if (fields.isEmpty()) {
         m_story = QStringLiteral("wait");
         return;
     }
-    QWidget* const control = oneOf(reachable);
-    m_story = "focus " + control->objectName();
-    auto* const edit = qobject_cast<QLineEdit*>(control);
-    if (edit && kind < 4) {
+    QWidget* const field = oneOf(fields);
+    m_story = field->objectName();
+    if (auto* const edit = qobject_cast<QLineEdit*>(field)) {
         enterText(edit);
-    } else if (focus(control) && kind < 4) {
-        QTest::keyClicks(control, QString::number(below(10)));
+    } else if (focus(field)) {
+        QTest::keyClicks(field, QString::number(below(10)));
     }
+}
+
+void RandomUser::moveFocus()
+{
+    if (hadToOpenDialog()) {
+        return;
+    }
+    const QList<QWidget*> controls = reachable(
+        [](const QWidget& control) { return bool(control.focusPolicy() & Qt::TabFocus); });
+    if (controls.isEmpty()) {
+        m_story = QStringLiteral("wait");
+        return;
+    }
+    QWidget* const control = oneOf(controls);
+    m_story = control->objectName();
+    focus(control);
 }

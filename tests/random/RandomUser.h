@@ -61,22 +61,32 @@ private:
     }
     QString randomText();
 
+    struct Action;
+    static const QVector<Action>& actions();
     void act();
     void clickTool();
     void openMenu();
     void receive();
+    void prepareAnswer();
     void receiveAnswer();
     PluginMetaData message();
     void prepareExtra(PluginMetaData& message);
     void callDirectly();
     void switchLanguage();
+    void useAnyWindow();
+    void useDialog();
+    void openDialog();
     void useWindow(QWidget* window);
     void useControl(QWidget* control);
     bool enterText(QLineEdit* field);
     void leave(QWidget* field);
     void activate(QWidget* window);
     bool focus(QWidget* control);
-    void useFocus(int kind);
+    bool hadToOpenDialog();
+    void chooseType();
+    QList<QWidget*> reachable(bool (*isWanted)(const QWidget& control)) const;
+    void typeAndStay();
+    void moveFocus();
     void closeWindow();
     void deliver(const PluginMetaData& message);
     void greetTheDialog();

@@ -2,6 +2,7 @@
 
 #include "AgreementTable.h"
 #include "FindChild.h"
+#include "plugin/RecordKeys.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -19,7 +20,7 @@ Agreement::Agreement(QWidget& dialog)
     : m_dialog(dialog),
       m_symbol(&findNamed<QLineEdit>(dialog, symbolField)),
       m_unit(&findNamed<QLabel>(dialog, "m_pCornerRadiusUnitLB")),
-      m_background(QStringLiteral("2"))
+      m_background(Added::no)
 {
     for (const AgreementTable::Field& field : AgreementTable::fields()) {
         m_widgets.append(&findNamed(dialog, field.names.first()));
@@ -77,7 +78,7 @@ void Agreement::watchOthers()
 
     const auto& markers = findNamed<QCheckBox>(m_dialog, "m_pAddMarkersCB");
     connect(&findNamed<QCheckBox>(m_dialog, "m_pBackgroundCB"), &QCheckBox::stateChanged, this,
-            [this, &markers] { m_background = markers.isChecked() ? "1" : "2"; });
+            [this, &markers] { m_background = markers.isChecked() ? Added::yes : Added::no; });
 }
 
 bool Agreement::eventFilter(QObject* object, QEvent* event)

@@ -161,9 +161,9 @@ Field choice(const char* name, const QString& key, const QStringList& values)
     return {{name}, key, Kind::Choice, values};
 }
 
-Field box(const char* name, const QString& key, const QStringList& values)
+Field box(const char* name, const QString& key, const QString& unchecked, const QString& checked)
 {
-    return {{name}, key, Kind::Box, values};
+    return {{name}, key, Kind::Box, {unchecked, checked}};
 }
 
 Field index(const char* name, const QString& key)
@@ -179,18 +179,19 @@ QVector<Field> allFields()
                                     "m_pEightDirectionsRB", "m_pFixedAngleRB"};
     return {
         {types, RecordKeys::features, Kind::Buttons, {}},
-        box("m_pAttributesCB", RecordKeys::attributes, {"0", "1"}),
-        choice("m_pPolarityCMB", RecordKeys::polarity, {"1", "0"}),
-        choice("m_pMirrorCMB", RecordKeys::mirror, {"1", "2"}),
+        box("m_pAttributesCB", RecordKeys::attributes, HasAttributes::no, HasAttributes::yes),
+        choice("m_pPolarityCMB", RecordKeys::polarity, {Polarity::positive, Polarity::negative}),
+        choice("m_pMirrorCMB", RecordKeys::mirror, {Mirror::yes, Mirror::no}),
         {{"m_pAngleValueSB"}, RecordKeys::mirrorRotate, Kind::Rotation, {}},
         {{"m_pSymbolTextLE"}, RecordKeys::symbolText, Kind::Symbol, {}},
-        choice("m_pLineCMB", RecordKeys::line, {"1", "2", "3", "4"}),
-        box("m_pClosedCB", RecordKeys::closed, {"0", "1"}),
+        choice("m_pLineCMB", RecordKeys::line,
+               {LineKind::single, LineKind::polyline, LineKind::rectangle, LineKind::slot}),
+        box("m_pClosedCB", RecordKeys::closed, Closed::no, Closed::yes),
         {directions, RecordKeys::angleGroup, Kind::Buttons, {}},
         text("m_pAngleLE", RecordKeys::angle),
         index("m_pCornerTypeCMB", RecordKeys::cornerType),
         length("m_pCornerRadiusLE", RecordKeys::cornerRadius),
-        choice("m_pSlotPlatedCMB", RecordKeys::slotPlated, {"1", "2"}),
+        choice("m_pSlotPlatedCMB", RecordKeys::slotPlated, {SlotPlated::yes, SlotPlated::no}),
         length("m_pLengthLE", RecordKeys::slotLength),
         text("m_pSlotAngleLE", RecordKeys::slotAngle),
         text("m_pSlotDecodeLE", RecordKeys::slotDecode),
@@ -200,29 +201,38 @@ QVector<Field> allFields()
         length("m_pDrilDyLE", RecordKeys::padDy),
         text("m_pDrilXsclLE", RecordKeys::padXscl),
         text("m_pDrilYsclLE", RecordKeys::padYscl),
-        choice("m_pSurfShapeCMB", RecordKeys::surfaceShape, {"1", "2", "3"}),
-        choice("m_pArcAndCircleCMB", RecordKeys::arcAndCircle, {"1", "2"}),
-        choice("m_pArcCMB", RecordKeys::arcMode, {"1", "2", "3", "4", "5", "6", "7"}),
-        choice("m_pCircleCMB", RecordKeys::circleMode, {"1", "2", "3", "4"}),
-        box("m_pClockWiseCB", RecordKeys::clockWise, {"2", "1"}),
+        choice("m_pSurfShapeCMB", RecordKeys::surfaceShape,
+               {SurfaceKind::rectangle, SurfaceKind::polygon, SurfaceKind::circle}),
+        choice("m_pArcAndCircleCMB", RecordKeys::arcAndCircle,
+               {ArcOrCircle::arc, ArcOrCircle::circle}),
+        choice("m_pArcCMB", RecordKeys::arcMode,
+               {ArcMode::startCenterEnd, ArcMode::startEndEdge, ArcMode::startEndCenter,
+                ArcMode::startCenterAngle, ArcMode::startCenterLength, ArcMode::startEndAngle,
+                ArcMode::startEndRadius}),
+        choice("m_pCircleCMB", RecordKeys::circleMode,
+               {CircleMode::centerRadius, CircleMode::centerPoint, CircleMode::pointCenter,
+                CircleMode::threePoints}),
+        box("m_pClockWiseCB", RecordKeys::clockWise, ClockWise::no, ClockWise::yes),
         choice("m_pTextFormatCMB", RecordKeys::textFormat,
-               {"1", RecordKeys::barcodeMode, "3", "4"}),
+               {TextKind::string, TextKind::barcode, TextKind::plotStamp, TextKind::cannedText}),
         text("m_pFontLE", RecordKeys::stringTextFont),
         text("m_pTextLE", RecordKeys::textContains),
         length("m_pXSizeLE", RecordKeys::stringXSize),
         length("m_pYSizeLE", RecordKeys::stringYSize),
         length("m_pLineWidthLE", RecordKeys::stringLineWidth),
         index("m_pUPCCMB", RecordKeys::barcodeMode),
-        box("m_pAddStringCB", RecordKeys::addString, {"2", "1"}),
-        choice("m_pPositionCMB", RecordKeys::stringPosition, {"2", "1"}),
-        box("m_pBackgroundCB", RecordKeys::addBackground, {"2", "1"}),
-        box("m_pAddMarkersCB", RecordKeys::addMarkers, {"2", "1"}),
+        box("m_pAddStringCB", RecordKeys::addString, Added::no, Added::yes),
+        choice("m_pPositionCMB", RecordKeys::stringPosition,
+               {StringPosition::top, StringPosition::bottom}),
+        box("m_pBackgroundCB", RecordKeys::addBackground, Added::no, Added::yes),
+        box("m_pAddMarkersCB", RecordKeys::addMarkers, Added::no, Added::yes),
         length("m_pHeightLE", RecordKeys::barcodeHeight),
         text("m_pMatrixLE", RecordKeys::barcodeMatrix),
         index("m_pOrbotechTypeCMB", RecordKeys::orbotechType),
         index("m_pOrbotechFontSizeCMB", RecordKeys::orbotechFontSize),
         index("m_pOrbotechZoomCMB", RecordKeys::orbotechZoom),
-        choice("m_pCannedHoleSizeCMB", RecordKeys::cannedHoleMode, {"1", "2"}),
+        choice("m_pCannedHoleSizeCMB", RecordKeys::cannedHoleMode,
+               {CannedHoleMode::fiveBySeven, CannedHoleMode::sixBySeven}),
         length("m_pCannedHoleSizeLE", RecordKeys::cannedHoleSize),
     };
 }

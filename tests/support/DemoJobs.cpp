@@ -2,19 +2,14 @@
 
 #include <CamApiStandIn.h>
 
-#include <utility>
-
 namespace {
 
-CanvasHost::Job demoJob(const char* name, std::vector<std::string> specialSymbols)
+CanvasHost::Job demoJob(const char* name)
 {
     CanvasHost::Job job;
     job.name = name;
     job.steps = {"step"};
-    job.fonts = {"simple", "standard"};
-    job.specialSymbols = std::move(specialSymbols);
     job.userSymbols = {"logo"};
-    job.specialTexts = {"JOB", "DATE"};
     job.attributes = {{".net", CanvasHost::AttributeKind::Text, {}},
                       {".smd", CanvasHost::AttributeKind::Flag, {}}};
     return job;
@@ -24,7 +19,17 @@ CanvasHost::Job demoJob(const char* name, std::vector<std::string> specialSymbol
 
 void openDemoJobs()
 {
+    CanvasHost::Job job = demoJob("job");
+    job.fonts = {"simple", "standard"};
+    job.specialSymbols = {"fiducial_cross", "Target 1"};
+    job.specialTexts = {"JOB", "DATE"};
+
+    CanvasHost::Job other = demoJob("other");
+    other.fonts = {"wide"};
+    other.specialSymbols = {"coupon"};
+    other.specialTexts = {"LAYER"};
+
     CanvasHost::clearJobs();
-    CanvasHost::addJob(demoJob("job", {"fiducial_cross", "Target 1"}));
-    CanvasHost::addJob(demoJob("other", {"coupon"}));
+    CanvasHost::addJob(job);
+    CanvasHost::addJob(other);
 }

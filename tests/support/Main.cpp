@@ -1,5 +1,7 @@
 #include "Main.h"
 
+#include <QLoggingCategory>
+
 #include <glog/logging.h>
 
 int runTests(QObject& test, int argc, char** argv)
@@ -10,6 +12,8 @@ int runTests(QObject& test, int argc, char** argv)
         google::SetLogDestination(severity, "");
     }
     google::InitGoogleLogging(argv[0]);
+    // Of each record that is sent there would be a line a key.
+    QLoggingCategory::setFilterRules(QStringLiteral("canvastoolstrip.record.debug=false"));
     const int result = QTest::qExec(&test, argc, argv);
     google::ShutdownGoogleLogging();
     return result;

@@ -125,11 +125,9 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         const QuotingTranslator translator("Canvas_Tool_Strip");
-        PluginMetaData message("Host.dll", "Canvas_Tool_Strip.dll");
-        message.code = Accepted::LanguageChanged;
-        fixture.strip->recMsgFromManager(message);
-        QCOMPARE(fixture.strip->itemAt(7)->widget()->accessibleName(), QString("<Copy Feature>"));
-        QCOMPARE(fixture.strip->itemAt(25)->widget()->accessibleName(), QString("EQ"));
+        fixture.receive(Accepted::LanguageChanged);
+        QCOMPARE(fixture.button(Tool::CopyFeature)->accessibleName(), QString("<Copy Feature>"));
+        QCOMPARE(fixture.button(Tool::Eq)->accessibleName(), QString("EQ"));
     }
 
     void labelsLeadToTheirFields()

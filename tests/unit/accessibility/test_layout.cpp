@@ -235,42 +235,27 @@ private:
     /// A row for each state of the dialog that shows other controls.
     static void addPages()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("combo");
-        QTest::addColumn<int>("item");
-        QTest::newRow("single line") << "m_pLineTB"
-                                     << "m_pLineCMB" << 0;
-        QTest::newRow("rectangle") << "m_pLineTB"
-                                   << "m_pLineCMB" << 2;
-        QTest::newRow("slot") << "m_pLineTB"
-                              << "m_pLineCMB" << 3;
-        QTest::newRow("pad") << "m_pPadTB"
-                             << "" << 0;
-        QTest::newRow("surface") << "m_pSurfaceTB"
-                                 << "" << 0;
-        QTest::newRow("arc") << "m_pArcTB"
-                             << "" << 0;
-        QTest::newRow("string") << "m_pTextTB"
-                                << "m_pTextFormatCMB" << 0;
-        QTest::newRow("barcode") << "m_pTextTB"
-                                 << "m_pTextFormatCMB" << 1;
-        QTest::newRow("plot stamp") << "m_pTextTB"
-                                    << "m_pTextFormatCMB" << 2;
-        QTest::newRow("canned text") << "m_pTextTB"
-                                     << "m_pTextFormatCMB" << 3;
+        QTest::addColumn<Steps>("reach");
+        const Steps line = {Click("m_pLineTB")};
+        const Steps text = {Click("m_pTextTB")};
+        QTest::newRow("single line") << line + Choose("m_pLineCMB", "Single Line");
+        QTest::newRow("rectangle") << line + Choose("m_pLineCMB", "Rectangle");
+        QTest::newRow("slot") << line + Choose("m_pLineCMB", "Slot");
+        QTest::newRow("pad") << Steps{Click("m_pPadTB")};
+        QTest::newRow("surface") << Steps{Click("m_pSurfaceTB")};
+        QTest::newRow("arc") << Steps{Click("m_pArcTB")};
+        QTest::newRow("string") << text + Choose("m_pTextFormatCMB", "String");
+        QTest::newRow("barcode") << text + Choose("m_pTextFormatCMB", "Barcode");
+        QTest::newRow("plot stamp") << text + Choose("m_pTextFormatCMB", "Orbotech Plot Stamp");
+        QTest::newRow("canned text") << text + Choose("m_pTextFormatCMB", "Canned Text");
     }
 
     /// Brings the dialog into the state of the current row.
     static void showPage(const DialogFixture& fixture)
     {
-        QFETCH(QString, type);
-        QFETCH(QString, combo);
-        QFETCH(int, item);
+        QFETCH(Steps, reach);
         fixture.find<QAbstractButton>("m_pAttributesCB").setChecked(true);
-        fixture.click(type);
-        if (!combo.isEmpty()) {
-            fixture.find<QComboBox>(combo).setCurrentIndex(item);
-        }
+        fixture.perform(reach);
         QTest::qWait(20);
     }
 

@@ -1,6 +1,7 @@
 // The attributes of a feature: the check box, the window of values, the request to the editor.
 
 #include "DialogFixture.h"
+#include "Expect.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
@@ -30,11 +31,11 @@ private Q_SLOTS:
         DialogFixture fixture;
         fixture.click("m_pAttributesCB");
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AttributeMap});
-        QCOMPARE(fixture.record().value(RecordKeys::attributes), QVariant(HasAttributes::yes));
+        Expect::holds(fixture, {Expect::record(RecordKeys::attributes, HasAttributes::yes)});
         QVERIFY(fixture.isShown("m_pValuesPB"));
         fixture.click("m_pAttributesCB");
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::AttributeMap}));
-        QCOMPARE(fixture.record().value(RecordKeys::attributes), QVariant(HasAttributes::no));
+        Expect::holds(fixture, {Expect::record(RecordKeys::attributes, HasAttributes::no)});
         QVERIFY(!fixture.isShown("m_pValuesPB"));
     }
 
@@ -56,7 +57,7 @@ private Q_SLOTS:
         QVariant attributesAtSend;
         fixture.recorder.setOnMessage([&](const Recorder::Entry& sent) {
             if (sent.message.code == Sent::AttributeMap) {
-                attributesAtSend = fixture.record().value(RecordKeys::attributes);
+                attributesAtSend = fixture.value(RecordKeys::attributes);
             }
         });
         fixture.click("m_pAttributesCB");
@@ -80,7 +81,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.dialog->on_Attribute_CheckState_Changed(Qt::Checked);
-        QCOMPARE(fixture.record().value(RecordKeys::attributes), QVariant(HasAttributes::no));
+        Expect::holds(fixture, {Expect::record(RecordKeys::attributes, HasAttributes::no)});
     }
 
     void list()

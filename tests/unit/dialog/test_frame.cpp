@@ -1,6 +1,7 @@
 // What the dialog's frame is built of, and what a feature type shows.
 
 #include "DialogFixture.h"
+#include "Expect.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
@@ -20,8 +21,8 @@ namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-const char* const pages[] = {"m_pLinePage", "m_pPadPage", "m_pSurfacePage", "m_pArcPage",
-                             "m_pTextPage"};
+const QStringList pages = {"m_pLinePage", "m_pPadPage", "m_pSurfacePage", "m_pArcPage",
+                           "m_pTextPage"};
 const QStringList symbolControls = {"m_pSymbolPB", "m_pSymbolTextLE", "m_pSelectFromEditorPB"};
 const QStringList placementControls = {"m_pMirrorCMB", "m_pAngleValueSB"};
 
@@ -70,16 +71,22 @@ private Q_SLOTS:
     void typeButtons()
     {
         DialogFixture fixture;
-        const char* const names[] = {"m_pLineTB", "m_pPadTB", "m_pSurfaceTB", "m_pArcTB",
-                                     "m_pTextTB"};
-        const char* const icons[] = {"Line1.jpg", "Pad1.jpg", "Surf1.jpg", "Arc1.jpg", "Text1.jpg"};
-        for (int id = 0; id < 5; ++id) {
-            auto& button = fixture.find<QToolButton>(names[id]);
+        const struct {
+            const char* button;
+            const char* icon;
+        } types[] = {{"m_pLineTB", "Line1.jpg"},
+                     {"m_pPadTB", "Pad1.jpg"},
+                     {"m_pSurfaceTB", "Surf1.jpg"},
+                     {"m_pArcTB", "Arc1.jpg"},
+                     {"m_pTextTB", "Text1.jpg"}};
+        int id = 0;
+        for (const auto& type : types) {
+            auto& button = fixture.find<QToolButton>(type.button);
             QVERIFY(button.isCheckable());
             QCOMPARE(button.isChecked(), id == 0);
             QVERIFY(button.group() && button.group()->exclusive());
-            QCOMPARE(button.group()->id(&button), id);
-            const QIcon expected(QString(":/Canvas_Tool_Strip/Resources/") + icons[id]);
+            QCOMPARE(button.group()->id(&button), id++);
+            const QIcon expected(QString(":/Canvas_Tool_Strip/Resources/") + type.icon);
             QVERIFY(!picture(expected).isNull());
             QCOMPARE(picture(button.icon()), picture(expected));
         }
@@ -98,10 +105,10 @@ private Q_SLOTS:
 
         auto& polarity = fixture.find<QComboBox>("m_pPolarityCMB");
         QCOMPARE(itemTexts(polarity), (QStringList{"Positive", "Negative"}));
-        QCOMPARE(polarity.currentIndex(), 0);
+        QCOMPARE(polarity.currentText(), QString("Positive"));
         auto& mirror = fixture.find<QComboBox>("m_pMirrorCMB");
         QCOMPARE(itemTexts(mirror), (QStringList{"Mir", "No Mir"}));
-        QCOMPARE(mirror.currentIndex(), 1);
+        QCOMPARE(mirror.currentText(), QString("No Mir"));
         QVERIFY(!fixture.isShown("m_pMirrorCMB"));
         auto& rotation = fixture.find<QSpinBox>("m_pAngleValueSB");
         QCOMPARE(rotation.value(), 0);
@@ -137,53 +144,50 @@ private Q_SLOTS:
     void type_data()
     {
         QTest::addColumn<QString>("button");
-        QTest::addColumn<int>("feature");
-        QTest::addColumn<bool>("hasSymbol");
-        QTest::addColumn<bool>("isPlaced");
-        QTest::addColumn<bool>("isFilled");
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QStringList>("shown");
         QTest::addColumn<QString>("pattern");
         const QString line("^[rs]?|[rs][0-9]+(\\.[0-9]+)?$");
-        QTest::newRow("line") << "m_pLineTB" << 1 << true << false << false << line;
-        QTest::newRow("pad") << "m_pPadTB" << 2 << true << true << false << "^[a-z0-9_.+-]*$";
-        QTest::newRow("surface") << "m_pSurfaceTB" << 3 << false << false << true << line;
-        QTest::newRow("arc") << "m_pArcTB" << 4 << true << false << false
+        QTest::newRow("line") << "m_pLineTB" << FeatureKind::line << "m_pLinePage" << symbolControls
+                              << line;
+        QTest::newRow("pad") << "m_pPadTB" << FeatureKind::pad << "m_pPadPage"
+                             << symbolControls + placementControls << "^[a-z0-9_.+-]*$";
+        QTest::newRow("surface") << "m_pSurfaceTB" << FeatureKind::surface << "m_pSurfacePage"
+                                 << QStringList() << line;
+        QTest::newRow("arc") << "m_pArcTB" << FeatureKind::arc << "m_pArcPage" << symbolControls
                              << "[r]?|[r][0-9]+(\\.[0-9]+)?$";
-        QTest::newRow("text") << "m_pTextTB" << 5 << false << true << false << line;
+        QTest::newRow("text") << "m_pTextTB" << FeatureKind::text << "m_pTextPage"
+                              << placementControls << line;
     }
 
     void type()
     {
         QFETCH(QString, button);
-        QFETCH(int, feature);
-        QFETCH(bool, hasSymbol);
-        QFETCH(bool, isPlaced);
-        QFETCH(bool, isFilled);
+        QFETCH(QString, kind);
+        QFETCH(QString, page);
+        QFETCH(QStringList, shown);
         QFETCH(QString, pattern);
         DialogFixture fixture;
-        QCOMPARE(fixture.record().value(RecordKeys::features), QVariant(FeatureKind::line));
+        Expect::holds(fixture, {Expect::record(RecordKeys::features, FeatureKind::line)});
         QVariant featureAtAttributes;
         fixture.recorder.setOnMessage([&](const Recorder::Entry& sent) {
             if (sent.message.code == Sent::AttributeMap) {
-                featureAtAttributes = fixture.record().value(RecordKeys::features);
+                featureAtAttributes = fixture.value(RecordKeys::features);
             }
         });
         fixture.click(button);
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
-        QCOMPARE(featureAtAttributes, QVariant(QString("1")));
-        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::features),
-                 QVariant(feature));
-
-        for (const QString& name : symbolControls) {
-            QCOMPARE(fixture.isShown(name), hasSymbol);
+        QCOMPARE(featureAtAttributes, QVariant(FeatureKind::line));
+        Expect::holds(fixture, {Expect::record(RecordKeys::features, kind.toInt()),
+                                Expect::shown("m_pAttributesCB"), Expect::shown("m_pPolarityCMB"),
+                                Expect::shown(page)});
+        for (const QString& name : symbolControls + placementControls) {
+            QCOMPARE(fixture.isShown(name), shown.contains(name));
         }
-        for (const QString& name : placementControls) {
-            QCOMPARE(fixture.isShown(name), isPlaced);
-        }
-        QCOMPARE(fixture.find("m_pFillPB").isEnabled(), isFilled);
-        QVERIFY(fixture.isShown("m_pAttributesCB"));
-        QVERIFY(fixture.isShown("m_pPolarityCMB"));
-        for (int i = 0; i < 5; ++i) {
-            QCOMPARE(fixture.isShown(pages[i]), i == feature - 1);
+        QCOMPARE(fixture.find("m_pFillPB").isEnabled(), kind == FeatureKind::surface);
+        for (const QString& other : pages) {
+            QCOMPARE(fixture.isShown(other), other == page);
         }
         const auto* const validator =
             qobject_cast<const QRegExpValidator*>(fixture.symbol().validator());
@@ -195,7 +199,7 @@ private Q_SLOTS:
         fixture.recorder.clear();
         fixture.click(button);
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
-        QCOMPARE(featureAtAttributes, QVariant(feature));
+        QCOMPARE(featureAtAttributes, QVariant(kind.toInt()));
     }
 
     void keepsTheOtherPagesKeys()
@@ -213,7 +217,7 @@ private Q_SLOTS:
     void languageChange()
     {
         DialogFixture fixture;
-        fixture.find<QComboBox>("m_pPolarityCMB").setCurrentIndex(1);
+        fixture.choose("m_pPolarityCMB", "Negative");
         fixture.recorder.clear();
         const QuotingTranslator translator("AddFeature");
         fixture.dialog->change_language();
@@ -224,7 +228,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.find<QCheckBox>("m_pAttributesCB").text(), QString("<Attributes>"));
         QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pPolarityCMB")),
                  (QStringList{"<Positive>", "<Negative>"}));
-        QCOMPARE(fixture.find<QComboBox>("m_pPolarityCMB").currentIndex(), 1);
+        QCOMPARE(fixture.chosen("m_pPolarityCMB"), QString("<Negative>"));
         QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pMirrorCMB")),
                  (QStringList{"<Mir>", "<No Mir>"}));
         QVERIFY(fixture.recorder.messages().isEmpty());

@@ -1,6 +1,6 @@
 // What the frame's controls write and send, what is checked before the record goes, and closing.
 
-#include "DialogFixture.h"
+#include "Case.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
@@ -8,7 +8,6 @@
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
 
-#include <QComboBox>
 #include <QLoggingCategory>
 #include <QSpinBox>
 
@@ -40,52 +39,44 @@ class TestSending : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { QLoggingCategory::setFilterRules("canvastoolstrip.record.debug=true"); }
+
     void combo_data()
     {
-        QTest::addColumn<QString>("combo");
-        QTest::addColumn<int>("before");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("value");
-        QTest::newRow("negative") << "m_pPolarityCMB" << 0 << 1 << "Polarity" << Polarity::negative;
-        QTest::newRow("positive") << "m_pPolarityCMB" << 1 << 0 << "Polarity" << Polarity::positive;
-        QTest::newRow("no polarity")
-            << "m_pPolarityCMB" << 1 << -1 << "Polarity" << Polarity::negative;
-        QTest::newRow("mirrored") << "m_pMirrorCMB" << 1 << 0 << "Mirror" << Mirror::yes;
-        QTest::newRow("not mirrored") << "m_pMirrorCMB" << 0 << 1 << "Mirror" << Mirror::no;
-        QTest::newRow("no mirror") << "m_pMirrorCMB" << 0 << -1 << "Mirror" << Mirror::yes;
+        const auto polarity = [](const QString& name, const Step& step, const QString& value) {
+            return Case(name).when(step).then(Expect::record(RecordKeys::polarity, value),
+                                              Expect::sent(Sent::Record));
+        };
+        const auto mirror = [](const QString& name, const Step& step, const QString& value) {
+            return Case(name).when(step).then(Expect::record(RecordKeys::mirror, value),
+                                              Expect::sent(Sent::Record));
+        };
+        const Steps negative = {Choose("m_pPolarityCMB", "Negative")};
+        const Steps mirrored = {Choose("m_pMirrorCMB", "Mir")};
+        addCases(
+            {polarity("negative", Choose("m_pPolarityCMB", "Negative"), Polarity::negative),
+             polarity("positive", Choose("m_pPolarityCMB", "Positive"), Polarity::positive)
+                 .given(negative),
+             polarity("no polarity", ChooseNothing("m_pPolarityCMB"), Polarity::negative)
+                 .given(negative),
+             mirror("mirrored", Choose("m_pMirrorCMB", "Mir"), Mirror::yes),
+             mirror("not mirrored", Choose("m_pMirrorCMB", "No Mir"), Mirror::no).given(mirrored),
+             mirror("no mirror", ChooseNothing("m_pMirrorCMB"), Mirror::yes).given(mirrored)});
     }
-
-    void combo()
-    {
-        QFETCH(QString, combo);
-        QFETCH(int, before);
-        QFETCH(int, index);
-        QFETCH(QString, key);
-        QFETCH(QString, value);
-        DialogFixture fixture;
-        auto& box = fixture.find<QComboBox>(combo);
-        box.setCurrentIndex(before);
-        fixture.recorder.clear();
-        box.setCurrentIndex(index);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(key), QVariant(value));
-    }
+    void combo() { runCase(); }
 
     void rotation()
     {
         DialogFixture fixture;
-        fixture.choose("m_pPadTB");
-        auto& spin = fixture.find<QSpinBox>("m_pAngleValueSB");
-        spin.setFocus();
-        spin.selectAll();
-        QTest::keyClicks(&spin, "30");
+        fixture.chooseType("m_pPadTB");
+        fixture.type("m_pAngleValueSB", "30");
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QTest::keyClick(&spin, Qt::Key_Return);
+        fixture.leave(By::Enter);
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("30")));
-        QTest::keyClicks(&spin, "999");
-        QVERIFY(spin.value() <= 360);
+        Expect::holds(fixture, {Expect::record(RecordKeys::mirrorRotate, "30")});
+        auto& rotation = fixture.find<QSpinBox>("m_pAngleValueSB");
+        QTest::keyClicks(&rotation, "999");
+        QVERIFY(rotation.value() <= 360);
     }
 
     void envelope()
@@ -125,7 +116,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::DirectionRecord});
         QLoggingCategory::setFilterRules("canvastoolstrip.record.debug=false");
         const QStringList lines = debugLinesOf([&] { fixture.dialog->getChangeCurrentTool(); });
-        QLoggingCategory::setFilterRules({});
         QVERIFY(lines.isEmpty());
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::DirectionRecord, Sent::Record}));
     }
@@ -159,23 +149,23 @@ private Q_SLOTS:
                                                   : QVector<int>{Sent::AttributeMap});
         QCOMPARE(fixture.symbol().text(), isSent ? symbol : QString());
         QCOMPARE(fixture.boxes.take().size(), isSent ? 0 : 1);
-        QVERIFY(fixture.record().value(RecordKeys::features).toInt() > 0);
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("")));
+        QVERIFY(fixture.value(RecordKeys::features).toInt() > 0);
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
     }
 
     void refusedSymbolStaysInTheRecord()
     {
         DialogFixture fixture;
-        fixture.type("r10");
-        fixture.leave("Tab");
+        fixture.type("m_pSymbolTextLE", "r10");
+        fixture.leave(By::Tab);
         fixture.symbol().setText("r60000");
         fixture.recorder.clear();
         fixture.click("m_pPadTB");
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AttributeMap});
         QCOMPARE(fixture.boxes.take().size(), 1);
         QCOMPARE(fixture.symbol().text(), QString());
-        QCOMPARE(fixture.record().value(RecordKeys::features), QVariant(FeatureKind::pad.toInt()));
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::features, FeatureKind::pad.toInt())});
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
         QVERIFY(fixture.isShown("m_pPadPage"));
     }
 
@@ -230,7 +220,7 @@ private Q_SLOTS:
         DialogFixture fixture;
         fixture.click("m_pFillPB");  // disabled but for a surface
         QVERIFY(fixture.recorder.messages().isEmpty());
-        fixture.choose("m_pSurfaceTB");
+        fixture.chooseType("m_pSurfaceTB");
         fixture.click("m_pFillPB");
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Fill});
         const Recorder::Entry sent = fixture.recorder.last(Sent::Fill);
@@ -245,7 +235,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         QSignalSpy viewTool(fixture.dialog, SIGNAL(change_viewtool()));
-        fixture.type("r10");
+        fixture.type("m_pSymbolTextLE", "r10");
         fixture.dialog->close();
         QCOMPARE(viewTool.size(), 1);
         QVERIFY(fixture.dialog);
@@ -255,11 +245,11 @@ private Q_SLOTS:
         // What closing makes the field report is no entry of the user's, until the next send.
         fixture.dialog->on_m_pSymbolTextLE_editingFinished();
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
         fixture.dialog->getChangeCurrentTool();
         fixture.dialog->on_m_pSymbolTextLE_editingFinished();
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::Record, Sent::Record}));
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
     }
 
     void aRefusedSendEnablesTheSymbolAgain()
@@ -270,8 +260,8 @@ private Q_SLOTS:
         fixture.dialog->getChangeCurrentTool();
         QCOMPARE(fixture.boxes.take().size(), 1);
         QVERIFY(fixture.recorder.messages().isEmpty());
-        fixture.enter("r20");
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r20")));
+        fixture.enter("m_pSymbolTextLE", "r20");
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r20")});
     }
 };
 

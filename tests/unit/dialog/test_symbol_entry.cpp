@@ -1,6 +1,7 @@
 // What a typed symbol becomes in the record.
 
 #include "DialogFixture.h"
+#include "Expect.h"
 #include "GlogCatcher.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
@@ -17,55 +18,82 @@ namespace {
 
 const QString refusal("Illegal Input|Unable to create special symbol!");
 
-struct Row {
-    const char* name;
-    const char* type;
-    bool metric;
-    const char* typed;
-    const char* stored;    // null: refused
-    const char* rotation;  // with the spin box at 30
+/// What becomes of a name that is entered while the rotation is 30 degrees.
+class EnteredSymbol {
+public:
+    explicit EnteredSymbol(const QString& words = {}) : name(words) {}
+    EnteredSymbol& on(const QString& button) { return type = button, *this; }
+    EnteredSymbol& in(Unit others) { return unit = others, *this; }
+    EnteredSymbol& typed(const QString& symbol) { return text = symbol, *this; }
+    EnteredSymbol& stores(const QString& symbol) { return stored = symbol, *this; }
+    EnteredSymbol& isRefused() { return refused = true, *this; }
+    EnteredSymbol& turnsTo(int degrees) { return rotation = degrees, *this; }
+
+    QString name;
+    QString type;
+    Unit unit = Unit::Mil;
+    QString text;
+    QString stored = "";
+    bool refused = false;
+    int rotation = 30;
 };
 
-const Row rows[] = {
-    {"line, round", "m_pLineTB", false, "r10", "r10", "30"},
-    {"line, square with decimals", "m_pLineTB", false, "s20.5", "s20.5", "30"},
-    {"line, empty", "m_pLineTB", false, "", "", "30"},
-    {"line, r alone", "m_pLineTB", false, "r", nullptr, "30"},
-    {"line, s alone", "m_pLineTB", false, "s", nullptr, "30"},
-    {"line, metric", "m_pLineTB", true, "r254", "r10", "30"},
-    {"line, special", "m_pLineTB", false, "fiducial_cross", "fiducial_cross", "30"},
-    {"line, special in metric", "m_pLineTB", true, "fiducial_cross", "fiducial_cross", "30"},
-    {"line, special with a blank", "m_pLineTB", false, "Target 1", "Target 1", "30"},
-    {"line, special in other letters", "m_pLineTB", false, "target 1", nullptr, "30"},
-    {"line, with suffix", "m_pLineTB", false, "r10_5", "r10", "35"},
-    {"pad, r alone", "m_pPadTB", false, "r", nullptr, "30"},
-    {"pad, rectangle", "m_pPadTB", false, "rect20x40", "rect20x40", "30"},
-    {"pad, metric rectangle", "m_pPadTB", true, "rect508x1016", "rect20x40", "30"},
-    {"pad, user symbol", "m_pPadTB", false, "logo", "logo", "30"},
-    {"pad, suffix", "m_pPadTB", false, "r10_45", "r10", "75"},
-    {"pad, metric suffix", "m_pPadTB", true, "r254_45", "r10", "75"},
-    {"pad, suffix after underscores", "m_pPadTB", false, "ring_r60x30_90", "ring_r60x30", "120"},
-    {"pad, ring", "m_pPadTB", false, "ring_r60x30", "ring_r60x30", "30"},
-    {"pad, suffix of a special symbol", "m_pPadTB", false, "fiducial_cross_10", "fiducial_cross",
-     "40"},
-    {"pad, suffix with a letter", "m_pPadTB", false, "r10_4x", nullptr, "30"},
-    {"pad, suffix without a number", "m_pPadTB", false, "r10_", nullptr, "30"},
-    {"pad, signed suffix", "m_pPadTB", false, "r10_-5", nullptr, "30"},
-    {"pad, decimal suffix", "m_pPadTB", false, "r10_4.5", nullptr, "30"},
-    {"pad, endless suffix", "m_pPadTB", false, "r10_99999999999999999999", nullptr, "30"},
-    {"pad, no symbol", "m_pPadTB", false, "foo", nullptr, "30"},
-    {"pad, suffix of no symbol", "m_pPadTB", false, "foo_45", nullptr, "75"},
-    {"pad, two suffixes", "m_pPadTB", false, "r10_20_45", nullptr, "75"},
-    {"pad, size 0", "m_pPadTB", false, "r0", nullptr, "30"},
-    {"pad, with a blank", "m_pPadTB", false, "r 10", nullptr, "30"},
-    {"pad, only underscores", "m_pPadTB", false, "___", nullptr, "30"},
-    {"arc, round", "m_pArcTB", false, "r10", "r10", "30"},
-    {"arc, square", "m_pArcTB", false, "s10", nullptr, "30"},
-    {"arc, r alone", "m_pArcTB", false, "r", nullptr, "30"},
-    {"arc, metric", "m_pArcTB", true, "r25.4", "r1", "30"},
-};
+QList<EnteredSymbol> enteredSymbols()
+{
+    const auto line = [](const QString& name) {
+        return EnteredSymbol("line, " + name).on("m_pLineTB");
+    };
+    const auto pad = [](const QString& name) {
+        return EnteredSymbol("pad, " + name).on("m_pPadTB");
+    };
+    const auto arc = [](const QString& name) {
+        return EnteredSymbol("arc, " + name).on("m_pArcTB");
+    };
+    return {
+        line("round").typed("r10").stores("r10"),
+        line("square with decimals").typed("s20.5").stores("s20.5"),
+        line("empty").typed("").stores(""),
+        line("r alone").typed("r").isRefused(),
+        line("s alone").typed("s").isRefused(),
+        line("metric").in(Unit::Metric).typed("r254").stores("r10"),
+        line("special").typed("fiducial_cross").stores("fiducial_cross"),
+        line("special in metric").in(Unit::Metric).typed("fiducial_cross").stores("fiducial_cross"),
+        line("special with a blank").typed("Target 1").stores("Target 1"),
+        line("special in other letters").typed("target 1").isRefused(),
+        line("with suffix").typed("r10_5").stores("r10").turnsTo(35),
+        pad("r alone").typed("r").isRefused(),
+        pad("rectangle").typed("rect20x40").stores("rect20x40"),
+        pad("metric rectangle").in(Unit::Metric).typed("rect508x1016").stores("rect20x40"),
+        pad("user symbol").typed("logo").stores("logo"),
+        pad("suffix").typed("r10_45").stores("r10").turnsTo(75),
+        pad("metric suffix").in(Unit::Metric).typed("r254_45").stores("r10").turnsTo(75),
+        pad("suffix after underscores").typed("ring_r60x30_90").stores("ring_r60x30").turnsTo(120),
+        pad("ring").typed("ring_r60x30").stores("ring_r60x30"),
+        pad("suffix of a special symbol")
+            .typed("fiducial_cross_10")
+            .stores("fiducial_cross")
+            .turnsTo(40),
+        pad("suffix with a letter").typed("r10_4x").isRefused(),
+        pad("suffix without a number").typed("r10_").isRefused(),
+        pad("signed suffix").typed("r10_-5").isRefused(),
+        pad("decimal suffix").typed("r10_4.5").isRefused(),
+        pad("endless suffix").typed("r10_99999999999999999999").isRefused(),
+        pad("no symbol").typed("foo").isRefused(),
+        pad("suffix of no symbol").typed("foo_45").isRefused().turnsTo(75),
+        pad("two suffixes").typed("r10_20_45").isRefused().turnsTo(75),
+        pad("size 0").typed("r0").isRefused(),
+        pad("with a blank").typed("r 10").isRefused(),
+        pad("only underscores").typed("___").isRefused(),
+        arc("round").typed("r10").stores("r10"),
+        arc("square").typed("s10").isRefused(),
+        arc("r alone").typed("r").isRefused(),
+        arc("metric").in(Unit::Metric).typed("r25.4").stores("r1"),
+    };
+}
 
 }  // namespace
+
+Q_DECLARE_METATYPE(EnteredSymbol)
 
 class TestSymbolEntry : public QObject {
     Q_OBJECT
@@ -73,35 +101,34 @@ class TestSymbolEntry : public QObject {
 private Q_SLOTS:
     void entry_data()
     {
-        QTest::addColumn<int>("row");
+        QTest::addColumn<EnteredSymbol>("entered");
         QTest::addColumn<bool>("isActive");
-        for (int i = 0; i < int(std::size(rows)); ++i) {
-            QTest::addRow("%s", rows[i].name) << i << true;
-            QTest::addRow("%s, other tool", rows[i].name) << i << false;
+        for (const EnteredSymbol& entered : enteredSymbols()) {
+            QTest::addRow("%s", qPrintable(entered.name)) << entered << true;
+            QTest::addRow("%s, other tool", qPrintable(entered.name)) << entered << false;
         }
     }
 
     void entry()
     {
-        QFETCH(int, row);
+        QFETCH(EnteredSymbol, entered);
         QFETCH(bool, isActive);
-        const Row& expected = rows[row];
-        DialogFixture fixture(expected.metric);
+        DialogFixture fixture(entered.unit);
         fixture.find<QSpinBox>("m_pAngleValueSB").setValue(30);
-        fixture.enter(expected.metric ? "r254" : "r10");  // what a refusal takes away
-        fixture.choose(expected.type);
+        // What a refusal takes away.
+        fixture.enter("m_pSymbolTextLE", entered.unit == Unit::Metric ? "r254" : "r10");
+        fixture.chooseType(entered.type);
         fixture.setToolActive(isActive);
 
-        fixture.enter(expected.typed);
-        const bool isRefused = !expected.stored;
-        QCOMPARE(fixture.boxes.takeTexts(), isRefused ? QStringList(refusal) : QStringList());
-        QCOMPARE(fixture.symbol().text(), isRefused ? QString() : QString(expected.typed));
+        fixture.enter("m_pSymbolTextLE", entered.text);
+        QCOMPARE(fixture.boxes.takeTexts(), entered.refused ? QStringList(refusal) : QStringList());
+        QCOMPARE(fixture.symbol().text(), entered.refused ? QString() : entered.text);
         QCOMPARE(fixture.recorder.codes(), isActive ? QVector<int>{Sent::Record} : QVector<int>{});
-        const QVariantMap record = fixture.record();
-        QCOMPARE(record.value(RecordKeys::symbolText), QVariant(QString(expected.stored)));
-        QCOMPARE(record.value(RecordKeys::mirrorRotate), QVariant(QString(expected.rotation)));
+        Expect::holds(
+            fixture, {Expect::record(RecordKeys::symbolText, entered.stored),
+                      Expect::record(RecordKeys::mirrorRotate, QString::number(entered.rotation))});
         if (isActive) {
-            QCOMPARE(fixture.recorder.last(Sent::Record).message.payload, record);
+            QCOMPARE(fixture.lastRecord(), fixture.record());
         }
     }
 
@@ -109,39 +136,39 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.dialog->setToolStrip(nullptr);
-        fixture.enter("r10");
+        fixture.enter("m_pSymbolTextLE", "r10");
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
 
         fixture.dialog->setToolStrip(fixture.strip);
         delete fixture.strip;
-        fixture.enter("r20");
+        fixture.enter("m_pSymbolTextLE", "r20");
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r20")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r20")});
     }
 
     void theNextEntryClearsTheSuffix()
     {
         DialogFixture fixture;
-        fixture.choose("m_pPadTB");
-        fixture.enter("r10_45");
+        fixture.chooseType("m_pPadTB");
+        fixture.enter("m_pSymbolTextLE", "r10_45");
         fixture.find<QSpinBox>("m_pAngleValueSB").setValue(10);
         fixture.dialog->on_m_pAngleValueSB_editingFinished();
-        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("55")));
-        fixture.enter("r10");
-        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("10")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::mirrorRotate, "55")});
+        fixture.enter("m_pSymbolTextLE", "r10");
+        Expect::holds(fixture, {Expect::record(RecordKeys::mirrorRotate, "10")});
         fixture.dialog->on_m_pAngleValueSB_editingFinished();
-        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("10")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::mirrorRotate, "10")});
     }
 
     void rotationAddsWhatFollowsTheFirstUnderscore()
     {
         DialogFixture fixture;
-        fixture.choose("m_pPadTB");
-        fixture.enter("fiducial_cross_45");
-        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("45")));
+        fixture.chooseType("m_pPadTB");
+        fixture.enter("m_pSymbolTextLE", "fiducial_cross_45");
+        Expect::holds(fixture, {Expect::record(RecordKeys::mirrorRotate, "45")});
         fixture.dialog->on_m_pAngleValueSB_editingFinished();
-        QCOMPARE(fixture.record().value(RecordKeys::mirrorRotate), QVariant(QString("0")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::mirrorRotate, "0")});
     }
 
     void onlyAnArcAsksForRoundSymbols()
@@ -152,64 +179,63 @@ private Q_SLOTS:
         } expected[] = {{"m_pLineTB", {false}}, {"m_pPadTB", {false}}, {"m_pArcTB", {true}}};
         for (const auto& row : expected) {
             DialogFixture fixture;
-            fixture.choose(row.type);
+            fixture.chooseType(row.type);
             QVector<bool> flags;
             CanvasHost::camApiOverrides().identify_symbol =
                 [&](const std::string&, ZENTRA::API::symbol_type&, int&, int&, bool arc) {
                     flags.append(arc);
                     return true;
                 };
-            fixture.enter("r10");
+            fixture.enter("m_pSymbolTextLE", "r10");
             QCOMPARE(flags, row.flags);
             flags.clear();
-            fixture.enter("r10_45");  // the test of the whole name comes first, without the flag
+            fixture.enter("m_pSymbolTextLE",
+                          "r10_45");  // the test of the whole name comes first, without the flag
             QCOMPARE(flags, QVector<bool>({false}) + row.flags);
         }
     }
 
     void refusedOnce_data()
     {
-        QTest::addColumn<QString>("way");
-        for (const char* const way : {"Tab", "Enter", "mouse"}) {
-            QTest::newRow(way) << way;
-        }
+        QTest::addColumn<By>("way");
+        QTest::newRow("Tab") << By::Tab;
+        QTest::newRow("Enter") << By::Enter;
+        QTest::newRow("mouse") << By::Mouse;
     }
 
     void refusedOnce()
     {
-        QFETCH(QString, way);
+        QFETCH(By, way);
         DialogFixture fixture;
-        fixture.type("r");
+        fixture.type("m_pSymbolTextLE", "r");
         fixture.leave(way);
         QCOMPARE(fixture.boxes.takeTexts(), QStringList(refusal));
         QCOMPARE(fixture.symbol().text(), QString());
         // Enter sends what it was given before the entry is looked at.
-        QCOMPARE(fixture.recorder.codes(), way == "Enter"
+        QCOMPARE(fixture.recorder.codes(), way == By::Enter
                                                ? (QVector<int>{Sent::Record, Sent::Record})
                                                : QVector<int>{Sent::Record});
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
     }
 
     void enterSendsWhatWasTyped()
     {
         DialogFixture fixture;
-        fixture.type("r10");
+        fixture.type("m_pSymbolTextLE", "r10");
         QVERIFY(fixture.recorder.messages().isEmpty());
-        fixture.leave("Enter");
+        fixture.leave(By::Enter);
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::Record, Sent::Record}));
-        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::symbolText),
-                 QVariant(QString("r10")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
     }
 
     void enterSendsWhateverTheToolIs()
     {
-        DialogFixture fixture(true);
+        DialogFixture fixture(Unit::Metric);
         fixture.setToolActive(false);
-        fixture.type("r254");
-        fixture.leave("Enter");
+        fixture.type("m_pSymbolTextLE", "r254");
+        fixture.leave(By::Enter);
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::symbolText),
-                 QVariant(QString("r10")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
     }
 
     void enterCutsAtTheCursor_data()
@@ -227,24 +253,24 @@ private Q_SLOTS:
         QFETCH(int, cursor);
         QFETCH(QString, kept);
         DialogFixture fixture;
-        fixture.type("r10");
+        fixture.type("m_pSymbolTextLE", "r10");
         fixture.symbol().setCursorPosition(cursor);
         QString textWhenSent;
         fixture.recorder.setOnMessage([&](const Recorder::Entry&) {
             textWhenSent = textWhenSent.isNull() ? fixture.symbol().text() : textWhenSent;
         });
         fixture.dialog->on_m_pSymbolTextLE_returnPressed();
+        QVERIFY(fixture.recorder.codes().contains(Sent::Record));
         QCOMPARE(fixture.symbol().text(), kept);
         QCOMPARE(textWhenSent, kept);
-        QCOMPARE(fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::symbolText),
-                 QVariant(kept));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, kept)});
     }
 
     void tooLargeASizeIsRefusedByTheSend()
     {
         DialogFixture fixture;
-        fixture.type("r60000");
-        fixture.leave("Tab");
+        fixture.type("m_pSymbolTextLE", "r60000");
+        fixture.leave(By::Tab);
         QCOMPARE(fixture.boxes.take().size(), 1);
         QCOMPARE(fixture.symbol().text(), QString());
         QVERIFY(fixture.recorder.messages().isEmpty());
@@ -275,8 +301,8 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, shown);
         DialogFixture fixture;
-        fixture.choose(type);
-        fixture.type(typed);
+        fixture.chooseType(type);
+        fixture.type("m_pSymbolTextLE", typed);
         QCOMPARE(fixture.symbol().text(), shown);
     }
 
@@ -301,12 +327,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         DialogFixture fixture;
-        fixture.choose("m_pPadTB");
+        fixture.chooseType("m_pPadTB");
         fixture.symbol().setMaxLength(INT_MAX);
-        fixture.enter(text);
+        fixture.enter("m_pSymbolTextLE", text);
         QCOMPARE(fixture.boxes.takeTexts(), QStringList(refusal));
         QCOMPARE(fixture.symbol().text(), QString());
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
     }
 
     void textChangedIsGuarded_data()
@@ -342,39 +368,39 @@ private Q_SLOTS:
                      QByteArray("\xD2\xEC\xB3\xA3\xC3\xE8\xCA\xF6\xA3\xBAno unit"));
         }
         CanvasHost::uiApiOverrides() = {};
-        fixture.enter("r20");
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r20")));
+        fixture.enter("m_pSymbolTextLE", "r20");
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r20")});
     }
 
     /// What the type does not accept is not reported; when a type that does is chosen, it is taken.
     void aNameThatAnotherTypeAcceptsIsTakenWithIt()
     {
         DialogFixture fixture;
-        fixture.choose("m_pPadTB");
-        fixture.type("rect20x40");
-        fixture.choose("m_pLineTB");
-        fixture.leave("Tab");
+        fixture.chooseType("m_pPadTB");
+        fixture.type("m_pSymbolTextLE", "rect20x40");
+        fixture.chooseType("m_pLineTB");
+        fixture.leave(By::Tab);
         QVERIFY(fixture.recorder.codes().isEmpty());
         fixture.click("m_pPadTB");
+        QCOMPARE(fixture.recorder.codes(),
+                 (QVector<int>{Sent::AttributeMap, Sent::Record, Sent::Record}));
         QCOMPARE(fixture.symbol().text(), QString("rect20x40"));
-        QCOMPARE(fixture.recorder.last(MessageCodes::Sent::Record)
-                     .message.payload.value(RecordKeys::symbolText),
-                 QVariant(QString("rect20x40")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "rect20x40")});
     }
 
     /// The canvas opens a box of its own while it is told: the field reports the same entry again.
     void aBoxOfTheCanvasSendsNothingTwice()
     {
         DialogFixture fixture;
-        fixture.type("r10");
+        fixture.type("m_pSymbolTextLE", "r10");
         bool isFirst = true;
         fixture.recorder.setOnMessage([&](const Recorder::Entry&) {
             if (std::exchange(isFirst, false)) {
                 fixture.dialog->on_m_pSymbolTextLE_editingFinished();
             }
         });
-        fixture.leave("Tab");
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        fixture.leave(By::Tab);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         fixture.recorder.setOnMessage({});
     }
 
@@ -392,8 +418,8 @@ private Q_SLOTS:
         fixture.dialog->getChangeCurrentTool();
         QCOMPARE(fixture.boxes.take().size(), 1);
         QCOMPARE(fixture.symbol().text(), QString("r30"));
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r30")));
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r30")});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
     }
 
     void whatWasTypedWhileTheHostFailedIsTakenOnLeaving()
@@ -402,18 +428,17 @@ private Q_SLOTS:
         CanvasHost::uiApiOverrides().getUnit = [](void*) -> int {
             throw std::runtime_error("no unit");
         };
-        fixture.symbol().setFocus();
-        QTest::keyClicks(&fixture.symbol(), "r10");
+        fixture.type("m_pSymbolTextLE", "r10");
         QCOMPARE(fixture.boxes.take().size(), 3);  // one a key, and none for the focus
         QCOMPARE(fixture.symbol().text(), QString("r10"));
         CanvasHost::uiApiOverrides() = {};
-        QApplication::setActiveWindow(fixture.dialog);
-        fixture.symbol().setFocus();
-        fixture.leave("Tab");
-        QTRY_COMPARE(fixture.recorder.codes(), QVector<int>{50});
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
+        fixture.open();
+        fixture.focus("m_pSymbolTextLE");
+        fixture.leave(By::Tab);
+        QTRY_COMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
         QTest::qWait(20);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{50});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
     }
 };
 

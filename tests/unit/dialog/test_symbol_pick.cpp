@@ -1,6 +1,7 @@
 // Symbols that are chosen from the list or picked on the board.
 
 #include "DialogFixture.h"
+#include "Expect.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
@@ -44,41 +45,41 @@ private Q_SLOTS:
     void picked_data()
     {
         QTest::addColumn<QString>("type");
-        QTest::addColumn<bool>("metric");
+        QTest::addColumn<Unit>("unit");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("shown");  // empty: refused
-        QTest::newRow("line") << "m_pLineTB" << false << "r10"
+        QTest::newRow("line") << "m_pLineTB" << Unit::Mil << "r10"
                               << "r10";
-        QTest::newRow("line, any symbol") << "m_pLineTB" << false << "logo"
+        QTest::newRow("line, any symbol") << "m_pLineTB" << Unit::Mil << "logo"
                                           << "logo";
-        QTest::newRow("pad, metric") << "m_pPadTB" << true << "rect20x40"
+        QTest::newRow("pad, metric") << "m_pPadTB" << Unit::Metric << "rect20x40"
                                      << "rect508x1016";
-        QTest::newRow("arc") << "m_pArcTB" << false << "r10.5"
+        QTest::newRow("arc") << "m_pArcTB" << Unit::Mil << "r10.5"
                              << "r10.5";
-        QTest::newRow("arc, metric") << "m_pArcTB" << true << "r10"
+        QTest::newRow("arc, metric") << "m_pArcTB" << Unit::Metric << "r10"
                                      << "r254";
-        QTest::newRow("arc, square") << "m_pArcTB" << false << "s20"
+        QTest::newRow("arc, square") << "m_pArcTB" << Unit::Mil << "s20"
                                      << "";
-        QTest::newRow("arc, r alone") << "m_pArcTB" << false << "r"
+        QTest::newRow("arc, r alone") << "m_pArcTB" << Unit::Mil << "r"
                                       << "";
-        QTest::newRow("arc, rectangle") << "m_pArcTB" << false << "rect20x40"
+        QTest::newRow("arc, rectangle") << "m_pArcTB" << Unit::Mil << "rect20x40"
                                         << "";
-        QTest::newRow("arc, suffix") << "m_pArcTB" << false << "r10_45"
+        QTest::newRow("arc, suffix") << "m_pArcTB" << Unit::Mil << "r10_45"
                                      << "";
-        QTest::newRow("arc, no name") << "m_pArcTB" << false << ""
+        QTest::newRow("arc, no name") << "m_pArcTB" << Unit::Mil << ""
                                       << "";
     }
 
     void picked()
     {
         QFETCH(QString, type);
-        QFETCH(bool, metric);
+        QFETCH(Unit, unit);
         QFETCH(QString, name);
         QFETCH(QString, shown);
-        DialogFixture fixture(metric);
+        DialogFixture fixture(unit);
         QSignalSpy select(fixture.dialog, SIGNAL(Select_symbol()));
         fixture.click("m_pSelectFromEditorPB");
-        fixture.choose(type);
+        fixture.chooseType(type);
         fixture.setToolActive(false);  // a pick is sent whatever the tool is
         const QString before = fixture.symbol().text();
 
@@ -90,15 +91,15 @@ private Q_SLOTS:
         QCOMPARE(fixture.symbol().text(), isRefused ? before : shown);
         QCOMPARE(fixture.find("m_pSelectFromEditorPB").styleSheet(), isRefused ? armed : disarmed);
         QCOMPARE(fixture.recorder.codes(), isRefused ? QVector<int>{} : QVector<int>{Sent::Record});
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText),
-                 QVariant(isRefused ? QString("") : shown));
+        Expect::holds(fixture,
+                      {Expect::record(RecordKeys::symbolText, isRefused ? QString("") : shown)});
         QCOMPARE(select.size(), 1);  // the click's own
     }
 
     void severalAtOnce()
     {
         DialogFixture fixture;
-        fixture.choose("m_pArcTB");
+        fixture.chooseType("m_pArcTB");
         fixture.dialog->get_ChangeSymbol_Info({{7, "r30"}, {1, "r10"}, {3, "s20"}});
         QCOMPARE(fixture.boxes.takeTexts(), QStringList("Dialog Box|Illegal symbol name: s20"));
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::Record, Sent::Record}));
@@ -112,23 +113,23 @@ private Q_SLOTS:
 
     void chosenName_data()
     {
-        QTest::addColumn<bool>("metric");
+        QTest::addColumn<Unit>("unit");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("mil") << false << "r10"
+        QTest::newRow("mil") << Unit::Mil << "r10"
                              << "r10";
-        QTest::newRow("metric") << true << "r254"
+        QTest::newRow("metric") << Unit::Metric << "r254"
                                 << "r10";
-        QTest::newRow("suffix stays") << false << "r10_45"
+        QTest::newRow("suffix stays") << Unit::Mil << "r10_45"
                                       << "r10_45";
     }
 
     void chosenName()
     {
-        QFETCH(bool, metric);
+        QFETCH(Unit, unit);
         QFETCH(QString, name);
         QFETCH(QString, stored);
-        DialogFixture fixture(metric);
+        DialogFixture fixture(unit);
         fixture.find<QSpinBox>("m_pAngleValueSB").setValue(15);
         fixture.setToolActive(false);
         fixture.dialog->receive_text(name);
@@ -142,12 +143,12 @@ private Q_SLOTS:
     void noChosenName()
     {
         DialogFixture fixture;
-        fixture.enter("r10");
+        fixture.enter("m_pSymbolTextLE", "r10");
         fixture.recorder.clear();
         fixture.dialog->receive_text("");
         fixture.dialog->Enter_Symbol_Text();
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant(QString("r10")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
     }
 
     void chooser()
@@ -169,18 +170,18 @@ private Q_SLOTS:
         fixture.dialog->show();
         const struct {
             const char* type;
-            bool all;
+            bool offersAll;
         } types[] = {{"m_pPadTB", true}, {"m_pArcTB", false}, {"m_pLineTB", false}};
         for (const auto& type : types) {
-            fixture.choose(type.type);
+            fixture.chooseType(type.type);
             fixture.click("m_pSymbolPB");
-            QCOMPARE(offers("logo"), type.all);
+            QCOMPARE(offers("logo"), type.offersAll);
         }
         QCOMPARE(fixture.window.findChildren<Widget_SymbolSelection*>().size(), 1);
 
         emit chooser->sendText("s20");
         QCOMPARE(fixture.symbol().text(), QString("s20"));
-        fixture.setMetric(true);
+        fixture.setUnit(Unit::Metric);
         QVERIFY(offers("r254") && !offers("r10"));
     }
 
@@ -189,7 +190,7 @@ private Q_SLOTS:
         DialogFixture fixture;
         fixture.dialog->set_job_info("other", "step");  // no chooser yet
         fixture.dialog->refresh_symbolselection_user_list();
-        fixture.choose("m_pPadTB");
+        fixture.chooseType("m_pPadTB");
         fixture.click("m_pSymbolPB");
         auto* const chooser = fixture.window.findChild<Widget_SymbolSelection*>();
         auto& list = findNamed<QListWidget>(*chooser, "m_pSymbolLW");

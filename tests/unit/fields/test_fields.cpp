@@ -286,7 +286,7 @@ private Q_SLOTS:
         QCOMPARE(field.itemData(1, Qt::UserRole - 1), QVariant(0));
         QVERIFY(field.is("x") && !field.is("y"));
 
-        field.setCurrentIndex(1);
+        field.setCurrentText("second");
         QCOMPARE(value(), chosen);
         QCOMPARE(value().type(), chosen.type());
         QVERIFY(field.is("y"));
@@ -306,12 +306,12 @@ private Q_SLOTS:
             {"m_pAnyCMB", Caption::label("Any"), key, SLOT(on_Any_Changed()), Sends::Never},
             {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, 1);
         QCOMPARE(door.record().text(key), QString("y"));
-        field.setCurrentIndex(0);
+        field.setCurrentText("first");
         QCOMPARE(door.record().text(key), QString("x"));
         QCOMPARE(door.takeCalls(), QStringList());
-        field.setCurrentIndex(1);
+        field.setCurrentText("second");
         field.retranslate();
-        QCOMPARE(field.currentIndex(), 1);
+        QCOMPARE(field.currentText(), QString("second"));
         QCOMPARE(door.takeCalls(), QStringList());
     }
 

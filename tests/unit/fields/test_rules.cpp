@@ -37,24 +37,25 @@ class TestRules : public QObject {
 private Q_SLOTS:
     void lineKind_data()
     {
-        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("item");
         QTest::addColumn<QString>("value");
         QTest::addColumn<QString>("group");
         QTest::addColumn<bool>("mayBeClosed");
         QTest::addColumn<QStringList>("hidden");
         const QStringList placing = {"hide placement rows"};
         const QStringList all = QStringList("hide attribute rows") + placing;
-        QTest::newRow("single") << 0 << LineKind::single << "m_pDirectionGroup" << false << placing;
-        QTest::newRow("polyline") << 1 << LineKind::polyline << "m_pDirectionGroup" << true
+        QTest::newRow("single") << "Single Line" << LineKind::single << "m_pDirectionGroup" << false
+                                << placing;
+        QTest::newRow("polyline") << "Polyline" << LineKind::polyline << "m_pDirectionGroup" << true
                                   << placing;
         QTest::newRow("rectangle")
-            << 2 << LineKind::rectangle << "m_pCornerGroup" << false << placing;
-        QTest::newRow("slot") << 3 << LineKind::slot << "m_pSlotGroup" << false << all;
+            << "Rectangle" << LineKind::rectangle << "m_pCornerGroup" << false << placing;
+        QTest::newRow("slot") << "Slot" << LineKind::slot << "m_pSlotGroup" << false << all;
     }
 
     void lineKind()
     {
-        QFETCH(int, index);
+        QFETCH(QString, item);
         QFETCH(QString, value);
         QFETCH(QString, group);
         QFETCH(bool, mayBeClosed);
@@ -62,9 +63,9 @@ private Q_SLOTS:
         FakeDoor door;
         LinePage page(door);
         door.route(SLOT(on_Line_ComboBox_Changed()), [&] { page.chooseKind(); });
-        page.m_pLineCMB->setCurrentIndex(index == 0 ? 1 : 0);
+        page.m_pLineCMB->setCurrentText(item == "Single Line" ? "Polyline" : "Single Line");
         door.takeCalls();
-        page.m_pLineCMB->setCurrentIndex(index);
+        page.m_pLineCMB->setCurrentText(item);
         QCOMPARE(door.takeCalls(), QStringList("restore") + hidden + QStringList("record"));
         QCOMPARE(door.record().text(RecordKeys::line), value);
         QCOMPARE(shownGroups(page), QStringList(group));
@@ -76,7 +77,7 @@ private Q_SLOTS:
         FakeDoor door;
         LinePage page(door);
         door.route(SLOT(on_Line_ComboBox_Changed()), [&] { page.chooseKind(); });
-        page.m_pLineCMB->setCurrentIndex(1);
+        page.m_pLineCMB->setCurrentText("Polyline");
         door.takeCalls();
         page.m_pLineCMB->setCurrentIndex(-1);
         QCOMPARE(door.takeCalls(), (QStringList{"restore", "record"}));
@@ -98,12 +99,20 @@ private Q_SLOTS:
         FakeDoor door;
         LinePage page(door);
         QVERIFY(!page.m_pAngleLE->isEnabled());
-        for (int id = 5; id >= 0; --id) {
+        const QStringList directions = {LineDirection::free,
+                                        LineDirection::vertical,
+                                        LineDirection::horizontal,
+                                        LineDirection::verticalThenHorizontal,
+                                        LineDirection::eightDirections,
+                                        LineDirection::fixed};
+        for (int id = directions.size() - 1; id >= 0; --id) {
+            const bool isFixed = directions[id] == LineDirection::fixed;
             page.m_pDirectionBG->button(id)->setChecked(true);
             page.chooseDirection();
-            QCOMPARE(door.record().map().value(RecordKeys::angleGroup), QVariant(id + 1));
-            QCOMPARE(page.m_pAngleLE->isEnabled(), id == 5);
-            QCOMPARE(page.m_pAngleLE->label()->isEnabled(), id == 5);
+            QCOMPARE(door.record().map().value(RecordKeys::angleGroup),
+                     QVariant(directions[id].toInt()));
+            QCOMPARE(page.m_pAngleLE->isEnabled(), isFixed);
+            QCOMPARE(page.m_pAngleLE->label()->isEnabled(), isFixed);
             QCOMPARE(door.takeCalls(), QStringList("direction"));
         }
     }
@@ -114,15 +123,18 @@ private Q_SLOTS:
         LinePage page(door);
         door.route(SLOT(on_CornerTypre_ComboBox_Changed()), [&] { page.chooseCorner(); });
         QVERIFY(!page.m_pCornerRadiusLE->isEnabled());
-        const int corners[] = {1, 2, 3, 0, -1};
-        for (const int corner : corners) {
-            page.m_pCornerTypeCMB->setCurrentIndex(corner);
-            const bool hasRadius = corner == 1 || corner == 2;
+        const auto choose = [&](const QString& corner, const QVariant& value, bool hasRadius) {
+            page.m_pCornerTypeCMB->setCurrentIndex(page.m_pCornerTypeCMB->findText(corner));
             QCOMPARE(page.m_pCornerRadiusLE->isEnabled(), hasRadius);
             QCOMPARE(page.m_pCornerRadiusLE->unitLabel()->isEnabled(), hasRadius);
-            QCOMPARE(door.record().map().value(RecordKeys::cornerType), QVariant(corner + 1));
+            QCOMPARE(door.record().map().value(RecordKeys::cornerType), value);
             QCOMPARE(door.takeCalls(), QStringList("record"));
-        }
+        };
+        choose("Round", CornerType::round.toInt(), true);
+        choose("Chamfer", CornerType::chamfer.toInt(), true);
+        choose("Oblong", CornerType::oblong.toInt(), false);
+        choose("Straight", CornerType::straight.toInt(), false);
+        choose("none", 0, false);
     }
 
     void theOtherMethodIsGreyed()
@@ -131,7 +143,7 @@ private Q_SLOTS:
         ArcPage page(door);
         door.route(SLOT(on_ArcAndCircle_ComboBox_Changed()), [&] { page.chooseArcOrCircle(); });
         QVERIFY(page.m_pArcCMB->isEnabled() && !page.m_pCircleCMB->isEnabled());
-        page.m_pArcAndCircleCMB->setCurrentIndex(1);
+        page.m_pArcAndCircleCMB->setCurrentText("Circle");
         QVERIFY(!page.m_pArcCMB->isEnabled() && page.m_pCircleCMB->isEnabled());
         QCOMPARE(door.record().text(RecordKeys::arcAndCircle), ArcOrCircle::circle);
         page.m_pArcAndCircleCMB->setCurrentIndex(-1);
@@ -146,13 +158,18 @@ private Q_SLOTS:
         BarcodePage page(door);
         door.route(SLOT(on_UPC_ComboBox_Changed()), [&] { page.chooseType(); });
         QVERIFY(!page.m_pAddMarkersCB->isEnabled());
-        for (int type = 4; type >= 0; --type) {
-            page.m_pUPCCMB->setCurrentIndex(type);
-            QCOMPARE(door.record().map().value(RecordKeys::barcodeMode), QVariant(type + 1));
-            QCOMPARE(page.m_pAddMarkersCB->isEnabled(), type == 4);
-            QCOMPARE(page.m_pMatrixPB->isEnabled(), type == 4);
-            QCOMPARE(page.m_pMatrixLE->isEnabled(), type == 4);
-        }
+        const auto choose = [&](const QString& type, const QString& value, bool hasMarkers) {
+            page.m_pUPCCMB->setCurrentText(type);
+            QCOMPARE(door.record().map().value(RecordKeys::barcodeMode), QVariant(value.toInt()));
+            QCOMPARE(page.m_pAddMarkersCB->isEnabled(), hasMarkers);
+            QCOMPARE(page.m_pMatrixPB->isEnabled(), hasMarkers);
+            QCOMPARE(page.m_pMatrixLE->isEnabled(), hasMarkers);
+        };
+        choose("ECC-200", Symbology::ecc200, true);
+        choose("CODE128C", Symbology::code128C, false);
+        choose("CODE128B", Symbology::code128B, false);
+        choose("UPC39 ascii", Symbology::upc39Ascii, false);
+        choose("UPC39", Symbology::upc39, false);
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
@@ -189,9 +206,9 @@ private Q_SLOTS:
         CannedTextPage page(door, stamp);
         door.route(SLOT(on_m_pCannedHoleSizeCMB_ComboBox_Changed()),
                    [&] { page.chooseHoleMode(); });
-        stamp.m_pOrbotechZoomCMB->setCurrentIndex(6);
+        stamp.m_pOrbotechZoomCMB->setCurrentText("7");
         door.record().set(RecordKeys::orbotechZoom, 1);
-        page.m_pCannedHoleSizeCMB->setCurrentIndex(1);
+        page.m_pCannedHoleSizeCMB->setCurrentText("6 X 7");
         QCOMPARE(door.record().map().value(RecordKeys::orbotechZoom), QVariant(7));
         QCOMPARE(door.record().text(RecordKeys::cannedHoleMode), CannedHoleMode::sixBySeven);
         QCOMPARE(door.takeCalls(), QStringList());
@@ -202,19 +219,23 @@ private Q_SLOTS:
         FakeDoor door;
         TextPage page(door);
         door.route(SLOT(on_Textformart_ComboBox_Changed()), [&] { page.chooseFormat(); });
-        const QWidget* const pages[] = {page.m_strings, page.m_barcode, page.m_plotStamp,
-                                        page.m_cannedText};
-        const QString values[] = {TextKind::string, TextKind::barcode, TextKind::plotStamp,
-                                  TextKind::cannedText};
-        for (int format = 3; format >= 0; --format) {
-            page.m_pTextFormatCMB->setCurrentIndex(format);
-            QCOMPARE(door.record().text(RecordKeys::textFormat), values[format]);
-            for (int other = 0; other < 4; ++other) {
-                QCOMPARE(pages[other]->isVisibleTo(&page), other == format);
+        const struct {
+            const char* item;
+            QString value;
+            const QWidget* page;
+        } formats[] = {{"Canned Text", TextKind::cannedText, page.m_cannedText},
+                       {"Orbotech Plot Stamp", TextKind::plotStamp, page.m_plotStamp},
+                       {"Barcode", TextKind::barcode, page.m_barcode},
+                       {"String", TextKind::string, page.m_strings}};
+        for (const auto& format : formats) {
+            page.m_pTextFormatCMB->setCurrentText(format.item);
+            QCOMPARE(door.record().text(RecordKeys::textFormat), format.value);
+            for (const auto& other : formats) {
+                QCOMPARE(other.page->isVisibleTo(&page), &other == &format);
             }
-            QCOMPARE(page.m_pFontPB->isEnabled(), format == 0);
-            QCOMPARE(page.m_pFontLE->isEnabled(), format == 0);
-            QCOMPARE(page.m_barcode->m_pUPCCMB->isEnabled(), format == 1);
+            QCOMPARE(page.m_pFontPB->isEnabled(), format.value == TextKind::string);
+            QCOMPARE(page.m_pFontLE->isEnabled(), format.value == TextKind::string);
+            QCOMPARE(page.m_barcode->m_pUPCCMB->isEnabled(), format.value == TextKind::barcode);
         }
         page.m_pTextFormatCMB->setCurrentIndex(-1);
         QCOMPARE(door.record().text(RecordKeys::textFormat), TextKind::string);
@@ -234,12 +255,14 @@ private Q_SLOTS:
         LengthField& size = *page.m_strings->m_pXSizeLE;
         QString formatWhenSent;
         door.onSend = [&] { formatWhenSent = door.record().text(RecordKeys::textFormat); };
-        for (const int format : {1, 2}) {
-            page.m_pTextFormatCMB->setCurrentIndex(0);
+        for (const auto& [format, whenSent] :
+             {std::pair("Barcode", TextKind::string),
+              std::pair("Orbotech Plot Stamp", TextKind::plotStamp)}) {
+            page.m_pTextFormatCMB->setCurrentText("String");
             size.setFocus();
             QTest::keyClicks(&size, "1");
-            page.m_pTextFormatCMB->setCurrentIndex(format);
-            QCOMPARE(formatWhenSent, format == 1 ? TextKind::string : TextKind::plotStamp);
+            page.m_pTextFormatCMB->setCurrentText(format);
+            QCOMPARE(formatWhenSent, whenSent);
         }
     }
 

@@ -1,55 +1,88 @@
 #include "Entries.h"
 
-#include "FocusFixture.h"
 #include "plugin/RecordKeys.h"
-
-#include <QComboBox>
 
 namespace {
 
-const char line[] = "m_pLineTB";
-const char pad[] = "m_pPadTB";
-const char surface[] = "m_pSurfaceTB";
-const char arc[] = "m_pArcTB";
-const char text[] = "m_pTextTB";
-
-const QStringList rectangle = {"m_pLineCMB=2", "m_pCornerTypeCMB=1"};
-const QStringList slot = {"m_pLineCMB=3"};
-const QStringList barcode = {"m_pTextFormatCMB=1", "m_pUPCCMB=4"};
-const QStringList stamp = {"m_pTextFormatCMB=2"};
-const QStringList canned = {"m_pTextFormatCMB=3"};
+const Steps polyline = {Choose("m_pLineCMB", "Polyline")};
+const Steps rectangle = {Choose("m_pLineCMB", "Rectangle")};
+const Steps roundCorner = rectangle + Choose("m_pCornerTypeCMB", "Round");
+const Steps slot = {Choose("m_pLineCMB", "Slot")};
+const Steps fixedAngle = {Click("m_pFixedAngleRB")};
+const Steps circle = {Choose("m_pArcAndCircleCMB", "Circle")};
+const Steps barcode = {Choose("m_pTextFormatCMB", "Barcode")};
+const Steps matrixCode = barcode + Choose("m_pUPCCMB", "ECC-200");
+const Steps plotStamp = {Choose("m_pTextFormatCMB", "Orbotech Plot Stamp")};
+const Steps cannedText = {Choose("m_pTextFormatCMB", "Canned Text")};
 
 const QString lengthBox = "Information|The current text box can only enter a value from 0 to";
 const QString pitchBox = "Information|The current value out of range:";
 const QString numberBox = "Information|The value must lie between ";
 const QString symbolBox = "Illegal Input|Unable to create special symbol!";
 
+Entry onLine(const QString& field)
+{
+    return {field, "m_pLineTB"};
+}
+
+Entry onPad(const QString& field)
+{
+    return {field, "m_pPadTB"};
+}
+
+Entry onSurface(const QString& field)
+{
+    return {field, "m_pSurfaceTB"};
+}
+
+Entry onArc(const QString& field)
+{
+    return {field, "m_pArcTB"};
+}
+
+Entry onText(const QString& field)
+{
+    return {field, "m_pTextTB"};
+}
+
 QVector<Entry> typedEntries()
 {
     return {
-        {"m_pSymbolTextLE", line, {}, "r10", RecordKeys::symbolText, "r10"},
-        {"m_pSymbolTextLE", pad, {}, "s20", RecordKeys::symbolText, "s20"},
-        {"m_pSymbolTextLE", arc, {}, "r30", RecordKeys::symbolText, "r30"},
-        {"m_pAngleValueSB", pad, {}, "45", RecordKeys::mirrorRotate, "45"},
-        {"m_pAngleValueSB", text, {}, "30", RecordKeys::mirrorRotate, "30"},
-        {"m_pAngleLE", line, {"m_pFixedAngleRB"}, "45", RecordKeys::angle, "45"},
-        {"m_pCornerRadiusLE", line, rectangle, "10", RecordKeys::cornerRadius, "254"},
-        {"m_pLengthLE", line, slot, "10", RecordKeys::slotLength, "254"},
-        {"m_pSlotAngleLE", line, slot, "30", RecordKeys::slotAngle, "30"},
-        {"m_pSlotDecodeLE", line, slot, "7", RecordKeys::slotDecode, "7"},
-        {"m_pDrilNxLE", pad, {}, "5", RecordKeys::padNx, "5"},
-        {"m_pDrilNyLE", pad, {}, "6", RecordKeys::padNy, "6"},
-        {"m_pDrilDxLE", pad, {}, "10", RecordKeys::padDx, "254"},
-        {"m_pDrilDyLE", pad, {}, "20", RecordKeys::padDy, "508"},
-        {"m_pDrilXsclLE", pad, {}, "2", RecordKeys::padXscl, "2"},
-        {"m_pDrilYsclLE", pad, {}, "3", RecordKeys::padYscl, "3"},
-        {"m_pTextLE", text, {}, "abc", RecordKeys::textContains, "abc"},
-        {"m_pXSizeLE", text, {}, "100", RecordKeys::stringXSize, "2540"},
-        {"m_pYSizeLE", text, {}, "50", RecordKeys::stringYSize, "1270"},
-        {"m_pLineWidthLE", text, {}, "10", RecordKeys::stringLineWidth, "254"},
-        {"m_pHeightLE", text, barcode, "10", RecordKeys::barcodeHeight, "254"},
-        {"m_pMatrixLE", text, barcode, "12", RecordKeys::barcodeMatrix, "12"},
-        {"m_pCannedHoleSizeLE", text, canned, "10", RecordKeys::cannedHoleSize, "254"},
+        onLine("m_pSymbolTextLE").typed("r10").stores(RecordKeys::symbolText, "r10"),
+        onPad("m_pSymbolTextLE").typed("s20").stores(RecordKeys::symbolText, "s20"),
+        onArc("m_pSymbolTextLE").typed("r30").stores(RecordKeys::symbolText, "r30"),
+        onPad("m_pAngleValueSB").typed("45").stores(RecordKeys::mirrorRotate, "45"),
+        onText("m_pAngleValueSB").typed("30").stores(RecordKeys::mirrorRotate, "30"),
+        onLine("m_pAngleLE").reachedBy(fixedAngle).typed("45").stores(RecordKeys::angle, "45"),
+        onLine("m_pCornerRadiusLE")
+            .reachedBy(roundCorner)
+            .typed("10")
+            .stores(RecordKeys::cornerRadius, "254"),
+        onLine("m_pLengthLE").reachedBy(slot).typed("10").stores(RecordKeys::slotLength, "254"),
+        onLine("m_pSlotAngleLE").reachedBy(slot).typed("30").stores(RecordKeys::slotAngle, "30"),
+        onLine("m_pSlotDecodeLE").reachedBy(slot).typed("7").stores(RecordKeys::slotDecode, "7"),
+        onPad("m_pDrilNxLE").typed("5").stores(RecordKeys::padNx, "5"),
+        onPad("m_pDrilNyLE").typed("6").stores(RecordKeys::padNy, "6"),
+        onPad("m_pDrilDxLE").typed("10").stores(RecordKeys::padDx, "254"),
+        onPad("m_pDrilDyLE").typed("20").stores(RecordKeys::padDy, "508"),
+        onPad("m_pDrilXsclLE").typed("2").stores(RecordKeys::padXscl, "2"),
+        onPad("m_pDrilYsclLE").typed("3").stores(RecordKeys::padYscl, "3"),
+        onText("m_pTextLE").typed("abc").stores(RecordKeys::textContains, "abc"),
+        onText("m_pXSizeLE").typed("100").stores(RecordKeys::stringXSize, "2540"),
+        onText("m_pYSizeLE").typed("50").stores(RecordKeys::stringYSize, "1270"),
+        onText("m_pLineWidthLE").typed("10").stores(RecordKeys::stringLineWidth, "254"),
+        onText("m_pHeightLE")
+            .reachedBy(matrixCode)
+            .typed("10")
+            .stores(RecordKeys::barcodeHeight, "254"),
+        onText("m_pMatrixLE")
+            .reachedBy(matrixCode)
+            .typed("12")
+            .stores(RecordKeys::barcodeMatrix, "12"),
+        onText("m_pCannedHoleSizeLE")
+            .reachedBy(cannedText)
+            .typed("10")
+            .stores(RecordKeys::cannedHoleSize, "254"),
     };
 }
 
@@ -57,85 +90,181 @@ QVector<Entry> refusedEntries()
 {
     // Each is a whole number of micrometres, which every validator takes.
     return {
-        {"m_pSymbolTextLE", pad, {}, "r10_4x", RecordKeys::symbolText, "", symbolBox},
-        {"m_pAngleLE", line, {"m_pFixedAngleRB"}, "400", RecordKeys::angle, "", numberBox},
-        {"m_pCornerRadiusLE", line, rectangle, "50005", RecordKeys::cornerRadius, "0", lengthBox},
-        {"m_pLengthLE", line, slot, "50005", RecordKeys::slotLength, "0", lengthBox},
-        {"m_pDrilNxLE", pad, {}, "51", RecordKeys::padNx, "5", numberBox},
-        {"m_pDrilNyLE", pad, {}, "51", RecordKeys::padNy, "5", numberBox},
-        {"m_pDrilDxLE", pad, {}, "100005", RecordKeys::padDx, "0", pitchBox},
-        {"m_pDrilDyLE", pad, {}, "-100005", RecordKeys::padDy, "0", pitchBox},
-        {"m_pDrilXsclLE", pad, {}, "101", RecordKeys::padXscl, "10", numberBox},
-        {"m_pDrilYsclLE", pad, {}, "-101", RecordKeys::padYscl, "-10", numberBox},
-        {"m_pXSizeLE", text, {}, "10005", RecordKeys::stringXSize, "0", lengthBox},
-        {"m_pYSizeLE", text, {}, "10005", RecordKeys::stringYSize, "0", lengthBox},
-        {"m_pLineWidthLE", text, {}, "10005", RecordKeys::stringLineWidth, "0", lengthBox},
-        {"m_pHeightLE", text, barcode, "50005", RecordKeys::barcodeHeight, "0", lengthBox},
-        {"m_pCannedHoleSizeLE", text, canned, "50005", RecordKeys::cannedHoleSize, "0", lengthBox},
+        onPad("m_pSymbolTextLE")
+            .typed("r10_4x")
+            .stores(RecordKeys::symbolText, "")
+            .refusedBy(symbolBox),
+        onLine("m_pAngleLE")
+            .reachedBy(fixedAngle)
+            .typed("400")
+            .stores(RecordKeys::angle, "")
+            .refusedBy(numberBox),
+        onLine("m_pCornerRadiusLE")
+            .reachedBy(roundCorner)
+            .typed("50005")
+            .stores(RecordKeys::cornerRadius, "0")
+            .refusedBy(lengthBox),
+        onLine("m_pLengthLE")
+            .reachedBy(slot)
+            .typed("50005")
+            .stores(RecordKeys::slotLength, "0")
+            .refusedBy(lengthBox),
+        onPad("m_pDrilNxLE").typed("51").stores(RecordKeys::padNx, "5").refusedBy(numberBox),
+        onPad("m_pDrilNyLE").typed("51").stores(RecordKeys::padNy, "5").refusedBy(numberBox),
+        onPad("m_pDrilDxLE").typed("100005").stores(RecordKeys::padDx, "0").refusedBy(pitchBox),
+        onPad("m_pDrilDyLE").typed("-100005").stores(RecordKeys::padDy, "0").refusedBy(pitchBox),
+        onPad("m_pDrilXsclLE").typed("101").stores(RecordKeys::padXscl, "10").refusedBy(numberBox),
+        onPad("m_pDrilYsclLE")
+            .typed("-101")
+            .stores(RecordKeys::padYscl, "-10")
+            .refusedBy(numberBox),
+        onText("m_pXSizeLE")
+            .typed("10005")
+            .stores(RecordKeys::stringXSize, "0")
+            .refusedBy(lengthBox),
+        onText("m_pYSizeLE")
+            .typed("10005")
+            .stores(RecordKeys::stringYSize, "0")
+            .refusedBy(lengthBox),
+        onText("m_pLineWidthLE")
+            .typed("10005")
+            .stores(RecordKeys::stringLineWidth, "0")
+            .refusedBy(lengthBox),
+        onText("m_pHeightLE")
+            .reachedBy(matrixCode)
+            .typed("50005")
+            .stores(RecordKeys::barcodeHeight, "0")
+            .refusedBy(lengthBox),
+        onText("m_pCannedHoleSizeLE")
+            .reachedBy(cannedText)
+            .typed("50005")
+            .stores(RecordKeys::cannedHoleSize, "0")
+            .refusedBy(lengthBox),
     };
 }
 
 QVector<Entry> chosenEntries()
 {
     return {
-        {"m_pPolarityCMB", line, {}, "<Down>", "Polarity", "0"},
-        {"m_pMirrorCMB", pad, {}, "<Up>", "Mirror", "1"},
-        {"m_pLineCMB", line, {}, "<Down>", "Line", "2"},
-        {"m_pCornerTypeCMB", line, {"m_pLineCMB=2"}, "<Down>", RecordKeys::cornerType, "2"},
-        {"m_pSlotPlatedCMB", line, slot, "<Down>", RecordKeys::slotPlated, "2"},
-        {"m_pSurfShapeCMB", surface, {}, "<Down>", RecordKeys::surfaceShape, "2"},
-        {"m_pArcAndCircleCMB", arc, {}, "<Down>", RecordKeys::arcAndCircle, "2"},
-        {"m_pArcCMB", arc, {}, "<Down>", RecordKeys::arcMode, "2"},
-        {"m_pCircleCMB", arc, {"m_pArcAndCircleCMB=1"}, "<Down>", RecordKeys::circleMode, "2"},
-        {"m_pTextFormatCMB", text, {}, "<Item>", RecordKeys::textFormat, RecordKeys::barcodeMode},
-        {"m_pUPCCMB", text, {"m_pTextFormatCMB=1"}, "<Down>", RecordKeys::barcodeMode, "2"},
-        {"m_pPositionCMB", text, barcode + QStringList{"m_pAddStringCB"}, "<Down>",
-         RecordKeys::stringPosition, "1"},
-        {"m_pOrbotechTypeCMB", text, stamp, "<Down>", RecordKeys::orbotechType, "2"},
-        {"m_pOrbotechFontSizeCMB", text, stamp, "<Down>", RecordKeys::orbotechFontSize, "2"},
-        {"m_pOrbotechZoomCMB", text, stamp, "<Down>", RecordKeys::orbotechZoom, "2"},
-        {"m_pCannedHoleSizeCMB", text, canned, "<Down>", RecordKeys::cannedHoleMode, "2"},
-        {"m_pAttributesCB", line, {}, "<Space>", "Attributes", "1"},
-        {"m_pClosedCB", line, {"m_pLineCMB=1"}, "<Space>", "Closed", "1"},
-        {"m_pClockWiseCB", arc, {}, "<Space>", "ClockWise", "2"},
-        {"m_pAddStringCB", text, barcode, "<Space>", RecordKeys::addString, "1"},
-        {"m_pBackgroundCB", text, barcode, "<Space>", RecordKeys::addBackground, "2"},
-        {"m_pAddMarkersCB", text, barcode, "<Space>", RecordKeys::addMarkers, "1"},
-        {"m_pFreeDirectionRB", line, {}, "<Space>", RecordKeys::angleGroup, "1"},
-        {"m_pVerticalRB", line, {}, "<Space>", RecordKeys::angleGroup, "2"},
-        {"m_pHorizontalRB", line, {}, "<Space>", RecordKeys::angleGroup, "3"},
-        {"m_pVerticalHorizontalRB", line, {}, "<Space>", RecordKeys::angleGroup, "4"},
-        {"m_pEightDirectionsRB", line, {}, "<Space>", RecordKeys::angleGroup, "5"},
-        {"m_pFixedAngleRB", line, {}, "<Space>", RecordKeys::angleGroup, "6"},
+        onLine("m_pPolarityCMB")
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::polarity, Polarity::negative),
+        onPad("m_pMirrorCMB").pressed(Qt::Key_Up).stores(RecordKeys::mirror, Mirror::yes),
+        onLine("m_pLineCMB").pressed(Qt::Key_Down).stores(RecordKeys::line, LineKind::polyline),
+        onLine("m_pCornerTypeCMB")
+            .reachedBy(rectangle)
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::cornerType, CornerType::round),
+        onLine("m_pSlotPlatedCMB")
+            .reachedBy(slot)
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::slotPlated, SlotPlated::no),
+        onSurface("m_pSurfShapeCMB")
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::surfaceShape, SurfaceKind::polygon),
+        onArc("m_pArcAndCircleCMB")
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::arcAndCircle, ArcOrCircle::circle),
+        onArc("m_pArcCMB").pressed(Qt::Key_Down).stores(RecordKeys::arcMode, ArcMode::startEndEdge),
+        onArc("m_pCircleCMB")
+            .reachedBy(circle)
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::circleMode, CircleMode::centerPoint),
+        onText("m_pTextFormatCMB")
+            .chosen("Barcode")
+            .stores(RecordKeys::textFormat, TextKind::barcode),
+        onText("m_pUPCCMB")
+            .reachedBy(barcode)
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::barcodeMode, Symbology::upc39Ascii),
+        onText("m_pPositionCMB")
+            .reachedBy(matrixCode + Click("m_pAddStringCB"))
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::stringPosition, StringPosition::bottom),
+        onText("m_pOrbotechTypeCMB")
+            .reachedBy(plotStamp)
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::orbotechType, PlotStampType::barcode),
+        onText("m_pOrbotechFontSizeCMB")
+            .reachedBy(plotStamp)
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::orbotechFontSize, "2"),
+        onText("m_pOrbotechZoomCMB")
+            .reachedBy(plotStamp)
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::orbotechZoom, "2"),
+        onText("m_pCannedHoleSizeCMB")
+            .reachedBy(cannedText)
+            .pressed(Qt::Key_Down)
+            .stores(RecordKeys::cannedHoleMode, CannedHoleMode::sixBySeven),
+        onLine("m_pAttributesCB")
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::attributes, HasAttributes::yes),
+        onLine("m_pClosedCB")
+            .reachedBy(polyline)
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::closed, Closed::yes),
+        onArc("m_pClockWiseCB").pressed(Qt::Key_Space).stores(RecordKeys::clockWise, ClockWise::no),
+        onText("m_pAddStringCB")
+            .reachedBy(matrixCode)
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::addString, Added::yes),
+        onText("m_pBackgroundCB")
+            .reachedBy(matrixCode)
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::addBackground, Added::no),
+        onText("m_pAddMarkersCB")
+            .reachedBy(matrixCode)
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::addMarkers, Added::yes),
+        onLine("m_pFreeDirectionRB")
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::angleGroup, LineDirection::free),
+        onLine("m_pVerticalRB")
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::angleGroup, LineDirection::vertical),
+        onLine("m_pHorizontalRB")
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::angleGroup, LineDirection::horizontal),
+        onLine("m_pVerticalHorizontalRB")
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::angleGroup, LineDirection::verticalThenHorizontal),
+        onLine("m_pEightDirectionsRB")
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::angleGroup, LineDirection::eightDirections),
+        onLine("m_pFixedAngleRB")
+            .pressed(Qt::Key_Space)
+            .stores(RecordKeys::angleGroup, LineDirection::fixed),
     };
 }
 
 }  // namespace
 
-void Entry::reachField(const FocusFixture& fixture) const
+QString Entry::words() const
 {
-    fixture.click(type);
-    for (const QString& step : reach) {
-        if (step.contains('=')) {
-            fixture.choose(step.section('=', 0, 0), step.section('=', 1).toInt());
-        } else {
-            fixture.click(step);
-        }
-    }
+    const QString entered = isTyped()           ? m_typed
+                            : !m_item.isEmpty() ? m_item
+                                                : QKeySequence(m_key).toString();
+    return QStringLiteral("%1 %2 (%3)").arg(m_field, entered, m_type);
 }
 
-void Entry::enter(const FocusFixture& fixture) const
+void Entry::reachField(const DialogFixture& fixture) const
+{
+    fixture.click(m_type);
+    fixture.perform(m_reach);
+}
+
+void Entry::enter(const DialogFixture& fixture) const
 {
     if (isTyped()) {
-        fixture.type(field, typed);
+        fixture.type(m_field, m_typed);
         return;
     }
-    fixture.focus(field);
-    if (typed == "<Item>") {
-        fixture.choose(field, 1);
+    fixture.focus(m_field);
+    if (!m_item.isEmpty()) {
+        fixture.choose(m_field, m_item);
     } else {
-        fixture.key(typed == "<Space>" ? Qt::Key_Space
-                                       : (typed == "<Up>" ? Qt::Key_Up : Qt::Key_Down));
+        fixture.press(m_key);
     }
 }
 

@@ -1,24 +1,51 @@
 #pragma once
 
-#include <QStringList>
+#include "DialogFixture.h"
+
 #include <QVector>
 
-class FocusFixture;
+/// What a user enters in a field of the dialog, and what comes of it.
+class Entry {
+public:
+    /// `typeButton` is that of the field's page.
+    Entry(const QString& field, const QString& typeButton) : m_field(field), m_type(typeButton) {}
 
-/// What a user enters in a field of the dialog.
-struct Entry {
-    const char* field;
-    const char* type;   ///< the type button of its page
-    QStringList reach;  ///< what shows the field: "combo=item", or a button
-    QString typed;      ///< or a key: "<Space>", "<Up>", "<Down>", "<Item>"
-    QString key;
-    QString stored;
-    QString box = {};  ///< how the refusal begins; empty: accepted
+    /// What shows the field on its page.
+    Entry& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
+    Entry& typed(const QString& text) { return m_typed = text, *this; }
+    Entry& pressed(Qt::Key key) { return m_key = key, *this; }
+    Entry& chosen(const QString& item) { return m_item = item, *this; }
+    Entry& stores(const QString& key, const QString& value)
+    {
+        return m_recordKey = key, m_stored = value, *this;
+    }
+    /// The beginning of the box that refuses it.
+    Entry& refusedBy(const QString& box) { return m_box = box, *this; }
 
-    bool isTyped() const { return !typed.startsWith('<'); }
-    void reachField(const FocusFixture& fixture) const;
+    QString field() const { return m_field; }
+    QString type() const { return m_type; }
+    QString recordKey() const { return m_recordKey; }
+    QString stored() const { return m_stored; }
+    QString box() const { return m_box; }
+    bool isRefused() const { return !m_box.isEmpty(); }
+    bool isTyped() const { return !m_typed.isEmpty(); }
+    /// Field, what is entered, and page.
+    QString words() const;
+
+    void reachField(const DialogFixture& fixture) const;
     /// Leaves the focus in the field.
-    void enter(const FocusFixture& fixture) const;
+    void enter(const DialogFixture& fixture) const;
+
+private:
+    QString m_field;
+    QString m_type;
+    Steps m_reach;
+    QString m_typed;
+    QString m_item;
+    Qt::Key m_key = Qt::Key_unknown;
+    QString m_recordKey;
+    QString m_stored;
+    QString m_box;
 };
 
 /// All editable controls, and those that refuse something once more with that.

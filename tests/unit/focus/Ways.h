@@ -1,23 +1,46 @@
 #pragma once
 
-#include <QStringList>
+#include "DialogFixture.h"
+
 #include <QVector>
 
 #include <functional>
 
-class FocusFixture;
-
 /// How a field loses the focus, or the entry in it its turn.
-struct Way {
-    enum Effect { None, Closes = 1, SetsSymbol = 2 };
+class Way {
+public:
+    using Act = std::function<void(DialogFixture&)>;
 
-    QString name;
-    QString type;  ///< possible only with this type chosen; empty: always
-    std::function<void(FocusFixture&)> act;
-    int effects = None;
-    QString sets = {};  ///< the key of what it chooses
-    QString box = {};   ///< the box that it opens
-    bool isAlways() const { return type.isEmpty(); }
+    Way(const QString& name, const Act& act) : m_name(name), m_act(act) {}
+
+    /// Possible only with this type chosen.
+    Way& onlyOn(const QString& typeButton) { return m_type = typeButton, *this; }
+    /// Chooses the value of this key itself.
+    Way& sets(const QString& key) { return m_key = key, *this; }
+    Way& opensBox(const QString& box) { return m_box = box, *this; }
+    Way& closesTheDialog() { return m_closes = true, *this; }
+    Way& putsASymbol() { return m_putsSymbol = true, *this; }
+
+    QString name() const { return m_name; }
+    QString key() const { return m_key; }
+    QString box() const { return m_box; }
+    bool isAlwaysPossible() const { return m_type.isEmpty(); }
+    bool isPossibleOn(const QString& typeButton) const
+    {
+        return isAlwaysPossible() || m_type == typeButton;
+    }
+    /// Whether a symbol that is being entered is replaced, or dropped with the window.
+    bool endsASymbol() const { return m_closes || m_putsSymbol; }
+    void act(DialogFixture& fixture) const { m_act(fixture); }
+
+private:
+    QString m_name;
+    Act m_act;
+    QString m_type;
+    QString m_key;
+    QString m_box;
+    bool m_closes = false;
+    bool m_putsSymbol = false;
 };
 
 const QVector<Way>& allWays();

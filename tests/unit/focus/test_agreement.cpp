@@ -1,15 +1,17 @@
 // Whether the comparison of fields and record sees what it is there to see.
 
 #include "AgreementTable.h"
-#include "FocusFixture.h"
+#include "DialogFixture.h"
 #include "Main.h"
 #include "plugin/RecordKeys.h"
 
 #include <QLineEdit>
 
+using Opened = DialogFixture::Opened;
+
 namespace {
 
-Agreement::Result resultOf(const FocusFixture& fixture, const QVariantMap& record,
+Agreement::Result resultOf(const DialogFixture& fixture, const QVariantMap& record,
                            const QString& field)
 {
     for (const Agreement::Finding& finding : fixture.agreement->look(record)) {
@@ -31,7 +33,7 @@ private Q_SLOTS:
     /// Every key of the record belongs to one field, and none to two.
     void everyKeyHasAField()
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         QStringList keys;
         for (const AgreementTable::Field& field : AgreementTable::fields()) {
             keys.append(field.key);
@@ -43,7 +45,7 @@ private Q_SLOTS:
     /// A fresh dialog agrees; with any key changed it does not.
     void everyChangeIsSeen()
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         const QVariantMap record = fixture.record();
         QCOMPARE(fixture.agreement->faultOf(record), QString());
         for (const AgreementTable::Field& field : AgreementTable::fields()) {
@@ -60,7 +62,7 @@ private Q_SLOTS:
 
     void lostEntry()
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click("m_pTextTB");
         const QVariantMap before = fixture.record();
         fixture.type("m_pTextLE", "abc");
@@ -72,7 +74,7 @@ private Q_SLOTS:
 
     void sixDigits()
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click("m_pTextTB");
         fixture.type("m_pXSizeLE", "123.4567");
         fixture.leave();
@@ -81,13 +83,13 @@ private Q_SLOTS:
         QVERIFY(resultOf(fixture, record, "m_pXSizeLE") == Result::Holds);
         record[RecordKeys::stringXSize] = "3135.9";
         QVERIFY(resultOf(fixture, record, "m_pXSizeLE") == Result::Broken);
-        fixture.setMetric(true);
+        fixture.setUnit(Unit::Metric);
         QVERIFY(resultOf(fixture, fixture.record(), "m_pXSizeLE") == Result::Holds);
     }
 
     void symbolExceptions()
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         const QString symbol = "m_pSymbolTextLE";
         fixture.click("m_pPadTB");
         fixture.type(symbol, "r10_45");

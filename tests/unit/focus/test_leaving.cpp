@@ -2,22 +2,23 @@
 // and two in turn.
 
 #include "Entries.h"
-#include "FocusFixture.h"
 #include "Main.h"
 #include "Ways.h"
 #include "plugin/RecordKeys.h"
 
 #include <QLineEdit>
 
+using Opened = DialogFixture::Opened;
+
 namespace {
 
 /// Each box with its own words; of a refusal the beginning, since its bounds follow the unit.
-QStringList boxesOf(FocusFixture& fixture, const Entry& entry)
+QStringList boxesOf(DialogFixture& fixture, const Entry& entry)
 {
     QStringList texts = fixture.boxes.takeTexts();
     for (QString& text : texts) {
-        if (!entry.box.isEmpty() && text.startsWith(entry.box)) {
-            text = entry.box;
+        if (entry.isRefused() && text.startsWith(entry.box())) {
+            text = entry.box();
         }
     }
     texts.sort();
@@ -25,12 +26,8 @@ QStringList boxesOf(FocusFixture& fixture, const Entry& entry)
 }
 
 /// What the second of two is by default; CTS_ALL_PAIRS in the environment: each.
-const QStringList secondWays = {"20002200, metric", "20004602", "host's box", "close and open"};
-
-bool isPossible(const Entry& entry, const Way& way)
-{
-    return way.isAlways() || way.type == entry.type;
-}
+const QStringList secondWays = {"UnitChanged, metric", "AddFeature", "host's box",
+                                "close and open"};
 
 }  // namespace
 
@@ -41,15 +38,15 @@ class TestLeaving : public QObject {
     int m_unreported = 0;
 
     /// Everything is taken at the latest when the dialog's field is left.
-    void check(FocusFixture& fixture, const Entry& entry, const QVector<Way>& ways)
+    void check(DialogFixture& fixture, const Entry& entry, const QVector<Way>& ways)
     {
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
         fixture.open();
         fixture.leave();
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
-        if (fixture.agreement->isPending(entry.field)) {
+        if (fixture.agreement->isPending(entry.field())) {
             // A type that was chosen meanwhile makes it a text that Qt does not report.
-            QVERIFY(!fixture.find<QLineEdit>(entry.field).hasAcceptableInput());
+            QVERIFY(!fixture.find<QLineEdit>(entry.field()).hasAcceptableInput());
             ++m_unreported;
             fixture.boxes.take();
             return;
@@ -58,28 +55,28 @@ class TestLeaving : public QObject {
     }
 
     /// Value and boxes, where the ways did not change them.
-    void checkOutcome(FocusFixture& fixture, const Entry& entry, const QVector<Way>& ways)
+    void checkOutcome(DialogFixture& fixture, const Entry& entry, const QVector<Way>& ways)
     {
-        int effects = Way::None;
         QStringList expected;
         bool isChosenAgain = false;
+        bool isSymbolEnded = false;
         for (const Way& way : ways) {
-            effects |= way.effects;
-            isChosenAgain = isChosenAgain || way.sets == entry.key;
-            if (!way.box.isEmpty()) {
-                expected.append(way.box);
+            isChosenAgain = isChosenAgain || way.key() == entry.recordKey();
+            isSymbolEnded = isSymbolEnded || way.endsASymbol();
+            if (!way.box().isEmpty()) {
+                expected.append(way.box());
             }
         }
-        const bool isSymbol = entry.key == RecordKeys::symbolText;
-        if (!isChosenAgain && !(isSymbol && effects != Way::None)) {
-            QCOMPARE(fixture.value(entry.key), entry.stored);
+        isSymbolEnded = isSymbolEnded && entry.recordKey() == RecordKeys::symbolText;
+        if (!isChosenAgain && !isSymbolEnded) {
+            QCOMPARE(fixture.value(entry.recordKey()).toString(), entry.stored());
         }
         // A refused symbol that is replaced, or dropped with the window, is not asked about.
         const QStringList boxes = boxesOf(fixture, entry);
-        if (!entry.box.isEmpty() && !(isSymbol && effects != Way::None)) {
-            expected.append(entry.box);
-        } else if (!entry.box.isEmpty()) {
-            expected += boxes.filter(entry.box).mid(0, 1);
+        if (entry.isRefused() && !isSymbolEnded) {
+            expected.append(entry.box());
+        } else if (entry.isRefused()) {
+            expected += boxes.filter(entry.box()).mid(0, 1);
         }
         expected.sort();
         QCOMPARE(boxes, expected);
@@ -87,7 +84,7 @@ class TestLeaving : public QObject {
 
     void play(int entry, const QVector<int>& numbers)
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         const Entry& entered = allEntries()[entry];
         entered.reachField(fixture);
         entered.enter(fixture);
@@ -115,9 +112,9 @@ private Q_SLOTS:
         for (int entry = 0; entry < allEntries().size(); ++entry) {
             for (int way = 0; way < allWays().size(); ++way) {
                 const Entry& entered = allEntries()[entry];
-                if (isPossible(entered, allWays()[way])) {
-                    QTest::addRow("%s %s (%s), %s", entered.field, qPrintable(entered.typed),
-                                  entered.type, qPrintable(allWays()[way].name))
+                if (allWays()[way].isPossibleOn(entered.type())) {
+                    QTest::addRow("%s, %s", qPrintable(entered.words()),
+                                  qPrintable(allWays()[way].name()))
                         << entry << way;
                 }
             }
@@ -142,11 +139,12 @@ private Q_SLOTS:
             const Entry& entered = allEntries()[entry];
             for (int first = 0; entered.isTyped() && first < ways.size(); ++first) {
                 for (int second = 0; second < ways.size(); ++second) {
-                    const bool isChosen = isWhole || secondWays.contains(ways[second].name);
-                    if (isChosen && isPossible(entered, ways[first]) && ways[second].isAlways()) {
-                        QTest::addRow("%s %s (%s), %s, %s", entered.field,
-                                      qPrintable(entered.typed), entered.type,
-                                      qPrintable(ways[first].name), qPrintable(ways[second].name))
+                    const bool isChosen = isWhole || secondWays.contains(ways[second].name());
+                    if (isChosen && ways[first].isPossibleOn(entered.type()) &&
+                        ways[second].isAlwaysPossible()) {
+                        QTest::addRow("%s, %s, %s", qPrintable(entered.words()),
+                                      qPrintable(ways[first].name()),
+                                      qPrintable(ways[second].name()))
                             << entry << first << second;
                     }
                 }

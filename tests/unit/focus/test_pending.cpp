@@ -1,7 +1,7 @@
 // An entry that is pending when a box opens elsewhere is taken once the box is closed.
 
 #include "Entries.h"
-#include "FocusFixture.h"
+#include "Expect.h"
 #include "Main.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
@@ -17,6 +17,8 @@
 namespace Accepted = MessageCodes::Accepted;
 namespace Sent = MessageCodes::Sent;
 
+using Opened = DialogFixture::Opened;
+
 namespace {
 
 const QString sizeBox = "Information|The value must lie between 0 and 50000.";
@@ -25,7 +27,7 @@ const QString pickBox = "Dialog Box|Illegal symbol name: ";
 /// What taking an entry of that field sends.
 QVector<int> codesOf(const Entry& entry)
 {
-    const QString field = entry.field;
+    const QString field = entry.field();
     if (field.startsWith("m_pSlot") || field == "m_pLengthLE") {
         return {};
     }
@@ -33,7 +35,7 @@ QVector<int> codesOf(const Entry& entry)
     if (field.startsWith("m_pDril") && !field.contains("D", Qt::CaseSensitive)) {
         return {};
     }
-    if (!entry.box.isEmpty() && field != "m_pSymbolTextLE") {
+    if (entry.isRefused() && field != "m_pSymbolTextLE") {
         return {};
     }
     return {field == "m_pAngleLE" ? Sent::DirectionRecord : Sent::Record};
@@ -41,7 +43,7 @@ QVector<int> codesOf(const Entry& entry)
 
 bool isCheckedWhileTyping(const Entry& entry)
 {
-    const QString field = entry.field;
+    const QString field = entry.field();
     return field.startsWith("m_pDrilN") || field.endsWith("sclLE");
 }
 
@@ -51,9 +53,9 @@ QVector<int> entriesWithSymbol()
     QVector<int> numbers;
     for (int i = 0; i < allEntries().size(); ++i) {
         const Entry& entry = allEntries()[i];
-        const QString field = entry.field;
+        const QString field = entry.field();
         if (entry.isTyped() && field != "m_pSymbolTextLE" && !isCheckedWhileTyping(entry) &&
-            (qstrcmp(entry.type, "m_pLineTB") == 0 || qstrcmp(entry.type, "m_pPadTB") == 0)) {
+            (entry.type() == "m_pLineTB" || entry.type() == "m_pPadTB")) {
             numbers.append(i);
         }
     }
@@ -70,9 +72,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("number");
         for (const int number : entriesWithSymbol()) {
-            QTest::addRow("%s %s", allEntries()[number].field,
-                          qPrintable(allEntries()[number].typed))
-                << number;
+            QTest::addRow("%s", qPrintable(allEntries()[number].words())) << number;
         }
         QVERIFY(entriesWithSymbol().size() > 10);
     }
@@ -82,7 +82,7 @@ private Q_SLOTS:
     {
         QFETCH(int, number);
         const Entry& entry = allEntries()[number];
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         entry.reachField(fixture);
         fixture.find<QLineEdit>("m_pSymbolTextLE").setText("r60000");
         fixture.boxes.take();
@@ -92,10 +92,10 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AddFeatureStarted} + codesOf(entry));
         QStringList boxes = fixture.boxes.takeTexts();
         QCOMPARE(boxes.value(0), sizeBox);
-        QCOMPARE(boxes.size(), entry.box.isEmpty() ? 1 : 2);
-        QVERIFY(entry.box.isEmpty() || boxes[1].startsWith(entry.box));
-        QCOMPARE(fixture.value(entry.key), entry.stored);
-        QCOMPARE(fixture.find<QLineEdit>("m_pSymbolTextLE").text(), QString());
+        QCOMPARE(boxes.size(), entry.isRefused() ? 2 : 1);
+        QVERIFY(!entry.isRefused() || boxes[1].startsWith(entry.box()));
+        QCOMPARE(fixture.value(entry.recordKey()).toString(), entry.stored());
+        QCOMPARE(fixture.text("m_pSymbolTextLE"), QString());
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
 
         // Nothing more comes of leaving the field; a spin box may send the same once more.
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QFETCH(QStringList, picked);
         QFETCH(QStringList, boxes);
         QFETCH(QStringList, sent);
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click("m_pArcTB");
         fixture.type("m_pSymbolTextLE", "r30");
         fixture.recorder.clear();
@@ -135,7 +135,7 @@ private Q_SLOTS:
         for (const QString& name : picked) {
             symbols[int(symbols.size())] = name.toStdString();
         }
-        fixture.receive(Accepted::SymbolsPicked, ExtraWord::pointingAt(symbols));
+        fixture.receive(Accepted::SymbolsPicked, {}, ExtraWord::pointingAt(symbols));
         QCOMPARE(fixture.boxes.takeTexts(), boxes);
         QStringList names;
         for (const Recorder::Entry& entry : fixture.recorder.messages()) {
@@ -149,25 +149,24 @@ private Q_SLOTS:
     /// The box of one field, while the symbol is pending.
     void anotherFieldsRefusal()
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click("m_pPadTB");
-        auto& pitch = fixture.find<QLineEdit>("m_pDrilDxLE");
-        pitch.setText("100005");
+        fixture.find<QLineEdit>("m_pDrilDxLE").setText("100005");
         fixture.type("m_pSymbolTextLE", "s20");
         fixture.recorder.clear();
         fixture.dialog->on_m_pDrilDxLE_editingFinished();
         QCOMPARE(fixture.boxes.takeTexts(),
                  QStringList{"Information|The current value out of range:-100000 to 100000"});
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        QCOMPARE(fixture.value(RecordKeys::symbolText), QString("s20"));
-        QCOMPARE(fixture.value(RecordKeys::padDx), QString("0"));
-        QCOMPARE(pitch.text(), QString("0"));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "s20")});
+        Expect::holds(fixture, {Expect::record(RecordKeys::padDx, "0")});
+        QCOMPARE(fixture.text("m_pDrilDxLE"), QString("0"));
     }
 
     /// Reported twice while a box is open, an entry is taken once.
     void reportedTwiceInsideTheBox()
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click("m_pFixedAngleRB");
         fixture.find<QLineEdit>("m_pSymbolTextLE").setText("r60000");
         fixture.type("m_pAngleLE", "45");
@@ -180,7 +179,7 @@ private Q_SLOTS:
         fixture.boxes.setOnBox({});
         QCOMPARE(fixture.boxes.takeTexts(), QStringList{sizeBox});
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::DirectionRecord});
-        QCOMPARE(fixture.value(RecordKeys::angle), QString("45"));
+        Expect::holds(fixture, {Expect::record(RecordKeys::angle, "45")});
     }
 
     void failingTextHandler_data()
@@ -231,7 +230,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, isText);
         QFETCH(QString, type);
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click(type);
         fixture.focus("m_pSymbolTextLE");
         fixture.recorder.clear();
@@ -246,9 +245,9 @@ private Q_SLOTS:
         getUnit = nullptr;
         QCOMPARE(fixture.boxes.takeTexts(),
                  (QStringList{"Information|no unit", "Information|no unit"}));
-        QCOMPARE(fixture.find<QLineEdit>("m_pSymbolTextLE").text(), QString("r1"));
+        QCOMPARE(fixture.text("m_pSymbolTextLE"), QString("r1"));
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.value(RecordKeys::symbolText), QString());
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
 
         // The host is well again: the entry goes on.
         fixture.open();
@@ -256,7 +255,7 @@ private Q_SLOTS:
         QTest::keyClicks(&fixture.find("m_pSymbolTextLE"), "0");
         fixture.leave();
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        QCOMPARE(fixture.value(RecordKeys::symbolText), QString("r10"));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
         QVERIFY(fixture.boxes.take().isEmpty());
     }
 };

@@ -1,6 +1,7 @@
 // A symbol that the host refuses at the send leaves the record with the field.
 
-#include "FocusFixture.h"
+#include "DialogFixture.h"
+#include "Expect.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
@@ -10,6 +11,8 @@
 namespace Accepted = MessageCodes::Accepted;
 namespace Sent = MessageCodes::Sent;
 
+using Opened = DialogFixture::Opened;
+
 class TestRefusedSymbol : public QObject {
     Q_OBJECT
 
@@ -17,93 +20,91 @@ private Q_SLOTS:
     void leavesTheRecord_data()
     {
         QTest::addColumn<QString>("type");
-        QTest::addColumn<bool>("metric");
+        QTest::addColumn<Unit>("unit");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("rotation");
-        QTest::newRow("line") << "m_pLineTB" << false << "r60000"
+        QTest::newRow("line") << "m_pLineTB" << Unit::Mil << "r60000"
                               << "0";
-        QTest::newRow("pad") << "m_pPadTB" << false << "s60000"
+        QTest::newRow("pad") << "m_pPadTB" << Unit::Mil << "s60000"
                              << "0";
-        QTest::newRow("arc") << "m_pArcTB" << false << "r60000"
+        QTest::newRow("arc") << "m_pArcTB" << Unit::Mil << "r60000"
                              << "0";
-        QTest::newRow("suffix") << "m_pPadTB" << false << "r60000_45"
+        QTest::newRow("suffix") << "m_pPadTB" << Unit::Mil << "r60000_45"
                                 << "45";
-        QTest::newRow("line, metric") << "m_pLineTB" << true << "r1524000"
+        QTest::newRow("line, metric") << "m_pLineTB" << Unit::Metric << "r1524000"
                                       << "0";
-        QTest::newRow("suffix, metric") << "m_pPadTB" << true << "r1524000_45"
+        QTest::newRow("suffix, metric") << "m_pPadTB" << Unit::Metric << "r1524000_45"
                                         << "45";
     }
 
     void leavesTheRecord()
     {
         QFETCH(QString, type);
-        QFETCH(bool, metric);
+        QFETCH(Unit, unit);
         QFETCH(QString, typed);
         QFETCH(QString, rotation);
-        for (const Qt::Key way : {Qt::Key_Tab, Qt::Key_Return}) {
-            FocusFixture fixture(metric);
+        for (const By way : {By::Tab, By::Enter}) {
+            DialogFixture fixture(unit, Opened::ByTheStrip);
             fixture.click(type);
             fixture.type("m_pSymbolTextLE", typed);
             fixture.recorder.clear();
-            fixture.key(way);
+            fixture.leave(way);
             QCOMPARE(fixture.boxes.take().size(), 1);
-            QCOMPARE(fixture.find<QLineEdit>("m_pSymbolTextLE").text(), QString());
-            QCOMPARE(fixture.value(RecordKeys::symbolText), QString());
-            if (way == Qt::Key_Tab) {
+            QCOMPARE(fixture.text("m_pSymbolTextLE"), QString());
+            Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
+            if (way == By::Tab) {
                 QVERIFY(fixture.recorder.messages().isEmpty());
-                QCOMPARE(fixture.value(RecordKeys::mirrorRotate), rotation);
+                Expect::holds(fixture, {Expect::record(RecordKeys::mirrorRotate, rotation)});
             }
-            fixture.choose("m_pPolarityCMB", 1);
-            QCOMPARE(
-                fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::symbolText),
-                QVariant(QString()));
+            fixture.choose("m_pPolarityCMB", "Negative");
+            Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
             QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
         }
     }
 
     void anEarlierOneStays_data()
     {
-        QTest::addColumn<bool>("metric");
+        QTest::addColumn<Unit>("unit");
         QTest::addColumn<QString>("accepted");
         QTest::addColumn<QString>("refused");
-        QTest::newRow("mil") << false << "r10"
+        QTest::newRow("mil") << Unit::Mil << "r10"
                              << "r60000";
-        QTest::newRow("metric") << true << "r254"
+        QTest::newRow("metric") << Unit::Metric << "r254"
                                 << "r1524000";
-        QTest::newRow("suffix") << false << "r10_45"
+        QTest::newRow("suffix") << Unit::Mil << "r10_45"
                                 << "r60000_45";
     }
 
     /// The refused one was never entered: it is seen by the check alone.
     void anEarlierOneStays()
     {
-        QFETCH(bool, metric);
+        QFETCH(Unit, unit);
         QFETCH(QString, accepted);
         QFETCH(QString, refused);
-        FocusFixture fixture(metric);
+        DialogFixture fixture(unit, Opened::ByTheStrip);
         fixture.click("m_pPadTB");
         fixture.type("m_pSymbolTextLE", accepted);
         fixture.leave();
-        QCOMPARE(fixture.value(RecordKeys::symbolText), QString("r10"));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
         fixture.type("m_pSymbolTextLE", refused);
         fixture.recorder.clear();
         fixture.receive(Accepted::AddFeature);
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AddFeatureStarted});
         QCOMPARE(fixture.boxes.take().size(), 1);
-        QCOMPARE(fixture.find<QLineEdit>("m_pSymbolTextLE").text(), QString());
-        QCOMPARE(fixture.value(RecordKeys::symbolText), QString("r10"));
+        QCOMPARE(fixture.text("m_pSymbolTextLE"), QString());
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
         fixture.leave();
         QVERIFY(fixture.boxes.take().isEmpty());
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AddFeatureStarted});
-        QCOMPARE(fixture.value(RecordKeys::symbolText), QString("r10"));
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r10")});
     }
 
     /// A chosen or picked name is refused as well.
     void chosenOrPicked()
     {
         for (const bool isPicked : {false, true}) {
-            FocusFixture fixture;
+            DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
             fixture.click("m_pPadTB");
             fixture.recorder.clear();
             if (isPicked) {
@@ -113,8 +114,8 @@ private Q_SLOTS:
             }
             QCOMPARE(fixture.boxes.take().size(), 1);
             QVERIFY(fixture.recorder.messages().isEmpty());
-            QCOMPARE(fixture.value(RecordKeys::symbolText), QString());
-            QCOMPARE(fixture.find<QLineEdit>("m_pSymbolTextLE").text(), QString());
+            Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
+            QCOMPARE(fixture.text("m_pSymbolTextLE"), QString());
         }
     }
 };

@@ -1,11 +1,14 @@
 // In what order a change of type goes, as the canvas can see it.
 
-#include "FocusFixture.h"
+#include "DialogFixture.h"
+#include "Expect.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
 namespace Sent = MessageCodes::Sent;
+
+using Opened = DialogFixture::Opened;
 
 namespace {
 
@@ -14,13 +17,27 @@ const QStringList always = {"m_pAttributesCB", "m_pFillPB", "m_pPolarityCMB"};
 const QStringList symbolControls = {"m_pSymbolPB", "m_pSymbolTextLE", "m_pSelectFromEditorPB"};
 const QStringList placing = {"m_pMirrorCMB", "m_pAngleValueSB"};
 
-bool isPlaced(int type)
+const QStringList kinds = {FeatureKind::line, FeatureKind::pad, FeatureKind::surface,
+                           FeatureKind::arc, FeatureKind::text};
+
+/// The number in the record of the type with that button.
+int kindOf(const QString& type)
 {
-    return type == 1 || type == 4;
+    return kinds[types.indexOf(type)].toInt();
+}
+
+bool isPlaced(const QString& type)
+{
+    return type == "m_pPadTB" || type == "m_pTextTB";
+}
+
+bool hasSymbol(const QString& type)
+{
+    return type != "m_pSurfaceTB" && type != "m_pTextTB";
 }
 
 /// What can be seen of the common controls, one word each.
-QStringList shownControls(const FocusFixture& fixture)
+QStringList shownControls(const DialogFixture& fixture)
 {
     QStringList shown;
     for (const QString& name : always + symbolControls + placing) {
@@ -47,12 +64,11 @@ class TestTypeChange : public QObject {
 private Q_SLOTS:
     void order_data()
     {
-        QTest::addColumn<int>("before");
-        QTest::addColumn<int>("after");
-        for (int before = 0; before < types.size(); ++before) {
-            for (int after = 0; after < types.size(); ++after) {
-                QTest::addRow("%s to %s", qPrintable(types[before]), qPrintable(types[after]))
-                    << before << after;
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("after");
+        for (const QString& before : types) {
+            for (const QString& after : types) {
+                QTest::addRow("%s to %s", qPrintable(before), qPrintable(after)) << before << after;
             }
         }
     }
@@ -60,10 +76,10 @@ private Q_SLOTS:
     /// The attributes go when all common controls are shown and nothing is hidden yet.
     void order()
     {
-        QFETCH(int, before);
-        QFETCH(int, after);
-        FocusFixture fixture;
-        fixture.click(types[before]);
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
+        fixture.click(before);
         fixture.recorder.clear();
         QVector<QStringList> seen;
         QVariant feature;
@@ -73,33 +89,36 @@ private Q_SLOTS:
             }
             seen.append(shownControls(fixture));
             if (entry.message.code == Sent::AttributeMap) {
-                feature = fixture.record().value(RecordKeys::features);
+                feature = fixture.value(RecordKeys::features);
             }
         });
-        fixture.click(types[after]);
+        fixture.click(after);
         fixture.recorder.setOnMessage({});
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
-        QCOMPARE(feature.toInt(), before + 1);
-        QCOMPARE(valueOf(fixture.recorder.last(Sent::Record), "Features"), QVariant(after + 1));
+        QCOMPARE(feature.toInt(), kindOf(before));
+        Expect::holds(fixture, {Expect::record(RecordKeys::features, kindOf(after))});
 
         QStringList atAttributes = always + symbolControls;
         atAttributes += isPlaced(before) ? placing : QStringList();
-        atAttributes += before == 2 ? QStringList{"enabled"} : QStringList();
+        atAttributes += before == "m_pSurfaceTB" ? QStringList{"enabled"} : QStringList();
         QCOMPARE(seen[0], atAttributes);
         QStringList atRecord = always;
-        atRecord += after == 2 || after == 4 ? QStringList() : symbolControls;
+        atRecord += hasSymbol(after) ? symbolControls : QStringList();
         atRecord += isPlaced(after) ? placing : QStringList();
-        atRecord += after == 2 ? QStringList{"enabled"} : QStringList();
+        atRecord += after == "m_pSurfaceTB" ? QStringList{"enabled"} : QStringList();
         QCOMPARE(seen[1], atRecord);
     }
 
     void typedRotation_data()
     {
         QTest::addColumn<QString>("before");
-        QTest::addColumn<int>("after");
-        for (const char* const before : {"m_pPadTB", "m_pTextTB"}) {
-            for (int after = 0; after < types.size(); ++after) {
-                QTest::addRow("%s to %s", before, qPrintable(types[after])) << before << after;
+        QTest::addColumn<QString>("after");
+        for (const QString& before : types) {
+            for (const QString& after : types) {
+                if (isPlaced(before)) {
+                    QTest::addRow("%s to %s", qPrintable(before), qPrintable(after))
+                        << before << after;
+                }
             }
         }
     }
@@ -108,31 +127,31 @@ private Q_SLOTS:
     void typedRotation()
     {
         QFETCH(QString, before);
-        QFETCH(int, after);
-        FocusFixture fixture;
+        QFETCH(QString, after);
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click(before);
         fixture.type("m_pAngleValueSB", "45");
         fixture.recorder.clear();
-        fixture.click(types[after]);
+        fixture.click(after);
         const QVector<Recorder::Entry>& sent = fixture.recorder.messages();
         QCOMPARE(fixture.recorder.codes(),
                  (QVector<int>{Sent::AttributeMap, Sent::Record, Sent::Record}));
         QCOMPARE(valueOf(sent[1], RecordKeys::mirrorRotate), QVariant("45"));
-        QCOMPARE(valueOf(sent[1], "Features"), QVariant(types.indexOf(before) + 1));
+        QCOMPARE(valueOf(sent[1], RecordKeys::features), QVariant(kindOf(before)));
         QCOMPARE(valueOf(sent[2], RecordKeys::mirrorRotate), QVariant("45"));
-        QCOMPARE(valueOf(sent[2], "Features"), QVariant(after + 1));
+        QCOMPARE(valueOf(sent[2], RecordKeys::features), QVariant(kindOf(after)));
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
     }
 
     void theLineKindKeepsItsOwnOrder()
     {
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.recorder.clear();
-        fixture.choose("m_pLineCMB", 1);
+        fixture.choose("m_pLineCMB", "Polyline");
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
-        fixture.choose("m_pLineCMB", 3);
-        for (const char* const name : {"m_pAttributesCB", "m_pFillPB", "m_pPolarityCMB"}) {
-            QVERIFY2(!fixture.find(name).isVisible(), name);
+        fixture.choose("m_pLineCMB", "Slot");
+        for (const QString& name : always) {
+            QVERIFY2(!fixture.find(name).isVisible(), qPrintable(name));
         }
         fixture.click("m_pLineTB");
         for (const QString& name : always + symbolControls) {

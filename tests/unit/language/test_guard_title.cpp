@@ -61,9 +61,7 @@ private Q_SLOTS:
             CanvasHost::uiApiOverrides().getUnitString = [thrown](void*) {
                 return QString::number(fail(Thrown(thrown)));
             };
-            PluginMetaData message("Sibling.dll", "Canvas_Tool_Strip.dll");
-            message.code = MessageCodes::Accepted::UnitChanged;
-            fixture.strip->recMsgFromManager(message);
+            fixture.receive(MessageCodes::Accepted::UnitChanged);
         }
         QCOMPARE(fixture.boxes.takeTexts(), QStringList{title + "|failed"});
     }

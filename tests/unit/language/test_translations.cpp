@@ -69,18 +69,11 @@ QStringList untranslated(const QMap<QString, QString>& texts)
 }
 
 /// Opens a tool's menu and leaves it.
-void openMenu(const DialogFixture& fixture, int tool)
+void openMenu(const DialogFixture& fixture, Tool tool)
 {
     QTimer::singleShot(0, [] { QApplication::activePopupWidget()->close(); });
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
-    QApplication::sendEvent(fixture.strip->itemAt(tool)->widget(), &event);
-}
-
-void changeLanguage(const DialogFixture& fixture)
-{
-    PluginMetaData message("Host.dll", "Canvas_Tool_Strip.dll");
-    message.code = Accepted::LanguageChanged;
-    fixture.strip->recMsgFromManager(message);
+    QApplication::sendEvent(fixture.button(tool), &event);
 }
 
 }  // namespace
@@ -97,16 +90,16 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         connect(fixture.strip, SIGNAL(language_changed()), fixture.dialog, SLOT(change_language()));
-        for (const int tool : {23, 24}) {
+        for (const Tool tool : {Tool::SelectByNet, Tool::Mark}) {
             openMenu(fixture, tool);
         }
-        changeLanguage(fixture);  // "Select By Net" has its capital from now on
+        fixture.receive(Accepted::LanguageChanged);  // "Select By Net" has its capital from now on
         const auto english = textsOf(fixture.window);
         QVERIFY(untranslated(english).size() > 100);
         fixture.recorder.clear();
 
         QCoreApplication::installTranslator(&m_chinese);
-        changeLanguage(fixture);
+        fixture.receive(Accepted::LanguageChanged);
         const QStringList left = untranslated(textsOf(fixture.window));
         QVERIFY2(left == QStringList{"m_pFontLE: standard"} || left.isEmpty(),
                  qPrintable(left.join('\n')));
@@ -120,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(entries.last(), QString("Setting"));  // made before, and never retitled
 
         QCoreApplication::removeTranslator(&m_chinese);
-        changeLanguage(fixture);
+        fixture.receive(Accepted::LanguageChanged);
         QCOMPARE(textsOf(fixture.window), english);
         QVERIFY(fixture.recorder.messages().isEmpty());
     }
@@ -129,7 +122,7 @@ private Q_SLOTS:
     {
         QCoreApplication::installTranslator(&m_chinese);
         DialogFixture fixture;
-        for (const int tool : {5, 23, 24}) {
+        for (const Tool tool : {Tool::DeleteFeature, Tool::SelectByNet, Tool::Mark}) {
             openMenu(fixture, tool);
         }
         for (const QMenu* const menu : fixture.window.findChildren<QMenu*>()) {
@@ -144,10 +137,9 @@ private Q_SLOTS:
     {
         QCoreApplication::installTranslator(&m_chinese);
         DialogFixture fixture;
-        fixture.choose("m_pPadTB");
-        fixture.enter("foo");
-        fixture.find<QLineEdit>("m_pDrilDxLE").setText("100001");
-        fixture.dialog->on_m_pDrilDxLE_editingFinished();
+        fixture.chooseType("m_pPadTB");
+        fixture.enter("m_pSymbolTextLE", "foo");
+        fixture.enter("m_pDrilDxLE", "100001");
         const QStringList boxes = fixture.boxes.takeTexts();
         QCOMPARE(boxes.size(), 2);
         QVERIFY(untranslated({{"symbol", boxes[0]}, {"step", boxes[1]}}).isEmpty());

@@ -1,228 +1,120 @@
 #include "PageCases.h"
 
-#include "PageFixture.h"
-#include "addfeature/AddFeature.h"
+#include "ByHand.h"
+#include "plugin/MessageCodes.h"
 
-#include <QComboBox>
+#include <QLabel>
 #include <QtTest>
 
 #include <algorithm>
 
-Q_DECLARE_METATYPE(PageCases::Case)
-Q_DECLARE_METATYPE(PageCases::GreyedItems)
-Q_DECLARE_METATYPE(PageCases::Refusal)
+namespace Sent = MessageCodes::Sent;
 
 namespace PageCases {
 
-namespace {
-
-/// Tells "5" and 5 apart, which a comparison of two variants does not.
-QString described(const QVariant& value)
+void connected(const QList<Connection>& connections)
 {
-    return QStringLiteral("%1 \"%2\"").arg(QLatin1String(value.typeName()), value.toString());
-}
-
-QStringList described(const QVariantMap& record)
-{
-    QStringList lines;
-    for (auto entry = record.cbegin(); entry != record.cend(); ++entry) {
-        lines.append(entry.key() + ": " + described(entry.value()));
-    }
-    return lines;
-}
-
-QString fieldOf(const QString& step)
-{
-    return step.section(QRegularExpression("[:<=~]"), 0, 0);
-}
-
-/// The fields of the steps with their texts, written as "name~text".
-QStringList texts(const PageFixture& fixture, const QStringList& steps)
-{
-    QStringList texts;
-    for (const QString& step : steps) {
-        texts.append(fieldOf(step) + "~" + fixture.text(fieldOf(step)));
-    }
-    return texts;
-}
-
-void compareBoxes(const QStringList& actual, const QStringList& expected)
-{
-    QCOMPARE(actual.size(), expected.size());
-    for (int i = 0; i < actual.size(); ++i) {
-        if (expected[i] != "*") {
-            QCOMPARE(actual[i], expected[i]);
-        }
-    }
-}
-
-}  // namespace
-
-void addRows(const QList<Case>& cases)
-{
-    QTest::addColumn<Case>("row");
-    for (const Case& row : cases) {
-        const QString name = row.name.isEmpty() ? row.action : row.name;
-        QTest::newRow(qPrintable(name + (row.metric ? ", metric" : ""))) << row;
-    }
-}
-
-void run()
-{
-    QFETCH(Case, row);
-    PageFixture fixture(row.metric);
-    fixture.perform(row.before);
-    fixture.forget();
-    QVariantMap record = fixture.record();
-    fixture.forget();
-
-    fixture.perform(row.action);
-    QCOMPARE(fixture.codes(), row.codes);
-    compareBoxes(fixture.boxes(), row.boxes);
-    if (!row.shown.isNull()) {
-        QCOMPARE(fixture.text(fieldOf(row.action)), row.shown);
-    }
-    for (const QString& state : row.states) {
-        QVERIFY2(fixture.hasState(state), qPrintable("expected: " + state));
-    }
-    // What the row does not name stays as it was.
-    for (auto entry = row.entries.cbegin(); entry != row.entries.cend(); ++entry) {
-        record.insert(entry.key(), entry.value());
-    }
-    compare(fixture.record(), record);
-}
-
-void compare(const QVariantMap& actual, const Entries& expected)
-{
-    const QStringList actualLines = described(actual);
-    const QStringList expectedLines = described(expected);
-    for (int i = 0; i < qMin(actualLines.size(), expectedLines.size()); ++i) {
-        QCOMPARE(actualLines[i], expectedLines[i]);
-    }
-    QCOMPARE(actualLines.size(), expectedLines.size());
-}
-
-void compareStart(const Entries& entries, bool metric)
-{
-    PageFixture fixture(metric);
-    QCOMPARE(fixture.codes(), QList<int>());
-    const QVariantMap record = fixture.record();
-    QVariantMap found;
-    for (const QString& key : entries.keys()) {
-        QVERIFY2(record.contains(key), qPrintable(key));
-        found.insert(key, record[key]);
-    }
-    compare(found, entries);
-}
-
-void compareConnections(const QList<Connection>& connections)
-{
-    PageFixture fixture;
+    const DialogFixture fixture;
     for (const Connection& connection : connections) {
         // Of one that was never made there is nothing to take back.
-        QVERIFY2(QObject::disconnect(fixture.widget(connection.sender), connection.signal,
-                                     &fixture.dialog(), connection.slot),
+        QVERIFY2(QObject::disconnect(&fixture.find(connection.sender), connection.signal,
+                                     fixture.dialog, connection.slot),
                  connection.slot);
     }
 }
 
-QString lengthBox(int bound)
-{
-    return QStringLiteral("Information|The current text box can only enter a value from 0 to%1")
-        .arg(bound);
-}
-
-QString coordinateBox(int bound)
-{
-    return QStringLiteral("Information|The current value out of range:%1 to %2")
-        .arg(-bound)
-        .arg(bound);
-}
-
 namespace {
 
-struct LengthText {
-    int bound;  // 0: for fields of every bound
-    bool metric;
+struct Accepted {
+    Unit unit;
     const char* typed;
-    const char* stored;  // null: refused
+    const char* stored;
 };
-const LengthText lengthTexts[] = {
-    {50000, false, "50000", "1.27e+06"},
-    {50000, false, "49999", "1.26997e+06"},
-    {50000, false, "50000.1", nullptr},
-    {50000, false, "50001", nullptr},
-    {50000, true, "1270000", "1270000"},
-    {50000, true, "1269999", "1269999"},
-    {50000, true, "1270000.1", nullptr},
-    {50000, true, "1270001", nullptr},
-    {10000, false, "10000", "254000"},
-    {10000, false, "9999.5", "253987"},
-    {10000, false, "10000.5", nullptr},
-    {10000, true, "254000", "254000"},
-    {10000, true, "253999.5", "253999.5"},
-    {10000, true, "254001", nullptr},
-    {0, false, "0", "0"},
-    {0, false, "10", "254"},
-    {0, false, "12.5", "317.5"},
-    {0, false, "1e3", "25400"},
-    {0, false, " 10 ", "254"},
-    {0, false, "-0.001", nullptr},
-    {0, false, "-1", nullptr},
-    {0, false, "", nullptr},
-    {0, false, "   ", nullptr},
-    {0, false, "abc", nullptr},
-    {0, false, "1 0", nullptr},
-    {0, false, "1,5", nullptr},
-    {0, false, "nan", nullptr},
-    {0, false, "inf", nullptr},
-    {0, false, "-inf", nullptr},
-    {0, false, "1e400", nullptr},
-    {0, true, "0", "0"},
-    {0, true, "254", "254"},
-    {0, true, "12.50", "12.50"},
-    {0, true, "1e3", "1e3"},
-    {0, true, "-0.001", nullptr},
-    {0, true, "", nullptr},
-    {0, true, "   ", nullptr},
-    {0, true, "abc", nullptr},
-    {0, true, "nan", nullptr},
-    {0, true, "inf", nullptr},
+struct Refused {
+    Unit unit;
+    const char* typed;
 };
 
-Case lengthCase(const LengthField& field, const LengthText& text)
+struct BoundTexts {
+    int bound;
+    QList<Accepted> accepted;
+    QList<Refused> refused;
+};
+
+const BoundTexts boundTexts[] = {
+    {50000,
+     {{Unit::Mil, "50000", "1.27e+06"},
+      {Unit::Mil, "49999", "1.26997e+06"},
+      {Unit::Metric, "1270000", "1270000"},
+      {Unit::Metric, "1269999", "1269999"}},
+     {{Unit::Mil, "50000.1"},
+      {Unit::Mil, "50001"},
+      {Unit::Metric, "1270000.1"},
+      {Unit::Metric, "1270001"}}},
+    {10000,
+     {{Unit::Mil, "10000", "254000"},
+      {Unit::Mil, "9999.5", "253987"},
+      {Unit::Metric, "254000", "254000"},
+      {Unit::Metric, "253999.5", "253999.5"}},
+     {{Unit::Mil, "10000.5"}, {Unit::Metric, "254001"}}},
+};
+
+const Accepted acceptedByAll[] = {
+    {Unit::Mil, "0", "0"},        {Unit::Mil, "10", "254"},         {Unit::Mil, "12.5", "317.5"},
+    {Unit::Mil, "1e3", "25400"},  {Unit::Mil, " 10 ", "254"},       {Unit::Metric, "0", "0"},
+    {Unit::Metric, "254", "254"}, {Unit::Metric, "12.50", "12.50"}, {Unit::Metric, "1e3", "1e3"},
+};
+
+const Refused refusedByAll[] = {
+    {Unit::Mil, "-0.001"}, {Unit::Mil, "-1"},     {Unit::Mil, ""},       {Unit::Mil, "   "},
+    {Unit::Mil, "abc"},    {Unit::Mil, "1 0"},    {Unit::Mil, "1,5"},    {Unit::Mil, "nan"},
+    {Unit::Mil, "inf"},    {Unit::Mil, "-inf"},   {Unit::Mil, "1e400"},  {Unit::Metric, "-0.001"},
+    {Unit::Metric, ""},    {Unit::Metric, "   "}, {Unit::Metric, "abc"}, {Unit::Metric, "nan"},
+    {Unit::Metric, "inf"},
+};
+
+}  // namespace
+
+Case LengthField::accepted(const QString& text, const QString& stored) const
 {
-    Case row;
-    row.name = QStringLiteral("%1 \"%2\"").arg(field.field, QLatin1String(text.typed));
-    row.before = field.before;
-    row.action = field.field + "<" + QLatin1String(text.typed);
-    row.metric = text.metric;
-    if (text.stored) {
-        row.entries = {{field.key, QString(QLatin1String(text.stored))}};
-        row.codes = field.codesWhenAccepted;
-        row.shown = QString(QLatin1String(text.typed));
-    } else {
-        row.entries = {{field.key, QStringLiteral("0")}};
-        row.codes = field.codesWhenRefused;
-        row.shown = QStringLiteral("0");
-        const int metricBound = field.bound / 10 * 254;
-        row.boxes = QStringList(lengthBox(text.metric ? metricBound : field.bound));
+    Case row(QStringLiteral("%1 \"%2\"").arg(m_field, text));
+    row.given(m_reach).when(Enter(m_field, text));
+    row.then(Expect::record(m_key, stored), Expect::text(m_field, text));
+    if (m_sends != Sends::Never) {
+        row.then(Expect::sent(Sent::Record));
     }
     return row;
 }
 
-}  // namespace
-
-QList<Case> lengthCases(const QList<LengthField>& fields)
+Case LengthField::refused(const QString& text, Unit unit) const
 {
-    QList<Case> cases;
-    for (const LengthField& field : fields) {
-        for (const LengthText& text : lengthTexts) {
-            if (text.bound == 0 || text.bound == field.bound) {
-                cases.append(lengthCase(field, text));
-            }
+    Case row(QStringLiteral("%1 \"%2\"").arg(m_field, text));
+    row.given(m_reach).when(Enter(m_field, text));
+    row.then(Expect::record(m_key, "0"), Expect::text(m_field, "0"),
+             Expect::lengthBox(unit == Unit::Metric ? m_bound / 10 * 254 : m_bound));
+    if (m_sends == Sends::Always) {
+        row.then(Expect::sent(Sent::Record));
+    }
+    return row;
+}
+
+Cases LengthField::cases() const
+{
+    Cases cases;
+    const auto add = [&](const auto& acceptedTexts, const auto& refusedTexts) {
+        for (const Accepted& text : acceptedTexts) {
+            cases.append(accepted(text.typed, text.stored).in(text.unit));
+        }
+        for (const Refused& text : refusedTexts) {
+            cases.append(refused(text.typed, text.unit).in(text.unit));
+        }
+    };
+    for (const BoundTexts& texts : boundTexts) {
+        if (texts.bound == m_bound) {
+            add(texts.accepted, texts.refused);
         }
     }
+    add(acceptedByAll, refusedByAll);
     return cases;
 }
 
@@ -230,55 +122,70 @@ void addGreyedRows(const QList<GreyedItems>& rows)
 {
     QTest::addColumn<GreyedItems>("row");
     for (const GreyedItems& row : rows) {
-        QTest::newRow(qPrintable(row.combo)) << row;
+        QTest::newRow(qPrintable(row.combo())) << row;
     }
 }
 
 void tryToReachGreyedItem()
 {
     QFETCH(GreyedItems, row);
-    PageFixture fixture;
-    fixture.perform(row.before);
-    const auto choose = [&](int item) {
-        fixture.perform(QStringLiteral("%1=%2").arg(row.combo).arg(item));
-    };
+    row.tryToReach();
+}
 
-    // The ways lead to the last free item: they work, and they end there.
-    fixture.press(row.combo, Qt::Key_Down, 10);
-    QCOMPARE(fixture.index(row.combo), row.lastFree);
-    for (const int key : {Qt::Key_End, Qt::Key_PageDown, Qt::Key_Right}) {
-        choose(0);
-        fixture.press(row.combo, key, 10);
-        QVERIFY2(fixture.index(row.combo) <= row.lastFree, qPrintable(QString::number(key)));
+void GreyedItems::tryToReach() const
+{
+    const DialogFixture fixture;
+    fixture.perform(m_reach);
+    auto& combo = fixture.find<QComboBox>(m_combo);
+    QCOMPARE(itemTexts(combo), m_free + m_greyed);
+    reachTheLastFreeOne(combo);
+    for (const QString& item : m_greyed) {
+        tryToReach(combo, item);
     }
-    choose(0);
-    fixture.turnWheel(row.combo, 10);
-    QCOMPARE(fixture.index(row.combo), row.lastFree);
-    choose(0);
-    fixture.chooseByMouse(row.combo, row.lastFree);
-    QCOMPARE(fixture.index(row.combo), row.lastFree);
+    QCOMPARE(itemTexts(combo), m_free + m_greyed);
+}
 
-    for (int item = row.lastFree + 1; item < row.count; ++item) {
-        choose(0);
-        fixture.chooseByMouse(row.combo, item);
-        QCOMPARE(fixture.index(row.combo), 0);
-        fixture.chooseInList(row.combo, item);
-        QVERIFY(fixture.index(row.combo) <= row.lastFree);
-        fixture.chooseByTypingAhead(row.combo, item);
-        QVERIFY(fixture.index(row.combo) <= row.lastFree);
-        choose(item);
-        QCOMPARE(fixture.index(row.combo), item);
+/// The ways lead to the last free item: they work, and they end there.
+void GreyedItems::reachTheLastFreeOne(QComboBox& combo) const
+{
+    const QString last = m_free.last();
+    const auto start = [&] { combo.setCurrentText(m_free.first()); };
+    ByHand::press(combo, Qt::Key_Down, 10);
+    QCOMPARE(combo.currentText(), last);
+    for (const Qt::Key key : {Qt::Key_End, Qt::Key_PageDown, Qt::Key_Right}) {
+        start();
+        ByHand::press(combo, key, 10);
+        QVERIFY2(m_free.contains(combo.currentText()), qPrintable(combo.currentText()));
     }
-    QCOMPARE(fixture.find<QComboBox>(row.combo).count(), row.count);
+    start();
+    ByHand::turnWheel(combo, 10);
+    QCOMPARE(combo.currentText(), last);
+    start();
+    ByHand::click(combo, last);
+    QCOMPARE(combo.currentText(), last);
+}
+
+void GreyedItems::tryToReach(QComboBox& combo, const QString& item) const
+{
+    combo.setCurrentText(m_free.first());
+    ByHand::click(combo, item);
+    QCOMPARE(combo.currentText(), m_free.first());
+    ByHand::goDown(combo, item);
+    QVERIFY2(m_free.contains(combo.currentText()), qPrintable(item));
+    ByHand::typeAhead(combo, item);
+    QVERIFY2(m_free.contains(combo.currentText()), qPrintable(item));
+    combo.setCurrentText(item);  // a program may
+    QCOMPARE(combo.currentText(), item);
 }
 
 void addRefusalRows(const QList<Refusal>& rows)
 {
     QTest::addColumn<Refusal>("row");
-    QTest::addColumn<QString>("way");
+    QTest::addColumn<By>("way");
     for (const Refusal& row : rows) {
-        for (const char* way : {"Enter", "Tab", "mouse"}) {
-            QTest::addRow("%s, %s", qPrintable(row.field), way) << row << QString(way);
+        for (const auto& [name, way] : {std::pair("Enter", By::Enter), std::pair("Tab", By::Tab),
+                                        std::pair("mouse", By::Mouse)}) {
+            QTest::addRow("%s, %s", qPrintable(row.field()), name) << row << way;
         }
     }
 }
@@ -286,67 +193,131 @@ void addRefusalRows(const QList<Refusal>& rows)
 void refuseOnce()
 {
     QFETCH(Refusal, row);
-    QFETCH(QString, way);
-    PageFixture fixture;
-    fixture.perform(row.before);
-    fixture.forget();
-
-    fixture.type(row.field, row.typed);
-    fixture.leave(row.field, way, row.neighbour);
-    QCOMPARE(fixture.boxes().size(), 1);
-    QCOMPARE(fixture.text(row.field), row.shown);
+    QFETCH(By, way);
+    row.happensOnce(way);
 }
 
-void switchUnitTenTimes(const QStringList& before, const QStringList& fields,
-                        const QStringList& units)
+void Refusal::happensOnce(By way) const
 {
-    PageFixture fixture;
+    DialogFixture fixture;
+    fixture.perform(m_reach);
+    fixture.boxes.take();
+
+    fixture.type(m_field, m_typed);
+    if (way == By::Mouse) {
+        fixture.click(m_neighbour);
+        fixture.find(m_neighbour).setFocus(Qt::MouseFocusReason);
+    } else {
+        fixture.leave(way);
+    }
+    QCOMPARE(fixture.boxes.take().size(), 1);
+    QCOMPARE(fixture.text(m_field), m_shown);
+}
+
+void switchUnitTenTimes(const Steps& before, const QList<FieldText>& fields,
+                        const QList<UnitLabel>& labels)
+{
+    DialogFixture fixture;
     fixture.perform(before);
-    fixture.perform(fields);
-    fixture.forget();
-    const QStringList record = described(fixture.record());
-    fixture.forget();
+    for (const FieldText& field : fields) {
+        SetText(field.field, field.text).act(fixture);
+    }
+    const QVariantMap record = fixture.record();
+    fixture.recorder.clear();
+    fixture.boxes.take();
+    const auto shown = [&] {
+        QStringList texts;
+        for (const FieldText& field : fields) {
+            texts.append(fixture.text(field.field));
+        }
+        return texts;
+    };
 
     for (int i = 0; i < 10; ++i) {
-        const bool metric = i % 2 == 0;
-        fixture.changeUnit(metric);
-        const QStringList once = texts(fixture, fields);
+        const Unit unit = i % 2 == 0 ? Unit::Metric : Unit::Mil;
+        fixture.setUnit(unit);
+        const QStringList once = shown();
         // A notice that repeats the unit converts nothing.
-        fixture.changeUnit(metric);
-        QCOMPARE(texts(fixture, fields), once);
+        fixture.setUnit(unit);
+        QCOMPARE(shown(), once);
         for (int field = 0; field < fields.size(); ++field) {
-            QVERIFY2((once[field] == fields[field]) != metric, qPrintable(once[field]));
+            const bool isFirst = once[field] == fields[field].text;
+            QVERIFY2(isFirst == (unit == Unit::Mil), qPrintable(fields[field].field));
         }
-        for (const QString& unit : units) {
-            const QString name = unit.section('=', 0, 0);
-            QCOMPARE(name + "=" + fixture.labelText(name),
-                     name + "=" + unit.section('=', 1).section('|', metric, metric));
+        for (const UnitLabel& label : labels) {
+            QCOMPARE(fixture.find<QLabel>(label.label).text(),
+                     unit == Unit::Metric ? label.metric : label.mil);
         }
     }
-    QCOMPARE(fixture.codes(), QList<int>());
-    QCOMPARE(described(fixture.record()), record);
-    QCOMPARE(fixture.boxes(), QStringList());
+    QCOMPARE(fixture.recorder.codes(), QVector<int>());
+    Expect::sameRecord(fixture.record(), record);
+    QCOMPARE(fixture.boxes.takeTexts(), QStringList());
 }
 
-void retranslate(const QString& page, const QStringList& before)
-{
-    PageFixture fixture;
-    fixture.perform(before);
-    fixture.forget();
-    const QStringList record = described(fixture.record());
-    const QList<int> indices = fixture.indices(page);
-    const QStringList greyed = fixture.greyedItems(page);
-    QStringList texts = fixture.visibleTexts(page);
-    QVERIFY(!texts.isEmpty());
-    fixture.forget();
+namespace {
 
-    fixture.changeLanguage();
-    QCOMPARE(fixture.codes(), QList<int>());
-    QCOMPARE(described(fixture.record()), record);
-    QCOMPARE(fixture.indices(page), indices);
-    QCOMPARE(fixture.greyedItems(page), greyed);
-    std::transform(texts.begin(), texts.end(), texts.begin(), PageFixture::translated);
-    QCOMPARE(fixture.visibleTexts(page), texts);
+QList<int> indices(const DialogFixture& fixture, const QString& page)
+{
+    QList<int> indices;
+    for (const QComboBox* const combo : fixture.find(page).findChildren<QComboBox*>()) {
+        indices.append(combo->currentIndex());
+    }
+    return indices;
+}
+
+}  // namespace
+
+QStringList greyedItems(const DialogFixture& fixture, const QString& page)
+{
+    constexpr int greyRole = Qt::UserRole - 1;
+    QStringList greyed;
+    for (const QComboBox* const combo : fixture.find(page).findChildren<QComboBox*>()) {
+        for (int item = 0; item < combo->count(); ++item) {
+            if (combo->itemData(item, greyRole) == QVariant(0)) {
+                greyed.append(combo->objectName() + ": " + combo->itemText(item));
+            }
+        }
+    }
+    return greyed;
+}
+
+QStringList visibleTexts(const DialogFixture& fixture, const QString& page)
+{
+    QStringList texts;
+    for (const QWidget* const child : fixture.find(page).findChildren<QWidget*>()) {
+        if (const auto* const label = qobject_cast<const QLabel*>(child)) {
+            texts.append(label->text());
+        } else if (const auto* const button = qobject_cast<const QAbstractButton*>(child)) {
+            texts.append(button->text());
+        } else if (const auto* const combo = qobject_cast<const QComboBox*>(child)) {
+            texts.append(itemTexts(*combo));
+        }
+    }
+    texts.removeAll(QString());
+    return texts;
+}
+
+void retranslate(const QString& page, const Steps& before)
+{
+    DialogFixture fixture;
+    fixture.perform(before);
+    const QVariantMap record = fixture.record();
+    const QList<int> chosen = indices(fixture, page);
+    const QStringList greyed = greyedItems(fixture, page);
+    const QStringList texts = visibleTexts(fixture, page);
+    QVERIFY(!texts.isEmpty());
+    fixture.recorder.clear();
+
+    const QuotingTranslator language("AddFeature");
+    fixture.dialog->change_language();
+    QCOMPARE(fixture.recorder.codes(), QVector<int>());
+    Expect::sameRecord(fixture.record(), record);
+    QCOMPARE(indices(fixture, page), chosen);
+    QCOMPARE(greyedItems(fixture, page), QStringList(greyed)
+                                             .replaceInStrings(": ", ": <")
+                                             .replaceInStrings(QRegularExpression("$"), ">"));
+    QCOMPARE(visibleTexts(fixture, page),
+             QStringList(texts).replaceInStrings(QRegularExpression("\\A(.*)\\z"), "<\\1>"));
 }
 
 }  // namespace PageCases

@@ -1,45 +1,10 @@
 #pragma once
 
-#include <QList>
-#include <QString>
-#include <QStringList>
-#include <QVariant>
+#include "Case.h"
+#include "addfeature/fields/Field.h"
 
-/// The tables of the pages: what the user does, and what the canvas then gets.
+/// What several pages have in common: fields for lengths, greyed items, refusals, units, languages.
 namespace PageCases {
-
-/// Record entries that are expected, each with its type.
-using Entries = QVariantMap;
-
-/// One row. Steps are written as
-///   "name"        click the button or check box of that object name
-///   "name=2"      set the combo box's index from code
-///   "name:text"   replace the field's text by typing, then press Enter
-///   "name~text"   set the field's text from code
-///   "name<text"   set the field's text from code, then call its slot
-/// and states as "shown name", "hidden name", "enabled name", "disabled name", "checked name".
-struct Case {
-    QString name;
-    QStringList before;
-    QString action;
-    Entries entries;
-    QList<int> codes = {};
-    QStringList states = {};
-    QString shown = {};      ///< the field's text afterwards; null: not looked at
-    QStringList boxes = {};  ///< "title|text"; "*" for a box of the host's
-    bool metric = false;
-};
-
-/// Adds the columns and rows; `run` takes the row that is current. Entries that the row does not
-/// name must stay as they were.
-void addRows(const QList<Case>& cases);
-void run();
-
-/// Fails where a key is missing or too much, or a value or its type is another one.
-void compare(const QVariantMap& actual, const Entries& expected);
-
-/// The entries that a new dialog's record holds; building it sends nothing.
-void compareStart(const Entries& entries, bool metric = false);
 
 /// A connection made by name, with the signatures as SIGNAL() and SLOT() write them.
 struct Connection {
@@ -47,53 +12,101 @@ struct Connection {
     const char* signal;
     const char* slot;
 };
-void compareConnections(const QList<Connection>& connections);
+void connected(const QList<Connection>& connections);
 
-/// A field for a length: its bound is 50000 or 10000 mil.
-struct LengthField {
-    QString field;
-    QString key;
-    QStringList before;
-    int bound;
-    QList<int> codesWhenAccepted;
-    QList<int> codesWhenRefused;
+/// A field for a length.
+class LengthField {
+public:
+    LengthField(const QString& field, const QString& key) : m_field(field), m_key(key) {}
+    LengthField& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
+    /// The bound in mil: 50000 or 10000.
+    LengthField& upTo(int mil) { return m_bound = mil, *this; }
+    LengthField& sends(Sends sends) { return m_sends = sends, *this; }
+
+    /// At, inside and outside its bounds, and texts that are no number; in both units.
+    Cases cases() const;
+
+private:
+    Case accepted(const QString& text, const QString& stored) const;
+    Case refused(const QString& text, Unit unit) const;
+
+    QString m_field;
+    QString m_key;
+    Steps m_reach;
+    int m_bound = 0;
+    Sends m_sends = Sends::Never;
 };
-/// Rows for each field: at, inside and outside its bounds, and texts that are no number; in both
-/// units.
-QList<Case> lengthCases(const QList<LengthField>& fields);
 
-/// The text of the box that refuses a length, and of the one that refuses a coordinate.
-QString lengthBox(int bound);
-QString coordinateBox(int bound);
+/// A combo box with items that only a program may choose.
+class GreyedItems {
+public:
+    explicit GreyedItems(const QString& combo = {}) : m_combo(combo) {}
+    GreyedItems& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
+    /// All items, those that are free in front.
+    GreyedItems& free(const QStringList& items) { return m_free = items, *this; }
+    GreyedItems& greyed(const QStringList& items) { return m_greyed = items, *this; }
 
-/// Tries to reach a greyed item by mouse, keyboard, wheel and typing ahead.
-struct GreyedItems {
-    QString combo;
-    QStringList before;
-    int lastFree;  ///< those after it are greyed
-    int count;
+    QString combo() const { return m_combo; }
+    /// Tries to reach the greyed ones by mouse, keyboard, wheel and typing ahead.
+    void tryToReach() const;
+
+private:
+    void reachTheLastFreeOne(QComboBox& combo) const;
+    void tryToReach(QComboBox& combo, const QString& item) const;
+
+    QString m_combo;
+    Steps m_reach;
+    QStringList m_free;
+    QStringList m_greyed;
 };
 void addGreyedRows(const QList<GreyedItems>& rows);
 void tryToReachGreyedItem();
 
-/// A refusal leads to one box whichever way the field is left.
-struct Refusal {
-    QString field;
-    QStringList before;
-    QString typed;
-    QString shown;
-    QString neighbour;  ///< a control to click on
+/// An entry that is refused in one box, whichever way the field is left.
+class Refusal {
+public:
+    explicit Refusal(const QString& field = {}) : m_field(field) {}
+    Refusal& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
+    Refusal& of(const QString& typed) { return m_typed = typed, *this; }
+    Refusal& leaves(const QString& shown) { return m_shown = shown, *this; }
+    /// What the mouse goes to.
+    Refusal& beside(const QString& neighbour) { return m_neighbour = neighbour, *this; }
+
+    QString field() const { return m_field; }
+    void happensOnce(By way) const;
+
+private:
+    QString m_field;
+    Steps m_reach;
+    QString m_typed;
+    QString m_shown;
+    QString m_neighbour;
 };
 void addRefusalRows(const QList<Refusal>& rows);
 void refuseOnce();
 
+struct FieldText {
+    QString field;
+    QString text;
+};
+struct UnitLabel {
+    QString label;
+    QString mil;
+    QString metric;
+};
 /// The texts of the fields, switched ten times, are the same again; nothing is sent or stored.
-/// `fields` are steps "name~text", `units` the labels "name=mil|my".
-void switchUnitTenTimes(const QStringList& before, const QStringList& fields,
-                        const QStringList& units);
+void switchUnitTenTimes(const Steps& before, const QList<FieldText>& fields,
+                        const QList<UnitLabel>& labels);
 
 /// In another language every text of `page` is another one, and no index, item state, entry of the
 /// record or message has changed.
-void retranslate(const QString& page, const QStringList& before);
+void retranslate(const QString& page, const Steps& before);
+
+/// Each greyed item below the page, as "combo: item".
+QStringList greyedItems(const DialogFixture& fixture, const QString& page);
+/// What labels, buttons and lists below the page show.
+QStringList visibleTexts(const DialogFixture& fixture, const QString& page);
 
 }  // namespace PageCases
+Q_DECLARE_METATYPE(PageCases::GreyedItems)
+Q_DECLARE_METATYPE(PageCases::Refusal)

@@ -1,6 +1,8 @@
 // Fonts and special texts: the lists of the job, and the windows that they are chosen from.
 
+#include "DemoJobs.h"
 #include "DialogFixture.h"
+#include "Expect.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
@@ -36,23 +38,6 @@ QStringList namesIn(const QWidget& popup, const char* listName)
     return names;
 }
 
-void addOtherJob()
-{
-    CanvasHost::Job job;
-    job.name = "other";
-    job.steps = {"step"};
-    job.fonts = {"wide"};
-    job.specialTexts = {"LAYER"};
-    CanvasHost::addJob(job);
-}
-
-/// Text as such: a comparison of variants takes a number for the text of its digits.
-QString sentText(const DialogFixture& fixture, const QString& key)
-{
-    const QVariant value = fixture.recorder.last(Sent::Record).message.payload.value(key);
-    return value.type() == QVariant::String ? value.toString() : QString("no text");
-}
-
 }  // namespace
 
 class TestFontsAndSpecialTextsPage : public QObject {
@@ -61,14 +46,10 @@ class TestFontsAndSpecialTextsPage : public QObject {
 private Q_SLOTS:
     void withoutAStandardFont()
     {
-        CanvasHost::clearJobs();
-        CanvasHost::Job job;
-        job.name = "job";
-        job.fonts = {"simple"};
-        CanvasHost::addJob(job);
+        openDemoJobs();
         QWidget window;
         Recorder recorder;
-        AddFeature dialog(&window, "job", "step", &window);
+        AddFeature dialog(&window, "other", "step", &window);
         dialog.getChangeCurrentTool();
         QCOMPARE(findNamed<QLineEdit>(dialog, "m_pFontLE").text(), QString());
         QCOMPARE(recorder.last(Sent::Record).message.payload.value(RecordKeys::stringTextFont),
@@ -84,22 +65,20 @@ private Q_SLOTS:
             ++fetched;
             names = {job};
         };
-        auto& font = fixture.find<QLineEdit>("m_pFontLE");
-        font.setText("job");
-        fixture.dialog->on_m_pFontLE_editingFinished();
+        fixture.enter("m_pFontLE", "job");
         QCOMPARE(fetched, 1);
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         fixture.dialog->set_job_info("other", "step");
         fixture.dialog->on_m_pFontLE_editingFinished();
         QCOMPARE(fetched, 2);
-        QCOMPARE(font.text(), QString());
+        QCOMPARE(fixture.text("m_pFontLE"), QString());
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
     }
 
     void fontPopup()
     {
         DialogFixture fixture;
-        fixture.choose("m_pTextTB");
+        fixture.chooseType("m_pTextTB");
         fixture.click("m_pFontPB");
         QPointer<Widget_listpopup> first = fixture.window.findChild<Widget_listpopup*>();
         QVERIFY(first && first->isVisible());
@@ -109,11 +88,9 @@ private Q_SLOTS:
         const auto popups = fixture.window.findChildren<Widget_listpopup*>();
         QCOMPARE(popups.size(), 1);
         emit popups[0]->on_send_Font("simple");
-        QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("simple"));
+        QCOMPARE(fixture.text("m_pFontLE"), QString("simple"));
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        QCOMPARE(
-            fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::stringTextFont),
-            QVariant(QString("simple")));
+        Expect::holds(fixture, {Expect::record(RecordKeys::stringTextFont, "simple")});
         fixture.dialog->close();
         QVERIFY(!popups[0]->isVisible());
     }
@@ -121,7 +98,7 @@ private Q_SLOTS:
     void fontPopupThatSomeoneElseDeletes()
     {
         DialogFixture fixture;
-        fixture.choose("m_pTextTB");
+        fixture.chooseType("m_pTextTB");
         fixture.click("m_pFontPB");
         delete fixture.window.findChild<Widget_listpopup*>();
         fixture.click("m_pFontPB");
@@ -133,7 +110,7 @@ private Q_SLOTS:
         QPointer<QWidget> popup;
         {
             DialogFixture fixture;
-            fixture.choose("m_pTextTB");
+            fixture.chooseType("m_pTextTB");
             fixture.click("m_pTextPB");
             QCOMPARE(openWindows().size(), 1);
             popup = openWindows().at(0);
@@ -149,11 +126,9 @@ private Q_SLOTS:
             auto& list = findNamed<QListWidget>(*popup, "m_pTextLW");
             list.setCurrentRow(1);
             QTest::mouseClick(&findNamed(*popup, "m_pOkPB"), Qt::LeftButton);
-            QCOMPARE(fixture.find<QLineEdit>("m_pTextLE").text(), QString("$$DATE"));
+            QCOMPARE(fixture.text("m_pTextLE"), QString("$$DATE"));
             QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-            QCOMPARE(
-                fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::textContains),
-                QVariant(QString("$$DATE")));
+            Expect::holds(fixture, {Expect::record(RecordKeys::textContains, "$$DATE")});
             fixture.dialog->close();
             QVERIFY(!popup->isVisible());
         }
@@ -164,15 +139,15 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.dialog->get_Special_TEXT(QString::fromUtf8("\u65e5\u671f|"));
-        QCOMPARE(
-            fixture.recorder.last(Sent::Record).message.payload.value(RecordKeys::textContains),
-            QVariant(QString::fromUtf8("$$\u65e5\u671f|")));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture,
+                      {Expect::record(RecordKeys::textContains, QString::fromUtf8("$$\u65e5\u671f|"))});
     }
 
     void theOtherTextSlotDoesNothing()
     {
         DialogFixture fixture;
-        fixture.choose("m_pTextTB");
+        fixture.chooseType("m_pTextTB");
         fixture.dialog->on_m_pTextPB_clicked();
         QVERIFY(fixture.recorder.messages().isEmpty());
         QVERIFY(openWindows().isEmpty());
@@ -184,8 +159,7 @@ private Q_SLOTS:
     void aFreshFontListForEachClick()
     {
         DialogFixture fixture;
-        addOtherJob();
-        fixture.choose("m_pTextTB");
+        fixture.chooseType("m_pTextTB");
         fixture.click("m_pFontPB");
         QCOMPARE(namesIn(*openWindows().at(0), "m_pFontLW"), (QStringList{"simple", "standard"}));
         fixture.dialog->set_job_info("other", "step");
@@ -193,40 +167,37 @@ private Q_SLOTS:
         QCOMPARE(openWindows().size(), 1);
         QCOMPARE(namesIn(*openWindows().at(0), "m_pFontLW"), QStringList("wide"));
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("standard"));
+        QCOMPARE(fixture.text("m_pFontLE"), QString("standard"));
     }
 
     /// A font is taken as it is named, of the job or not.
     void aChosenFontIsNotLookedUp()
     {
         DialogFixture fixture;
-        fixture.choose("m_pTextTB");
+        fixture.chooseType("m_pTextTB");
         fixture.dialog->get_font_name("fancy");
-        QCOMPARE(fixture.find<QLineEdit>("m_pFontLE").text(), QString("fancy"));
+        QCOMPARE(fixture.text("m_pFontLE"), QString("fancy"));
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        QCOMPARE(sentText(fixture, RecordKeys::stringTextFont), QString("fancy"));
+        Expect::holds(fixture, {Expect::record(RecordKeys::stringTextFont, "fancy")});
     }
 
     /// The field is read-only, but Enter finishes its editing all the same.
     void enterInTheFontField()
     {
         DialogFixture fixture;
-        addOtherJob();
-        fixture.choose("m_pTextTB");
-        auto& font = fixture.find<QLineEdit>("m_pFontLE");
-        font.setFocus();
-        QTest::keyClicks(&font, "x");
-        QTest::keyClick(&font, Qt::Key_Return);
-        QCOMPARE(font.text(), QString("standard"));
+        fixture.chooseType("m_pTextTB");
+        fixture.focus("m_pFontLE");
+        fixture.press(Qt::Key_X);
+        fixture.leave(By::Enter);
+        QCOMPARE(fixture.text("m_pFontLE"), QString("standard"));
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
 
         fixture.recorder.clear();
         fixture.dialog->set_job_info("other", "step");
-        QTest::keyClick(&font, Qt::Key_Return);
-        QCOMPARE(font.text(), QString());
+        fixture.leave(By::Enter);
+        QCOMPARE(fixture.text("m_pFontLE"), QString());
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.record().value(RecordKeys::stringTextFont).toString(),
-                 QString("standard"));
+        Expect::holds(fixture, {Expect::record(RecordKeys::stringTextFont, "standard")});
         QVERIFY(fixture.boxes.take().isEmpty());
     }
 
@@ -234,8 +205,7 @@ private Q_SLOTS:
     void oneSpecialTextListForGood()
     {
         DialogFixture fixture;
-        addOtherJob();
-        fixture.choose("m_pTextTB");
+        fixture.chooseType("m_pTextTB");
         fixture.click("m_pTextPB");
         const QStringList names = {"JOB", "DATE"};
         QCOMPARE(namesIn(*openWindows().at(0), "m_pTextLW"), names);
@@ -249,20 +219,21 @@ private Q_SLOTS:
     void aSpecialTextTakesThePlaceOfWhatWasThere()
     {
         DialogFixture fixture;
-        fixture.choose("m_pTextTB");
+        fixture.chooseType("m_pTextTB");
         for (const char* const name : {"abc", "", "$$x"}) {
             fixture.recorder.clear();
             fixture.dialog->get_Special_TEXT(name);
-            QCOMPARE(fixture.find<QLineEdit>("m_pTextLE").text(), QString("$$") + name);
+            QCOMPARE(fixture.text("m_pTextLE"), QString("$$") + name);
             QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-            QCOMPARE(sentText(fixture, RecordKeys::textContains), QString("$$") + name);
+            Expect::holds(fixture,
+                          {Expect::record(RecordKeys::textContains, QString("$$") + name)});
         }
     }
 
     void bothWindowsBesideEachOther()
     {
         DialogFixture fixture;
-        fixture.choose("m_pTextTB");
+        fixture.chooseType("m_pTextTB");
         fixture.click("m_pTextPB");
         fixture.click("m_pFontPB");
         fixture.click("m_pFontPB");

@@ -2,186 +2,210 @@
 
 #include "Main.h"
 #include "PageCases.h"
-#include "PageFixture.h"
-
-#include "addfeature/AddFeature.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
-#include <QAbstractButton>
 #include <QButtonGroup>
-#include <QComboBox>
-#include <QLineEdit>
+#include <QLabel>
 #include <QRadioButton>
 
 namespace Sent = MessageCodes::Sent;
 
-using PageCases::Case;
-
 namespace {
 
-const QList<int> attributesAndRecord = {Sent::AttributeMap, Sent::Record};
-const QStringList rectangle = {"m_pLineCMB=2"};
-const QStringList roundCorner = {"m_pLineCMB=2", "m_pCornerTypeCMB=1"};
-const QStringList slot = {"m_pLineCMB=3"};
-const QStringList fixedAngle = {"m_pFixedAngleRB"};
+const Steps polyline = {Choose("m_pLineCMB", "Polyline")};
+const Steps rectangle = {Choose("m_pLineCMB", "Rectangle")};
+const Steps roundCorner = rectangle + Choose("m_pCornerTypeCMB", "Round");
+const Steps slot = {Choose("m_pLineCMB", "Slot")};
+const Steps fixedAngle = {Click("m_pFixedAngleRB")};
 
-QString text(const char* value)
+const Expect::Expectations commonRows = {
+    Expect::shown("m_pAttributesCB"),  Expect::shown("m_pValuesPB"),
+    Expect::shown("m_pFillPB"),        Expect::shown("m_pPolarityCMB"),
+    Expect::shown("m_pSymbolTextLE"),  Expect::hidden("m_pMirrorCMB"),
+    Expect::hidden("m_pAngleValueSB"),
+};
+const Expect::Expectations noAttributeRows = {
+    Expect::hidden("m_pAttributesCB"), Expect::hidden("m_pValuesPB"),
+    Expect::hidden("m_pFillPB"),       Expect::hidden("m_pPolarityCMB"),
+    Expect::hidden("m_pMirrorCMB"),    Expect::hidden("m_pAngleValueSB"),
+    Expect::shown("m_pSymbolTextLE"),
+};
+
+/// Of the three groups the one.
+Expect::Expectations onlyGroup(const QString& shown)
 {
-    return QString::fromLatin1(value);
+    Expect::Expectations expected;
+    for (const QString& group :
+         QStringList{"m_pDirectionGroup", "m_pCornerGroup", "m_pSlotGroup"}) {
+        expected.append(group == shown ? Expect::shown(group) : Expect::hidden(group));
+    }
+    return expected;
 }
 
-Case kind(int index, const char* value, const QStringList& states)
+const Expect::Expectation attributesAndRecord = Expect::sent(Sent::AttributeMap, Sent::Record);
+
+/// From another kind, with everything in sight that a kind may hide.
+Case kind(const QString& item, const QString& value)
 {
-    Case row;
-    row.name = QStringLiteral("kind %1").arg(index);
-    // From another kind, with everything in sight that a kind may hide.
-    row.before = QStringList{"m_pAttributesCB", index == 0 ? "m_pLineCMB=1" : "m_pLineCMB=0"};
-    row.action = QStringLiteral("m_pLineCMB=%1").arg(index);
-    row.entries = {{RecordKeys::line, text(value)}};
-    row.codes = attributesAndRecord;
-    row.states = states;
-    return row;
+    const QString other = item == "Single Line" ? "Polyline" : "Single Line";
+    return Case("kind " + item)
+        .given({Click("m_pAttributesCB"), Choose("m_pLineCMB", other)})
+        .when(Choose("m_pLineCMB", item))
+        .then(Expect::record(RecordKeys::line, value), attributesAndRecord);
 }
 
-const QStringList common = {"shown m_pAttributesCB", "shown m_pValuesPB",     "shown m_pFillPB",
-                            "shown m_pPolarityCMB",  "shown m_pSymbolTextLE", "hidden m_pMirrorCMB",
-                            "hidden m_pAngleValueSB"};
-
-QList<Case> kinds()
+Cases kinds()
 {
-    const QStringList directions = {"shown m_pDirectionGroup", "hidden m_pCornerGroup",
-                                    "hidden m_pSlotGroup"};
     return {
-        kind(0, "1", common + directions + QStringList("disabled m_pClosedCB")),
-        kind(1, "2", common + directions + QStringList("enabled m_pClosedCB")),
-        kind(2, "3",
-             common + QStringList{"hidden m_pDirectionGroup", "shown m_pCornerGroup",
-                                  "hidden m_pSlotGroup", "disabled m_pClosedCB"}),
-        kind(3, "4",
-             {"hidden m_pAttributesCB", "hidden m_pValuesPB", "hidden m_pFillPB",
-              "hidden m_pPolarityCMB", "hidden m_pMirrorCMB", "hidden m_pAngleValueSB",
-              "shown m_pSymbolTextLE", "hidden m_pDirectionGroup", "hidden m_pCornerGroup",
-              "shown m_pSlotGroup", "disabled m_pClosedCB"}),
-        {"while pads are chosen",
-         {"m_pPadTB"},
-         "m_pLineCMB=1",
-         {{RecordKeys::line, LineKind::polyline}},
-         attributesAndRecord,
-         {"hidden m_pMirrorCMB", "hidden m_pAngleValueSB"}},
-        {"no kind",
-         {"m_pLineCMB=1"},
-         "m_pLineCMB=-1",
-         {{RecordKeys::line, LineKind::polyline}},
-         attributesAndRecord,
-         {"enabled m_pClosedCB", "shown m_pDirectionGroup"}},
-        {"slot and back",
-         {"m_pAttributesCB", "m_pLineCMB=3"},
-         "m_pLineCMB=0",
-         {{RecordKeys::line, LineKind::single}},
-         attributesAndRecord,
-         common},
+        kind("Single Line", LineKind::single)
+            .then(commonRows, onlyGroup("m_pDirectionGroup"), Expect::disabled("m_pClosedCB")),
+        kind("Polyline", LineKind::polyline)
+            .then(commonRows, onlyGroup("m_pDirectionGroup"), Expect::enabled("m_pClosedCB")),
+        kind("Rectangle", LineKind::rectangle)
+            .then(commonRows, onlyGroup("m_pCornerGroup"), Expect::disabled("m_pClosedCB")),
+        kind("Slot", LineKind::slot)
+            .then(noAttributeRows, onlyGroup("m_pSlotGroup"), Expect::disabled("m_pClosedCB")),
+        Case("while pads are chosen")
+            .given({Click("m_pPadTB")})
+            .when(Choose("m_pLineCMB", "Polyline"))
+            .then(Expect::record(RecordKeys::line, LineKind::polyline), attributesAndRecord,
+                  Expect::hidden("m_pMirrorCMB"), Expect::hidden("m_pAngleValueSB")),
+        Case("no kind")
+            .given(polyline)
+            .when(ChooseNothing("m_pLineCMB"))
+            .then(Expect::record(RecordKeys::line, LineKind::polyline), attributesAndRecord,
+                  Expect::enabled("m_pClosedCB"), Expect::shown("m_pDirectionGroup")),
+        Case("slot and back")
+            .given(Steps{Click("m_pAttributesCB")} + slot)
+            .when(Choose("m_pLineCMB", "Single Line"))
+            .then(Expect::record(RecordKeys::line, LineKind::single), attributesAndRecord,
+                  commonRows),
     };
 }
 
-QList<Case> directionRows()
+Cases directions()
 {
-    const char* const buttons[] = {"m_pFreeDirectionRB",   "m_pVerticalRB",
-                                   "m_pHorizontalRB",      "m_pVerticalHorizontalRB",
-                                   "m_pEightDirectionsRB", "m_pFixedAngleRB"};
-    QList<Case> rows;
-    for (int id = 0; id < 6; ++id) {
-        const bool isFixed = id == 5;
-        rows.append({"",
-                     {isFixed ? "m_pVerticalRB" : "m_pFixedAngleRB"},
-                     buttons[id],
-                     {{RecordKeys::angleGroup, id + 1}, {RecordKeys::angle, text("")}},
-                     {Sent::DirectionRecord},
-                     isFixed ? QStringList{"enabled m_pAngleLE", "enabled m_pAngleLB"}
-                             : QStringList{"disabled m_pAngleLE", "disabled m_pAngleLB"}});
-    }
-    return rows;
-}
-
-QList<Case> angles()
-{
-    QList<Case> rows;
-    for (const char* const legal : {"0", "45", "359.99", "360", "1e2", "", "abc"}) {
-        rows.append({QStringLiteral("angle \"%1\"").arg(legal),
-                     fixedAngle,
-                     text("m_pAngleLE<") + legal,
-                     {{RecordKeys::angle, text(legal)}},
-                     {Sent::DirectionRecord},
-                     {},
-                     legal});
-    }
-    for (const char* const illegal : {"400", "360.01", "-0.01", "-1", "inf", "nan"}) {
-        rows.append({QStringLiteral("angle \"%1\"").arg(illegal),
-                     fixedAngle + QStringList("m_pAngleLE:45"),
-                     text("m_pAngleLE<") + illegal,
-                     {{RecordKeys::angle, text("45")}},
-                     {},
-                     {},
-                     "45",
-                     {"*"}});
-    }
-    return rows;
-}
-
-QList<Case> corners()
-{
-    QList<Case> rows;
-    for (int index = 0; index < 4; ++index) {
-        const QString state = index == 1 || index == 2 ? "enabled " : "disabled ";
-        rows.append(
-            {QStringLiteral("corner %1").arg(index),
-             rectangle + QStringList(index == 1 ? "m_pCornerTypeCMB=3" : "m_pCornerTypeCMB=1"),
-             QStringLiteral("m_pCornerTypeCMB=%1").arg(index),
-             {{RecordKeys::cornerType, index + 1}},
-             {Sent::Record},
-             {state + "m_pCornerRadiusLB", state + "m_pCornerRadiusLE",
-              state + "m_pCornerRadiusUnitLB"}});
-    }
-    return rows;
-}
-
-QList<Case> silent()
-{
+    const auto free = [](const QString& button, const QString& direction) {
+        return Case()
+            .given(fixedAngle)
+            .when(Click(button))
+            .then(Expect::record(RecordKeys::angleGroup, direction.toInt()),
+                  Expect::record(RecordKeys::angle, ""), Expect::sent(Sent::DirectionRecord),
+                  Expect::disabled("m_pAngleLE"), Expect::disabled("m_pAngleLB"));
+    };
     return {
-        {"", slot, "m_pSlotAngleLE<-12.5", {{RecordKeys::slotAngle, text("-12.5")}}},
-        {"", slot, "m_pSlotAngleLE<99999", {{RecordKeys::slotAngle, text("99999")}}},
-        {"", slot, "m_pSlotAngleLE<", {{RecordKeys::slotAngle, text("")}}},
-        {"", slot, "m_pSlotDecodeLE<7", {{RecordKeys::slotDecode, text("7")}}},
-        {"", slot, "m_pSlotDecodeLE<x", {{RecordKeys::slotDecode, text("x")}}},
-        {"", slot, "m_pSlotPlatedCMB=1", {{RecordKeys::slotPlated, SlotPlated::no}}},
-        {"",
-         slot + QStringList("m_pSlotPlatedCMB=1"),
-         "m_pSlotPlatedCMB=0",
-         {{RecordKeys::slotPlated, SlotPlated::yes}}},
-        {"",
-         slot + QStringList("m_pSlotPlatedCMB=1"),
-         "m_pSlotPlatedCMB=-1",
-         {{RecordKeys::slotPlated, SlotPlated::no}}},
-        {"typed slot angle", slot, "m_pSlotAngleLE:30", {{RecordKeys::slotAngle, text("30")}}},
+        free("m_pFreeDirectionRB", LineDirection::free),
+        free("m_pVerticalRB", LineDirection::vertical),
+        free("m_pHorizontalRB", LineDirection::horizontal),
+        free("m_pVerticalHorizontalRB", LineDirection::verticalThenHorizontal),
+        free("m_pEightDirectionsRB", LineDirection::eightDirections),
+        Case()
+            .given({Click("m_pVerticalRB")})
+            .when(Click("m_pFixedAngleRB"))
+            .then(Expect::record(RecordKeys::angleGroup, LineDirection::fixed.toInt()),
+                  Expect::record(RecordKeys::angle, ""), Expect::sent(Sent::DirectionRecord),
+                  Expect::enabled("m_pAngleLE"), Expect::enabled("m_pAngleLB")),
     };
 }
 
-QList<Case> closed()
+Cases angles()
 {
+    Cases cases;
+    for (const QString& legal : QStringList{"0", "45", "359.99", "360", "1e2", "", "abc"}) {
+        cases.append(Case(QStringLiteral("angle \"%1\"").arg(legal))
+                         .given(fixedAngle)
+                         .when(Enter("m_pAngleLE", legal))
+                         .then(Expect::record(RecordKeys::angle, legal),
+                               Expect::sent(Sent::DirectionRecord),
+                               Expect::text("m_pAngleLE", legal)));
+    }
+    for (const QString& illegal : QStringList{"400", "360.01", "-0.01", "-1", "inf", "nan"}) {
+        cases.append(Case(QStringLiteral("angle \"%1\"").arg(illegal))
+                         .given(fixedAngle + Type("m_pAngleLE", "45"))
+                         .when(Enter("m_pAngleLE", illegal))
+                         .then(Expect::record(RecordKeys::angle, "45"),
+                               Expect::text("m_pAngleLE", "45"), Expect::hostBox()));
+    }
+    return cases;
+}
+
+Cases corners()
+{
+    const auto corner = [](const QString& item, const QString& other, const QString& value) {
+        return Case("corner " + item)
+            .given(rectangle + Choose("m_pCornerTypeCMB", other))
+            .when(Choose("m_pCornerTypeCMB", item))
+            .then(Expect::record(RecordKeys::cornerType, value.toInt()),
+                  Expect::sent(Sent::Record));
+    };
+    const Expect::Expectations aRadius = {Expect::enabled("m_pCornerRadiusLB"),
+                                          Expect::enabled("m_pCornerRadiusLE"),
+                                          Expect::enabled("m_pCornerRadiusUnitLB")};
+    const Expect::Expectations noRadius = {Expect::disabled("m_pCornerRadiusLB"),
+                                           Expect::disabled("m_pCornerRadiusLE"),
+                                           Expect::disabled("m_pCornerRadiusUnitLB")};
     return {
-        {"", {"m_pLineCMB=1"}, "m_pClosedCB", {{RecordKeys::closed, Closed::yes}}, {Sent::Record}},
-        {"open again",
-         {"m_pLineCMB=1", "m_pClosedCB"},
-         "m_pClosedCB",
-         {{RecordKeys::closed, Closed::no}},
-         {Sent::Record}},
-        {"kept by a single line",
-         {"m_pLineCMB=1", "m_pClosedCB"},
-         "m_pLineCMB=0",
-         {{RecordKeys::closed, Closed::yes}, {RecordKeys::line, LineKind::single}},
-         attributesAndRecord,
-         {"checked m_pClosedCB", "disabled m_pClosedCB"}},
-        {"disabled", {}, "m_pClosedCB", {{RecordKeys::closed, Closed::no}}},
+        corner("Straight", "Round", CornerType::straight).then(noRadius),
+        corner("Round", "Oblong", CornerType::round).then(aRadius),
+        corner("Chamfer", "Round", CornerType::chamfer).then(aRadius),
+        corner("Oblong", "Round", CornerType::oblong).then(noRadius),
+    };
+}
+
+/// What is stored and travels with the next record.
+Cases silent()
+{
+    const auto entered = [](const QString& field, const QString& text, const QString& key) {
+        return Case().given(slot).when(Enter(field, text)).then(Expect::record(key, text));
+    };
+    const Steps nonPlated = slot + Choose("m_pSlotPlatedCMB", "Non Plated");
+    return {
+        entered("m_pSlotAngleLE", "-12.5", RecordKeys::slotAngle),
+        entered("m_pSlotAngleLE", "99999", RecordKeys::slotAngle),
+        entered("m_pSlotAngleLE", "", RecordKeys::slotAngle),
+        entered("m_pSlotDecodeLE", "7", RecordKeys::slotDecode),
+        entered("m_pSlotDecodeLE", "x", RecordKeys::slotDecode),
+        Case()
+            .given(slot)
+            .when(Choose("m_pSlotPlatedCMB", "Non Plated"))
+            .then(Expect::record(RecordKeys::slotPlated, SlotPlated::no)),
+        Case()
+            .given(nonPlated)
+            .when(Choose("m_pSlotPlatedCMB", "Plated"))
+            .then(Expect::record(RecordKeys::slotPlated, SlotPlated::yes)),
+        Case()
+            .given(nonPlated)
+            .when(ChooseNothing("m_pSlotPlatedCMB"))
+            .then(Expect::record(RecordKeys::slotPlated, SlotPlated::no)),
+        Case("typed slot angle")
+            .given(slot)
+            .when(Type("m_pSlotAngleLE", "30"))
+            .then(Expect::record(RecordKeys::slotAngle, "30")),
+    };
+}
+
+Cases closed()
+{
+    const Steps closedPolyline = polyline + Click("m_pClosedCB");
+    return {
+        Case()
+            .given(polyline)
+            .when(Click("m_pClosedCB"))
+            .then(Expect::record(RecordKeys::closed, Closed::yes), Expect::sent(Sent::Record)),
+        Case("open again")
+            .given(closedPolyline)
+            .when(Click("m_pClosedCB"))
+            .then(Expect::record(RecordKeys::closed, Closed::no), Expect::sent(Sent::Record)),
+        Case("kept by a single line")
+            .given(closedPolyline)
+            .when(Choose("m_pLineCMB", "Single Line"))
+            .then(Expect::record(RecordKeys::closed, Closed::yes),
+                  Expect::record(RecordKeys::line, LineKind::single), attributesAndRecord,
+                  Expect::checked("m_pClosedCB"), Expect::disabled("m_pClosedCB")),
+        Case("disabled")
+            .when(Click("m_pClosedCB"))
+            .then(Expect::record(RecordKeys::closed, Closed::no)),
     };
 }
 
@@ -195,7 +219,7 @@ private Q_SLOTS:
     {
         const char* const index = SIGNAL(currentIndexChanged(QString));
         const char* const edited = SIGNAL(editingFinished());
-        PageCases::compareConnections(
+        PageCases::connected(
             {{"m_pLineCMB", index, SLOT(on_Line_ComboBox_Changed())},
              {"m_pClosedCB", SIGNAL(stateChanged(int)),
               SLOT(on_m_pClosedCB_CheckState_Changed(int))},
@@ -210,66 +234,68 @@ private Q_SLOTS:
 
     void table_data()
     {
-        PageCases::addRows(kinds() + directionRows() + angles() + corners() + silent() + closed());
+        addCases(kinds() + directions() + angles() + corners() + silent() + closed());
     }
-    void table() { PageCases::run(); }
+    void table() { runCase(); }
 
     void lengths_data()
     {
-        PageCases::addRows(
-            PageCases::lengthCases({{"m_pCornerRadiusLE",
-                                     RecordKeys::cornerRadius,
-                                     roundCorner,
-                                     50000,
-                                     {Sent::Record},
-                                     {}},
-                                    {"m_pLengthLE", RecordKeys::slotLength, slot, 50000, {}, {}}}));
+        addCases(PageCases::LengthField("m_pCornerRadiusLE", RecordKeys::cornerRadius)
+                     .reachedBy(roundCorner)
+                     .upTo(50000)
+                     .sends(Sends::WhenAccepted)
+                     .cases() +
+                 PageCases::LengthField("m_pLengthLE", RecordKeys::slotLength)
+                     .reachedBy(slot)
+                     .upTo(50000)
+                     .sends(Sends::Never)
+                     .cases());
     }
-    void lengths() { PageCases::run(); }
+    void lengths() { runCase(); }
 
     void start()
     {
-        PageFixture fixture;
-        QCOMPARE(fixture.index("m_pLineCMB"), 0);
-        QCOMPARE(fixture.index("m_pCornerTypeCMB"), 0);
-        QCOMPARE(fixture.index("m_pSlotPlatedCMB"), 0);
-        for (const char* const state :
-             {"disabled m_pClosedCB", "checked m_pFreeDirectionRB", "disabled m_pAngleLE",
-              "disabled m_pAngleLB", "hidden m_pCornerGroup", "hidden m_pSlotGroup",
-              "disabled m_pCornerRadiusLE", "disabled m_pCornerRadiusLB",
-              "disabled m_pCornerRadiusUnitLB", "shown m_pDirectionGroup"}) {
-            QVERIFY2(fixture.hasState(state), state);
-        }
-        QCOMPARE(fixture.text("m_pAngleLE"), QString());
-        for (const char* const field :
-             {"m_pCornerRadiusLE", "m_pLengthLE", "m_pSlotAngleLE", "m_pSlotDecodeLE"}) {
-            QCOMPARE(fixture.text(field), QString("0"));
-        }
+        DialogFixture fixture;
+        Expect::holds(
+            fixture,
+            {Expect::chosen("m_pLineCMB", "Single Line"),
+             Expect::chosen("m_pCornerTypeCMB", "Straight"),
+             Expect::chosen("m_pSlotPlatedCMB", "Plated"), Expect::disabled("m_pClosedCB"),
+             Expect::checked("m_pFreeDirectionRB"), Expect::disabled("m_pAngleLE"),
+             Expect::disabled("m_pAngleLB"), Expect::hidden("m_pCornerGroup"),
+             Expect::hidden("m_pSlotGroup"), Expect::disabled("m_pCornerRadiusLE"),
+             Expect::disabled("m_pCornerRadiusLB"), Expect::disabled("m_pCornerRadiusUnitLB"),
+             Expect::shown("m_pDirectionGroup"), Expect::text("m_pAngleLE", ""),
+             Expect::text("m_pCornerRadiusLE", "0"), Expect::text("m_pLengthLE", "0"),
+             Expect::text("m_pSlotAngleLE", "0"), Expect::text("m_pSlotDecodeLE", "0")});
     }
 
     void texts()
     {
-        PageFixture fixture;
-        QCOMPARE(fixture.visibleTexts("m_pLinePage"),
+        const DialogFixture fixture;
+        QCOMPARE(PageCases::visibleTexts(fixture, "m_pLinePage"),
                  (QStringList{"Single Line", "Polyline", "Rectangle", "Slot", "Closed",
                               "Angle (deg)", "Corner Type : ", "Straight", "Round", "Chamfer",
                               "Oblong", "Corner Radius : ", "mil", "Length : ", "\"",
                               "Angle (deg) : ", "Decode: ", "Plated", "Non Plated"}));
-        QCOMPARE(fixture.greyedItems("m_pLinePage"), QStringList("m_pLineCMB 3"));
+        QCOMPARE(PageCases::greyedItems(fixture, "m_pLinePage"), QStringList("m_pLineCMB: Slot"));
     }
 
     void directionIcons()
     {
-        PageFixture fixture;
-        const char* const icons[][2] = {
+        const DialogFixture fixture;
+        const struct {
+            const char* button;
+            const char* icon;
+        } directions[] = {
             {"m_pFreeDirectionRB", "Free1.jpg"},    {"m_pVerticalRB", "Ver1.jpg"},
             {"m_pHorizontalRB", "Hori1.jpg"},       {"m_pVerticalHorizontalRB", "VH1.jpg"},
             {"m_pEightDirectionsRB", "8 Dir1.jpg"}, {"m_pFixedAngleRB", "Fixed1.jpg"}};
         int id = 0;
         int x = -1;
-        for (const auto& [button, icon] : icons) {
-            auto& radio = fixture.find<QRadioButton>(button);
-            const QIcon expected(QString(":/Canvas_Tool_Strip/Resources/") + icon);
+        for (const auto& direction : directions) {
+            auto& radio = fixture.find<QRadioButton>(direction.button);
+            const QIcon expected(QString(":/Canvas_Tool_Strip/Resources/") + direction.icon);
             QVERIFY(!expected.pixmap(24, 24).isNull());
             QCOMPARE(radio.icon().pixmap(24, 24).toImage(), expected.pixmap(24, 24).toImage());
             QVERIFY(radio.text().isEmpty());
@@ -282,64 +308,71 @@ private Q_SLOTS:
 
     void typing_data()
     {
-        QTest::addColumn<QStringList>("before");
+        QTest::addColumn<Steps>("reach");
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("leading zero") << roundCorner << "m_pCornerRadiusLE"
-                                      << "01"
-                                      << "0";
-        QTest::newRow("decimals") << roundCorner << "m_pCornerRadiusLE"
-                                  << "1.5"
-                                  << "15";
-        QTest::newRow("sign") << roundCorner << "m_pCornerRadiusLE"
-                              << "-5"
-                              << "5";
-        QTest::newRow("angle") << fixedAngle << "m_pAngleLE"
-                               << "4a5.5"
-                               << "45.5";
-        QTest::newRow("slot length") << slot << "m_pLengthLE"
-                                     << "1.2.3"
-                                     << "1.23";
+        // clang-format off
+        QTest::newRow("leading zero") << roundCorner << "m_pCornerRadiusLE" << "01" << "0";
+        QTest::newRow("decimals") << roundCorner << "m_pCornerRadiusLE" << "1.5" << "15";
+        QTest::newRow("sign") << roundCorner << "m_pCornerRadiusLE" << "-5" << "5";
+        QTest::newRow("angle") << fixedAngle << "m_pAngleLE" << "4a5.5" << "45.5";
+        QTest::newRow("slot length") << slot << "m_pLengthLE" << "1.2.3" << "1.23";
+        // clang-format on
     }
     void typing()
     {
-        QFETCH(QStringList, before);
+        QFETCH(Steps, reach);
         QFETCH(QString, field);
         QFETCH(QString, typed);
         QFETCH(QString, shown);
-        PageFixture fixture;
-        fixture.perform(before);
+        const DialogFixture fixture;
+        fixture.perform(reach);
         fixture.type(field, typed);
         QCOMPARE(fixture.text(field), shown);
     }
 
-    void greyedItems_data() { PageCases::addGreyedRows({{"m_pLineCMB", {}, 2, 4}}); }
+    void greyedItems_data()
+    {
+        PageCases::addGreyedRows({PageCases::GreyedItems("m_pLineCMB")
+                                      .free({"Single Line", "Polyline", "Rectangle"})
+                                      .greyed({"Slot"})});
+    }
     void greyedItems() { PageCases::tryToReachGreyedItem(); }
 
     void refusals_data()
     {
+        using PageCases::Refusal;
         PageCases::addRefusalRows(
-            {{"m_pAngleLE", fixedAngle, "400", "", "m_pLineCMB"},
-             {"m_pCornerRadiusLE", roundCorner, "50001", "0", "m_pCornerTypeCMB"},
-             {"m_pLengthLE", slot, "50000.5", "0", "m_pSlotPlatedCMB"}});
+            {Refusal("m_pAngleLE").reachedBy(fixedAngle).of("400").leaves("").beside("m_pLineCMB"),
+             Refusal("m_pCornerRadiusLE")
+                 .reachedBy(roundCorner)
+                 .of("50001")
+                 .leaves("0")
+                 .beside("m_pCornerTypeCMB"),
+             Refusal("m_pLengthLE")
+                 .reachedBy(slot)
+                 .of("50000.5")
+                 .leaves("0")
+                 .beside("m_pSlotPlatedCMB")});
     }
     void refusals() { PageCases::refuseOnce(); }
 
     void units()
     {
-        PageCases::switchUnitTenTimes(roundCorner, {"m_pCornerRadiusLE~100", "m_pLengthLE~1.5"},
-                                      {"m_pCornerRadiusUnitLB=mil|my", "m_pLengthUnitLB=\"|mm"});
+        PageCases::switchUnitTenTimes(
+            roundCorner, {{"m_pCornerRadiusLE", "100"}, {"m_pLengthLE", "1.5"}},
+            {{"m_pCornerRadiusUnitLB", "mil", "my"}, {"m_pLengthUnitLB", "\"", "mm"}});
     }
 
     void unitsLeaveAnglesAndDecodeAlone()
     {
-        PageFixture fixture;
+        const DialogFixture fixture;
         const QStringList fields = {"m_pAngleLE", "m_pSlotAngleLE", "m_pSlotDecodeLE"};
         for (const QString& field : fields) {
-            fixture.setText(field, "12.5");
+            fixture.find<QLineEdit>(field).setText("12.5");
         }
-        fixture.changeUnit(true);
+        fixture.setUnit(Unit::Metric);
         for (const QString& field : fields) {
             QCOMPARE(fixture.text(field), QString("12.5"));
         }
@@ -347,25 +380,26 @@ private Q_SLOTS:
 
     void slotLengthInTheOtherUnit()
     {
-        PageFixture fixture;
-        fixture.setText("m_pLengthLE", "1.23456789");
-        fixture.changeUnit(true);
-        QCOMPARE(fixture.text("m_pLengthLE"), QString("31.358"));  // 6 significant digits
-        fixture.setText("m_pLengthLE", "1");
-        fixture.changeUnit(false);
-        QCOMPARE(fixture.text("m_pLengthLE"), QString("0.0393701"));
+        const DialogFixture fixture;
+        auto& length = fixture.find<QLineEdit>("m_pLengthLE");
+        length.setText("1.23456789");
+        fixture.setUnit(Unit::Metric);
+        QCOMPARE(length.text(), QString("31.358"));  // 6 significant digits
+        length.setText("1");
+        fixture.setUnit(Unit::Mil);
+        QCOMPARE(length.text(), QString("0.0393701"));
     }
 
     void language() { PageCases::retranslate("m_pLinePage", roundCorner); }
 
     void keepsItsStateWhenShownAgain()
     {
-        PageFixture fixture;
-        fixture.perform(QStringList{"m_pLineCMB=2", "m_pCornerTypeCMB=2", "m_pPadTB", "m_pLineTB"});
-        QCOMPARE(fixture.index("m_pLineCMB"), 2);
-        QVERIFY(fixture.hasState("shown m_pCornerGroup"));
-        QCOMPARE(fixture.record().value(RecordKeys::cornerType),
-                 QVariant(CornerType::chamfer.toInt()));
+        DialogFixture fixture;
+        fixture.perform(rectangle + Choose("m_pCornerTypeCMB", "Chamfer") + Click("m_pPadTB") +
+                        Click("m_pLineTB"));
+        Expect::holds(fixture,
+                      {Expect::chosen("m_pLineCMB", "Rectangle"), Expect::shown("m_pCornerGroup"),
+                       Expect::record(RecordKeys::cornerType, CornerType::chamfer.toInt())});
     }
 };
 

@@ -1,9 +1,7 @@
 // The page of pads: counts, steps and factors of an array.
 
-#include "DialogFixture.h"
 #include "Main.h"
 #include "PageCases.h"
-#include "PageFixture.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -11,99 +9,81 @@
 
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
 
 namespace Sent = MessageCodes::Sent;
 
-using PageCases::Case;
-
 namespace {
 
-const QStringList pad = {"m_pPadTB"};
+const Steps pad = {Click("m_pPadTB")};
 
-QString text(const QString& value)
+/// A count or factor is checked at each change of its text.
+Cases numbers(const QString& field, const QString& key, const QStringList& legal,
+              const QStringList& illegal)
 {
-    return value;
+    const Steps holdsSeven = pad + SetText(field, "7");
+    Cases cases;
+    for (const QString& text : legal) {
+        cases.append(Case()
+                         .given(holdsSeven)
+                         .when(SetText(field, text))
+                         .then(Expect::record(key, text), Expect::sent(Sent::Record),
+                               Expect::text(field, text)));
+    }
+    for (const QString& text : illegal) {
+        cases.append(
+            Case()
+                .given(holdsSeven)
+                .when(SetText(field, text))
+                .then(Expect::record(key, "7"), Expect::text(field, "7"), Expect::hostBox()));
+    }
+    return cases;
 }
 
-/// A count or factor: checked at each change of its text.
-QList<Case> numbers(const QString& field, const QString& key, const QStringList& legal,
-                    const QStringList& illegal)
+/// The steps from one pad to the next.
+Cases pitches(const QString& field, const QString& key)
 {
-    QList<Case> rows;
-    for (const QString& value : legal) {
-        rows.append({QStringLiteral("%1 \"%2\"").arg(field, value),
-                     pad + QStringList(field + "~7"),
-                     field + "~" + value,
-                     {{key, text(value)}},
-                     {Sent::Record},
-                     {},
-                     value});
-    }
-    for (const QString& value : illegal) {
-        rows.append({QStringLiteral("%1 \"%2\"").arg(field, value),
-                     pad + QStringList(field + "~7"),
-                     field + "~" + value,
-                     {{key, text("7")}},
-                     {},
-                     {},
-                     "7",
-                     {"*"}});
-    }
-    return rows;
-}
-
-struct Step {
-    bool metric;
-    const char* typed;
-    const char* stored;  // null: refused
-};
-const Step steps[] = {
-    {false, "10", "254"},
-    {false, "1.5", "38.1"},
-    {false, "-10", "-254"},
-    {false, "0", "0"},
-    {false, "", "0"},
-    {false, "100000", "2.54e+06"},
-    {false, "-100000", "-2.54e+06"},
-    {false, "100000.5", nullptr},
-    {false, "100001", nullptr},
-    {false, "-100001", nullptr},
-    {false, "inf", nullptr},
-    {false, "-inf", nullptr},
-    {false, "nan", nullptr},
-    {false, "1e6", nullptr},
-    {true, "254", "254"},
-    {true, "1.50", "1.50"},
-    {true, "2540000", "2540000"},
-    {true, "-2540000", "-2540000"},
-    {true, "2540001", nullptr},
-    {true, "-2540000.5", nullptr},
-    {true, "", "0"},
-};
-
-QList<Case> stepRows(const QString& field, const QString& key)
-{
-    QList<Case> rows;
-    for (const Step& step : steps) {
-        Case row;
-        row.name = QStringLiteral("%1 \"%2\"").arg(field, QLatin1String(step.typed));
-        row.before = pad + QStringList(field + "<127");
-        row.action = field + "<" + step.typed;
-        row.metric = step.metric;
-        if (step.stored) {
-            row.entries = {{key, QString::fromLatin1(step.stored)}};
-            row.codes = {Sent::Record};
-            row.shown = *step.typed ? QString::fromLatin1(step.typed) : QString("0");
-        } else {
-            // The field falls back to "0" while the record keeps the last accepted step.
-            row.entries = {{key, step.metric ? QString("127") : QString("3225.8")}};
-            row.shown = "0";
-            row.boxes = QStringList(PageCases::coordinateBox(step.metric ? 2540000 : 100000));
-        }
-        rows.append(row);
-    }
-    return rows;
+    const auto entered = [&](Unit unit, const QString& text) {
+        return Case().in(unit).given(pad + Enter(field, "127")).when(Enter(field, text));
+    };
+    const auto accepted = [&](Unit unit, const QString& text, const QString& stored) {
+        return entered(unit, text)
+            .then(Expect::record(key, stored), Expect::sent(Sent::Record),
+                  Expect::text(field, text));
+    };
+    const auto emptied = [&](Unit unit) {
+        return entered(unit, "").then(Expect::record(key, "0"), Expect::sent(Sent::Record),
+                                      Expect::text(field, "0"));
+    };
+    // The field falls back to "0" while the record keeps the last accepted step.
+    const auto refused = [&](Unit unit, const QString& text) {
+        const bool isMetric = unit == Unit::Metric;
+        return entered(unit, text)
+            .then(Expect::record(key, isMetric ? "127" : "3225.8"), Expect::text(field, "0"),
+                  Expect::coordinateBox(isMetric ? 2540000 : 100000));
+    };
+    return {
+        accepted(Unit::Mil, "10", "254"),
+        accepted(Unit::Mil, "1.5", "38.1"),
+        accepted(Unit::Mil, "-10", "-254"),
+        accepted(Unit::Mil, "0", "0"),
+        emptied(Unit::Mil),
+        accepted(Unit::Mil, "100000", "2.54e+06"),
+        accepted(Unit::Mil, "-100000", "-2.54e+06"),
+        refused(Unit::Mil, "100000.5"),
+        refused(Unit::Mil, "100001"),
+        refused(Unit::Mil, "-100001"),
+        refused(Unit::Mil, "inf"),
+        refused(Unit::Mil, "-inf"),
+        refused(Unit::Mil, "nan"),
+        refused(Unit::Mil, "1e6"),
+        accepted(Unit::Metric, "254", "254"),
+        accepted(Unit::Metric, "1.50", "1.50"),
+        accepted(Unit::Metric, "2540000", "2540000"),
+        accepted(Unit::Metric, "-2540000", "-2540000"),
+        refused(Unit::Metric, "2540001"),
+        refused(Unit::Metric, "-2540000.5"),
+        emptied(Unit::Metric),
+    };
 }
 
 }  // namespace
@@ -116,44 +96,40 @@ private Q_SLOTS:
     {
         const QStringList legal = {"0", "1", "50", "50.0", "", "abc", "-0"};
         const QStringList illegal = {"51", "50.01", "-1", "1e9", "inf", "nan"};
-        PageCases::addRows(numbers("m_pDrilNxLE", RecordKeys::padNx, legal, illegal) +
-                           numbers("m_pDrilNyLE", RecordKeys::padNy, legal, illegal));
+        addCases(numbers("m_pDrilNxLE", RecordKeys::padNx, legal, illegal) +
+                 numbers("m_pDrilNyLE", RecordKeys::padNy, legal, illegal));
     }
-    void counts() { PageCases::run(); }
+    void counts() { runCase(); }
 
     void factors_data()
     {
         const QStringList legal = {"0", "-100", "100", "-0.5", "", "abc", "1e2"};
         const QStringList illegal = {"100.1", "-100.1", "1e3", "inf", "-inf", "nan"};
-        PageCases::addRows(numbers("m_pDrilXsclLE", RecordKeys::padXscl, legal, illegal) +
-                           numbers("m_pDrilYsclLE", RecordKeys::padYscl, legal, illegal));
+        addCases(numbers("m_pDrilXsclLE", RecordKeys::padXscl, legal, illegal) +
+                 numbers("m_pDrilYsclLE", RecordKeys::padYscl, legal, illegal));
     }
-    void factors() { PageCases::run(); }
+    void factors() { runCase(); }
 
     void steps_data()
     {
-        PageCases::addRows(stepRows("m_pDrilDxLE", RecordKeys::padDx) +
-                           stepRows("m_pDrilDyLE", RecordKeys::padDy));
+        addCases(pitches("m_pDrilDxLE", RecordKeys::padDx) +
+                 pitches("m_pDrilDyLE", RecordKeys::padDy));
     }
-    void steps() { PageCases::run(); }
+    void steps() { runCase(); }
 
     void keyByKey()
     {
-        PageFixture fixture;
-        fixture.perform(pad);
+        DialogFixture fixture;
+        fixture.chooseType("m_pPadTB");
         QCOMPARE(fixture.text("m_pDrilNxLE"), QString("1"));
-        fixture.forget();
-        auto& nx = fixture.find<QLineEdit>("m_pDrilNxLE");
-        nx.setFocus();
-        nx.selectAll();
-        QTest::keyClick(&nx, '5');
-        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
-        QCOMPARE(fixture.record().value(RecordKeys::padNx), QVariant(QString("5")));
-        QTest::keyClick(&nx, '1');
+        fixture.type("m_pDrilNxLE", "5");
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture, {Expect::record(RecordKeys::padNx, "5")});
+        fixture.press(Qt::Key_1);
         QCOMPARE(fixture.text("m_pDrilNxLE"), QString("5"));
-        QCOMPARE(fixture.boxes().size(), 1);
-        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
-        QCOMPARE(fixture.record().value(RecordKeys::padNx), QVariant(QString("5")));
+        QCOMPARE(fixture.boxes.take().size(), 1);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture, {Expect::record(RecordKeys::padNx, "5")});
     }
 
     void typing_data()
@@ -161,30 +137,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("step, leading zero") << "m_pDrilDxLE"
-                                            << "01"
-                                            << "0";
-        QTest::newRow("step, five decimals") << "m_pDrilDxLE"
-                                             << "1.123456"
-                                             << "1.12345";
-        QTest::newRow("step, below one") << "m_pDrilDyLE"
-                                         << "-0.5"
-                                         << "-0.5";
-        QTest::newRow("step, letters") << "m_pDrilDyLE"
-                                       << "1x2"
-                                       << "12";
-        QTest::newRow("count, decimals") << "m_pDrilNxLE"
-                                         << "1.5"
-                                         << "15";
-        QTest::newRow("count, comma") << "m_pDrilNyLE"
-                                      << "1,5"
-                                      << "15";
-        QTest::newRow("factor, comma") << "m_pDrilXsclLE"
-                                       << "1,5"
-                                       << "15";
-        QTest::newRow("factor, decimals") << "m_pDrilYsclLE"
-                                          << "-1.5"
-                                          << "-1.5";
+        // clang-format off
+        QTest::newRow("step, leading zero") << "m_pDrilDxLE" << "01" << "0";
+        QTest::newRow("step, five decimals") << "m_pDrilDxLE" << "1.123456" << "1.12345";
+        QTest::newRow("step, below one") << "m_pDrilDyLE" << "-0.5" << "-0.5";
+        QTest::newRow("step, letters") << "m_pDrilDyLE" << "1x2" << "12";
+        QTest::newRow("count, decimals") << "m_pDrilNxLE" << "1.5" << "15";
+        QTest::newRow("count, comma") << "m_pDrilNyLE" << "1,5" << "15";
+        QTest::newRow("factor, comma") << "m_pDrilXsclLE" << "1,5" << "15";
+        QTest::newRow("factor, decimals") << "m_pDrilYsclLE" << "-1.5" << "-1.5";
+        // clang-format on
     }
     void typing()
     {
@@ -192,7 +154,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, shown);
         QLocale::setDefault(QLocale(QLocale::German));  // reads a comma; the fields do not
-        PageFixture fixture;
+        const DialogFixture fixture;
         fixture.perform(pad);
         fixture.type(field, typed);
         QLocale::setDefault(QLocale::c());
@@ -201,32 +163,36 @@ private Q_SLOTS:
 
     void theStepsOwnZeroIsNoEntry()
     {
-        PageFixture fixture;
-        fixture.perform(pad);
-        fixture.forget();
+        DialogFixture fixture;
+        fixture.chooseType("m_pPadTB");
         fixture.type("m_pDrilDxLE", "0");
-        fixture.leave("m_pDrilDxLE", "Tab", {});
-        QCOMPARE(fixture.codes(), QList<int>());
+        fixture.leave(By::Tab);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());
         fixture.type("m_pDrilDxLE", "");
-        fixture.leave("m_pDrilDxLE", "Tab", {});
+        fixture.leave(By::Tab);
         QCOMPARE(fixture.text("m_pDrilDxLE"), QString("0"));
-        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
-        QCOMPARE(fixture.record().value(RecordKeys::padDx), QVariant(QString("0")));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture, {Expect::record(RecordKeys::padDx, "0")});
     }
 
     void refusals_data()
     {
-        PageCases::addRefusalRows({{"m_pDrilDxLE", pad, "100001", "0", "m_pMirrorCMB"},
-                                   {"m_pDrilDyLE", pad, "-100001", "0", "m_pMirrorCMB"}});
+        using PageCases::Refusal;
+        PageCases::addRefusalRows(
+            {Refusal("m_pDrilDxLE").reachedBy(pad).of("100001").leaves("0").beside("m_pMirrorCMB"),
+             Refusal("m_pDrilDyLE")
+                 .reachedBy(pad)
+                 .of("-100001")
+                 .leaves("0")
+                 .beside("m_pMirrorCMB")});
     }
     void refusals() { PageCases::refuseOnce(); }
 
     void coordinateBoxIsAWarning()
     {
         DialogFixture fixture;
-        fixture.choose("m_pPadTB");
-        fixture.find<QLineEdit>("m_pDrilDxLE").setText("100001");
-        fixture.dialog->on_m_pDrilDxLE_editingFinished();
+        fixture.chooseType("m_pPadTB");
+        fixture.enter("m_pDrilDxLE", "100001");
         const auto boxes = fixture.boxes.take();
         QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].icon, QMessageBox::Warning);
@@ -235,14 +201,15 @@ private Q_SLOTS:
 
     void units()
     {
-        PageCases::switchUnitTenTimes(pad, {"m_pDrilDxLE~10", "m_pDrilDyLE~-0.5"},
-                                      {"m_pDrilDxUnitLB=mil|my", "m_pDrilDyUnitLB=mil|my"});
+        PageCases::switchUnitTenTimes(
+            pad, {{"m_pDrilDxLE", "10"}, {"m_pDrilDyLE", "-0.5"}},
+            {{"m_pDrilDxUnitLB", "mil", "my"}, {"m_pDrilDyUnitLB", "mil", "my"}});
     }
 
     void unitsLeaveCountsAndFactorsAlone()
     {
-        PageFixture fixture;
-        fixture.changeUnit(true);
+        const DialogFixture fixture;
+        fixture.setUnit(Unit::Metric);
         for (const char* const field :
              {"m_pDrilNxLE", "m_pDrilNyLE", "m_pDrilXsclLE", "m_pDrilYsclLE"}) {
             QCOMPARE(fixture.text(field), QString("1"));
@@ -251,7 +218,7 @@ private Q_SLOTS:
 
     void unitLabelAtBuild()
     {
-        QVERIFY(PageFixture(false).labelText("m_pDrilDxUnitLB") == "mil");
+        QCOMPARE(DialogFixture(Unit::Mil).find<QLabel>("m_pDrilDxUnitLB").text(), QString("mil"));
         // Before the first notice of the unit, the label follows what the host shows.
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Micrometre);
         QWidget window;
@@ -261,12 +228,15 @@ private Q_SLOTS:
 
     void texts()
     {
-        PageFixture fixture;
-        const char* const labels[][2] = {
-            {"m_pDrilNxLB", "Nx   : "}, {"m_pDrilDxLB", "Dx   : "}, {"m_pDrilXsclLB", "Xscl : "},
-            {"m_pDrilNyLB", "Ny   : "}, {"m_pDrilDyLB", "Dy   : "}, {"m_pDrilYsclLB", "Yscl : "}};
-        for (const auto& [name, label] : labels) {
-            QCOMPARE(fixture.labelText(name), QString(label));
+        const DialogFixture fixture;
+        const struct {
+            const char* label;
+            const char* text;
+        } labels[] = {{"m_pDrilNxLB", "Nx   : "},   {"m_pDrilDxLB", "Dx   : "},
+                      {"m_pDrilXsclLB", "Xscl : "}, {"m_pDrilNyLB", "Ny   : "},
+                      {"m_pDrilDyLB", "Dy   : "},   {"m_pDrilYsclLB", "Yscl : "}};
+        for (const auto& expected : labels) {
+            QCOMPARE(fixture.find<QLabel>(expected.label).text(), QString(expected.text));
         }
         const auto& line = fixture.find<QFrame>("m_pPadColumnsFrame");
         QCOMPARE(line.frameShape(), QFrame::VLine);
@@ -275,21 +245,24 @@ private Q_SLOTS:
 
     void columns()
     {
-        PageFixture fixture;
+        const DialogFixture fixture;
         fixture.perform(pad);
         const auto place = [&](const char* name) {
-            return fixture.find<QWidget>(name).mapTo(&fixture.dialog(), QPoint());
+            return fixture.find(name).mapTo(fixture.dialog, QPoint());
         };
-        const char* const rows[][2] = {{"m_pDrilNxLE", "m_pDrilNyLE"},
-                                       {"m_pDrilDxLE", "m_pDrilDyLE"},
-                                       {"m_pDrilXsclLE", "m_pDrilYsclLE"}};
+        const struct {
+            const char* left;
+            const char* right;
+        } rows[] = {{"m_pDrilNxLE", "m_pDrilNyLE"},
+                    {"m_pDrilDxLE", "m_pDrilDyLE"},
+                    {"m_pDrilXsclLE", "m_pDrilYsclLE"}};
         int y = -1;
-        for (const auto& [left, right] : rows) {
-            QVERIFY(place(left).x() < place("m_pPadColumnsFrame").x());
-            QVERIFY(place(right).x() > place("m_pPadColumnsFrame").x());
-            QCOMPARE(place(left).y(), place(right).y());
-            QVERIFY(place(left).y() > y);
-            y = place(left).y();
+        for (const auto& row : rows) {
+            QVERIFY(place(row.left).x() < place("m_pPadColumnsFrame").x());
+            QVERIFY(place(row.right).x() > place("m_pPadColumnsFrame").x());
+            QCOMPARE(place(row.left).y(), place(row.right).y());
+            QVERIFY(place(row.left).y() > y);
+            y = place(row.left).y();
         }
     }
 

@@ -1,10 +1,9 @@
 // How the rows of dialog and pages are put together, where it cannot be seen from the widgets.
 
+#include "DialogFixture.h"
 #include "Main.h"
-#include "PageFixture.h"
 
 #include <QLayout>
-#include <QLineEdit>
 #include <QRegExpValidator>
 #include <QWidget>
 
@@ -28,8 +27,8 @@ private Q_SLOTS:
     /// First row, four sub-pages, spacer, font row, text row.
     void textPage()
     {
-        PageFixture fixture;
-        QLayout* const rows = fixture.widget("m_pTextPage")->layout();
+        const DialogFixture fixture;
+        QLayout* const rows = fixture.find("m_pTextPage").layout();
         QCOMPARE(rows->count(), 8);
         QCOMPARE(namesIn(rows->itemAt(0)->layout()),
                  (QStringList{"m_pTextFormatCMB", "m_pUPCCMB"}));
@@ -47,12 +46,12 @@ private Q_SLOTS:
     /// Two rows of their own, whose fields begin and end at one line.
     void fieldsOfTheTextPageStandInLine()
     {
-        PageFixture fixture;
+        const DialogFixture fixture;
         fixture.click("m_pTextTB");
         QCoreApplication::processEvents();
-        QCOMPARE(fixture.widget("m_pFontLE")->x(), fixture.widget("m_pTextLE")->x());
-        QCOMPARE(fixture.widget("m_pFontLE")->width(), fixture.widget("m_pTextLE")->width());
-        QVERIFY(fixture.widget("m_pFontLE")->width() > fixture.widget("m_pFontPB")->width());
+        QCOMPARE(fixture.find("m_pFontLE").x(), fixture.find("m_pTextLE").x());
+        QCOMPARE(fixture.find("m_pFontLE").width(), fixture.find("m_pTextLE").width());
+        QVERIFY(fixture.find("m_pFontLE").width() > fixture.find("m_pFontPB").width());
     }
 
     void rowsHaveNoMargins_data()
@@ -69,21 +68,22 @@ private Q_SLOTS:
     void rowsHaveNoMargins()
     {
         QFETCH(QString, row);
-        PageFixture fixture;
-        QCOMPARE(fixture.widget(row)->layout()->contentsMargins(), QMargins());
+        const DialogFixture fixture;
+        QCOMPARE(fixture.find(row).layout()->contentsMargins(), QMargins());
     }
 
     /// A whole number without leading zeros, or a lone "0".
     void cornerRadius()
     {
-        PageFixture fixture;
+        const DialogFixture fixture;
         auto& field = fixture.find<QLineEdit>("m_pCornerRadiusLE");
         const auto* const validator = qobject_cast<const QRegExpValidator*>(field.validator());
         QVERIFY(validator);
         QCOMPARE(validator->regExp().pattern(), QString("^[1-9][0-9]*|0$"));
         QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
         QCOMPARE(int(validator->regExp().patternSyntax()), int(QRegExp::RegExp));
-        fixture.perform(QStringList{"m_pLineCMB=2", "m_pCornerTypeCMB=1"});
+        fixture.choose("m_pLineCMB", "Rectangle");
+        fixture.choose("m_pCornerTypeCMB", "Round");
         for (const auto& [typed, kept] :
              {std::pair("10", "10"), std::pair("0", "0"), std::pair("01", "0"),
               std::pair("1.5", "15"), std::pair("105", "105"), std::pair("-3", "3")}) {

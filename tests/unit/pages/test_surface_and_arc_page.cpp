@@ -1,112 +1,131 @@
 // The pages of surfaces and of arcs and circles.
 
-#include "FindChild.h"
+#include "ByHand.h"
 #include "Main.h"
 #include "PageCases.h"
-#include "PageFixture.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-
-#include "addfeature/AddFeature.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
-namespace Sent = MessageCodes::Sent;
+#include <QCheckBox>
 
-using PageCases::Case;
+namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-const QStringList surface = {"m_pSurfaceTB"};
-const QStringList arc = {"m_pArcTB"};
-const QStringList circle = {"m_pArcTB", "m_pArcAndCircleCMB=1"};
+const Steps surface = {Click("m_pSurfaceTB")};
+const Steps arc = {Click("m_pArcTB")};
+const Steps circle = arc + Choose("m_pArcAndCircleCMB", "Circle");
 
-/// Choosing each item of a combo box stores its number as text and sends the record.
-QList<Case> choices(const QStringList& before, const QString& combo, const QString& key, int count)
+struct Item {
+    const char* text;
+    QString value;
+};
+
+/// Choosing an item of a combo box stores its value as text and sends the record.
+Cases choices(const Steps& given, const QString& combo, const QString& key,
+              const QList<Item>& items)
 {
-    QList<Case> rows;
-    for (int index = 0; index < count; ++index) {
-        rows.append({QString(),
-                     before + QStringList(QStringLiteral("%1=%2").arg(combo).arg(index ? 0 : 1)),
-                     QStringLiteral("%1=%2").arg(combo).arg(index),
-                     {{key, QString::number(index + 1)}},
-                     {Sent::Record}});
+    Cases cases;
+    for (const Item& item : items) {
+        const Item& other = &item == &items.first() ? items[1] : items.first();
+        cases.append(Case()
+                         .given(given + Choose(combo, other.text))
+                         .when(Choose(combo, item.text))
+                         .then(Expect::record(key, item.value), Expect::sent(Sent::Record)));
     }
-    rows.append({combo + " without an item",
-                 before + QStringList(combo + "=1"),
-                 combo + "=-1",
-                 {{key, QString("2")}},
-                 {Sent::Record}});
-    return rows;
+    cases.append(Case(combo + " without an item")
+                     .given(given + Choose(combo, items[1].text))
+                     .when(ChooseNothing(combo))
+                     .then(Expect::record(key, items[1].value), Expect::sent(Sent::Record)));
+    return cases;
 }
 
-QList<Case> families()
+Cases surfaceShapes()
 {
-    const QStringList arcStates = {"enabled m_pArcCMB", "disabled m_pCircleCMB"};
-    const QStringList circleStates = {"disabled m_pArcCMB", "enabled m_pCircleCMB"};
+    return choices(surface, "m_pSurfShapeCMB", RecordKeys::surfaceShape,
+                   {{"Rectangle", SurfaceKind::rectangle},
+                    {"Polygon", SurfaceKind::polygon},
+                    {"Circle", SurfaceKind::circle}});
+}
+
+Cases arcMethods()
+{
+    return choices(arc, "m_pArcCMB", RecordKeys::arcMode,
+                   {{"Start, Center, End", ArcMode::startCenterEnd},
+                    {"Start, End, Edge", ArcMode::startEndEdge},
+                    {"Start, End, Center", ArcMode::startEndCenter},
+                    {"Start, Center, Angle", ArcMode::startCenterAngle},
+                    {"Start, Center, Length", ArcMode::startCenterLength},
+                    {"Start, End, Angle", ArcMode::startEndAngle},
+                    {"Start, End, Radius", ArcMode::startEndRadius}});
+}
+
+Cases circleMethods()
+{
+    return choices(circle, "m_pCircleCMB", RecordKeys::circleMode,
+                   {{"Center, Radius", CircleMode::centerRadius},
+                    {"Center, Point", CircleMode::centerPoint},
+                    {"Point, Center", CircleMode::pointCenter},
+                    {"Three Points", CircleMode::threePoints}});
+}
+
+Cases families()
+{
+    const Expect::Expectations arcMethod = {Expect::enabled("m_pArcCMB"),
+                                            Expect::disabled("m_pCircleCMB")};
+    const Expect::Expectations circleMethod = {Expect::disabled("m_pArcCMB"),
+                                               Expect::enabled("m_pCircleCMB")};
     return {
-        {"circle",
-         arc + QStringList("m_pArcCMB=1"),
-         "m_pArcAndCircleCMB=1",
-         {{RecordKeys::arcAndCircle, ArcOrCircle::circle},
-          {RecordKeys::arcMode, ArcMode::startEndEdge}},
-         {Sent::Record},
-         circleStates},
-        {"arc again",
-         circle + QStringList("m_pCircleCMB=2"),
-         "m_pArcAndCircleCMB=0",
-         {{RecordKeys::arcAndCircle, ArcOrCircle::arc},
-          {RecordKeys::circleMode, CircleMode::pointCenter}},
-         {Sent::Record},
-         arcStates},
-        {"neither",
-         circle,
-         "m_pArcAndCircleCMB=-1",
-         {{RecordKeys::arcAndCircle, ArcOrCircle::circle}},
-         {Sent::Record},
-         circleStates},
+        Case("circle")
+            .given(arc + Choose("m_pArcCMB", "Start, End, Edge"))
+            .when(Choose("m_pArcAndCircleCMB", "Circle"))
+            .then(Expect::record(RecordKeys::arcAndCircle, ArcOrCircle::circle),
+                  Expect::record(RecordKeys::arcMode, ArcMode::startEndEdge),
+                  Expect::sent(Sent::Record), circleMethod),
+        Case("arc again")
+            .given(circle + Choose("m_pCircleCMB", "Point, Center"))
+            .when(Choose("m_pArcAndCircleCMB", "Arc"))
+            .then(Expect::record(RecordKeys::arcAndCircle, ArcOrCircle::arc),
+                  Expect::record(RecordKeys::circleMode, CircleMode::pointCenter),
+                  Expect::sent(Sent::Record), arcMethod),
+        Case("neither")
+            .given(circle)
+            .when(ChooseNothing("m_pArcAndCircleCMB"))
+            .then(Expect::record(RecordKeys::arcAndCircle, ArcOrCircle::circle),
+                  Expect::sent(Sent::Record), circleMethod),
     };
 }
 
 /// A click on a type tells the attributes first; the type is a number from then on.
-QList<Case> types()
+Cases types()
 {
+    const auto type = [](const QString& name, const QString& button, const QString& kind) {
+        return Case(name)
+            .when(Click(button))
+            .then(Expect::record(RecordKeys::features, kind.toInt()),
+                  Expect::sent(Sent::AttributeMap, Sent::Record));
+    };
     return {
-        {"surface",
-         {},
-         "m_pSurfaceTB",
-         {{RecordKeys::features, FeatureKind::surface.toInt()}},
-         {Sent::AttributeMap, Sent::Record},
-         {"shown m_pSurfacePage"}},
-        {"arc",
-         {},
-         "m_pArcTB",
-         {{RecordKeys::features, FeatureKind::arc.toInt()}},
-         {Sent::AttributeMap, Sent::Record},
-         {"shown m_pArcPage"}},
-        {"arc after surface",
-         surface + QStringList("m_pSurfShapeCMB=2"),
-         "m_pArcTB",
-         {{RecordKeys::features, FeatureKind::arc.toInt()}},
-         {Sent::AttributeMap, Sent::Record},
-         {"hidden m_pSurfacePage", "shown m_pArcPage"}},
+        type("surface", "m_pSurfaceTB", FeatureKind::surface).then(Expect::shown("m_pSurfacePage")),
+        type("arc", "m_pArcTB", FeatureKind::arc).then(Expect::shown("m_pArcPage")),
+        type("arc after surface", "m_pArcTB", FeatureKind::arc)
+            .given(surface + Choose("m_pSurfShapeCMB", "Circle"))
+            .then(Expect::hidden("m_pSurfacePage"), Expect::shown("m_pArcPage")),
     };
 }
 
-QList<Case> clockWise()
+Cases clockWise()
 {
     return {
-        {"counter-clockwise",
-         arc,
-         "m_pClockWiseCB",
-         {{RecordKeys::clockWise, ClockWise::no}},
-         {Sent::Record}},
-        {"clockwise again",
-         arc + QStringList("m_pClockWiseCB"),
-         "m_pClockWiseCB",
-         {{RecordKeys::clockWise, ClockWise::yes}},
-         {Sent::Record}},
+        Case("counter-clockwise")
+            .given(arc)
+            .when(Click("m_pClockWiseCB"))
+            .then(Expect::record(RecordKeys::clockWise, ClockWise::no), Expect::sent(Sent::Record)),
+        Case("clockwise again")
+            .given(arc + Click("m_pClockWiseCB"))
+            .when(Click("m_pClockWiseCB"))
+            .then(Expect::record(RecordKeys::clockWise, ClockWise::yes),
+                  Expect::sent(Sent::Record)),
     };
 }
 
@@ -118,186 +137,194 @@ class TestSurfaceAndArcPage : public QObject {
 private Q_SLOTS:
     void table_data()
     {
-        PageCases::addRows(choices(surface, "m_pSurfShapeCMB", RecordKeys::surfaceShape, 3) +
-                           choices(arc, "m_pArcCMB", RecordKeys::arcMode, 7) +
-                           choices(circle, "m_pCircleCMB", RecordKeys::circleMode, 4) + families() +
-                           clockWise() + types());
+        addCases(surfaceShapes() + arcMethods() + circleMethods() + families() + clockWise() +
+                 types());
     }
-    void table() { PageCases::run(); }
+    void table() { runCase(); }
 
     void defaults()
     {
-        PageCases::compareStart({{RecordKeys::features, FeatureKind::line},
-                                 {RecordKeys::surfaceShape, SurfaceKind::rectangle},
-                                 {RecordKeys::arcAndCircle, ArcOrCircle::arc},
-                                 {RecordKeys::arcMode, ArcMode::startCenterEnd},
-                                 {RecordKeys::circleMode, CircleMode::centerRadius},
-                                 {RecordKeys::clockWise, ClockWise::yes}});
+        DialogFixture fixture;
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());
+        Expect::holds(fixture, {Expect::record(RecordKeys::features, FeatureKind::line),
+                                Expect::record(RecordKeys::surfaceShape, SurfaceKind::rectangle),
+                                Expect::record(RecordKeys::arcAndCircle, ArcOrCircle::arc),
+                                Expect::record(RecordKeys::arcMode, ArcMode::startCenterEnd),
+                                Expect::record(RecordKeys::circleMode, CircleMode::centerRadius),
+                                Expect::record(RecordKeys::clockWise, ClockWise::yes)});
     }
 
     void connections()
     {
-        PageCases::compareConnections(
-            {{"m_pSurfShapeCMB", SIGNAL(currentIndexChanged(QString)),
-              SLOT(on_SurfShape_ComboBox_Changed())},
-             {"m_pArcAndCircleCMB", SIGNAL(currentIndexChanged(QString)),
-              SLOT(on_ArcAndCircle_ComboBox_Changed())},
-             {"m_pArcCMB", SIGNAL(currentIndexChanged(QString)), SLOT(on_Arc_ComboBox_Changed())},
-             {"m_pCircleCMB", SIGNAL(currentIndexChanged(QString)),
-              SLOT(on_Circle_ComboBox_Changed())},
+        const char* const index = SIGNAL(currentIndexChanged(QString));
+        PageCases::connected(
+            {{"m_pSurfShapeCMB", index, SLOT(on_SurfShape_ComboBox_Changed())},
+             {"m_pArcAndCircleCMB", index, SLOT(on_ArcAndCircle_ComboBox_Changed())},
+             {"m_pArcCMB", index, SLOT(on_Arc_ComboBox_Changed())},
+             {"m_pCircleCMB", index, SLOT(on_Circle_ComboBox_Changed())},
              {"m_pClockWiseCB", SIGNAL(stateChanged(int)),
               SLOT(on_ClockWise_CheckState_Changed(int))}});
     }
 
     void byHand_data()
     {
-        QTest::addColumn<QStringList>("before");
+        QTest::addColumn<Steps>("reach");
         QTest::addColumn<QString>("combo");
+        QTest::addColumn<QString>("last");
         QTest::addColumn<QString>("key");
-        QTest::newRow("surface") << surface << "m_pSurfShapeCMB" << RecordKeys::surfaceShape;
-        QTest::newRow("arc") << arc << "m_pArcCMB" << RecordKeys::arcMode;
-        QTest::newRow("circle") << circle << "m_pCircleCMB" << RecordKeys::circleMode;
+        QTest::addColumn<QString>("lastValue");
+        QTest::addColumn<QString>("valueBefore");
+        QTest::newRow("surface") << surface << "m_pSurfShapeCMB"
+                                 << "Circle" << RecordKeys::surfaceShape << SurfaceKind::circle
+                                 << SurfaceKind::polygon;
+        QTest::newRow("arc") << arc << "m_pArcCMB"
+                             << "Start, End, Center" << RecordKeys::arcMode
+                             << ArcMode::startEndCenter << ArcMode::startEndEdge;
+        QTest::newRow("circle") << circle << "m_pCircleCMB"
+                                << "Point, Center" << RecordKeys::circleMode
+                                << CircleMode::pointCenter << CircleMode::centerPoint;
     }
     void byHand()
     {
-        QFETCH(QStringList, before);
+        QFETCH(Steps, reach);
         QFETCH(QString, combo);
+        QFETCH(QString, last);
         QFETCH(QString, key);
-        PageFixture fixture;
-        fixture.perform(before);
-        fixture.forget();
-        const auto stored = [&] { return fixture.record().value(key).toString(); };
-        fixture.chooseByMouse(combo, 2);
-        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
-        QCOMPARE(stored(), QString("3"));
-        fixture.press(combo, Qt::Key_Up, 1);
-        QCOMPARE(fixture.codes(), (QList<int>{Sent::Record, Sent::Record}));
-        QCOMPARE(stored(), QString("2"));
-        fixture.turnWheel(combo, 1);
-        QCOMPARE(fixture.codes(), (QList<int>{Sent::Record, Sent::Record, Sent::Record}));
-        QCOMPARE(stored(), QString("3"));
+        QFETCH(QString, lastValue);
+        QFETCH(QString, valueBefore);
+        DialogFixture fixture;
+        fixture.perform(reach);
+        fixture.recorder.clear();
+        auto& list = fixture.find<QComboBox>(combo);
+        ByHand::click(list, last);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture, {Expect::record(key, lastValue)});
+        ByHand::press(list, Qt::Key_Up);
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::Record, Sent::Record}));
+        Expect::holds(fixture, {Expect::record(key, valueBefore)});
+        ByHand::turnWheel(list);
+        QCOMPARE(fixture.recorder.codes(),
+                 (QVector<int>{Sent::Record, Sent::Record, Sent::Record}));
+        Expect::holds(fixture, {Expect::record(key, lastValue)});
     }
 
     void aDisabledMethodTakesNoInput()
     {
-        PageFixture fixture;
-        fixture.perform(arc);
-        fixture.forget();
-        fixture.press("m_pCircleCMB", Qt::Key_Down, 1);
-        fixture.turnWheel("m_pCircleCMB", 1);
+        DialogFixture fixture;
+        fixture.chooseType("m_pArcTB");
+        auto& methods = fixture.find<QComboBox>("m_pCircleCMB");
+        ByHand::press(methods, Qt::Key_Down);
+        ByHand::turnWheel(methods);
         fixture.click("m_pCircleCMB");
         QVERIFY(!QApplication::activePopupWidget());
-        QCOMPARE(fixture.index("m_pCircleCMB"), 0);
-        QCOMPARE(fixture.codes(), QList<int>());
+        QCOMPARE(methods.currentText(), QString("Center, Radius"));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());
     }
 
     /// A symbol that cannot be sent is no matter of surfaces, but keeps an arc back.
     void withASymbolThatCannotBeSent_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("step");
-        QTest::addColumn<bool>("isSent");
-        QTest::newRow("surface") << "m_pSurfaceTB"
-                                 << "m_pSurfShapeCMB=1" << true;
-        QTest::newRow("arc") << "m_pArcTB"
-                             << "m_pArcCMB=1" << false;
+        addCases({Case("surface")
+                      .given(surface + SetText("m_pSymbolTextLE", "r60000"))
+                      .when(Choose("m_pSurfShapeCMB", "Polygon"))
+                      .then(Expect::record(RecordKeys::surfaceShape, SurfaceKind::polygon),
+                            Expect::sent(Sent::Record), Expect::text("m_pSymbolTextLE", "r60000")),
+                  // It is kept all the same.
+                  Case("arc")
+                      .given(arc + SetText("m_pSymbolTextLE", "r60000"))
+                      .when(Choose("m_pArcCMB", "Start, End, Edge"))
+                      .then(Expect::record(RecordKeys::arcMode, ArcMode::startEndEdge),
+                            Expect::hostBox(), Expect::text("m_pSymbolTextLE", ""))});
     }
-    void withASymbolThatCannotBeSent()
-    {
-        QFETCH(QString, type);
-        QFETCH(QString, step);
-        QFETCH(bool, isSent);
-        PageFixture fixture;
-        fixture.perform(type);
-        fixture.setText("m_pSymbolTextLE", "r60000");
-        fixture.forget();
-        fixture.perform(step);
-        QCOMPARE(fixture.codes(), isSent ? QList<int>{Sent::Record} : QList<int>{});
-        QCOMPARE(fixture.boxes().size(), isSent ? 0 : 1);
-        QCOMPARE(fixture.text("m_pSymbolTextLE"), QString(isSent ? "r60000" : ""));
-        // It is kept all the same.
-        QCOMPARE(fixture.record()
-                     .value(isSent ? RecordKeys::surfaceShape : RecordKeys::arcMode)
-                     .toString(),
-                 QString("2"));
-    }
+    void withASymbolThatCannotBeSent() { runCase(); }
 
     void start()
     {
-        PageFixture fixture;
-        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pSurfShapeCMB")),
-                 (QStringList{"Rectangle", "Polygon", "Circle"}));
-        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pArcAndCircleCMB")),
-                 (QStringList{"Arc", "Circle"}));
-        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pArcCMB")),
+        DialogFixture fixture;
+        const auto items = [&](const char* combo) {
+            return itemTexts(fixture.find<QComboBox>(combo));
+        };
+        QCOMPARE(items("m_pSurfShapeCMB"), (QStringList{"Rectangle", "Polygon", "Circle"}));
+        QCOMPARE(items("m_pArcAndCircleCMB"), (QStringList{"Arc", "Circle"}));
+        QCOMPARE(items("m_pArcCMB"),
                  (QStringList{"Start, Center, End", "Start, End, Edge", "Start, End, Center",
                               "Start, Center, Angle", "Start, Center, Length", "Start, End, Angle",
                               "Start, End, Radius"}));
-        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pCircleCMB")),
+        QCOMPARE(items("m_pCircleCMB"),
                  (QStringList{"Center, Radius", "Center, Point", "Point, Center", "Three Points"}));
-        for (const char* const combo :
-             {"m_pSurfShapeCMB", "m_pArcAndCircleCMB", "m_pArcCMB", "m_pCircleCMB"}) {
-            QCOMPARE(fixture.index(combo), 0);
-        }
         QCOMPARE(fixture.find<QCheckBox>("m_pClockWiseCB").text(), QString("ClockWise"));
-        for (const char* const state :
-             {"checked m_pClockWiseCB", "enabled m_pArcCMB", "disabled m_pCircleCMB"}) {
-            QVERIFY2(fixture.hasState(state), state);
-        }
-        QCOMPARE(fixture.greyedItems("m_pArcPage"),
-                 (QStringList{"m_pArcCMB 3", "m_pArcCMB 4", "m_pArcCMB 5", "m_pArcCMB 6",
-                              "m_pCircleCMB 3"}));
-        QCOMPARE(fixture.greyedItems("m_pSurfacePage"), QStringList());
+        Expect::holds(fixture, {Expect::chosen("m_pSurfShapeCMB", "Rectangle"),
+                                Expect::chosen("m_pArcAndCircleCMB", "Arc"),
+                                Expect::chosen("m_pArcCMB", "Start, Center, End"),
+                                Expect::chosen("m_pCircleCMB", "Center, Radius"),
+                                Expect::checked("m_pClockWiseCB"), Expect::enabled("m_pArcCMB"),
+                                Expect::disabled("m_pCircleCMB")});
+        QCOMPARE(PageCases::greyedItems(fixture, "m_pArcPage"),
+                 (QStringList{"m_pArcCMB: Start, Center, Angle", "m_pArcCMB: Start, Center, Length",
+                              "m_pArcCMB: Start, End, Angle", "m_pArcCMB: Start, End, Radius",
+                              "m_pCircleCMB: Three Points"}));
+        QCOMPARE(PageCases::greyedItems(fixture, "m_pSurfacePage"), QStringList());
     }
 
     void rowsOfTheArcPage()
     {
-        PageFixture fixture;
+        const DialogFixture fixture;
         fixture.perform(arc);
-        const auto top = [&](const char* name) { return fixture.find<QWidget>(name).y(); };
+        const auto top = [&](const char* name) { return fixture.find(name).y(); };
         QVERIFY(top("m_pArcCMB") > top("m_pArcAndCircleCMB"));
         QVERIFY(top("m_pCircleCMB") > top("m_pArcCMB"));
-        QVERIFY(fixture.find<QWidget>("m_pClockWiseCB").x() >
-                fixture.find<QWidget>("m_pArcAndCircleCMB").x());
+        QVERIFY(fixture.find("m_pClockWiseCB").x() > fixture.find("m_pArcAndCircleCMB").x());
     }
 
     void greyedItems_data()
     {
-        PageCases::addGreyedRows({{"m_pArcCMB", arc, 2, 7}, {"m_pCircleCMB", circle, 2, 4}});
+        using PageCases::GreyedItems;
+        PageCases::addGreyedRows(
+            {GreyedItems("m_pArcCMB")
+                 .reachedBy(arc)
+                 .free({"Start, Center, End", "Start, End, Edge", "Start, End, Center"})
+                 .greyed({"Start, Center, Angle", "Start, Center, Length", "Start, End, Angle",
+                          "Start, End, Radius"}),
+             GreyedItems("m_pCircleCMB")
+                 .reachedBy(circle)
+                 .free({"Center, Radius", "Center, Point", "Point, Center"})
+                 .greyed({"Three Points"})});
     }
     void greyedItems() { PageCases::tryToReachGreyedItem(); }
 
     void theClockWiseBoxItselfDecides()
     {
-        PageFixture fixture;
-        fixture.dialog().on_ClockWise_CheckState_Changed(Qt::Unchecked);
-        QCOMPARE(fixture.record().value(RecordKeys::clockWise), QVariant(ClockWise::yes));
+        DialogFixture fixture;
+        fixture.dialog->on_ClockWise_CheckState_Changed(Qt::Unchecked);
+        Expect::holds(fixture, {Expect::record(RecordKeys::clockWise, ClockWise::yes)});
     }
 
     void keepTheirStateWhenShownAgain()
     {
-        PageFixture fixture;
-        fixture.perform(QStringList{"m_pSurfaceTB", "m_pSurfShapeCMB=2", "m_pArcTB",
-                                    "m_pArcAndCircleCMB=1", "m_pSurfaceTB"});
-        QCOMPARE(fixture.index("m_pSurfShapeCMB"), 2);
-        QCOMPARE(fixture.record().value(RecordKeys::surfaceShape), QVariant(SurfaceKind::circle));
-        QCOMPARE(fixture.record().value(RecordKeys::arcAndCircle), QVariant(ArcOrCircle::circle));
+        DialogFixture fixture;
+        fixture.perform(surface + Choose("m_pSurfShapeCMB", "Circle") + Click("m_pArcTB") +
+                        Choose("m_pArcAndCircleCMB", "Circle") + Click("m_pSurfaceTB"));
+        Expect::holds(fixture, {Expect::chosen("m_pSurfShapeCMB", "Circle"),
+                                Expect::record(RecordKeys::surfaceShape, SurfaceKind::circle),
+                                Expect::record(RecordKeys::arcAndCircle, ArcOrCircle::circle)});
     }
 
     void language_data()
     {
         QTest::addColumn<QString>("page");
-        QTest::addColumn<QStringList>("before");
+        QTest::addColumn<Steps>("before");
         QTest::newRow("surface") << "m_pSurfacePage"
-                                 << QStringList{"m_pSurfaceTB", "m_pSurfShapeCMB=1"};
-        QTest::newRow("arc") << "m_pArcPage" << QStringList{"m_pArcTB", "m_pArcCMB=2"};
-        QTest::newRow("greyed arc") << "m_pArcPage" << arc + QStringList("m_pArcCMB=6");
-        QTest::newRow("greyed circle") << "m_pArcPage" << circle + QStringList("m_pCircleCMB=3");
+                                 << surface + Choose("m_pSurfShapeCMB", "Polygon");
+        QTest::newRow("arc") << "m_pArcPage" << arc + Choose("m_pArcCMB", "Start, End, Center");
+        QTest::newRow("greyed arc")
+            << "m_pArcPage" << arc + Choose("m_pArcCMB", "Start, End, Radius");
+        QTest::newRow("greyed circle")
+            << "m_pArcPage" << circle + Choose("m_pCircleCMB", "Three Points");
     }
     void language()
     {
         QFETCH(QString, page);
-        QFETCH(QStringList, before);
+        QFETCH(Steps, before);
         PageCases::retranslate(page, before);
     }
 };

@@ -1,167 +1,190 @@
 // Barcode, plot stamp and canned text: what their controls write. None of them sends.
 
-#include "FindChild.h"
 #include "Main.h"
 #include "PageCases.h"
-#include "PageFixture.h"
-#include "addfeature/AddFeature.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 
 namespace Sent = MessageCodes::Sent;
 
-using PageCases::Case;
-
 namespace {
 
-const QStringList barcode = {"m_pTextTB", "m_pTextFormatCMB=1"};
-const QStringList matrixCode = {"m_pTextTB", "m_pTextFormatCMB=1", "m_pUPCCMB=4"};
-const QStringList plotStamp = {"m_pTextTB", "m_pTextFormatCMB=2"};
-const QStringList canned = {"m_pTextTB", "m_pTextFormatCMB=3"};
+const Steps text = {Click("m_pTextTB")};
+const Steps barcode = text + Choose("m_pTextFormatCMB", "Barcode");
+const Steps matrixCode = barcode + Choose("m_pUPCCMB", "ECC-200");
+const Steps plotStamp = text + Choose("m_pTextFormatCMB", "Orbotech Plot Stamp");
+const Steps cannedText = text + Choose("m_pTextFormatCMB", "Canned Text");
 
-QString text(const char* value)
+Cases barcodeTypes()
 {
-    return QString::fromLatin1(value);
-}
-
-QList<Case> barcodeTypes()
-{
-    const QStringList on = {"enabled m_pAddMarkersCB", "enabled m_pMatrixPB",
-                            "enabled m_pMatrixLE"};
-    const QStringList off = {"disabled m_pAddMarkersCB", "disabled m_pMatrixPB",
-                             "disabled m_pMatrixLE"};
-    QList<Case> rows;
-    for (int index = 0; index < 5; ++index) {
-        rows.append({QStringLiteral("barcode type %1").arg(index),
-                     barcode + QStringList(index == 4 ? "m_pUPCCMB=0" : "m_pUPCCMB=4"),
-                     QStringLiteral("m_pUPCCMB=%1").arg(index),
-                     {{RecordKeys::barcodeMode, index + 1}},
-                     {},
-                     index == 4 ? on : off});
-    }
-    rows.append({"matrix values are kept",
-                 matrixCode + QStringList{"m_pAddMarkersCB", "m_pMatrixLE<12x12"},
-                 "m_pUPCCMB=3",
-                 {{RecordKeys::addMarkers, Added::yes},
-                  {RecordKeys::barcodeMatrix, text("12x12")},
-                  {RecordKeys::barcodeMode, Symbology::code128C.toInt()}},
-                 {},
-                 off});
-    return rows;
-}
-
-QList<Case> barcodeOptions()
-{
+    const Expect::Expectations aMatrix = {Expect::enabled("m_pAddMarkersCB"),
+                                          Expect::enabled("m_pMatrixPB"),
+                                          Expect::enabled("m_pMatrixLE")};
+    const Expect::Expectations noMatrix = {Expect::disabled("m_pAddMarkersCB"),
+                                           Expect::disabled("m_pMatrixPB"),
+                                           Expect::disabled("m_pMatrixLE")};
+    const auto type = [](const QString& item, const QString& other, const QString& value) {
+        return Case("barcode type " + item)
+            .given(barcode + Choose("m_pUPCCMB", other))
+            .when(Choose("m_pUPCCMB", item))
+            .then(Expect::record(RecordKeys::barcodeMode, value.toInt()));
+    };
     return {
-        {"",
-         barcode,
-         "m_pAddStringCB",
-         {{RecordKeys::addString, Added::yes}},
-         {},
-         {"enabled m_pPositionCMB"}},
-        {"string off",
-         barcode + QStringList("m_pAddStringCB"),
-         "m_pAddStringCB",
-         {{RecordKeys::addString, Added::no}},
-         {},
-         {"disabled m_pPositionCMB"}},
-        {"bottom",
-         barcode + QStringList("m_pAddStringCB"),
-         "m_pPositionCMB=1",
-         {{RecordKeys::stringPosition, StringPosition::bottom}}},
-        {"top",
-         barcode + QStringList{"m_pAddStringCB", "m_pPositionCMB=1"},
-         "m_pPositionCMB=0",
-         {{RecordKeys::stringPosition, StringPosition::top}}},
-        {"no position",
-         barcode + QStringList("m_pPositionCMB=1"),
-         "m_pPositionCMB=-1",
-         {{RecordKeys::stringPosition, StringPosition::bottom}}},
-        // The markers decide what the background is stored as.
-        {"background alone",
-         matrixCode,
-         "m_pBackgroundCB",
-         {{RecordKeys::addBackground, Added::no}, {RecordKeys::addMarkers, Added::no}}},
-        {"background with markers",
-         matrixCode + QStringList("m_pAddMarkersCB"),
-         "m_pBackgroundCB",
-         {{RecordKeys::addBackground, Added::yes}}},
-        {"background off with markers",
-         matrixCode + QStringList{"m_pBackgroundCB", "m_pAddMarkersCB"},
-         "m_pBackgroundCB",
-         {{RecordKeys::addBackground, Added::yes}}},
-        {"markers",
-         matrixCode,
-         "m_pAddMarkersCB",
-         {{RecordKeys::addMarkers, Added::yes}, {RecordKeys::addBackground, Added::no}}},
-        {"markers off",
-         matrixCode + QStringList("m_pAddMarkersCB"),
-         "m_pAddMarkersCB",
-         {{RecordKeys::addMarkers, Added::no}}},
-        {"", matrixCode, "m_pMatrixLE<anything", {{RecordKeys::barcodeMatrix, text("anything")}}},
-        {"", matrixCode, "m_pMatrixPB", {}},
-        {"typed matrix",
-         matrixCode,
-         "m_pMatrixLE:8 x 18?",
-         {{RecordKeys::barcodeMatrix, text("8 x 18?")}}},
-        {"no matrix", matrixCode, "m_pMatrixLE<", {{RecordKeys::barcodeMatrix, text("")}}},
-        {"typed height", barcode, "m_pHeightLE:12.5", {{RecordKeys::barcodeHeight, text("317.5")}}},
+        type("UPC39", "ECC-200", Symbology::upc39).then(noMatrix),
+        type("UPC39 ascii", "ECC-200", Symbology::upc39Ascii).then(noMatrix),
+        type("CODE128B", "ECC-200", Symbology::code128B).then(noMatrix),
+        type("CODE128C", "ECC-200", Symbology::code128C).then(noMatrix),
+        type("ECC-200", "UPC39", Symbology::ecc200).then(aMatrix),
+        Case("matrix values are kept")
+            .given(matrixCode + Click("m_pAddMarkersCB") + Enter("m_pMatrixLE", "12x12"))
+            .when(Choose("m_pUPCCMB", "CODE128C"))
+            .then(Expect::record(RecordKeys::addMarkers, Added::yes),
+                  Expect::record(RecordKeys::barcodeMatrix, "12x12"),
+                  Expect::record(RecordKeys::barcodeMode, Symbology::code128C.toInt()), noMatrix),
     };
 }
 
-QList<Case> plotStamps()
+Cases strings()
 {
-    QList<Case> rows = {
-        {"stamp barcode",
-         plotStamp,
-         "m_pOrbotechTypeCMB=1",
-         {{RecordKeys::orbotechType, PlotStampType::barcode}}},
-        {"stamp string",
-         plotStamp + QStringList("m_pOrbotechTypeCMB=1"),
-         "m_pOrbotechTypeCMB=0",
-         {{RecordKeys::orbotechType, PlotStampType::string}}},
-        {"no stamp", plotStamp, "m_pOrbotechTypeCMB=-1", {{RecordKeys::orbotechType, 0}}},
+    const Steps withString = barcode + Click("m_pAddStringCB");
+    return {
+        Case()
+            .given(barcode)
+            .when(Click("m_pAddStringCB"))
+            .then(Expect::record(RecordKeys::addString, Added::yes),
+                  Expect::enabled("m_pPositionCMB")),
+        Case("string off")
+            .given(withString)
+            .when(Click("m_pAddStringCB"))
+            .then(Expect::record(RecordKeys::addString, Added::no),
+                  Expect::disabled("m_pPositionCMB")),
+        Case("bottom")
+            .given(withString)
+            .when(Choose("m_pPositionCMB", "Bottom"))
+            .then(Expect::record(RecordKeys::stringPosition, StringPosition::bottom)),
+        Case("top")
+            .given(withString + Choose("m_pPositionCMB", "Bottom"))
+            .when(Choose("m_pPositionCMB", "Top"))
+            .then(Expect::record(RecordKeys::stringPosition, StringPosition::top)),
+        Case("no position")
+            .given(barcode + Choose("m_pPositionCMB", "Bottom"))
+            .when(ChooseNothing("m_pPositionCMB"))
+            .then(Expect::record(RecordKeys::stringPosition, StringPosition::bottom)),
     };
-    for (int index = 1; index < 4; ++index) {
-        rows.append({QString(),
-                     plotStamp,
-                     QStringLiteral("m_pOrbotechFontSizeCMB=%1").arg(index),
-                     {{RecordKeys::orbotechFontSize, index + 1}}});
-    }
-    for (int index = 1; index < 7; ++index) {
-        rows.append({QString(),
-                     plotStamp,
-                     QStringLiteral("m_pOrbotechZoomCMB=%1").arg(index),
-                     {{RecordKeys::orbotechZoom, index + 1}}});
-    }
-    return rows;
 }
 
-QList<Case> cannedTexts()
+/// The markers decide what the background is stored as.
+Cases backgroundAndMarkers()
+{
+    const Steps withMarkers = matrixCode + Click("m_pAddMarkersCB");
+    return {
+        Case("background alone")
+            .given(matrixCode)
+            .when(Click("m_pBackgroundCB"))
+            .then(Expect::record(RecordKeys::addBackground, Added::no),
+                  Expect::record(RecordKeys::addMarkers, Added::no)),
+        Case("background with markers")
+            .given(withMarkers)
+            .when(Click("m_pBackgroundCB"))
+            .then(Expect::record(RecordKeys::addBackground, Added::yes)),
+        Case("background off with markers")
+            .given(matrixCode + Click("m_pBackgroundCB") + Click("m_pAddMarkersCB"))
+            .when(Click("m_pBackgroundCB"))
+            .then(Expect::record(RecordKeys::addBackground, Added::yes)),
+        Case("markers")
+            .given(matrixCode)
+            .when(Click("m_pAddMarkersCB"))
+            .then(Expect::record(RecordKeys::addMarkers, Added::yes),
+                  Expect::record(RecordKeys::addBackground, Added::no)),
+        Case("markers off")
+            .given(withMarkers)
+            .when(Click("m_pAddMarkersCB"))
+            .then(Expect::record(RecordKeys::addMarkers, Added::no)),
+    };
+}
+
+Cases matrixAndHeight()
 {
     return {
-        {"typed hole size",
-         canned,
-         "m_pCannedHoleSizeLE:20.5",
-         {{RecordKeys::cannedHoleSize, text("520.7")}}},
-        {"6 by 7",
-         canned + QStringList("m_pOrbotechZoomCMB=6"),
-         "m_pCannedHoleSizeCMB=1",
-         {{RecordKeys::cannedHoleMode, CannedHoleMode::sixBySeven}, {RecordKeys::orbotechZoom, 7}}},
-        {"5 by 7",
-         canned + QStringList("m_pCannedHoleSizeCMB=1"),
-         "m_pCannedHoleSizeCMB=0",
-         {{RecordKeys::cannedHoleMode, CannedHoleMode::fiveBySeven},
-          {RecordKeys::orbotechZoom, 1}}},
-        {"no mode",
-         canned + QStringList("m_pCannedHoleSizeCMB=1"),
-         "m_pCannedHoleSizeCMB=-1",
-         {{RecordKeys::cannedHoleMode, CannedHoleMode::sixBySeven}, {RecordKeys::orbotechZoom, 1}}},
+        Case()
+            .given(matrixCode)
+            .when(Enter("m_pMatrixLE", "anything"))
+            .then(Expect::record(RecordKeys::barcodeMatrix, "anything")),
+        Case().given(matrixCode).when(Click("m_pMatrixPB")),
+        Case("typed matrix")
+            .given(matrixCode)
+            .when(Type("m_pMatrixLE", "8 x 18?"))
+            .then(Expect::record(RecordKeys::barcodeMatrix, "8 x 18?")),
+        Case("no matrix")
+            .given(matrixCode)
+            .when(Enter("m_pMatrixLE", ""))
+            .then(Expect::record(RecordKeys::barcodeMatrix, "")),
+        Case("typed height")
+            .given(barcode)
+            .when(Type("m_pHeightLE", "12.5"))
+            .then(Expect::record(RecordKeys::barcodeHeight, "317.5")),
+    };
+}
+
+Cases plotStamps()
+{
+    Cases cases = {
+        Case("stamp barcode")
+            .given(plotStamp)
+            .when(Choose("m_pOrbotechTypeCMB", "Barcode"))
+            .then(Expect::record(RecordKeys::orbotechType, PlotStampType::barcode)),
+        Case("stamp string")
+            .given(plotStamp + Choose("m_pOrbotechTypeCMB", "Barcode"))
+            .when(Choose("m_pOrbotechTypeCMB", "String"))
+            .then(Expect::record(RecordKeys::orbotechType, PlotStampType::string)),
+        Case("no stamp")
+            .given(plotStamp)
+            .when(ChooseNothing("m_pOrbotechTypeCMB"))
+            .then(Expect::record(RecordKeys::orbotechType, 0)),
+    };
+    for (const QString& size : QStringList{"2", "3", "4"}) {
+        cases.append(Case()
+                         .given(plotStamp)
+                         .when(Choose("m_pOrbotechFontSizeCMB", size))
+                         .then(Expect::record(RecordKeys::orbotechFontSize, size.toInt())));
+    }
+    for (const QString& zoom : QStringList{"2", "3", "4", "5", "6", "7"}) {
+        cases.append(Case()
+                         .given(plotStamp)
+                         .when(Choose("m_pOrbotechZoomCMB", zoom))
+                         .then(Expect::record(RecordKeys::orbotechZoom, zoom.toInt())));
+    }
+    return cases;
+}
+
+/// The mode of the holes stores the zoom as well.
+Cases cannedTexts()
+{
+    const Steps sixBySeven = cannedText + Choose("m_pCannedHoleSizeCMB", "6 X 7");
+    return {
+        Case("typed hole size")
+            .given(cannedText)
+            .when(Type("m_pCannedHoleSizeLE", "20.5"))
+            .then(Expect::record(RecordKeys::cannedHoleSize, "520.7")),
+        Case("6 by 7")
+            .given(cannedText + Choose("m_pOrbotechZoomCMB", "7"))
+            .when(Choose("m_pCannedHoleSizeCMB", "6 X 7"))
+            .then(Expect::record(RecordKeys::cannedHoleMode, CannedHoleMode::sixBySeven),
+                  Expect::record(RecordKeys::orbotechZoom, 7)),
+        Case("5 by 7")
+            .given(sixBySeven)
+            .when(Choose("m_pCannedHoleSizeCMB", "5 X 7"))
+            .then(Expect::record(RecordKeys::cannedHoleMode, CannedHoleMode::fiveBySeven),
+                  Expect::record(RecordKeys::orbotechZoom, 1)),
+        Case("no mode")
+            .given(sixBySeven)
+            .when(ChooseNothing("m_pCannedHoleSizeCMB"))
+            .then(Expect::record(RecordKeys::cannedHoleMode, CannedHoleMode::sixBySeven),
+                  Expect::record(RecordKeys::orbotechZoom, 1)),
     };
 }
 
@@ -173,40 +196,51 @@ class TestTextFormatsPage : public QObject {
 private Q_SLOTS:
     void table_data()
     {
-        PageCases::addRows(barcodeTypes() + barcodeOptions() + plotStamps() + cannedTexts());
+        addCases(barcodeTypes() + strings() + backgroundAndMarkers() + matrixAndHeight() +
+                 plotStamps() + cannedTexts());
     }
-    void table() { PageCases::run(); }
+    void table() { runCase(); }
 
     void lengths_data()
     {
-        PageCases::addRows(PageCases::lengthCases(
-            {{"m_pHeightLE", RecordKeys::barcodeHeight, barcode, 50000, {}, {}},
-             {"m_pCannedHoleSizeLE", RecordKeys::cannedHoleSize, canned, 50000, {}, {}}}));
+        using PageCases::LengthField;
+        addCases(LengthField("m_pHeightLE", RecordKeys::barcodeHeight)
+                     .reachedBy(barcode)
+                     .upTo(50000)
+                     .sends(Sends::Never)
+                     .cases() +
+                 LengthField("m_pCannedHoleSizeLE", RecordKeys::cannedHoleSize)
+                     .reachedBy(cannedText)
+                     .upTo(50000)
+                     .sends(Sends::Never)
+                     .cases());
     }
-    void lengths() { PageCases::run(); }
+    void lengths() { runCase(); }
 
     void defaults_data()
     {
-        QTest::addColumn<bool>("metric");
-        QTest::newRow("mil") << false;
-        QTest::newRow("metric") << true;
+        QTest::addColumn<Unit>("unit");
+        QTest::newRow("mil") << Unit::Mil;
+        QTest::newRow("metric") << Unit::Metric;
     }
     void defaults()
     {
-        QFETCH(bool, metric);
-        PageCases::compareStart({{RecordKeys::barcodeMode, Symbology::upc39},
-                                 {RecordKeys::addString, Added::no},
-                                 {RecordKeys::addBackground, Added::no},
-                                 {RecordKeys::stringPosition, StringPosition::top},
-                                 {RecordKeys::addMarkers, Added::no},
-                                 {RecordKeys::barcodeMatrix, text("Minimal")},
-                                 {RecordKeys::barcodeHeight, text("6350")},
-                                 {RecordKeys::orbotechType, PlotStampType::string},
-                                 {RecordKeys::orbotechFontSize, 1},
-                                 {RecordKeys::orbotechZoom, 1},
-                                 {RecordKeys::cannedHoleMode, CannedHoleMode::fiveBySeven},
-                                 {RecordKeys::cannedHoleSize, text("508")}},
-                                metric);
+        QFETCH(Unit, unit);
+        DialogFixture fixture(unit);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());
+        Expect::holds(fixture,
+                      {Expect::record(RecordKeys::barcodeMode, Symbology::upc39),
+                       Expect::record(RecordKeys::addString, Added::no),
+                       Expect::record(RecordKeys::addBackground, Added::no),
+                       Expect::record(RecordKeys::stringPosition, StringPosition::top),
+                       Expect::record(RecordKeys::addMarkers, Added::no),
+                       Expect::record(RecordKeys::barcodeMatrix, "Minimal"),
+                       Expect::record(RecordKeys::barcodeHeight, "6350"),
+                       Expect::record(RecordKeys::orbotechType, PlotStampType::string),
+                       Expect::record(RecordKeys::orbotechFontSize, 1),
+                       Expect::record(RecordKeys::orbotechZoom, 1),
+                       Expect::record(RecordKeys::cannedHoleMode, CannedHoleMode::fiveBySeven),
+                       Expect::record(RecordKeys::cannedHoleSize, "508")});
     }
 
     void connections()
@@ -214,7 +248,7 @@ private Q_SLOTS:
         const char* const index = SIGNAL(currentIndexChanged(QString));
         const char* const state = SIGNAL(stateChanged(int));
         const char* const edited = SIGNAL(editingFinished());
-        PageCases::compareConnections(
+        PageCases::connected(
             {{"m_pUPCCMB", index, SLOT(on_UPC_ComboBox_Changed())},
              {"m_pAddStringCB", state, SLOT(on_AddString_CheckState_Changed(int))},
              {"m_pPositionCMB", index, SLOT(on_m_pPositionCMB_ComboBox_Changed())},
@@ -232,7 +266,7 @@ private Q_SLOTS:
 
     void combos()
     {
-        PageFixture fixture;
+        const DialogFixture fixture;
         const auto list = [&](const char* name) {
             return itemTexts(fixture.find<QComboBox>(name));
         };
@@ -247,30 +281,29 @@ private Q_SLOTS:
 
     void start()
     {
-        PageFixture fixture;
-        for (const char* const state :
-             {"disabled m_pPositionCMB", "disabled m_pAddMarkersCB", "disabled m_pMatrixPB",
-              "disabled m_pMatrixLE", "enabled m_pBackgroundCB", "enabled m_pAddStringCB"}) {
-            QVERIFY2(fixture.hasState(state), state);
-        }
-        for (const char* const box : {"m_pAddStringCB", "m_pBackgroundCB", "m_pAddMarkersCB"}) {
-            QVERIFY(!fixture.find<QCheckBox>(box).isChecked());
-        }
-        QCOMPARE(fixture.text("m_pHeightLE"), QString("250"));
-        QCOMPARE(fixture.text("m_pMatrixLE"), QString("Minimal"));
-        QCOMPARE(fixture.text("m_pCannedHoleSizeLE"), QString("20"));
+        DialogFixture fixture;
+        Expect::holds(
+            fixture,
+            {Expect::disabled("m_pPositionCMB"), Expect::disabled("m_pAddMarkersCB"),
+             Expect::disabled("m_pMatrixPB"), Expect::disabled("m_pMatrixLE"),
+             Expect::enabled("m_pBackgroundCB"), Expect::enabled("m_pAddStringCB"),
+             Expect::unchecked("m_pAddStringCB"), Expect::unchecked("m_pBackgroundCB"),
+             Expect::unchecked("m_pAddMarkersCB"), Expect::text("m_pHeightLE", "250"),
+             Expect::text("m_pMatrixLE", "Minimal"), Expect::text("m_pCannedHoleSizeLE", "20")});
     }
 
     void labels()
     {
-        PageFixture fixture;
-        const char* const labels[][2] = {
-            {"m_pHeightLB", "Height\t:"},       {"m_pHeightUnitLB", "mil"},
-            {"m_pOrbotechTypeLB", "Type\t\t:"}, {"m_pOrbotechFontSizeLB", "Font Size\t:"},
-            {"m_pCannedTypeLB", "Type\t\t:"},   {"m_pOrbotechZoomLB", "Zoom Factor\t:"},
-            {"m_pCannedHoleSizeUnitLB", "mil"}};
-        for (const auto& [name, label] : labels) {
-            QCOMPARE(fixture.labelText(name), QString(label));
+        const DialogFixture fixture;
+        const struct {
+            const char* label;
+            const char* text;
+        } labels[] = {{"m_pHeightLB", "Height\t:"},       {"m_pHeightUnitLB", "mil"},
+                      {"m_pOrbotechTypeLB", "Type\t\t:"}, {"m_pOrbotechFontSizeLB", "Font Size\t:"},
+                      {"m_pCannedTypeLB", "Type\t\t:"},   {"m_pOrbotechZoomLB", "Zoom Factor\t:"},
+                      {"m_pCannedHoleSizeUnitLB", "mil"}};
+        for (const auto& expected : labels) {
+            QCOMPARE(fixture.find<QLabel>(expected.label).text(), QString(expected.text));
         }
         QCOMPARE(fixture.find<QPushButton>("m_pMatrixPB").text(), QString("Matrix\t:"));
         QCOMPARE(fixture.find<QCheckBox>("m_pAddStringCB").text(), QString("Add String"));
@@ -281,77 +314,81 @@ private Q_SLOTS:
     /// The labels say "mil" in every unit and language, whatever the fields show.
     void lengthLabels()
     {
-        PageFixture fixture(true);
-        for (const char* const label : {"m_pHeightUnitLB", "m_pCannedHoleSizeUnitLB"}) {
-            QCOMPARE(fixture.labelText(label), QString("mil"));
-            fixture.changeUnit(false);
-            fixture.changeUnit(true);
-            QCOMPARE(fixture.labelText(label), QString("mil"));
-            fixture.dialog().change_language();
-            QCOMPARE(fixture.labelText(label), QString("mil"));
+        const DialogFixture fixture(Unit::Metric);
+        for (const char* const name : {"m_pHeightUnitLB", "m_pCannedHoleSizeUnitLB"}) {
+            const auto& label = fixture.find<QLabel>(name);
+            QCOMPARE(label.text(), QString("mil"));
+            fixture.setUnit(Unit::Mil);
+            fixture.setUnit(Unit::Metric);
+            QCOMPARE(label.text(), QString("mil"));
+            fixture.dialog->change_language();
+            QCOMPARE(label.text(), QString("mil"));
         }
     }
 
-    void units_data()
+    void heightInBothUnits()
     {
-        QTest::addColumn<QStringList>("before");
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("label");
-        QTest::newRow("height") << barcode << "m_pHeightLE~100"
-                                << "m_pHeightUnitLB=mil|mil";
-        QTest::newRow("hole") << canned << "m_pCannedHoleSizeLE~12.5"
-                              << "m_pCannedHoleSizeUnitLB=mil|mil";
+        PageCases::switchUnitTenTimes(barcode, {{"m_pHeightLE", "100"}},
+                                      {{"m_pHeightUnitLB", "mil", "mil"}});
     }
-    void units()
+
+    void holeSizeInBothUnits()
     {
-        QFETCH(QStringList, before);
-        QFETCH(QString, field);
-        QFETCH(QString, label);
-        PageCases::switchUnitTenTimes(before, {field}, {label});
+        PageCases::switchUnitTenTimes(cannedText, {{"m_pCannedHoleSizeLE", "12.5"}},
+                                      {{"m_pCannedHoleSizeUnitLB", "mil", "mil"}});
     }
 
     void refusals_data()
     {
-        PageCases::addRefusalRows({{"m_pHeightLE", barcode, "50001", "0", "m_pMirrorCMB"},
-                                   {"m_pCannedHoleSizeLE", canned, "50001", "0", "m_pMirrorCMB"}});
+        using PageCases::Refusal;
+        PageCases::addRefusalRows({Refusal("m_pHeightLE")
+                                       .reachedBy(barcode)
+                                       .of("50001")
+                                       .leaves("0")
+                                       .beside("m_pMirrorCMB"),
+                                   Refusal("m_pCannedHoleSizeLE")
+                                       .reachedBy(cannedText)
+                                       .of("50001")
+                                       .leaves("0")
+                                       .beside("m_pMirrorCMB")});
     }
     void refusals() { PageCases::refuseOnce(); }
 
     void theBoxesThemselvesDecide()
     {
-        PageFixture fixture;
-        fixture.dialog().on_AddString_CheckState_Changed(Qt::Checked);
-        fixture.dialog().on_m_pAddMarkersCB_CheckState_Changed(Qt::Checked);
-        QCOMPARE(fixture.record().value(RecordKeys::addString), QVariant(Added::no));
-        QCOMPARE(fixture.record().value(RecordKeys::addMarkers), QVariant(Added::no));
+        DialogFixture fixture;
+        fixture.dialog->on_AddString_CheckState_Changed(Qt::Checked);
+        fixture.dialog->on_m_pAddMarkersCB_CheckState_Changed(Qt::Checked);
+        Expect::holds(fixture, {Expect::record(RecordKeys::addString, Added::no),
+                                Expect::record(RecordKeys::addMarkers, Added::no)});
     }
 
     void theHoleModeWritesTheZoomToo()
     {
-        PageFixture fixture;
-        fixture.perform(canned);
-        fixture.forget();
+        DialogFixture fixture;
+        fixture.perform(cannedText);
+        fixture.recorder.clear();
         {
             // A zoom that the record does not know yet.
             const QSignalBlocker blocker(&fixture.find<QComboBox>("m_pOrbotechZoomCMB"));
-            fixture.perform("m_pOrbotechZoomCMB=4");
+            fixture.choose("m_pOrbotechZoomCMB", "5");
         }
-        QCOMPARE(fixture.record().value(RecordKeys::orbotechZoom), QVariant(1));
-        fixture.perform("m_pCannedHoleSizeCMB=1");
-        QCOMPARE(fixture.record().value(RecordKeys::orbotechZoom), QVariant(5));
+        Expect::holds(fixture, {Expect::record(RecordKeys::orbotechZoom, 1)});
+        fixture.choose("m_pCannedHoleSizeCMB", "6 X 7");
+        Expect::holds(fixture, {Expect::record(RecordKeys::orbotechZoom, 5)});
     }
 
     void valuesTravelWithTheNextSend()
     {
-        PageFixture fixture;
+        DialogFixture fixture;
         fixture.perform(barcode);
-        fixture.forget();
-        fixture.perform("m_pHeightLE<100");
-        QCOMPARE(fixture.codes(), QList<int>());
-        fixture.perform("m_pPolarityCMB=1");
-        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
-        QCOMPARE(fixture.record().value(RecordKeys::barcodeHeight), QVariant(QString("2540")));
-        QCOMPARE(fixture.record().value(RecordKeys::textFormat), QVariant(TextKind::barcode));
+        fixture.recorder.clear();
+        fixture.enter("m_pHeightLE", "100");
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());
+        fixture.choose("m_pPolarityCMB", "Negative");
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture, {Expect::record(RecordKeys::barcodeHeight, "2540"),
+                                Expect::record(RecordKeys::textFormat, TextKind::barcode)});
     }
 };
 

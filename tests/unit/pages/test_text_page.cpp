@@ -1,140 +1,129 @@
 // The page of texts: format, font, text, sizes of characters.
 
-#include "DialogFixture.h"
 #include "Main.h"
 #include "PageCases.h"
-#include "PageFixture.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
 #include <UiApiStandIn.h>
 
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRegExpValidator>
 
 namespace Sent = MessageCodes::Sent;
 
-using PageCases::Case;
-
 namespace {
 
-const QStringList page = {"m_pTextTB"};
-const char* const subPages[] = {"m_pStringPage", "m_pBarcodePage", "m_pPlotStampPage",
-                                "m_pCannedTextPage"};
+const Steps text = {Click("m_pTextTB")};
+const Steps barcode = text + Choose("m_pTextFormatCMB", "Barcode");
+const Steps plotStamp = text + Choose("m_pTextFormatCMB", "Orbotech Plot Stamp");
+const Steps cannedText = text + Choose("m_pTextFormatCMB", "Canned Text");
 
-QStringList only(int shown)
+/// Of the four pages of the formats the one.
+Expect::Expectations onlyPage(const QString& shown)
 {
-    QStringList states;
-    for (int i = 0; i < 4; ++i) {
-        states.append((i == shown ? "shown " : "hidden ") + QString(subPages[i]));
+    Expect::Expectations expected;
+    for (const QString& page :
+         QStringList{"m_pStringPage", "m_pBarcodePage", "m_pPlotStampPage", "m_pCannedTextPage"}) {
+        expected.append(page == shown ? Expect::shown(page) : Expect::hidden(page));
     }
-    return states;
+    return expected;
 }
 
 /// Nothing that a format does is sent.
-QList<Case> formats()
+Cases formats()
 {
-    const QStringList fontOn = {"enabled m_pFontPB", "enabled m_pFontLE", "disabled m_pUPCCMB"};
-    const QStringList fontOff = {"disabled m_pFontPB", "disabled m_pFontLE"};
-    const QStringList codeOn = {"enabled m_pUPCCMB"};
-    const QStringList codeOff = {"disabled m_pUPCCMB"};
+    const Expect::Expectations aFont = {Expect::enabled("m_pFontPB"), Expect::enabled("m_pFontLE")};
+    const Expect::Expectations noFont = {Expect::disabled("m_pFontPB"),
+                                         Expect::disabled("m_pFontLE")};
+    const Expect::Expectation aCode = Expect::enabled("m_pUPCCMB");
+    const Expect::Expectation noCode = Expect::disabled("m_pUPCCMB");
     return {
-        {"",
-         page + QStringList("m_pTextFormatCMB=1"),
-         "m_pTextFormatCMB=0",
-         {{RecordKeys::textFormat, TextKind::string}},
-         {},
-         only(0) + fontOn},
-        {"",
-         page,
-         "m_pTextFormatCMB=1",
-         {{RecordKeys::textFormat, TextKind::barcode},
-          {RecordKeys::barcodeMode, Symbology::upc39.toInt()}},
-         {},
-         only(1) + fontOff + codeOn},
-        {"",
-         page,
-         "m_pTextFormatCMB=2",
-         {{RecordKeys::textFormat, TextKind::plotStamp},
-          {RecordKeys::barcodeMode, Symbology::upc39}},
-         {},
-         only(2) + fontOff + codeOff},
-        {"",
-         page,
-         "m_pTextFormatCMB=3",
-         {{RecordKeys::textFormat, TextKind::cannedText}},
-         {},
-         only(3) + fontOff + codeOff},
-        {"no format",
-         page + QStringList("m_pTextFormatCMB=1"),
-         "m_pTextFormatCMB=-1",
-         {{RecordKeys::textFormat, TextKind::barcode}},
-         {},
-         only(1) + fontOff + codeOff},
+        Case()
+            .given(barcode)
+            .when(Choose("m_pTextFormatCMB", "String"))
+            .then(Expect::record(RecordKeys::textFormat, TextKind::string),
+                  onlyPage("m_pStringPage"), aFont, noCode),
+        Case()
+            .given(text)
+            .when(Choose("m_pTextFormatCMB", "Barcode"))
+            .then(Expect::record(RecordKeys::textFormat, TextKind::barcode),
+                  Expect::record(RecordKeys::barcodeMode, Symbology::upc39.toInt()),
+                  onlyPage("m_pBarcodePage"), noFont, aCode),
+        Case()
+            .given(text)
+            .when(Choose("m_pTextFormatCMB", "Orbotech Plot Stamp"))
+            .then(Expect::record(RecordKeys::textFormat, TextKind::plotStamp),
+                  Expect::record(RecordKeys::barcodeMode, Symbology::upc39),
+                  onlyPage("m_pPlotStampPage"), noFont, noCode),
+        Case()
+            .given(text)
+            .when(Choose("m_pTextFormatCMB", "Canned Text"))
+            .then(Expect::record(RecordKeys::textFormat, TextKind::cannedText),
+                  onlyPage("m_pCannedTextPage"), noFont, noCode),
+        Case("no format")
+            .given(barcode)
+            .when(ChooseNothing("m_pTextFormatCMB"))
+            .then(Expect::record(RecordKeys::textFormat, TextKind::barcode),
+                  onlyPage("m_pBarcodePage"), noFont, noCode),
     };
 }
 
-QList<Case> textsAndFonts()
+Cases textsAndFonts()
 {
     return {
-        {"typed size",
-         page,
-         "m_pXSizeLE:12.5",
-         {{RecordKeys::stringXSize, QString("317.5")}},
-         {Sent::Record}},
-        {"typed height",
-         page,
-         "m_pYSizeLE:100",
-         {{RecordKeys::stringYSize, QString("2540")}},
-         {Sent::Record}},
-        {"typed width",
-         page,
-         "m_pLineWidthLE:.5",
-         {{RecordKeys::stringLineWidth, QString("12.7")}},
-         {Sent::Record}},
-        {"String again",
-         page + QStringList{"m_pFontLE<simple", "m_pTextLE<Rev", "m_pXSizeLE<100",
-                            "m_pTextFormatCMB=3"},
-         "m_pTextFormatCMB=0",
-         {{RecordKeys::textFormat, TextKind::string},
-          {RecordKeys::stringTextFont, QString("simple")},
-          {RecordKeys::textContains, QString("Rev")},
-          {RecordKeys::stringXSize, QString("2540")}}},
-        {"typed text",
-         page,
-         "m_pTextLE:Rev. A/2",
-         {{RecordKeys::textContains, QString("Rev. A/2")}},
-         {Sent::Record}},
-        {"no text",
-         page + QStringList("m_pTextLE<x"),
-         "m_pTextLE<",
-         {{RecordKeys::textContains, QString("")}},
-         {Sent::Record}},
-        {"font of the job",
-         page,
-         "m_pFontLE<simple",
-         {{RecordKeys::stringTextFont, QString("simple")}},
-         {Sent::Record},
-         {},
-         "simple"},
-        {"font of no job",
-         page,
-         "m_pFontLE<fancy",
-         {{RecordKeys::stringTextFont, QString("standard")}},
-         {},
-         {},
-         ""},
-        {"font in other letters",
-         page,
-         "m_pFontLE<Standard",
-         {{RecordKeys::stringTextFont, QString("standard")}},
-         {},
-         {},
-         ""},
+        Case("typed size")
+            .given(text)
+            .when(Type("m_pXSizeLE", "12.5"))
+            .then(Expect::record(RecordKeys::stringXSize, "317.5"), Expect::sent(Sent::Record)),
+        Case("typed height")
+            .given(text)
+            .when(Type("m_pYSizeLE", "100"))
+            .then(Expect::record(RecordKeys::stringYSize, "2540"), Expect::sent(Sent::Record)),
+        Case("typed width")
+            .given(text)
+            .when(Type("m_pLineWidthLE", ".5"))
+            .then(Expect::record(RecordKeys::stringLineWidth, "12.7"), Expect::sent(Sent::Record)),
+        Case("String again")
+            .given(text + Enter("m_pFontLE", "simple") + Enter("m_pTextLE", "Rev") +
+                   Enter("m_pXSizeLE", "100") + Choose("m_pTextFormatCMB", "Canned Text"))
+            .when(Choose("m_pTextFormatCMB", "String"))
+            .then(Expect::record(RecordKeys::textFormat, TextKind::string),
+                  Expect::record(RecordKeys::stringTextFont, "simple"),
+                  Expect::record(RecordKeys::textContains, "Rev"),
+                  Expect::record(RecordKeys::stringXSize, "2540")),
+        Case("typed text")
+            .given(text)
+            .when(Type("m_pTextLE", "Rev. A/2"))
+            .then(Expect::record(RecordKeys::textContains, "Rev. A/2"), Expect::sent(Sent::Record)),
+        Case("no text")
+            .given(text + Enter("m_pTextLE", "x"))
+            .when(Enter("m_pTextLE", ""))
+            .then(Expect::record(RecordKeys::textContains, ""), Expect::sent(Sent::Record)),
+        Case("font of the job")
+            .given(text)
+            .when(Enter("m_pFontLE", "simple"))
+            .then(Expect::record(RecordKeys::stringTextFont, "simple"), Expect::sent(Sent::Record),
+                  Expect::text("m_pFontLE", "simple")),
+        Case("font of no job")
+            .given(text)
+            .when(Enter("m_pFontLE", "fancy"))
+            .then(Expect::record(RecordKeys::stringTextFont, "standard"),
+                  Expect::text("m_pFontLE", "")),
+        Case("font in other letters")
+            .given(text)
+            .when(Enter("m_pFontLE", "Standard"))
+            .then(Expect::record(RecordKeys::stringTextFont, "standard"),
+                  Expect::text("m_pFontLE", "")),
     };
+}
+
+void addUnits()
+{
+    QTest::addColumn<Unit>("unit");
+    QTest::newRow("mil") << Unit::Mil;
+    QTest::newRow("metric") << Unit::Metric;
 }
 
 }  // namespace
@@ -143,46 +132,43 @@ class TestTextPage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void table_data() { PageCases::addRows(formats() + textsAndFonts()); }
-    void table() { PageCases::run(); }
+    void table_data() { addCases(formats() + textsAndFonts()); }
+    void table() { runCase(); }
 
     void sizes_data()
     {
-        PageCases::addRows(PageCases::lengthCases(
-            {{"m_pXSizeLE", RecordKeys::stringXSize, page, 10000, {Sent::Record}, {Sent::Record}},
-             {"m_pYSizeLE", RecordKeys::stringYSize, page, 10000, {Sent::Record}, {Sent::Record}},
-             {"m_pLineWidthLE",
-              RecordKeys::stringLineWidth,
-              page,
-              10000,
-              {Sent::Record},
-              {Sent::Record}}}));
+        const auto size = [](const QString& field, const QString& key) {
+            return PageCases::LengthField(field, key)
+                .reachedBy(text)
+                .upTo(10000)
+                .sends(Sends::Always)
+                .cases();
+        };
+        addCases(size("m_pXSizeLE", RecordKeys::stringXSize) +
+                 size("m_pYSizeLE", RecordKeys::stringYSize) +
+                 size("m_pLineWidthLE", RecordKeys::stringLineWidth));
     }
-    void sizes() { PageCases::run(); }
+    void sizes() { runCase(); }
 
-    void defaults_data()
-    {
-        QTest::addColumn<bool>("metric");
-        QTest::newRow("mil") << false;
-        QTest::newRow("metric") << true;
-    }
+    void defaults_data() { addUnits(); }
     void defaults()
     {
-        QFETCH(bool, metric);
-        PageCases::compareStart({{RecordKeys::textFormat, TextKind::string},
-                                 {RecordKeys::stringTextFont, QString("standard")},
-                                 {RecordKeys::textContains, QString("")},
-                                 {RecordKeys::stringXSize, QString("5080")},
-                                 {RecordKeys::stringYSize, QString("5080")},
-                                 {RecordKeys::stringLineWidth, QString("609.6")}},
-                                metric);
+        QFETCH(Unit, unit);
+        DialogFixture fixture(unit);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());
+        Expect::holds(fixture, {Expect::record(RecordKeys::textFormat, TextKind::string),
+                                Expect::record(RecordKeys::stringTextFont, "standard"),
+                                Expect::record(RecordKeys::textContains, ""),
+                                Expect::record(RecordKeys::stringXSize, "5080"),
+                                Expect::record(RecordKeys::stringYSize, "5080"),
+                                Expect::record(RecordKeys::stringLineWidth, "609.6")});
     }
 
     void connections()
     {
         const char* const clicked = SIGNAL(clicked());
         const char* const edited = SIGNAL(editingFinished());
-        PageCases::compareConnections(
+        PageCases::connected(
             {{"m_pTextFormatCMB", SIGNAL(currentIndexChanged(QString)),
               SLOT(on_Textformart_ComboBox_Changed())},
              {"m_pFontPB", clicked, SLOT(on_m_pFontPB_clicked())},
@@ -196,104 +182,95 @@ private Q_SLOTS:
 
     void start()
     {
-        PageFixture fixture;
+        DialogFixture fixture;
         QCOMPARE(fixture.find<QPushButton>("m_pFontPB").text(), QString("Font\t\t:"));
         QCOMPARE(fixture.find<QPushButton>("m_pTextPB").text(), QString("Text\t\t:"));
-        QCOMPARE(fixture.text("m_pFontLE"), QString("standard"));
         QVERIFY(fixture.find<QLineEdit>("m_pFontLE").isReadOnly());
-        QCOMPARE(fixture.text("m_pTextLE"), QString());
-        QCOMPARE(fixture.index("m_pTextFormatCMB"), 0);
-        QVERIFY(fixture.hasState("disabled m_pUPCCMB"));
-        fixture.perform(page);
-        for (const QString& state : only(0)) {
-            QVERIFY2(fixture.hasState(state), qPrintable(state));
-        }
-        QCOMPARE(fixture.greyedItems("m_pTextPage"),
-                 (QStringList{"m_pTextFormatCMB 1", "m_pTextFormatCMB 2", "m_pTextFormatCMB 3"}));
-        const auto& format = fixture.find<QComboBox>("m_pTextFormatCMB");
-        QCOMPARE(format.itemText(0), QString("String"));
-        QCOMPARE(format.itemText(1), QString("Barcode"));
-        QCOMPARE(format.itemText(2), QString("Orbotech Plot Stamp"));
-        QCOMPARE(format.itemText(3), QString("Canned Text"));
-        const char* const labels[][2] = {{"m_pXSizeLB", "X Size  : "},
-                                         {"m_pYSizeLB", "Y Size  : "},
-                                         {"m_pLineWidthLB", "Line Width : "}};
-        for (const auto& [name, text] : labels) {
-            QCOMPARE(fixture.labelText(name), QString(text));
-        }
+        Expect::holds(
+            fixture, {Expect::text("m_pFontLE", "standard"), Expect::text("m_pTextLE", ""),
+                      Expect::chosen("m_pTextFormatCMB", "String"), Expect::disabled("m_pUPCCMB")});
+        fixture.perform(text);
+        Expect::holds(fixture, onlyPage("m_pStringPage"));
+        QCOMPARE(PageCases::greyedItems(fixture, "m_pTextPage"),
+                 (QStringList{"m_pTextFormatCMB: Barcode", "m_pTextFormatCMB: Orbotech Plot Stamp",
+                              "m_pTextFormatCMB: Canned Text"}));
+        QCOMPARE(itemTexts(fixture.find<QComboBox>("m_pTextFormatCMB")),
+                 (QStringList{"String", "Barcode", "Orbotech Plot Stamp", "Canned Text"}));
+        QCOMPARE(fixture.find<QLabel>("m_pXSizeLB").text(), QString("X Size  : "));
+        QCOMPARE(fixture.find<QLabel>("m_pYSizeLB").text(), QString("Y Size  : "));
+        QCOMPARE(fixture.find<QLabel>("m_pLineWidthLB").text(), QString("Line Width : "));
     }
 
     void rows()
     {
-        PageFixture fixture;
-        fixture.perform(page);
+        const DialogFixture fixture;
+        fixture.perform(text);
         int y = -1;
         for (const char* const name :
              {"m_pTextFormatCMB", "m_pStringPage", "m_pFontLE", "m_pTextLE"}) {
-            QVERIFY2(fixture.find<QWidget>(name).y() > y, name);
-            y = fixture.find<QWidget>(name).y();
+            QVERIFY2(fixture.find(name).y() > y, name);
+            y = fixture.find(name).y();
         }
     }
 
-    void sizesAtBuild_data()
-    {
-        QTest::addColumn<bool>("metric");
-        QTest::newRow("mil") << false;
-        QTest::newRow("metric") << true;
-    }
-
+    void sizesAtBuild_data() { addUnits(); }
     void sizesAtBuild()
     {
-        QFETCH(bool, metric);
-        PageFixture fixture(metric);
-        QCOMPARE(fixture.text("m_pXSizeLE"), QString(metric ? "5080" : "200"));
-        QCOMPARE(fixture.text("m_pYSizeLE"), QString(metric ? "5080" : "200"));
-        QCOMPARE(fixture.text("m_pLineWidthLE"), QString(metric ? "609.6" : "24"));
+        QFETCH(Unit, unit);
+        const bool isMetric = unit == Unit::Metric;
+        const DialogFixture fixture(unit);
+        QCOMPARE(fixture.text("m_pXSizeLE"), QString(isMetric ? "5080" : "200"));
+        QCOMPARE(fixture.text("m_pYSizeLE"), QString(isMetric ? "5080" : "200"));
+        QCOMPARE(fixture.text("m_pLineWidthLE"), QString(isMetric ? "609.6" : "24"));
         for (const char* const label : {"m_pXSizeUnitLB", "m_pYSizeUnitLB", "m_pLineWidthUnitLB"}) {
-            QCOMPARE(fixture.labelText(label), QString(metric ? "my" : "mil"));
+            QCOMPARE(fixture.find<QLabel>(label).text(), QString(isMetric ? "my" : "mil"));
         }
         for (const char* const field : {"m_pXSizeLE", "m_pYSizeLE", "m_pLineWidthLE"}) {
             const auto* const validator =
                 qobject_cast<const QRegExpValidator*>(fixture.find<QLineEdit>(field).validator());
             const QString own("^[0-9]*(\\.[0-9]+)?$");
-            QCOMPARE(validator && validator->regExp().pattern() == own, !metric);
+            QCOMPARE(validator && validator->regExp().pattern() == own, !isMetric);
         }
     }
 
     /// The validators are those of the unit that the sizes were built in.
     void sizesAfterAnotherUnit_data()
     {
-        QTest::addColumn<bool>("metric");
+        QTest::addColumn<Unit>("builtIn");
+        QTest::addColumn<Unit>("changedTo");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("stored");
-        QTest::addColumn<bool>("isRefused");
-        QTest::newRow("metric, bound") << true << "254000"
-                                       << "254000" << false;
-        QTest::newRow("metric, beyond") << true << "254001"
-                                        << "0" << true;
-        QTest::newRow("mil, bound") << false << "10000"
-                                    << "254000" << false;
-        QTest::newRow("mil, beyond") << false << "10000.5"
-                                     << "0" << true;
+        QTest::addColumn<int>("refusedBeyond");  // 0: accepted
+        QTest::newRow("metric, bound") << Unit::Mil << Unit::Metric << "254000"
+                                       << "254000" << 0;
+        QTest::newRow("metric, beyond") << Unit::Mil << Unit::Metric << "254001"
+                                        << "0" << 254000;
+        QTest::newRow("mil, bound") << Unit::Metric << Unit::Mil << "10000"
+                                    << "254000" << 0;
+        QTest::newRow("mil, beyond") << Unit::Metric << Unit::Mil << "10000.5"
+                                     << "0" << 10000;
     }
     void sizesAfterAnotherUnit()
     {
-        QFETCH(bool, metric);
+        QFETCH(Unit, builtIn);
+        QFETCH(Unit, changedTo);
         QFETCH(QString, typed);
         QFETCH(QString, stored);
-        QFETCH(bool, isRefused);
-        PageFixture fixture(!metric);
-        fixture.perform(page);
+        QFETCH(int, refusedBeyond);
+        DialogFixture fixture(builtIn);
+        fixture.chooseType("m_pTextTB");
         const QValidator* const validator = fixture.find<QLineEdit>("m_pXSizeLE").validator();
-        fixture.changeUnit(metric);
+        fixture.setUnit(changedTo);
         QCOMPARE(fixture.find<QLineEdit>("m_pXSizeLE").validator(), validator);
-        fixture.forget();
-        fixture.perform("m_pXSizeLE:" + typed);
-        QCOMPARE(fixture.codes(), QList<int>{Sent::Record});
-        QCOMPARE(fixture.record().value(RecordKeys::stringXSize).toString(), stored);
-        QCOMPARE(fixture.boxes(), isRefused
-                                      ? QStringList(PageCases::lengthBox(metric ? 254000 : 10000))
-                                      : QStringList());
+        fixture.recorder.clear();
+        Type("m_pXSizeLE", typed).act(fixture);
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture, {Expect::record(RecordKeys::stringXSize, stored)});
+        Expect::Expected expected;
+        if (refusedBeyond > 0) {
+            Expect::lengthBox(refusedBeyond)(expected);
+        }
+        Expect::sameBoxes(fixture.boxes.takeTexts(), expected.boxes);
     }
 
     /// The host's unit decides how the sizes are built, the one told later what is typed.
@@ -323,9 +300,8 @@ private Q_SLOTS:
     void theRefusalIsAnInformation()
     {
         DialogFixture fixture;
-        fixture.choose("m_pTextTB");
-        fixture.find<QLineEdit>("m_pXSizeLE").setText("10001");
-        fixture.dialog->on_m_pXSizeLE_editingFinished();
+        fixture.chooseType("m_pTextTB");
+        fixture.enter("m_pXSizeLE", "10001");
         const auto boxes = fixture.boxes.take();
         QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].icon, QMessageBox::Information);
@@ -337,60 +313,67 @@ private Q_SLOTS:
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("text") << "m_pTextLE"
-                              << "aZ09`~!@#$%^&*()-_=+<>,./ |?'"
+        // clang-format off
+        QTest::newRow("text") << "m_pTextLE" << "aZ09`~!@#$%^&*()-_=+<>,./ |?'"
                               << "aZ09`~!@#$%^&*()-_=+<>,./ ";
-        QTest::newRow("size") << "m_pXSizeLE"
-                              << "-1.5x"
-                              << "1.5";
-        QTest::newRow("width") << "m_pLineWidthLE"
-                               << ".5"
-                               << ".5";
+        QTest::newRow("size") << "m_pXSizeLE" << "-1.5x" << "1.5";
+        QTest::newRow("width") << "m_pLineWidthLE" << ".5" << ".5";
+        // clang-format on
     }
     void typing()
     {
         QFETCH(QString, field);
         QFETCH(QString, typed);
         QFETCH(QString, shown);
-        PageFixture fixture;
-        fixture.perform(page);
+        const DialogFixture fixture;
+        fixture.perform(text);
         fixture.type(field, typed);
         QCOMPARE(fixture.text(field), shown);
     }
 
-    void greyedItems_data() { PageCases::addGreyedRows({{"m_pTextFormatCMB", page, 0, 4}}); }
+    void greyedItems_data()
+    {
+        PageCases::addGreyedRows({PageCases::GreyedItems("m_pTextFormatCMB")
+                                      .reachedBy(text)
+                                      .free({"String"})
+                                      .greyed({"Barcode", "Orbotech Plot Stamp", "Canned Text"})});
+    }
     void greyedItems() { PageCases::tryToReachGreyedItem(); }
 
     void refusals_data()
     {
-        PageCases::addRefusalRows({{"m_pXSizeLE", page, "10000.5", "0", "m_pMirrorCMB"},
-                                   {"m_pYSizeLE", page, "99999", "0", "m_pMirrorCMB"},
-                                   {"m_pLineWidthLE", page, "10001", "0", "m_pMirrorCMB"}});
+        const auto refusal = [](const QString& field, const QString& typed) {
+            return PageCases::Refusal(field).reachedBy(text).of(typed).leaves("0").beside(
+                "m_pMirrorCMB");
+        };
+        PageCases::addRefusalRows({refusal("m_pXSizeLE", "10000.5"), refusal("m_pYSizeLE", "99999"),
+                                   refusal("m_pLineWidthLE", "10001")});
     }
     void refusals() { PageCases::refuseOnce(); }
 
     void units()
     {
         PageCases::switchUnitTenTimes(
-            page, {"m_pXSizeLE~100", "m_pYSizeLE~0.5", "m_pLineWidthLE~12.25"},
-            {"m_pXSizeUnitLB=mil|my", "m_pYSizeUnitLB=mil|my", "m_pLineWidthUnitLB=mil|my"});
+            text, {{"m_pXSizeLE", "100"}, {"m_pYSizeLE", "0.5"}, {"m_pLineWidthLE", "12.25"}},
+            {{"m_pXSizeUnitLB", "mil", "my"},
+             {"m_pYSizeUnitLB", "mil", "my"},
+             {"m_pLineWidthUnitLB", "mil", "my"}});
     }
 
     void language_data()
     {
-        QTest::addColumn<QStringList>("before");
-        QTest::newRow("start") << page;
-        QTest::newRow("barcode") << page + QStringList{"m_pTextFormatCMB=1", "m_pUPCCMB=4",
-                                                       "m_pPositionCMB=1"};
-        QTest::newRow("plot stamp")
-            << page + QStringList{"m_pTextFormatCMB=2", "m_pOrbotechTypeCMB=1",
-                                  "m_pOrbotechFontSizeCMB=3", "m_pOrbotechZoomCMB=6"};
-        QTest::newRow("canned text")
-            << page + QStringList{"m_pTextFormatCMB=3", "m_pCannedHoleSizeCMB=1"};
+        QTest::addColumn<Steps>("before");
+        QTest::newRow("start") << text;
+        QTest::newRow("barcode") << barcode + Choose("m_pUPCCMB", "ECC-200") +
+                                        Choose("m_pPositionCMB", "Bottom");
+        QTest::newRow("plot stamp") << plotStamp + Choose("m_pOrbotechTypeCMB", "Barcode") +
+                                           Choose("m_pOrbotechFontSizeCMB", "4") +
+                                           Choose("m_pOrbotechZoomCMB", "7");
+        QTest::newRow("canned text") << cannedText + Choose("m_pCannedHoleSizeCMB", "6 X 7");
     }
     void language()
     {
-        QFETCH(QStringList, before);
+        QFETCH(Steps, before);
         PageCases::retranslate("m_pTextPage", before);
     }
 };

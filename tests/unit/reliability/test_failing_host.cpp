@@ -6,7 +6,6 @@
 #include "Invariants.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
-#include "plugin/PluginEntry.h"
 
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
@@ -52,25 +51,21 @@ Thrown thrownBy(const std::function<void()>& action)
 
 void typeSymbol(DialogFixture& fixture)
 {
-    fixture.choose("m_pPadTB");
-    fixture.type("r33");
-    fixture.leave("Enter");
+    fixture.chooseType("m_pPadTB");
+    fixture.type("m_pSymbolTextLE", "r33");
+    fixture.leave(By::Enter);
 }
 
-void receiveUnitChanged(DialogFixture& fixture)
-{
-    PluginMetaData message("Sibling.dll", "Canvas_Tool_Strip.dll");
-    message.code = Accepted::UnitChanged;
-    recMsgFromManager(fixture.strip, message);
-}
+/// Whether the slot that calls the host reports what it throws, or lets it reach the caller of Qt.
+enum class Exceptions { AreReported, PassThrough };
 
 /// An operation of the host, and what a user does that makes the module call it.
 struct Operation {
     const char* name;
     void (*fail)(Thrown kind);
     void (*use)(DialogFixture& fixture);
-    bool isGuarded;
-    bool isMetric;
+    Exceptions exceptions;
+    Unit unit;
 };
 
 const Operation operations[] = {
@@ -79,14 +74,14 @@ const Operation operations[] = {
          camApiOverrides().identify_symbol = [=](const std::string&, ZENTRA::API::symbol_type&,
                                                  int&, int&, bool) -> bool { throwAs(kind); };
      },
-     typeSymbol, false, false},
+     typeSymbol, Exceptions::PassThrough, Unit::Mil},
     {"get_special_symbol_names",
      [](Thrown kind) {
          camApiOverrides().get_special_symbol_names = [=](const std::string&, Names&) {
              throwAs(kind);
          };
      },
-     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, false, false},
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, Exceptions::PassThrough, Unit::Mil},
     {"get_fonts",
      [](Thrown kind) {
          camApiOverrides().get_fonts = [=](const std::string&, Names&) { throwAs(kind); };
@@ -98,20 +93,22 @@ const Operation operations[] = {
          QTest::keyClicks(&font, "simple");
          QTest::keyClick(&font, Qt::Key_Return);
      },
-     false, false},
+     Exceptions::PassThrough, Unit::Mil},
     {"getUnitString",
      [](Thrown kind) { uiApiOverrides().getUnitString = [=](void*) -> QString { throwAs(kind); }; },
-     receiveUnitChanged, true, false},
+     [](DialogFixture& fixture) { fixture.receive(Accepted::UnitChanged); },
+     Exceptions::AreReported, Unit::Mil},
     {"getUnit",
      [](Thrown kind) { uiApiOverrides().getUnit = [=](void*) -> int { throwAs(kind); }; },
-     [](DialogFixture& fixture) { fixture.symbol().insert("s20"); }, true, false},
+     [](DialogFixture& fixture) { fixture.symbol().insert("s20"); }, Exceptions::AreReported,
+     Unit::Mil},
     {"getUnit for a picked symbol",
      [](Thrown kind) { uiApiOverrides().getUnit = [=](void*) -> int { throwAs(kind); }; },
      [](DialogFixture& fixture) {
          QMetaObject::invokeMethod(fixture.dialog, "receive_text", Q_ARG(QString, QString()));
          fixture.dialog->get_ChangeSymbol_Info({{1, "r5"}});
      },
-     false, false},
+     Exceptions::PassThrough, Unit::Mil},
     {"getUnitJudgeDouble",
      [](Thrown kind) {
          uiApiOverrides().getUnitJudgeDouble = [=](void*, double) -> double { throwAs(kind); };
@@ -122,7 +119,7 @@ const Operation operations[] = {
          size.setText("99999");
          QTest::keyClick(&size, Qt::Key_Return);
      },
-     false, false},
+     Exceptions::PassThrough, Unit::Mil},
     {"isNumValueLegal",
      [](Thrown kind) {
          uiApiOverrides().isNumValueLegal = [=](double, double, double, void*) -> bool {
@@ -133,21 +130,21 @@ const Operation operations[] = {
          fixture.click("m_pPadTB");
          QTest::keyClick(&fixture.find("m_pDrilNxLE"), Qt::Key_3);
      },
-     false, false},
+     Exceptions::PassThrough, Unit::Mil},
     {"isSymbolValueLegal",
      [](Thrown kind) {
          uiApiOverrides().isSymbolValueLegal = [=](const QString&, double, double, void*) -> bool {
              throwAs(kind);
          };
      },
-     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, false, false},
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, Exceptions::PassThrough, Unit::Mil},
     {"setSymbolUIData",
      [](Thrown kind) {
          uiApiOverrides().setSymbolUIData = [=](const QString&, int) -> QString { throwAs(kind); };
      },
-     typeSymbol, false, true},
+     typeSymbol, Exceptions::PassThrough, Unit::Metric},
     {"the canvas", [](Thrown) {},  // its message handler throws; see throwing()
-     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, false, false},
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, Exceptions::PassThrough, Unit::Mil},
 };
 
 /// An answer of the host that makes no sense.
@@ -243,6 +240,7 @@ QStringList described(const QVariantMap& record)
 /// Sets everything that the operations above touch, as a user does; the record after that.
 QStringList recordAfterUse(DialogFixture& fixture)
 {
+    fixture.open();  // the windowless platform does not go back to it after a box
     fixture.click("m_pTextTB");
     for (const auto& [field, text] :
          {std::pair("m_pFontLE", "standard"), std::pair("m_pXSizeLE", "100")}) {
@@ -251,8 +249,8 @@ QStringList recordAfterUse(DialogFixture& fixture)
     }
     fixture.click("m_pPadTB");
     fixture.find<QLineEdit>("m_pDrilNxLE").setText("4");
-    fixture.type("r20");
-    fixture.leave("Enter");
+    fixture.type("m_pSymbolTextLE", "r20");
+    fixture.leave(By::Enter);
     return described(fixture.record());
 }
 
@@ -283,10 +281,10 @@ private Q_SLOTS:
         const Operation& row = operations[operation];
         QStringList undisturbed;
         {
-            DialogFixture fixture(row.isMetric);
+            DialogFixture fixture(row.unit);
             undisturbed = recordAfterUse(fixture);
         }
-        DialogFixture fixture(row.isMetric);
+        DialogFixture fixture(row.unit);
         const GlogCatcher log;
         row.fail(kind);
         if (row.name == QByteArray("the canvas")) {
@@ -297,13 +295,13 @@ private Q_SLOTS:
         camApiOverrides() = {};
         uiApiOverrides() = {};
 
-        const bool isReported = row.isGuarded && kind != Thrown::Other;
+        const bool isReported = row.exceptions == Exceptions::AreReported && kind != Thrown::Other;
         QVERIFY(reached == (isReported ? Thrown::Nothing : kind));
         QCOMPARE(fixture.boxes.takeTexts(),
                  isReported ? QStringList{"Information|the host gave up"} : QStringList());
         QCOMPARE(log.errors().size(), isReported && kind == Thrown::Text ? 2 : 0);
         QCOMPARE(Invariants::faultOf(fixture.record()), QString());
-        QCOMPARE(fixture.strip->isToolButtonChecked(4), true);
+        QCOMPARE(fixture.checked(), QList<Tool>{Tool::AddFeature});
         // From here on it is a dialog like any other.
         QCOMPARE(recordAfterUse(fixture), undisturbed);
         QCOMPARE(fixture.boxes.takeTexts(), QStringList());
@@ -319,24 +317,24 @@ private Q_SLOTS:
     void nonsense()
     {
         QFETCH(int, answer);
-        for (const bool isMetric : {false, true}) {
+        for (const Unit unit : {Unit::Mil, Unit::Metric}) {
             QStringList undisturbed;
             {
-                DialogFixture fixture(isMetric);
+                DialogFixture fixture(unit);
                 undisturbed = recordAfterUse(fixture);
             }
-            DialogFixture fixture(isMetric);
+            DialogFixture fixture(unit);
             answers[answer].install();
             recordAfterUse(fixture);
-            receiveUnitChanged(fixture);
-            fixture.dialog->change_current_units(!isMetric);
-            fixture.dialog->change_current_units(isMetric);
+            fixture.receive(Accepted::UnitChanged);
+            fixture.dialog->change_current_units(unit == Unit::Mil);
+            fixture.dialog->change_current_units(unit == Unit::Metric);
             fixture.dialog->get_ChangeSymbol_Info({{1, "r5"}});
             fixture.boxes.take();
             QCOMPARE(Invariants::faultOf(fixture.record()), QString());
             camApiOverrides() = {};
             uiApiOverrides() = {};
-            fixture.setMetric(isMetric);
+            fixture.setUnit(unit);
             fixture.symbol().clear();
             QCOMPARE(recordAfterUse(fixture), undisturbed);
             QCOMPARE(fixture.boxes.takeTexts(), QStringList());

@@ -6,7 +6,6 @@
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/PayloadKeys.h"
-#include "plugin/PluginEntry.h"
 #include "plugin/RecordKeys.h"
 
 #include <CamApiStandIn.h>
@@ -26,15 +25,6 @@ using Payload = QMap<QString, QVariant>;
 
 const QVector<int> acceptedCodes = Accepted::all();
 constexpr int many = 100000;
-
-void receive(Canvas_Tool_Strip* strip, int code, qint64 extra = 0, const Payload& payload = {})
-{
-    PluginMetaData message("Sibling.dll", "Canvas_Tool_Strip.dll");
-    message.code = code;
-    message.extra = extra;
-    message.payload = payload;
-    recMsgFromManager(strip, message);
-}
 
 /// All that a stray message could change.
 QStringList stateOf(const DialogFixture& fixture)
@@ -69,8 +59,8 @@ private Q_SLOTS:
         const auto isIgnored = [&](qint64 number) {
             const int code = int(quint32(number));
             if (!acceptedCodes.contains(code)) {
-                receive(fixture.strip, code, -1,
-                        {{PayloadKeys::jobName, "job"}, {PayloadKeys::stepName, "step"}});
+                fixture.receive(
+                    code, {{PayloadKeys::jobName, "job"}, {PayloadKeys::stepName, "step"}}, -1);
                 ++count;
             }
         };
@@ -125,16 +115,16 @@ private Q_SLOTS:
         QFETCH(Payload, payload);
         DialogFixture fixture;
         for (const int code : acceptedCodes) {
-            receive(fixture.strip, code, 0, payload);
-            receive(fixture.strip, code, 0, payload);
+            fixture.receive(code, payload);
+            fixture.receive(code, payload);
         }
         fixture.boxes.take();
         QCOMPARE(Invariants::faultOf(fixture.record()), QString());
         for (const Recorder::Entry& entry : fixture.recorder.messages()) {
             QCOMPARE(Invariants::faultOf(entry), QString());
         }
-        receive(fixture.strip, Accepted::AreaZoom);
-        QVERIFY(fixture.strip->isToolButtonChecked(0));
+        fixture.receive(Accepted::AreaZoom);
+        QVERIFY(fixture.strip->isToolButtonChecked(int(Tool::AreaZoom)));
     }
 
     void manyAttributes()
@@ -152,7 +142,7 @@ private Q_SLOTS:
             list.emplace_back("." + std::to_string(i), std::to_string(-i));
         }
         fixture.recorder.clear();
-        receive(fixture.strip, Accepted::AttributesPicked, ExtraWord::pointingAt(attributes));
+        fixture.receive(Accepted::AttributesPicked, {}, ExtraWord::pointingAt(attributes));
         QCOMPARE(fixture.recorder.codes(), QVector<int>());  // nothing to fill in yet
         fixture.dialog->get_attribute_list(list);
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AttributeMap});
@@ -171,7 +161,7 @@ private Q_SLOTS:
         DialogFixture fixture;
         connect(fixture.strip, SIGNAL(send_Symbol_Info(std::map<int, std::string>)), fixture.dialog,
                 SLOT(get_ChangeSymbol_Info(std::map<int, std::string>)));
-        fixture.choose(type);
+        fixture.chooseType(type);
         int sent = 0;
         fixture.recorder.setOnMessage([&](const Recorder::Entry& entry) {
             sent += entry.message.code == Sent::Record;
@@ -181,7 +171,7 @@ private Q_SLOTS:
         for (int i = 1; i <= many; ++i) {
             symbols[i - 2] = "r" + std::to_string(i % 1000 + 1);
         }
-        receive(fixture.strip, Accepted::SymbolsPicked, ExtraWord::pointingAt(symbols));
+        fixture.receive(Accepted::SymbolsPicked, {}, ExtraWord::pointingAt(symbols));
         fixture.recorder.setOnMessage({});
         QCOMPARE(sent, many);
         QCOMPARE(fixture.symbol().text(), QString("r1"));

@@ -59,11 +59,7 @@ const QList<Use>& uses()
                  f.dialog->get_attribute_list({{".net", "gnd"}});
              }
          }},
-        {"symbol", "m_pPadTB",
-         [](DialogFixture& f) {
-             f.symbol().setText("r10");
-             f.dialog->on_m_pSymbolTextLE_editingFinished();
-         }},
+        {"symbol", "m_pPadTB", [](DialogFixture& f) { f.enter("m_pSymbolTextLE", "r10"); }},
         {"tool again", "m_pPadTB", [](DialogFixture& f) { f.dialog->getChangeCurrentTool(); }},
         {"close", "m_pPadTB", [](DialogFixture& f) { f.dialog->close(); }},
     };
@@ -97,7 +93,7 @@ private Q_SLOTS:
         QFETCH(int, use);
         DialogFixture fixture;
         connectClosing(fixture);
-        fixture.choose(uses()[use].type);
+        fixture.chooseType(uses()[use].type);
         int count = 0;
         fixture.recorder.setOnMessage([&](const Recorder::Entry&) {
             ++count;
@@ -114,12 +110,12 @@ private Q_SLOTS:
         QFETCH(int, use);
         DialogFixture fixture;
         connectClosing(fixture);
-        fixture.choose(uses()[use].type);
+        fixture.chooseType(uses()[use].type);
         fixture.recorder.setOnMessage([&](const Recorder::Entry&) { fixture.dialog->close(); });
         uses()[use].act(fixture);
         fixture.recorder.setOnMessage({});
         QVERIFY(!fixture.dialog->isVisible());
-        QVERIFY(fixture.strip->isToolButtonChecked(0));
+        QVERIFY(fixture.strip->isToolButtonChecked(int(Tool::AreaZoom)));
         QCOMPARE(Invariants::faultOf(fixture.record()), QString());
     }
 
@@ -144,7 +140,7 @@ private Q_SLOTS:
             connect(fixture.strip, SIGNAL(send_Symbol_Info(std::map<int, std::string>)),
                     fixture.dialog, SLOT(get_ChangeSymbol_Info(std::map<int, std::string>)));
             CanvasHost::addInstance("Canvas_Tool_Strip.dll", fixture.strip, recMsgFromManager);
-            fixture.choose(uses()[use].type);
+            fixture.chooseType(uses()[use].type);
             int depth = 0;
             int answered = 0;
             fixture.recorder.setOnMessage([&](const Recorder::Entry& entry) {
@@ -226,8 +222,8 @@ private Q_SLOTS:
         }
         strip->get_right_click_zoom_area();
         strip->SetAllButtonchecked(true, nullptr);
-        QVERIFY(strip->isToolButtonChecked(1));
-        QVERIFY(!strip->isToolButtonChecked(0));
+        QVERIFY(strip->isToolButtonChecked(int(Tool::OpenPopView)));
+        QVERIFY(!strip->isToolButtonChecked(int(Tool::AreaZoom)));
         QCOMPARE(recorder.last(Sent::AreaZoom).sender, nullptr);
         delete strip;
         for (const QPointer<QWidget>& tool : tools) {

@@ -1,7 +1,7 @@
 // The compiled-in pictures: every name that style sheets and icons ask for.
 
-#include "../toolbar/StripFixture.h"
 #include "Main.h"
+#include "StripFixture.h"
 
 #include <QDir>
 #include <QImage>
@@ -259,40 +259,46 @@ private Q_SLOTS:
 
     void variantShows_data()
     {
-        QTest::addColumn<int>("button");
+        QTest::addColumn<Tool>("tool");
         QTest::addColumn<Choice>("choose");
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("checkedFile");
         using Strip = Canvas_Tool_Strip;
-        const auto row = [](int button, Choice choose, const char* file, const char* checkedFile) {
-            QTest::newRow(file) << button << choose << QString(file) << QString(checkedFile);
+        const auto row = [](Tool tool, Choice choose, const char* file, const char* checkedFile) {
+            QTest::newRow(file) << tool << choose << QString(file) << QString(checkedFile);
         };
-        row(5, &Strip::on_m_delete_feature_clicked, "delete1-gry.jpg", "delete1-gre.jpg");
-        row(5, &Strip::on_m_delete_to_intersection_clicked, "delete2-gry.jpg", "delete2-gre.jpg");
-        row(23, &Strip::On_Select_polyline_triggered, "Net selection2.jpg", "Net selection1.jpg");
-        row(23, &Strip::On_pSelect_board_net_triggered, "Net selection4.jpg", "Net selection3.jpg");
-        row(23, &Strip::On_pSelect_layer_net_triggered, "Net selection6.jpg", "Net selection5.jpg");
-        row(24, &Strip::on_m_mark_horizontalandvertical_clicked, "markgry.png", "markgre.png");
-        row(24, &Strip::on_m_mark_point2point_clicked, "xie_grey.png", "xie_green.png");
+        row(Tool::DeleteFeature, &Strip::on_m_delete_feature_clicked, "delete1-gry.jpg",
+            "delete1-gre.jpg");
+        row(Tool::DeleteFeature, &Strip::on_m_delete_to_intersection_clicked, "delete2-gry.jpg",
+            "delete2-gre.jpg");
+        row(Tool::SelectByNet, &Strip::On_Select_polyline_triggered, "Net selection2.jpg",
+            "Net selection1.jpg");
+        row(Tool::SelectByNet, &Strip::On_pSelect_board_net_triggered, "Net selection4.jpg",
+            "Net selection3.jpg");
+        row(Tool::SelectByNet, &Strip::On_pSelect_layer_net_triggered, "Net selection6.jpg",
+            "Net selection5.jpg");
+        row(Tool::Mark, &Strip::on_m_mark_horizontalandvertical_clicked, "markgry.png",
+            "markgre.png");
+        row(Tool::Mark, &Strip::on_m_mark_point2point_clicked, "xie_grey.png", "xie_green.png");
     }
 
     void variantShows()
     {
-        QFETCH(int, button);
+        QFETCH(Tool, tool);
         QFETCH(Choice, choose);
         QFETCH(QString, file);
         QFETCH(QString, checkedFile);
         StripFixture fixture;
-        fixture.panel.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&fixture.panel));
+        fixture.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fixture.window));
         // From another variant, so that the start state does not pass for the choice.
         fixture.strip->On_pSelect_layer_net_triggered();
         fixture.strip->on_m_mark_point2point_clicked();
         fixture.strip->on_m_delete_to_intersection_clicked();
         (fixture.strip->*choose)();
-        QCOMPARE(shownBy(fixture.button(button)), checkedFile);
-        QTest::mouseClick(fixture.button(0), Qt::LeftButton);
-        QCOMPARE(shownBy(fixture.button(button)), file);
+        QCOMPARE(shownBy(fixture.button(tool)), checkedFile);
+        QTest::mouseClick(fixture.button(Tool::AreaZoom), Qt::LeftButton);
+        QCOMPARE(shownBy(fixture.button(tool)), file);
     }
 };
 

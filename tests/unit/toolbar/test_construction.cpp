@@ -10,50 +10,60 @@
 
 namespace {
 
+enum class Start { Enabled, Grey };
+
 struct Expected {
     const char* objectName;
     const char* tip;
-    bool enabled;
+    Start start;
     const char* image;
     const char* checkedImage;
 };
 
 const Expected tools[] = {
-    {"m_pAreaZoomTB", "Area Zoom", true, "Area zoom2.jpg", "Area zoom3.jpg"},
-    {"m_pOpenPopViewTB", "Open a Popview", true, "Open a popview-1.jpg", "Open a popview-2.jpg"},
-    {"m_pMeasureTB", "Measure", true, "ruler.jpg", "ruler1.jpg"},
-    {"m_pFeatHighLightTB", "Feature HighLight", true, "Feature highlight-2.jpg",
+    {"m_pAreaZoomTB", "Area Zoom", Start::Enabled, "Area zoom2.jpg", "Area zoom3.jpg"},
+    {"m_pOpenPopViewTB", "Open a Popview", Start::Enabled, "Open a popview-1.jpg",
+     "Open a popview-2.jpg"},
+    {"m_pMeasureTB", "Measure", Start::Enabled, "ruler.jpg", "ruler1.jpg"},
+    {"m_pFeatHighLightTB", "Feature HighLight", Start::Enabled, "Feature highlight-2.jpg",
      "Feature highlight-3.jpg"},
-    {"m_pAddFeatureTB", "Add Feature", true, "Add Feature.jpg", "Add Feature1.jpg"},
-    {"m_pDeleteFeatTB", "Delete Feature", true, "delete1-gry.jpg", "delete1-gre.jpg"},
-    {"m_pMoveFeatureTB", "Move Feature", true, "Move Feature-1.jpg", "Move Feature-2.jpg"},
-    {"m_pCopyFeatureTB", "Copy Feature", true, "Copy feature-1.jpg", "Copy feature-2.jpg"},
-    {"m_pChangeLAngleTB", "Change Line Angle", true, "Change line angle1.jpg",
+    {"m_pAddFeatureTB", "Add Feature", Start::Enabled, "Add Feature.jpg", "Add Feature1.jpg"},
+    {"m_pDeleteFeatTB", "Delete Feature", Start::Enabled, "delete1-gry.jpg", "delete1-gre.jpg"},
+    {"m_pMoveFeatureTB", "Move Feature", Start::Enabled, "Move Feature-1.jpg",
+     "Move Feature-2.jpg"},
+    {"m_pCopyFeatureTB", "Copy Feature", Start::Enabled, "Copy feature-1.jpg",
+     "Copy feature-2.jpg"},
+    {"m_pChangeLAngleTB", "Change Line Angle", Start::Enabled, "Change line angle1.jpg",
      "Change line angle2.jpg"},
-    {"m_pStretchLineTB", "Stretch Line", true, "Stretch line3.jpg", "Stretch line4.jpg"},
-    {"m_pRotateFeatureTB", "Rotate", false, "Rotate feature-grey.jpg", "Rotate feature-grey.jpg"},
-    {"m_pMirrorFeatureTB", "Mirror", false, "Mirror feature-grey.jpg", "Mirror feature-grey.jpg"},
-    {"m_pInvertFeatureTB", "Invert Feature", true, "Invert feature-3.jpg", "Invert feature-4.jpg"},
-    {"m_pBreakLineTB", "Break Line", true, "Break line1.jpg", "Break line2.jpg"},
-    {"m_pDimensionTB", "Rout Dimension Editor", false, "Rout dimension editor-grey.jpg",
+    {"m_pStretchLineTB", "Stretch Line", Start::Enabled, "Stretch line3.jpg", "Stretch line4.jpg"},
+    {"m_pRotateFeatureTB", "Rotate", Start::Grey, "Rotate feature-grey.jpg",
+     "Rotate feature-grey.jpg"},
+    {"m_pMirrorFeatureTB", "Mirror", Start::Grey, "Mirror feature-grey.jpg",
+     "Mirror feature-grey.jpg"},
+    {"m_pInvertFeatureTB", "Invert Feature", Start::Enabled, "Invert feature-3.jpg",
+     "Invert feature-4.jpg"},
+    {"m_pBreakLineTB", "Break Line", Start::Enabled, "Break line1.jpg", "Break line2.jpg"},
+    {"m_pDimensionTB", "Rout Dimension Editor", Start::Grey, "Rout dimension editor-grey.jpg",
      "Rout dimension editor-grey.jpg"},
-    {"m_pContourEditorTB", "Contour Editor", false, "Contour editor-grey.jpg",
+    {"m_pContourEditorTB", "Contour Editor", Start::Grey, "Contour editor-grey.jpg",
      "Contour editor-grey.jpg"},
-    {"m_pPullLineTB", "Pull Line", false, "Pull line-grey.jpg", "Pull line-grey.jpg"},
-    {"m_pMoveJunctionTB", "Move Junction", false, "Move junction-grey.jpg",
+    {"m_pPullLineTB", "Pull Line", Start::Grey, "Pull line-grey.jpg", "Pull line-grey.jpg"},
+    {"m_pMoveJunctionTB", "Move Junction", Start::Grey, "Move junction-grey.jpg",
      "Move junction-grey.jpg"},
-    {"m_pMoveTripletTB", "Move Triplet(Angle)", true, "Move triplet1.jpg", "Move triplet2.jpg"},
-    {"m_pRerouteTraceTB", "Reroute Trace(Fix Point)", true, "ReRoute trace1.jpg",
+    {"m_pMoveTripletTB", "Move Triplet(Angle)", Start::Enabled, "Move triplet1.jpg",
+     "Move triplet2.jpg"},
+    {"m_pRerouteTraceTB", "Reroute Trace(Fix Point)", Start::Enabled, "ReRoute trace1.jpg",
      "ReRoute trace2.jpg"},
-    {"m_pFeatureSelectionTB", "Feature Selection", true, "Feature selection1.jpg",
+    {"m_pFeatureSelectionTB", "Feature Selection", Start::Enabled, "Feature selection1.jpg",
      "Feature selection2.jpg"},
-    {"m_pRectSelectionTB", "Rectangle Selection", true, "Frame selection2.jpg",
+    {"m_pRectSelectionTB", "Rectangle Selection", Start::Enabled, "Frame selection2.jpg",
      "Frame selection3.jpg"},
-    {"m_pPolygonSelectionTB", "Polygon Selection", true, "Polygon selection2.jpg",
+    {"m_pPolygonSelectionTB", "Polygon Selection", Start::Enabled, "Polygon selection2.jpg",
      "Polygon selection3.jpg"},
-    {"m_pSelectPolylineTB", "Select By net", true, "Net selection2.jpg", "Net selection1.jpg"},
-    {"m_pMarkTB", "Mark", true, "markgry.png", "markgre.png"},
-    {"m_pEqTB", "EQ", true, "EQ-1.jpg", "EQ-2.jpg"},
+    {"m_pSelectPolylineTB", "Select By net", Start::Enabled, "Net selection2.jpg",
+     "Net selection1.jpg"},
+    {"m_pMarkTB", "Mark", Start::Enabled, "markgry.png", "markgre.png"},
+    {"m_pEqTB", "EQ", Start::Enabled, "EQ-1.jpg", "EQ-2.jpg"},
 };
 static_assert(std::size(tools) == ToolTable::toolCount, "one row a tool");
 
@@ -99,39 +109,40 @@ private Q_SLOTS:
 
     void button_data()
     {
-        QTest::addColumn<int>("index");
-        for (int index = 0; index < ToolTable::toolCount; ++index) {
-            QTest::newRow(tools[index].objectName) << index;
+        QTest::addColumn<Tool>("tool");
+        for (const Tool tool : allTools()) {
+            QTest::newRow(tools[int(tool)].objectName) << tool;
         }
     }
     void button()
     {
-        QFETCH(int, index);
+        QFETCH(Tool, tool);
         StripFixture fixture;
-        const Expected& expected = tools[index];
-        QToolButton* const button = fixture.button(index);
+        const Expected& expected = tools[int(tool)];
+        QToolButton* const button = fixture.button(tool);
         QVERIFY(button);
         QCOMPARE(button->objectName(), QString(expected.objectName));
         QCOMPARE(button->toolTip(), QString(expected.tip));
-        QCOMPARE(button->isEnabled(), expected.enabled);
+        QCOMPARE(button->isEnabled(), expected.start == Start::Enabled);
         QVERIFY(button->isCheckable());
         QCOMPARE(button->minimumSize(), QSize(40, 40));
         QCOMPARE(button->maximumSize(), QSize(40, 40));
         const QString property =
-            index == 25 ? QStringLiteral("border-image") : QStringLiteral("background-image");
+            tool == Tool::Eq ? QStringLiteral("border-image") : QStringLiteral("background-image");
         QCOMPARE(button->styleSheet(),
                  QStringLiteral("QToolButton{%1:url(%2);}QToolButton::checked{%1:url(%3);}")
                      .arg(property, resource(expected.image), resource(expected.checkedImage)));
-        const bool hasMenu = index == 5 || index == 23 || index == 24;
+        const bool hasMenu =
+            tool == Tool::DeleteFeature || tool == Tool::SelectByNet || tool == Tool::Mark;
         QCOMPARE(button->contextMenuPolicy() == Qt::CustomContextMenu, hasMenu);
 
         int row = 0;
         int column = 0;
         int rowSpan = 0;
         int columnSpan = 0;
-        fixture.strip->getItemPosition(index, &row, &column, &rowSpan, &columnSpan);
-        QCOMPARE(row, index / 4);
-        QCOMPARE(column, index % 4);
+        fixture.strip->getItemPosition(int(tool), &row, &column, &rowSpan, &columnSpan);
+        QCOMPARE(row, int(tool) / 4);
+        QCOMPARE(column, int(tool) % 4);
         QCOMPARE(rowSpan, 1);
         QCOMPARE(columnSpan, 1);
     }
@@ -139,13 +150,13 @@ private Q_SLOTS:
     void picture_data() { button_data(); }
     void picture()
     {
-        QFETCH(int, index);
+        QFETCH(Tool, tool);
         StripFixture fixture;
-        fixture.panel.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&fixture.panel));
-        QToolButton* const button = fixture.button(index);
-        const QImage image(resource(tools[index].image));
-        const QImage checkedImage(resource(tools[index].checkedImage));
+        fixture.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fixture.window));
+        QToolButton* const button = fixture.button(tool);
+        const QImage image(resource(tools[int(tool)].image));
+        const QImage checkedImage(resource(tools[int(tool)].checkedImage));
         QVERIFY(!image.isNull() && !checkedImage.isNull());
 
         button->setChecked(false);
@@ -159,7 +170,7 @@ private Q_SLOTS:
         }
         // No other tool's picture is nearer.
         for (const Expected& other : tools) {
-            if (&other != &tools[index]) {
+            if (&other != &tools[int(tool)]) {
                 button->setChecked(false);
                 QVERIFY2(difference(button, QImage(resource(other.image))) > plain,
                          other.objectName);
@@ -171,23 +182,23 @@ private Q_SLOTS:
     {
         StripFixture fixture;
         QCOMPARE(fixture.strip->count(), ToolTable::toolCount);
-        QCOMPARE(fixture.checked(), QList<int>{0});
+        QCOMPARE(fixture.checked(), QList<Tool>{Tool::AreaZoom});
         QVERIFY(fixture.recorder.messages().isEmpty());
-        QCOMPARE(fixture.panel.focusPolicy(), Qt::NoFocus);
-        QVERIFY(fixture.panel.findChildren<QMenu*>().isEmpty());
+        QCOMPARE(fixture.window.focusPolicy(), Qt::NoFocus);
+        QVERIFY(fixture.window.findChildren<QMenu*>().isEmpty());
     }
 
     void eqIsHiddenButKeepsItsPlace()
     {
         CanvasHost::setEQVisible(false);
         StripFixture fixture;
-        fixture.panel.show();
-        QVERIFY(fixture.button(25)->isHidden());
-        QVERIFY(fixture.button(24)->isVisible());
+        fixture.window.show();
+        QVERIFY(fixture.button(Tool::Eq)->isHidden());
+        QVERIFY(fixture.button(Tool::Mark)->isVisible());
         QCOMPARE(fixture.strip->count(), ToolTable::toolCount);
-        QVERIFY(!fixture.strip->isToolButtonChecked(25));
-        fixture.button(25)->setChecked(true);
-        QVERIFY(fixture.strip->isToolButtonChecked(25));
+        QVERIFY(!fixture.strip->isToolButtonChecked(int(Tool::Eq)));
+        fixture.button(Tool::Eq)->setChecked(true);
+        QVERIFY(fixture.strip->isToolButtonChecked(int(Tool::Eq)));
     }
 
     void opensNoWindowOfItsOwn()
@@ -223,9 +234,9 @@ private Q_SLOTS:
     void exceptedButtonIsCheckedWhateverTheOthersAre()
     {
         StripFixture fixture;
-        fixture.strip->SetAllButtonchecked(false, fixture.button(7));
-        QCOMPARE(fixture.checked(), QList<int>{7});
-        fixture.strip->SetAllButtonchecked(true, fixture.button(7));
+        fixture.strip->SetAllButtonchecked(false, fixture.button(Tool::CopyFeature));
+        QCOMPARE(fixture.checked(), QList<Tool>{Tool::CopyFeature});
+        fixture.strip->SetAllButtonchecked(true, fixture.button(Tool::CopyFeature));
         QCOMPARE(fixture.checked().size(), ToolTable::toolCount);
         fixture.strip->SetAllButtonchecked(false, nullptr);
         QVERIFY(fixture.checked().isEmpty());

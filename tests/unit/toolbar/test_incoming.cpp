@@ -22,40 +22,83 @@ using Symbols = std::map<int, std::string>;
 namespace {
 
 /// A message and all that it may do.
-struct Expected {
-    const char* name;
-    int code;
-    QList<int> checkedBefore;
-    QList<int> checkedAfter;
-    QVector<int> sent;
+class Message {
+public:
+    Message(const char* name, Accepted::Code code) : m_name(name), m_code(code) {}
+    Message& whileChecked(const QList<Tool>& tools) { return m_before = m_after = tools, *this; }
+    Message& checksOnly(Tool tool) { return m_after = {tool}, *this; }
+    Message& checksNothing() { return m_after.clear(), *this; }
+    template <class... Codes>
+    Message& sends(Codes... codes)
+    {
+        return m_sent = {int(codes)...}, *this;
+    }
+
+    const char* name() const { return m_name; }
+    int code() const { return m_code; }
+    QList<Tool> checkedBefore() const { return m_before; }
+    QList<Tool> checkedAfter() const { return m_after; }
+    QVector<int> sent() const { return m_sent; }
+
+private:
+    const char* m_name;
+    int m_code;
+    QList<Tool> m_before = {Tool::CopyFeature};
+    QList<Tool> m_after = {Tool::CopyFeature};
+    QVector<int> m_sent;
 };
 
-const Expected messages[] = {
-    {"release all", Accepted::ReleaseAll, {0, 3, 25}, {}, {}},
-    {"area zoom", Accepted::AreaZoom, {7}, {0}, {Sent::AreaZoom}},
-    {"feature selection", Accepted::FeatureSelection, {7}, {20}, {Sent::FeatureSelection}},
-    {"rectangle selection", Accepted::RectangleSelection, {7}, {21}, {Sent::RectangleSelection}},
-    {"polygon selection", Accepted::PolygonSelection, {7}, {22}, {Sent::PolygonSelection}},
-    {"add feature is active", Accepted::AddFeatureActive, {7}, {4}, {}},
-    {"add feature was active", Accepted::AddFeatureActive, {4, 7}, {4, 7}, {}},
-    {"polyline", Accepted::SelectPolyline, {7}, {23}, {Sent::SelectPolyline}},
-    {"layer net", Accepted::SelectLayerNet, {7}, {23}, {Sent::SelectLayerNet}},
-    {"board net", Accepted::SelectBoardNet, {7}, {23}, {Sent::SelectBoardNet}},
-    {"check and measure", Accepted::CheckAndMeasure, {7}, {2}, {}},
-    {"job and step", Accepted::JobAndStep, {7}, {7}, {}},
-    {"measure", Accepted::Measure, {7}, {2}, {}},
-    {"attributes without address", Accepted::AttributesPicked, {7}, {7}, {}},
-    {"symbols without address", Accepted::SymbolsPicked, {7}, {7}, {}},
-    {"user symbols", Accepted::UserSymbolsChanged, {7}, {7}, {}},
-    {"job name without address", Accepted::JobName, {7}, {7}, {}},
-    {"unit", Accepted::UnitChanged, {7}, {7}, {}},
-    {"language", Accepted::LanguageChanged, {7}, {7}, {}},
-    {"job opened", Accepted::JobOpened, {7}, {7}, {}},
-    {"close dialogs", Accepted::CloseDialogs, {7}, {7}, {Sent::DialogsClosed}},
-    {"add feature", Accepted::AddFeature, {7}, {4}, {Sent::AddFeatureStarted, Sent::AddFeature}},
-    {"delete feature", Accepted::DeleteFeature, {7}, {5}, {Sent::DeleteFeature}},
-    {"move feature", Accepted::MoveFeature, {7}, {6}, {Sent::MoveFeature}},
-};
+const QList<Message>& messages()
+{
+    static const QList<Message> all = {
+        Message("release all", Accepted::ReleaseAll)
+            .whileChecked({Tool::AreaZoom, Tool::FeatureHighLight, Tool::Eq})
+            .checksNothing(),
+        Message("area zoom", Accepted::AreaZoom).checksOnly(Tool::AreaZoom).sends(Sent::AreaZoom),
+        Message("feature selection", Accepted::FeatureSelection)
+            .checksOnly(Tool::FeatureSelection)
+            .sends(Sent::FeatureSelection),
+        Message("rectangle selection", Accepted::RectangleSelection)
+            .checksOnly(Tool::RectangleSelection)
+            .sends(Sent::RectangleSelection),
+        Message("polygon selection", Accepted::PolygonSelection)
+            .checksOnly(Tool::PolygonSelection)
+            .sends(Sent::PolygonSelection),
+        Message("add feature is active", Accepted::AddFeatureActive).checksOnly(Tool::AddFeature),
+        Message("add feature was active", Accepted::AddFeatureActive)
+            .whileChecked({Tool::AddFeature, Tool::CopyFeature}),
+        Message("polyline", Accepted::SelectPolyline)
+            .checksOnly(Tool::SelectByNet)
+            .sends(Sent::SelectPolyline),
+        Message("layer net", Accepted::SelectLayerNet)
+            .checksOnly(Tool::SelectByNet)
+            .sends(Sent::SelectLayerNet),
+        Message("board net", Accepted::SelectBoardNet)
+            .checksOnly(Tool::SelectByNet)
+            .sends(Sent::SelectBoardNet),
+        Message("check and measure", Accepted::CheckAndMeasure).checksOnly(Tool::Measure),
+        Message("job and step", Accepted::JobAndStep),
+        Message("measure", Accepted::Measure).checksOnly(Tool::Measure),
+        Message("attributes without address", Accepted::AttributesPicked),
+        Message("symbols without address", Accepted::SymbolsPicked),
+        Message("user symbols", Accepted::UserSymbolsChanged),
+        Message("job name without address", Accepted::JobName),
+        Message("unit", Accepted::UnitChanged),
+        Message("language", Accepted::LanguageChanged),
+        Message("job opened", Accepted::JobOpened),
+        Message("close dialogs", Accepted::CloseDialogs).sends(Sent::DialogsClosed),
+        Message("add feature", Accepted::AddFeature)
+            .checksOnly(Tool::AddFeature)
+            .sends(Sent::AddFeatureStarted, Sent::AddFeature),
+        Message("delete feature", Accepted::DeleteFeature)
+            .checksOnly(Tool::DeleteFeature)
+            .sends(Sent::DeleteFeature),
+        Message("move feature", Accepted::MoveFeature)
+            .checksOnly(Tool::MoveFeature)
+            .sends(Sent::MoveFeature),
+    };
+    return all;
+}
 
 /// Everything that the strip emits.
 struct Spies {
@@ -106,35 +149,35 @@ private Q_SLOTS:
     void message_data()
     {
         QTest::addColumn<int>("row");
-        for (size_t row = 0; row < std::size(messages); ++row) {
-            QTest::newRow(messages[row].name) << int(row);
+        for (int row = 0; row < messages().size(); ++row) {
+            QTest::newRow(messages()[row].name()) << row;
         }
     }
     void message()
     {
         QFETCH(int, row);
-        const Expected& expected = messages[row];
+        const Message& message = messages()[row];
         StripFixture fixture;
         fixture.strip->SetAllButtonchecked(false, nullptr);
-        for (const int index : expected.checkedBefore) {
-            fixture.button(index)->setChecked(true);
+        for (const Tool tool : message.checkedBefore()) {
+            fixture.button(tool)->setChecked(true);
         }
-        fixture.receive(expected.code);
-        QCOMPARE(fixture.checked(), expected.checkedAfter);
-        QCOMPARE(fixture.recorder.codes(), expected.sent);
+        fixture.receive(message.code());
+        QCOMPARE(fixture.checked(), message.checkedAfter());
+        QCOMPARE(fixture.recorder.codes(), message.sent());
     }
 
     void emits_data()
     {
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("signal");
-        for (const Expected& expected : messages) {
-            const QMap<int, QString> signalOf = {{Accepted::CheckAndMeasure, "ruler"},
-                                                 {Accepted::Measure, "ruler"},
-                                                 {Accepted::UserSymbolsChanged, "users"},
-                                                 {Accepted::UnitChanged, "unit"},
-                                                 {Accepted::LanguageChanged, "language"}};
-            QTest::newRow(expected.name) << expected.code << signalOf.value(expected.code);
+        const QMap<int, QString> signalOf = {{Accepted::CheckAndMeasure, "ruler"},
+                                             {Accepted::Measure, "ruler"},
+                                             {Accepted::UserSymbolsChanged, "users"},
+                                             {Accepted::UnitChanged, "unit"},
+                                             {Accepted::LanguageChanged, "language"}};
+        for (const Message& message : messages()) {
+            QTest::newRow(message.name()) << message.code() << signalOf.value(message.code());
         }
     }
     void emits()
@@ -154,42 +197,46 @@ private Q_SLOTS:
     void checksTheButtonBeforeItRunsTheHandler_data()
     {
         QTest::addColumn<int>("code");
-        QTest::addColumn<int>("tool");
-        QTest::newRow("feature selection") << int(Accepted::FeatureSelection) << 20;
-        QTest::newRow("rectangle selection") << int(Accepted::RectangleSelection) << 21;
-        QTest::newRow("polygon selection") << int(Accepted::PolygonSelection) << 22;
-        QTest::newRow("polyline") << int(Accepted::SelectPolyline) << 23;
-        QTest::newRow("layer net") << int(Accepted::SelectLayerNet) << 23;
-        QTest::newRow("board net") << int(Accepted::SelectBoardNet) << 23;
-        QTest::newRow("measure") << int(Accepted::CheckAndMeasure) << 2;
+        QTest::addColumn<Tool>("tool");
+        QTest::newRow("feature selection")
+            << int(Accepted::FeatureSelection) << Tool::FeatureSelection;
+        QTest::newRow("rectangle selection")
+            << int(Accepted::RectangleSelection) << Tool::RectangleSelection;
+        QTest::newRow("polygon selection")
+            << int(Accepted::PolygonSelection) << Tool::PolygonSelection;
+        QTest::newRow("polyline") << int(Accepted::SelectPolyline) << Tool::SelectByNet;
+        QTest::newRow("layer net") << int(Accepted::SelectLayerNet) << Tool::SelectByNet;
+        QTest::newRow("board net") << int(Accepted::SelectBoardNet) << Tool::SelectByNet;
+        QTest::newRow("measure") << int(Accepted::CheckAndMeasure) << Tool::Measure;
     }
     void checksTheButtonBeforeItRunsTheHandler()
     {
         QFETCH(int, code);
-        QFETCH(int, tool);
+        QFETCH(Tool, tool);
         StripFixture fixture;
         // The handler releases the other tools: at the first toggle Area Zoom is still checked.
-        QList<int> checkedAtToggle;
+        QList<Tool> checkedAtToggle;
         connect(fixture.button(tool), &QToolButton::toggled, fixture.strip, [&] {
             if (checkedAtToggle.isEmpty()) {
                 checkedAtToggle = fixture.checked();
             }
         });
         fixture.receive(code);
-        QCOMPARE(checkedAtToggle, (QList<int>{0, tool}));
+        QCOMPARE(checkedAtToggle, (QList<Tool>{Tool::AreaZoom, tool}));
     }
 
     void measureAloneDoesNotCheckFirst()
     {
         StripFixture fixture;
-        QList<int> checkedAtToggle;
-        connect(fixture.button(2), &QToolButton::toggled, fixture.strip, [&] {
+        QList<Tool> checkedAtToggle;
+        connect(fixture.button(Tool::Measure), &QToolButton::toggled, fixture.strip, [&] {
             if (checkedAtToggle.isEmpty()) {
                 checkedAtToggle = fixture.checked();
             }
         });
         fixture.receive(Accepted::Measure);
-        QCOMPARE(checkedAtToggle, QList<int>{2});  // released in list order before it is checked
+        QCOMPARE(checkedAtToggle,
+                 QList<Tool>{Tool::Measure});  // released in list order before it is checked
     }
 
     void unknownCodes()
@@ -216,14 +263,14 @@ private Q_SLOTS:
         }
         QVERIFY(fixture.recorder.messages().isEmpty());
         QCOMPARE(spies.count(), 0);
-        QCOMPARE(fixture.checked(), QList<int>{0});
+        QCOMPARE(fixture.checked(), QList<Tool>{Tool::AreaZoom});
     }
 
     void addFeatureActiveMakesNoDialog()
     {
         StripFixture fixture;
         fixture.receive(Accepted::AddFeatureActive);
-        QVERIFY(!fixture.panel.findChild<QWidget*>("AddFeature"));
+        QVERIFY(!fixture.window.findChild<QWidget*>("AddFeature"));
     }
 
     void netCodesTwice()
@@ -363,7 +410,7 @@ private Q_SLOTS:
         fixture.receive(Accepted::UnitChanged);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed[0][0].toBool(), metric);
-        QCOMPARE(context, static_cast<void*>(&fixture.panel));
+        QCOMPARE(context, static_cast<void*>(&fixture.window));
     }
 
     void unitGuardAgainstAThrownText()

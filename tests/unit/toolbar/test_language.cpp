@@ -43,7 +43,7 @@ private Q_SLOTS:
         QApplication::installTranslator(&translator);
         QString tipAtSignal;
         connect(fixture.strip, &Canvas_Tool_Strip::language_changed, fixture.strip,
-                [&] { tipAtSignal = fixture.button(0)->toolTip(); });
+                [&] { tipAtSignal = fixture.button(Tool::AreaZoom)->toolTip(); });
         fixture.receive(Accepted::LanguageChanged);
         QApplication::removeTranslator(&translator);
         QCOMPARE(tipAtSignal, QString("Area Zoom"));  // the signal comes first
@@ -54,16 +54,16 @@ private Q_SLOTS:
         expected[int(Tool::Measure)] = marked("Measure", "tool_edit");
         expected[int(Tool::SelectByNet)] = marked("Select By Net");
         expected[int(Tool::Eq)] = "EQ";
-        for (int index = 0; index < ToolTable::toolCount; ++index) {
-            QCOMPARE(fixture.button(index)->toolTip(), expected[index]);
+        for (const Tool tool : allTools()) {
+            QCOMPARE(fixture.button(tool)->toolTip(), expected[int(tool)]);
         }
     }
 
     void menusThatExist()
     {
         StripFixture fixture;
-        fixture.panel.show();
-        for (const int tool : {5, 23, 24}) {
+        fixture.window.show();
+        for (const Tool tool : {Tool::DeleteFeature, Tool::SelectByNet, Tool::Mark}) {
             QTimer::singleShot(0, [] { QApplication::activePopupWidget()->close(); });
             QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
             QApplication::sendEvent(fixture.button(tool), &event);
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QApplication::removeTranslator(&translator);
         const auto texts = [&](const char* menu) {
             QStringList list;
-            for (const QAction* const action : fixture.panel.findChild<QMenu*>(menu)->actions()) {
+            for (const QAction* const action : fixture.window.findChild<QMenu*>(menu)->actions()) {
                 list.append(action->text());
             }
             return list;
@@ -91,8 +91,8 @@ private Q_SLOTS:
     {
         StripFixture fixture;
         fixture.receive(Accepted::LanguageChanged);
-        QCOMPARE(fixture.button(23)->toolTip(), QString("Select By Net"));
-        QVERIFY(fixture.panel.findChildren<QMenu*>().isEmpty());
+        QCOMPARE(fixture.button(Tool::SelectByNet)->toolTip(), QString("Select By Net"));
+        QVERIFY(fixture.window.findChildren<QMenu*>().isEmpty());
     }
 };
 

@@ -12,10 +12,6 @@ namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-constexpr int deleteTool = 5;
-constexpr int netTool = 23;
-constexpr int markTool = 24;
-
 QString sheet(const char* image, const char* checkedImage, const char* tail = "")
 {
     return QStringLiteral(
@@ -33,10 +29,10 @@ struct Opened {
 
 /// Right-clicks the tool and chooses the entry of that text with the mouse; dismisses the menu
 /// when there is none.
-Opened rightClick(StripFixture& fixture, int tool, const QString& entry)
+Opened rightClick(StripFixture& fixture, Tool tool, const QString& entry)
 {
     Opened opened;
-    const QPoint cursor = fixture.panel.mapToGlobal(QPoint(17, 23));
+    const QPoint cursor = fixture.window.mapToGlobal(QPoint(17, 23));
     QCursor::setPos(cursor);
     QTimer::singleShot(0, [&] {
         auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -70,32 +66,32 @@ class TestMenus : public QObject {
 private Q_SLOTS:
     void menu_data()
     {
-        QTest::addColumn<int>("tool");
+        QTest::addColumn<Tool>("tool");
         QTest::addColumn<QStringList>("entries");
-        QTest::addColumn<int>("owner");
-        QTest::newRow("delete") << deleteTool
+        QTest::addColumn<Tool>("parent");
+        QTest::newRow("delete") << Tool::DeleteFeature
                                 << QStringList{"Delete Feature", "Delete to Intersection"}
-                                << netTool;
-        QTest::newRow("net") << netTool
+                                << Tool::SelectByNet;
+        QTest::newRow("net") << Tool::SelectByNet
                              << QStringList{"Select Layer Net", "Select Board Net",
                                             "Select Polyline"}
-                             << netTool;
-        QTest::newRow("mark") << markTool
+                             << Tool::SelectByNet;
+        QTest::newRow("mark") << Tool::Mark
                               << QStringList{"Mark Orthogonal", "Mark Point to Point", "Setting"}
-                              << markTool;
+                              << Tool::Mark;
     }
     void menu()
     {
-        QFETCH(int, tool);
+        QFETCH(Tool, tool);
         QFETCH(QStringList, entries);
-        QFETCH(int, owner);
+        QFETCH(Tool, parent);
         StripFixture fixture;
-        fixture.panel.show();
+        fixture.window.show();
         const QString sheetBefore = fixture.button(tool)->styleSheet();
 
         const Opened first = rightClick(fixture, tool, {});
         QCOMPARE(first.entries, entries);
-        QCOMPARE(first.parent, fixture.button(owner));
+        QCOMPARE(first.parent, fixture.button(parent));
         QCOMPARE(first.position, QCursor::pos());
         const Opened second = rightClick(fixture, tool, {});
         QCOMPARE(second.entries, entries);
@@ -103,46 +99,48 @@ private Q_SLOTS:
         // Dismissed twice: no mode, picture or message changed.
         QVERIFY(fixture.recorder.messages().isEmpty());
         QCOMPARE(fixture.button(tool)->styleSheet(), sheetBefore);
-        QCOMPARE(fixture.checked(), QList<int>{0});
+        QCOMPARE(fixture.checked(), QList<Tool>{Tool::AreaZoom});
     }
 
     void entry_data()
     {
-        QTest::addColumn<int>("tool");
+        QTest::addColumn<Tool>("tool");
         QTest::addColumn<QString>("entry");
         QTest::addColumn<int>("code");
         QTest::addColumn<int>("extra");
         QTest::addColumn<QString>("style");
         QTest::newRow("delete feature")
-            << deleteTool << "Delete Feature" << int(Sent::DeleteFeature) << 0
+            << Tool::DeleteFeature << "Delete Feature" << int(Sent::DeleteFeature) << 0
             << sheet("delete1-gry.jpg", "delete1-gre.jpg");
         QTest::newRow("to intersection")
-            << deleteTool << "Delete to Intersection" << int(Sent::DeleteFeature) << 1
+            << Tool::DeleteFeature << "Delete to Intersection" << int(Sent::DeleteFeature) << 1
             << sheet("delete2-gry.jpg", "delete2-gre.jpg");
-        QTest::newRow("layer net") << netTool << "Select Layer Net" << int(Sent::SelectLayerNet)
-                                   << 0 << sheet("Net selection6.jpg", "Net selection5.jpg");
+        QTest::newRow("layer net")
+            << Tool::SelectByNet << "Select Layer Net" << int(Sent::SelectLayerNet) << 0
+            << sheet("Net selection6.jpg", "Net selection5.jpg");
         QTest::newRow("board net")
-            << netTool << "Select Board Net" << int(Sent::SelectBoardNet) << 0
+            << Tool::SelectByNet << "Select Board Net" << int(Sent::SelectBoardNet) << 0
             << sheet("Net selection4.jpg", "Net selection3.jpg", "border:2px solid green");
-        QTest::newRow("polyline") << netTool << "Select Polyline" << int(Sent::SelectPolyline) << 0
+        QTest::newRow("polyline") << Tool::SelectByNet << "Select Polyline"
+                                  << int(Sent::SelectPolyline) << 0
                                   << sheet("Net selection2.jpg", "Net selection1.jpg",
                                            "border:2px solid red");
-        QTest::newRow("orthogonal") << markTool << "Mark Orthogonal" << int(Sent::Mark) << 0
+        QTest::newRow("orthogonal") << Tool::Mark << "Mark Orthogonal" << int(Sent::Mark) << 0
                                     << sheet("markgry.png", "markgre.png");
-        QTest::newRow("point to point") << markTool << "Mark Point to Point" << int(Sent::Mark) << 1
-                                        << sheet("xie_grey.png", "xie_green.png");
+        QTest::newRow("point to point") << Tool::Mark << "Mark Point to Point" << int(Sent::Mark)
+                                        << 1 << sheet("xie_grey.png", "xie_green.png");
     }
     void entry()
     {
-        QFETCH(int, tool);
+        QFETCH(Tool, tool);
         QFETCH(QString, entry);
         QFETCH(int, code);
         QFETCH(int, extra);
         QFETCH(QString, style);
         StripFixture fixture;
-        fixture.panel.show();
+        fixture.window.show();
         QString styleWhileSending;
-        QList<int> checkedWhileSending;
+        QList<Tool> checkedWhileSending;
         fixture.recorder.setOnMessage([&](const Recorder::Entry&) {
             styleWhileSending = fixture.button(tool)->styleSheet();
             checkedWhileSending = fixture.checked();
@@ -150,12 +148,12 @@ private Q_SLOTS:
         rightClick(fixture, tool, entry);
         QCOMPARE(fixture.recorder.codes(), QVector<int>{code});
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(extra));
-        QCOMPARE(fixture.recorder.messages().last().sender, static_cast<void*>(&fixture.panel));
+        QCOMPARE(fixture.recorder.messages().last().sender, static_cast<void*>(&fixture.window));
         QCOMPARE(styleWhileSending, style);
-        QCOMPARE(checkedWhileSending, QList<int>{tool});
+        QCOMPARE(checkedWhileSending, QList<Tool>{tool});
 
         // The variant stays in force for plain clicks.
-        QTest::mouseClick(fixture.button(0), Qt::LeftButton);
+        QTest::mouseClick(fixture.button(Tool::AreaZoom), Qt::LeftButton);
         QTest::mouseClick(fixture.button(tool), Qt::LeftButton);
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{code, Sent::AreaZoom, code}));
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(extra));
@@ -165,29 +163,29 @@ private Q_SLOTS:
     void settingOnlySends()
     {
         StripFixture fixture;
-        fixture.panel.show();
-        rightClick(fixture, markTool, "Mark Point to Point");
-        QTest::mouseClick(fixture.button(1), Qt::LeftButton);
-        const QString styleBefore = fixture.button(markTool)->styleSheet();
+        fixture.window.show();
+        rightClick(fixture, Tool::Mark, "Mark Point to Point");
+        QTest::mouseClick(fixture.button(Tool::OpenPopView), Qt::LeftButton);
+        const QString styleBefore = fixture.button(Tool::Mark)->styleSheet();
         fixture.recorder.clear();
-        rightClick(fixture, markTool, "Setting");
+        rightClick(fixture, Tool::Mark, "Setting");
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::MarkSettings});
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
-        QCOMPARE(fixture.checked(), QList<int>{1});
-        QCOMPARE(fixture.button(markTool)->styleSheet(), styleBefore);
-        QTest::mouseClick(fixture.button(markTool), Qt::LeftButton);
+        QCOMPARE(fixture.checked(), QList<Tool>{Tool::OpenPopView});
+        QCOMPARE(fixture.button(Tool::Mark)->styleSheet(), styleBefore);
+        QTest::mouseClick(fixture.button(Tool::Mark), Qt::LeftButton);
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(1));
     }
 
     void variantsAreIndependent()
     {
         StripFixture fixture;
-        fixture.panel.show();
-        rightClick(fixture, deleteTool, "Delete to Intersection");
+        fixture.window.show();
+        rightClick(fixture, Tool::DeleteFeature, "Delete to Intersection");
         fixture.strip->on_mark_clicked();
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
-        rightClick(fixture, markTool, "Mark Point to Point");
-        rightClick(fixture, deleteTool, "Delete Feature");
+        rightClick(fixture, Tool::Mark, "Mark Point to Point");
+        rightClick(fixture, Tool::DeleteFeature, "Delete Feature");
         fixture.strip->on_mark_clicked();
         QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(1));
         fixture.strip->On_DeleteFeat_Clicked();
@@ -197,12 +195,12 @@ private Q_SLOTS:
     void entriesHaveTheirNames()
     {
         StripFixture fixture;
-        fixture.panel.show();
+        fixture.window.show();
         QStringList names;
-        for (const int tool : {deleteTool, netTool, markTool}) {
+        for (const Tool tool : {Tool::DeleteFeature, Tool::SelectByNet, Tool::Mark}) {
             rightClick(fixture, tool, {});
         }
-        for (const QAction* const action : fixture.panel.findChildren<QAction*>()) {
+        for (const QAction* const action : fixture.window.findChildren<QAction*>()) {
             if (action->objectName().startsWith("m_p")) {
                 names.append(action->objectName());
             }
