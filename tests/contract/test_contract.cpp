@@ -118,5 +118,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestContract)
+CTS_TEST(TestContract);
 #include "test_contract.moc"

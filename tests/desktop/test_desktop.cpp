@@ -330,5 +330,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestDesktop)
+CTS_TEST(TestDesktop);
 #include "test_desktop.moc"

@@ -172,5 +172,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestAccessibility)
+CTS_TEST(TestAccessibility);
 #include "test_accessibility.moc"

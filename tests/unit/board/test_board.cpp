@@ -225,5 +225,5 @@ private slots:
     }
 };
 
-CTS_MAIN(BoardTest)
+CTS_TEST(BoardTest);
 #include "test_board.moc"

@@ -184,5 +184,5 @@ private slots:
     }
 };
 
-CTS_MAIN(ExportsTest)
+CTS_TEST(ExportsTest);
 #include "test_exports.moc"

@@ -209,5 +209,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestViewer)
+CTS_TEST(TestViewer);
 #include "test_viewer.moc"

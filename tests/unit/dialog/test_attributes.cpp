@@ -161,5 +161,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestAttributes)
+CTS_TEST(TestAttributes);
 #include "test_attributes.moc"

@@ -203,5 +203,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSymbolPick)
+CTS_TEST(TestSymbolPick);
 #include "test_symbol_pick.moc"

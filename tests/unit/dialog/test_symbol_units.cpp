@@ -164,5 +164,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSymbolUnits)
+CTS_TEST(TestSymbolUnits);
 #include "test_symbol_units.moc"

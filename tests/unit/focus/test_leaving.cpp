@@ -163,5 +163,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestLeaving)
+CTS_TEST(TestLeaving);
 #include "test_leaving.moc"

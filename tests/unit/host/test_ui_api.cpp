@@ -1,3 +1,5 @@
+#include "Main.h"
+
 #include <UiApiStandIn.h>
 #include <ui_api.h>
 
@@ -304,5 +306,6 @@ void TestUiApi::boxBelongsToTheContextsWindow()
     }
 }
 
-QTEST_MAIN(TestUiApi)
+CTS_TEST(TestUiApi);
+#include "Main.h"
 #include "test_ui_api.moc"

@@ -248,5 +248,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestUnitFields)
+CTS_TEST(TestUnitFields);
 #include "test_unit_fields.moc"

@@ -445,5 +445,5 @@ private:
     }
 };
 
-CTS_MAIN(TestIncoming)
+CTS_TEST(TestIncoming);
 #include "test_incoming.moc"
