@@ -10,9 +10,8 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_AUTOMOC ON)
-# No AUTOUIC: it would take the host header ui_api.h for a form. Forms go through qt5_wrap_ui.
-set(CMAKE_AUTORCC ON)
+# The meta-object and resource compilers run where a target asks for them: each costs four build
+# steps. No AUTOUIC: it would take the host header ui_api.h for a form.
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
@@ -55,10 +54,16 @@ if(CTS_COVERAGE)
 endif()
 
 set(CTS_PRECOMPILED_HEADERS <QtWidgets> <map> <string> <vector>)
+file(WRITE ${CMAKE_BINARY_DIR}/precompiled.cpp "")
+find_package(Qt5 5.15 REQUIRED COMPONENTS Widgets)
+add_library(cts_precompiled OBJECT ${CMAKE_BINARY_DIR}/precompiled.cpp)
+target_link_libraries(cts_precompiled PRIVATE cts_settings Qt5::Widgets)
+target_precompile_headers(cts_precompiled PRIVATE ${CTS_PRECOMPILED_HEADERS})
 
-# cts_library(<target> <SHARED|STATIC|OBJECT> <sources...>): the settings above, and Qt's headers precompiled.
+# cts_library(<target> <SHARED|STATIC|OBJECT> <sources...>): the settings above, and Qt's headers,
+# precompiled once for all.
 function(cts_library target kind)
     add_library(${target} ${kind} ${ARGN})
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:cts_settings>)
-    target_precompile_headers(${target} PRIVATE ${CTS_PRECOMPILED_HEADERS})
+    target_precompile_headers(${target} REUSE_FROM cts_precompiled)
 endfunction()

@@ -6,10 +6,11 @@ set -u
 least=98
 
 need_packages build run test analysis
-tests='^(test_(toolbar|dialog|page|dimensions|contract|failing|hostile|reentrancy|translations|layout)|test_accessibility$|random_use$)'
+rooms='accessibility contract dialog dimensions fields language pages reliability toolbar'
+tests="^((${rooms// /|})\\.|random_use\$)"
 [ -f build/coverage/build.ninja ] || cmake --preset coverage >/dev/null || exit 1
-mapfile -t names < <(ctest --test-dir build/coverage -N -R "$tests" | sed -n 's/^ *Test *#[0-9]*: //p')
-build coverage "${names[@]}"
+read -ra programs <<<"$rooms"
+build coverage "${programs[@]/#/tests_}" random_use
 find build/coverage -name '*.gcda' -delete
 ctest --test-dir build/coverage --parallel "$(nproc)" -R "$tests" \
     >build/coverage/tests.log 2>&1 || { tail -n 15 build/coverage/tests.log; exit 1; }

@@ -113,5 +113,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestContract)
+CTS_TEST(TestContract);
 #include "test_contract.moc"

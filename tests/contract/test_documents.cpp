@@ -93,5 +93,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestDocuments)
+CTS_TEST(TestDocuments);
 #include "test_documents.moc"

@@ -251,5 +251,5 @@ private Q_SLOTS:
     void tools() { QCOMPARE(ToolTable::toolCount, 26); }
 };
 
-CTS_MAIN(TestProtocol)
+CTS_TEST(TestProtocol);
 #include "test_protocol.moc"

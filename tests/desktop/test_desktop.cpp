@@ -388,5 +388,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestDesktop)
+CTS_TEST(TestDesktop);
 #include "test_desktop.moc"

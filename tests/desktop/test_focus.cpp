@@ -181,34 +181,16 @@ class TestFocus : public QObject {
         QTest::qWait(100);
     }
 
-private Q_SLOTS:
-    void init()
-    {
-        m_log = std::make_unique<MessageLog>();
-        m_window = openWindow(*m_log);
-        m_dialog = nullptr;
-        openDialog();
-        m_agreement = std::make_unique<Agreement>(*m_dialog);
-        m_dialog->move(m_window->frameGeometry().right() + 10, m_window->y());
-    }
-
-    void cleanup()
-    {
-        m_agreement.reset();
-        m_window.reset();
-        m_log.reset();
-    }
-
-    void nothingTypedIsLost_data()
+    static void addRows(const char* type)
     {
         QTest::addColumn<int>("number");
         QTest::addColumn<QString>("way");
         for (int number = 0; number < entries().size(); ++number) {
             for (const QString& way : ways) {
                 const Entry& entry = entries()[number];
-                const bool isPossible =
-                    (way != "m_pLineCMB" || qstrcmp(entry.type, "m_pLineTB") == 0) &&
-                    (way != "m_pFontPB" || qstrcmp(entry.type, "m_pTextTB") == 0);
+                const bool isPossible = qstrcmp(entry.type, type) == 0 &&
+                                        (way != "m_pLineCMB" || qstrcmp(type, "m_pLineTB") == 0) &&
+                                        (way != "m_pFontPB" || qstrcmp(type, "m_pTextTB") == 0);
                 if (isPossible) {
                     QTest::addRow("%s %s, %s", entry.field, entry.typed, qPrintable(way))
                         << number << way;
@@ -246,6 +228,33 @@ private Q_SLOTS:
         QCOMPARE(hands.texts.filter(entry.box ? entry.box : "|").size(),
                  (entry.box ? 1 : 0) + (!entry.box && way == "a host's box" ? 1 : 0));
     }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_log = std::make_unique<MessageLog>();
+        m_window = openWindow(*m_log);
+        m_dialog = nullptr;
+        openDialog();
+        m_agreement = std::make_unique<Agreement>(*m_dialog);
+        m_dialog->move(m_window->frameGeometry().right() + 10, m_window->y());
+    }
+
+    void cleanup()
+    {
+        m_agreement.reset();
+        m_window.reset();
+        m_log.reset();
+    }
+
+    void padEntries_data() { addRows("m_pPadTB"); }
+    void padEntries() { nothingTypedIsLost(); }
+
+    void lineEntries_data() { addRows("m_pLineTB"); }
+    void lineEntries() { nothingTypedIsLost(); }
+
+    void textEntries_data() { addRows("m_pTextTB"); }
+    void textEntries() { nothingTypedIsLost(); }
 
     /// The host's window comes to the front when it is clicked, but not above the dialog.
     void dialogStaysAboveTheHostsWindow()
@@ -292,5 +301,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestFocus)
+CTS_TEST(TestFocus);
 #include "test_focus.moc"

@@ -181,5 +181,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestRecording)
+CTS_TEST(TestRecording);
 #include "test_recording.moc"

@@ -102,5 +102,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestScreens)
+CTS_TEST(TestScreens);
 #include "test_screens.moc"

@@ -138,5 +138,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestLifeCycle)
+CTS_TEST(TestLifeCycle);
 #include "test_life_cycle.moc"

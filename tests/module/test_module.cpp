@@ -168,5 +168,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestModule)
+CTS_TEST(TestModule);
 #include "test_module.moc"

@@ -26,18 +26,24 @@ ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
 FOLDERS = ("plugin", "toolbar", "addfeature", "dimensions")
 # The fast tests of the module, the quickest first; the order changes as tests prove useful.
-TESTS = """test_contract test_protocol test_fields test_rules test_toolbar_entry
-test_toolbar_language test_dimensions test_toolbar_menus
-test_toolbar_incoming test_dialog_attributes test_page_fonts_and_special_texts
-test_toolbar_activation test_dialog_frame test_dialog_symbol_units test_dialog_symbol_pick
-test_toolbar_construction test_dialog_sending test_translations test_accessibility test_layout
-test_resources test_looks test_page_pad test_page_text_formats test_page_line test_page_surface_and_arc
-test_page_text test_page_rows test_element_area test_guard_title test_focus_agreement
-test_focus_type_change test_focus_refused_symbol test_focus_pending
-test_dialog_symbol_entry test_failing_construction test_reentrancy random_use
+TESTS = """contract.contract contract.protocol fields.fields fields.rules toolbar.entry
+toolbar.language dimensions.dimensions toolbar.menus toolbar.incoming dialog.attributes
+pages.fonts_and_special_texts_page toolbar.activation dialog.frame dialog.symbol_units
+dialog.symbol_pick toolbar.construction dialog.sending language.translations
+accessibility.accessibility accessibility.layout accessibility.looks resources.resources
+pages.pad_page pages.text_formats_page pages.line_page pages.surface_and_arc_page pages.text_page
+pages.rows dimensions.element_area language.guard_title focus.agreement focus.type_change
+focus.refused_symbol focus.pending dialog.symbol_entry reliability.failing_construction
+reliability.reentrancy random_use
 """.split()
 ENVIRONMENT = dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
 TARGET_SHARE = 0.95
+
+
+def command_of(test):
+    """The program of a room's class, and its argument."""
+    room, _, name = test.partition(".")
+    return [f"tests_{room}", name] if name else [room]
 
 
 def all_mutants():
@@ -81,7 +87,7 @@ class Copy:
         subprocess.run(["cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja",
                         "-DCMAKE_BUILD_TYPE=None", "-DCTS_MUTATION=ON", "-DCMAKE_CXX_FLAGS=-O0"],
                        check=True, capture_output=True)
-        if not self.compile(TESTS):
+        if not self.compile({command_of(test)[0] for test in TESTS}):
             sys.exit("the tests do not build")
         for test in TESTS:
             if not self.passes(test):
@@ -93,8 +99,10 @@ class Copy:
 
     def passes(self, test):
         try:
-            return subprocess.run([self.build / "bin" / test], cwd=self.build, env=ENVIRONMENT, capture_output=True,
-                                  timeout=180, check=False).returncode == 0
+            program, *arguments = command_of(test)
+            return subprocess.run([self.build / "bin" / program, *arguments], cwd=self.build,
+                                  env=ENVIRONMENT, capture_output=True, timeout=180,
+                                  check=False).returncode == 0
         except subprocess.TimeoutExpired:
             return False
 
@@ -121,7 +129,7 @@ class Copy:
     @staticmethod
     def readers(path):
         """The tests that are to be built again: they read the protocol's headers themselves."""
-        return ["test_contract", "test_protocol"] if re.fullmatch(r"plugin/.*\.h", path) else []
+        return ["tests_contract"] if re.fullmatch(r"plugin/.*\.h", path) else []
 
     def order(self, path):
         """The tests that caught other mutants of the file first."""

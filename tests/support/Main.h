@@ -4,14 +4,20 @@
 #include <QObject>
 #include <QtTest>
 
-/// Gives the calling test program its application and its log, then runs `test`.
-int runTests(QObject& test, int argc, char** argv);
+/// The test classes of a program. Each is run alone, in a process of its own.
+namespace TestProgram {
 
-/// The main function of a test program with the one test class `Class`.
-#define CTS_MAIN(Class)                       \
-    int main(int argc, char** argv)           \
-    {                                         \
-        QApplication application(argc, argv); \
-        Class test;                           \
-        return runTests(test, argc, argv);    \
-    }
+using Run = int (*)(int argc, char** argv);
+
+/// The class of that source file: test_frame.cpp is chosen by the argument "frame".
+bool add(const char* sourceFile, Run run);
+
+}  // namespace TestProgram
+
+/// Makes `Class` one of the program's test classes.
+#define CTS_TEST(Class)                                        \
+    [[maybe_unused]] static const bool isClassAdded =          \
+        TestProgram::add(__FILE__, [](int argc, char** argv) { \
+            Class test;                                        \
+            return QTest::qExec(&test, argc, argv);            \
+        })

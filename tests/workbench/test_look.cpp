@@ -167,5 +167,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestLook)
+CTS_TEST(TestLook);
 #include "test_look.moc"

@@ -243,5 +243,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestWindow)
+CTS_TEST(TestWindow);
 #include "test_window.moc"

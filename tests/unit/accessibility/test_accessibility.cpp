@@ -170,5 +170,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestAccessibility)
+CTS_TEST(TestAccessibility);
 #include "test_accessibility.moc"

@@ -283,5 +283,5 @@ private:
     }
 };
 
-CTS_MAIN(TestLayout)
+CTS_TEST(TestLayout);
 #include "test_layout.moc"

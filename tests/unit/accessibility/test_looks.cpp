@@ -336,5 +336,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestLooks)
+CTS_TEST(TestLooks);
 #include "test_looks.moc"

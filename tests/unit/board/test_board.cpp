@@ -219,5 +219,5 @@ private slots:
     }
 };
 
-CTS_MAIN(BoardTest)
+CTS_TEST(BoardTest);
 #include "test_board.moc"

@@ -181,5 +181,5 @@ private slots:
     }
 };
 
-CTS_MAIN(BoardFileTest)
+CTS_TEST(BoardFileTest);
 #include "test_board_file.moc"

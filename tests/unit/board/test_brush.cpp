@@ -215,5 +215,5 @@ private slots:
     }
 };
 
-CTS_MAIN(BrushTest)
+CTS_TEST(BrushTest);
 #include "test_brush.moc"

@@ -188,5 +188,5 @@ private slots:
     }
 };
 
-CTS_MAIN(ExportsTest)
+CTS_TEST(ExportsTest);
 #include "test_exports.moc"

@@ -262,5 +262,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-CTS_MAIN(GerberPictureTest)
+CTS_TEST(GerberPictureTest);
 #include "test_gerber_picture.moc"

@@ -114,5 +114,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(ListsTest)
+CTS_TEST(ListsTest);
 #include "test_lists.moc"

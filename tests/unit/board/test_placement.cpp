@@ -394,5 +394,5 @@ private slots:
     }
 };
 
-CTS_MAIN(PlacementTest)
+CTS_TEST(PlacementTest);
 #include "test_placement.moc"

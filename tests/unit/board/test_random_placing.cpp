@@ -123,5 +123,5 @@ private:
     }
 };
 
-CTS_MAIN(RandomPlacingTest)
+CTS_TEST(RandomPlacingTest);
 #include "test_random_placing.moc"

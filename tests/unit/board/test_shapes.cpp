@@ -322,5 +322,5 @@ private slots:
     }
 };
 
-CTS_MAIN(ShapesTest)
+CTS_TEST(ShapesTest);
 #include "test_shapes.moc"

@@ -316,5 +316,5 @@ private slots:
     }
 };
 
-CTS_MAIN(TextsTest)
+CTS_TEST(TextsTest);
 #include "test_texts.moc"

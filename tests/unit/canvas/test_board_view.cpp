@@ -185,5 +185,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestBoardView)
+CTS_TEST(TestBoardView);
 #include "test_board_view.moc"

@@ -270,5 +270,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestDocument)
+CTS_TEST(TestDocument);
 #include "test_document.moc"

@@ -340,5 +340,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestExact)
+CTS_TEST(TestExact);
 #include "test_exact.moc"

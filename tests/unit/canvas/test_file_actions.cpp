@@ -268,5 +268,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestFileActions)
+CTS_TEST(TestFileActions);
 #include "test_file_actions.moc"

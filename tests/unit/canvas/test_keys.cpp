@@ -223,5 +223,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestKeys)
+CTS_TEST(TestKeys);
 #include "test_keys.moc"

@@ -252,5 +252,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestPlacing)
+CTS_TEST(TestPlacing);
 #include "test_placing.moc"

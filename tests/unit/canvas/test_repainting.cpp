@@ -284,5 +284,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestRepainting)
+CTS_TEST(TestRepainting);
 #include "test_repainting.moc"

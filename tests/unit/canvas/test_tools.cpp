@@ -379,5 +379,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestTools)
+CTS_TEST(TestTools);
 #include "test_tools.moc"

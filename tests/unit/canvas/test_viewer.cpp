@@ -210,5 +210,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestViewer)
+CTS_TEST(TestViewer);
 #include "test_viewer.moc"

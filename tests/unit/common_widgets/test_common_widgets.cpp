@@ -247,5 +247,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestCommonWidgets)
+CTS_TEST(TestCommonWidgets);
 #include "test_common_widgets.moc"

@@ -162,5 +162,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestAttributes)
+CTS_TEST(TestAttributes);
 #include "test_attributes.moc"

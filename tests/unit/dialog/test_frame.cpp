@@ -295,5 +295,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestFrame)
+CTS_TEST(TestFrame);
 #include "test_frame.moc"

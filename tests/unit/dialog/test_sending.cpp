@@ -265,5 +265,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSending)
+CTS_TEST(TestSending);
 #include "test_sending.moc"

@@ -442,5 +442,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSymbolEntry)
+CTS_TEST(TestSymbolEntry);
 #include "test_symbol_entry.moc"

@@ -204,5 +204,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSymbolPick)
+CTS_TEST(TestSymbolPick);
 #include "test_symbol_pick.moc"

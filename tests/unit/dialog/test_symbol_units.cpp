@@ -170,5 +170,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSymbolUnits)
+CTS_TEST(TestSymbolUnits);
 #include "test_symbol_units.moc"

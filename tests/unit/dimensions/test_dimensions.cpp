@@ -346,5 +346,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestDimensions)
+CTS_TEST(TestDimensions);
 #include "test_dimensions.moc"

@@ -104,5 +104,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestElementArea)
+CTS_TEST(TestElementArea);
 #include "test_element_area.moc"

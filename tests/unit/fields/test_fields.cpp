@@ -480,5 +480,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestFields)
+CTS_TEST(TestFields);
 #include "test_fields.moc"

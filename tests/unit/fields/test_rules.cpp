@@ -312,5 +312,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestRules)
+CTS_TEST(TestRules);
 #include "test_rules.moc"

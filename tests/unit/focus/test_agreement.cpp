@@ -118,5 +118,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestAgreement)
+CTS_TEST(TestAgreement);
 #include "test_agreement.moc"

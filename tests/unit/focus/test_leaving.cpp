@@ -161,5 +161,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestLeaving)
+CTS_TEST(TestLeaving);
 #include "test_leaving.moc"

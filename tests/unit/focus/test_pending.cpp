@@ -260,5 +260,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestPending)
+CTS_TEST(TestPending);
 #include "test_pending.moc"

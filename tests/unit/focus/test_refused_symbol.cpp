@@ -120,5 +120,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestRefusedSymbol)
+CTS_TEST(TestRefusedSymbol);
 #include "test_refused_symbol.moc"

@@ -160,5 +160,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestTypeChange)
+CTS_TEST(TestTypeChange);
 #include "test_type_change.moc"

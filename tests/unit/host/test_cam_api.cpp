@@ -1,4 +1,5 @@
 #include "ErrorOf.h"
+#include "Main.h"
 
 #include <CamApiStandIn.h>
 #include <cam_api.h>
@@ -417,5 +418,5 @@ void TestCamApi::unreadableJobFile()
     QCOMPARE(CanvasHost::currentJob()->name, std::string("old"));
 }
 
-QTEST_APPLESS_MAIN(TestCamApi)
+CTS_TEST(TestCamApi);
 #include "test_cam_api.moc"

@@ -53,5 +53,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestJobFile)
+CTS_TEST(TestJobFile);
 #include "test_job_file.moc"

@@ -138,5 +138,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestPluginManager)
+CTS_TEST(TestPluginManager);
 #include "test_plugin_manager.moc"

@@ -1,3 +1,5 @@
+#include "Main.h"
+
 #include <UiApiStandIn.h>
 #include <ui_api.h>
 
@@ -196,5 +198,6 @@ void TestUiApi::boxBelongsToTheContextsWindow()
     }
 }
 
-QTEST_MAIN(TestUiApi)
+CTS_TEST(TestUiApi);
+#include "Main.h"
 #include "test_ui_api.moc"

@@ -67,5 +67,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestGuardTitle)
+CTS_TEST(TestGuardTitle);
 #include "test_guard_title.moc"

@@ -163,5 +163,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestTranslations)
+CTS_TEST(TestTranslations);
 #include "test_translations.moc"

@@ -245,5 +245,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestFontsAndSpecialTextsPage)
+CTS_TEST(TestFontsAndSpecialTextsPage);
 #include "test_fonts_and_special_texts_page.moc"

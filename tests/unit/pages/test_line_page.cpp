@@ -403,5 +403,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestLinePage)
+CTS_TEST(TestLinePage);
 #include "test_line_page.moc"

@@ -269,5 +269,5 @@ private Q_SLOTS:
     void language() { PageCases::retranslate("m_pPadPage", pad); }
 };
 
-CTS_MAIN(TestPadPage)
+CTS_TEST(TestPadPage);
 #include "test_pad_page.moc"

@@ -93,5 +93,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestRows)
+CTS_TEST(TestRows);
 #include "test_rows.moc"

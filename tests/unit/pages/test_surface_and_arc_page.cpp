@@ -329,5 +329,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSurfaceAndArcPage)
+CTS_TEST(TestSurfaceAndArcPage);
 #include "test_surface_and_arc_page.moc"

@@ -392,5 +392,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestTextFormatsPage)
+CTS_TEST(TestTextFormatsPage);
 #include "test_text_formats_page.moc"

@@ -378,5 +378,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestTextPage)
+CTS_TEST(TestTextPage);
 #include "test_text_page.moc"

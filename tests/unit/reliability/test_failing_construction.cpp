@@ -66,5 +66,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestFailingConstruction)
+CTS_TEST(TestFailingConstruction);
 #include "test_failing_construction.moc"

@@ -342,5 +342,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestFailingHost)
+CTS_TEST(TestFailingHost);
 #include "test_failing_host.moc"

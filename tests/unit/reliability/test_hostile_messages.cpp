@@ -179,5 +179,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestHostileMessages)
+CTS_TEST(TestHostileMessages);
 #include "test_hostile_messages.moc"

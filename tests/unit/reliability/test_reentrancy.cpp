@@ -232,5 +232,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestReentrancy)
+CTS_TEST(TestReentrancy);
 #include "test_reentrancy.moc"

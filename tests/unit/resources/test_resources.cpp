@@ -302,5 +302,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestResources)
+CTS_TEST(TestResources);
 #include "test_resources.moc"

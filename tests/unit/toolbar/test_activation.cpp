@@ -355,5 +355,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestActivation)
+CTS_TEST(TestActivation);
 #include "test_activation.moc"

@@ -257,5 +257,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestConstruction)
+CTS_TEST(TestConstruction);
 #include "test_construction.moc"

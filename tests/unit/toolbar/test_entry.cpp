@@ -73,5 +73,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestEntry)
+CTS_TEST(TestEntry);
 #include "test_entry.moc"

@@ -492,5 +492,5 @@ private:
     }
 };
 
-CTS_MAIN(TestIncoming)
+CTS_TEST(TestIncoming);
 #include "test_incoming.moc"

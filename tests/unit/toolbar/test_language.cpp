@@ -96,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestLanguage)
+CTS_TEST(TestLanguage);
 #include "test_language.moc"

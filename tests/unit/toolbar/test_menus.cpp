@@ -213,5 +213,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestMenus)
+CTS_TEST(TestMenus);
 #include "test_menus.moc"

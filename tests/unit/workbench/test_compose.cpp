@@ -168,5 +168,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestCompose)
+CTS_TEST(TestCompose);
 #include "test_compose.moc"

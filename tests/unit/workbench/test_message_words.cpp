@@ -86,5 +86,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestMessageWords)
+CTS_TEST(TestMessageWords);
 #include "test_message_words.moc"

@@ -191,5 +191,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestMonitor)
+CTS_TEST(TestMonitor);
 #include "test_monitor.moc"

@@ -60,5 +60,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestRecordTable)
+CTS_TEST(TestRecordTable);
 #include "test_record_table.moc"

@@ -168,5 +168,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSessionParser)
+CTS_TEST(TestSessionParser);
 #include "test_session_parser.moc"

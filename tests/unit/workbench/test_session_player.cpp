@@ -205,5 +205,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSessionPlayer)
+CTS_TEST(TestSessionPlayer);
 #include "test_session_player.moc"

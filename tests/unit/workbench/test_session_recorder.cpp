@@ -445,5 +445,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSessionRecorder)
+CTS_TEST(TestSessionRecorder);
 #include "test_session_recorder.moc"

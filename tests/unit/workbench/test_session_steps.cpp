@@ -328,5 +328,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSessionSteps)
+CTS_TEST(TestSessionSteps);
 #include "test_session_steps.moc"

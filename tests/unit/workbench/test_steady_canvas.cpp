@@ -219,5 +219,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestSteadyCanvas)
+CTS_TEST(TestSteadyCanvas);
 #include "test_steady_canvas.moc"

@@ -200,5 +200,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestStripAndCanvas)
+CTS_TEST(TestStripAndCanvas);
 #include "test_strip_and_canvas.moc"

@@ -231,5 +231,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_MAIN(TestWorkbench)
+CTS_TEST(TestWorkbench);
 #include "test_workbench.moc"
