@@ -82,6 +82,8 @@ ViewerPane::~ViewerPane()
 {
     CanvasHost::setMeasureStarted({});
     delete m_secondView;
+    // The histories of the boards report once more while they end.
+    delete m_files;
 }
 
 QLayout* ViewerPane::createHead()
