@@ -437,10 +437,6 @@
         <translation>未创建实例</translation>
     </message>
     <message>
-        <source>the file is empty</source>
-        <translation>文件为空</translation>
-    </message>
-    <message>
         <source>the document</source>
         <translation>文档</translation>
     </message>
