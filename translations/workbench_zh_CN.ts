@@ -437,10 +437,6 @@
         <translation>未创建实例</translation>
     </message>
     <message>
-        <source>the file is empty</source>
-        <translation>文件为空</translation>
-    </message>
-    <message>
         <source>the document</source>
         <translation>文档</translation>
     </message>
@@ -1090,10 +1086,6 @@
         <translation>“%1”既不是 true 也不是 false</translation>
     </message>
     <message>
-        <source>Row %1: %2</source>
-        <translation>第 %1 行：%2</translation>
-    </message>
-    <message>
         <source>the key is missing</source>
         <translation>缺少键</translation>
     </message>
@@ -1112,6 +1104,10 @@
     <message>
         <source>Value</source>
         <translation>值</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>第 %1 行</translation>
     </message>
 </context>
 <context>

@@ -126,9 +126,6 @@ int lineOfOffset(const QByteArray& text, int offset)
 
 JsonDocument::JsonDocument(const QByteArray& text, const QString& file)
 {
-    if (text.trimmed().isEmpty()) {
-        throw FileError{file, 0, QCoreApplication::translate("FileErrors", "the file is empty")};
-    }
     QJsonParseError parsed;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsed);
     if (parsed.error != QJsonParseError::NoError) {

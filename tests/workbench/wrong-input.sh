@@ -26,7 +26,6 @@ expect() {
 printf '{ "format": 1,\n  "jobs": [\n' >"$dir/open.json"
 printf '{ "format": 1,\n  "jobs": [ { "name": 7 } ] }\n' >"$dir/name.json"
 printf '\377\376' >"$dir/binary.json"
-: >"$dir/empty.json"
 printf 'click m_pMarkTB\njump\n' >"$dir/jump.session"
 printf '\n\nclick m_p\377\n' >"$dir/binary.session"
 printf 'send 20001811 extra=77\n' >"$dir/address.session"
@@ -44,7 +43,6 @@ expect 2 "Unknown option 'bogus'" -bogus
 expect 2 "unexpected argument \"$dir\"" "$dir"
 expect 2 "foot" --unit foot
 expect 2 "$dir/absent.json" --job "$dir/absent.json"
-expect 2 "$dir/empty.json: the file is empty" --job "$dir/empty.json"
 expect 2 "$dir:" --job "$dir"
 expect 2 "$dir/binary.json:1: " --job "$dir/binary.json"
 expect 2 "$dir/open.json:3: " --job "$dir/open.json"

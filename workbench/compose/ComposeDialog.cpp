@@ -6,6 +6,7 @@
 #include "messages/MessageNames.h"
 #include "messages/MessageWords.h"
 
+#include <FileError.h>
 #include <PluginManagerStandIn.h>
 
 #include <QComboBox>
@@ -206,6 +207,18 @@ bool ComposeDialog::readCode(HostMessage* message)
     return ok;
 }
 
+bool ComposeDialog::readPayload(HostMessage* message)
+{
+    try {
+        message->payload = m_pComposePayloadTW->read();
+        showError(m_pComposePayloadErrorLB, QString());
+        return true;
+    } catch (const CanvasHost::FileError& error) {
+        showError(m_pComposePayloadErrorLB, error.text());
+        return false;
+    }
+}
+
 bool ComposeDialog::readExtra(HostMessage* message)
 {
     const ExtraChoice& choice = extras[m_pComposeExtraCMB->currentIndex()];
@@ -230,10 +243,8 @@ bool ComposeDialog::send()
 {
     HostMessage message;
     message.sender = m_pComposeSenderLE->text().trimmed();
-    QString payloadError;
     const bool codeRight = readCode(&message);
-    const bool payloadRight = m_pComposePayloadTW->read(&message.payload, &payloadError);
-    showError(m_pComposePayloadErrorLB, payloadError);
+    const bool payloadRight = readPayload(&message);
     // What the extra word has to be follows from the code.
     const bool extraRight = codeRight && readExtra(&message);
     m_pComposeSentLB->clear();

@@ -34,6 +34,7 @@ private:
     void createButtons();
     void codeChanged();
     bool readCode(HostMessage* message);
+    bool readPayload(HostMessage* message);
     bool readExtra(HostMessage* message);
     void showExtraHint();
     void retranslate();

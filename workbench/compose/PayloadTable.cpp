@@ -3,6 +3,8 @@
 #include "compose/FaultMark.h"
 #include "messages/MessageWords.h"
 
+#include <FileError.h>
+
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -93,15 +95,20 @@ void PayloadTable::nameFields()
     }
 }
 
-bool PayloadTable::read(QMap<QString, QVariant>* payload, QString* error)
+QMap<QString, QVariant> PayloadTable::read()
 {
+    QMap<QString, QVariant> payload;
+    CanvasHost::FileError first;
     for (int row = 0; row < rowCount(); ++row) {
-        const QString fault = readRow(row, payload);
-        if (!fault.isEmpty() && error->isEmpty()) {
-            *error = tr("Row %1: %2").arg(row + 1).arg(fault);
+        const QString fault = readRow(row, &payload);
+        if (!fault.isEmpty() && first.reason.isEmpty()) {
+            first = {tr("Row %1").arg(row + 1), 0, fault};
         }
     }
-    return error->isEmpty();
+    if (!first.reason.isEmpty()) {
+        throw first;
+    }
+    return payload;
 }
 
 QString PayloadTable::readRow(int row, QMap<QString, QVariant>* payload)

@@ -19,8 +19,9 @@ public:
     /// Removes the row of the field that has the focus, or the last one.
     void removeEntry();
 
-    /// False when an entry is wrong: its field is marked, and `error` names row and mistake.
-    bool read(QMap<QString, QVariant>* payload, QString* error);
+    /// The entries as they stand. A field that is wrong is marked, and the first one thrown as a
+    /// FileError, in which the row stands in the place of a file.
+    QMap<QString, QVariant> read();
 
     void retranslate();
 

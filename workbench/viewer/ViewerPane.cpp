@@ -77,6 +77,8 @@ ViewerPane::~ViewerPane()
 {
     CanvasHost::setMeasureStarted({});
     delete m_secondView;
+    // The histories of the boards report once more while they end.
+    delete m_files;
 }
 
 QLayout* ViewerPane::createFoot()

@@ -72,28 +72,44 @@ class Chosen {
 public:
     explicit Chosen(const QString& file = {}, int filter = 0)
     {
-        QTimer::singleShot(100, [this, file, filter] {
+        QObject::connect(&m_timer, &QTimer::timeout, [this, file, filter] {
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (!dialog) {
-                return;
+            if (m_done && dialog != m_dialog) {
+                m_timer.stop();
+            } else if (dialog) {
+                answer(dialog, file, filter);
             }
-            auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
+        });
+        m_timer.start(50);
+    }
+    QString offered;
+    QString folder;
+
+private:
+    void answer(QFileDialog* dialog, const QString& file, int filter)
+    {
+        auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
+        if (!m_done) {
+            m_done = true;
+            m_dialog = dialog;
             offered = name.text();
             folder = dialog->directory().path();
             if (filter > 0) {
                 dialog->selectNameFilter(dialog->nameFilters().at(filter));
                 Q_EMIT dialog->filterSelected(dialog->nameFilters().at(filter));
             }
-            if (file.isEmpty()) {
-                dialog->reject();
-                return;
-            }
-            name.setText(file);
-            QTest::keyClick(&name, Qt::Key_Return);
-        });
+        }
+        if (file.isEmpty()) {
+            dialog->reject();
+            return;
+        }
+        name.setText(file);
+        QTest::keyClick(&name, Qt::Key_Return);
     }
-    QString offered;
-    QString folder;
+
+    QTimer m_timer;
+    QPointer<QFileDialog> m_dialog;
+    bool m_done = false;
 };
 
 }  // namespace
@@ -235,6 +251,19 @@ private Q_SLOTS:
         QVERIFY(!fixture.files().mayClose());
         QCOMPARE(boxes, 2);
         QVERIFY(fixture.files().isModified());
+    }
+
+    void nothingIsToldOfBoardsThatEnd()
+    {
+        int told = 0;
+        {
+            const FileFixture fixture;
+            fixture.deleteAll();
+            fixture.pane->canvas().openStep("demo", "pcb");
+            fixture.deleteAll();
+            connect(&fixture.files(), &FileActions::changed, this, [&] { ++told; });
+        }
+        QCOMPARE(told, 0);
     }
 
     void exportsTakeTheSuffixOfTheirKind()
