@@ -270,6 +270,7 @@ void BoardView::drawBackground(QPainter* painter, const QRectF& area)
 
 void BoardView::drawBoard(QPainter* painter, const QRectF& area) const
 {
+    painter->setRenderHints(renderHints());  // a kept background is drawn without them
     painter->fillRect(area, CanvasColours::ground);
     painter->setPen(QPen(CanvasColours::boardEdge, 0));
     painter->setBrush(CanvasColours::boardGround);

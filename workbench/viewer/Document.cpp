@@ -189,19 +189,13 @@ void Document::push(const QString& text, const DocumentStep& step)
 
 void Document::take(const DocumentStep& step)
 {
-    const Ids selected = step.selected.ids();
-    const Ids highlighted = step.highlighted.ids();
-    const Ids selectedBefore = idsOf(m_state.selected);
-    const Ids highlightedBefore = idsOf(m_state.highlighted);
+    const Ids selected = difference(sorted(idsOf(m_state.selected)), step.selected.ids());
+    const Ids highlighted = difference(sorted(idsOf(m_state.highlighted)), step.highlighted.ids());
     std::vector<QRectF> areas = exchange(step);
-    if (!step.ids.empty() || !selected.empty()) {
-        toggle(m_state.selected, selectedBefore, selected);
-    }
-    if (!step.ids.empty() || !highlighted.empty()) {
-        toggle(m_state.highlighted, highlightedBefore, highlighted);
-    }
-    for (const Ids& toggled : {selected, highlighted}) {
-        for (const int index : indexesOf(toggled)) {
+    m_state.selected = indexesOf(selected);
+    m_state.highlighted = indexesOf(highlighted);
+    for (const Pcb::IdSet& toggled : {step.selected, step.highlighted}) {
+        for (const int index : indexesOf(toggled.ids())) {
             areas.push_back(m_state.board.features[static_cast<size_t>(index)].bounds());
         }
     }
@@ -303,11 +297,6 @@ Pcb::Indexes Document::indexesOf(const Ids& ids) const
         }
     }
     return sorted(indexes);
-}
-
-void Document::toggle(Pcb::Indexes& indexes, const Ids& before, const Ids& toggled) const
-{
-    indexes = indexesOf(difference(sorted(before), toggled));
 }
 
 Pcb::Indexes Document::featuresIn(const QRectF& area) const

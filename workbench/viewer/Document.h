@@ -99,7 +99,6 @@ private:
 
     Ids idsOf(const Pcb::Indexes& indexes) const;
     Pcb::Indexes indexesOf(const Ids& ids) const;
-    void toggle(Pcb::Indexes& indexes, const Ids& before, const Ids& toggled) const;
 
     CanvasState m_state;
     Ids m_ids;                            ///< of the board's features, in their order

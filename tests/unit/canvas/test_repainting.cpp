@@ -162,6 +162,20 @@ private Q_SLOTS:
         QVERIFY(lookAlike(shown, drawnAtOnce(fixture.view())));
     }
 
+    void aPanByPixelsLeavesNoSeams()
+    {
+        CanvasFixture fixture(manyFeatures());
+        BoardView& view = fixture.view();
+        view.showArea({5000, 5000, 5000, 5000});
+        for (int i = 0; i < 60; ++i) {
+            view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->value() + 1);
+            view.verticalScrollBar()->setValue(view.verticalScrollBar()->value() - 1);
+            imageOf(view);
+        }
+        const QImage shown = imageOf(view);
+        QVERIFY(lookAlike(shown, drawnAtOnce(view)));
+    }
+
     void twoViewsShowTheSame()
     {
         CanvasFixture fixture(manyFeatures());
@@ -196,6 +210,18 @@ private Q_SLOTS:
             const int seen = pixelsOf(fixture, place, colour);
             QVERIFY2(seen >= 1 && seen <= 8, qPrintable(QString::number(seen)));
         }
+    }
+
+    void aHairAfterAShapeIsSeen()
+    {
+        const QPointF way(80, 40);
+        const auto line = [&way](const QPointF& from, double length) {
+            return Feature(Pcb::lineGeometry("r0.5", from, from + length * way));
+        };
+        const CanvasFixture fixture(
+            onALargeBoard({line({5000, 6000}, 1), line({8000, 6000}, 40), line({15000, 6000}, 1)}));
+        QVERIFY(pixelsOf(fixture, {5000, 6000}, CanvasColours::line) >= 1);
+        QVERIFY(pixelsOf(fixture, {15000, 6000}, CanvasColours::line) >= 1);
     }
 
     void aThickShortLineKeepsItsWidth()
