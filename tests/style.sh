@@ -5,5 +5,11 @@ cd "$1" || exit 1
 mapfile -t files < <(find . \( -path ./build -o -path ./.git \) -prune -o \
     \( -name '*.cpp' -o -name '*.h' \) -print)
 [ "${#files[@]}" -gt 0 ] || { echo "no source files"; exit 1; }
+# Phrases that were replaced by plainer ones, in documents and in the module's and the host's sources.
+if grep -rnIiFf tests/phrases.txt README.md CONTRIBUTING.md docs workbench/docs \
+    plugin toolbar addfeature dimensions host; then
+    echo "see tests/phrases.txt"
+    exit 1
+fi
 clang-format --dry-run -Werror "${files[@]}" || exit 1
 awk 'FNR == 501 { print FILENAME ": more than 500 lines"; bad = 1 } END { exit bad }' "${files[@]}"
