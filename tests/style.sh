@@ -6,7 +6,7 @@ mapfile -t files < <(find . \( -path ./build -o -path ./.git \) -prune -o \
     \( -name '*.cpp' -o -name '*.h' \) -print)
 [ "${#files[@]}" -gt 0 ] || { echo "no source files"; exit 1; }
 # Phrases that were replaced by plainer ones, in documents and in the module's and the host's sources.
-if grep -rnIiFf tests/phrases.txt README.md CONTRIBUTING.md docs workbench/docs \
+if grep -rnIiFf tests/phrases.txt README.md CONTRIBUTING.md CHANGELOG.md docs workbench/docs \
     plugin toolbar addfeature dimensions host; then
     echo "see tests/phrases.txt"
     exit 1
