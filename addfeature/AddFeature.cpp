@@ -125,7 +125,7 @@ void AddFeature::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
 }
 
-/// A click raises the host's window also when it is active already.
+/// A click raises the host's window even if it is already active.
 bool AddFeature::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
@@ -225,8 +225,8 @@ void AddFeature::hidePlacementRows()
 
 void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
 {
-    // All is shown before the canvas is told of the attributes, and hidden only then: hiding the
-    // control that has the focus ends its editing, which sends.
+    // Everything is shown before the canvas is told about the attributes, and hidden only
+    // afterwards: hiding the control that has the focus ends its editing, which sends.
     m_pPolarityCMB->show();
     m_symbol->setControlsVisible(true);
     if (!restoreCommonRows()) {
@@ -263,7 +263,7 @@ bool AddFeature::hasSymbol() const
     return type != FeatureType::Surface && type != FeatureType::Text;
 }
 
-/// Has the host check the symbol, and takes a refused one out of field and record.
+/// Has the host check the symbol, and removes a refused one from field and record.
 bool AddFeature::isSymbolAccepted()
 {
     const QString symbol = m_symbol->text();
@@ -309,7 +309,7 @@ void AddFeature::storeRotation()
 void AddFeature::on_m_pSymbolTextLE_editingFinished()
 {
     if (m_closing) {
-        m_symbol->dropEntry();  // closing the window takes the focus: no entry of the user's
+        m_symbol->dropEntry();  // closing the window takes the focus: not an entry by the user
     } else {
         m_symbol->finish();
     }

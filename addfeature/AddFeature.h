@@ -80,7 +80,7 @@ public Q_SLOTS:
 
     // Combo boxes: line, surface, arc, text, barcode, plot stamp, canned text
     void on_Line_ComboBox_Changed();
-    void on_CornerTypre_ComboBox_Changed();  // spelled so deliberately, as others below
+    void on_CornerTypre_ComboBox_Changed();  // deliberate spelling, as of others below
     void on_m_pSlotPlatedCMB_ComboBox_Changed();
     void on_SurfShape_ComboBox_Changed();
     void on_ArcAndCircle_ComboBox_Changed();
@@ -188,7 +188,7 @@ private:
     std::string m_step;
     bool m_metric = false;
     bool m_closing = false;
-    QString m_checkedSymbol;  // while the host checks it, with a box or without
+    QString m_checkedSymbol;  // while the host checks it, with or without a box
     FeatureRecord m_record;
     CanvasLink m_canvas;
     RefusalGuard m_refusals;

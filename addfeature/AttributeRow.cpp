@@ -62,7 +62,7 @@ void AttributeRow::hideAll()
     }
 }
 
-/// A row of which nothing is shown would leave a gap.
+/// A row without visible controls would leave a gap.
 void AttributeRow::setShown(QWidget* control, bool shown)
 {
     control->setVisible(shown);

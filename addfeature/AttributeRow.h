@@ -37,7 +37,7 @@ public:
     void openValues();
     void setColor();
     void resetColor();
-    /// Takes over the list that the attribute window applied.
+    /// Takes the list that the attribute window applied.
     void setList(std::vector<std::pair<std::string, std::string>> attributes);
 
     void closePopups();

@@ -49,7 +49,7 @@ bool isStandard(const QString& name, bool isArc)
     return ZENTRA::API::identify_symbol(name.toStdString(), type, a, b, isArc);
 }
 
-/// The degrees after the last "_"; none where that is not whole degrees.
+/// The degrees after the last "_"; nothing unless they are whole degrees.
 std::optional<int> suffixOf(const QString& name)
 {
     static const QRegularExpression digits(QStringLiteral("\\A[0-9]+\\z"));
@@ -75,7 +75,7 @@ SymbolEntry::SymbolEntry(DialogDoor& door, QWidget* parent)
       m_pSymbolTextLE(new ZTLineEdit(static_cast<ZTERegExp>(freeText),
                                      static_cast<QWidget*>(door.ownerContext()))),
       m_pSelectFromEditorPB(new QPushButton(this)),
-      // No literals: Qt keeps the patterns of QRegExp beyond the life of the library.
+      // Not literals: Qt keeps the patterns of QRegExp beyond the life of the library.
       m_lineValidator(new QRegExpValidator(
           QRegExp(QString::fromLatin1("^[rs]?|[rs][0-9]+(\\.[0-9]+)?$")), this)),
       m_padValidator(new QRegExpValidator(QRegExp(QString::fromLatin1("^[a-z0-9_.+-]*$")), this)),
@@ -98,7 +98,7 @@ SymbolEntry::SymbolEntry(DialogDoor& door, QWidget* parent)
     row->addWidget(m_pSymbolPB);
     row->addWidget(m_pSymbolTextLE);
     row->addWidget(m_pSelectFromEditorPB);
-    // The field, made with another parent, came last.
+    // The field was created with another parent, and so came last.
     setTabOrder(m_pSymbolPB, m_pSymbolTextLE);
     retranslate();
     door.record().set(RecordKeys::symbolText, text());
@@ -167,7 +167,7 @@ void SymbolEntry::applyFeatureType()
         case FeatureType::Text:
             return;  // have no symbol; the field is hidden
     }
-    takeLeftEntry();  // one that the type before did not accept
+    takeLeftEntry();  // one that the previous type did not accept
 }
 
 void SymbolEntry::setControlsVisible(bool visible)
@@ -234,7 +234,7 @@ void SymbolEntry::finish()
 {
     const RefusalGuard& refusals = m_door.refusals();
     if (!m_pSymbolTextLE->isModified() && refusals.isHandling(m_pSymbolTextLE)) {
-        return;  // the same once more, from a box that a receiver opens; see LineField::finish()
+        return;  // the same report again, from a box that a receiver opens; see LineField::finish()
     }
     m_door.refusals().report(m_pSymbolTextLE, [this] { takeEntry(); });
 }
@@ -316,12 +316,12 @@ void SymbolEntry::noteText(const QString& text)
     });
 }
 
-/// Takes an entry that Qt has not reported, or whose report went to the box of a failure, and that
-/// stands in the field when it is left.
+/// Handles an entry that Qt has not reported, or whose report was lost to a box about a failure,
+/// and that is still in the field when the user leaves it.
 bool SymbolEntry::eventFilter(QObject* field, QEvent* event)
 {
     if (event->type() == QEvent::FocusOut) {
-        // Later: mostly Qt reports it now.
+        // Later: usually Qt reports it now.
         QTimer::singleShot(0, m_pSymbolTextLE, [this] { takeLeftEntry(); });
     }
     return QWidget::eventFilter(field, event);
@@ -391,7 +391,7 @@ void SymbolEntry::picked(const std::map<int, std::string>& symbols)
     }
 }
 
-/// A handler of its own: what was pending in a field is taken before the next pick.
+/// A separate handler: what was pending in a field is handled before the next pick.
 void SymbolEntry::refusePick(const QString& name)
 {
     RefusalGuard& refusals = m_door.refusals();

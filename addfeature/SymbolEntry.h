@@ -31,19 +31,19 @@ public:
     QString text() const;
     /// The name field, as the guard of refusals knows it.
     const QObject* field() const;
-    /// Empties the field where it shows `name`, and the record's symbol where that is what an entry
-    /// of `name` writes.
+    /// Clears the field if it shows `name`, and the record's symbol if that is what an entry of
+    /// `name` writes.
     void dropRefused(const QString& name);
     void retranslate();
     /// Lets the field accept what the chosen feature type accepts.
     void applyFeatureType();
     void setControlsVisible(bool visible);
 
-    /// Whether `name` is a special symbol of the job, which is asked anew each time.
+    /// Whether `name` is a special symbol of the job, which is read each time.
     bool isSpecial(const QString& name) const;
 
-    /// The degrees that the rotation's handler adds: what follows the first "_" of the field, not
-    /// the last as at the entry. Deliberate. 0 without a suffix.
+    /// The degrees that the rotation's handler adds: what follows the first "_" in the field,
+    /// deliberately not the last as on entry. 0 without a suffix.
     int suffixDegrees() const;
     /// Stores the rotation with what a suffix adds.
     void storeRotation(int suffixDegrees);
@@ -51,11 +51,11 @@ public:
     // The named slots of the dialog forward to these.
     void chosen(const QString& name);
     void enterText();
-    /// Takes over the entry that the user has finished; see RefusalGuard.
+    /// Handles the entry that the user has finished; see RefusalGuard.
     void finish();
-    /// Leaves an entry that was pending where it is; it is not taken later either.
+    /// Leaves a pending entry where it is; it is not handled later either.
     void dropEntry();
-    /// Keeps what stands in the field for a change of the unit; guarded.
+    /// Remembers the text of the field for a change of the unit; guarded.
     void noteText(const QString& text);
     /// Cuts the entry at the cursor and sends it.
     void returnPressed();

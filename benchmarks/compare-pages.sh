@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Compares the page of figures with one whose table was just written: the text is the same, and so
-# are the names of the figures. Where they differ, ./bench.sh --markdown writes the table anew.
+# are the names of the figures. If not, ./bench.sh --markdown updates the table.
 set -u
 text() { awk '/^## /{ table = $0 == "## Table" } !table' "$1"; }
 # Without the sizes that are tried, of which a quick run takes smaller ones.

@@ -13,7 +13,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(dimensionsLog, "canvastoolstrip.dimensions")
 
-/// All texts of the popup stand in the form's context.
+/// All texts of the popup are in the form's context.
 QString text(const char* source)
 {
     return QCoreApplication::translate("m_pDimensions", source);
@@ -51,7 +51,7 @@ void Dimensious::buildElementArea()
 {
     m_pElementWidget = new QWidget(this);
     m_pElementWidget->setObjectName(QStringLiteral("m_pElementWidget"));
-    // Outside the layout it lies over the first buttons: they, not it, are to get the mouse.
+    // Outside the layout it overlaps the first buttons, which must get the mouse.
     m_pElementWidget->lower();
     m_elementLayout = new QVBoxLayout(m_pElementWidget);
     m_elementLayout->setObjectName(QStringLiteral("m_pElementVL"));
@@ -85,7 +85,7 @@ void Dimensious::buildSourceElement()
         grid->addWidget(button, 0, 2 * id, 1, 2);
     }
     m_pSourcesRBGroup->button(0)->setChecked(true);
-    // The second set lies over the first, in the same cells: deliberate.
+    // The second set deliberately overlaps the first, in the same cells.
     m_selectors = {addSelector(grid, QStringLiteral("1")), addSelector(grid, QStringLiteral("2"))};
     connect(m_pSourcesRBGroup, SIGNAL(buttonClicked(QAbstractButton*)), this,
             SLOT(on_m_pSourcesRBGroup_clicked(QAbstractButton*)));

@@ -31,11 +31,11 @@ public:
     explicit Dimensious(QWidget* parent = nullptr);
     ~Dimensious() override;
 
-    /// Shows every text in the current language; each combo box starts at its first item again.
+    /// Shows every text in the current language; each combo box goes back to its first item.
     void retranslate();
 
 public Q_SLOTS:
-    void on_pushButton_clicked();  // no child bears this name: called by nothing, deliberately
+    void on_pushButton_clicked();  // no child has this name: deliberately never called
     void on_m_pSourcesRBGroup_clicked(QAbstractButton* button);
     void on_m_pCreateNewEleRBGroup_clicked(QAbstractButton* button);
     void on_m_pLinePBGroup_clicked(int id);
@@ -47,7 +47,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// The controls by which one element is chosen.
+    /// The controls that choose one element.
     struct Selector {
         QPushButton* select;
         QLineEdit* entry;

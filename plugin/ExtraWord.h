@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-/// An object that travels by its address in the extra word of a message. The sender owns it; it is
-/// valid during the call only. Which code carries which type stands in MessageCodes.h.
+/// An object that is passed by its address in the extra word of a message. The sender owns it; it
+/// is valid only during the call. MessageCodes.h says which code carries which type.
 namespace ExtraWord {
 
 /// The word that carries `object`.

@@ -10,14 +10,14 @@ struct GuardPosition {
     int line;
 };
 
-/// Writes the two error lines of a thrown text, and shows it in an "Information" box.
+/// Logs the two error lines of a thrown text, and shows it in an "Information" box.
 void reportThrownText(const GuardPosition& position, const char* text);
 
 /// Shows the message of a standard exception in the same box.
 void reportException(const GuardPosition& position, const std::exception& exception);
 
 /// Runs `action`, which calls the host, and reports what it throws: a text or a standard exception.
-/// Anything else passes on. True when `action` came to its end.
+/// Anything else is passed on. True if `action` completed.
 template <class Action>
 bool guarded(const GuardPosition& position, Action&& action)
 {

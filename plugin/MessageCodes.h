@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QVector>
 
-/// Every message code that this module sends or accepts. Nowhere else do the numbers stand. Both
-/// enumerations are known to Qt, so that programs for people can show a code by its name here.
+/// Every message code that this module sends or accepts; the numbers appear nowhere else. Both
+/// enumerations are registered with Qt, so that programs can show a code by its name.
 namespace MessageCodes {
 
 /// To "Canvas_Viewer.dll" (AddFeatureStarted alone goes to "Canvas_JobTree.dll"). A tool with a
@@ -13,7 +13,7 @@ namespace Sent {
 Q_NAMESPACE
 
 enum Code : int {
-    Unset = -1,  ///< a message that was built and given no code
+    Unset = -1,  ///< a message that was built but given no code
 
     AreaZoom = 20000201,
     FeatureSelection = 20000202,
@@ -44,7 +44,7 @@ enum Code : int {
     ChangeLineAngleOff = 20000238,
     StretchLineOff = 20000239,
     RotateFeatureOff = 20000240,
-    AddFeature = 20000241,  ///< once, on the click that makes the dialog
+    AddFeature = 20000241,  ///< once, on the click that creates the dialog
     SelectPolyline = 20000242,
     SelectLayerNet = 20000244,
     SelectBoardNet = 20000245,
@@ -65,7 +65,7 @@ enum Code : int {
 };
 Q_ENUM_NS(Code)
 
-/// The name of `code` as it stands above; null for any other number.
+/// The name of `code` as above; null for any other number.
 const char* nameOf(int code);
 /// All codes, in the order above.
 QVector<int> all();
@@ -102,7 +102,7 @@ enum Code : int {
 };
 Q_ENUM_NS(Code)
 
-/// The name of `code` as it stands above; null for any other number.
+/// The name of `code` as above; null for any other number.
 const char* nameOf(int code);
 /// All codes, in the order above.
 QVector<int> all();

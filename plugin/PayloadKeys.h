@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The keys of what the tool strip is told of jobs and steps; their values are text. Like all that
-/// is sent they outlive the library; see ModuleNames.h.
+/// The keys of what the tool strip is told about jobs and steps; their values are text. Like
+/// everything that is sent they outlive the library; see ModuleNames.h.
 namespace PayloadKeys {
 
 /// Name of the job, in JobAndStep and JobOpened.

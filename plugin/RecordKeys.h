@@ -4,10 +4,10 @@
 
 #include <QString>
 
-/// The keys of the feature parameter record. A receiver reads every value as text or integer. What
-/// values a key has names for stands in RecordValues.h, under the name that is given here.
+/// The keys of the feature parameter record. A receiver reads every value as text or integer. Where
+/// values have names, they are in RecordValues.h under the name that is given here.
 ///
-/// Like all that is sent the keys outlive the library; see ModuleNames.h.
+/// Like everything that is sent the keys outlive the library; see ModuleNames.h.
 namespace RecordKeys {
 
 // The frame
@@ -22,7 +22,7 @@ inline const QString polarity(QLatin1String("Polarity"));
 inline const QString mirror(QLatin1String("Mirror"));
 /// Rotation of pads and texts. Text: whole degrees.
 inline const QString mirrorRotate(QLatin1String("MirrorRotate"));
-/// Name of the symbol, its sizes in mil; as shown when it was picked. Text.
+/// Name of the symbol, sizes in mil; as shown if it was picked. Text.
 inline const QString symbolText(QLatin1String("SymbolText"));
 
 // Line
@@ -31,9 +31,9 @@ inline const QString symbolText(QLatin1String("SymbolText"));
 inline const QString line(QLatin1String("Line"));
 /// Whether the polyline is closed, Closed. Text.
 inline const QString closed(QLatin1String("Closed"));
-/// Directions that a line may take, LineDirection. Text until chosen, then an integer.
+/// Directions that a line can take, LineDirection. Text until chosen, then an integer.
 inline const QString angleGroup(QLatin1String("AngleGroup"));
-/// The fixed direction. Text: degrees, as typed. Spelled so deliberately.
+/// The fixed direction. Text: degrees, as typed. The spelling is deliberate.
 inline const QString angle(QLatin1String("Angel(deg)"));
 /// Corners of the rectangle, CornerType. Text until chosen, then an integer.
 inline const QString cornerType(QLatin1String("CornerType"));
@@ -50,9 +50,9 @@ inline const QString slotDecode(QLatin1String("SlotDecode"));
 
 // Pad
 
-/// How many pads side by side. Text: a count, as typed.
+/// Number of pads in X. Text: a count, as typed.
 inline const QString padNx(QLatin1String("PadNx"));
-/// How many pads one above the other. Text: a count, as typed.
+/// Number of pads in Y. Text: a count, as typed.
 inline const QString padNy(QLatin1String("PadNy"));
 /// Pitch of the pads in X. Text: micrometres.
 inline const QString padDx(QLatin1String("PadDx"));
@@ -70,22 +70,22 @@ inline const QString surfaceShape(QLatin1String("SurfaceShape"));
 
 // Arc
 
-/// Which of the two is drawn, ArcOrCircle. Text.
+/// Whether an arc or a circle is drawn, ArcOrCircle. Text.
 inline const QString arcAndCircle(QLatin1String("Arc&Circle"));
-/// How an arc is given, ArcMode. Text.
+/// How an arc is defined, ArcMode. Text.
 inline const QString arcMode(QLatin1String("ArcMode"));
-/// How a circle is given, CircleMode. Text.
+/// How a circle is defined, CircleMode. Text.
 inline const QString circleMode(QLatin1String("CircleMode"));
 /// Direction of an arc, ClockWise. Text.
 inline const QString clockWise(QLatin1String("ClockWise"));
 
 // Text
 
-/// What is written, TextKind. Text.
+/// The kind of text, TextKind. Text.
 inline const QString textFormat(QLatin1String("TextFormat"));
 /// Name of a font of the job. Text.
 inline const QString stringTextFont(QLatin1String("StringTextFont"));
-/// The text to place; "$$" and a name stands for a special text. Text.
+/// The text to place; "$$" followed by a name stands for a special text. Text.
 inline const QString textContains(QLatin1String("TextContains"));
 /// Width of a character. Text: micrometres.
 inline const QString stringXSize(QLatin1String("StringXSize"));

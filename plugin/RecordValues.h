@@ -2,9 +2,9 @@
 
 #include <QString>
 
-/// The enumerated values as the record holds them. What each means under which key is said by the
-/// names below; those are what is to be written and read. Like all that is sent they outlive the
-/// library; see ModuleNames.h.
+/// The enumerated values as the record holds them. Read and write them by the names below, which
+/// say what each means under which key. Like everything that is sent they outlive the library; see
+/// ModuleNames.h.
 namespace RecordValues {
 
 inline const QString zero(QLatin1String("0"));
@@ -21,7 +21,7 @@ inline const QString degrees270(QLatin1String("270"));
 
 }  // namespace RecordValues
 
-/// The version of the module. It is not part of the record.
+/// The version of the module; not part of the record.
 inline const QString moduleVersion(QLatin1String("2.28.054"));
 
 /// Of "Features".

@@ -6,6 +6,12 @@ cd "$1" || exit 1
 mapfile -t files < <(find . \( -path ./build -o -path ./.git \) -prune -o \
     \( -name '*.cpp' -o -name '*.h' \) -print)
 [ "${#files[@]}" -gt 0 ] || { echo "no source files"; exit 1; }
+# Phrases that were replaced by plainer ones, in documents and in the module's and the host's sources.
+if grep -rnIiFf tests/phrases.txt README.md CONTRIBUTING.md CHANGELOG.md docs workbench/docs \
+    plugin toolbar addfeature dimensions host; then
+    echo "see tests/phrases.txt"
+    exit 1
+fi
 clang-format --dry-run -Werror "${files[@]}" || exit 1
 mapfile -t scripts < <(find . \( -path ./build -o -path ./.git \) -prune -o \
     \( -name CMakeLists.txt -o -name '*.cmake' -o -name '*.in' -o -name '*.ui' -o -name '*.qrc' \

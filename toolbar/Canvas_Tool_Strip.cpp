@@ -16,7 +16,7 @@ namespace {
 constexpr int columns = 4;
 constexpr int buttonSize = 40;
 
-/// What the pointer shows and what a screen reader says of a tool.
+/// The tool tip of a button, and what a screen reader says.
 void nameTool(QToolButton* button, const QString& name)
 {
     if (button) {
@@ -77,8 +77,8 @@ void Canvas_Tool_Strip::createButtons()
     }
 }
 
-/// A host that never placed the strip deletes only the button that is the parent's own child. One
-/// that did place it deletes the strip before the buttons.
+/// If the host never placed the strip, only the button that is the parent's own child gets deleted.
+/// If it did, the strip is deleted before the buttons.
 void Canvas_Tool_Strip::forgetParent()
 {
     m_buttons[static_cast<int>(Tool::AreaZoom)] = nullptr;

@@ -23,11 +23,11 @@ class QMenu;
 class QPoint;
 class QToolButton;
 
-/// The edit toolbar: a grid of checkable tool buttons, one a tool. It tells the canvas which tool
+/// The edit toolbar: a grid of checkable buttons, one for each tool. It tells the canvas which tool
 /// is active, and opens the Add Feature dialog and the measure popup; the canvas does the rest.
 ///
 /// It is a layout, which the host places in the widget that it passed to the constructor. The
-/// buttons, menus and windows are children of that widget and go with it. GUI thread only.
+/// buttons, menus and windows are children of that widget and are deleted with it. GUI thread only.
 class CANVAS_TOOL_STRIP_EXPORT Canvas_Tool_Strip : public QGridLayout {
     Q_OBJECT
 
@@ -37,20 +37,20 @@ public:
     explicit Canvas_Tool_Strip(QWidget* parent);
     ~Canvas_Tool_Strip() override;
 
-    /// Takes a message of a sibling module; an unknown code does nothing.
+    /// Handles a message from a sibling module; an unknown code does nothing.
     void recMsgFromManager(PluginMetaData message);
 
-    /// Sets every button's checked state to `checked`, but `except`, which is checked. Null: none
-    /// is excepted.
+    /// Sets every button's checked state to `checked`, except that of `except` (if not null), which
+    /// is checked.
     void SetAllButtonchecked(bool checked, QToolButton* except);
 
     /// Whether the tool at `index` (from 0, grid order) is checked; false outside.
     bool isToolButtonChecked(int index) const;
 
-    /// Starts area zoom from the canvas's right-click: every button ends released.
+    /// Starts area zoom from the canvas's right-click; no button is checked afterwards.
     void get_right_click_zoom_area();
 
-    /// Closes the Add Feature dialog and the measure popup where they exist, and tells the canvas.
+    /// Closes the Add Feature dialog and the measure popup if they exist, and tells the canvas.
     void close_all_Dialogs();
 
 Q_SIGNALS:
@@ -58,13 +58,13 @@ Q_SIGNALS:
     void GetRulerinfo();
     /// Attributes were picked on the board: names and values, by name.
     void send_Attribute_Info(std::vector<std::pair<std::string, std::string>> attributes);
-    /// The host's unit may be another one; true where it is metric.
+    /// The host's unit may have changed; true if it is metric.
     void Current_Unit_Changed(bool isMM);
     /// The job's own symbols have changed.
     void refresh_user_list();
     /// Add Feature was clicked again: the dialog sends its record once more.
     void reselect_Add_feature();
-    /// Texts are to be read again in the language that is set now.
+    /// Texts must be read again in the language that is set now.
     void language_changed();
     /// Symbols were picked on the board: their names.
     void send_Symbol_Info(std::map<int, std::string> symbols);
@@ -101,7 +101,7 @@ public Q_SLOTS:
     /// SelectBoardNet. Any other value is stored too, and sent as Unset.
     void On_SelectPolyline_Clicked(int datatype);
     void on_mark_clicked();
-    void on_m_pEqTB_clecked();  // spelled so deliberately: hosts know it by this name
+    void on_m_pEqTB_clecked();  // deliberate spelling: hosts know it by this name
     /// The dialog asks for a symbol: the canvas lets the user pick one. No button changes.
     void on_m_pAddfeature_Select_symbol();
 
@@ -139,7 +139,7 @@ private:
     void checkAndRun(Tool tool, void (Canvas_Tool_Strip::*handler)());
     void selectByNet(int mode);
     void showAddFeatureActive();
-    /// Stores job and step for the dialog that is made next; tells nobody.
+    /// Stores job and step for the dialog that is created next; tells nobody.
     void setJobAndStep(const PluginMetaData& message);
     /// Stores job and step, and tells the dialog when both have a name.
     void update_job_info(const PluginMetaData& message);
@@ -154,10 +154,10 @@ private:
     /// Reads every text again in the language that is set now, the dialog's before its own.
     void setText();
 
-    // The parent widget may go before this object does, and takes its children with it.
+    // The parent widget may be deleted before this object, and its children with it.
     QPointer<QWidget> m_parent;
     QList<QToolButton*> m_buttons;  // in the order of Tool; see forgetParent()
-    // In the order of ToolMenu; each is made on its first right-click.
+    // In the order of ToolMenu; each is created on its first right-click.
     std::array<QPointer<QMenu>, ToolTable::menuCount> m_menus;
     QPointer<AddFeature> m_addFeature;
     QPointer<Grc_Tbe_measurepopup> m_measurePopup;

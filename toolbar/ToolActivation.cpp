@@ -189,8 +189,8 @@ void Canvas_Tool_Strip::On_SelectPolyline_Clicked()
 
 namespace {
 
-/// A mode of Select By Net. The text after the second rule stands outside any selector in two of
-/// the sheets: deliberate.
+/// A mode of Select By Net. In two of the sheets the text after the second rule is outside any
+/// selector: deliberate.
 struct NetMode {
     int code;
     const char* image;

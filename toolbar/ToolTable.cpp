@@ -90,7 +90,7 @@ const Row theRows[] = {
     {"m_pSelectPolylineTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select By net"), nullptr},
      "Net selection2.jpg", "Net selection1.jpg", Start::Enabled,
      SLOT(On_SelectPolyline_Clicked()), Sent::Unset, Sent::Unset,
-     // A capital N, unlike at the start: deliberate.
+     // A capital N, unlike at first: deliberate.
      Tip{QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Select By Net"), nullptr}},
     {"m_pMarkTB", {QT_TRANSLATE_NOOP("Canvas_Tool_Strip", "Mark"), nullptr},
      "markgry.png", "markgre.png", Start::Enabled,
@@ -155,7 +155,7 @@ const Menu& menu(ToolMenu menu)
 
 QString styleSheet(const char* image, const char* checkedImage, const char* property)
 {
-    // Made in one piece: every start makes one for each tool.
+    // One concatenation: every start builds a sheet for each tool.
     const QLatin1String url(":url(:/Canvas_Tool_Strip/Resources/");
     const QLatin1String end(");}");
     return QLatin1String("QToolButton{") % QLatin1String(property) % url % QLatin1String(image) %

@@ -35,7 +35,7 @@ enum class Tool : int {
     SelectByNet,
     Mark,
     Eq,
-    Count  ///< no tool: how many there are
+    Count  ///< not a tool: their number
 };
 
 /// The right-click menus.
@@ -48,7 +48,7 @@ namespace ToolTable {
 constexpr int toolCount = static_cast<int>(Tool::Count);
 constexpr int menuCount = static_cast<int>(ToolMenu::Count);
 
-/// What the start does to a button's enabled state.
+/// Whether a button is enabled at first.
 enum class Start { Untouched, Enabled, Disabled };
 
 /// A text to translate.
@@ -68,8 +68,8 @@ struct Row {
     int onCode;             ///< sent by a standard handler while the button is checked; Unset:
                             ///< the tool's handler is its own
     int offCode;            ///< sent otherwise; equal to onCode for a tool with one code
-    /// The tip after a language change, where it is not `tip` again; one without a text leaves the
-    /// button as it is.
+    /// The tip after a language change, unless it is `tip` again; one without a text leaves the
+    /// button alone.
     std::optional<Tip> laterTip = std::nullopt;
     const char* imageProperty = "background-image";   ///< of the style sheet
     const QString* sender = &ModuleNames::toolStrip;  ///< the name that its messages go under
@@ -102,7 +102,8 @@ const Row& row(Tool tool);
 const Menus& menus();
 const Menu& menu(ToolMenu menu);
 
-/// The sheet that shows `image`, and `checkedImage` while the button is checked, as `property`.
+/// The style sheet that shows `image`, and `checkedImage` while the button is checked, as
+/// `property`.
 QString styleSheet(const char* image, const char* checkedImage,
                    const char* property = "background-image");
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-// The role just below Qt::UserRole holds a standard item's flags: at 0 none are left.
+// The role just below Qt::UserRole holds a standard item's flags: 0 clears them all.
 constexpr int flagsRole = Qt::UserRole - 1;
 
 }  // namespace
@@ -33,7 +33,7 @@ ChoiceField::ChoiceField(DialogDoor& door, QWidget* page, const Details& details
 void ChoiceField::retranslate()
 {
     Field::retranslate();
-    // In place: no item goes, so that neither index nor record changes.
+    // In place: no item is removed, so that neither index nor record changes.
     int index = 0;
     for (const Choice& choice : m_choices) {
         setItemText(index++, QCoreApplication::translate("AddFeature", choice.text));

@@ -14,19 +14,19 @@ struct Choice {
 };
 using Choices = std::vector<Choice>;
 
-/// A choice among some.
+/// A choice among several items.
 class ChoiceField final : public QComboBox, public Field {
 public:
-    /// What is stored of the chosen item, and what of an index outside the list.
+    /// What is stored for the chosen item, and for an index outside the list.
     enum class Stores {
         Text,            ///< the item's value; nothing
         Number,          ///< the item's number from 1; 0
-        TextThenNumber,  ///< at first the item's value, after a choice as Number
+        TextThenNumber,  ///< initially the item's value, after a choice like Number
         TextElseNumber,  ///< the item's value; 0
     };
 
-    /// The first item is chosen, or that at `index`. Items that are not selectable are listed but
-    /// greyed out; only code can choose them.
+    /// The first item is chosen, or the one at `index`. Items that are not selectable are listed
+    /// but greyed out; only code can choose them.
     ChoiceField(DialogDoor& door, QWidget* page, const Details& details, const Choices& choices,
                 Stores stores, int index = 0);
 

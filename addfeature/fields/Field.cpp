@@ -86,7 +86,7 @@ QWidget* Field::widget() const
     return qobject_cast<QWidget*>(m_control);
 }
 
-/// In the order in which they stand; null for what there is not.
+/// In layout order; null for a label that the field does not have.
 std::array<QWidget*, 3> Field::parts() const
 {
     return {m_label, widget(), m_unitLabel};

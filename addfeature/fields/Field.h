@@ -13,16 +13,16 @@ class QWidget;
 /// When a change is sent to the canvas. What is not sent travels with the next record.
 enum class Sends { Never, WhenAccepted, Always };
 
-/// As what it is sent: the record, which the symbol's check may hold back, or a change of
+/// How it is sent: as the record, which the symbol's check may hold back, or as a change of
 /// direction.
 enum class Message { Record, Direction };
 
-/// What tells the user which control it is.
+/// What names the control for the user.
 struct Caption {
     enum class Kind {
         Label,   ///< a label in front of the control
         Own,     ///< the control's own text
-        Spoken,  ///< nothing that is always seen: the accessible name, and the tool tip
+        Spoken,  ///< nothing that is always visible: the accessible name and the tool tip
         None,    ///< its parts have captions of their own
     };
     Kind kind;
@@ -36,20 +36,20 @@ struct Caption {
     QString translated() const;
 };
 
-/// One entry of the record and the control by which it is set. The classes derived from it are the
-/// controls themselves, each with all that is to be said of it.
+/// One entry of the record and the control that sets it. The derived classes are the kinds of
+/// controls, each with everything that describes it.
 class Field {
 public:
     /// What every field states.
     struct Details {
-        const char* name;  ///< of the member that points at it, and of the object
+        const char* name;  ///< of the member that points to it, and of the object
         Caption caption;
         QString key;       ///< in the record
-        const char* slot;  ///< SLOT() of the dialog, to which its signal is connected
+        const char* slot;  ///< SLOT() of the dialog that its signal is connected to
         Sends sends;
         Message message = Message::Record;
-        /// What can be typed into a line edit, as a regular expression; null: what the host lets
-        /// the user type.
+        /// What can be typed into a line edit, as a regular expression; null: whatever the host
+        /// lets the user type.
         const char* pattern = nullptr;
     };
 
@@ -57,9 +57,9 @@ public:
     Field(const Field&) = delete;
     Field& operator=(const Field&) = delete;
 
-    /// Applies what the control says now.
+    /// Applies the control's current state.
     void change();
-    /// Sends a change, where it is one that is sent.
+    /// Sends a change, if this field sends its changes.
     void send(bool isAccepted = true);
 
     /// Sets its texts in the current language. Changes no value and sends nothing.
@@ -79,7 +79,7 @@ protected:
     /// `control` is the derived object, not owned, which is given its name; `page` is its parent.
     Field(DialogDoor& door, QObject* control, QWidget* page, const Details& details);
 
-    /// Stores what the control says, or refuses it, and sends.
+    /// Stores the control's state, or refuses it, and sends.
     virtual void take() = 0;
 
     /// Called last in a constructor: building a field sends nothing.

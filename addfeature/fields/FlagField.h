@@ -17,7 +17,7 @@ public:
 
     void retranslate() override;
 
-    /// Stores that it is on or off, whatever the box shows. Sends nothing.
+    /// Stores on or off, whatever the box shows. Sends nothing.
     void storeAs(bool isOn);
 
 protected:

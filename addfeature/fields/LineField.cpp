@@ -10,7 +10,7 @@ LineField::LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Det
     : ZTLineEdit(static_cast<ZTERegExp>(pattern), static_cast<QWidget*>(door.ownerContext())),
       Field(door, this, page, details)
 {
-    // At once, not only by the page's layout: the tab order follows the order of parenting.
+    // Now, not by the page's layout later: the tab order follows the order of parenting.
     setParent(page);
     if (details.pattern) {
         setPattern(details.pattern);
@@ -19,7 +19,7 @@ LineField::LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Det
 
 void LineField::finish()
 {
-    // A box that a receiver opens while it is told of an entry makes Qt report the same once more.
+    // A box that a receiver opens while it handles an entry makes Qt report the entry again.
     if (!isModified() && m_door.refusals().isHandling(this)) {
         return;
     }
@@ -28,6 +28,6 @@ void LineField::finish()
 
 void LineField::setPattern(const char* expression)
 {
-    // No literal: Qt keeps the patterns of QRegExp beyond the life of the library.
+    // Not a literal: Qt keeps the patterns of QRegExp beyond the life of the library.
     setValidator(new QRegExpValidator(QRegExp(QString::fromLatin1(expression)), this));
 }

@@ -7,13 +7,13 @@
 /// A text field, based on the host's line edit.
 class LineField : public ZENTRA::UIAPI::ZTLineEdit, public Field {
 public:
-    /// What the host lets the user type, by the host's number for it.
+    /// What the host lets the user type, as the host's number for it.
     enum class Pattern { Length = 1, Decimal = 3, Text = 6 };
 
     /// Applies a finished entry. Called for each report of the field; see RefusalGuard.
     void finish();
 
-    /// Restricts what can be typed to a regular expression, case sensitive and in ASCII.
+    /// Restricts what can be typed to a regular expression, case sensitive and ASCII only.
     void setPattern(const char* expression);
 
 protected:

@@ -30,7 +30,7 @@ void NumberField::takeText(const QString& text)
 {
     setModified(false);
     if (!m_door.checkNumber(text.toDouble(), m_bounds.least, m_bounds.most)) {
-        // Its own textChanged may have led here: putting a text back must not start over.
+        // This may run inside its own textChanged: restoring the text must not start over.
         const QSignalBlocker blocker(this);
         setText(m_door.record().text(m_details.key));
         return;

@@ -15,7 +15,7 @@ public:
     NumberField(DialogDoor& door, QWidget* page, const Details& details, const QString& text,
                 Bounds bounds, Checked checked);
 
-    /// Takes `text` over, which the field has just reported.
+    /// Stores `text`, which the field has just reported.
     void change(const QString& text);
 
 protected:

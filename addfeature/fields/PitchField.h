@@ -2,11 +2,11 @@
 
 #include "addfeature/fields/UnitField.h"
 
-/// The distance of neighbours along one axis, signed. A refusal leaves "0" in the field; the record
-/// keeps the old pitch.
+/// The distance between neighbours along one axis, signed. A refusal leaves "0" in the field; the
+/// record keeps the old pitch.
 class PitchField final : public UnitField {
 public:
-    /// `isMetric` tells which unit the label names at first.
+    /// `isMetric` decides which unit the label names at first.
     PitchField(DialogDoor& door, QWidget* page, const Details& details, bool isMetric);
 
 protected:

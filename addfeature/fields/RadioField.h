@@ -15,8 +15,8 @@ struct RadioChoice {
     const char* spoken;  ///< marked for translation in the context "AddFeature"
 };
 
-/// A choice among buttons with pictures, of which the first is chosen at the start. The record
-/// holds its number from 1: as text at the start, as an integer once it is chosen.
+/// A choice among buttons with pictures, initially the first. The record holds its number from 1:
+/// as text at first, as an integer once it is chosen.
 class RadioField final : public QButtonGroup, public Field {
 public:
     enum class Look { Radio, Tool };

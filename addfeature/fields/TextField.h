@@ -11,7 +11,7 @@ public:
     TextField(DialogDoor& door, QWidget* page, const Details& details, Pattern pattern,
               const QString& text);
 
-    /// Accepts only text for which `accepts` returns true; without it, everything.
+    /// Accepts only text for which `accepts` returns true; by default everything.
     void acceptOnly(std::function<bool(const QString&)> accepts) { m_accepts = std::move(accepts); }
     /// Shows, stores and sends a text that was chosen elsewhere, and is not checked.
     void enter(const QString& text);

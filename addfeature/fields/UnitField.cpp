@@ -56,8 +56,8 @@ void UnitField::changeUnit(bool isMetric)
     }
 }
 
-/// Of an entry that was pending when the unit changed, the form in the other unit may be one that
-/// cannot be typed. Qt does not report that, but the entry was the user's.
+/// An entry that was pending when the unit changed may be one that cannot be typed in the other
+/// unit. Qt does not report it then, but it was the user's entry.
 void UnitField::focusOutEvent(QFocusEvent* event)
 {
     LineField::focusOutEvent(event);
@@ -66,8 +66,8 @@ void UnitField::focusOutEvent(QFocusEvent* event)
     }
 }
 
-/// Does nothing when the length is shown in that unit already. A text that is no number stays.
-/// Switching back gives the text that stood there before, unless it was edited meanwhile.
+/// Does nothing if the length is already shown in that unit. A text that is not a number stays.
+/// Switching back restores the previous text, unless it was edited in between.
 void UnitField::convertPlain(bool isMetric)
 {
     if (isMetric == m_isMetric) {

@@ -7,19 +7,19 @@ class UnitField : public LineField {
 public:
     enum class Unit {
         Mil,         ///< mil or micrometres
-        MilByLabel,  ///< the same, but the label reads "mil" in both
-        PlainInch,   ///< inch or millimetres, which the line edit does not know: converted here
+        MilByLabel,  ///< the same, but the label says "mil" in both
+        PlainInch,   ///< inch or millimetres, which the line edit cannot convert: converted here
     };
 
     void retranslate() override;
     void changeUnit(bool isMetric) override;
 
 protected:
-    /// `isMetric` tells the unit in which the first text will be.
+    /// `isMetric` is the unit of the first text.
     UnitField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details, Unit unit,
               bool isMetric);
 
-    /// Shows the first text, and stores what it stands for.
+    /// Shows the first text, and stores its value.
     void start(const QString& text);
     void storeLength();
 
@@ -34,5 +34,5 @@ private:
     bool m_isMetric;
     QString m_converted;  // of an entry that was pending when the unit changed
     QString m_shown;      // what convertPlain() last wrote
-    QString m_previous;   // what stood there before it
+    QString m_previous;   // the text before that
 };

@@ -7,7 +7,7 @@
 
 #include <QCoreApplication>
 
-/// Arc or circle, the points that the user will click for it, and the direction.
+/// Arc or circle, the points that the user clicks for it, and the direction.
 class ArcPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 

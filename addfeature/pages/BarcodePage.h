@@ -23,14 +23,14 @@ public:
 
     void retranslate() override;
 
-    /// Markers and matrix belong to the one code that is a matrix.
+    /// Markers and matrix belong to the only code that is a matrix.
     void chooseType();
-    /// A string that is added has a position.
+    /// Only a string that is added has a position.
     void chooseString();
     /// Deliberately not the Background box itself: the one for the markers decides.
     void chooseBackground();
 
-    /// Not in the layout of the page: the text page places it beside the format.
+    /// Not in the layout of this page: the text page places it beside the format.
     ChoiceField* const m_pUPCCMB =
         add<ChoiceField>({"m_pUPCCMB", Caption::spoken(QT_TR_NOOP("Barcode type")),
                           RecordKeys::barcodeMode, SLOT(on_UPC_ComboBox_Changed()), Sends::Never},

@@ -17,7 +17,7 @@ class CannedTextPage final : public Page {
     static constexpr double largestHoleSize = 50000.0;  // mil
 
 public:
-    /// `plotStamp` tells the zoom; it must live as long.
+    /// `plotStamp` provides the zoom; it must outlive this page.
     CannedTextPage(DialogDoor& door, PlotStampPage& plotStamp, QWidget* parent = nullptr);
 
     /// The plot stamp's zoom is stored along with the mode: deliberate.

@@ -11,8 +11,8 @@
 
 #include <QCoreApplication>
 
-/// The kind of line, and what belongs to it: the direction of drawing, the corners of a rectangle,
-/// the measures of a slot.
+/// The kind of line and its settings: the direction of drawing, the corners of a rectangle, the
+/// dimensions of a slot.
 class LinePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
@@ -21,7 +21,7 @@ class LinePage final : public Page {
 public:
     explicit LinePage(DialogDoor& door, QWidget* parent = nullptr);
 
-    /// Shows what belongs to the kind, here and in the rows above the page.
+    /// Shows the settings of the kind, here and in the rows above the page.
     void chooseKind();
     /// The angle can be typed for the fixed direction only.
     void chooseDirection();

@@ -12,7 +12,7 @@ namespace {
 constexpr char pitchPattern[] =
     "[-]?[1-9][0-9]{0,14}|[-]?[0][.][0-9]{0,5}|[-]?[1-9][0-9]{0,}[.][0-9]{1,5}|^$";
 
-/// What is typed is read with a point and without groups, whatever the user's language writes.
+/// Numbers are read with a decimal point and without group separators, whatever the user's locale.
 void setCLocaleValidator(QLineEdit* field, QValidator* validator)
 {
     QLocale plain = QLocale::c();

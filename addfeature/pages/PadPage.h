@@ -14,7 +14,7 @@ class PadPage final : public Page {
 public:
     explicit PadPage(DialogDoor& door, QWidget* parent = nullptr);
 
-    // Four of their slots follow each change of the text, whatever their names say.
+    // Four of their slots run on each change of the text, whatever their names say.
     NumberField* const m_pDrilNxLE =
         addCount({"m_pDrilNxLE", Caption::label(QT_TR_NOOP("Nx   : ")), RecordKeys::padNx,
                   SLOT(on_m_pDrilNxLE_editingFinished(const QString&)), Sends::WhenAccepted});

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// A page of the dialog, or one of the text page's own pages: its fields, their layout, and the
-/// rules between them, each of which is a method that a named slot of the dialog calls.
+/// A page of the dialog, or one of the text page's pages: its fields, their layout, and the rules
+/// between them, each a method that a named slot of the dialog calls.
 class Page : public QWidget {
 public:
     /// `door` must outlive the page.

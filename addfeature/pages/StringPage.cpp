@@ -13,7 +13,7 @@ StringPage::StringPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pStrin
     }
 }
 
-/// Starts in the unit that the host shows; a field that starts in mil takes plain numbers only.
+/// Starts in the unit that the host shows; a field that starts in mil accepts plain numbers only.
 LengthField* StringPage::addSize(const Field::Details& details, double mils)
 {
     const bool isMetric = isShownMetric(m_door);

@@ -11,7 +11,7 @@
 
 namespace {
 
-// What the host's list window lists.
+// What the host's list window offers.
 constexpr int specialTextList = 16;
 constexpr int fontList = 17;
 
@@ -44,7 +44,7 @@ TextPage::TextPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pTextPage"
 
 TextPage::~TextPage()
 {
-    // They stand outside the dialog: one is a child of the host's window, one of nothing.
+    // They are outside the dialog: one is a child of the host's window, the other has no parent.
     delete m_fontPopup;
     delete m_specialTextPopup;
 }
@@ -60,7 +60,7 @@ QPushButton* TextPage::addButton(const char* name, const char* slot)
 void TextPage::layOut()
 {
     auto* const formatRow = new QHBoxLayout;
-    // Beside each other they cannot both be as wide as their longest items.
+    // Side by side they cannot both be as wide as their longest items.
     for (QComboBox* const combo : {m_pTextFormatCMB, m_barcode->m_pUPCCMB}) {
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         combo->setMinimumContentsLength(shownCharacters);
@@ -87,7 +87,7 @@ void TextPage::retranslate()
     }
     m_pFontPB->setText(tr("Font\t\t:"));
     m_pTextPB->setText(tr("Text\t\t:"));
-    // Rows of their own, whose fields begin at one line.
+    // Separate rows, whose fields are aligned.
     const int width = qMax(m_pFontPB->sizeHint().width(), m_pTextPB->sizeHint().width());
     m_pFontPB->setMinimumWidth(width);
     m_pTextPB->setMinimumWidth(width);
@@ -107,8 +107,8 @@ void TextPage::chooseFormat()
     m_pFontPB->setEnabled(isString);
     m_pFontLE->setEnabled(isString);
     m_barcode->m_pUPCCMB->setEnabled(isBarcode);
-    // The barcode's page is shown before the format is stored, the others' after it: what is hidden
-    // may have an entry to send.
+    // The barcode's page is shown before the format is stored, the others afterwards: the page that
+    // gets hidden may have an entry to send.
     if (isBarcode) {
         m_barcode->chooseType();
         showSubPage();

@@ -16,8 +16,8 @@
 
 class QPushButton;
 
-/// The format, the font and the text to place; the settings of each format stand on a page of
-/// their own, of which one is shown.
+/// The format, the font and the text to place; the settings of each format are on separate pages,
+/// one of which is shown.
 class TextPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 

@@ -67,7 +67,7 @@ void CanvasLink::sendFill() const
 
 void CanvasLink::sendSelectFromEditor() const
 {
-    // Under the rule menu's name: the canvas answers that module's request. Deliberate.
+    // Deliberately under the rule menu's name: the canvas answers that module's request.
     PluginMetaData message(ModuleNames::ruleMenu, ModuleNames::viewer);
     message.code = Sent::SelectFromEditor;
     send(m_sender, std::move(message));

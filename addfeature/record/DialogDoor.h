@@ -11,7 +11,7 @@ class FeatureRecord;
 class QObject;
 class RefusalGuard;
 
-/// All that the dialog's fields, pages and rows see of the dialog in which they stand.
+/// All that fields, pages and rows see of the dialog they are in.
 class DialogDoor {
 public:
     virtual ~DialogDoor() = default;
@@ -19,12 +19,12 @@ public:
     virtual FeatureRecord& record() = 0;
     virtual RefusalGuard& refusals() = 0;
 
-    /// What the dialog was last told of the unit; at first, before it is told, not metric. True:
-    /// lengths are typed in micrometres (the slot length in millimetres); false: in mil (inch).
+    /// What the dialog was last told about the unit; until then not metric. True: lengths
+    /// are typed in micrometres (the slot length in millimetres); false: in mil (inch).
     virtual bool isMetric() const = 0;
     /// The host widget that holds the toolbar; context of the host's unit functions. Not owned.
     virtual void* ownerContext() const = 0;
-    /// UTF-8, as the step.
+    /// UTF-8, like the step.
     virtual const std::string& job() const = 0;
     virtual const std::string& step() const = 0;
     virtual FeatureType featureType() const = 0;
@@ -35,7 +35,7 @@ public:
 
     // A receiver of what is sent may delete the dialog, and the caller with it.
 
-    /// The whole record (code 50), after a check of the symbol that may refuse to.
+    /// The whole record (code 50), unless the check of the symbol refuses it.
     virtual void sendRecord() = 0;
     /// The whole record as a change of direction (code 52), unchecked.
     virtual void sendDirection() = 0;
@@ -54,12 +54,12 @@ public:
     /// Shows the common controls again and tells the canvas the state of the attributes. False when
     /// a receiver of that has deleted the dialog, and the caller with it.
     virtual bool restoreCommonRows() = 0;
-    /// Hides the attribute row and the polarity, which a slot has not.
+    /// Hides the attribute row and the polarity, which a slot does not have.
     virtual void hideAttributeRows() = 0;
     /// Hides mirror and rotation, which only pads and texts have.
     virtual void hidePlacementRows() = 0;
 
-    // By the names that SIGNAL() and SLOT() make.
+    // By the names that SIGNAL() and SLOT() give.
 
     /// Connects a control to the dialog's slot, or disconnects it.
     virtual void connectToSlot(QObject* sender, const char* signal, const char* slot) = 0;

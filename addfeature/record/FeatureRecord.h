@@ -10,8 +10,8 @@ public:
     /// Writes `number` under `key`, replacing what was there.
     void set(const QString& key, int number) { m_values.insert(key, number); }
 
-    /// Writes a copy of `text` that shares nothing: a receiver may keep the record longer than the
-    /// library lives, and the text of a literal goes with it.
+    /// Writes a deep copy of `text`: a receiver may keep the record longer than the library is
+    /// loaded, and the text of a literal vanishes with it.
     void set(const QString& key, const QString& text)
     {
         m_values.insert(key, QString(text.constData(), text.size()));
@@ -20,7 +20,7 @@ public:
     /// The value under `key` as text; empty for a key that was never written.
     QString text(const QString& key) const { return m_values.value(key).toString(); }
 
-    /// All entries in key order, as they travel to the canvas.
+    /// All entries in key order, as they are sent to the canvas.
     const QMap<QString, QVariant>& map() const { return m_values; }
 
 private:

@@ -23,7 +23,7 @@ bool RefusalGuard::isHandling(const QObject* field) const
     return std::find(handled.begin(), handled.end(), field) != handled.end();
 }
 
-/// When the outermost handler ends, what was reported while its boxes were open has its turn.
+/// After the outermost handler, what was reported while its boxes were open is handled.
 void RefusalGuard::leave(const std::shared_ptr<State>& state)
 {
     state->handled.pop_back();

@@ -7,12 +7,12 @@
 
 class QObject;
 
-/// Sees to it that each entry is handled exactly once, whatever boxes open meanwhile.
+/// Ensures that each entry is handled exactly once, whatever boxes open meanwhile.
 ///
 /// A box takes the focus from whichever field has it, and Qt then reports that editing has
-/// finished. For the field whose handler opened the box that is the same entry once more: it is
-/// swallowed. For any other field it is an entry that was still pending, and Qt will not report it
-/// again: it is handled when the handler that opened the box has come to its end.
+/// finished. For the field whose handler opened the box that is the same entry again, and is
+/// ignored. For any other field it is an entry that was still pending, and Qt will not report it
+/// again: it is handled when the handler that opened the box has finished.
 class RefusalGuard {
 public:
     using Handler = std::function<void()>;
@@ -22,14 +22,14 @@ public:
     RefusalGuard(const RefusalGuard&) = delete;
     RefusalGuard& operator=(const RefusalGuard&) = delete;
 
-    /// Takes the report that editing has finished in `field`: `handler` runs now, after the box
+    /// Receives the report that editing has finished in `field`: `handler` runs now, after the box
     /// that is open, or not at all.
     void report(const QObject* field, Handler handler);
 
-    /// Whether a handler of `field` runs.
+    /// Whether a handler of `field` is running.
     bool isHandling(const QObject* field) const;
 
-    /// Runs `action`, which may open a box; `field`, which may be null, is what it is about.
+    /// Runs `action`, which may open a box about `field`; null: about no field.
     template <class Action>
     void run(const QObject* field, Action&& action)
     {
@@ -49,11 +49,11 @@ private:
         const QObject* field;
         Handler handler;
     };
-    /// Outlives the guard where a receiver deletes the dialog inside a handler.
+    /// Outlives the guard if a receiver deletes the dialog inside a handler.
     struct State {
         bool isAlive = true;
         int openBoxes = 0;
-        std::vector<const QObject*> handled;  // the fields whose handlers run, innermost last
+        std::vector<const QObject*> handled;  // fields whose handlers are running, innermost last
         std::vector<Report> pending;
     };
     class Box {
@@ -70,7 +70,7 @@ private:
         std::shared_ptr<State> m_state;
     };
 
-    // The state by value: the guard may go inside the action.
+    // The state by value: the guard may be deleted inside the action.
     template <class Action>
     static void runIn(std::shared_ptr<State> state, const QObject* field, Action&& action)
     {

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Lengths between what the user typed and what the record holds.
+/// Converts lengths from what the user typed to what the record holds.
 namespace Units {
 
 /// Mil to micrometre, and inch to millimetre.

@@ -14,7 +14,7 @@ constexpr int coordinateBoundMicrometre = 2540000;
 constexpr double symbolSizeMinimum = 0.0;
 constexpr double symbolSizeMaximum = 50000.0;
 
-// Both comparisons hold for a number only: written so, "nan" is refused.
+// Both comparisons are true only for numbers: written this way, "nan" is refused.
 bool within(double value, double minimum, double maximum)
 {
     return value >= minimum && value <= maximum;

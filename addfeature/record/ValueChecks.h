@@ -13,7 +13,8 @@ public:
     /// `window` is the parent of the boxes, `ownerContext` that of the host's unit functions.
     ValueChecks(RefusalGuard& refusals, QWidget* window, void* ownerContext);
 
-    /// A number from 0 to `boundInMil`; metric text, in micrometres, is converted to be compared.
+    /// A number from 0 to `boundInMil`; metric text, in micrometres, is converted before it is
+    /// compared.
     bool length(const QString& text, double boundInMil, bool isMetric) const;
 
     /// A coordinate in mil or micrometres.

@@ -1,5 +1,5 @@
-// The form as a module of its own: nothing in the tool strip opens it yet, and a host that wants to
-// see it loads this one.
+// The form as a separate module: nothing in the tool strip opens it yet; a host that wants to show
+// it loads this one.
 
 #include "dimensions/Dimensious.h"
 
@@ -14,6 +14,6 @@ Q_DECL_EXPORT void* GetPluginInstance(QWidget* parent)
     return static_cast<QObject*>(popup);
 }
 
-/// The form takes no messages.
+/// The form handles no messages.
 Q_DECL_EXPORT void recMsgFromManager(void* /*instance*/, PluginMetaData /*message*/) {}
 }

@@ -12,7 +12,7 @@
 
 namespace CanvasHost {
 
-/// What kind of value an attribute takes.
+/// The kind of value that an attribute has.
 enum class AttributeKind { Flag, Integer, Decimal, Text, Choice };
 
 struct AttributeDefinition {
@@ -40,15 +40,15 @@ CANVAS_HOST_EXPORT const std::vector<Job>& jobs();
 CANVAS_HOST_EXPORT void addJob(const Job& job);
 CANVAS_HOST_EXPORT void clearJobs();
 
-/// The job that a user has open; null before there is one. Valid until the jobs change.
+/// The job that the user has open; null until there is one. Valid until the jobs change.
 CANVAS_HOST_EXPORT const Job* currentJob();
-/// False when there is no job of that name.
+/// False if there is no such job.
 CANVAS_HOST_EXPORT bool setCurrentJob(const std::string& name);
-/// Null for a name that is not known.
+/// Null for an unknown name.
 CANVAS_HOST_EXPORT const Job* findJob(const std::string& name);
 
-/// Functions that take the place of the operations of cam_api.h where they are set: they throw,
-/// answer nonsense or count calls.
+/// Functions that replace operations of cam_api.h if they are set: they throw, return nonsense or
+/// count calls.
 struct CamApiOverrides {
     std::function<bool(const std::string&, ZENTRA::API::symbol_type&, int&, int&, bool)>
         identify_symbol;

@@ -40,7 +40,7 @@ std::vector<std::string> readChoices(const JsonNode& attribute, AttributeKind ki
     return choices;
 }
 
-/// Reads the objects of a list whose "name" tells them apart.
+/// Reads the objects of a list, which differ by their "name".
 template <typename Read>
 auto readNamed(const JsonNode& list, const QStringList& keys, Read read)
 {

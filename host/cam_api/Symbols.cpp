@@ -12,7 +12,7 @@ namespace {
 
 using ZENTRA::API::symbol_type;
 
-/// The host's types of shapes, in the order of SymbolShape.
+/// The host's types for the shapes, in the order of SymbolShape.
 constexpr symbol_type types[] = {
     symbol_type::round,   symbol_type::square,     symbol_type::rectangle,   symbol_type::oval,
     symbol_type::diamond, symbol_type::octagon,    symbol_type::hexagon,     symbol_type::triangle,

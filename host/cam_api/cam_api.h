@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// The host's CAM data: symbols, and what belongs to a job.
+/// The host's CAM data: symbols, and the data of a job.
 namespace ZENTRA {
 namespace API {
 
@@ -31,21 +31,21 @@ struct show_param {
     bool metric = false;  ///< true: micrometre and millimetre; false: mil and inch
 };
 
-/// Tells whether `name` is a standard symbol with valid sizes, or one that the current job defines.
+/// Whether `name` is a standard symbol with valid sizes, or one that the current job defines.
 ///
 /// Sizes are in mil, each above 0, decimals allowed ("r10.5"); the inner size of a ring is smaller
-/// than the outer one. Letter case counts, and a rotation suffix ("r10_45") is no part of a name.
-/// On success `type` is the shape and `a`, `b` the first two sizes in hundredths of a mil, rounded
-/// (`b` equals `a` for a shape with one size; both 0 for a user symbol). With `arc` true only round
-/// symbols are accepted. On failure the out values are unknown, 0 and 0.
+/// than the outer one. Names are case-sensitive, and a rotation suffix ("r10_45") is not part of a
+/// name. On success `type` is the shape and `a`, `b` the first two sizes in hundredths of a mil,
+/// rounded (`b` equals `a` for a shape with one size; both are 0 for a user symbol). With `arc`
+/// true only round symbols are accepted. On failure the out values are unknown, 0 and 0.
 CANVAS_HOST_EXPORT bool identify_symbol(const std::string& name, symbol_type& type, int& a, int& b,
                                         bool arc);
 
-/// Replaces `names` by the special symbols of `job`; empty for a job that is not known.
+/// Replaces `names` by the special symbols of `job`; empty for an unknown job.
 CANVAS_HOST_EXPORT void get_special_symbol_names(const std::string& job,
                                                  std::vector<std::string>& names);
 
-/// Replaces `names` by the fonts of `job`; empty for a job that is not known.
+/// Replaces `names` by the fonts of `job`; empty for an unknown job.
 CANVAS_HOST_EXPORT void get_fonts(const std::string& job, std::vector<std::string>& names);
 
 }  // namespace API

@@ -18,7 +18,7 @@ public:
 
     /// Name and value of each attribute that is ticked, in the order of the table.
     Values values() const;
-    /// Ticks exactly these; a name that the job does not know gets a row of its own.
+    /// Ticks exactly these; a name that the job does not know gets its own row.
     void setValues(const Values& values);
 
 Q_SIGNALS:

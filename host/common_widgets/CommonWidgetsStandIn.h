@@ -19,7 +19,7 @@ CANVAS_HOST_EXPORT void setMeasureStarted(std::function<void()> started);
 /// Shows the distance between two points (micrometre) in every measure window.
 CANVAS_HOST_EXPORT void reportMeasurement(const QPointF& from, const QPointF& to);
 
-/// Functions that take the place of operations of common_widgets.h where they are set.
+/// Functions that replace operations of common_widgets.h if they are set.
 struct CommonWidgetsOverrides {
     std::function<void(std::map<std::string, std::string>&)> getAttributeData;
 };

@@ -34,7 +34,7 @@ public:
     MeasurePane* pane;
 };
 
-// A canvas measures here; the toolbar, which the host's own popup asks, has nothing to add.
+// Here a canvas measures; the toolbar, which the real host's popup asks, has nothing to add.
 Grc_Tbe_measurepopup::Grc_Tbe_measurepopup(Canvas_Tool_Strip* /*strip*/, QWidget* parent)
     : QWidget(parent, Qt::Dialog), d(new Private)
 {

@@ -15,7 +15,7 @@ public:
     explicit MeasurePane(QWidget* window);
     ~MeasurePane() override;
 
-    /// Every pane that there is.
+    /// All panes.
     static const QList<MeasurePane*>& all();
 
     /// Forgets the last distance.

@@ -74,7 +74,7 @@ void NameList::take()
 
 bool NameList::eventFilter(QObject* watched, QEvent* event)
 {
-    // While the name is being typed, Enter takes it and the arrows walk through the list.
+    // While a name is being typed, Enter accepts it and the arrow keys move through the list.
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {

@@ -8,7 +8,7 @@
 #include <QVariant>
 #include <QVector>
 
-/// Shows named values as a table of key, value and type. What changed is marked.
+/// Shows named values as a table of key, value and type. Changes are marked.
 class CANVAS_HOST_EXPORT RecordTable : public QTableWidget {
     Q_OBJECT
 
@@ -23,8 +23,8 @@ public:
     explicit RecordTable(const char* name, QWidget* parent = nullptr);
 
     void showRows(const QVector<Row>& rows);
-    /// Marks what changed since the values before. The same values again leave the marks alone: an
-    /// entry that is sent twice still shows what it changed.
+    /// Marks what changed since the previous values. The same values again leave the marks alone:
+    /// an entry that is sent twice still shows what it changed.
     void showValues(const QMap<QString, QVariant>& values);
     /// The rows of `values`, those of the `changed` keys marked.
     static QVector<Row> rowsOf(const QMap<QString, QVariant>& values, const QStringList& changed);

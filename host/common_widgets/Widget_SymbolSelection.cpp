@@ -8,7 +8,7 @@ namespace {
 
 constexpr int storedToMetric = 1;
 
-// The sizes (mil) that a board is usually drawn with.
+// The sizes (mil) that boards usually use.
 const QStringList roundsAndSquares = [] {
     QStringList names;
     for (const char* const shape : {"r", "s"}) {

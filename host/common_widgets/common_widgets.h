@@ -16,7 +16,7 @@ class Canvas_Tool_Strip;
 class CANVAS_HOST_EXPORT Widget_Attributes : public QWidget {
     Q_OBJECT
 public:
-    /// `owner` becomes the parent; the window stands on its own beside it.
+    /// `owner` becomes the parent, but the window is a separate one.
     explicit Widget_Attributes(QWidget* owner);
     ~Widget_Attributes() override;
 
@@ -24,7 +24,7 @@ public:
     void getAttributeData(std::map<std::string, std::string>& out);
 
 Q_SIGNALS:
-    void change_button_color();    ///< the table became not empty
+    void change_button_color();    ///< the table is no longer empty
     void remove_button_color();    ///< the table became empty
     void send_attribute_signal();  ///< the user asks for the attributes of a feature on the board
     /// The user applied the table: all pairs (name, value).
@@ -43,7 +43,7 @@ private:
 class CANVAS_HOST_EXPORT Widget_SymbolSelection : public QWidget {
     Q_OBJECT
 public:
-    /// `context` tells the user's unit; the window stands on its own beside `parent`.
+    /// `context` decides the user's unit; the window is separate from that of `parent`.
     Widget_SymbolSelection(std::string job, QWidget* context, QWidget* parent);
     ~Widget_SymbolSelection() override;
 
@@ -58,7 +58,7 @@ Q_SIGNALS:
     void sendText(QString);  ///< the chosen name, sizes in the user's unit
 
 public Q_SLOTS:
-    /// Shows the names in the unit that the user works in now.
+    /// Shows the names in the user's current unit.
     void change_unit();
 
 private:
@@ -89,14 +89,14 @@ private:
 class CANVAS_HOST_EXPORT Grc_Tbe_measurepopup : public QWidget {
     Q_OBJECT
 public:
-    /// `strip` is the toolbar that opened it, not owned; the window stands on its own beside
+    /// `strip` is the toolbar that opened it, not owned; the window is separate from that of
     /// `parent`.
     Grc_Tbe_measurepopup(Canvas_Tool_Strip* strip, QWidget* parent);
     ~Grc_Tbe_measurepopup() override;
 
 public Q_SLOTS:
     void change_language();         ///< shows its texts in the current language
-    void onMeasureButtonClicked();  ///< the Measure tool was started: measuring begins anew
+    void onMeasureButtonClicked();  ///< the Measure tool was started: measuring starts over
 
 private:
     class Private;

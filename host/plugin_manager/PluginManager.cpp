@@ -143,7 +143,7 @@ void* loadModule(const QString& moduleName, const QString& directory, QWidget* p
     }
     const auto known = state().libraries.value(moduleName);
     if (known && known->fileName() == library->fileName()) {
-        library->unload();  // QLibrary counts: one count is kept for each module
+        library->unload();  // QLibrary counts references: one is kept for each module
     } else {
         state().libraries.insert(moduleName, library);
     }
@@ -178,7 +178,7 @@ void route(void* sender, const PluginMetaData& message)
 {
     const Instance* const found = receiverOf(sender, message.receiver);
     const bool known = found != nullptr;
-    // Copies: the observer or the receiver may add and remove instances.
+    // Copies: the observer or the receiver may add or remove instances.
     const Instance receiver = known ? *found : Instance{};
     const Observer observer = state().observer;
     if (observer) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// What only the stand-in of the plug-in manager has: loading modules, and watching messages.
+// What only the stand-in of the plug-in manager has: loading modules, and observing messages.
 
 #include <HostExport.h>
 #include <PluginMetaData.h>
@@ -27,24 +27,24 @@ struct Transfer {
 };
 using Observer = std::function<void(const Transfer&)>;
 
-/// Has each message shown to `observer` just before it is delivered, in the order of sending; an
-/// empty function ends it.
+/// Calls `observer` with each message just before it is delivered, in the order of sending; an
+/// empty function ends that.
 CANVAS_HOST_EXPORT void setObserver(Observer observer);
 
 /// Makes `instance` a receiver of the messages to `moduleName` ("Canvas_Viewer.dll"). Of several
-/// instances of one module, the one whose `parent` stands in the same window as the sender pointer
-/// receives; the first one added where that tells nothing.
+/// instances of one module, the one whose `parent` is in the same window as the sender pointer
+/// receives; if there is none, the first one added.
 CANVAS_HOST_EXPORT void addInstance(const QString& moduleName, void* instance, DeliverMessage entry,
                                     QWidget* parent = nullptr);
 
 /// Forgets `instance`; the caller deletes it.
 CANVAS_HOST_EXPORT void removeInstance(void* instance);
 
-/// Loads `moduleName` from `directory`, makes an instance in `parent` and adds it.
+/// Loads `moduleName` from `directory`, creates an instance in `parent` and adds it.
 ///
-/// "Canvas_Viewer.dll" is looked for as "Canvas_Viewer" with this platform's library suffix. On
-/// failure (missing file, no library, an entry point absent, no instance) a FileError is thrown,
-/// and the manager is as it was. The caller owns the instance: a QObject, to be removed with
+/// The file of "Canvas_Viewer.dll" is "Canvas_Viewer" with this platform's library suffix. On
+/// failure (missing file, not a library, missing entry point, no instance) a FileError is thrown,
+/// and the manager is unchanged. The caller owns the instance: a QObject, to be removed with
 /// removeInstance() and deleted before its library is unloaded.
 CANVAS_HOST_EXPORT void* loadModule(const QString& moduleName, const QString& directory,
                                     QWidget* parent);

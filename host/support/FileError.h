@@ -6,11 +6,11 @@ namespace CanvasHost {
 
 /// What is wrong with a file, and where; thrown by whatever reads or writes one.
 struct FileError {
-    QString file;  ///< empty for a text that comes from no file
-    int line = 0;  ///< counted from 1; 0: there is no line to name
+    QString file;  ///< empty for a text that is not from a file
+    int line = 0;  ///< from 1; 0: no line
     QString reason;
 
-    /// "<file>:<line>: <reason>", without the parts that there are not.
+    /// "<file>:<line>: <reason>", without parts that are not set.
     QString text() const
     {
         QString place = file;

@@ -14,7 +14,7 @@ FileError fileError(const QFileDevice& device);
 /// The whole content of a file; throws a FileError.
 QByteArray readWhole(const QString& file);
 
-/// Writes a whole file, or leaves the one that is there and throws a FileError.
+/// Writes a complete file, or leaves the existing one and throws a FileError.
 void writeWhole(const QString& file, const QByteArray& content);
 
 }  // namespace CanvasHost

@@ -10,13 +10,13 @@
 
 namespace CanvasHost {
 
-/// Where a value stands and where its parts do: a tree of the shape of the document. It is found by
-/// hand because none of the libraries at hand, Qt's included, gives the lines of values.
+/// The lines of a value and of its parts: a tree with the shape of the document. Written by hand
+/// because none of the available libraries, including Qt's, gives the lines of values.
 struct JsonPlace {
     int line = 0;
     QStringList keys;              ///< of an object; in the order of `parts`
     std::vector<JsonPlace> parts;  ///< the members of an object or the entries of an array
-    int repeatedKey = -1;          ///< index of the first key that stood before, or -1
+    int repeatedKey = -1;          ///< index of the first key that occurred before, or -1
 };
 
 struct JsonNode::Source {

@@ -14,13 +14,13 @@ namespace CanvasHost {
 
 struct JsonPlace;
 
-/// A JSON value that knows where it stands. Every operation throws a FileError with that line for a
-/// value that is not what it asks for.
+/// A JSON value that knows its line. Every operation throws a FileError with that line if the value
+/// is not what it asks for.
 class JsonNode {
 public:
     [[noreturn]] void fail(const QString& reason) const;  ///< "<what it is> <reason>"
 
-    /// An object with all its keys among `known`, each once.
+    /// An object whose keys are all among `known`, each once.
     void requireObject(const QStringList& known) const;
     bool has(const QString& key) const;
     JsonNode member(const QString& key) const;
@@ -55,10 +55,10 @@ private:
     QString m_label;
 };
 
-/// A JSON text that was parsed; its nodes must not outlive it.
+/// A parsed JSON text; its nodes must not outlive it.
 class JsonDocument {
 public:
-    /// Throws a FileError for a text that is no JSON. `file` is what errors name.
+    /// Throws a FileError for a text that is not JSON. `file` is what errors name.
     explicit JsonDocument(const QByteArray& text, const QString& file = {});
     ~JsonDocument();
     JsonDocument(const JsonDocument&) = delete;

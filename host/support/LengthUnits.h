@@ -2,7 +2,7 @@
 
 namespace CanvasHost {
 
-/// What every other factor between the two systems of units follows from.
+/// Every other factor between the two systems of units follows from this one.
 constexpr double micrometresOfMil = 25.4;
 
 }  // namespace CanvasHost

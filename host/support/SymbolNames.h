@@ -9,7 +9,7 @@
 
 namespace CanvasHost {
 
-/// The shapes of symbols. A special one has a name without sizes in it, which is no standard name.
+/// The shapes of symbols. A special one has a name without sizes, which is not a standard name.
 enum class SymbolShape {
     Round,
     Square,
@@ -34,12 +34,12 @@ constexpr bool isRing(SymbolShape shape)
 struct SymbolName {
     SymbolShape shape = SymbolShape::Special;
     QString prefix;
-    QStringList sizes;  ///< unsigned decimals, as they stand in the name
+    QStringList sizes;  ///< unsigned decimals, as written in the name
     QString rotation;   ///< "_45", or empty
 };
 
-/// Nothing for a name whose prefix is no standard one, or whose sizes are not as many as its shape
-/// takes. The values of the sizes are not judged.
+/// Nothing for a name whose prefix is not a standard one, or that has the wrong number of sizes for
+/// its shape. The values of the sizes are not checked.
 std::optional<SymbolName> parseSymbolName(const QString& name);
 
 }  // namespace CanvasHost

@@ -35,7 +35,7 @@ QStringList changedKeys(const QMap<QString, QVariant>& before, const QMap<QStrin
     QStringList keys;
     for (auto entry = after.begin(); entry != after.end(); ++entry) {
         const QVariant old = before.value(entry.key());
-        // QVariant compares texts and numbers by value; the type counts here as well.
+        // QVariant compares texts and numbers by value; here the type counts as well.
         if (old.userType() != entry.value().userType() || old != entry.value()) {
             keys.append(entry.key());
         }

@@ -12,14 +12,14 @@
 namespace CanvasHost {
 namespace {
 
-// Holds for numbers only: written so, "nan" is refused.
+// True only for numbers: written this way, "nan" is refused.
 bool within(double value, double minimum, double maximum)
 {
     return value >= minimum && value <= maximum;
 }
 
-/// The window of the widget at that address. The pointer has lost its type, and a caller may hand
-/// over one that is no widget or is gone: it is compared, never followed.
+/// The window of the widget at that address. The pointer is untyped, and may be that of something
+/// else or of a deleted widget: it is compared, never dereferenced.
 QWidget* windowOf(const void* context)
 {
     const QWidgetList widgets = QApplication::allWidgets();

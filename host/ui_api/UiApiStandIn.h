@@ -21,25 +21,25 @@ CANVAS_HOST_EXPORT DisplayUnit displayUnit();
 /// A unit of length.
 struct LengthUnit {
     DisplayUnit unit;
-    const char* name;  ///< as options and session files write it
+    const char* name;  ///< as written in options and session files
     double micrometres;
-    int decimals;        ///< of a length that people read
+    int decimals;        ///< of a length that is shown
     const char* title;   ///< this and the next two: to be translated in the context "Lengths"
     const char* length;  ///< "%1 mm"
     const char* point;   ///< "%1, %2 mm"
 };
 CANVAS_HOST_EXPORT const std::vector<LengthUnit>& lengthUnits();
 
-/// In the user's language: the unit's title, and a length or a point (micrometres) in the unit that
-/// is set.
+/// In the user's language: the unit's title, and a length or a point (micrometres) in the current
+/// unit.
 CANVAS_HOST_EXPORT QString unitText(const LengthUnit& unit);
 CANVAS_HOST_EXPORT QString lengthText(double micrometres);
 CANVAS_HOST_EXPORT QString lengthText(const QPointF& point);
 
 CANVAS_HOST_EXPORT void setEQVisible(bool visible);
 
-/// Functions that take the place of the operations of ui_api.h where they are set: they throw,
-/// answer nonsense or count calls.
+/// Functions that replace operations of ui_api.h if they are set: they throw, return nonsense or
+/// count calls.
 struct UiApiOverrides {
     std::function<bool()> getEQVisible;
     std::function<QString(void*)> getUnitString;

@@ -14,7 +14,7 @@ namespace {
 constexpr int leastDigits = 6;
 constexpr int mostDigits = 15;
 
-/// `value` rounded to so many significant digits, without exponent and trailing zeros.
+/// `value` rounded to that many significant digits, without exponent or trailing zeros.
 QString plainText(double value, int digits)
 {
     const QString scientific = QString::number(std::abs(value), 'e', digits - 1);
@@ -37,7 +37,8 @@ QString plainText(double value, int digits)
     return value < 0 ? QLatin1Char('-') + text : text;
 }
 
-/// How many significant digits a text of plainText() has, but not fewer than every text may have.
+/// The number of significant digits of a text of plainText(), or the number that every text may
+/// have if that is more.
 int precision(QString text)
 {
     text.remove(QLatin1Char('-')).remove(QLatin1Char('.'));
@@ -53,12 +54,13 @@ QString rounded(const QString& text, bool toMetric, int digits)
     return plainText(toMetric ? value * metricFactor : value / metricFactor, digits);
 }
 
-/// The text in the other unit that stands for `text`, with at most so many digits; null if none.
+/// The text in the other unit that corresponds to `text`, with at most that many digits; null if
+/// there is none.
 ///
-/// Two texts stand for each other when each is the other one, converted and rounded to its own
-/// number of digits, and when neither has such a counterpart with fewer digits. The second
-/// condition makes the relation one to one, so that a text that is converted there and back is the
-/// same text. It is decided by the same search among fewer digits, which therefore ends.
+/// Two texts correspond if each is the other one, converted and rounded to its own number of
+/// digits, and if neither has such a counterpart with fewer digits. The second condition makes the
+/// relation one to one, so that converting there and back gives the same text. It is decided by the
+/// same search with fewer digits, which therefore terminates.
 QString counterpart(const QString& text, bool toMetric, int digitLimit)
 {
     const int ownDigits = precision(text);

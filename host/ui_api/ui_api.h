@@ -31,23 +31,23 @@ CANVAS_HOST_EXPORT bool isNumValueLegal(double value, double minimum, double max
                                         void* context);
 
 /// Whether every size of a standard symbol name, taken in the user's unit (micrometre or mil), lies
-/// within the bounds in mil. A rotation suffix is no size. The empty name, a name without sizes and
-/// any other name are accepted. A refusal is reported to the user in one modal box before the call
-/// returns.
+/// within the bounds in mil. A rotation suffix is not a size. The empty name, a name without sizes
+/// and any other name are accepted. A refusal is reported to the user in one modal box before the
+/// call returns.
 CANVAS_HOST_EXPORT bool isSymbolValueLegal(const QString& name, double minimum, double maximum,
                                            void* context);
 
 /// Converts the sizes of a standard symbol name. `direction` 0: the metric name as typed
 /// (micrometre) to the stored one (mil); 1: stored to metric display. Any other name, a rotation
-/// suffix, letters and separators stay as they are. There and back gives the same name, but for
-/// needless zeros ("r10.50" comes back as "r10.5") and for sizes of more than twelve digits.
+/// suffix, letters and separators are left alone. Converting there and back gives the same name,
+/// except for trailing zeros ("r10.50" comes back as "r10.5") and sizes of more than twelve digits.
 CANVAS_HOST_EXPORT QString setSymbolUIData(const QString& name, int direction);
 
 /// Fills `out` with how values are shown to the user.
 CANVAS_HOST_EXPORT void getShowPara(void* context, API::show_param& out);
 
-/// What a ZTLineEdit lets the user type. A part of a number ("", "-", ".") is let through as well:
-/// Qt would otherwise keep editingFinished back, and the user would never learn what is wrong.
+/// What a ZTLineEdit lets the user type. An incomplete number ("", "-", ".") is accepted as well:
+/// otherwise Qt would not emit editingFinished, and the user would never learn what is wrong.
 enum ZTERegExp {
     UnsignedDecimal = 0,
     SignedLength = 1,  ///< signed decimal, a length
@@ -66,9 +66,9 @@ public:
     /// null. The field starts in the user's unit.
     ZTLineEdit(ZTERegExp pattern, QWidget* context);
 
-    /// Shows the number in micrometres or millimetres (`isMM`) or in mil or inch. Does nothing when
-    /// the field already is in that unit. An empty text, one that is no number, and free text stay
-    /// as they are. Switching back gives the text that stood there unless it was edited in between.
+    /// Shows the number in micrometres or millimetres (`isMM`) or in mil or inch. Does nothing if
+    /// the field is already in that unit. An empty text, one that is not a number, and free text
+    /// are left alone. Switching back restores the previous text unless it was edited in between.
     /// Never emits editingFinished.
     void changeunit(bool isMM);
 
@@ -76,7 +76,7 @@ private:
     ZTERegExp m_pattern;
     bool m_metric;
     QString m_shown;     // what changeunit last wrote; null when it left the text alone
-    QString m_previous;  // what stood there before, in the other unit
+    QString m_previous;  // the text before that, in the other unit
 };
 
 }  // namespace UIAPI
