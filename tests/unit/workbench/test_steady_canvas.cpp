@@ -113,22 +113,28 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<int>("points");
-        QTest::newRow("English") << "en" << 10;
-        QTest::newRow("English, large") << "en" << 20;
-        QTest::newRow("Chinese") << "zh_CN" << 10;
-        QTest::newRow("Chinese, large") << "zh_CN" << 20;
+        QTest::addColumn<QSize>("size");
+        const QSize usual(1200, 860);
+        const QSize least(1, 1);  // then as small as the window can be
+        QTest::newRow("English") << "en" << 10 << usual;
+        QTest::newRow("English, large") << "en" << 20 << usual;
+        QTest::newRow("English, small window") << "en" << 10 << least;
+        QTest::newRow("Chinese, large") << "zh_CN" << 20 << usual;
+        QTest::newRow("Chinese, small window") << "zh_CN" << 10 << least;
     }
     void staysWhateverIsSaid()
     {
         QFETCH(QString, language);
         QFETCH(int, points);
-        const QFont before = QApplication::font();
-        QFont font = before;
+        const QFont usualFont = QApplication::font();
+        QFont font = usualFont;
         font.setPointSize(points);
         QApplication::setFont(font);
         openWindow(language);
+        QFETCH(QSize, size);
+        m_window->resize(size);
         const QRect expected = place();
-        const QSize size = m_window->size();
+        const QSize before = m_window->size();
         QSet<QString> said;
         for (QToolButton* const tool : m_window->findChildren<QToolButton*>()) {
             // The strip's tools; a second window is another matter.
@@ -151,8 +157,8 @@ private Q_SLOTS:
         }
         m_window->host()->send({Accepted::ReleaseAll, {}, qint64(0)});
         QCOMPARE(place(), expected);
-        QCOMPARE(m_window->size(), size);
-        QApplication::setFont(before);
+        QCOMPARE(m_window->size(), before);
+        QApplication::setFont(usualFont);
     }
 
     void aReleaseIsWhereItsPressWas()
