@@ -4,6 +4,7 @@
 #include "Expect.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 
 #include <CommonWidgetsStandIn.h>
@@ -62,8 +63,8 @@ private Q_SLOTS:
         });
         fixture.click("m_pAttributesCB");
         const Recorder::Entry sent = fixture.recorder.last(Sent::AttributeMap);
-        QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
-        QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
+        QCOMPARE(sent.message.sender, ModuleNames::toolStrip);
+        QCOMPARE(sent.message.receiver, ModuleNames::viewer);
         QVERIFY(sent.message.payload.isEmpty());
         QVERIFY(sent.message.extra != 0);
         QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
@@ -154,8 +155,8 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(),
                  (QVector<int>{Sent::AttributeMap, Sent::SelectFromEditor}));
         const Recorder::Entry sent = fixture.recorder.last(Sent::SelectFromEditor);
-        QCOMPARE(sent.message.sender, QString("Canvas_RuleMenu.dll"));
-        QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
+        QCOMPARE(sent.message.sender, ModuleNames::ruleMenu);
+        QCOMPARE(sent.message.receiver, ModuleNames::viewer);
         QVERIFY(sent.message.payload.isEmpty());
         QCOMPARE(sent.message.extra, qint64(0));
         QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));

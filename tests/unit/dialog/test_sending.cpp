@@ -3,6 +3,7 @@
 #include "Case.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 
 #include <CamApiStandIn.h>
@@ -86,8 +87,8 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.messages().size(), 1);
         const Recorder::Entry& sent = fixture.recorder.messages().first();
         QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
-        QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
-        QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
+        QCOMPARE(sent.message.sender, ModuleNames::toolStrip);
+        QCOMPARE(sent.message.receiver, ModuleNames::viewer);
         QCOMPARE(sent.message.code, Sent::Record);
         QCOMPARE(sent.message.extra, qint64(0));
         QCOMPARE(sent.message.payload.size(), 45);
@@ -224,8 +225,8 @@ private Q_SLOTS:
         fixture.click("m_pFillPB");
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Fill});
         const Recorder::Entry sent = fixture.recorder.last(Sent::Fill);
-        QCOMPARE(sent.message.sender, QString("Canvas_Tool_Strip.dll"));
-        QCOMPARE(sent.message.receiver, QString("Canvas_Viewer.dll"));
+        QCOMPARE(sent.message.sender, ModuleNames::toolStrip);
+        QCOMPARE(sent.message.receiver, ModuleNames::viewer);
         QVERIFY(sent.message.payload.isEmpty());
         QCOMPARE(sent.message.extra, qint64(0));
         QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));

@@ -48,26 +48,18 @@ private Q_SLOTS:
         QTest::addColumn<Unit>("unit");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("shown");  // empty: refused
-        QTest::newRow("line") << "m_pLineTB" << Unit::Mil << "r10"
-                              << "r10";
-        QTest::newRow("line, any symbol") << "m_pLineTB" << Unit::Mil << "logo"
-                                          << "logo";
-        QTest::newRow("pad, metric") << "m_pPadTB" << Unit::Metric << "rect20x40"
-                                     << "rect508x1016";
-        QTest::newRow("arc") << "m_pArcTB" << Unit::Mil << "r10.5"
-                             << "r10.5";
-        QTest::newRow("arc, metric") << "m_pArcTB" << Unit::Metric << "r10"
-                                     << "r254";
-        QTest::newRow("arc, square") << "m_pArcTB" << Unit::Mil << "s20"
-                                     << "";
-        QTest::newRow("arc, r alone") << "m_pArcTB" << Unit::Mil << "r"
-                                      << "";
-        QTest::newRow("arc, rectangle") << "m_pArcTB" << Unit::Mil << "rect20x40"
-                                        << "";
-        QTest::newRow("arc, suffix") << "m_pArcTB" << Unit::Mil << "r10_45"
-                                     << "";
-        QTest::newRow("arc, no name") << "m_pArcTB" << Unit::Mil << ""
-                                      << "";
+        // clang-format off
+        QTest::newRow("line") << "m_pLineTB" << Unit::Mil << "r10" << "r10";
+        QTest::newRow("line, any symbol") << "m_pLineTB" << Unit::Mil << "logo" << "logo";
+        QTest::newRow("pad, metric") << "m_pPadTB" << Unit::Metric << "rect20x40" << "rect508x1016";
+        QTest::newRow("arc") << "m_pArcTB" << Unit::Mil << "r10.5" << "r10.5";
+        QTest::newRow("arc, metric") << "m_pArcTB" << Unit::Metric << "r10" << "r254";
+        QTest::newRow("arc, square") << "m_pArcTB" << Unit::Mil << "s20" << "";
+        QTest::newRow("arc, r alone") << "m_pArcTB" << Unit::Mil << "r" << "";
+        QTest::newRow("arc, rectangle") << "m_pArcTB" << Unit::Mil << "rect20x40" << "";
+        QTest::newRow("arc, suffix") << "m_pArcTB" << Unit::Mil << "r10_45" << "";
+        QTest::newRow("arc, no name") << "m_pArcTB" << Unit::Mil << "" << "";
+        // clang-format on
     }
 
     void picked()
@@ -116,12 +108,11 @@ private Q_SLOTS:
         QTest::addColumn<Unit>("unit");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("stored");
-        QTest::newRow("mil") << Unit::Mil << "r10"
-                             << "r10";
-        QTest::newRow("metric") << Unit::Metric << "r254"
-                                << "r10";
-        QTest::newRow("suffix stays") << Unit::Mil << "r10_45"
-                                      << "r10_45";
+        // clang-format off
+        QTest::newRow("mil") << Unit::Mil << "r10" << "r10";
+        QTest::newRow("metric") << Unit::Metric << "r254" << "r10";
+        QTest::newRow("suffix stays") << Unit::Mil << "r10_45" << "r10_45";
+        // clang-format on
     }
 
     void chosenName()

@@ -6,6 +6,7 @@
 #include "Main.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/PluginEntry.h"
 
 #include <PluginManagerStandIn.h>
@@ -22,7 +23,7 @@ namespace {
 
 PluginMetaData messageToStrip(int code, qint64 extra = 0)
 {
-    PluginMetaData message("Canvas_Viewer.dll", "Canvas_Tool_Strip.dll");
+    PluginMetaData message(ModuleNames::viewer, ModuleNames::toolStrip);
     message.code = code;
     message.extra = extra;
     return message;
@@ -139,12 +140,12 @@ private Q_SLOTS:
             connectClosing(fixture);
             connect(fixture.strip, SIGNAL(send_Symbol_Info(std::map<int, std::string>)),
                     fixture.dialog, SLOT(get_ChangeSymbol_Info(std::map<int, std::string>)));
-            CanvasHost::addInstance("Canvas_Tool_Strip.dll", fixture.strip, recMsgFromManager);
+            CanvasHost::addInstance(ModuleNames::toolStrip, fixture.strip, recMsgFromManager);
             fixture.chooseType(uses()[use].type);
             int depth = 0;
             int answered = 0;
             fixture.recorder.setOnMessage([&](const Recorder::Entry& entry) {
-                if (entry.message.receiver == "Canvas_Tool_Strip.dll" || depth > 0) {
+                if (entry.message.receiver == ModuleNames::toolStrip || depth > 0) {
                     return;
                 }
                 ++depth;

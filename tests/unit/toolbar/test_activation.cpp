@@ -15,10 +15,6 @@ namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
-const QString strip = QStringLiteral("Canvas_Tool_Strip.dll");
-const QString viewer = QStringLiteral("Canvas_Viewer.dll");
-const QString jobTree = QStringLiteral("Canvas_JobTree.dll");
-
 /// A click on a tool and the message that it sends.
 class Clicked {
 public:
@@ -32,7 +28,7 @@ public:
     const char* slot;
     int onCode = Sent::Unset;
     int offCode = Sent::Unset;
-    QString sender = QStringLiteral("Canvas_Tool_Strip.dll");
+    QString sender = ModuleNames::toolStrip;
 };
 
 // Measure and Add Feature, whose clicks open windows, have tests of their own.
@@ -43,7 +39,7 @@ const QList<Clicked>& clickedTools()
         Clicked(Tool::OpenPopView, "On_OpenPopView_Clicked").sends(Sent::OpenPopView),
         Clicked(Tool::FeatureHighLight, "On_FeatHighLight_Clicked")
             .sends(Sent::FeatureHighLight)
-            .underTheName("Canvas_Tool_Strip"),
+            .underTheName(ModuleNames::bareToolStrip),
         Clicked(Tool::DeleteFeature, "On_DeleteFeat_Clicked").sends(Sent::DeleteFeature),
         Clicked(Tool::MoveFeature, "On_MoveFeature_Clicked").sends(Sent::MoveFeature),
         Clicked(Tool::CopyFeature, "On_CopyFeature_Clicked").sends(Sent::CopyFeature),
@@ -141,7 +137,7 @@ private Q_SLOTS:
             const Recorder::Entry& sent = fixture.recorder.messages().last();
             QCOMPARE(sent.message.code, expected.onCode);
             QCOMPARE(sent.message.sender, expected.sender);
-            QCOMPARE(sent.message.receiver, viewer);
+            QCOMPARE(sent.message.receiver, ModuleNames::viewer);
             QCOMPARE(sent.message.extra, qint64(0));
             QVERIFY(sent.message.payload.isEmpty());
             QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
@@ -215,11 +211,11 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(),
                  (QVector<int>{Sent::AddFeatureStarted, Sent::AddFeature}));
         const auto first = fixture.recorder.messages();
-        QCOMPARE(first[0].message.receiver, jobTree);
-        QCOMPARE(first[0].message.sender, strip);
+        QCOMPARE(first[0].message.receiver, ModuleNames::jobTree);
+        QCOMPARE(first[0].message.sender, ModuleNames::toolStrip);
         QCOMPARE(first[0].sender, static_cast<void*>(&fixture.window));
-        QCOMPARE(first[1].message.receiver, viewer);
-        QCOMPARE(first[1].message.sender, strip);
+        QCOMPARE(first[1].message.receiver, ModuleNames::viewer);
+        QCOMPARE(first[1].message.sender, ModuleNames::toolStrip);
         QCOMPARE(first[1].sender, static_cast<void*>(&fixture.window));
         QCOMPARE(reselected.size(), 0);
         QCOMPARE(fixture.checked(), QList<Tool>{Tool::AddFeature});
