@@ -140,8 +140,8 @@ private Q_SLOTS:
         DialogFixture fixture;
         fixture.dialog->get_Special_TEXT(QString::fromUtf8("\u65e5\u671f|"));
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        Expect::holds(fixture,
-                      {Expect::record(RecordKeys::textContains, QString::fromUtf8("$$\u65e5\u671f|"))});
+        Expect::holds(fixture, {Expect::record(RecordKeys::textContains,
+                                               QString::fromUtf8("$$\u65e5\u671f|"))});
     }
 
     void theOtherTextSlotDoesNothing()
