@@ -42,6 +42,7 @@ class TestSteadyCanvas : public QObject {
         m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
         QString error;
         QVERIFY2(m_window->start(&error), qPrintable(error));
+        m_window->resize(1200, 860);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         QTest::qWait(50);
