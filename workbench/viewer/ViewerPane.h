@@ -14,7 +14,6 @@ class BoardView;
 class CanvasKeys;
 class EditActions;
 class CanvasBar;
-class EditActions;
 class FileActions;
 class Inspector;
 class PlaceTool;
@@ -80,7 +79,6 @@ private:
     FileActions* m_files;
     EditActions* m_edits;
     CanvasBar* m_bar;
-    EditActions* m_edits;
     SnapControls* m_snapping;
     CanvasKeys* m_keys;
     Inspector* m_inspector;

@@ -120,7 +120,8 @@ void WorkbenchWindow::addCanvasEntries()
     m_editMenu->addSeparator();
     m_editMenu->addActions(actions({"m_pSelectAllAct", "m_pDeselectAct", "m_pDeleteAct"}));
     QAction* const docks = m_viewMenu->actions().constFirst();
-    m_viewMenu->insertActions(docks, actions({"m_pFitAct", "m_pZoomInAct", "m_pZoomOutAct"}));
+    m_viewMenu->insertActions(
+        docks, actions({"m_pFitAct", "m_pZoomInAct", "m_pZoomOutAct", "m_pSnapAct"}));
     m_viewMenu->insertSeparator(docks);
     m_boardFiles = findChild<QObject*>(QStringLiteral("m_pBoardFiles"));
     connect(m_boardFiles, SIGNAL(changed()), this, SLOT(showTitle()));

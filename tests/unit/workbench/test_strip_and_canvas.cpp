@@ -90,8 +90,7 @@ private Q_SLOTS:
         CanvasHost::loadJobs(JOB_FILE);
         m_log = std::make_unique<MessageLog>();
         m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
-        QString error;
-        QVERIFY2(m_window->start(&error), qPrintable(error));
+        m_window->start();
         m_window->resize(1200, 860);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
