@@ -182,16 +182,6 @@ private Q_SLOTS:
         Expect::holds(fixture, {Expect::record(RecordKeys::angle, "45")});
     }
 
-    void failingTextHandler_data()
-    {
-        QTest::addColumn<bool>("isText");
-        QTest::addColumn<QString>("type");
-        for (const char* const type : {"m_pLineTB", "m_pPadTB", "m_pArcTB"}) {
-            QTest::addRow("a text, %s", type) << true << type;
-            QTest::addRow("an exception, %s", type) << false << type;
-        }
-    }
-
     void boxOfAReceiver_data()
     {
         QTest::addColumn<QString>("page");
@@ -209,7 +199,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, page);
         QFETCH(QString, field);
-        FocusFixture fixture;
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click(page);
         fixture.type(field, "12");
         fixture.recorder.clear();
@@ -219,10 +209,20 @@ private Q_SLOTS:
                 fixture.openHostBox();
             }
         });
-        fixture.key(Qt::Key_Return);
+        fixture.press(Qt::Key_Return);
         fixture.recorder.setOnMessage({});
         QCOMPARE(fixture.boxes.takeTexts(), QStringList{"Host|Elsewhere"});
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+    }
+
+    void failingTextHandler_data()
+    {
+        QTest::addColumn<bool>("isText");
+        QTest::addColumn<QString>("type");
+        for (const char* const type : {"m_pLineTB", "m_pPadTB", "m_pArcTB"}) {
+            QTest::addRow("a text, %s", type) << true << type;
+            QTest::addRow("an exception, %s", type) << false << type;
+        }
     }
 
     /// The host fails while a symbol is typed: one box for each letter, and the text stays.
