@@ -83,8 +83,8 @@ private Q_SLOTS:
         QCOMPARE(entries("m_pEditMenu"),
                  QStringList({"m_pUndoAct", "m_pRedoAct", "-", "m_pSelectAllAct", "m_pDeselectAct",
                               "m_pDeleteAct"}));
-        QCOMPARE(entries("m_pViewMenu").mid(0, 4),
-                 QStringList({"m_pFitAct", "m_pZoomInAct", "m_pZoomOutAct", "-"}));
+        QCOMPARE(entries("m_pViewMenu").mid(0, 5),
+                 QStringList({"m_pFitAct", "m_pZoomInAct", "m_pZoomOutAct", "m_pSnapAct", "-"}));
         QVERIFY(entries("m_pSendMenu").contains("m_pSend20000202Act"));
         QCOMPARE(entries("m_pHelpMenu"), QStringList({"m_pDocumentationAct", "m_pAboutAct"}));
     }

@@ -17,6 +17,7 @@ const QString geometryKey = QStringLiteral("window/geometry");
 const QString docksKey = QStringLiteral("window/docks");
 
 constexpr QSize roomy(1200, 860);
+constexpr QSize least(940, 500);  // shows every control of the bars; no desktop has less
 constexpr int shortScreen = 640;  // of less height strip and job tree do not stand over each other
 constexpr QPoint corner(20, 40);
 constexpr QPoint instanceOffset(36, 36);
@@ -27,11 +28,11 @@ constexpr QSize frame(8, 34);
 /// As much of `wanted` as the screen has room for, and inside it.
 QRect inside(const QRect& screen, const QPoint& position, const QSize& wanted)
 {
-    const QSize size = wanted.boundedTo(screen.size() - frame);
+    const QSize size = wanted.boundedTo(screen.size() - frame).expandedTo(least);
     const QPoint last = screen.bottomRight() - QPoint(size.width() + frame.width() - 1,
                                                       size.height() + frame.height() - 1);
-    return {QPoint(qBound(screen.left(), position.x(), last.x()),
-                   qBound(screen.top(), position.y(), last.y())),
+    return {QPoint(qMax(screen.left(), qMin(position.x(), last.x())),
+                   qMax(screen.top(), qMin(position.y(), last.y()))),
             size};
 }
 

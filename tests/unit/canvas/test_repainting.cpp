@@ -139,7 +139,7 @@ class TestRepainting : public QObject {
         }
     }
 
-    QString position(const CanvasFixture& fixture) const { return fixture.text("m_pPositionLB"); }
+    QString position(const CanvasFixture& fixture) const { return findNamed<QLineEdit>(*fixture.pane, "m_pPositionLE").text(); }
 
 private Q_SLOTS:
     void piecesMakeTheWhole_data()
