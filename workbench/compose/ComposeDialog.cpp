@@ -30,12 +30,12 @@ struct ExtraChoice {
 };
 const ExtraChoice extras[] = {
     {Extra::Number, QT_TRANSLATE_NOOP("ComposeDialog", "Number"), "0",
-     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is no whole number")},
+     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a whole number")},
     {Extra::String, QT_TRANSLATE_NOOP("ComposeDialog", "Text"), "demo", ""},
     {Extra::Symbols, QT_TRANSLATE_NOOP("ComposeDialog", "Symbols"), "1=r10,2=s20",
-     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is no list NUMBER=SYMBOL,...")},
+     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a list NUMBER=SYMBOL,...")},
     {Extra::Attributes, QT_TRANSLATE_NOOP("ComposeDialog", "Attributes"),
-     ".net=gnd,.smd=", QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is no list NAME=VALUE,...")},
+     ".net=gnd,.smd=", QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a list NAME=VALUE,...")},
 };
 
 int indexOf(Extra kind)
@@ -201,7 +201,7 @@ bool ComposeDialog::readCode(HostMessage* message)
     bool ok = false;
     const QString word = codeWord(m_pComposeCodeCMB);
     message->code = word.toInt(&ok);
-    const QString fault = ok ? QString() : tr("\"%1\" is no message code").arg(word);
+    const QString fault = ok ? QString() : tr("\"%1\" is not a message code").arg(word);
     FaultMark::set(m_pComposeCodeCMB, fault);
     showError(m_pComposeCodeErrorLB, fault);
     return ok;

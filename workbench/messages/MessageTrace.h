@@ -4,7 +4,7 @@
 
 #include <QFile>
 
-/// A trace file: one JSON object a line, written while the messages pass.
+/// A trace file: one JSON object per line, written while the messages pass.
 class MessageTrace {
 public:
     /// Empties `file`, or makes it. Throws a CanvasHost::FileError when it cannot be written.

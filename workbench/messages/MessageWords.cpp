@@ -47,7 +47,7 @@ int readCode(const QString& word)
     bool ok = false;
     const int code = word.toInt(&ok);
     if (!ok) {
-        throw FileError{{}, 0, QStringLiteral("\"%1\" is no message code").arg(word)};
+        throw FileError{{}, 0, QStringLiteral("\"%1\" is not a message code").arg(word)};
     }
     return code;
 }
@@ -151,7 +151,7 @@ HostMessage read(const QStringList& words)
             message.payload.insert(word.key, payloadValue(word.type, word.value, &ok));
         }
         if (!ok) {
-            throw FileError{{}, 0, QStringLiteral("\"%1\" is no entry of a message").arg(text)};
+            throw FileError{{}, 0, QStringLiteral("\"%1\" is not an entry of a message").arg(text)};
         }
     }
     // A wrong address would end the program, not the step.

@@ -64,7 +64,7 @@ StepActionList expectState(const QStringList& words)
     for (const QString& word : words.mid(1)) {
         const int equals = word.indexOf(QLatin1Char('='));
         if (equals < 1) {
-            malformed(QStringLiteral("\"%1\" is no state PROPERTY=VALUE").arg(word));
+            malformed(QStringLiteral("\"%1\" is not a state PROPERTY=VALUE").arg(word));
         }
         actions.push_back(expectProperty(words[0], word.left(equals), word.mid(equals + 1)));
     }
@@ -94,7 +94,7 @@ StepActionList box(const QStringList& words)
     BoxExpectation box;
     const int answer = BoxAnswers::words().indexOf(words[1]);
     if (answer < 0) {
-        malformed(QStringLiteral("\"%1\" is no answer; known are %2")
+        malformed(QStringLiteral("\"%1\" is not an answer; known are %2")
                       .arg(words[1], BoxAnswers::words().join(QStringLiteral(", "))));
     }
     box.answer = static_cast<BoxAnswer>(answer);

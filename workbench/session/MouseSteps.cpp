@@ -84,14 +84,14 @@ Extra readExtra(const MouseStep& step, const QString& word)
     if (step.extra == MouseStep::Button) {
         if (!buttons.contains(word)) {
             malformed(
-                QStringLiteral("\"%1\" is no button; known are left, middle, right").arg(word));
+                QStringLiteral("\"%1\" is not a button; known are left, middle, right").arg(word));
         }
         extra.button = buttons.value(word);
     } else if (step.extra == MouseStep::Notches) {
         bool ok = false;
         extra.notches = word.toDouble(&ok);
         if (!ok || !(std::abs(extra.notches) <= 1000)) {
-            malformed(QStringLiteral("\"%1\" is no number of notches").arg(word));
+            malformed(QStringLiteral("\"%1\" is not a number of notches").arg(word));
         }
     }
     return extra;
@@ -128,7 +128,7 @@ double length(const QString& word)
     double micrometres = 0;
     if (!BoardPlaces::readLength(word, &micrometres)) {
         malformed(
-            QStringLiteral("\"%1\" is no length (a number, and um, mm, mil or inch)").arg(word));
+            QStringLiteral("\"%1\" is not a length (a number, and um, mm, mil or inch)").arg(word));
     }
     return micrometres;
 }

@@ -48,7 +48,7 @@ void ViewerPane::receive(const PluginMetaData& message)
             startTool(m_tool, m_mode);  // what was begun, or asked for, is given up
             break;
         case Sent::MarkSettings:
-            m_canvas.say(tr("This canvas has nothing to set for marks."));
+            m_canvas.say(tr("This canvas has no settings for marks."));
             break;
         case Accepted::JobOpened:
             openStep(message);
@@ -156,7 +156,7 @@ void ViewerPane::startTool(const ToolSet::Row* row, qint64 mode)
     } else {
         m_canvas.setTool(row->create ? row->create(m_canvas, mode) : nullptr);
         if (!m_canvas.tool()) {
-            m_canvas.say(tr("This canvas does not perform \"%1\".").arg(ToolSet::text(*row)));
+            m_canvas.say(tr("This canvas does not support \"%1\".").arg(ToolSet::text(*row)));
         }
     }
 }

@@ -119,7 +119,8 @@ void ViewerPane::connectLine(ToolLine* line, BoardView* view)
             [line](const QPointF& point) { line->showPosition(point); });
     connect(line, &ToolLine::placeTyped, &m_canvas, &CanvasController::clickAt);
     connect(line, &ToolLine::noPlaceTyped, this, [this](const QString& text) {
-        m_canvas.say(tr("\"%1\" is no place (two numbers, and mil, inch, um or mm).").arg(text));
+        m_canvas.say(
+            tr("\"%1\" is not a position (two numbers, and mil, inch, um or mm).").arg(text));
     });
     connect(line, &ToolLine::finished, view, qOverload<>(&QWidget::setFocus));
 }
