@@ -212,7 +212,7 @@ private Q_SLOTS:
         QTest::newRow("picture") << "picture a.xyz\n"
                                  << "demo:1: \"a.xyz\" does not end";
         QTest::newRow("box") << "box refuse\n"
-                             << "demo:1: \"refuse\" is no answer";
+                             << "demo:1: \"refuse\" is not an answer";
     }
 
     void wrongSessions()
