@@ -9,9 +9,8 @@ namespace Pcb {
 
 /// A text as dark and light modules. The quiet zone is not part of it.
 struct Code {
-    QVector<QVector<bool>>
-        rows;         ///< from top to bottom, dark: true; one row for bars, none for no text
-    QString leftOut;  ///< the characters that the code cannot carry
+    QVector<QVector<bool>> rows;  ///< from top to bottom, true: dark; one for bars, none if empty
+    QString leftOut;              ///< the characters that the code cannot carry
 };
 
 /// Bars, or a square matrix. Plain Code 39 reads lower case as upper case, Code 128 C puts a 0

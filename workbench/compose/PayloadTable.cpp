@@ -13,7 +13,7 @@ namespace {
 
 enum Column { Key, Type, Value };
 
-/// A type of an entry, by the word that sessions have for it.
+/// A type of an entry, by the word that sessions use for it.
 struct TypeChoice {
     const char* word;
     const char* text;

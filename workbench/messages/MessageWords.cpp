@@ -59,7 +59,7 @@ bool take(const QString& text, Word* word)
         return false;
     }
     const QString left = text.left(equals);
-    // Keys may hold a colon themselves: the last one begins the type.
+    // Keys may hold a colon themselves: the last one starts the type.
     const int colon = left.lastIndexOf(QLatin1Char(':'));
     word->key = left.left(colon < 0 ? left.size() : colon);
     word->type = colon < 0 ? QString() : left.mid(colon + 1);
@@ -154,7 +154,7 @@ HostMessage read(const QStringList& words)
             throw FileError{{}, 0, QStringLiteral("\"%1\" is not an entry of a message").arg(text)};
         }
     }
-    // A wrong address would end the program, not the step.
+    // A wrong address would crash the program, not fail the step.
     const Extra wanted = wantedExtra(message.code);
     if (given != wanted) {
         throw FileError{

@@ -9,7 +9,7 @@
 namespace ExpectSteps {
 namespace {
 
-constexpr int settleTime = 60;  // milliseconds in which a late message would have come
+constexpr int settleTime = 60;  // milliseconds in which a late message would have arrived
 
 QString fault(const QString& wanted, const QString& got)
 {

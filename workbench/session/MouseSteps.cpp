@@ -17,7 +17,7 @@ namespace {
 
 using StepReach::Target;
 
-/// What a step says beside its place.
+/// What a step says besides its place.
 struct Extra {
     Qt::MouseButton button = Qt::LeftButton;
     double notches = 0;
@@ -43,7 +43,7 @@ constexpr MouseStep steps[] = {
      }},
     {"rightclick", "X Y [ENTRY]", MouseStep::Entry, MouseStep::OrMiddle,
      [](QWidget* widget, const QPoint& position, const Extra&) {
-         // A menu opens where the mouse stands.
+         // A menu opens where the mouse is.
          QCursor::setPos(widget->mapToGlobal(position));
          InputEvents::click(widget, position, Qt::RightButton);
      }},
@@ -97,7 +97,7 @@ Extra readExtra(const MouseStep& step, const QString& word)
     return extra;
 }
 
-/// `word` is what stands beside the place, if anything does.
+/// `word` is what the step says besides the place, if anything.
 StepActionList actionsOf(const MouseStep& step, Target target, const QString& word)
 {
     target.mayLeave = step.place == MouseStep::Anywhere;
@@ -106,7 +106,7 @@ StepActionList actionsOf(const MouseStep& step, Target target, const QString& wo
         act(place.widget, place.position, extra);
     }};
     if (step.extra == MouseStep::Entry) {
-        // The middle of a widget is clicked for its menu, a place perhaps for something else.
+        // A click on the middle of a widget is for its menu, on a place perhaps for something else.
         actions.push_back(word.isEmpty() ? WidgetSteps::dismissMenu(target.kind == Target::Centre)
                                          : WidgetSteps::pickEntry(word));
     }
