@@ -76,7 +76,7 @@ const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("ver
 const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
                                     QStringLiteral("Show this help."));
 
-/// The options that QApplication takes for itself, and whether a value follows.
+/// The options that QApplication itself takes, and whether a value follows.
 const QHash<QString, bool> qtOptions{
     {QStringLiteral("-display"), true},       {QStringLiteral("-geometry"), true},
     {QStringLiteral("-name"), true},          {QStringLiteral("-platform"), true},
@@ -218,7 +218,7 @@ Options Options::parse(const QStringList& arguments)
 
 Options Options::ofProgram(int argc, char* argv[])
 {
-    // Before the program has a screen: a wrong option is told without one as well.
+    // Before the program has a screen: wrong options are reported without one as well.
     const QCoreApplication program(argc, argv);
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {

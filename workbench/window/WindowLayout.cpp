@@ -17,7 +17,7 @@ const QString geometryKey = QStringLiteral("window/geometry");
 const QString docksKey = QStringLiteral("window/docks");
 
 constexpr QSize roomy(1200, 860);
-constexpr int shortScreen = 640;  // of less height strip and job tree do not stand over each other
+constexpr int shortScreen = 640;  // less height: strip and job tree share tabs
 constexpr QPoint corner(20, 40);
 constexpr QPoint instanceOffset(36, 36);
 constexpr int mostInstances = 6;
@@ -44,7 +44,7 @@ WindowLayout::WindowLayout(QMainWindow* window, const Docks& docks)
     m_window->addDockWidget(Qt::LeftDockWidgetArea, docks.jobTree);
     m_window->addDockWidget(Qt::BottomDockWidgetArea, docks.monitor);
     const int height = m_window->screen()->availableGeometry().height() - frame.height();
-    // Where the height does not do for all, the strip has the whole of it.
+    // If the height is not enough for all, the strip gets the whole of it.
     m_window->setCorner(Qt::BottomLeftCorner, height < roomy.height() ? Qt::LeftDockWidgetArea
                                                                       : Qt::BottomDockWidgetArea);
     if (height < shortScreen) {

@@ -108,7 +108,7 @@ void askCanvas(QWidget* window, const char* method, const QString& file)
     }
 }
 
-/// What is left to write when everything was played.
+/// Writes what the options ask for once everything has been played.
 void writeOutputs(const Options& options, QWidget* window)
 {
     askCanvas(window, "exportBoard", options.exportFile);

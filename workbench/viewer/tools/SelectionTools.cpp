@@ -5,8 +5,8 @@
 
 namespace {
 
-/// Both together where the selection is extended, else the new ones alone. What is picked again
-/// one by one is given up.
+/// Both together where the selection is extended, else the new ones alone. A single feature
+/// that is picked again is deselected.
 Pcb::Indexes joined(const Pcb::Indexes& before, const Pcb::Indexes& picked, bool extends)
 {
     if (!extends) {

@@ -101,7 +101,7 @@ void PickTool::press(const QPointF& point, bool /*extends*/)
 {
     const int feature = canvas().featureAt(point);
     if (feature >= 0) {
-        // The listener may put another tool into this one's place.
+        // The listener may replace this tool by another.
         const Listener listener = m_listener;
         listener(feature);
     }
