@@ -117,7 +117,7 @@ void GerberWriter::draw(double width, const QPolygonF& points)
 
 void GerberWriter::drawArc(double width, const ArcPlace& arc)
 {
-    // With little or nothing between its ends, readers take a full circle for an empty arc.
+    // With little or nothing between the ends, some readers draw a full circle as nothing.
     const int parts = std::abs(arc.sweep) > 270 ? 2 : 1;
     QPolygonF ends;
     for (int part = 0; part <= parts; ++part) {

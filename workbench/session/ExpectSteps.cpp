@@ -85,7 +85,7 @@ StepActionList expect(const QStringList& words)
     if (words[1] == QLatin1String("state")) {
         return expectState(rest);
     }
-    malformed(QStringLiteral("\"%1\" cannot be expected; known are message, nothing, state")
+    malformed(QStringLiteral("\"%1\" cannot be expected; choose from message, nothing, state")
                   .arg(words[1]));
 }
 
@@ -94,7 +94,7 @@ StepActionList box(const QStringList& words)
     BoxExpectation box;
     const int answer = BoxAnswers::words().indexOf(words[1]);
     if (answer < 0) {
-        malformed(QStringLiteral("\"%1\" is not an answer; known are %2")
+        malformed(QStringLiteral("\"%1\" is not an answer; choose from %2")
                       .arg(words[1], BoxAnswers::words().join(QStringLiteral(", "))));
     }
     box.answer = static_cast<BoxAnswer>(answer);

@@ -83,8 +83,8 @@ Extra readExtra(const MouseStep& step, const QString& word)
     Extra extra;
     if (step.extra == MouseStep::Button) {
         if (!buttons.contains(word)) {
-            malformed(
-                QStringLiteral("\"%1\" is not a button; known are left, middle, right").arg(word));
+            malformed(QStringLiteral("\"%1\" is not a button; choose from left, middle, right")
+                          .arg(word));
         }
         extra.button = buttons.value(word);
     } else if (step.extra == MouseStep::Notches) {
@@ -158,7 +158,7 @@ StepActionList onBoard(const QStringList& words)
         for (const MouseStep& known : steps) {
             names.append(QLatin1String(known.name));
         }
-        malformed(QStringLiteral("unknown step \"%1\" of the canvas; known are %2")
+        malformed(QStringLiteral("unknown step \"%1\" of the canvas; choose from %2")
                       .arg(words[1], names.join(QStringLiteral(", "))));
     }
     const QPointF place(length(words[2]), length(words[3]));

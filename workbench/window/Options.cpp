@@ -121,7 +121,7 @@ const Choice& choose(const QCommandLineParser& parser, const QCommandLineOption&
     for (const Choice& choice : choices) {
         names.append(QLatin1String(choice.*key));
     }
-    refuse(QStringLiteral("unknown %1 \"%2\"; known are %3")
+    refuse(QStringLiteral("unknown %1 \"%2\"; choose from %3")
                .arg(option.names().constFirst(), name, names.join(QStringLiteral(", "))));
 }
 
