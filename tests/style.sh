@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Every source file is formatted as .clang-format says, and none grows beyond 500 lines. All are plain
-# ASCII, which every compiler reads alike: other letters stand in translations/, or as \uXXXX.
+# ASCII, which every compiler reads alike: other letters are in translations/, or as \uXXXX.
 set -u
 cd "$1" || exit 1
 mapfile -t files < <(find . \( -path ./build -o -path ./.git \) -prune -o \
     \( -name '*.cpp' -o -name '*.h' \) -print)
 [ "${#files[@]}" -gt 0 ] || { echo "no source files"; exit 1; }
-# Phrases that were replaced by plainer ones, in documents and in the module's and the host's sources.
-if grep -rnIiFf tests/phrases.txt README.md CONTRIBUTING.md CHANGELOG.md docs workbench/docs \
-    plugin toolbar addfeature dimensions host; then
+# Phrases that were replaced by plainer ones, in documents and in sources of module, host, workbench.
+if grep -rnIiFf tests/phrases.txt README.md CONTRIBUTING.md CHANGELOG.md docs \
+    plugin toolbar addfeature dimensions host workbench packaging; then
     echo "see tests/phrases.txt"
     exit 1
 fi

@@ -98,7 +98,7 @@
         <translation>数字</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number</source>
+        <source>&quot;%1&quot; is not a whole number</source>
         <translation>“%1”不是整数</translation>
     </message>
     <message>
@@ -110,7 +110,7 @@
         <translation>符号</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no list NUMBER=SYMBOL,...</source>
+        <source>&quot;%1&quot; is not a list NUMBER=SYMBOL,...</source>
         <translation>“%1”不是“编号=符号,…”形式的列表</translation>
     </message>
     <message>
@@ -118,11 +118,11 @@
         <translation>属性</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no list NAME=VALUE,...</source>
+        <source>&quot;%1&quot; is not a list NAME=VALUE,...</source>
         <translation>“%1”不是“名称=值,…”形式的列表</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no message code</source>
+        <source>&quot;%1&quot; is not a message code</source>
         <translation>“%1”不是消息代码</translation>
     </message>
     <message>
@@ -207,7 +207,7 @@
 <context>
     <name>EditTools</name>
     <message>
-        <source>There is no feature.</source>
+        <source>No feature here.</source>
         <translation>此处没有图元。</translation>
     </message>
     <message>
@@ -243,7 +243,7 @@
         <translation>单击要删除的图元。</translation>
     </message>
     <message>
-        <source>Click the part of a line that is to go.</source>
+        <source>Click the part of a line to delete.</source>
         <translation>单击线上要删除的部分。</translation>
     </message>
     <message>
@@ -259,7 +259,7 @@
         <translation>单击要镜像的图元。</translation>
     </message>
     <message>
-        <source>Click the place where a line is to break.</source>
+        <source>Click a line where it should break.</source>
         <translation>单击线上要打断的位置。</translation>
     </message>
     <message>
@@ -271,7 +271,7 @@
         <translation>复制图元</translation>
     </message>
     <message>
-        <source>Click the place where it is to go; a right click gives it up.</source>
+        <source>Click the new position; a right click cancels.</source>
         <translation>单击目标位置；右键单击取消。</translation>
     </message>
     <message>
@@ -295,15 +295,15 @@
         <translation>拉伸线</translation>
     </message>
     <message>
-        <source>Click near the end of a line that is to move.</source>
+        <source>Click near the line end to move.</source>
         <translation>单击要移动的线端点附近。</translation>
     </message>
     <message>
-        <source>Click the direction that it is to have.</source>
+        <source>Click the new direction.</source>
         <translation>单击线的新方向。</translation>
     </message>
     <message>
-        <source>Click the place of the end.</source>
+        <source>Click the new position of the end.</source>
         <translation>单击端点的新位置。</translation>
     </message>
 </context>
@@ -550,11 +550,11 @@
         <translation>双击打开一个步骤。</translation>
     </message>
     <message>
-        <source>Add Feature was not started yet.</source>
+        <source>Add Feature has not been started yet.</source>
         <translation>尚未启动添加图元。</translation>
     </message>
     <message numerus="yes">
-        <source>Add Feature was started %n time(s).</source>
+        <source>Add Feature has been started %n time(s).</source>
         <translation>
             <numerusform>添加图元已启动 %n 次。</numerusform>
         </translation>
@@ -1066,7 +1066,7 @@
         <translation>整数</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number</source>
+        <source>&quot;%1&quot; is not a whole number</source>
         <translation>“%1”不是整数</translation>
     </message>
     <message>
@@ -1074,7 +1074,7 @@
         <translation>小数</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number</source>
+        <source>&quot;%1&quot; is not a number</source>
         <translation>“%1”不是数字</translation>
     </message>
     <message>
@@ -1090,7 +1090,7 @@
         <translation>缺少键</translation>
     </message>
     <message>
-        <source>the key &quot;%1&quot; stands there twice</source>
+        <source>the key &quot;%1&quot; appears twice</source>
         <translation>键“%1”出现了两次</translation>
     </message>
     <message>
@@ -1121,7 +1121,7 @@
         <translation>单击下一点；右键单击结束。</translation>
     </message>
     <message>
-        <source>Click the next point; a right click gives it up.</source>
+        <source>Click the next point; a right click cancels.</source>
         <translation>单击下一点；右键单击取消。</translation>
     </message>
     <message>
@@ -1184,11 +1184,11 @@
         <translation>取消选择</translation>
     </message>
     <message>
-        <source>Click a feature to select it; with Ctrl one more.</source>
+        <source>Click a feature to select it; hold Ctrl to add one.</source>
         <translation>单击以选择图元；按住 Ctrl 可多选。</translation>
     </message>
     <message>
-        <source>Click a feature to select all that touches it.</source>
+        <source>Click a feature to select everything that touches it.</source>
         <translation>单击图元以选择与其相连的全部图元。</translation>
     </message>
     <message>
@@ -1251,11 +1251,11 @@
         <translation>捕捉网格的间距</translation>
     </message>
     <message>
-        <source>Step of the grid</source>
+        <source>Grid step</source>
         <translation>网格间距</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no step of a grid (%2 to %3).</source>
+        <source>&quot;%1&quot; is not a grid step (%2 to %3).</source>
         <translation>“%1”不是网格间距（%2 至 %3）。</translation>
     </message>
 </context>
@@ -1419,7 +1419,7 @@
         <translation>高亮</translation>
     </message>
     <message>
-        <source>Click a feature to highlight its net; once more to end that.</source>
+        <source>Click a feature to highlight its net, and again to end it.</source>
         <translation>单击图元以高亮其网络；再次单击取消。</translation>
     </message>
     <message>
@@ -1435,7 +1435,7 @@
         <translation>距离 %1。</translation>
     </message>
     <message>
-        <source>Take marks away</source>
+        <source>Remove marks</source>
         <translation>清除标记</translation>
     </message>
     <message>
@@ -1443,7 +1443,7 @@
         <translation>单击要标记的第二点。</translation>
     </message>
     <message>
-        <source>Click the first point to mark; a right click takes the marks away.</source>
+        <source>Click the first point to mark; a right click removes the marks.</source>
         <translation>单击要标记的第一点；右键单击清除标记。</translation>
     </message>
     <message>
@@ -1478,11 +1478,11 @@
         <translation>点击图元以取得其属性。</translation>
     </message>
     <message>
-        <source>This canvas has nothing to set for marks.</source>
+        <source>This canvas has no settings for marks.</source>
         <translation>此画布没有标记设置。</translation>
     </message>
     <message>
-        <source>This canvas does not perform &quot;%1&quot;.</source>
+        <source>This canvas does not support &quot;%1&quot;.</source>
         <translation>此画布不支持“%1”。</translation>
     </message>
     <message>
@@ -1498,7 +1498,7 @@
         <translation>第二视图</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place (two numbers, and mil, inch, um or mm).</source>
+        <source>&quot;%1&quot; is not a position (two numbers, and mil, inch, um or mm).</source>
         <translation>“%1”不是位置（两个数，以及 mil、inch、um 或 mm）。</translation>
     </message>
 </context>
@@ -1545,7 +1545,7 @@
         <translation>EQ 工具(&amp;E)</translation>
     </message>
     <message>
-        <source>Whether the host offers the EQ tool; the strip is made anew.</source>
+        <source>Whether the host offers the EQ tool; the strip is recreated.</source>
         <translation>主程序是否提供 EQ 工具；工具条会重新创建。</translation>
     </message>
     <message>

@@ -65,7 +65,7 @@ expect 1 "$dir/state.session:1: expected checked=\"true\" of \"m_pMarkTB\", got 
 expect 1 "$dir/box.session:5: expected a box of the title \"x\", got \"Illegal Input\"" \
     --play "$dir/box.session"
 expect 2 "$dir/no/a.session" --record "$dir/no/a.session"
-expect 2 "a session is not recorded over the one that is played" \
+expect 2 "cannot record over the session that is played" \
     --play "$dir/state.session" --record "$dir/state.session"
 grep -q expect "$dir/state.session" || {
     echo "the session was recorded over"

@@ -18,7 +18,7 @@ Geometry made(const Brush& brush, const QPointF& from, const QPointF& to, const 
     return arcGeometry(brush.symbol, from, to, centre, brush.clockwise);
 }
 
-/// From `start` around `centre`, `way` degrees in the turn of the brush.
+/// From `start` around `centre`, `way` degrees in the brush's direction.
 Arc turning(const Brush& brush, const QPointF& start, const QPointF& centre, double way)
 {
     if (start == centre || way <= 0) {
@@ -28,7 +28,7 @@ Arc turning(const Brush& brush, const QPointF& start, const QPointF& centre, dou
     return made(brush, start, end, centre);
 }
 
-/// From `start` to `end` over `way` degrees in the turn of the brush.
+/// From `start` to `end` over `way` degrees in the brush's direction.
 Arc spanning(const Brush& brush, const QPointF& start, const QPointF& end, double way)
 {
     const double half = distance(start, end) / 2;

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// The ways to say an arc or a circle with clicks; Placement.h tells what each click means.
+/// The ways to define an arc or a circle by clicks; Placement.h says what each click means.
 namespace Pcb {
 
 constexpr int clicksOfArc = 3;

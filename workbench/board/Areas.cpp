@@ -46,8 +46,8 @@ QList<QVector<QPolygonF>> groupsApart(const QVector<QPolygonF>& outlines)
 {
     struct Part {
         QPolygonF outline;
-        QRectF box;     // and a unit around it
-        size_t leader;  // another part of the group; itself for the one that stands for the group
+        QRectF box;     // with a margin of one unit
+        size_t leader;  // another part of the group; itself for the group's representative
     };
     constexpr double unit = 1 / unitsOfMicrometre;
     std::vector<Part> parts;
@@ -63,7 +63,7 @@ QList<QVector<QPolygonF>> groupsApart(const QVector<QPolygonF>& outlines)
         }
         return i;
     };
-    std::vector<size_t> reaching;  // those before that reach as far right as the next one begins
+    std::vector<size_t> reaching;  // earlier ones that reach to the left edge of the next
     for (size_t i = 0; i < parts.size(); ++i) {
         const QRectF& box = parts[i].box;
         const auto isPassed = [&](size_t k) { return parts[k].box.right() < box.left(); };
@@ -88,9 +88,9 @@ bool isConvex(const QPolygonF& outline)
     return signedArea(outline) >= signedArea(convexHull(outline)) * (1 - 1e-9);
 }
 
-/// What covers the same with fewer edges: neighbours, of outlines sorted from left to right, are
-/// united first, which is much faster than all at once. Wrong for outlines that wind around
-/// anything clockwise.
+/// The same area with fewer edges. Outlines are sorted from left to right and neighbours united
+/// first, which is much faster than all at once. Wrong for outlines that wind clockwise around
+/// anything.
 ClipperLib::Paths unitedByStrips(const ClipperLib::Paths& outlines)
 {
     constexpr size_t outlinesOfStrip = 300;
@@ -132,7 +132,7 @@ QVector<Island> islandsOf(const ClipperLib::PolyTree& tree)
     return found;
 }
 
-/// Where the outline is met first on the way from `point` to the left: the edge's index and place.
+/// The outline's nearest point to the left of `point`: the index of its edge, and the point.
 std::pair<int, QPointF> firstToTheLeft(const QPolygonF& polygon, const QPointF& point)
 {
     int found = 0;
@@ -205,7 +205,7 @@ QPolygonF cutOpen(const Island& island)
                              [](const QPointF& a, const QPointF& b) { return a.x() < b.x(); });
         holes.push_back({&hole, static_cast<int>(least - hole.begin())});
     }
-    // What a cut to the left meets is the outline or a hole that was joined before.
+    // A cut to the left meets the outline or a hole that was joined before.
     std::sort(holes.begin(), holes.end(),
               [](const Hole& a, const Hole& b) { return a.x() < b.x(); });
     QPolygonF outline = island.outline;

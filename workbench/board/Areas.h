@@ -13,8 +13,8 @@ struct Island {
     QVector<QPolygonF> holes;  ///< clockwise
 };
 
-/// A path taken apart, its corners on whole nanometres. Islands within holes are islands of their
-/// own.
+/// A path split into islands, with corners on whole nanometres. Islands within holes are separate
+/// islands.
 QVector<Island> islands(const QPainterPath& path);
 
 /// One closed outline for an island: each hole is joined by a horizontal cut, as a Gerber region

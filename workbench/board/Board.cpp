@@ -19,7 +19,7 @@ const Feature& at(const Board& board, int index)
     return board.features[static_cast<size_t>(index)];
 }
 
-/// Every feature that is reached from `seeds` over pairs that `isJoined` accepts; ascending.
+/// Every feature that is reached from `seeds` through pairs that `isJoined` accepts; ascending.
 template <typename IsJoined>
 Indexes reached(const Board& board, const Indexes& seeds, IsJoined isJoined)
 {

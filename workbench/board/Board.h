@@ -10,7 +10,7 @@
 namespace Pcb {
 
 /// One layer of a step: features in the order in which they were drawn, later ones on top.
-/// Negative ones cut out of what lies below them.
+/// Negative ones cut holes into the features below them.
 struct Board {
     QString job;
     QString step;
@@ -22,7 +22,7 @@ struct Board {
 
 using Indexes = std::vector<int>;  ///< of features; ascending, each once
 
-/// Outline and features; invalid for a board of nothing.
+/// Outline and features; invalid for an empty board.
 QRectF boundsOf(const Board& board);
 
 /// The topmost of `candidates` at `point` or no farther from it than `tolerance`; -1: none.
@@ -31,14 +31,14 @@ int featureAt(const Board& board, const Indexes& candidates, const QPointF& poin
 
 bool touch(const Feature& a, const Feature& b);
 
-/// The positive features that touch the one given, directly or over others, with itself. A
-/// negative one is alone.
+/// The given feature and all positive ones that touch it, directly or through others. A negative
+/// one is alone.
 Indexes touching(const Board& board, int index);
 
-/// As touching(), and in the same way from every feature that has one of their net names.
+/// As touching(), and also from every feature that has one of their net names.
 Indexes netOf(const Board& board, int index);
 
-/// The lines and arcs that are joined end to end with the one given, within `tolerance`.
+/// The lines and arcs that are joined end to end with the given one, within `tolerance`.
 Indexes polylineOf(const Board& board, int index, double tolerance = 1);
 
 /// The features that lie wholly in the area.

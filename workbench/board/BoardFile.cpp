@@ -37,7 +37,7 @@ Board boardFromJson(const CanvasHost::JsonNode& root)
 
 QByteArray toJson(const Board& board)
 {
-    // A line for each feature: what is wrong in one is found, and what changed in one is seen.
+    // One line per feature, so that errors have a useful line number and diffs are readable.
     QByteArray text = "{\n  \"format\": " + QByteArray::number(supportedFormat);
     text += ",\n  \"job\": " + compact(board.job);
     text += ",\n  \"step\": " + compact(board.step);

@@ -10,10 +10,10 @@ namespace Pcb {
 
 QByteArray toJson(const Board& board);
 
-/// Throws a FileError for a text that is no board; `file` is what it names.
+/// Throws a FileError for a text that is not a board; `file` is the name in the error.
 Board fromJson(const QByteArray& text, const QString& file = {});
 
-/// Throw a FileError. A file is written whole, or the one that is there stays.
+/// Throw a FileError. A file is written completely, or the existing one stays.
 Board readBoardFile(const QString& file);
 void writeBoardFile(const Board& board, const QString& file);
 

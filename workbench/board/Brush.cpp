@@ -12,7 +12,7 @@ namespace {
 
 constexpr double longestLength = 1e7;  // micrometres
 
-/// A record whose entries are read as text or number, whatever they are.
+/// A record whose entries are read as text or number, whatever their type.
 class Reader {
 public:
     explicit Reader(const QMap<QString, QVariant>& record) : m_record(record) {}
@@ -60,7 +60,7 @@ public:
         return static_cast<Value>(choice(key, static_cast<int>(last), static_cast<int>(otherwise)));
     }
 
-    /// Whether the entry holds `named`, in whichever form; `otherwise` where it is no number.
+    /// Whether the entry holds `named`, in whichever form; `otherwise` if it is not a number.
     bool is(const QString& key, const QString& named, bool otherwise) const
     {
         const std::optional<double> value = number(key);

@@ -32,7 +32,7 @@ enum class CircleMethod { CenterRadius = 1, CenterPoint, PointCenter, ThreePoint
 
 constexpr int mostPads = 50;  ///< of an array, in each direction
 
-/// What the next clicks draw: a feature parameter record, read. Lengths are micrometres, angles
+/// What the next clicks draw: a parsed feature parameter record. Lengths are micrometres, angles
 /// degrees counterclockwise.
 struct Brush {
     Kind kind = Kind::Line;
@@ -74,8 +74,8 @@ struct Brush {
 };
 
 /// Reads a record. What is missing, of a wrong type, unknown or absurd (infinite, beyond ten
-/// metres, a count below 1 or above `mostPads`, a size of nothing) takes the value of an untouched
-/// `Brush`. `attributes` count only where the record says that there are any.
+/// metres, a count below 1 or above `mostPads`, a size of 0) gets the value of a default `Brush`.
+/// `attributes` count only if the record says that there are any.
 Brush readBrush(const QMap<QString, QVariant>& record, const Attributes& attributes = {});
 
 }  // namespace Pcb

@@ -11,7 +11,7 @@ namespace {
 
 using ZintSymbol = std::unique_ptr<zint_symbol, void (*)(zint_symbol*)>;
 
-/// Without the largest, of whose order of bytes readers have two opinions.
+/// Without the largest, whose byte order readers disagree on.
 constexpr int matrixSides[] = {10, 12, 14, 16, 18, 20, 22, 24, 26,  32,  36, 40,
                                44, 48, 52, 64, 72, 80, 88, 96, 104, 120, 132};
 
@@ -25,7 +25,7 @@ int symbologyOf(BarcodeType type)
         case BarcodeType::Code128B:
             return BARCODE_CODE128B;
         case BarcodeType::Code128C:
-            return BARCODE_CODE128;  // digits of an even number become pairs
+            return BARCODE_CODE128;  // an even number of digits becomes pairs
         case BarcodeType::Matrix:
             break;
     }
@@ -47,7 +47,7 @@ bool isKnown(BarcodeType type, QChar character)
     }
 }
 
-/// What the library calls that size of matrix; 0: the least that holds the text.
+/// The library's option for that matrix size; 0: the smallest that holds the text.
 int matrixOption(const QString& size)
 {
     const int side =

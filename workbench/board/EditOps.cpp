@@ -8,7 +8,7 @@
 namespace Pcb {
 namespace {
 
-constexpr double nothing = 1e-6;  // micrometres: shorter is no line
+constexpr double nothing = 1e-6;  // micrometres: anything shorter is not a line
 
 bool hasEnds(const Feature& feature)
 {
@@ -70,7 +70,7 @@ Features brokenArc(const Feature& feature, const QPointF& point)
             withEnds(feature, place, geometry.points.at(1))};
 }
 
-/// Feet on a segment: part 0 is its first end, 1 its second.
+/// The point's projection on the line: 0 at its first end, 1 at its second.
 double partOfLine(const Geometry& line, const QPointF& point)
 {
     const QPointF way = line.points.at(1) - line.points.at(0);
@@ -158,7 +158,7 @@ bool exists(const Board& board, int index)
     return index >= 0 && index < static_cast<int>(board.features.size());
 }
 
-/// One more feature is replaced; neighbours make one splice.
+/// Replaces one more feature; neighbours share one splice.
 void replace(Edit& edit, int index, const Features& by)
 {
     if (edit.empty() || edit.back().index + edit.back().count != index) {

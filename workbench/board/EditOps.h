@@ -23,23 +23,23 @@ enum class End { First, Second };
 End nearerEnd(const Feature& feature, const QPointF& point);
 
 /// A line of the same length from its fixed end, in the direction of `degrees` seen from there.
-/// Nothing for what is no line.
+/// Nothing for other kinds.
 std::optional<Feature> withAngle(const Feature& line, double degrees, End fixed);
 
 /// A line whose `end` was pulled to `to`; an arc keeps its circle and takes the direction of `to`.
-/// Nothing for other kinds, and where nothing would be left of a line.
+/// Nothing for other kinds, or if nothing would be left of the line.
 std::optional<Feature> stretched(const Feature& feature, End end, const QPointF& to);
 
-/// As stretched(), the line keeping its direction: `to` counts by its foot on the line.
+/// As stretched(), but the line keeps its direction: `to` is projected onto it.
 std::optional<Feature> lengthened(const Feature& line, End end, const QPointF& to);
 
-/// The two parts of a line or an arc (one of a full circle) broken at the place of it that is
-/// nearest to `point`; empty for other kinds and for a break at an end.
+/// The two parts of a line or an arc (one of a full circle) broken at its place nearest to
+/// `point`; empty for other kinds and for a break at an end.
 Features broken(const Feature& feature, const QPointF& point);
 
 /// What is left of a line when the part at `point` is deleted, up to the nearest places on either
-/// side where the line crosses another line or arc, a pad or a surface. Nothing crossing: nothing
-/// is left. Nothing for what is no line.
+/// side where the line crosses another line or arc, a pad or a surface. Empty if nothing crosses
+/// it; nothing for other kinds.
 std::optional<Features> deletedToIntersection(const Board& board, int index, const QPointF& point);
 
 /// An edit as what it changes of a board's features.

@@ -25,7 +25,7 @@ bool isFinite(const QPointF& point)
     return std::isfinite(point.x()) && std::isfinite(point.y());
 }
 
-/// What a shape covers that is moved from one place to another, as if it were convex.
+/// The area swept by a shape that moves from one place to another, as if it were convex.
 QPainterPath swept(const QPainterPath& shape, const QPointF& from, const QPointF& to)
 {
     QPolygonF corners;
@@ -49,7 +49,7 @@ QPainterPath lineArea(const Geometry& line)
     return swept(symbolShape(symbol), line.points.at(0), line.points.at(1));
 }
 
-/// A strip of ring between two round ends. Where the pen reaches beyond the centre, the inner
+/// A ring segment with two round ends. Where the pen reaches beyond the centre, the inner
 /// radius is negative: the edge runs on the other side of it, within what the ends cover.
 QPainterPath arcStrip(const ArcPlace& arc, double pen)
 {

@@ -45,7 +45,7 @@ struct Geometry {
 /// How many points a geometry of this kind must have; surfaces that are not round may have more.
 int leastPoints(const Geometry& geometry);
 
-/// A feature of the board: a value that does not change once it is made. Copies share all of it.
+/// A feature of the board: an immutable value. Copies share its data.
 class Feature {
 public:
     Feature();
@@ -60,8 +60,8 @@ public:
     /// The net it belongs to, from the attribute ".net"; empty where there is none.
     QString net() const;
 
-    /// What it covers, whatever its polarity, by the path's fill rule. Empty for a geometry of too
-    /// few points.
+    /// What it covers, whatever its polarity, by the path's fill rule. Empty for a geometry with
+    /// too few points.
     const QPainterPath& area() const { return m_data->area; }
     const QRectF& bounds() const { return m_data->bounds; }
 
@@ -85,10 +85,10 @@ using Features = std::vector<Feature>;
 /// The line along which the pen of a line or an arc runs; empty for other kinds.
 QPainterPath middleOf(const Geometry& geometry);
 
-/// The width of the round pen that draws arcs with a symbol: the lesser of its sizes.
+/// The width of the round pen that draws arcs with a symbol: the smaller of its sizes.
 double arcPenWidth(const QString& symbol);
 
-/// Where an arc lies: its radius is that of the first end, the second end is brought onto it.
+/// Where an arc lies: its radius is that of the first end, the second end is moved onto it.
 struct ArcPlace {
     QPointF centre;
     double radius = 0;

@@ -17,7 +17,7 @@ const QStringList shapes = {QStringLiteral("polygon"), QStringLiteral("circle")}
 
 constexpr double largestScale = 100;
 
-/// What each kind has beside its kind, polarity, points and attributes.
+/// The keys of each kind besides its kind, polarity, points and attributes.
 struct KindKeys {
     Kind kind;
     bool symbol;
@@ -175,7 +175,7 @@ QJsonObject toJsonFeature(const Feature& feature)
 Feature featureFromJson(const JsonNode& node)
 {
     Geometry geometry;
-    // The kind decides which keys there are; who is no object has none.
+    // The kind decides which keys there are; anything but an object has none.
     node.members();
     geometry.kind = static_cast<Kind>(node.member(QStringLiteral("kind")).choice(kinds));
     const KindKeys& keys = keysOf(geometry.kind);

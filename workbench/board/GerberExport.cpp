@@ -28,7 +28,7 @@ bool isQuarterTurn(double degrees)
     return std::fmod(degrees, 90) == 0;
 }
 
-/// The pad as one of the round or straight apertures; empty where it is none of them.
+/// The pad as one of the round or straight apertures; empty for other shapes.
 QByteArray plainAperture(const Geometry& pad, const Symbol& symbol)
 {
     const double width = symbol.width * std::abs(pad.xScale);
@@ -58,7 +58,7 @@ QByteArray plainAperture(const Geometry& pad, const Symbol& symbol)
                    : GerberWriter::aperture(kind, width, height);
 }
 
-/// Readers of the format need not take more corners than this in a macro.
+/// Readers of the format need not accept more corners than this in a macro.
 constexpr int mostMacroCorners = 40;
 
 void writePad(GerberWriter& writer, const Geometry& pad, const QPainterPath& area)

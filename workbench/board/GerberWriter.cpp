@@ -117,7 +117,7 @@ void GerberWriter::draw(double width, const QPolygonF& points)
 
 void GerberWriter::drawArc(double width, const ArcPlace& arc)
 {
-    // Where little or nothing lies between the ends, readers take a whole circle for none.
+    // With little or nothing between the ends, some readers draw a full circle as nothing.
     const int parts = std::abs(arc.sweep) > 270 ? 2 : 1;
     QPolygonF ends;
     for (int part = 0; part <= parts; ++part) {
@@ -155,7 +155,7 @@ void GerberWriter::region(const QPainterPath& area)
 
 QByteArray GerberWriter::file() const
 {
-    // Readers take a file without any aperture for one of the older format.
+    // Readers take a file without any aperture for the older format.
     const QByteArray apertures = m_apertures.isEmpty() ? "%ADD10C,0.010000*%\n" : m_apertures;
     return "%FSLAX46Y46*%\n%MOMM*%\n" + m_macros + apertures + "%LPD*%\nG75*\nG01*\n" + m_body +
            "M02*\n";

@@ -7,8 +7,8 @@
 
 namespace Pcb {
 
-/// Numbers that are kept for long, in little room: listed, or where that is less, as a bit for each
-/// number from the least to the greatest. Copies share them.
+/// A compact set of numbers for long keeping: a list or, if that is smaller, one bit for each
+/// number from the smallest to the largest. Copies share the data.
 class IdSet {
 public:
     IdSet() = default;

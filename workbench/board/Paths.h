@@ -19,7 +19,7 @@ double angleOf(const QPointF& a, const QPointF& b);
 
 QPointF polar(const QPointF& centre, double radius, double angle);
 
-/// The way from angle `start` to angle `end` in the given turn, above 0 and at most 360: equal
+/// The sweep from angle `start` to `end` in the given direction, above 0 and at most 360: equal
 /// angles are a full turn.
 double sweepBetween(double start, double end, bool clockwise);
 
@@ -33,11 +33,11 @@ QPainterPath circlePath(const QPointF& centre, double radius);
 
 /// The area that a round pen of `width` covers along `middle`; a single point gives a disc.
 QPainterPath roundStroke(const QPainterPath& middle, double width);
-/// The same of strokes, of which one of a single point is a dot: a path would drop it.
+/// The same for strokes; one of a single point is a dot, which a path would drop.
 QPainterPath roundStrokes(const QVector<QPolygonF>& strokes, double width);
 
 /// The convex hull, counterclockwise, without its first corner repeated. Fewer than three points
-/// are given back as they are.
+/// are returned as they are.
 QPolygonF convexHull(QPolygonF points);
 
 /// Positive for a counterclockwise polygon, in square micrometres.

@@ -15,7 +15,7 @@ namespace {
 constexpr int largestPicture = 20000;  // pixels of a side
 constexpr double margin = 0.05;
 
-/// What is shown: the board and a margin; invalid for a board of nothing.
+/// What is shown: the board and a margin; invalid for an empty board.
 QRectF shownArea(const Board& board)
 {
     const QRectF bounds = boundsOf(board);
@@ -93,7 +93,7 @@ void writeSvg(const Board& board, const QString& file)
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    // Dots of an inch: a dot is a micrometre, so that the drawing says how large the board is.
+    // Dots per inch: a dot is a micrometre, so that the drawing has the board's true size.
     generator.setResolution(qRound(1000 * CanvasHost::micrometresOfMil));
     generator.setSize(area.size().toSize().expandedTo({1, 1}));
     generator.setViewBox(QRectF(QPointF(), area.size()));

@@ -23,7 +23,7 @@ void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const
 /// The board, with a margin of a twentieth, its longer side `pixels` long.
 QImage toImage(const Board& board, int pixels, const PictureColours& colours = {});
 
-/// All or nothing, as writeBoardFile(). A board of nothing is an error. An SVG is as large as the
+/// All or nothing, as writeBoardFile(). An empty board is an error. An SVG is as large as the
 /// board and has no margin.
 void writePng(const Board& board, const QString& file, int pixels);
 void writeSvg(const Board& board, const QString& file);

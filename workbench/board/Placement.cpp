@@ -191,7 +191,7 @@ QPointF Placement::constrained(const QPointF& point) const
     return point;
 }
 
-/// The clicks so far and one more, over a corner where the direction wants one.
+/// The clicks so far and one more, with a corner between if the direction requires one.
 QVector<QPointF> Placement::with(const QPointF& point) const
 {
     QVector<QPointF> points = m_points;

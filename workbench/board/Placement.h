@@ -31,16 +31,16 @@ namespace Pcb {
 ///   circle 4             three points of the circle
 ///
 /// Arcs run clockwise or not as the brush says; arc 2 runs through its third point. A click that
-/// would give nothing (a line without length, three points on a line, a code that can carry nothing
-/// of its text) is not taken.
+/// would give nothing (a line without length, three points on a line, a code that can carry none of
+/// its text) is ignored.
 class Placement {
 public:
-    /// Another brush keeps the clicks made so far if the same clicks are meant by it, else drops
+    /// Another brush keeps the clicks made so far if they mean the same to it, otherwise it drops
     /// them.
     void setBrush(const Brush& brush);
     const Brush& brush() const { return m_brush; }
 
-    /// Takes the direction constraint alone, for the next point.
+    /// Changes only the direction constraint, for the next point.
     void setDirection(Direction direction, double fixedAngle);
 
     /// What "$$NAME" stands for in texts.
@@ -51,10 +51,10 @@ public:
     /// A click; gives the features that it completed, bottom first.
     Features press(const QPointF& point);
     void move(const QPointF& point);
-    /// Ends a polyline or polygon; drops what any other method has begun.
+    /// Ends a polyline or polygon; cancels any other method.
     Features finish();
-    /// Completes the surface that is being drawn, the last point under the cursor where it lacks
-    /// one; drops nothing of other kinds.
+    /// Completes the surface that is being drawn, with the cursor as the last point if it lacks
+    /// one; leaves other kinds alone.
     Features fill();
     void cancel();
 
@@ -63,8 +63,8 @@ public:
     /// Where a click at the cursor would set its point, the direction constraint applied.
     QPointF constrained(const QPointF& point) const;
 
-    /// What a click under the cursor would add, and what it would add to. Where that is not yet a
-    /// whole feature, the line from the last point to the cursor.
+    /// What a click at the cursor would add, and what it would add to. If that is not yet a whole
+    /// feature, the line from the last point to the cursor.
     Features preview() const;
 
 private:

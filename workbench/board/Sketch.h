@@ -6,8 +6,8 @@
 
 namespace Pcb {
 
-/// What drawing a feature takes where it is no larger than some pixels. Boards of many features are
-/// drawn from a row of these, which lie beside each other as the features do not.
+/// What is needed to draw a feature of a few pixels. Boards of many features are drawn from an
+/// array of these, which is contiguous in memory as the features are not.
 struct Sketch {
     QRectF bounds;
     QLineF line;  ///< of a line: from, to

@@ -6,7 +6,7 @@
 
 namespace Pcb {
 
-/// What changes at one place of a list: `count` entries from `index` on give way to others.
+/// What changes at one place of a list: `count` entries from `index` on are replaced by others.
 template <class T>
 struct Splice {
     int index;
@@ -46,7 +46,7 @@ void substitute(const Splices<T>& splices, std::vector<T>& list)
     list.insert(list.end(), next, std::make_move_iterator(rest.end()));
 }
 
-/// What brings a list back to what it is now, once `splices` were applied to it.
+/// What restores `list` as it is now, once `splices` have been applied to it.
 template <class T>
 Splices<T> inverse(const Splices<T>& splices, const std::vector<T>& list)
 {

@@ -23,8 +23,8 @@ struct Symbol {
 /// The largest size that a name may ask for, in mil; larger ones are drawn as this.
 constexpr double largestSymbolSize = 50000;
 
-/// Takes a symbol name apart; its sizes are mil. What is no standard name, or asks for a size of
-/// nothing or a ring whose hole is not smaller than the ring, is a special symbol.
+/// Parses a symbol name; its sizes are mil. A name that is not standard, or asks for a size of 0 or
+/// a ring whose hole is not smaller than the ring, is a special symbol.
 Symbol parseSymbol(const QString& name);
 
 /// The covered area in micrometres, centred at the origin, filled by the odd-even rule.

@@ -77,7 +77,7 @@ QStringList knownKeys()
     return known;
 }
 
-/// Calls `read` with each row of the table whose key is there, and with its value.
+/// Calls `read` with each row of the table whose key is present, and with its value.
 template <typename Table, typename Read>
 void readAll(const JsonNode& node, const Table& table, Read read)
 {

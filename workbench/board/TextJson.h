@@ -10,8 +10,8 @@ namespace Pcb {
 
 QJsonObject toJsonText(const TextSpec& text);
 
-/// Throws a FileError. "format" and "content" must be there, the rest has the values of an
-/// untouched TextSpec.
+/// Throws a FileError. "format" and "content" must be present, the rest has the values of a
+/// default TextSpec.
 TextSpec textFromJson(const CanvasHost::JsonNode& node);
 
 }  // namespace Pcb

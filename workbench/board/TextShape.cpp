@@ -140,7 +140,7 @@ TextDrawing drawBarcode(const TextSpec& text)
         drawing.areas.addPath(cornerMarkers(zone, code.quiet));
     }
     if (text.addBackground) {
-        // By the odd-even rule all that stands on it is left out of it.
+        // By the odd-even rule everything drawn on it is cut out of it.
         drawing.areas.addRect(zone);
     }
     if (text.addString) {

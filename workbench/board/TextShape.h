@@ -12,7 +12,7 @@ enum class TextFormat { String, Barcode, PlotStamp, Canned };
 
 enum class BarcodeType { Code39 = 1, Code39Ascii, Code128B, Code128C, Matrix };
 
-/// A text and all that says how it is drawn. Lengths are micrometres.
+/// A text and how it is drawn. Lengths are micrometres.
 struct TextSpec {
     TextFormat format = TextFormat::String;
     QString content;
@@ -51,14 +51,14 @@ constexpr int longestText = 256;
 
 TextDrawing drawText(const TextSpec& text);
 
-/// The characters that the text's code cannot carry; empty for a text that is no code.
+/// The characters that the text's code cannot carry; empty for a text that is not a code.
 QString leftOut(const TextSpec& text);
 
 /// The area of a drawing: its strokes and its areas.
 QPainterPath coveredBy(const TextDrawing& drawing);
 
-/// What stands on the board for "$$NAME": the value of NAME, or NAME itself where there is none.
-/// Other text is given back as it is. Names are compared without regard to case.
+/// What is drawn for "$$NAME": the value of NAME, or NAME itself if it has none. Other text is
+/// returned as it is. Names are case-insensitive.
 QString resolveSpecialText(const QString& content, const QMap<QString, QString>& values);
 
 }  // namespace Pcb

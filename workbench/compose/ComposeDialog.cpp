@@ -30,12 +30,12 @@ struct ExtraChoice {
 };
 const ExtraChoice extras[] = {
     {Extra::Number, QT_TRANSLATE_NOOP("ComposeDialog", "Number"), "0",
-     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is no whole number")},
+     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a whole number")},
     {Extra::String, QT_TRANSLATE_NOOP("ComposeDialog", "Text"), "demo", ""},
     {Extra::Symbols, QT_TRANSLATE_NOOP("ComposeDialog", "Symbols"), "1=r10,2=s20",
-     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is no list NUMBER=SYMBOL,...")},
+     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a list NUMBER=SYMBOL,...")},
     {Extra::Attributes, QT_TRANSLATE_NOOP("ComposeDialog", "Attributes"),
-     ".net=gnd,.smd=", QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is no list NAME=VALUE,...")},
+     ".net=gnd,.smd=", QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a list NAME=VALUE,...")},
 };
 
 int indexOf(Extra kind)
@@ -54,7 +54,7 @@ W* named(W* widget, const char* name)
     return widget;
 }
 
-/// A line for what is wrong with the fields above; it takes no room while all is right.
+/// A line for errors in the fields above; it takes no space while they are valid.
 QLabel* createError(const char* name, QDialog* dialog)
 {
     auto* const label = named(new QLabel(dialog), name);
@@ -74,7 +74,7 @@ void showError(QLabel* label, const QString& error)
     label->setVisible(!error.isEmpty());
 }
 
-/// The number that begins the text: an item of the list names the message behind it.
+/// The number at the start of the text: items of the list have the message's name after it.
 QString codeWord(const QComboBox* combo)
 {
     return combo->currentText().trimmed().section(QLatin1Char(' '), 0, 0);
@@ -201,7 +201,7 @@ bool ComposeDialog::readCode(HostMessage* message)
     bool ok = false;
     const QString word = codeWord(m_pComposeCodeCMB);
     message->code = word.toInt(&ok);
-    const QString fault = ok ? QString() : tr("\"%1\" is no message code").arg(word);
+    const QString fault = ok ? QString() : tr("\"%1\" is not a message code").arg(word);
     FaultMark::set(m_pComposeCodeCMB, fault);
     showError(m_pComposeCodeErrorLB, fault);
     return ok;
@@ -229,7 +229,7 @@ bool ComposeDialog::readExtra(HostMessage* message)
     }
     QString fault;
     if (choice.kind != wanted) {
-        // A wrong address would end the program.
+        // A wrong address would crash the program.
         fault = tr("message %1 takes: %2").arg(message->code).arg(tr(extras[indexOf(wanted)].text));
     } else if (!MessageWords::extraValue(choice.kind, text, &message->extra)) {
         fault = tr(choice.fault).arg(text);
@@ -245,7 +245,7 @@ bool ComposeDialog::send()
     message.sender = m_pComposeSenderLE->text().trimmed();
     const bool codeRight = readCode(&message);
     const bool payloadRight = readPayload(&message);
-    // What the extra word has to be follows from the code.
+    // The code determines what the extra word must be.
     const bool extraRight = codeRight && readExtra(&message);
     m_pComposeSentLB->clear();
     if (!codeRight || !payloadRight || !extraRight) {

@@ -20,8 +20,8 @@ public:
     /// `host` sends; it is not owned and must outlive the dialog.
     explicit ComposeDialog(HostState* host, QWidget* parent = nullptr);
 
-    /// Sends what is composed, when all of it is right; otherwise each mistake is named where it
-    /// stands, and nothing is sent.
+    /// Sends the message if everything is valid; otherwise each error is shown at its field, and
+    /// nothing is sent.
     bool send();
 
 protected:

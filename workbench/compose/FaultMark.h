@@ -4,10 +4,10 @@
 
 class QWidget;
 
-/// How fields that hold a mistake look.
+/// How invalid fields look.
 namespace FaultMark {
 
-/// Marks `field` and shows `fault` as its tool tip; an empty one takes the mark away.
+/// Marks `field` and shows `fault` as its tool tip; an empty one removes the mark.
 void set(QWidget* field, const QString& fault);
 
 }  // namespace FaultMark

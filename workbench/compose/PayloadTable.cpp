@@ -13,7 +13,7 @@ namespace {
 
 enum Column { Key, Type, Value };
 
-/// A type of an entry, by the word that sessions have for it.
+/// A type of an entry, by the word that sessions use for it.
 struct TypeChoice {
     const char* word;
     const char* text;
@@ -22,9 +22,9 @@ struct TypeChoice {
 const TypeChoice types[] = {
     {"text", QT_TRANSLATE_NOOP("PayloadTable", "text"), ""},
     {"int", QT_TRANSLATE_NOOP("PayloadTable", "integer"),
-     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is no whole number")},
+     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is not a whole number")},
     {"decimal", QT_TRANSLATE_NOOP("PayloadTable", "decimal"),
-     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is no number")},
+     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is not a number")},
     {"bool", QT_TRANSLATE_NOOP("PayloadTable", "truth"),
      QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is neither true nor false")},
 };
@@ -118,7 +118,7 @@ QString PayloadTable::readRow(int row, QMap<QString, QVariant>* payload)
     if (key.isEmpty()) {
         keyFault = tr("the key is missing");
     } else if (payload->contains(key)) {
-        keyFault = tr("the key \"%1\" stands there twice").arg(key);
+        keyFault = tr("the key \"%1\" appears twice").arg(key);
     }
     FaultMark::set(field(row, Key), keyFault);
 

@@ -7,7 +7,7 @@
 class QComboBox;
 class QLineEdit;
 
-/// The entries of a payload, to be written: a row each of key, type and value. The fields of row n
+/// Edits the entries of a payload: a row each with key, type and value. The fields of row n
 /// are called m_pComposeKeyLEn, m_pComposeTypeCMBn and m_pComposeValueLEn.
 class PayloadTable : public QTableWidget {
     Q_OBJECT
@@ -19,8 +19,8 @@ public:
     /// Removes the row of the field that has the focus, or the last one.
     void removeEntry();
 
-    /// The entries as they stand. A field that is wrong is marked, and the first one thrown as a
-    /// FileError, in which the row stands in the place of a file.
+    /// The entries as typed. Invalid fields are marked, and the first is thrown as a FileError,
+    /// which names the row in place of a file.
     QMap<QString, QVariant> read();
 
     void retranslate();
@@ -29,6 +29,6 @@ private:
     QLineEdit* field(int row, int column) const;
     QComboBox* type(int row) const;
     void nameFields();
-    /// Empty for a row that is right, which is added to `payload`.
+    /// Empty for a valid row, which is added to `payload`.
     QString readRow(int row, QMap<QString, QVariant>* payload);
 };

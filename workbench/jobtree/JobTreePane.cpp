@@ -85,6 +85,6 @@ void JobTreePane::retranslate()
 {
     m_pJobTreeTW->setToolTip(tr("Double-click a step to open it."));
     m_pAddFeatureLB->setText(m_started == 0
-                                 ? tr("Add Feature was not started yet.")
-                                 : tr("Add Feature was started %n time(s).", "", m_started));
+                                 ? tr("Add Feature has not been started yet.")
+                                 : tr("Add Feature has been started %n time(s).", "", m_started));
 }

@@ -18,8 +18,8 @@ public:
     QString job() const { return m_job; }
     QString step() const { return m_step; }
 
-    /// Opens a step, and its job when that is another one than before. An empty step stands for the
-    /// job's first one. Nothing happens for a job that is not known.
+    /// Opens a step, and its job if that is not open yet. An empty step means the job's first one.
+    /// Does nothing for an unknown job.
     void openStep(const QString& job, const QString& step = {});
     void setUnit(CanvasHost::DisplayUnit unit);
     /// Tells tool strip and canvas of job and step, which a new one does not know.

@@ -8,7 +8,7 @@ class QLabel;
 class QPushButton;
 class RecordTable;
 
-/// Shows one message whole: sender, receiver, code and name, extra word, and every entry of the
+/// Shows one message in full: sender, receiver, code and name, extra word, and every entry of the
 /// payload with its type.
 class MessageDialog : public QDialog {
     Q_OBJECT
@@ -16,7 +16,7 @@ class MessageDialog : public QDialog {
 public:
     explicit MessageDialog(const MessageRecord& message, QWidget* parent = nullptr);
 
-    /// All that the dialog shows, one entry a line, as it is copied.
+    /// Everything the dialog shows, one entry per line, as it is copied.
     QString text() const;
 
 protected:

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// Every message that passes through the plug-in manager, in the order of sending. There is one
-/// log at a time: it is the manager's observer for its life.
+/// log at a time: it observes the manager as long as it lives.
 class MessageLog : public QObject {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
     ~MessageLog() override;
 
     const std::vector<MessageRecord>& messages() const { return m_messages; }
-    /// The next feature record is still compared with the one that went before.
+    /// The next feature record is still compared with the one before.
     void clear();
     /// Writes all messages as a trace. Throws a CanvasHost::FileError when it cannot be written.
     void save(const QString& file) const;

@@ -17,7 +17,7 @@ public:
 
     /// The message of `row`, which must exist.
     const MessageRecord& message(int row) const;
-    /// Has the heads and texts read again in the current language.
+    /// Reads headers and texts again in the current language.
     void retranslate();
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -76,7 +76,7 @@ QWidget* MessageMonitor::createTable()
     m_pMonitorFilterLE = named(new QLineEdit(side), "m_pMonitorFilterLE");
     m_pMonitorFilterLE->setClearButtonEnabled(true);
     m_pMonitorCountLB = named(new QLabel(side), "m_pMonitorCountLB");
-    m_pMonitorCountLB->setMinimumWidth(1);  // another message widens no window
+    m_pMonitorCountLB->setMinimumWidth(1);  // a new message must not widen the window
     m_pMonitorComposePB = named(new QPushButton(side), "m_pMonitorComposePB");
     m_pMonitorClearPB = named(new QPushButton(side), "m_pMonitorClearPB");
     m_pMonitorSavePB = named(new QPushButton(side), "m_pMonitorSavePB");

@@ -24,7 +24,7 @@ public:
     void saveTrace();
 
 Q_SIGNALS:
-    /// The user wants to write a message.
+    /// The user wants to compose a message.
     void composeAsked();
 
 protected:
@@ -51,6 +51,6 @@ private:
     QPushButton* m_pMonitorSavePB;
     QLabel* m_pMessageLB;
     RecordTable* m_pMessageTW;
-    bool m_follow = true;        ///< the newest message was in sight before the last one came
+    bool m_follow = true;        ///< the newest message was visible before the last one came
     bool m_selectNewest = true;  ///< ... and was selected, or none was
 };

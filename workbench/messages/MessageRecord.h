@@ -9,7 +9,7 @@
 #include <QStringList>
 #include <QVariant>
 
-/// One message as it was sent: everything is copied, also what its extra word pointed at.
+/// One message as it was sent: everything is copied, including what its extra word pointed at.
 struct MessageRecord {
     QDateTime time;
     QString sender;
@@ -21,10 +21,10 @@ struct MessageRecord {
     /// What the extra word pointed at: names and values (the number of a symbol is its name), or a
     /// single value under the empty name.
     QMap<QString, QString> pointedAt;
-    /// Of a feature record: the keys that changed since the one before, in the order of the keys.
+    /// Of a feature record: the keys that changed since the previous one, in key order.
     QStringList changed;
 
-    /// Reads a transfer while it is on its way.
+    /// Reads a transfer during its delivery.
     static MessageRecord of(const CanvasHost::Transfer& transfer);
 
     /// As in MessageCodes.h; empty for a code that is not known.
@@ -35,9 +35,9 @@ struct MessageRecord {
     bool isFeatureRecord() const;
     /// The payload on one line, what changed first.
     QString summary() const;
-    /// The extra word as shown to people: a number, or what stands at the address.
+    /// The extra word as shown to users: a number, or the value at the address.
     QString extraText() const;
-    /// One JSON object on one line, without the line's end.
+    /// One JSON object on one line, without the newline.
     QByteArray toJson() const;
 };
 Q_DECLARE_METATYPE(MessageRecord)

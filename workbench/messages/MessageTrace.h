@@ -4,13 +4,13 @@
 
 #include <QFile>
 
-/// A trace file: one JSON object a line, written while the messages pass.
+/// A trace file: one JSON object per line, written as the messages pass.
 class MessageTrace {
 public:
-    /// Empties `file`, or makes it. Throws a CanvasHost::FileError when it cannot be written.
+    /// Empties `file`, or creates it. Throws a CanvasHost::FileError when it cannot be written.
     void open(const QString& file);
 
-    /// Each line reaches the file at once, so that a trace survives whatever comes after.
+    /// Each line is written to the file at once, so that a trace survives a crash.
     void append(const MessageRecord& message);
 
 private:

@@ -47,7 +47,7 @@ int readCode(const QString& word)
     bool ok = false;
     const int code = word.toInt(&ok);
     if (!ok) {
-        throw FileError{{}, 0, QStringLiteral("\"%1\" is no message code").arg(word)};
+        throw FileError{{}, 0, QStringLiteral("\"%1\" is not a message code").arg(word)};
     }
     return code;
 }
@@ -59,7 +59,7 @@ bool take(const QString& text, Word* word)
         return false;
     }
     const QString left = text.left(equals);
-    // Keys may hold a colon themselves: the last one begins the type.
+    // Keys may hold a colon themselves: the last one starts the type.
     const int colon = left.lastIndexOf(QLatin1Char(':'));
     word->key = left.left(colon < 0 ? left.size() : colon);
     word->type = colon < 0 ? QString() : left.mid(colon + 1);
@@ -151,10 +151,10 @@ HostMessage read(const QStringList& words)
             message.payload.insert(word.key, payloadValue(word.type, word.value, &ok));
         }
         if (!ok) {
-            throw FileError{{}, 0, QStringLiteral("\"%1\" is no entry of a message").arg(text)};
+            throw FileError{{}, 0, QStringLiteral("\"%1\" is not an entry of a message").arg(text)};
         }
     }
-    // A wrong address would end the program, not the step.
+    // A wrong address would crash the program, not fail the step.
     const Extra wanted = wantedExtra(message.code);
     if (given != wanted) {
         throw FileError{

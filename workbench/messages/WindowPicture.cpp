@@ -8,7 +8,7 @@ namespace {
 
 constexpr int frameWidth = 1;
 
-/// The windows that stand over `window`, each with its place in the coordinates of `window`.
+/// The windows on top of `window`, each with its place in the coordinates of `window`.
 QList<std::pair<QWidget*, QRect>> windowsOver(QWidget* window)
 {
     QList<std::pair<QWidget*, QRect>> windows;
@@ -33,7 +33,7 @@ QPixmap pictureOf(QWidget* window)
     const qreal ratio = window->devicePixelRatioF();
     QPixmap picture((QSizeF(all.size()) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
-    picture.fill(QColor(0xd4, 0xd8, 0xde));  // the desk
+    picture.fill(QColor(0xd4, 0xd8, 0xde));  // the desktop
     QPainter painter(&picture);
     painter.translate(-all.topLeft());
     painter.drawPixmap(QPoint(), window->grab());

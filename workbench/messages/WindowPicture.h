@@ -4,5 +4,5 @@
 
 class QWidget;
 
-/// A picture of `window` as the screen shows it: with the program's other windows over it.
+/// A picture of `window` as the screen shows it: with the program's other windows on top.
 QPixmap pictureOf(QWidget* window);

@@ -17,7 +17,7 @@ bool offers(const QWidget* canvas, const char* signature)
 
 QString number(double value)
 {
-    // A nanometre is less than any board is made to.
+    // A nanometre is finer than any board's tolerance.
     QString digits = QString::number(value, 'f', 3);
     while (digits.endsWith(QLatin1Char('0'))) {
         digits.chop(1);

@@ -20,7 +20,7 @@ extern const QString canvasName;
 std::optional<QPoint> toWidget(const QWidget* canvas, const QPointF& place);
 bool toBoard(const QWidget* canvas, const QPoint& position, QPointF* place);
 
-/// A length with a unit (um, mm, mil, inch; um when absent) in micrometres; false for none.
+/// A length with a unit (um, mm, mil, inch; um when absent) in micrometres; false for other text.
 bool readLength(const QString& text, double* micrometres);
 /// "1000 -250.5", without a unit, as the steps of a session take it.
 QString text(const QPointF& place);

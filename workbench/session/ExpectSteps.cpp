@@ -9,7 +9,7 @@
 namespace ExpectSteps {
 namespace {
 
-constexpr int settleTime = 60;  // milliseconds in which a late message would have come
+constexpr int settleTime = 60;  // milliseconds in which a late message would have arrived
 
 QString fault(const QString& wanted, const QString& got)
 {
@@ -64,7 +64,7 @@ StepActionList expectState(const QStringList& words)
     for (const QString& word : words.mid(1)) {
         const int equals = word.indexOf(QLatin1Char('='));
         if (equals < 1) {
-            malformed(QStringLiteral("\"%1\" is no state PROPERTY=VALUE").arg(word));
+            malformed(QStringLiteral("\"%1\" is not a state PROPERTY=VALUE").arg(word));
         }
         actions.push_back(expectProperty(words[0], word.left(equals), word.mid(equals + 1)));
     }
@@ -85,7 +85,7 @@ StepActionList expect(const QStringList& words)
     if (words[1] == QLatin1String("state")) {
         return expectState(rest);
     }
-    malformed(QStringLiteral("\"%1\" cannot be expected; known are message, nothing, state")
+    malformed(QStringLiteral("\"%1\" cannot be expected; choose from message, nothing, state")
                   .arg(words[1]));
 }
 
@@ -94,7 +94,7 @@ StepActionList box(const QStringList& words)
     BoxExpectation box;
     const int answer = BoxAnswers::words().indexOf(words[1]);
     if (answer < 0) {
-        malformed(QStringLiteral("\"%1\" is no answer; known are %2")
+        malformed(QStringLiteral("\"%1\" is not an answer; choose from %2")
                       .arg(words[1], BoxAnswers::words().join(QStringLiteral(", "))));
     }
     box.answer = static_cast<BoxAnswer>(answer);

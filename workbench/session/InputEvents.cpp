@@ -165,7 +165,7 @@ void type(QWidget* window, const QString& text)
 
 QKeySequence keyOfName(const QString& name)
 {
-    // Qt means the key of the number block by "Enter".
+    // To Qt, "Enter" is the key of the numeric keypad.
     QString known = name;
     if (known == QLatin1String("Enter") || known.endsWith(QLatin1String("+Enter"))) {
         known.replace(QLatin1String("Enter"), QLatin1String("Return"));

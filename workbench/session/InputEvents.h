@@ -7,8 +7,8 @@
 class QWidget;
 
 /// Mouse and key events as a window system sends them: they go to the window, and Qt finds the
-/// widget. Each call returns when the events are handled. By hand: Qt Test's functions go to a
-/// widget past the menus and boxes that would keep a user from it, and belong in no program.
+/// widget. Each call returns when the events are handled. Not by Qt Test: its functions bypass
+/// menus and boxes that would keep a user from the widget, and do not belong in a program.
 namespace InputEvents {
 
 /// `position` is in the coordinates of `widget`.
@@ -20,7 +20,7 @@ void press(QWidget* widget, const QPoint& position, Qt::MouseButton button);
 void move(QWidget* widget, const QPoint& position);
 void release(QWidget* widget, const QPoint& position, Qt::MouseButton button);
 
-/// `notches` away from the user are positive; a part of one is what a fine wheel reports.
+/// `notches` away from the user are positive; a fine wheel reports fractions of one.
 void wheel(QWidget* widget, const QPoint& position, double notches);
 
 /// To the widget of `window` that has the focus, or to the shortcut that takes it. `combination` is
@@ -28,7 +28,7 @@ void wheel(QWidget* widget, const QPoint& position, double notches);
 void key(QWidget* window, const QKeySequence& combination);
 void type(QWidget* window, const QString& text);
 
-/// "Enter", "Tab", "Ctrl+A"; empty for a name that is no key.
+/// "Enter", "Tab", "Ctrl+A"; empty for a name that is not a key.
 QKeySequence keyOfName(const QString& name);
 
 }  // namespace InputEvents

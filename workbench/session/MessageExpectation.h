@@ -11,7 +11,7 @@
 class MessageExpectation {
 public:
     /// Of the words "CODE [to=RECEIVER] [from=SENDER] [key[:type]=value ...] [extra[:kind]=value]
-    /// [total=N]". Throws a CanvasHost::FileError without a place for words that are none.
+    /// [total=N]". Throws a CanvasHost::FileError without a place for any other words.
     static MessageExpectation read(const QStringList& words);
 
     bool matches(const MessageRecord& message) const;
@@ -19,14 +19,14 @@ public:
 
     /// "message 50 to Canvas_Viewer.dll with SymbolText=r10"
     QString text() const;
-    /// `message` told in the same way, by the parts that are expected.
+    /// `message` described in the same way, by the parts that are expected.
     QString textOf(const MessageRecord& message) const;
 
 private:
-    /// A part of a message beside code and receiver, as a session writes it. It is as expected when
+    /// A part of a message besides code and receiver, as a session writes it. It is as expected if
     /// it reads the same.
     struct Part {
-        enum Place { Sender, Entry, Extra, Total } place;  ///< the order in which parts are told
+        enum Place { Sender, Entry, Extra, Total } place;  ///< the order in which parts are listed
         QString wanted;
         std::function<QString(const MessageRecord&)> got;
     };

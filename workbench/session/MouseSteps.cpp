@@ -17,7 +17,7 @@ namespace {
 
 using StepReach::Target;
 
-/// What a step says beside its place.
+/// What a step says besides its place.
 struct Extra {
     Qt::MouseButton button = Qt::LeftButton;
     double notches = 0;
@@ -43,7 +43,7 @@ constexpr MouseStep steps[] = {
      }},
     {"rightclick", "X Y [ENTRY]", MouseStep::Entry, MouseStep::OrMiddle,
      [](QWidget* widget, const QPoint& position, const Extra&) {
-         // A menu opens where the mouse stands.
+         // A menu opens where the mouse is.
          QCursor::setPos(widget->mapToGlobal(position));
          InputEvents::click(widget, position, Qt::RightButton);
      }},
@@ -83,21 +83,21 @@ Extra readExtra(const MouseStep& step, const QString& word)
     Extra extra;
     if (step.extra == MouseStep::Button) {
         if (!buttons.contains(word)) {
-            malformed(
-                QStringLiteral("\"%1\" is no button; known are left, middle, right").arg(word));
+            malformed(QStringLiteral("\"%1\" is not a button; choose from left, middle, right")
+                          .arg(word));
         }
         extra.button = buttons.value(word);
     } else if (step.extra == MouseStep::Notches) {
         bool ok = false;
         extra.notches = word.toDouble(&ok);
         if (!ok || !(std::abs(extra.notches) <= 1000)) {
-            malformed(QStringLiteral("\"%1\" is no number of notches").arg(word));
+            malformed(QStringLiteral("\"%1\" is not a number of notches").arg(word));
         }
     }
     return extra;
 }
 
-/// `word` is what stands beside the place, if anything does.
+/// `word` is what the step says besides the place, if anything.
 StepActionList actionsOf(const MouseStep& step, Target target, const QString& word)
 {
     target.mayLeave = step.place == MouseStep::Anywhere;
@@ -106,7 +106,7 @@ StepActionList actionsOf(const MouseStep& step, Target target, const QString& wo
         act(place.widget, place.position, extra);
     }};
     if (step.extra == MouseStep::Entry) {
-        // The middle of a widget is clicked for its menu, a place perhaps for something else.
+        // A click on the middle of a widget is for its menu, on a place perhaps for something else.
         actions.push_back(word.isEmpty() ? WidgetSteps::dismissMenu(target.kind == Target::Centre)
                                          : WidgetSteps::pickEntry(word));
     }
@@ -128,7 +128,7 @@ double length(const QString& word)
     double micrometres = 0;
     if (!BoardPlaces::readLength(word, &micrometres)) {
         malformed(
-            QStringLiteral("\"%1\" is no length (a number, and um, mm, mil or inch)").arg(word));
+            QStringLiteral("\"%1\" is not a length (a number, and um, mm, mil or inch)").arg(word));
     }
     return micrometres;
 }
@@ -158,7 +158,7 @@ StepActionList onBoard(const QStringList& words)
         for (const MouseStep& known : steps) {
             names.append(QLatin1String(known.name));
         }
-        malformed(QStringLiteral("unknown step \"%1\" of the canvas; known are %2")
+        malformed(QStringLiteral("unknown step \"%1\" of the canvas; choose from %2")
                       .arg(words[1], names.join(QStringLiteral(", "))));
     }
     const QPointF place(length(words[2]), length(words[3]));

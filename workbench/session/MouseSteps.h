@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/// The steps of the mouse. Each does the same on a widget and at a place on the board.
+/// The mouse steps. Each does the same on a widget and at a place on the board.
 namespace MouseSteps {
 
 /// "STEP NAME [x y] [...]", pixels of the widget; its middle without a place.

@@ -10,7 +10,7 @@
 class RecordedPlace {
 public:
     RecordedPlace() = default;
-    /// `hit` is the widget under the mouse. The place is told by the nearest widget around it that
+    /// `hit` is the widget under the mouse. The place is given by the nearest widget around it that
     /// a session finds by its name; there may be none, see isValid().
     RecordedPlace(QWidget* hit, const QPoint& global);
 
@@ -28,7 +28,7 @@ public:
     /// "wheel NAME NOTCHES x y", or "canvas wheel X Y NOTCHES"
     QStringList wheel(double notches) const;
 
-    /// The nearest of `widget` and what holds it that a session finds by its name; null for none.
+    /// The nearest of `widget` and its parents that a session finds by name; null for none.
     static QWidget* named(QWidget* widget);
 
 private:

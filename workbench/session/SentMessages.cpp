@@ -10,7 +10,7 @@ namespace {
 
 bool isFromModule(const MessageRecord& message)
 {
-    // By who else sends: the module writes more than one name as its own.
+    // By excluding all other senders: the module uses more than one name as its own.
     return message.receiver != ModuleNames::toolStrip && message.sender != CanvasHost::hostName &&
            message.sender != ModuleNames::viewer && message.sender != ModuleNames::jobTree;
 }

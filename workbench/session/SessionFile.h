@@ -3,19 +3,19 @@
 #include <QFile>
 #include <QStringList>
 
-/// A session that is being written. Each line is in the file at once; the last one can still be
-/// amended, so that what is typed becomes one step and yet survives whatever comes after.
+/// A session that is being written. Each line is written to the file at once; the last one can
+/// still be amended, so that what is typed becomes one step and yet survives a crash.
 class SessionFile {
 public:
-    /// Empties `file`, or makes it. Throws a CanvasHost::FileError when it cannot be written.
+    /// Empties `file`, or creates it. Throws a CanvasHost::FileError when it cannot be written.
     void open(const QString& file);
 
     void append(const QStringList& words);
-    /// A line that players pass over.
+    /// A line that players skip.
     void comment(const QString& text);
     /// Writes `words` in place of the last line.
     void amend(const QStringList& words);
-    /// Takes the last line out.
+    /// Removes the last line.
     void drop();
     /// The words of the last line; empty after a comment or a drop.
     const QStringList& last() const { return m_last; }

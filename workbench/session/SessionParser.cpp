@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Takes a line apart, character by character.
+/// Splits a line, character by character.
 class Splitter {
 public:
     explicit Splitter(const QString& line) : m_line(line) {}
@@ -97,7 +97,7 @@ QString decoded(const QByteArray& bytes, const QString& file)
 
 }  // namespace
 
-// By hand: Qt's own splitting of commands knows neither comments nor a quote that stays open.
+// Qt's own splitting of commands knows neither comments nor unclosed quotes.
 QStringList SessionParser::split(const QString& line)
 {
     return Splitter(line).run();

@@ -4,8 +4,8 @@
 
 #include <QStringList>
 
-/// Reads session files: one step a line, words quoted as in a shell, '#' begins a comment. What is
-/// wrong is thrown as a CanvasHost::FileError.
+/// Reads session files: one step per line, words quoted as in a shell, '#' starts a comment. Errors
+/// are thrown as a CanvasHost::FileError.
 namespace SessionParser {
 
 /// The whole file is read and checked.

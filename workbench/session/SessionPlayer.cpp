@@ -32,7 +32,7 @@ SessionPlayer::SessionPlayer(const Session& session, HostState* host, QWidget* w
 
 void SessionPlayer::start()
 {
-    // What was said before is not part of the story.
+    // Earlier messages are not part of the session.
     m_context.sent = new SentMessages(m_log, this);
     m_waiting.start();
     schedule(0);

@@ -31,7 +31,7 @@ Q_SIGNALS:
     void finished();
     /// "<file>:<line>: <reason>"
     void failed(const QString& text);
-    /// Something that whoever wrote the session should know: "<file>:<line>: <note>"
+    /// Something that the author of the session should know: "<file>:<line>: <note>"
     void noted(const QString& text);
 
 private:

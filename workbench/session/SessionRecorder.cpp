@@ -39,7 +39,7 @@ QWidget* hitBy(QWidget* window, const QPoint& global)
     return child ? child : window;
 }
 
-/// The combo box whose list `popup` is; null when it is none.
+/// The combo box whose list `popup` is; null if it is not a list.
 QComboBox* comboOf(const QWidget* popup)
 {
     return popup->inherits("QComboBoxPrivateContainer")
@@ -110,7 +110,7 @@ QString keyName(const QKeyEvent* event)
     int key = event->key();
     Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        // Qt writes the key beside the letters as "Return".
+        // Qt calls the main Enter key "Return".
         const QString prefix = QKeySequence(static_cast<int>(modifiers)).toString();
         return prefix + QStringLiteral("Enter");
     }
@@ -186,7 +186,7 @@ void SessionRecorder::readWindowEvent(QObject* watched, QEvent* event)
 QWidget* SessionRecorder::locate(const QObject* watched, const QPointF& local,
                                  const QPointF& global)
 {
-    // The window's whole pixels are what its widgets get; those of the screen may begin elsewhere.
+    // Widgets get the window's whole pixels; those of the screen may start elsewhere.
     QWidget* const window = widgetOf(watched);
     m_mouse = window ? window->mapToGlobal(local.toPoint()) : global.toPoint();
     return window ? hitBy(window, m_mouse) : nullptr;
@@ -199,7 +199,7 @@ void SessionRecorder::readWidgetEvent(QWidget* widget, QEvent* event)
             watchBox(box);
         }
     } else if (event->type() == QEvent::ShortcutOverride) {
-        // A list takes the choice by it, and the key itself goes to the combo box.
+        // A list makes its choice on this event; the key itself goes to the combo box.
         QWidget* const popup = QApplication::activePopupWidget();
         if (popup && comboOf(popup)) {
             popupKey(popup, static_cast<const QKeyEvent*>(event));
@@ -319,7 +319,7 @@ void SessionRecorder::key(const QKeyEvent* event)
 
 void SessionRecorder::shortcut(const QObject* receiver, const QShortcutEvent* event)
 {
-    // A menu that it opens is a step by what is chosen in it.
+    // If it opens a menu, the step is what is chosen there.
     QWidget* const focus = QApplication::focusWidget();
     if (focus && !isInBox(focus) && !qobject_cast<const QMenuBar*>(receiver)) {
         writeKey(focus, event->key().toString(QKeySequence::PortableText));

@@ -14,8 +14,8 @@ class QMouseEvent;
 class QShortcutEvent;
 class QWheelEvent;
 
-/// Writes what the hand does in all windows of the program as a session: it reads the events of
-/// mouse and keyboard as the window system sends them, before anything is done with them.
+/// Records what the user does in all windows of the program as a session: it reads the events of
+/// mouse and keyboard as the window system sends them, before they are handled.
 class SessionRecorder : public QObject {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
     /// `window` is the host's; closing it is not a step. Not owned.
     explicit SessionRecorder(QWidget* window, QObject* parent = nullptr);
 
-    /// Records into `file` from now on, what was there is lost. Throws a CanvasHost::FileError when
+    /// Records to `file` from now on, its old content is lost. Throws a CanvasHost::FileError when
     /// it cannot be written.
     void start(const QString& file);
 
@@ -32,7 +32,7 @@ public:
 private:
     void readWindowEvent(QObject* watched, QEvent* event);
     void readWidgetEvent(QWidget* widget, QEvent* event);
-    /// Notes where the mouse is; returns what lies there.
+    /// Notes where the mouse is; returns the widget there.
     QWidget* locate(const QObject* watched, const QPointF& local, const QPointF& global);
 
     void press(QWidget* hit, const QMouseEvent* event);
@@ -48,7 +48,7 @@ private:
     void popupKey(QWidget* popup, const QKeyEvent* event);
     void chooseEntry(QMenu* menu, const QAction* action);
     void chooseItem(QComboBox* combo, const QModelIndex& index);
-    /// Takes the last line back, or puts `before` in its place, when `popup` stays open.
+    /// Removes the last line, or puts `before` in its place, if `popup` stays open.
     void unlessClosed(QWidget* popup, const QStringList& before);
 
     void watchText(QWidget* focus);

@@ -53,7 +53,7 @@ struct Session {
     std::vector<SessionStep> steps;
 };
 
-/// The words of a step say nothing that could be done. Whoever reads the file adds its place.
+/// The words are not a valid step. The reader of the file adds the place.
 [[noreturn]] inline void malformed(const QString& reason)
 {
     throw CanvasHost::FileError{{}, 0, reason};

@@ -11,7 +11,7 @@ class QWidget;
 /// reached is a StepFault.
 namespace StepReach {
 
-/// Where the mouse is to be, as a session says it.
+/// Where the mouse should be, as a session says it.
 struct Target {
     enum Kind {
         Centre,

@@ -50,7 +50,7 @@ SessionStep StepTable::parse(const QStringList& words)
         return words[0] == QLatin1String(candidate.name);
     });
     if (kind == std::end(kinds)) {
-        malformed(QStringLiteral("unknown step \"%1\"; known are %2")
+        malformed(QStringLiteral("unknown step \"%1\"; choose from %2")
                       .arg(words[0], names().join(QStringLiteral(", "))));
     }
     if (words.size() - 1 < kind->least || words.size() - 1 > kind->most) {

@@ -4,11 +4,11 @@
 
 #include <QStringList>
 
-/// All steps that a session may have.
+/// All steps that a session can have.
 namespace StepTable {
 
-/// The step that the words of a line stand for. Throws a CanvasHost::FileError without a place for
-/// words that stand for none.
+/// The step that the words of a line describe. Throws a CanvasHost::FileError without a place for
+/// words that describe none.
 SessionStep parse(const QStringList& words);
 
 QStringList names();

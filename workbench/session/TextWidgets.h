@@ -5,7 +5,7 @@ class QWidget;
 /// The widgets into which text is typed.
 namespace TextWidgets {
 
-/// Whether all that is typed into `widget` becomes its text.
+/// Whether everything typed into `widget` becomes its text.
 bool hasText(const QWidget* widget);
 
 }  // namespace TextWidgets

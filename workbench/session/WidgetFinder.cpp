@@ -18,7 +18,7 @@ int rank(const QWidget* widget)
            (widget->window() == QApplication::activeWindow() ? 1 : 0);
 }
 
-/// The number of letters to insert, drop or change. By hand: Qt does not tell how alike words are.
+/// The number of letters to insert, drop or change. Qt has no function for this.
 int distance(const QString& from, const QString& to)
 {
     std::vector<int> row(static_cast<size_t>(to.size()) + 1);

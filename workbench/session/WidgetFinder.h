@@ -11,10 +11,10 @@ namespace WidgetFinder {
 /// there is none.
 QWidget* find(const QString& name);
 
-/// Why a user could not reach `widget` by mouse or keyboard now; empty when he could.
+/// Why a user could not reach `widget` by mouse or keyboard now; empty if they could.
 QString obstacle(const QWidget* widget);
 
-/// Up to three names in use that are like `name`.
+/// Up to three names in use that are similar to `name`.
 QStringList similarNames(const QString& name);
 
 }  // namespace WidgetFinder

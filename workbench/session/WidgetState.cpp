@@ -41,7 +41,7 @@ QMetaProperty find(const QWidget* widget, const QString& name)
         alias == all.end() ? std::vector<const char*>{own.constData()} : alias->properties;
     for (const char* const property : names) {
         const int index = widget->metaObject()->indexOfProperty(property);
-        // Every widget has a window's title; a place for text that is always empty says nothing.
+        // Every widget has a window title; a text property that is always empty says nothing.
         if (index >= 0 && (qstrcmp(property, "windowTitle") != 0 || widget->isWindow())) {
             return widget->metaObject()->property(index);
         }

@@ -42,7 +42,7 @@ QComboBox* reachCombo(const QString& name)
 {
     auto* const combo = qobject_cast<QComboBox*>(StepReach::reach(name));
     if (!combo) {
-        never(QStringLiteral("\"%1\" is no combo box").arg(name));
+        never(QStringLiteral("\"%1\" is not a combo box").arg(name));
     }
     return combo;
 }
@@ -104,11 +104,11 @@ StepAction openBarMenu(const QString& name)
     return [=](StepContext&) {
         auto* const menu = qobject_cast<QMenu*>(StepReach::find(name));
         if (!menu) {
-            never(QStringLiteral("\"%1\" is no menu").arg(name));
+            never(QStringLiteral("\"%1\" is not a menu").arg(name));
         }
         QMenuBar* const bar = MenuEntries::barOf(menu);
         if (!bar) {
-            never(QStringLiteral("\"%1\" stands in no menu bar").arg(name));
+            never(QStringLiteral("\"%1\" is not in a menu bar").arg(name));
         }
         const QString obstacle = WidgetFinder::obstacle(bar);
         if (!obstacle.isEmpty()) {
@@ -139,7 +139,7 @@ StepActionList key(const QStringList& words)
 {
     const QKeySequence combination = InputEvents::keyOfName(words[2]);
     if (combination.isEmpty()) {
-        malformed(QStringLiteral("\"%1\" is no key").arg(words[2]));
+        malformed(QStringLiteral("\"%1\" is not a key").arg(words[2]));
     }
     return {[name = words[1], combination](StepContext&) {
         InputEvents::key(focused(name)->window(), combination);
@@ -180,7 +180,7 @@ StepActionList picture(const QStringList& words)
 {
     const QByteArray suffix = QFileInfo(words[1]).suffix().toLower().toLatin1();
     if (!QImageWriter::supportedImageFormats().contains(suffix)) {
-        malformed(QStringLiteral("\"%1\" does not end like a picture (.png)").arg(words[1]));
+        malformed(QStringLiteral("\"%1\" is not a picture file (.png)").arg(words[1]));
     }
     return {[file = words[1], name = words.value(2)](StepContext& context) {
         QWidget* const widget = name.isEmpty() ? context.window : WidgetFinder::find(name);
@@ -198,7 +198,7 @@ StepActionList wait(const QStringList& words)
     bool ok = false;
     const int milliseconds = words[1].toInt(&ok);
     if (!ok || milliseconds < 0) {
-        malformed(QStringLiteral("\"%1\" is no time in milliseconds").arg(words[1]));
+        malformed(QStringLiteral("\"%1\" is not a time in milliseconds").arg(words[1]));
     }
     return {[milliseconds](StepContext& context) { context.pause = milliseconds; }};
 }

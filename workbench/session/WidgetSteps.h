@@ -4,14 +4,14 @@
 
 #include <QStringList>
 
-/// The steps on widgets by keyboard and choice, and those of the host itself. Each reads the words
-/// of its line, its own name first.
+/// The steps on widgets by keyboard and selection, and those of the host. Each reads the words of
+/// its line, its own name first.
 namespace WidgetSteps {
 
 StepActionList type(const QStringList& words);
 StepActionList key(const QStringList& words);
 StepActionList choose(const QStringList& words);
-/// What is shown becomes the item, as by a program: it may be greyed.
+/// Makes the item the current one, as a program would: it may be greyed.
 StepActionList set(const QStringList& words);
 StepActionList menu(const QStringList& words);
 StepActionList close(const QStringList& words);

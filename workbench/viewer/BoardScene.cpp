@@ -23,7 +23,7 @@ void BoardScene::setDocument(Document* document)
 
 void BoardScene::fitField()
 {
-    // What was hovered may be another now, or none.
+    // The hovered feature may be another one now, or gone.
     m_hovered = -1;
     const QRectF bounds = m_document->bounds();
     const double margin = fieldMargin * qMax(bounds.width(), bounds.height());

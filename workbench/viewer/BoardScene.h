@@ -27,9 +27,9 @@ public:
     const Overlay& overlay() const { return m_overlay; }
 
 Q_SIGNALS:
-    /// Features in these areas look otherwise.
+    /// Features in these areas look different now.
     void repainted(const std::vector<QRectF>& areas);
-    /// All of the board is another.
+    /// The whole board is another one.
     void replaced();
 
 private:

@@ -21,7 +21,7 @@ constexpr double notchFactor = 1.25;
 constexpr double finest = 1;        // pixels to a micrometre
 constexpr double leastBoard = 0.1;  // of the view
 
-/// The least of 1, 2, 5, 10, 20, ... times `first` that is not less than `length`.
+/// The smallest of 1, 2, 5, 10, 20, ... times `first` that is not below `length`.
 double gridStep(double first, double length)
 {
     double step = first;
@@ -63,7 +63,7 @@ BoardView::BoardView(BoardScene* scene, QWidget* parent)
     setMinimumSize(240, 180);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
-    // The board is drawn anew only where it has changed or has come into view.
+    // The board is redrawn only where it has changed or has come into view.
     setCacheMode(QGraphicsView::CacheBackground);
     connect(scene, &BoardScene::repainted, this, &BoardView::updateAreas);
     connect(scene, &BoardScene::replaced, this, &BoardView::updateAll);
@@ -81,7 +81,7 @@ void BoardView::updateAreas(const std::vector<QRectF>& areas)
     }
 }
 
-/// Edges, grid points and what is widened to be seen reach beyond their place.
+/// Edges, grid points and anything widened to be visible reach beyond their place.
 QRectF BoardView::widened(const QRectF& area) const
 {
     const double reach = 3 * pixelSize();
@@ -143,7 +143,7 @@ void BoardView::setScale(double pixelsPerMicrometre, const QPointF& centre)
     updateAll();
 }
 
-/// The board has moved under a mouse that rests.
+/// The board has moved under a resting mouse.
 void BoardView::tellPlace()
 {
     if (m_cursor) {
@@ -257,7 +257,7 @@ void BoardView::drawBackground(QPainter* painter, const QRectF& area)
     painter->resetTransform();
     const QRegion exposed = painter->hasClipping() ? painter->clipRegion()
                                                    : QRegion(toView.mapRect(area).toAlignedRect());
-    // What is seen of two areas would be drawn twice where one lies over the other.
+    // Clipped to each part: where the widened areas overlap, all would be drawn twice.
     for (const QRect& part : exposed) {
         painter->save();
         painter->setClipRect(part);

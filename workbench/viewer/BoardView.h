@@ -7,7 +7,7 @@
 
 class BoardScene;
 
-/// A view on the board: grid, wheel zoom, middle-button pan; hands on what the mouse does in board
+/// A view of the board: grid, wheel zoom, middle-button pan; passes on what the mouse does in board
 /// coordinates (micrometres, y up).
 class BoardView : public QGraphicsView {
     Q_OBJECT
@@ -15,20 +15,20 @@ class BoardView : public QGraphicsView {
 public:
     explicit BoardView(BoardScene* scene, QWidget* parent = nullptr);
 
-    /// The whole board; it stays whole when the view grows, until something else is shown.
+    /// Shows the whole board, also after the view is resized, until something else is shown.
     void fit();
     void showArea(const QRectF& area);
     /// Between the board as a tenth of the view and a micrometre to a pixel.
     void zoom(double factor);
 
-    /// Draws lines at multiples of this step; 0: at multiples of whatever is well seen.
+    /// Draws lines at multiples of this step; 0: of a step that is easy to see.
     void setGrid(double step);
 
     /// Micrometres to a pixel.
     double pixelSize() const;
 
-    /// Where a place of the board is in this widget, and the other way round: for those who
-    /// control the canvas from outside.
+    /// Where a place of the board is in this widget, and the reverse, for those who control the
+    /// canvas from outside.
     Q_INVOKABLE QPoint viewPoint(double x, double y) const;
     Q_INVOKABLE QPointF boardPoint(const QPoint& position) const;
 

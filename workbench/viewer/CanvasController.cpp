@@ -51,7 +51,7 @@ void CanvasController::openStep(const QString& job, const QString& step)
     m_document = document.get();
     m_histories.setActiveStack(&m_document->history());
     m_scene.setDocument(m_document);
-    // What was begun refers to features that may be others now.
+    // What was started refers to features that may be others now.
     connect(m_document, &Document::changed, this, [this] {
         cancel();
         hover(m_cursor);
@@ -93,7 +93,7 @@ void CanvasController::setGridStep(double step)
     showGrid();
 }
 
-/// The grid that is seen is the one that points snap to.
+/// The visible grid is the one that points snap to.
 void CanvasController::showGrid()
 {
     for (const QPointer<BoardView>& view : m_views) {

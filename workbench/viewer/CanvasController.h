@@ -14,8 +14,8 @@
 
 class BoardView;
 
-/// Brings together the open step, the tool at work and the views: what the hand does in a view goes
-/// to the tool, and what the tool draws goes to the scene.
+/// Brings together the open step, the tool at work and the views: user input in a view goes to the
+/// tool, and what the tool draws goes to the scene.
 class CanvasController : public QObject, public Canvas {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ public:
     QUndoGroup& histories() { return m_histories; }
     BoardScene& scene() { return m_scene; }
 
-    /// The tools show things in the view that the hand was in last; at first in the first one.
+    /// The tools show things in the view that was used last; at first in the first one.
     void connectView(BoardView* view);
 
     /// Points that tools ask for snap to the grid, and to ends and centres of features.
@@ -43,9 +43,9 @@ public:
     void setTool(std::unique_ptr<CanvasTool> tool);
     CanvasTool* tool() const { return m_tool.get(); }
     QString hint() const { return m_tool ? m_tool->hint() : QString(); }
-    /// What is begun is given up; the tool stays.
+    /// Cancels what was started; the tool stays.
     void cancel();
-    /// The tool was told something from outside: draws it anew.
+    /// The tool was told something from outside: redraws it.
     void refresh();
 
     // Canvas

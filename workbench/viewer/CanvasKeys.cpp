@@ -22,7 +22,7 @@ bool isField(const QWidget* widget)
            (combo && combo->isEditable());
 }
 
-/// Keys that mean the text or the rows of what has the focus.
+/// Keys that act on the text or the rows of the focused widget.
 bool isKept(const QWidget* focus, const QKeyEvent* event)
 {
     const bool meansItems =
@@ -71,7 +71,7 @@ bool CanvasKeys::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-/// A QDialog has uses of its own for the keys, and is left alone.
+/// A QDialog uses the keys itself, and is left alone.
 bool CanvasKeys::isOfOurWindow(const QWidget* window) const
 {
     const bool isWindow = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;

@@ -14,7 +14,7 @@ public:
     /// All actions of `pane` with a shortcut; it becomes the parent.
     explicit CanvasKeys(QWidget* pane);
 
-    /// Has them in this window as well, but for keys that it has actions of its own for.
+    /// Adds them to this window, except for keys that its own actions use.
     void addTo(QWidget* window) const;
 
 protected:

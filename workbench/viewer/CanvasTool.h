@@ -27,7 +27,7 @@ public:
     virtual Document& document() = 0;
     /// The feature under a point, -1 where there is none.
     virtual int featureAt(const QPointF& point) const = 0;
-    /// Micrometres that look like one step of the hand: less is no drag.
+    /// Micrometres below which a movement of the mouse is not a drag.
     virtual double tolerance() const = 0;
     /// Where `point` snaps to; itself while points do not snap.
     virtual QPointF snapped(const QPointF& point) const = 0;
@@ -36,7 +36,7 @@ public:
     virtual void say(const QString& text) = 0;
 };
 
-/// The tool at work: takes what the hand does, in board coordinates (micrometres).
+/// The tool at work: takes user input, in board coordinates (micrometres).
 class CanvasTool {
 public:
     explicit CanvasTool(Canvas& canvas) : m_canvas(canvas) {}
@@ -44,7 +44,7 @@ public:
     CanvasTool(const CanvasTool&) = delete;
     CanvasTool& operator=(const CanvasTool&) = delete;
 
-    /// Whether the next press gives a place, which may snap, and does not pick what lies there.
+    /// Whether the next press gives a place, which may snap, rather than picks a feature.
     virtual bool takesPlace() const { return false; }
     virtual void press(const QPointF& point, bool extends) = 0;  ///< `extends`: with Ctrl
     virtual void move(const QPointF& point) { Q_UNUSED(point) }

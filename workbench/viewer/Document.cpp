@@ -20,7 +20,7 @@ Ids sorted(Ids ids)
     return ids;
 }
 
-/// What is in one of them alone. Both ascend.
+/// What is in only one of them. Both ascend.
 Ids difference(const Ids& a, const Ids& b)
 {
     Ids all;
@@ -137,7 +137,7 @@ DocumentStep Document::stepOf(const Pcb::Edit& edit)
     return step;
 }
 
-/// A feature's id goes to what takes its place; what else there is gets new ones.
+/// A feature's id goes to its replacement; further ones get new ids.
 Pcb::Splice<int> Document::idsFor(const Pcb::Splice<Pcb::Feature>& splice)
 {
     Pcb::Splice<int> ids{splice.index, splice.count, {}};
@@ -153,8 +153,7 @@ Pcb::Splice<int> Document::idsFor(const Pcb::Splice<Pcb::Feature>& splice)
     return ids;
 }
 
-/// The ids that come or go where one of `indexes` is replaced by more features than one, or by
-/// none.
+/// The ids that come or go where one of `indexes` is replaced by several features, or by none.
 Pcb::IdSet Document::inherited(const Pcb::Splices<int>& splices, const Pcb::Indexes& indexes) const
 {
     Ids ids;
@@ -204,7 +203,7 @@ void Document::take(const DocumentStep& step)
     Q_EMIT changed();
 }
 
-/// Puts features in the place of others; returns where any of them lies.
+/// Replaces features by others; returns the areas of all of them.
 std::vector<QRectF> Document::exchange(const DocumentStep& step)
 {
     std::vector<QRectF> areas;

@@ -46,25 +46,25 @@ public:
     const Pcb::Board& board() const { return m_state.board; }
     QUndoStack& history() { return m_history; }
 
-    /// Whether the board is another than when it was opened or saved last. What is selected, marked
+    /// Whether the board has changed since it was opened or saved last. What is selected, marked
     /// or highlighted is not saved and does not count.
     bool isModified() const;
     void setSaved() { m_history.setClean(); }
 
-    // Each is one entry of the history named `text`. Nothing happens when nothing changes.
+    // Each is one entry of the history named `text`, and does nothing if nothing changes.
 
-    /// What was selected or highlighted stays so, and what takes its place is so, too.
+    /// Selection and highlights stay, and pass on to what replaces a feature.
     void applyBoard(const QString& text, const Pcb::Edit& edit);
-    /// The same, and what the edit adds is selected in place of what was.
+    /// The same, and what the edit adds becomes the selection.
     void applyAndSelect(const QString& text, const Pcb::Edit& edit);
     void select(const QString& text, const Pcb::Indexes& indexes);
     void highlight(const QString& text, const Pcb::Indexes& indexes);
     void setMarks(const QString& text, const std::vector<Mark>& marks);
 
-    /// Another board from outside: the history begins anew.
+    /// Another board from outside: starts a new history.
     void replace(const Pcb::Board& board);
 
-    /// The features whose bounds meet the area.
+    /// The features whose bounds intersect the area.
     Pcb::Indexes featuresIn(const QRectF& area) const;
     const Pcb::Sketch& sketch(int feature) const
     {
@@ -72,13 +72,13 @@ public:
     }
     /// The topmost feature at `point` or no farther from it than `tolerance`; -1: none.
     int featureAt(const QPointF& point, double tolerance) const;
-    /// Holds outline and features; what was deleted may have left it wider than they are.
+    /// Encloses outline and features; deletions may leave it larger than they are.
     const QRectF& bounds() const { return m_bounds; }
 
 Q_SIGNALS:
-    /// Features in these areas look otherwise.
+    /// Features in these areas look different now.
     void repainted(const std::vector<QRectF>& areas);
-    /// All of it is another.
+    /// The whole board is another one.
     void replaced();
     /// After either of them.
     void changed();

@@ -6,8 +6,8 @@
 
 class QAction;
 
-/// What may be done with the selection whatever tool is active. The host's window finds the actions
-/// by their object names: "m_pSelectAllAct", "m_pDeselectAct", "m_pDeleteAct".
+/// What can be done with the selection whichever tool is active. The host's window finds the
+/// actions by their object names: "m_pSelectAllAct", "m_pDeselectAct", "m_pDeleteAct".
 class EditActions : public QObject {
     Q_OBJECT
 

@@ -11,8 +11,8 @@
 namespace {
 
 constexpr size_t many = 10000;  // features of a board: fewer are always drawn as they are
-constexpr double dot = 3;       // pixels: what is no larger is drawn as a rectangle
-constexpr double dash = 6;      // pixels: a line that is no longer, and as thin as a hair, is one
+constexpr double dot = 3;       // pixels: anything no larger is drawn as a rectangle
+constexpr double dash = 6;      // pixels: a hairline no longer than this is drawn as one
 constexpr double hair = 1.5;    // pixels
 
 const QColor& colourOf(Pcb::Kind kind)
@@ -31,7 +31,7 @@ const QColor& colourOf(Pcb::Kind kind)
     return CanvasColours::line;
 }
 
-/// Walks through indexes that ascend, and says whether one that comes later than the last is there.
+/// Walks through ascending indexes, and tells whether it contains those asked for, in this order.
 class Walk {
 public:
     explicit Walk(const Pcb::Indexes& indexes) : m_next(indexes.begin()), m_end(indexes.end()) {}
@@ -46,7 +46,7 @@ private:
     Pcb::Indexes::const_iterator m_end;
 };
 
-/// Draws features by a painter whose state it changes only where it must.
+/// Draws features by a painter whose state it changes only where necessary.
 class FeatureBrush {
 public:
     explicit FeatureBrush(QPainter& painter)
@@ -55,7 +55,7 @@ public:
         painter.setRenderHint(QPainter::Antialiasing, false);
     }
 
-    /// Draws it from afar; false where it is too large for that.
+    /// Draws it simplified; false if it is too large for that.
     bool draw(const Pcb::Sketch& sketch, const QColor& colour)
     {
         const double size = std::max(sketch.bounds.width(), sketch.bounds.height()) / m_pixel;
@@ -88,7 +88,7 @@ private:
 
     void drawDot(const QRectF& bounds, const QColor& colour)
     {
-        // Less than a pixel would not be seen.
+        // Less than a pixel would not be visible.
         const double dx = std::max(0.0, m_pixel - bounds.width()) / 2;
         const double dy = std::max(0.0, m_pixel - bounds.height()) / 2;
         m_painter.fillRect(bounds.adjusted(-dx, -dy, dx, dy), colour);
@@ -120,7 +120,7 @@ void paintFeatures(QPainter& painter, const Document& document, const QRectF& ar
     for (const int index : document.featuresIn(area)) {
         const Pcb::Sketch& sketch = document.sketch(index);
         const bool isSelected = selected.isAt(index);
-        // A negative feature cuts out what lies below it: the board's ground shows.
+        // A negative feature cuts holes into those below it: the background shows.
         const QColor& colour = isSelected                ? CanvasColours::selected
                                : highlighted.isAt(index) ? CanvasColours::highlighted
                                : sketch.positive         ? colourOf(sketch.kind)

@@ -105,7 +105,7 @@ void FileActions::startNew()
 
 void FileActions::chooseAndOpen()
 {
-    // Before the file is chosen: a choice is not made for nothing.
+    // Before the file is chosen, so that the choice is not in vain.
     if (mayReplace(m_canvas.document())) {
         const QString file = FileNames::ask(FileNames::Purpose::Open, {}, m_pane);
         if (!file.isEmpty() && attempt([&] { openAtOnce(file); })) {

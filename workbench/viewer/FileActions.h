@@ -13,7 +13,7 @@
 class QAction;
 
 /// The boards as files, as the user handles them: which file is open, what is not saved yet, and
-/// the actions for both. What would be lost is asked for first; what goes wrong is told in a box.
+/// the actions for both. Asks before changes are lost; errors are shown in a box.
 ///
 /// The host's window, to which the canvas is a module, finds this by its object name,
 /// "m_pBoardFiles", and calls it by the names of its methods.
@@ -34,7 +34,7 @@ public:
 
     /// The file of the board that is shown; empty when it was never saved.
     Q_INVOKABLE QString file() const;
-    /// Whether the board that is shown is another than in its file.
+    /// Whether the board that is shown differs from its file.
     Q_INVOKABLE bool isModified() const;
     /// False: the user wants to keep the board that is shown, or it could not be saved.
     Q_INVOKABLE bool open(const QString& file);
@@ -64,7 +64,7 @@ private:
     bool write(Document& document, const QString& file);
     void setFile(Document& document, const QString& file);
     QString nameOf(const Document& document) const;
-    /// Does `work`; false when it threw a FileError, of which the user was told.
+    /// Does `work`; false if it threw a FileError, which the user was shown.
     bool attempt(const std::function<void()>& work);
 
     CanvasController& m_canvas;

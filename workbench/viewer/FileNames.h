@@ -9,12 +9,12 @@ namespace FileNames {
 
 enum class Purpose { Open, Save, Export };
 
-/// The file that the user chooses, beginning in the folder of the last one; `offered` is its name
-/// unless the user writes another. The suffix of the chosen kind is added to a name without one.
-/// Empty: the user does not want to.
+/// The file that the user chooses, beginning in the folder of the last one; `offered` is the
+/// suggested name. The suffix of the chosen kind is added to a name without one.
+/// Empty: the user cancelled.
 QString ask(Purpose purpose, const QString& offered, QWidget* parent);
 
-/// The file stands first among the recent ones, which the host's window lists.
+/// Puts the file first among the recent ones, which the host's window lists.
 void remember(const QString& file);
 
 }  // namespace FileNames

@@ -68,7 +68,7 @@ void drawSnap(QPainter& painter, const QPointF& point, Snapping::Kind kind)
     }
 }
 
-/// With a dark edge, so that it is seen on any feature.
+/// With a dark edge, so that it is visible on any feature.
 void paintSnap(QPainter& painter, const QPointF& point, Snapping::Kind kind)
 {
     painter.setBrush(Qt::NoBrush);

@@ -54,7 +54,7 @@ void SnapControls::retranslate()
                            .arg(m_snap->shortcut().toString(QKeySequence::NativeText)));
     m_label->setText(tr("&Grid"));
     m_step->setToolTip(tr("The step of the grid that points snap to"));
-    m_step->setAccessibleName(tr("Step of the grid"));
+    m_step->setAccessibleName(tr("Grid step"));
     showStep();
 }
 
@@ -72,7 +72,7 @@ void SnapControls::takeStep()
     if (step && *step >= leastStep && *step <= greatestStep) {
         m_canvas.setGridStep(*step);
     } else {
-        m_canvas.say(tr("\"%1\" is no step of a grid (%2 to %3).")
+        m_canvas.say(tr("\"%1\" is not a grid step (%2 to %3).")
                          .arg(m_step->text(), CanvasHost::lengthText(leastStep),
                               CanvasHost::lengthText(greatestStep)));
     }

@@ -20,7 +20,7 @@ public:
     void showStep();
 
 Q_SIGNALS:
-    /// A step was typed: the keys are the board's again.
+    /// A step was typed: the keyboard is the board's again.
     void finished();
 
 private:

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// Places that a point is drawn to. Lengths are micrometres.
+/// Places that a point snaps to. Lengths are micrometres.
 namespace Snapping {
 
 enum class Kind { Grid, End, Centre };

@@ -28,7 +28,7 @@ void showSteadily(QLabel* label, const QString& text)
 
 void makeSteady(QHBoxLayout* line, const QLabel* label)
 {
-    // Another font lends the letters that the label's own has not, and may be higher.
+    // Letters missing in the label's font come from another one, which may be taller.
     QLabel sample(QStringLiteral("\u00c5g\u56fd"));
     sample.setFont(label->font());
     line->addStrut(sample.sizeHint().height());

@@ -9,8 +9,8 @@ class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 
-/// A label in a line whose height no text changes; a text that is too long for it is cut, and is
-/// its tool tip.
+/// A label of one line whose height does not depend on the text; a text that is too long is cut,
+/// and shown as the tool tip.
 QLabel* createSteadyLabel(const char* objectName, QWidget* parent);
 void showSteadily(QLabel* label, const QString& text);
 /// As high as a line of the label's font becomes with letters of any script.
@@ -39,7 +39,7 @@ public:
 Q_SIGNALS:
     void placeTyped(const QPointF& place);
     void noPlaceTyped(const QString& text);
-    /// Nothing is to be typed any more: the keys are the board's again.
+    /// Typing has ended: the keyboard is the board's again.
     void finished();
 
 protected:

@@ -11,7 +11,7 @@ struct Row {
     int code;          ///< the tool is the active one now
     int offCode;       ///< ... and no longer; 0 when there is no such message
     const char* text;  ///< to be translated in the context "ToolSet"
-    /// Null for a tool that is none of hands on the board. `mode` is the message's extra word.
+    /// Null for a tool that is not used on the board. `mode` is the message's extra word.
     std::unique_ptr<CanvasTool> (*create)(Canvas& canvas, qint64 mode);
 };
 

@@ -14,7 +14,7 @@ constexpr double farthest = 1e7;  // micrometres: no board is larger
 
 const QString number = QStringLiteral("([-+]?(?:\\d+\\.?\\d*|\\.\\d+))\\s*([^-+.,;\uff0c\\d\\s]*)");
 
-/// In micrometres; an empty name stands for the unit of the user.
+/// In micrometres; an empty name means the user's unit.
 std::optional<double> factorOf(const QString& name)
 {
     static const QHash<QString, QString> others{{QStringLiteral("in"), QStringLiteral("inch")},

@@ -12,7 +12,7 @@ namespace TypedPlace {
 /// "12.5", "12.5 mm", "40mil".
 std::optional<double> readLength(const QString& text);
 
-/// "12.5 40", "12.5, 40 mm", "1mm 40mil". The unit of one number is the other's that has none.
+/// "12.5 40", "12.5, 40 mm", "1mm 40mil". A number without a unit takes the other's.
 std::optional<QPointF> readPlace(const QString& text);
 
 }  // namespace TypedPlace

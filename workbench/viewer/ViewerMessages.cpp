@@ -45,16 +45,16 @@ void ViewerPane::receive(const PluginMetaData& message)
                          &ViewerPane::sendAttributes);
             break;
         case Sent::DialogsClosed:
-            startTool(m_tool, m_mode);  // what was begun, or asked for, is given up
+            startTool(m_tool, m_mode);  // cancels what was started or asked for
             break;
         case Sent::MarkSettings:
-            m_canvas.say(tr("This canvas has nothing to set for marks."));
+            m_canvas.say(tr("This canvas has no settings for marks."));
             break;
         case Accepted::JobOpened:
             openStep(message);
             break;
         case Sent::Unset:
-            startTool(nullptr, 0);  // a mode that is none: no tool before it goes on
+            startTool(nullptr, 0);  // unknown mode: ends the previous tool, too
             break;
         default:
             followTool(message);
@@ -70,7 +70,7 @@ void ViewerPane::takeRecord(const PluginMetaData& message)
 {
     m_inspector->showRecord(message);
     m_record = message.payload;
-    // The tool announces itself only once; later its record is what begins the drawing.
+    // The tool announces itself only once; later its record starts the drawing.
     const bool wasOther = m_tool != ToolSet::find(Sent::AddFeature);
     PlaceTool* const place = m_place ? m_place : startPlacing();
     if (wasOther) {
@@ -139,7 +139,7 @@ void ViewerPane::followTool(const PluginMetaData& message)
     }
 }
 
-/// What the tool before was waiting for is given up.
+/// Cancels what the previous tool was waiting for.
 void ViewerPane::startTool(const ToolSet::Row* row, qint64 mode)
 {
     m_tool = row;
@@ -156,7 +156,7 @@ void ViewerPane::startTool(const ToolSet::Row* row, qint64 mode)
     } else {
         m_canvas.setTool(row->create ? row->create(m_canvas, mode) : nullptr);
         if (!m_canvas.tool()) {
-            m_canvas.say(tr("This canvas does not perform \"%1\".").arg(ToolSet::text(*row)));
+            m_canvas.say(tr("This canvas does not support \"%1\".").arg(ToolSet::text(*row)));
         }
     }
 }
@@ -190,7 +190,7 @@ void ViewerPane::startMeasuring()
     showTool();
 }
 
-/// Picking takes one click; then what was being drawn goes on.
+/// Picking takes one click; then the drawing goes on.
 void ViewerPane::startPicking(const QString& hint, void (ViewerPane::*picked)(int))
 {
     m_place = nullptr;

@@ -42,7 +42,7 @@ ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
 {
     setObjectName(QStringLiteral("m_pViewer"));
     m_view = new BoardView(&m_canvas.scene(), this);
-    // What is dropped is the window's, which opens it.
+    // Dropped files go to the window, which opens them.
     m_view->viewport()->setAcceptDrops(false);
     m_files = new FileActions(m_canvas, this);
     m_edits = new EditActions(m_canvas, this);
@@ -77,7 +77,7 @@ ViewerPane::~ViewerPane()
 {
     CanvasHost::setMeasureStarted({});
     delete m_secondView;
-    // The histories of the boards report once more while they end.
+    // The histories of the boards report once more when they are destroyed.
     delete m_files;
 }
 
@@ -119,7 +119,8 @@ void ViewerPane::connectLine(ToolLine* line, BoardView* view)
             [line](const QPointF& point) { line->showPosition(point); });
     connect(line, &ToolLine::placeTyped, &m_canvas, &CanvasController::clickAt);
     connect(line, &ToolLine::noPlaceTyped, this, [this](const QString& text) {
-        m_canvas.say(tr("\"%1\" is no place (two numbers, and mil, inch, um or mm).").arg(text));
+        m_canvas.say(
+            tr("\"%1\" is not a position (two numbers, and mil, inch, um or mm).").arg(text));
     });
     connect(line, &ToolLine::finished, view, qOverload<>(&QWidget::setFocus));
 }

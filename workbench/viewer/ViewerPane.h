@@ -22,7 +22,7 @@ class SnapControls;
 class ToolLine;
 
 /// The canvas: draws what the tool strip describes, does what its tools do, and sends back what the
-/// user picks on the board. It never sends a tool's message back, which would go round for ever.
+/// user picks on the board. It never sends a tool's message back, which would circulate for ever.
 class ViewerPane : public QWidget {
     Q_OBJECT
 
@@ -35,12 +35,12 @@ public:
 
     CanvasController& canvas() { return m_canvas; }
 
-    /// For those who control the canvas from outside, by name: no exception passes such a call, so
-    /// that the error is returned; its reason is empty when there was none.
+    /// For those who control the canvas from outside, by name: no exception can pass such a call,
+    /// so the error is returned; its reason is empty if there was none.
     Q_INVOKABLE CanvasHost::FileError openBoard(const QString& file);
     Q_INVOKABLE CanvasHost::FileError exportBoard(const QString& file);
 
-    /// For the host, which alone knows: the tool strip was made anew, or there was a message to or
+    /// For the host, which alone knows: the tool strip was recreated, or there was a message to or
     /// from it that does not come here. The canvas's tool is the one that the strip shows.
     Q_INVOKABLE void stripWasMade();
     Q_INVOKABLE void overhear(int code);

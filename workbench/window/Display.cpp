@@ -20,10 +20,10 @@ void hearQt(QtMsgType type, const QMessageLogContext& context, const QString& te
             QStringLiteral("workbench"), 0,
             QStringLiteral("no window can be shown: ") + firstComplaint};
         fprintf(stderr, "%s\n", qUtf8Printable(error.text()));
-        // Nothing is whole yet that could be ended in order.
+        // Nothing exists yet that needs an orderly end.
         _Exit(statusWithoutDisplay);
     }
-    // Of the platform's complaints the first one is the reason, the others follow from it.
+    // The first of the platform's complaints is the reason, the others follow from it.
     if (!QByteArray(context.category).startsWith("qt.qpa")) {
         handlerBefore(type, context, text);
     } else if (firstComplaint.isEmpty()) {

@@ -6,7 +6,7 @@
 /// The language of the program: the translations of Qt, of the module and of the workbench itself.
 class Language {
 public:
-    /// Translations are looked for in "translations" beside and in `moduleDirectory`.
+    /// Translations are searched for in "translations" beside and in `moduleDirectory`.
     explicit Language(const QString& moduleDirectory);
 
     /// "en" or "zh_CN". A translation file that is missing leaves its texts English.

@@ -29,7 +29,7 @@ const QCommandLineOption jobOption(
     QStringLiteral("file"));
 const QCommandLineOption traceOption(
     QStringLiteral("trace"),
-    QStringLiteral("Write every message to <file>, one JSON object a line."),
+    QStringLiteral("Write every message to <file>, one JSON object per line."),
     QStringLiteral("file"));
 const QCommandLineOption screenshotOption(
     QStringLiteral("screenshot"),
@@ -40,7 +40,7 @@ const QCommandLineOption playOption(QStringLiteral("play"),
                                     QStringLiteral("file"));
 const QCommandLineOption recordOption(
     QStringLiteral("record"),
-    QStringLiteral("Write what mouse and keyboard do to <file>, as a session to be played."),
+    QStringLiteral("Record mouse and keyboard to <file>, as a session to play."),
     QStringLiteral("file"));
 const QCommandLineOption boardOption(QStringLiteral("board"),
                                      QStringLiteral("Show the board <file> (JSON) on the canvas."),
@@ -52,11 +52,11 @@ const QCommandLineOption exportOption(
     QStringLiteral("file"));
 const QCommandLineOption settingsOption(
     QStringLiteral("settings"),
-    QStringLiteral("Keep the settings in <file>. Sessions, pictures and all that ends by itself "
-                   "begin without settings otherwise, and keep none."),
+    QStringLiteral("Keep the settings in <file>. Otherwise sessions, pictures and other "
+                   "unattended runs start without settings and keep none."),
     QStringLiteral("file"));
-const QCommandLineOption exitOption(QStringLiteral("exit"),
-                                    QStringLiteral("Leave after playing, or the first paint."));
+const QCommandLineOption exitOption(
+    QStringLiteral("exit"), QStringLiteral("Exit after playing, or after the first paint."));
 const QCommandLineOption unitOption(QStringLiteral("unit"),
                                     QStringLiteral("Start in <unit>: mil, inch, um or mm."),
                                     QStringLiteral("unit"), QStringLiteral("mil"));
@@ -76,7 +76,7 @@ const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("ver
 const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
                                     QStringLiteral("Show this help."));
 
-/// The options that QApplication takes for itself, and whether a value follows.
+/// The options that QApplication itself takes, and whether a value follows.
 const QHash<QString, bool> qtOptions{
     {QStringLiteral("-display"), true},       {QStringLiteral("-geometry"), true},
     {QStringLiteral("-name"), true},          {QStringLiteral("-platform"), true},
@@ -121,7 +121,7 @@ const Choice& choose(const QCommandLineParser& parser, const QCommandLineOption&
     for (const Choice& choice : choices) {
         names.append(QLatin1String(choice.*key));
     }
-    refuse(QStringLiteral("unknown %1 \"%2\"; known are %3")
+    refuse(QStringLiteral("unknown %1 \"%2\"; choose from %3")
                .arg(option.names().constFirst(), name, names.join(QStringLiteral(", "))));
 }
 
@@ -134,7 +134,7 @@ int fontSize(const QCommandLineParser& parser)
     }
     const int size = parser.value(fontSizeOption).toInt();
     if (size < smallest || size > largest) {
-        refuse(QStringLiteral("\"%1\" is no font size; it is %2 to %3")
+        refuse(QStringLiteral("\"%1\" is not a font size (%2 to %3)")
                    .arg(parser.value(fontSizeOption))
                    .arg(smallest)
                    .arg(largest));
@@ -218,7 +218,7 @@ Options Options::parse(const QStringList& arguments)
 
 Options Options::ofProgram(int argc, char* argv[])
 {
-    // Before the program has a screen: a wrong option is told without one as well.
+    // Before the program has a screen: wrong options are reported without one as well.
     const QCoreApplication program(argc, argv);
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {

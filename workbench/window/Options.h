@@ -21,9 +21,9 @@ struct Options {
     QString screenshotFile;  ///< empty: no picture
     QString sessionFile;     ///< empty: nothing is played
     QString recordFile;      ///< empty: nothing is recorded
-    QString boardFile;       ///< empty: the canvas begins with its own
+    QString boardFile;       ///< empty: the canvas starts with its own
     QString exportFile;      ///< empty: nothing is exported
-    QString settingsFile;    ///< empty: the user's, or none where nobody works by hand
+    QString settingsFile;    ///< empty: the user's, or none in unattended runs
     bool exit = false;       ///< leave after playing, or after the first paint
     bool log = false;        ///< debug lines go to the terminal
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
@@ -37,7 +37,7 @@ struct Options {
     /// here.
     static Options ofProgram(int argc, char* argv[]);
     /// The same from `arguments` (the program's name first). The options of Qt itself ("-platform
-    /// offscreen") are passed over.
+    /// offscreen") are skipped.
     static Options parse(const QStringList& arguments);
 
 private:

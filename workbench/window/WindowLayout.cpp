@@ -17,8 +17,8 @@ const QString geometryKey = QStringLiteral("window/geometry");
 const QString docksKey = QStringLiteral("window/docks");
 
 constexpr QSize roomy(1200, 860);
-constexpr QSize least(940, 500);  // shows every control of the bars; no desktop has less
-constexpr int shortScreen = 640;  // of less height strip and job tree do not stand over each other
+constexpr QSize smallest(940, 500);  // shows every control of the bars; no desktop has less
+constexpr int shortScreen = 640;     // less height: strip and job tree share tabs
 constexpr QPoint corner(20, 40);
 constexpr QPoint instanceOffset(36, 36);
 constexpr int mostInstances = 6;
@@ -28,7 +28,7 @@ constexpr QSize frame(8, 34);
 /// As much of `wanted` as the screen has room for, and inside it.
 QRect inside(const QRect& screen, const QPoint& position, const QSize& wanted)
 {
-    const QSize size = wanted.boundedTo(screen.size() - frame).expandedTo(least);
+    const QSize size = wanted.boundedTo(screen.size() - frame).expandedTo(smallest);
     const QPoint last = screen.bottomRight() - QPoint(size.width() + frame.width() - 1,
                                                       size.height() + frame.height() - 1);
     return {QPoint(qMax(screen.left(), qMin(position.x(), last.x())),
@@ -45,7 +45,7 @@ WindowLayout::WindowLayout(QMainWindow* window, const Docks& docks)
     m_window->addDockWidget(Qt::LeftDockWidgetArea, docks.jobTree);
     m_window->addDockWidget(Qt::BottomDockWidgetArea, docks.monitor);
     const int height = m_window->screen()->availableGeometry().height() - frame.height();
-    // Where the height does not do for all, the strip has the whole of it.
+    // If the height is not enough for all, the strip gets the whole of it.
     m_window->setCorner(Qt::BottomLeftCorner, height < roomy.height() ? Qt::LeftDockWidgetArea
                                                                       : Qt::BottomDockWidgetArea);
     if (height < shortScreen) {

@@ -8,7 +8,7 @@ class QDockWidget;
 class QLockFile;
 class QMainWindow;
 
-/// Where the window stands, how large it is and how it is divided. It fits the screen at the first
+/// Where the window is, how large it is and how it is divided. It fits the screen at the first
 /// start, and is remembered in the settings from then on. A second program that runs at the same
 /// time is offset.
 class WindowLayout {
@@ -23,7 +23,7 @@ public:
     WindowLayout(QMainWindow* window, const Docks& docks);
     ~WindowLayout();
 
-    /// As it was left, or as it is first.
+    /// As it was left, or the default.
     void restore();
     void restoreFirst();
     /// The first program that runs is the one that is remembered.
@@ -35,7 +35,7 @@ private:
 
     QMainWindow* m_window;
     Docks m_docks;
-    QByteArray m_first;                 ///< the docks as they are first
+    QByteArray m_first;                 ///< the docks by default
     int m_instance = 0;                 ///< how many others run already
     std::unique_ptr<QLockFile> m_lock;  ///< held by each program that runs
 };

@@ -116,7 +116,7 @@ void WorkbenchWindow::retranslate()
     m_pHostUnitLB->setText(tr("&Unit"));
     m_pHostLanguageLB->setText(tr("&Language"));
     m_pHostEqCB->setText(tr("&EQ tool"));
-    m_pHostEqCB->setToolTip(tr("Whether the host offers the EQ tool; the strip is made anew."));
+    m_pHostEqCB->setToolTip(tr("Whether the host offers the EQ tool; the strip is recreated."));
     for (int index = 0; index < m_pHostUnitCMB->count(); ++index) {
         m_pHostUnitCMB->setItemText(
             index, CanvasHost::unitText(CanvasHost::lengthUnits().at(size_t(index))));

@@ -45,7 +45,7 @@ WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
 
 WorkbenchWindow::~WorkbenchWindow()
 {
-    // The modules go first: what they do while they end still finds the window whole.
+    // The modules go first: what they do while they end still needs the whole window.
     m_strip.reset();
     m_viewer.reset();
     m_jobTree.reset();
@@ -118,7 +118,7 @@ void WorkbenchWindow::changeLanguage(int index)
 
 void WorkbenchWindow::showEq(bool visible)
 {
-    // The strip asks once, while it is made: a host makes a new one.
+    // The strip asks only while it is created, so the host creates a new one.
     CanvasHost::setEQVisible(visible);
     invokeCanvas("stripWasMade");
     try {

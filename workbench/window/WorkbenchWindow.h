@@ -25,13 +25,13 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 
-/// The host's window: the modules, the message monitor, and what the host itself has to set.
+/// The host's window: the modules, the message monitor, and the host's own settings.
 class WorkbenchWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// Unit and language start as `options` say; the jobs must be there already. `log` is not owned
-    /// and must outlive the window.
+    /// Unit and language start as `options` say; the jobs must be loaded already. `log` is not
+    /// owned and must outlive the window.
     WorkbenchWindow(const Options& options, MessageLog* log);
     ~WorkbenchWindow() override;
 

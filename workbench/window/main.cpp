@@ -56,7 +56,7 @@ void readInputs(int argc, char* argv[], Inputs* inputs)
     if (!options.recordFile.isEmpty() && QFileInfo::exists(options.recordFile) &&
         QFileInfo(options.recordFile) == QFileInfo(options.sessionFile)) {
         throw FileError{options.recordFile, 0,
-                        QStringLiteral("a session is not recorded over the one that is played")};
+                        QStringLiteral("cannot record over the session that is played")};
     }
     if (!options.traceFile.isEmpty()) {
         inputs->trace.open(options.traceFile);
@@ -101,14 +101,14 @@ void askCanvas(QWidget* window, const char* method, const QString& file)
     if (!canvas ||
         !QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(CanvasHost::FileError, error),
                                    Q_ARG(QString, file))) {
-        throw FileError{file, 0, QStringLiteral("the canvas knows no %1").arg(method)};
+        throw FileError{file, 0, QStringLiteral("the canvas has no %1").arg(method)};
     }
     if (!error.reason.isEmpty()) {
         throw error;
     }
 }
 
-/// What is left to write when everything was played.
+/// Writes what the options ask for once everything has been played.
 void writeOutputs(const Options& options, QWidget* window)
 {
     askCanvas(window, "exportBoard", options.exportFile);

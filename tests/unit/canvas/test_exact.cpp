@@ -292,7 +292,7 @@ private Q_SLOTS:
             fixture.setStep(wrong);
             QCOMPARE(fixture.pane->canvas().gridStep(), 250.0);
             QCOMPARE(fixture.edit("m_pGridStepLE").text(), QString("0.2500 mm"));
-            QVERIFY(fixture.text("m_pCanvasStatusLB").contains("is no step of a grid"));
+            QVERIFY(fixture.text("m_pCanvasStatusLB").contains("is not a grid step"));
         }
     }
 
@@ -317,7 +317,7 @@ private Q_SLOTS:
         const Fixture fixture;
         fixture.describeLine();
         fixture.typePlace("1 2 3");
-        QVERIFY(fixture.text("m_pCanvasStatusLB").startsWith("\"1 2 3\" is no place"));
+        QVERIFY(fixture.text("m_pCanvasStatusLB").startsWith("\"1 2 3\" is not a position"));
         QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click where the feature begins."));
     }
 

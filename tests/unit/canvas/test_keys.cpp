@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(position.text(), findNamed<QLineEdit>(*fixture.pane, "m_pPositionLE").text());
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewPoint(5000, 5000));
         QCOMPARE(text("m_pSecondHintLB"),
-                 QString("Click the place where it is to go; a right click gives it up."));
+                 QString("Click the new position; a right click cancels."));
     }
 
     void areaZoomShowsTheAreaWhereItWasDrawn()

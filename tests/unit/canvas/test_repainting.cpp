@@ -7,6 +7,7 @@
 #include "viewer/CanvasColours.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QRandomGenerator>
 #include <QScrollBar>
 #include <QWheelEvent>

@@ -72,7 +72,7 @@ private Q_SLOTS:
         QVERIFY(fixture.features()[2] == before.board.features[3]);
         compareHistory(fixture, before, "Delete feature");
         fixture.click(18000, 13000);
-        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("There is no feature."));
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("No feature here."));
         QCOMPARE(fixture.features().size(), size_t(3));
     }
 
@@ -371,7 +371,7 @@ private Q_SLOTS:
         const CanvasState before = fixture.state();
         fixture.receive(code);
         QCOMPARE(fixture.text("m_pCanvasStatusLB"),
-                 QString("This canvas does not perform \"%1\".").arg(name));
+                 QString("This canvas does not support \"%1\".").arg(name));
         fixture.click(16000, 10000);
         QVERIFY(fixture.state() == before);
         fixture.receive(Sent::MoveFeature);

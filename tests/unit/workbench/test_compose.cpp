@@ -123,16 +123,17 @@ private Q_SLOTS:
         code("move");
         entry("", 0, "x");
         entry("N", 1, "1.5");
-        QCOMPARE(send(), (QStringList{"\"move\" is no message code", "Row 1: the key is missing"}));
+        QCOMPARE(send(),
+                 (QStringList{"\"move\" is not a message code", "Row 1: the key is missing"}));
         QVERIFY(!findNamed(*m_dialog, "m_pComposeKeyLE1").toolTip().isEmpty());
         QCOMPARE(findNamed(*m_dialog, "m_pComposeValueLE2").toolTip(),
-                 QString("\"1.5\" is no whole number"));
+                 QString("\"1.5\" is not a whole number"));
         code("20000201");
         findNamed<QLineEdit>(*m_dialog, "m_pComposeKeyLE1").setText("T");
         findNamed<QComboBox>(*m_dialog, "m_pComposeTypeCMB1").setCurrentIndex(3);
         extra("much");
         QCOMPARE(send(), (QStringList{"Row 1: \"x\" is neither true nor false",
-                                      "\"much\" is no whole number"}));
+                                      "\"much\" is not a whole number"}));
         QVERIFY(m_log->messages().empty());
     }
 
@@ -146,10 +147,10 @@ private Q_SLOTS:
         QCOMPARE(send(), QStringList("message 20001811 takes: Symbols"));
         kind.setCurrentIndex(2);
         extra("a=r10");
-        QCOMPARE(send(), QStringList("\"a=r10\" is no list NUMBER=SYMBOL,..."));
+        QCOMPARE(send(), QStringList("\"a=r10\" is not a list NUMBER=SYMBOL,..."));
         code("20001807");
         extra("gnd");
-        QCOMPARE(send(), QStringList("\"gnd\" is no list NAME=VALUE,..."));
+        QCOMPARE(send(), QStringList("\"gnd\" is not a list NAME=VALUE,..."));
         QVERIFY(m_log->messages().empty());
     }
 

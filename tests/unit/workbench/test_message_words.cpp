@@ -51,12 +51,12 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("words");
         QTest::addColumn<QString>("expected");
         const auto entry = [](const char* word) {
-            return QString("\"%1\" is no entry of a message").arg(word);
+            return QString("\"%1\" is not an entry of a message").arg(word);
         };
-        QTest::newRow("nothing") << QStringList() << "\"\" is no message code";
-        QTest::newRow("no number") << QStringList("twelve") << "\"twelve\" is no message code";
+        QTest::newRow("nothing") << QStringList() << "\"\" is not a message code";
+        QTest::newRow("no number") << QStringList("twelve") << "\"twelve\" is not a message code";
         QTest::newRow("too large")
-            << QStringList("99999999999") << "\"99999999999\" is no message code";
+            << QStringList("99999999999") << "\"99999999999\" is not a message code";
         QTest::newRow("no value") << QStringList{"1", "Key"} << entry("Key");
         QTest::newRow("no key") << QStringList{"1", "=v"} << entry("=v");
         QTest::newRow("only a type") << QStringList{"1", ":int=1"} << entry(":int=1");

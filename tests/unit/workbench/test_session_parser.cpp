@@ -134,29 +134,29 @@ private Q_SLOTS:
         row("click m_pA 1", "a position is two whole numbers: x y");
         row("click m_pA 1 b", "a position is two whole numbers: x y");
         row("rightclick m_pA b c", "a position is two whole numbers: x y");
-        row("press m_pA 1 2 thumb", "\"thumb\" is no button; known are left, middle, right");
-        row("wheel m_pA far", "\"far\" is no number of notches");
-        row("wheel m_pA nan", "\"nan\" is no number of notches");
+        row("press m_pA 1 2 thumb", "\"thumb\" is not a button; choose from left, middle, right");
+        row("wheel m_pA far", "\"far\" is not a number of notches");
+        row("wheel m_pA nan", "\"nan\" is not a number of notches");
         row("wheel m_pA 1 2", "a position is two whole numbers: x y");
         row("canvas jump 1 2",
-            "unknown step \"jump\" of the canvas; known are click, doubleclick, rightclick, move, "
-            "press, release, wheel");
-        row("canvas click 1 2cm", "\"2cm\" is no length (a number, and um, mm, mil or inch)");
-        row("canvas click inf 2", "\"inf\" is no length (a number, and um, mm, mil or inch)");
+            "unknown step \"jump\" of the canvas; choose from click, doubleclick, rightclick, "
+            "move, press, release, wheel");
+        row("canvas click 1 2cm", "\"2cm\" is not a length (a number, and um, mm, mil or inch)");
+        row("canvas click inf 2", "\"inf\" is not a length (a number, and um, mm, mil or inch)");
         row("canvas click 1 2 3", "wrong number of words; usage: canvas click X Y");
         row("canvas wheel 1 2", "wrong number of words; usage: canvas wheel X Y NOTCHES");
-        row("box open", "\"open\" is no answer; known are accept, reject, discard");
+        row("box open", "\"open\" is not an answer; choose from accept, reject, discard");
         row("box accept colour=red", "\"colour=red\" is neither title=... nor text=...");
-        row("expect rain", "\"rain\" cannot be expected; known are message, nothing, state");
-        row("expect message", "\"\" is no message code");
-        row("expect message fifty", "\"fifty\" is no message code");
+        row("expect rain", "\"rain\" cannot be expected; choose from message, nothing, state");
+        row("expect message", "\"\" is not a message code");
+        row("expect message fifty", "\"fifty\" is not a message code");
         row("expect message 50 N:int=x", "\"N:int=x\" cannot be expected of a message");
         row("expect message 50 total=x", "\"total=x\" cannot be expected of a message");
         row("expect message 50 extra:list=x", "\"extra:list=x\" cannot be expected of a message");
         row("expect message 50 Features", "\"Features\" cannot be expected of a message");
         row("expect nothing more", "nothing follows \"nothing\"");
         row("expect state m_pA", "usage: expect state NAME PROPERTY=VALUE ...");
-        row("expect state m_pA checked", "\"checked\" is no state PROPERTY=VALUE");
+        row("expect state m_pA checked", "\"checked\" is not a state PROPERTY=VALUE");
     }
 
     void wrongSteps()

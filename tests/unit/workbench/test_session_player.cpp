@@ -179,7 +179,7 @@ private Q_SLOTS:
         QTest::newRow("outside") << "click m_pPad 5000 1\n"
                                  << "demo:1: \"m_pPad\" is only ";
         QTest::newRow("no combo box") << "choose m_pTextLE one\n"
-                                      << "demo:1: \"m_pTextLE\" is no combo box";
+                                      << "demo:1: \"m_pTextLE\" is not a combo box";
         QTest::newRow("no item") << "choose m_pChoiceCMB four\n"
                                  << "demo:1: ";
     }

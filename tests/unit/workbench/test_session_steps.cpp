@@ -309,7 +309,7 @@ private Q_SLOTS:
         QCOMPARE(chosen, (QStringList{"&Start", "S&top"}));
         QCOMPARE(play("menu m_pDemoMenu End\n"),
                  QString("demo:1: no entry \"End\" to choose in the menu; there is Start, Stop"));
-        QCOMPARE(play("menu m_pSendPB Start\n"), QString("demo:1: \"m_pSendPB\" is no menu"));
+        QCOMPARE(play("menu m_pSendPB Start\n"), QString("demo:1: \"m_pSendPB\" is not a menu"));
 
         QWidget other(m_window.get(), Qt::Window);
         other.setObjectName("m_pOther");
@@ -324,7 +324,7 @@ private Q_SLOTS:
         QCOMPARE(play("choose m_pChoiceCMB two\n"), QString("demo:1: the item \"two\" is greyed"));
         QCOMPARE(play("set m_pChoiceCMB two\nexpect state m_pChoiceCMB current=two\n"), QString());
         QVERIFY(play("set m_pChoiceCMB three\n").startsWith("demo:1: no item \"three\""));
-        QCOMPARE(play("set m_pSendPB two\n"), QString("demo:1: \"m_pSendPB\" is no combo box"));
+        QCOMPARE(play("set m_pSendPB two\n"), QString("demo:1: \"m_pSendPB\" is not a combo box"));
     }
 };
 

@@ -204,15 +204,15 @@ private Q_SLOTS:
         QTest::newRow("open quote") << "\ntype a \"b\n"
                                     << "demo:2: ";
         QTest::newRow("key") << "key a NoSuchKey\n"
-                             << "demo:1: \"NoSuchKey\" is no key";
+                             << "demo:1: \"NoSuchKey\" is not a key";
         QTest::newRow("code") << "send twelve\n"
                               << "demo:1: ";
         QTest::newRow("time") << "wait -1\n"
-                              << "demo:1: \"-1\" is no time";
+                              << "demo:1: \"-1\" is not a time";
         QTest::newRow("picture") << "picture a.xyz\n"
                                  << "demo:1: \"a.xyz\" does not end";
         QTest::newRow("box") << "box refuse\n"
-                             << "demo:1: \"refuse\" is no answer";
+                             << "demo:1: \"refuse\" is not an answer";
     }
 
     void wrongSessions()

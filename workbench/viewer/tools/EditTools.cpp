@@ -91,8 +91,7 @@ const ClickEdit Edits::remove = {QT_TRANSLATE_NOOP("EditTools", "Delete feature"
                                  withoutMeant};
 const ClickEdit Edits::removeToIntersection = {
     QT_TRANSLATE_NOOP("EditTools", "Delete to intersection"),
-    QT_TRANSLATE_NOOP("EditTools", "Click the part of a line that is to go."),
-    withoutToIntersection};
+    QT_TRANSLATE_NOOP("EditTools", "Click the part of a line to delete."), withoutToIntersection};
 const ClickEdit Edits::invert = {
     QT_TRANSLATE_NOOP("EditTools", "Invert feature"),
     QT_TRANSLATE_NOOP("EditTools", "Click a feature to invert its polarity."), withInverted};
@@ -104,25 +103,25 @@ const ClickEdit Edits::mirror = {QT_TRANSLATE_NOOP("EditTools", "Mirror feature"
                                  withMirrored};
 const ClickEdit Edits::breakLine = {
     QT_TRANSLATE_NOOP("EditTools", "Break line"),
-    QT_TRANSLATE_NOOP("EditTools", "Click the place where a line is to break."), withBroken};
+    QT_TRANSLATE_NOOP("EditTools", "Click a line where it should break."), withBroken};
 const MoveEdit Edits::move = {QT_TRANSLATE_NOOP("EditTools", "Move feature"),
                               QT_TRANSLATE_NOOP("EditTools", "Click a feature to move it."),
                               Pcb::withMoved, false};
 const MoveEdit Edits::copy = {QT_TRANSLATE_NOOP("EditTools", "Copy feature"),
                               QT_TRANSLATE_NOOP("EditTools", "Click a feature to copy it."),
                               Pcb::withCopied, true};
-const LineEndEdit Edits::changeAngle = {
-    QT_TRANSLATE_NOOP("EditTools", "Change line angle"),
-    QT_TRANSLATE_NOOP("EditTools", "Click the direction that it is to have."), turnedTo};
-const LineEndEdit Edits::stretch = {QT_TRANSLATE_NOOP("EditTools", "Stretch line"),
-                                    QT_TRANSLATE_NOOP("EditTools", "Click the place of the end."),
-                                    Pcb::stretched};
+const LineEndEdit Edits::changeAngle = {QT_TRANSLATE_NOOP("EditTools", "Change line angle"),
+                                        QT_TRANSLATE_NOOP("EditTools", "Click the new direction."),
+                                        turnedTo};
+const LineEndEdit Edits::stretch = {
+    QT_TRANSLATE_NOOP("EditTools", "Stretch line"),
+    QT_TRANSLATE_NOOP("EditTools", "Click the new position of the end."), Pcb::stretched};
 
 void ClickEditTool::press(const QPointF& point, bool /*extends*/)
 {
     const int feature = canvas().featureAt(point);
     if (feature < 0) {
-        canvas().say(tr("There is no feature."));
+        canvas().say(tr("No feature here."));
         return;
     }
     const FeatureClick click{feature, meantBy(document(), feature), point};
@@ -141,7 +140,7 @@ void MoveTool::press(const QPointF& point, bool /*extends*/)
     }
     const int feature = canvas().featureAt(point);
     if (feature < 0) {
-        canvas().say(tr("There is no feature."));
+        canvas().say(tr("No feature here."));
         return;
     }
     m_grabbed = meantBy(document(), feature);
@@ -182,7 +181,7 @@ Overlay MoveTool::overlay() const
 QString MoveTool::hint() const
 {
     return m_grabbed.empty() ? tr(m_edit.hint)
-                             : tr("Click the place where it is to go; a right click gives it up.");
+                             : tr("Click the new position; a right click cancels.");
 }
 
 void LineEndTool::press(const QPointF& point, bool /*extends*/)
@@ -224,5 +223,5 @@ Overlay LineEndTool::overlay() const
 
 QString LineEndTool::hint() const
 {
-    return m_feature < 0 ? tr("Click near the end of a line that is to move.") : tr(m_edit.hint);
+    return m_feature < 0 ? tr("Click near the line end to move.") : tr(m_edit.hint);
 }

@@ -22,7 +22,7 @@ struct ClickEdit {
     std::optional<Pcb::Edit> (*edited)(const Pcb::Board& board, const FeatureClick& click);
 };
 
-/// What is done to features that go from one place to another.
+/// What is done to features that are taken from one place to another.
 struct MoveEdit {
     const char* name;
     const char* hint;
@@ -87,7 +87,7 @@ private:
     void drop(const QPointF& point);
 
     const MoveEdit& m_edit;
-    Pcb::Indexes m_grabbed;  ///< empty: nothing is on its way
+    Pcb::Indexes m_grabbed;  ///< empty: nothing is grabbed
     QPointF m_from;
     QPointF m_cursor;
 };

@@ -56,7 +56,7 @@ QString PlaceTool::hint() const
         return tr("Click where the feature begins; its code cannot carry \"%1\".").arg(leftOut);
     }
     if (m_placement.isActive()) {
-        return tr("Click the next point; a right click gives it up.");
+        return tr("Click the next point; a right click cancels.");
     }
     const bool hasSymbol = brush.kind != Kind::Surface && brush.kind != Kind::Text;
     return hasSymbol && !brush.symbolNamed

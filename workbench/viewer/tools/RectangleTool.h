@@ -14,7 +14,7 @@ public:
     Overlay overlay() const override;
 
 protected:
-    /// The rectangle is there. `extends`: Ctrl was held at the last press.
+    /// The rectangle is complete. `extends`: Ctrl was held at the last press.
     virtual void take(const QRectF& rectangle, bool extends) = 0;
 
     bool isActive() const { return m_isActive; }

@@ -5,8 +5,8 @@
 
 namespace {
 
-/// Both together where the selection is extended, else the new ones alone. What is picked again
-/// one by one is given up.
+/// Both together where the selection is extended, else the new ones alone. A single feature
+/// that is picked again is deselected.
 Pcb::Indexes joined(const Pcb::Indexes& before, const Pcb::Indexes& picked, bool extends)
 {
     if (!extends) {
@@ -40,7 +40,7 @@ Pcb::Indexes joinedLines(const Pcb::Board& board, int feature)
 }  // namespace
 
 const Group Groups::layerNet = {
-    QT_TRANSLATE_NOOP("SelectionTools", "Click a feature to select all that touches it."),
+    QT_TRANSLATE_NOOP("SelectionTools", "Click a feature to select everything that touches it."),
     Pcb::touching};
 const Group Groups::boardNet = {
     QT_TRANSLATE_NOOP("SelectionTools", "Click a feature to select its net."), Pcb::netOf};
@@ -59,7 +59,7 @@ void FeatureSelectionTool::press(const QPointF& point, bool extends)
 
 QString FeatureSelectionTool::hint() const
 {
-    return tr("Click a feature to select it; with Ctrl one more.");
+    return tr("Click a feature to select it; hold Ctrl to add one.");
 }
 
 void RectangleSelectionTool::take(const QRectF& rectangle, bool extends)

@@ -33,7 +33,7 @@ void HighlightTool::press(const QPointF& point, bool /*extends*/)
 
 QString HighlightTool::hint() const
 {
-    return tr("Click a feature to highlight its net; once more to end that.");
+    return tr("Click a feature to highlight its net, and again to end it.");
 }
 
 void MarkTool::press(const QPointF& point, bool /*extends*/)
@@ -60,7 +60,7 @@ void MarkTool::finish()
         cancel();
         return;
     }
-    document().setMarks(tr("Take marks away"), {});
+    document().setMarks(tr("Remove marks"), {});
 }
 
 Overlay MarkTool::overlay() const
@@ -71,7 +71,7 @@ Overlay MarkTool::overlay() const
 QString MarkTool::hint() const
 {
     return m_first ? tr("Click the second point to mark.")
-                   : tr("Click the first point to mark; a right click takes the marks away.");
+                   : tr("Click the first point to mark; a right click removes the marks.");
 }
 
 void MeasureTool::press(const QPointF& point, bool /*extends*/)
@@ -101,7 +101,7 @@ void PickTool::press(const QPointF& point, bool /*extends*/)
 {
     const int feature = canvas().featureAt(point);
     if (feature >= 0) {
-        // The listener may put another tool into this one's place.
+        // The listener may replace this tool by another.
         const Listener listener = m_listener;
         listener(feature);
     }

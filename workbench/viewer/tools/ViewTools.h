@@ -9,7 +9,7 @@
 #include <optional>
 #include <utility>
 
-/// Shows a rectangle of the board as large as can be.
+/// Shows a rectangle of the board as large as possible.
 class AreaZoomTool : public RectangleTool {
     Q_DECLARE_TR_FUNCTIONS(ViewTools)
 
@@ -22,7 +22,7 @@ protected:
     void take(const QRectF& rectangle, bool /*extends*/) override { canvas().showArea(rectangle); }
 };
 
-/// Lets what belongs to a feature's net stand out, until it is clicked again.
+/// Highlights what belongs to a feature's net, until it is clicked again.
 class HighlightTool : public CanvasTool {
     Q_DECLARE_TR_FUNCTIONS(ViewTools)
 
@@ -33,7 +33,7 @@ public:
     QString hint() const override;
 };
 
-/// Marks the way between two points. A right click takes all marks away.
+/// Marks the way between two points. A right click removes all marks.
 class MarkTool : public CanvasTool {
     Q_DECLARE_TR_FUNCTIONS(ViewTools)
 
