@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What check.sh must find in a small tree, and what it must let pass. Usage: notices.sh CHECK
+# What check.sh must find in a small tree, and what it must accept. Usage: notices.sh CHECK
 set -u
 check=$(realpath "$1")
 tree=$(mktemp -d)

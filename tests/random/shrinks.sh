@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# A planted fault (the fill request counts as one) is found, shrinks to a few steps, and those fail
+# A planted fault (the fill request counts as one) is found and shrunk to a few steps, which fail
 # again in the same way. Usage: shrinks.sh RANDOM_USE
 set -u
 dir=$(mktemp -d)
