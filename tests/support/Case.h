@@ -4,8 +4,8 @@
 #include "Expect.h"
 #include "Steps.h"
 
-/// One row of a table: after what is given, one thing is done, and what is expected happens.
-/// What is not expected must not happen.
+/// One row of a table: after the given steps, one thing is done, and what is expected happens.
+/// Nothing else may happen.
 class Case {
 public:
     explicit Case(const QString& name = {}) : m_name(name) {}
@@ -36,6 +36,6 @@ private:
 using Cases = QList<Case>;
 Q_DECLARE_METATYPE(Case)
 
-/// Adds a row for each case; `runCase` takes the one that is current.
+/// Adds a row for each case; `runCase` runs the current one.
 void addCases(const Cases& cases);
 void runCase();

@@ -142,7 +142,7 @@ void DialogFixture::press(Qt::Key key) const
 void DialogFixture::leave(By way) const
 {
     if (way == By::Mouse) {
-        // The windowless platform moves no focus by a click: done by hand, as a click would.
+        // A click does not move the focus on the windowless platform: done here as a click would.
         find("m_pLineTB").setFocus(Qt::MouseFocusReason);
     } else {
         press(way == By::Tab ? Qt::Key_Tab : Qt::Key_Return);
@@ -206,8 +206,8 @@ bool DialogFixture::isShown(const QString& name) const
 
 QVariantMap DialogFixture::record()
 {
-    // Code 52 carries the record whatever the symbol field says. It comes with the angle, or, where
-    // an entry in the angle is not finished, which must not be taken here, with the direction.
+    // Code 52 carries the record whatever the symbol field shows. It comes with the angle, or with
+    // the direction if an entry in the angle is unfinished, which must not be taken here.
     const int before = recorder.messages().size();
     if (agreement->isPending("m_pAngleLE")) {
         QMetaObject::invokeMethod(dialog, "on_Line_Button_Clicked",

@@ -14,7 +14,7 @@
 #include <memory>
 #include <string>
 
-/// What lengths are shown and typed in.
+/// The unit that lengths are shown and typed in.
 enum class Unit { Mil, Metric };
 Q_DECLARE_METATYPE(Unit)
 
@@ -22,11 +22,11 @@ Q_DECLARE_METATYPE(Unit)
 enum class By { Tab, Enter, Mouse };
 Q_DECLARE_METATYPE(By)
 
-/// The dialog beside a tool strip in a host's window, with a job, a recording canvas, its boxes
-/// answered, and its fields held against its record. The Add Feature tool is active.
+/// The dialog next to a tool strip in a host's window, with a job, a recording canvas, its boxes
+/// answered, and its fields compared with its record. The Add Feature tool is active.
 class DialogFixture : public StripFixture {
 public:
-    /// Alone, nothing connects the strip to the dialog, which is built in the unit. The strip's
+    /// Alone, the dialog is not connected to the strip, and is built in the unit. The strip's
     /// button connects them, and a dialog that it opened is told the unit.
     enum class Opened { Alone, ByTheStrip };
 
@@ -46,16 +46,16 @@ public:
 
     /// The focus stays where it is.
     void click(const QString& name) const;
-    /// Clicks on a feature type and forgets what that has sent.
+    /// Clicks on a feature type and forgets what that sent.
     void chooseType(const QString& button);
-    /// Takes the item of that text.
+    /// Chooses the item with that text.
     void choose(const QString& combo, const QString& item) const;
     void focus(const QString& name) const;
     /// Replaces what the field shows, and stays in it.
     void type(const QString& field, const QString& text) const;
     /// Presses the key in whatever has the focus.
     void press(Qt::Key key) const;
-    /// Leaves the field that has the focus; by the mouse to a control that is always there.
+    /// Leaves the field that has the focus; with the mouse, to a control that is always there.
     void leave(By way = By::Mouse) const;
     void perform(const Steps& steps) const;
     /// Brings the window back, through the strip's button, and makes it the active one.
@@ -68,7 +68,7 @@ public:
     void pick(const std::string& symbol) const;
     void setUnit(Unit unit) const;
     void setToolActive(bool active) const;
-    /// A box of the host's, which has nothing to do with the dialog.
+    /// A box of the host's that has nothing to do with the dialog.
     void openHostBox();
 
     // What is seen.
@@ -77,7 +77,7 @@ public:
     /// The parameter record as the next message would carry it. Sends nothing.
     QVariantMap record();
     QVariant value(const QString& key) { return record().value(key); }
-    /// The record that was sent last; where none was, the one that the next message carries.
+    /// The record that was sent last; if none was, the one that the next message carries.
     QVariantMap lastRecord();
 
     BoxCatcher boxes;

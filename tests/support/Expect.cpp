@@ -10,7 +10,7 @@ namespace {
 
 const QString anyHostBox = QStringLiteral("*");
 
-/// Tells "5" and 5 apart, which a comparison of two variants does not.
+/// Distinguishes "5" and 5, which a comparison of two variants does not.
 QStringList described(const QVariantMap& record)
 {
     QStringList lines;

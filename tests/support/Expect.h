@@ -12,7 +12,7 @@ class DialogFixture;
 /// box opens, the record stays as it was.
 namespace Expect {
 
-/// A state of a control, and the words for it.
+/// A state of a control, with a description.
 struct State {
     QString words;
     std::function<bool(const DialogFixture&)> holds;
@@ -38,11 +38,11 @@ Expectation sent(Codes... codes)
 }
 
 Expectation box(const QString& title, const QString& text);
-/// A box of the host's, whose words are its own.
+/// A box of the host's, with its own words.
 Expectation hostBox();
-/// The box that refuses a length up to that bound in the unit of the moment.
+/// The box that refuses a length up to that bound in the current unit.
 Expectation lengthBox(int bound);
-/// The box that refuses a coordinate up to that bound, either way, in the unit of the moment.
+/// The box that refuses a coordinate up to that bound, either way, in the current unit.
 Expectation coordinateBox(int bound);
 
 Expectation text(const QString& field, const QString& text);
@@ -54,17 +54,17 @@ Expectation disabled(const QString& control);
 Expectation checked(const QString& button);
 Expectation unchecked(const QString& button);
 
-/// Fails where the record is another one: a key missing or too much, a value or its type another.
+/// Fails if the record differs: a key missing or extra, a different value or type.
 void sameRecord(const QVariantMap& actual, const QVariantMap& expected);
 
-/// Fails where boxes are others than the expected ones.
+/// Fails if the boxes are not the expected ones.
 void sameBoxes(const QStringList& actual, const QStringList& expected);
 
-/// Fails where a state is another one.
+/// Fails if a state differs.
 void states(const DialogFixture& fixture, const QList<State>& expected);
 
-/// Looks at the fixture as it stands: at the states that are named, and at those entries, in the
-/// record and in the message that carried it last.
+/// Checks the fixture as it is now: the named states, and those entries in the record and in the
+/// message that carried it last.
 void holds(DialogFixture& fixture, const Expectations& expectations);
 
 }  // namespace Expect

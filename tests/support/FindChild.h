@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QWidget>
 
-/// The child of that object name; without one the test ends with the names that there are.
+/// The child with that object name; without it the test ends with a list of the names.
 template <class T = QWidget>
 T& findNamed(const QWidget& parent, const QString& name)
 {

@@ -8,7 +8,7 @@
 
 class DialogFixture;
 
-/// Something that is done with the dialog, and the words for it. A table of cases lists them.
+/// Something that is done with the dialog, with a description. A table of cases lists them.
 struct Step {
     QString words;
     QString control;
@@ -24,7 +24,7 @@ struct Click : Step {
     explicit Click(const QString& button);
 };
 
-/// Takes the item of that text.
+/// Chooses the item with that text.
 struct Choose : Step {
     Choose(const QString& combo, const QString& item);
 };

@@ -19,7 +19,7 @@ public:
 
     QToolButton* button(Tool tool) const;
     QList<Tool> checked() const;
-    /// Hands the strip a message of a sibling's, as the manager does.
+    /// Hands the strip a message from a sibling, as the manager does.
     void receive(int code, const QVariantMap& payload = {}, qint64 extra = 0) const;
 
     Recorder recorder;
@@ -29,5 +29,5 @@ public:
 
 QList<Tool> allTools();
 
-/// What a failing comparison of tools says: the button's object name.
+/// What a failing comparison of tools prints: the button's object name.
 char* toString(Tool tool);
