@@ -41,6 +41,6 @@ public:
 private:
     QVector<Entry> m_messages;
     std::function<void(const Entry&)> m_onMessage;
-    char m_canvas = 0;  // what the manager knows as the two instances
+    char m_canvas = 0;  // registered with the manager as the two instances
     char m_jobTree = 0;
 };
