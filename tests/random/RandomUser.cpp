@@ -150,7 +150,7 @@ QString RandomUser::faultOfMessages()
             return QStringLiteral("the forbidden code %1").arg(entry.message.code);
         }
         if (entry.sender != m_window.get()) {
-            return QStringLiteral("%1 with another sender").arg(entry.message.code);
+            return QStringLiteral("%1 with a different sender").arg(entry.message.code);
         }
         QString found = Invariants::faultOf(entry);
         if (!found.isEmpty()) {

@@ -109,7 +109,7 @@ public:
         }
         numbers = shrunk(numbers, fails);
         write(numbers, target);
-        m_out << numbers.size() << " steps are left of " << m_steps << "; again: --numbers "
+        m_out << numbers.size() << " steps are left of " << m_steps << "; to replay: --numbers "
               << target << " --story\n";
         return failed;
     }

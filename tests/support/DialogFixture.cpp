@@ -103,7 +103,7 @@ void DialogFixture::choose(const QString& combo, const QString& item) const
     auto& box = find<QComboBox>(combo);
     const int index = box.findText(item);
     if (index < 0) {
-        qFatal("%s has no \"%s\", but: %s", qPrintable(combo), qPrintable(item),
+        qFatal("%s has no \"%s\", only: %s", qPrintable(combo), qPrintable(item),
                qPrintable(itemTexts(box).join(", ")));
     }
     box.setCurrentIndex(index);
@@ -216,7 +216,7 @@ QVariantMap DialogFixture::record()
         QMetaObject::invokeMethod(dialog, "on_m_pAngleLE_editingFinished");
     }
     if (recorder.messages().size() == before) {
-        qFatal("the fixed angle is one that is refused: no record to see");
+        qFatal("the fixed angle is refused: no record to see");
     }
     const QVariantMap record = recorder.messages().last().message.payload;
     recorder.truncate(before);

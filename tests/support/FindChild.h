@@ -15,7 +15,7 @@ T& findNamed(const QWidget& parent, const QString& name)
     for (const QObject* const child : parent.findChildren<T*>()) {
         names.append(child->objectName());
     }
-    qFatal("%s has no %s \"%s\", but: %s", qPrintable(parent.objectName()),
+    qFatal("%s has no %s \"%s\", only: %s", qPrintable(parent.objectName()),
            T::staticMetaObject.className(), qPrintable(name), qPrintable(names.join(' ')));
 }
 
