@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Measures every figure of the module beside its floor, and prints one table; docs/performance.md
+# Measures every figure of the module next to its floor, and prints one table; docs/performance.md
 # says how to read it, and --markdown replaces the table there.
 # Usage: ./bench.sh [--json FILE] [--markdown] [--only TEXT] [--repetitions N]
 set -u
 options=() previous=
 for option in "$@"; do
-    # A relative name is one in the caller's directory.
+    # A relative name is relative to the caller's directory.
     if [ "$previous" = --json ]; then
         option=$(realpath -m "$option")
     elif [[ $option = --json=* ]]; then

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds everything and runs the tests. Usage: ./test.sh [--full] [PRESET] [ctest options]
 # PRESET is release (the default), debug, asan or coverage. The daily run has every test of what the
-# programs do; --full adds what guards the borders: other compilers, headers that stand on their own,
+# programs do; --full adds what guards the borders: other compilers, self-contained headers,
 # packages, wrong hosts, a longer random run.
 set -u
 . "$(dirname "$0")/scripts/prepare.sh"
@@ -22,6 +22,6 @@ release | debug | asan | coverage)
 esac
 need_packages "${purposes[@]}"
 build "$preset" all benchmarks
-# Most tests wait for windows and timers: two for each core.
+# Most tests wait for windows and timers: run two per core.
 ctest --test-dir "build/$preset" --output-on-failure --parallel "$((2 * $(nproc)))" \
     "${chosen[@]}" "$@"

@@ -1,4 +1,4 @@
-// What the hand does on a large board beside the same on a small one: the workbench's canvas.
+// Work by hand on a large board compared with a small one: the workbench's canvas.
 
 #include "Groups.h"
 #include "Runner.h"
@@ -15,7 +15,7 @@ namespace {
 
 constexpr double pitch = 700;  // micrometres from feature to feature
 
-/// Pads, lines and arcs in rows, of nets of a hundred features.
+/// Pads, lines and arcs in rows, in nets of a hundred features.
 Pcb::Feature featureOfRow(int index, const QPointF& place)
 {
     static const char* const pads[] = {"r20", "rect16x10", "oval18x10", "s14", "r12"};
@@ -48,7 +48,7 @@ Pcb::Board boardOf(int count)
     return board;
 }
 
-/// A view that shows the whole of a board, painted once.
+/// A view that shows a whole board, painted once.
 struct OpenedBoard {
     explicit OpenedBoard(int count) : view(&canvas.scene())
     {
@@ -111,7 +111,7 @@ void hover(benchmark::State& state, int count)
     }
 }
 
-/// Each deletion is undone again, which is not measured with it; and the other way round.
+/// Each deletion is undone again, unmeasured; and the other way round.
 void edit(benchmark::State& state, int count, bool undoes)
 {
     OpenedBoard board(count);

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-/// Who receives the messages of a floor, by value and through a virtual call.
+/// Receives the messages of a floor, by value and through a virtual call.
 class Receiver {
 public:
     virtual ~Receiver() = default;
@@ -17,7 +17,7 @@ public:
     explicit Canvas(bool keeps = true) : m_keeps(keeps) {}
     void receive(PluginMetaData message) override { take(message); }
 
-    /// What becomes of a message that has arrived, by either way.
+    /// What happens to a message that has arrived, either way.
     void take(PluginMetaData& message)
     {
         ++m_count;
@@ -37,7 +37,7 @@ private:
 
 /// While it lives, the plug-in manager that the module is linked with gives every message, which it
 /// gets by value, straight to `canvas`. The manager of the stand-ins looks instances up and shows
-/// messages to an observer, which is no work of the module's.
+/// messages to an observer, which is not the module's work.
 class Connected {
 public:
     explicit Connected(Canvas& canvas);

@@ -1,4 +1,4 @@
-// Figures of a click on a tool, until the canvas has its message.
+// Figures for a click on a tool, until the canvas has its message.
 
 #include "Canvas.h"
 #include "Groups.h"

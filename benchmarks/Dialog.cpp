@@ -1,4 +1,4 @@
-// Figure of the Add Feature dialog's life.
+// Figure for the Add Feature dialog's life.
 
 #include "Canvas.h"
 #include "DialogWindow.h"
@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Sees the first paint of the widget that it watches.
+/// Notices the first paint of the widget that it watches.
 class PaintWatch : public QObject {
 public:
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
@@ -31,8 +31,8 @@ private:
     bool m_painted = false;
 };
 
-/// How many widgets of each kind that matters there are, and how high the window is: the copy must
-/// have the same.
+/// The number of widgets of each kind that matters, and the window's height: the copy must have the
+/// same.
 QVector<int> census(const QWidget& dialog)
 {
     return {dialog.findChildren<QWidget*>().size(),

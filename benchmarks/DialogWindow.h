@@ -6,7 +6,7 @@
 class AddFeature;
 class Canvas_Tool_Strip;
 
-/// A job with two special symbols becomes the only one; the unit is mil.
+/// Makes a job with two special symbols the only one; the unit is mil.
 void openBenchmarkJob(int specialSymbols = 2);
 
 /// A shown strip with Add Feature as its tool, and the shown dialog with the symbol r10. Messages

@@ -7,8 +7,8 @@
 
 namespace {
 
-// What allocator and platform may keep for themselves, which counts as held. A leak of the least
-// block in each click or send would be several times as much, even in a quick run.
+// What allocator and platform may keep for themselves, which counts as held. A leak of the smallest
+// block per click or send would be several times as much, even in a quick run.
 constexpr double allocatorCaches = 65536;
 
 }  // namespace

@@ -2,11 +2,11 @@
 
 #include <vector>
 
-/// What the number of a figure is.
+/// What the number of a figure means.
 enum class Kind {
     Ratio,     ///< the project's time over the floor's
     Exponent,  ///< e in "time grows as n^e", fitted over four decades
-    Bytes,     ///< heap that is held at the end and was not at the start
+    Bytes,     ///< heap that is held at the end but was not at the start
     Count,     ///< calls
 };
 
@@ -21,5 +21,5 @@ struct Figure {
 /// All figures, in the order of the table.
 const std::vector<Figure>& figures();
 
-/// The figure of that id; ends the program for an unknown one.
+/// The figure with that id; ends the program for an unknown one.
 const Figure& figure(const char* id);

@@ -2,7 +2,7 @@
 
 class Runner;
 
-// The figures by group; each adds its own to the runner.
+// The groups of figures; each adds its own to the runner.
 void addStripFigures(Runner& runner);
 void addClickFigures(Runner& runner);
 void addIncomingFigures(Runner& runner);

@@ -1,4 +1,4 @@
-// How times grow with what comes in at once.
+// How times grow with the amount that comes in at once.
 
 #include "Canvas.h"
 #include "DialogWindow.h"
@@ -24,7 +24,7 @@ namespace {
 
 using Attributes = std::vector<std::pair<std::string, std::string>>;
 
-/// In the order of their names, as a map hands them over.
+/// Ordered by name, as a map hands them over.
 Attributes attributes(long count)
 {
     Attributes list;

@@ -1,4 +1,4 @@
-// How often a send asks the host.
+// How often a send calls the host.
 
 #include "DialogWindow.h"
 #include "Groups.h"

@@ -1,4 +1,4 @@
-// Figures of a message of a sibling module, handed to the exported entry point.
+// Figures for a message from a sibling module, handed to the exported entry point.
 
 #include "Canvas.h"
 #include "DialogWindow.h"
@@ -69,7 +69,7 @@ struct Delivery {
     PluginMetaData message;
 };
 
-/// Hands the messages over again and again; all queued events are handled meanwhile, untimed.
+/// Hands over the messages again and again; queued events are handled in between, untimed.
 void deliver(benchmark::State& state, Entry entry, const std::vector<Delivery>& deliveries)
 {
     const auto deliverAll = [&] {
@@ -77,7 +77,7 @@ void deliver(benchmark::State& state, Entry entry, const std::vector<Delivery>& 
             entry(delivery.instance, delivery.message);
         }
     };
-    deliverAll();  // opens what is opened once
+    deliverAll();  // opens what opens only once
     QApplication::processEvents();
     benchmark::DoNotOptimize(entry);
     for (auto _ : state) {
@@ -93,7 +93,7 @@ void listen(Sender* sender, long& heard, Sent... sent)
     (QObject::connect(sender, sent, sender, [&heard] { ++heard; }), ...);
 }
 
-/// Each message goes to a strip of its own, so that none meets what another has opened.
+/// Each message goes to a strip of its own, so that none finds what another has opened.
 void deliverToStrips(benchmark::State& state, const std::vector<int>& codes)
 {
     using Strip = Canvas_Tool_Strip;
@@ -166,7 +166,7 @@ void addIncomingFigures(Runner& runner)
 {
     addPair(runner, "all in turn", allCodes);
     if (runner.effort().only.empty()) {
-        return;  // most of the single ones are too short for a ratio that holds on every machine
+        return;  // most single ones are too short for a ratio that is stable on every machine
     }
     for (const int code : allCodes) {
         addPair(runner, code == unknownCode ? "any other code" : std::to_string(code), {code});

@@ -1,4 +1,4 @@
-// Figures of a key pressed in a field, until the canvas has its message.
+// Figures for a key pressed in a field, until the canvas has its message.
 
 #include "DialogWindow.h"
 #include "Groups.h"
@@ -17,7 +17,7 @@ struct Key {
     QString text;
 };
 
-/// Presses the keys in turn; each must send as many messages.
+/// Presses the keys in turn; each must send `messages` messages.
 void pressInTurn(benchmark::State& state, const Canvas& canvas, QLineEdit* field,
                  const QVector<Key>& keys, long messages)
 {
@@ -30,7 +30,7 @@ void pressInTurn(benchmark::State& state, const Canvas& canvas, QLineEdit* field
         QApplication::sendEvent(field, &press);
     }
     if (canvas.count() - before != pressed * messages) {
-        state.SkipWithError("a key sent not the messages that it should");
+        state.SkipWithError("a key did not send the messages that it should");
     }
     QApplication::processEvents();
 }
@@ -41,7 +41,7 @@ const QVector<Key>& returnKey()
     return keys;
 }
 
-/// A digit comes and goes, so that each press changes the text.
+/// A digit is typed and removed, so that each press changes the text.
 const QVector<Key>& digitKeys()
 {
     static const QVector<Key> keys = {{Qt::Key_2, QStringLiteral("2")},

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// What the heap holds once the same tool is checked and all is painted.
+/// What the heap holds with the same tool checked and everything painted.
 double heldBytes(const DialogWindow& window)
 {
     qobject_cast<QToolButton*>(window.strip->itemAt(int(Tool::MoveFeature))->widget())->click();

@@ -1,4 +1,4 @@
-// Figure of a process that opens the library for the first time.
+// Figure for a process that opens the library for the first time.
 
 #include "Groups.h"
 #include "Runner.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Starts a process that opens the library named last; the time is the one that it tells.
+/// Starts a process that opens the library named last; the time is the one that it prints.
 void startProcess(benchmark::State& state, const QStringList& arguments)
 {
     for (auto _ : state) {

@@ -1,4 +1,4 @@
-// Figures of one change of the record and its message.
+// Figures for one change of the record and its message.
 
 #include "DialogWindow.h"
 #include "Groups.h"
@@ -23,7 +23,7 @@ void setRecordLog(bool on)
                                          .arg(QLatin1String(on ? "true" : "false")));
 }
 
-/// Log lines are made, and dropped by the handler, while this lives.
+/// While this lives, log lines are made, and dropped by the handler.
 class LogOn {
 public:
     LogOn() : m_handler(qInstallMessageHandler(dropLine)) { setRecordLog(true); }

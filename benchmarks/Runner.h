@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-/// How long and how often is measured.
+/// How long and how often to measure.
 struct Effort {
-    bool quick = false;            ///< once, with minimal time: shows that everything works
+    bool quick = false;            ///< once, as briefly as possible: shows that everything works
     int repetitions = 31;          ///< of each side of a pair
     double seconds = 0.03;         ///< of each repetition of a side
     double growthSeconds = 0.005;  ///< of each repetition of a size
@@ -20,16 +20,16 @@ struct Effort {
 /// A row of the table.
 struct Result {
     const Figure* figure = nullptr;
-    std::string part;    ///< what of the figure; empty when it has no parts
-    double project = 0;  ///< nanoseconds; of an exponent the largest size's time
-    double floor = 0;    ///< nanoseconds; of an exponent the least size's time
+    std::string part;    ///< of the figure; empty if it has no parts
+    double project = 0;  ///< nanoseconds; for an exponent the largest size's time
+    double floor = 0;    ///< nanoseconds; for an exponent the smallest size's time
     double value = 0;    ///< what is compared with the target
-    double spread = 0;   ///< of a ratio: half the middle half of the repetitions, over the median
+    double spread = 0;   ///< for a ratio: half the middle half of the repetitions, over the median
     bool holds() const { return value <= figure->target; }
 };
 
 /// Collects the benchmarks of all figures, and runs them one figure after the other: the two sides
-/// of a pair in random order in the same seconds, so that what the machine does meets both.
+/// of a pair in random order in the same seconds, so that what the machine does affects both.
 class Runner {
 public:
     using Body = std::function<void(benchmark::State&)>;
@@ -47,7 +47,7 @@ public:
     /// `count` returns the bytes or calls; it runs once.
     void addCheck(const char* id, const std::string& part, const std::function<double()>& count);
 
-    /// Runs everything wanted, and tells the progress on stderr.
+    /// Runs everything wanted, and reports progress on stderr.
     std::vector<Result> run();
 
 private:

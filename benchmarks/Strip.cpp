@@ -1,4 +1,4 @@
-// Figures of making and showing a tool strip.
+// Figures for making and showing a tool strip.
 
 #include "Canvas.h"
 #include "Groups.h"

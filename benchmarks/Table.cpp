@@ -14,7 +14,7 @@
 namespace {
 
 #ifdef __clang__
-constexpr char compiler[] = __VERSION__;  // with its name
+constexpr char compiler[] = __VERSION__;  // includes its name
 #else
 constexpr char compiler[] = "GCC " __VERSION__;
 #endif

@@ -1,4 +1,4 @@
-// Measures every figure beside its floor, and prints one table.
+// Measures every figure next to its floor, and prints one table.
 
 #include "Groups.h"
 #include "Runner.h"
@@ -19,8 +19,8 @@
 
 namespace {
 
-/// Nothing is logged while figures are measured, but where a figure says so. The windowless
-/// platform would tell at each raise() that it does not support it.
+/// Nothing is logged while figures are measured, unless a figure says so. The windowless platform
+/// would report at each raise() that it does not support it.
 void silenceLogs(char* program)
 {
     FLAGS_stderrthreshold = google::NUM_SEVERITIES;
@@ -32,8 +32,8 @@ void silenceLogs(char* program)
         QStringLiteral("canvastoolstrip.*=false\ndefault.warning=false"));
 }
 
-/// Memory that was got once is kept, as in a host that runs for long: what the kernel does to hand
-/// out empty pages anew is no work of either side.
+/// Memory that was allocated once is kept, as in a host that runs for long: what the kernel does to
+/// hand out empty pages again is not the work of either side.
 void keepMemory()
 {
     mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
@@ -49,18 +49,18 @@ void startBenchmarks(char* program)
     benchmark::Initialize(&count, arguments);
 }
 
-/// Ends the program where an option is not understood.
+/// Ends the program if an option is not understood.
 Effort readOptions(const QApplication& application, QString* jsonFile, QString* page)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Measures the module beside the least code that does the same work."));
+        QStringLiteral("Measures the module next to minimal code that does the same work."));
     parser.addHelpOption();
     const QCommandLineOption json(QStringLiteral("json"),
-                                  QStringLiteral("Write the figures to FILE as well."),
+                                  QStringLiteral("Also write the figures to FILE."),
                                   QStringLiteral("FILE"));
     const QCommandLineOption markdown(QStringLiteral("markdown"),
-                                      QStringLiteral("Write the table into the page FILE as well."),
+                                      QStringLiteral("Also write the table into the page FILE."),
                                       QStringLiteral("FILE"));
     const QCommandLineOption only(QStringLiteral("only"),
                                   QStringLiteral("Measure the figures whose id contains TEXT."),
@@ -70,7 +70,7 @@ Effort readOptions(const QApplication& application, QString* jsonFile, QString* 
         QStringLiteral("N"), QString::number(Effort().repetitions));
     const QCommandLineOption quick(
         QStringLiteral("quick"),
-        QStringLiteral("Measure once and shortly, to see that everything works."));
+        QStringLiteral("Measure once, briefly, to see that everything works."));
     parser.addOptions({json, markdown, only, repetitions, quick});
     parser.process(application);
 
@@ -87,7 +87,7 @@ Effort readOptions(const QApplication& application, QString* jsonFile, QString* 
     return effort;
 }
 
-/// What has no time in it holds always, however busy the machine.
+/// Whether every figure without a time holds, which it must however busy the machine is.
 bool untimedHold(const std::vector<Result>& results)
 {
     return std::all_of(results.begin(), results.end(), [](const Result& result) {
@@ -118,7 +118,7 @@ int main(int argc, char** argv)
     QString page;
     const Effort effort = readOptions(application, &jsonFile, &page);
     if (!page.isEmpty() && !effort.only.empty()) {
-        std::fputs("--markdown needs all figures, not those of --only\n", stderr);
+        std::fputs("--markdown needs all figures, not just those of --only\n", stderr);
         return EXIT_FAILURE;
     }
     silenceLogs(argv[0]);

@@ -8,7 +8,7 @@ set_target_properties(Canvas_Tool_Strip PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${CTS_MODULE_DIR}
     INSTALL_RPATH "$ORIGIN/../host")
 if(UNIX AND NOT APPLE)
-    # Template instances of Qt and the standard library would leave as weak symbols otherwise.
+    # Template instances of Qt and the standard library would be exported as weak symbols otherwise.
     set(CTS_EXPORTS ${CMAKE_CURRENT_SOURCE_DIR}/cmake/Canvas_Tool_Strip.map)
     target_link_options(Canvas_Tool_Strip PRIVATE
         LINKER:--version-script=${CTS_EXPORTS} LINKER:--no-undefined)

@@ -1,6 +1,6 @@
 # Three Debian packages: the module; the workbench with the stand-ins of the host's libraries; and
 # what is needed to build a module or a host: headers, the protocol library, the CMake packages.
-# Made by: cpack --config build/release/CPackConfig.cmake -B build/packages
+# To make them: cpack --config build/release/CPackConfig.cmake -B build/packages
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME canvas-tool-strip)
@@ -19,7 +19,7 @@ set(CPACK_COMPONENT_DEVELOPMENT_GROUP dev)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
-# Libraries of the system are found by what is linked; the stand-ins come with the workbench.
+# System libraries are found from what is linked; the stand-ins come with the workbench.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_MODULE_PACKAGE_NAME canvas-tool-strip)
@@ -47,7 +47,7 @@ modules share (message codes, keys and values), and the CMake packages
 CanvasHost and CanvasToolStrip.")
 include(CPack)
 
-# What every package says of itself, and how the workbench is found on a desktop.
+# What every package says about itself, and how the workbench is found on a desktop.
 set(sources ${PROJECT_SOURCE_DIR}/packaging)
 set(prepared ${PROJECT_BINARY_DIR}/packaging)
 configure_file(${sources}/changelog.in ${prepared}/changelog @ONLY)

@@ -17,13 +17,13 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CTS_MODULE_DIR ${CMAKE_BINARY_DIR}/modules)
-# Modules, stand-ins and translations, where other programs look for no library.
+# Modules, stand-ins and translations, where no other program looks for libraries.
 set(CTS_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/canvas-tool-strip)
 set(CTS_INSTALL_MODULE_DIR ${CTS_PRIVATE_DIR}/modules)
 
 find_program(CTS_CCACHE ccache)
 if(CTS_CCACHE)
-    # A precompiled header carries time stamps that ccache must be told to look past.
+    # A precompiled header carries time stamps that ccache must be told to ignore.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
         CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CTS_CCACHE})
 endif()

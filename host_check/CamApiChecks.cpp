@@ -41,10 +41,10 @@ constexpr StandardName standardNames[] = {
 
 constexpr const char* refusedNames[] = {
     "",
-    // No size, or none that is above 0
+    // No size, or none above 0
     "r", "s", "rect", "10", "x10", "r0", "r0.0", "s0", "r-1", "rect0x40", "rect20x0",
     "octagon20x40x0",
-    // Not as many sizes as the shape has
+    // A number of sizes other than the shape's
     "r10x20", "rect20", "rect20x", "rectx20", "rect20x40x5", "oval20", "oval20x40x5", "diamond20",
     "diamond1x2x3", "octagon20", "octagon20x40x5x5", "hexagon20", "triangle20", "triangle1x2x3",
     "ellipse20", "ellipse1x2x3", "ring_r60",
@@ -63,7 +63,7 @@ QString call(const char* name, bool arc)
              arc ? QStringLiteral("arc") : QStringLiteral("no arc"));
 }
 
-/// Both out values are set beforehand to what no answer leaves.
+/// Both out values are set beforehand to what no answer can be.
 void expectIdentified(Report& report, const StandardName& expected, bool arc, bool accepted)
 {
     const QString what = call(expected.name, arc);
@@ -109,7 +109,7 @@ void checkNamesOfJob(Report& report, const QString& function, NamesOf namesFunct
     }
     report.run(known, [&] {
         const QStringList names = namesOf(namesFunction, job.toStdString());
-        report.expect(known + QStringLiteral(" keeps what stood in the list"), false,
+        report.expect(known + QStringLiteral(" keeps what was in the list"), false,
                       names.contains(QStringLiteral("left over")));
         report.expect(known + QStringLiteral(" a second time"), names,
                       namesOf(namesFunction, job.toStdString()));

@@ -16,7 +16,7 @@ namespace {
 
 enum View { RoundsAndSquares, All };
 
-/// The name, which is in the user's unit, as it is stored.
+/// The name, given in the user's unit, as it is stored.
 std::string stored(const QString& name, const Situation& situation)
 {
     constexpr int typedToStored = 0;
@@ -38,8 +38,8 @@ Symbol identify(const std::string& name, bool arc)
     return symbol;
 }
 
-/// Chooses the first name of the list, then the last. `sent` is where the window's signals leave
-/// their names, each with the name that it brings.
+/// Chooses the first name of the list, then the last. `sent` is where the window's signals put
+/// their names, each with the name that it carries.
 void expectChosen(Report& report, const QString& signal, QWidget& window, QStringList& sent)
 {
     const QString what = QStringLiteral("%1: signals of a choice").arg(signal);
@@ -63,7 +63,7 @@ void expectChosen(Report& report, const QString& signal, QWidget& window, QStrin
     }
 }
 
-/// The symbols of the job itself are learnt from the chooser: nothing else tells their names.
+/// The job's own symbols are read from the chooser: nothing else gives their names.
 void checkOwnSymbols(Report& report, const Situation& situation, const QStringList& names)
 {
     int count = 0;

@@ -18,7 +18,7 @@ using Attributes = std::vector<std::pair<std::string, std::string>>;
 
 const Attributes picked = {{"cts_first", "1"}, {"cts_second", "two"}};
 
-/// The module connects these by their text: another spelling of a type would fail at run time.
+/// The module connects these by their text: a different spelling of a type would fail at run time.
 struct Signature {
     const QMetaObject* widget;
     QMetaMethod::MethodType kind;
@@ -81,7 +81,7 @@ const Window windows[] = {
      }},
 };
 
-/// Each is a window of its own that goes with its parent, and that closing hides.
+/// Each is a separate window that is deleted with its parent, and that closing hides.
 void checkWindow(Report& report, const Situation& situation, const Window& row)
 {
     const QString name = QLatin1String(row.name);
@@ -131,7 +131,7 @@ void checkAttributes(Report& report)
                      [&] { ++coloured; });
     QObject::connect(&window, &Widget_Attributes::remove_button_color, &parent, [&] { ++plain; });
     const QString data = QStringLiteral("Widget_Attributes::getAttributeData() ");
-    report.expect(data + QStringLiteral("keeps what stood in the map"), false,
+    report.expect(data + QStringLiteral("keeps what was in the map"), false,
                   dataOf(window).contains(QStringLiteral("left over=")));
     window.get_attributeinfo_list({});
     plain = 0;

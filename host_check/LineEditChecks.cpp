@@ -24,7 +24,7 @@ enum Pattern {
     FreeText,
 };
 
-/// A line edit, and how often it has said that editing has finished.
+/// A line edit, and how often it has emitted editingFinished.
 struct Field {
     ZTLineEdit edit;
     int finished = 0;
@@ -78,7 +78,7 @@ QString named(Pattern pattern, const char* what)
 
 void checkTyping(Report& report, QWidget* context)
 {
-    // A point is the decimal sign everywhere, also where the user writes a comma.
+    // The decimal separator is a point everywhere, even where the user writes a comma.
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German));
     for (const Typing& row : typings) {
@@ -114,7 +114,7 @@ void checkEditing(Report& report, QWidget* context)
                   QStringLiteral("15"), field.edit.text());
 }
 
-/// Changes the unit twice, of which the second is none, and looks for what must not happen.
+/// Changes the unit twice, the second time to the same one, and looks for what must not happen.
 void expectChanged(Report& report, Field& field, const QString& what, bool isMetric,
                    const QString& expected)
 {

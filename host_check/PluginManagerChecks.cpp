@@ -13,7 +13,7 @@ void checkPluginManager(Report& report)
     report.expect(QStringLiteral("QTpluginsManger4CAM::instance() is always the same"), true,
                   manager == QTpluginsManger4CAM::instance());
 
-    // The sender pointer may be no widget any more: it is compared, never followed.
+    // The sender pointer may no longer be a widget: it is compared, never followed.
     int noWidget = 0;
     for (void* const sender : {static_cast<void*>(&noWidget), static_cast<void*>(nullptr)}) {
         const QString what = QStringLiteral("recMegToPlugin() to a module that is not loaded, %1")

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/// Compares what a host does with what the interface asks for, prints each difference in one line,
+/// Compares what a host does with what the interface requires, prints each difference in one line,
 /// and counts.
 class Report {
 public:
@@ -12,7 +12,7 @@ public:
     /// crashes.
     explicit Report(bool isVerbose) : m_isVerbose(isVerbose) {}
 
-    /// Whether both are the same; a difference is printed under the name `what`.
+    /// Whether both are equal; a difference is printed under the name `what`.
     bool expect(const QString& what, bool expected, bool got);
     bool expect(const QString& what, int expected, int got);
     /// Sizes go through two conversions: the last digits of a double do not count.
@@ -20,7 +20,7 @@ public:
     bool expect(const QString& what, const QString& expected, const QString& got);
     bool expect(const QString& what, const QStringList& expected, const QStringList& got);
 
-    /// Says that something could not be tried, and why.
+    /// Reports that something could not be tried, and why.
     void untried(const QString& what, const QString& why);
 
     /// Runs `action`; an exception that leaves it is a difference named `what`.

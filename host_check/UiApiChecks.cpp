@@ -161,7 +161,7 @@ void checkSymbolNames(Report& report)
     }
 }
 
-/// There and back, both ways, until the first name that does not come back.
+/// Round trips in both directions, until the first name that changes.
 void checkSymbolsComeBack(Report& report)
 {
     RandomNumbers numbers;
@@ -189,7 +189,7 @@ void checkSymbolsComeBack(Report& report)
     });
 }
 
-/// What `check` answers, and that it opens one box if it refuses and none otherwise.
+/// What `check` returns, and that it opens one box if it refuses and none otherwise.
 template <class Check>
 void expectJudged(Report& report, const QString& what, bool isLegal, Check check)
 {

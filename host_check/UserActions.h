@@ -6,7 +6,7 @@ class QAbstractItemView;
 class QModelIndex;
 class QWidget;
 
-/// What a user does to a widget whose insides are not known.
+/// What a user does to a widget whose internals are not known.
 namespace UserActions {
 
 void pressKey(QWidget& widget, int key, const QString& text = QString());
@@ -22,7 +22,7 @@ QStringList namesIn(const QWidget& window);
 void choose(QWidget& window, QAbstractItemView& list, const QModelIndex& index,
             const QStringList& chosen);
 
-/// Closes `window`, and lets what it put off for later happen.
+/// Closes `window`, and lets its deferred events happen.
 void close(QWidget& window);
 
 }  // namespace UserActions

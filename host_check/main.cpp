@@ -1,4 +1,4 @@
-// Holds a host's four libraries against the interface that host/ documents.
+// Checks a host's four libraries against the interface that host/ documents.
 
 #include "Checks.h"
 #include "Report.h"
@@ -15,13 +15,13 @@ namespace {
 constexpr int different = 1;
 constexpr int wrongUsage = 2;
 
-/// False, with the usage on the error channel, where the options are not understood.
+/// False, with the usage on stderr, if the options are not understood.
 bool readOptions(const QApplication& application, Situation& situation, bool& isVerbose)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Holds the host's libraries against the interface of the tool strip. Each "
-        "difference is one line; the status is 1 if there is one. To be run once for "
+        "Checks the host's libraries against the interface of the tool strip. Each "
+        "difference is one line; the exit status is 1 if there is any. Run it once for "
         "each unit."));
     const QCommandLineOption unit(
         QStringLiteral("unit"), QStringLiteral("The unit that the host is set to: metric or inch."),

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Line and branch coverage of the module by its unit tests, folder by folder; the least that is asked
-# of lines is 98 %. Usage: scripts/coverage.sh   (the report: build/coverage/report/*.html)
+# Line and branch coverage of the module by its unit tests, folder by folder; lines must reach 98 %.
+# Usage: scripts/coverage.sh   (the report: build/coverage/report/*.html)
 set -u
 . "$(dirname "$0")/prepare.sh"
 least=98
@@ -17,12 +17,12 @@ ctest --test-dir build/coverage --parallel "$(nproc)" -R "$tests" \
 
 mkdir -p build/coverage/report
 status=0
-# The folders of which the module is built.
+# The folders that the module is built from.
 mapfile -t folders < <(sed -n "s,^$PWD/\([a-z]*\)/.*\.cpp\$,\1,p" \
     build/coverage/tests/module/module-sources.txt | grep -vx build | sort -u)
 for folder in "${folders[@]}"; do
     printf '%-12s' "$folder"
-    # Branches that only an exception takes are the compiler's, not the source's.
+    # Branches that only an exception takes come from the compiler, not the source.
     gcovr --root . --filter "$folder/" --exclude '.*/standalone/' --exclude-throw-branches \
         --exclude-unreachable-branches --print-summary --fail-under-line "$least" \
         --html-details "build/coverage/report/$folder.html" --output build/coverage/report/all.txt \

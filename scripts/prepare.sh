@@ -27,8 +27,8 @@ need_packages() {
     rm -f "$log"
 }
 
-# is_configured PRESET TARGET...: whether the build knows these targets; what needs a package that
-# was not installed when it was configured is not among them.
+# is_configured PRESET TARGET...: whether the build knows these targets; one whose package was not
+# installed when the build was configured is missing.
 is_configured() {
     local rules=build/$1/build.ninja target
     shift

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Pictures of the window and of every page of the dialog, in each language, scale, palette and font
-# size, to be looked at. They go to build/state-pictures and are not committed.
+# size, for review. They go to build/state-pictures and are not committed.
 set -u
 . "$(dirname "$0")/prepare.sh"
 
@@ -31,7 +31,7 @@ for language in en zh_CN; do
     for points in 14 20; do
         picture "$language-${points}pt" 1 --language "$language" --font-size "$points"
     done
-    # The screens of laptops.
+    # Laptop screens.
     for screen in 1366x768 1024x700; do
         SCREEN=$screen picture "$language-$screen" 1 --language "$language"
     done

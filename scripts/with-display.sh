@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Runs a command under a virtual display with a window manager. Usage: with-display.sh COMMAND...
+# Runs a command on a virtual display with a window manager. Usage: with-display.sh COMMAND...
 # SCREEN is its size, 1920x1200 unless set.
 exec xvfb-run -a -s "-screen 0 ${SCREEN:-1920x1200}x24" bash -c '
-    # A window that is there before the manager would not get the focus.
+    # A window that opens before the manager runs would not get the focus.
     ready=$(mktemp -u)
     openbox --startup "touch $ready" & manager=$!
     for _ in $(seq 100); do

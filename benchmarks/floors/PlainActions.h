@@ -6,8 +6,8 @@
 class QAction;
 class Receiver;
 
-/// The usual way to have a tool bar: one action a tool in an exclusive group. Triggering one sends
-/// its code.
+/// The usual way to build a tool bar: one action per tool in an exclusive group. Triggering one
+/// sends its code.
 class PlainActions : public QMainWindow {
 public:
     explicit PlainActions(Receiver& receiver);

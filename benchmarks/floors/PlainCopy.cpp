@@ -22,7 +22,7 @@ constexpr int greyRole = Qt::UserRole - 1;
 
 using Create = std::function<QWidget*(QWidget* parent)>;
 
-/// Makes a widget of the last of these classes that the original is of.
+/// Makes a widget of the last of these classes that the original belongs to.
 template <class... Classes>
 Create creation(const QWidget& original)
 {
@@ -37,7 +37,7 @@ Create creation(const QWidget& original)
     return create;
 }
 
-/// What Qt builds a control of comes with the control.
+/// The parts that Qt builds a control from come with the control.
 bool isPartOfControl(const QWidget& widget)
 {
     const QWidget* const parent = widget.parentWidget();
@@ -45,7 +45,7 @@ bool isPartOfControl(const QWidget& widget)
            qobject_cast<const QLineEdit*>(parent);
 }
 
-/// The file of the module's that the icon was made of.
+/// The module's file that the icon was made from.
 QString pictureOf(const QIcon& icon)
 {
     const QDir pictures(QStringLiteral(":/Canvas_Tool_Strip/Resources"));

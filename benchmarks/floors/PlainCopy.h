@@ -16,8 +16,8 @@ class QSpacerItem;
 class QWidget;
 
 /// Floor of a window: for each widget of its tree a plain one of the same class in the same layout,
-/// with the same texts, picture, validator and state. Nothing is connected, and there are no names
-/// but those for screen readers.
+/// with the same texts, picture, validator and state. Nothing is connected, and the only names are
+/// those for screen readers.
 class PlainCopy {
 public:
     /// Walks the window once, before it is shown, and notes the calls that make the copy.
@@ -60,7 +60,7 @@ private:
     static void put(const Made& made, const Content& content, const Cell& cell, QGridLayout& grid);
     static void put(const Made& made, const Content& content, int stretch, QBoxLayout& box);
 
-    /// Notes a call for the widget that is made last.
+    /// Notes a call for the widget made last.
     template <class Widget, class Call>
     void note(Call call)
     {

@@ -17,7 +17,7 @@ const QString rotationKey = RecordKeys::mirrorRotate;
 const QString countKey = RecordKeys::padNx;
 const QString noRotation = QStringLiteral("0");
 
-/// As deep in its window as a field of the dialog: a key that is not used up passes there.
+/// As deep in its window as a field of the dialog: an unused key is passed up from there.
 QLineEdit* addField(QWidget* window, const QString& text)
 {
     auto* const row = new QWidget(window);

@@ -10,7 +10,7 @@
 class PlainSymbolWindow : public Panel {
 public:
     PlainSymbolWindow(PlainRecord& record, const QString& symbol);
-    /// A window that goes takes the focus from its field, which reports that.
+    /// A window that is deleted takes the focus from its field, which reports that.
     ~PlainSymbolWindow() override { m_field->disconnect(); }
     QLineEdit* field() const { return m_field; }
 

@@ -6,8 +6,8 @@
 class QToolButton;
 class Receiver;
 
-/// Floor of the tool strip: a button a tool with the same sheets, tips, names, sizes and
-/// connections, made in the same order. A click checks the clicked one alone and sends its code.
+/// Floor of the tool strip: a button per tool with the same sheets, tips, names, sizes and
+/// connections, made in the same order. A click checks only the clicked one and sends its code.
 class PlainStrip : public QGridLayout {
 public:
     PlainStrip(QWidget* parent, Receiver& receiver);

@@ -21,7 +21,7 @@ public:
     PlainSwitch(QWidget* panel, Receiver& receiver);
 
     PlainStrip* strip() const { return m_strip; }
-    /// What Add Feature opens, checks and resends; null before.
+    /// What Add Feature opens, checks and resends; null until then.
     void setDialog(QWidget* dialog, QLineEdit* symbol, PlainRecord* record);
 
     /// The entry point; `instance` is a PlainSwitch.

@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-/// What a plain button needs to look and act like a tool; everything is put together beforehand.
+/// What a plain button needs to look and act like a tool; everything is prepared in advance.
 struct PlainTool {
     QString name;
     const char* tip;

@@ -1,4 +1,4 @@
-// Floor of the module's library: its pictures, and a plain strip behind the factory.
+// Floor of the module's library: its pictures, and a factory that makes a plain strip.
 
 #include "Canvas.h"
 #include "floors/PlainStrip.h"

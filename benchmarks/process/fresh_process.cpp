@@ -1,6 +1,6 @@
-// A process that has opened no module yet: opens the library that it is told, has it construct a
+// A process that has opened no module yet: opens the given library, has it construct a
 // tool strip, and prints the nanoseconds of processor time that this took. With "log" before the
-// library the host has set up its log, and with it loaded the log's library.
+// library the host has set up its log, and so has loaded the log's library.
 
 #include <QApplication>
 #include <QGridLayout>

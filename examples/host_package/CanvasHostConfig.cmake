@@ -1,5 +1,5 @@
-# How a host wraps its own libraries as the CMake package CanvasHost, by which the tool strip is built
-# against them. Copy this file into your tree, write your names into it, and name its folder:
+# How a host wraps its own libraries as the CMake package CanvasHost, to build the tool strip
+# against them. Copy this file into your tree, put your names in, and pass its folder:
 #
 #   cmake -S . -B build/host -DCanvasHost_DIR=/path/to/this/folder -DCANVAS_HOST_ROOT=/path/to/host
 #
@@ -8,17 +8,17 @@
 set(CANVAS_HOST_ROOT "/opt/host" CACHE PATH "The host: include/, lib/ and, on Windows, bin/")
 
 # The libraries are built against Qt's widgets, and so is whoever includes their headers. find_dependency
-# passes on what the caller has said of the package: whether it is required, and whether to be quiet.
+# passes on what the caller said about the package: whether it is required, and whether to be quiet.
 include(CMakeFindDependencyMacro)
 find_dependency(Qt5 5.15 COMPONENTS Core Gui Widgets)
 
 # host_library(<target> <file> <targets that its header needs>...)
 function(host_library target file)
-    # An imported target stands for a file that is already there: nothing is built.
+    # An imported target represents a file that already exists: nothing is built.
     add_library(CanvasHost::${target} SHARED IMPORTED)
     if(WIN32)
-        # What is opened at run time, and the import library that the module is linked with. Where the
-        # host has a library for debugging as well, add IMPORTED_LOCATION_DEBUG and IMPORTED_IMPLIB_DEBUG.
+        # What is opened at run time, and the import library that the module is linked with. If the
+        # host has a debug library as well, add IMPORTED_LOCATION_DEBUG and IMPORTED_IMPLIB_DEBUG.
         set(location ${CANVAS_HOST_ROOT}/bin/${file}.dll)
         set_target_properties(CanvasHost::${target} PROPERTIES
             IMPORTED_IMPLIB ${CANVAS_HOST_ROOT}/lib/${file}.lib)
@@ -36,7 +36,7 @@ function(host_library target file)
         INTERFACE_LINK_LIBRARIES "${ARGN}")
 endfunction()
 
-# The envelope of the messages is a header alone. All modules of the host share this one.
+# The envelope of the messages is header-only. All modules of the host share this one.
 add_library(CanvasHost::Envelope INTERFACE IMPORTED)
 set_target_properties(CanvasHost::Envelope PROPERTIES
     INTERFACE_INCLUDE_DIRECTORIES ${CANVAS_HOST_ROOT}/include

@@ -1,5 +1,5 @@
-// The least host of the tool strip: it opens the module, shows its buttons in a window, answers it
-// as a canvas does, and prints every message. With --quit it leaves when all is sent.
+// A minimal host of the tool strip: it opens the module, shows its buttons in a window, answers it
+// as a canvas does, and prints every message. With --quit it exits once all is sent.
 
 #include <PluginManagerStandIn.h>
 #include <PluginMetaData.h>
@@ -55,7 +55,7 @@ void print(const PluginMetaData& message)
                         << ' ' << (name ? name : "unknown") << '\n';
 }
 
-/// Stands for the canvas: what the strip sends it arrives here.
+/// Acts as the canvas: what the strip sends it arrives here.
 void receiveAsCanvas(void* canvas, PluginMetaData message)
 {
     // The dialog takes lengths as mil until it is told: only the host knows the unit.
@@ -64,10 +64,10 @@ void receiveAsCanvas(void* canvas, PluginMetaData message)
     }
 }
 
-/// Stands for the job tree, which is told that Add Feature was clicked.
+/// Acts as the job tree, which is told that Add Feature was clicked.
 void receiveAsJobTree(void*, PluginMetaData) {}
 
-/// The window with the strip at the left of the canvas; the strip lives while it lives.
+/// The window with the strip at the left of the canvas; the strip lives as long as it does.
 int run(const Module& module, bool quit)
 {
     QWidget window;
@@ -90,7 +90,7 @@ int run(const Module& module, bool quit)
     // The address is that of a Canvas_Tool_Strip, whose first base class is a QGridLayout.
     buttons->setLayout(static_cast<QGridLayout*>(instance));
 
-    // How a manager learns of modules is its own affair; this one, a stand-in, is told by hand.
+    // How a manager finds modules is up to it; this one, a stand-in, is told by hand.
     CanvasHost::setObserver([](const CanvasHost::Transfer& transfer) { print(transfer.message); });
     CanvasHost::addInstance(ModuleNames::toolStrip, instance, module.deliver, buttons);
     CanvasHost::addInstance(ModuleNames::viewer, canvas, receiveAsCanvas, canvas);
@@ -102,7 +102,7 @@ int run(const Module& module, bool quit)
     sendToStrip(canvas, Accepted::AddFeature);
     const int result = quit ? EXIT_SUCCESS : QApplication::exec();
 
-    // Nothing is delivered to what is about to go.
+    // Nothing is delivered to what is about to be deleted.
     for (void* const receiver :
          {instance, static_cast<void*>(canvas), static_cast<void*>(&window)}) {
         CanvasHost::removeInstance(receiver);
@@ -115,7 +115,7 @@ int run(const Module& module, bool quit)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    // The module logs by Qt's categories. Rules are set before it is opened.
+    // The module logs through Qt's categories. Set rules before it is opened.
     QLoggingCategory::setFilterRules(QStringLiteral("canvastoolstrip.record=false"));
 
     QLibrary library(QStringLiteral(MODULE_DIR "/Canvas_Tool_Strip"));
@@ -125,7 +125,7 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     const int result = run(module, application.arguments().contains(QStringLiteral("--quit")));
-    // No strip, dialog or popup is left: they went with the window.
+    // No strip, dialog or popup is left: they were deleted with the window.
     library.unload();
     return result;
 }

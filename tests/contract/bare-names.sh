@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Codes, keys and addresses stand by name in the sources: the numbers and texts are in plugin/ alone,
-# and in the tests beside this file. What users type and read may hold a number in its text.
+# Sources use codes, keys and addresses by name: numbers and texts are only in plugin/ and in the
+# tests next to this file. What users type and read may contain a number.
 # Usage: bare-names.sh SOURCE
 set -u
 cd "$1" || exit 1
@@ -11,7 +11,7 @@ mapfile -t files < <(find . \( -path ./build -o -path ./.git -o -path "./$lists"
 [ "${#files[@]}" -gt 0 ] || exit 1
 
 codes=$(sed -n 's/^ *\([0-9]\{8\}\) .*/\1/p' "$lists/messages.txt" | sort -u | paste -sd'|')
-# Keys that are words which a user reads as well are left out.
+# Keys that are also words which a user reads are left out.
 keys=$(sed 's/ .*//; /^#/d; s/[()&]/\\&/g' "$lists/record.txt" |
     grep -vxE 'Attributes|Closed|ClockWise|Features|Line|Mirror|Polarity' | paste -sd'|')
 failed=0

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Each key of the record stands once in the dialog: where its field is declared. The frame's own keys,
-# which several of its rules write, stand in the frame's files alone.
+# Each key of the record occurs once in the dialog: where its field is declared. The frame's keys,
+# which several of its rules write, occur only in the frame's files.
 # Usage: keys-once.sh SOURCE
 set -u
 cd "$1" || exit 1
@@ -13,7 +13,7 @@ for key in "${keys[@]}"; do
     if [[ $key =~ ^($frame)$ ]]; then
         grep -E '^addfeature/(fields|pages|record)/' <<<"$places" && failed=1
     elif [ "$(grep -c . <<<"$places")" -ne 1 ]; then
-        echo "RecordKeys::$key does not stand once:"
+        echo "RecordKeys::$key does not occur once:"
         echo "$places"
         failed=1
     fi

@@ -1,5 +1,5 @@
-// What siblings and hosts rely on, compared with the lists beside this file in both directions:
-// nothing missing, nothing extra, nothing altered.
+// What siblings and hosts rely on, compared with the lists next to this file in both directions:
+// nothing missing, nothing extra, nothing changed.
 
 #include "DemoJobs.h"
 #include "Main.h"

@@ -19,7 +19,7 @@ QStringList linesOf(const QString& file)
     return QString::fromUtf8(source.readAll()).split('\n');
 }
 
-/// The cells of the table rows below `heading` (of the whole file without one), but the head's.
+/// The cells of the table rows below `heading` (of the whole file without one), not the header's.
 QList<QStringList> rowsOf(const QString& file, const QString& heading = {})
 {
     QList<QStringList> rows;

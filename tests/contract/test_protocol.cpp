@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The lines of a list beside this file, without blanks at their ends, notes and empty lines.
+/// The lines of a list next to this file, without surrounding spaces, notes and empty lines.
 QStringList linesOf(const char* name)
 {
     QFile file(QStringLiteral(CONTRACT_DIR "/") + QLatin1String(name));
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QString, expected);
         QCOMPARE(text, expected);
-        // A literal would go with the library that holds it, while a receiver keeps it.
+        // A literal would vanish with its library, while a receiver keeps it.
         QVERIFY(!text.data_ptr()->ref.isStatic());
     }
 

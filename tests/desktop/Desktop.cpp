@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int settleTime = 60;  // ms for the window manager and the program to follow
+constexpr int settleTime = 60;  // ms for the window manager and the program to respond
 
 void act(const QStringList& arguments)
 {

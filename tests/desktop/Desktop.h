@@ -8,15 +8,15 @@ class QWidget;
 /// A user's hands: the pointer and the keyboard of the display, moved from outside the process.
 namespace Desktop {
 
-/// Waits until `window` is the active one of the window manager.
+/// Waits until `window` is the window manager's active one.
 void waitForWindow(QWidget* window);
 
-/// Clicks into the middle of the widget (at `place` in it when given). Returns when the program has
-/// had the click and is idle again, or is in a menu or box that the click has opened.
+/// Clicks the middle of the widget (or `place` in it, if given). Returns when the program has
+/// handled the click and is idle again, or is in a menu or box that the click has opened.
 void click(const QWidget& widget, int button = 1, QPoint place = {-1, -1});
 void clickAt(const QPoint& globalPlace, int button = 1);
 
-/// Types into what has the focus. Names of keys as the display knows them: "Return", "Tab".
+/// Types into what has the focus. Keys are named as the display names them: "Return", "Tab".
 void type(const QString& text);
 void key(const QString& name);
 

@@ -5,6 +5,6 @@
 
 #include <memory>
 
-/// The workbench with its sample jobs, shown and active on the display. `log` hears its messages
-/// and begins empty; it must outlive the window.
+/// The workbench with its sample jobs, shown and active on the display. `log` gets its messages
+/// and starts empty; it must outlive the window.
 std::unique_ptr<WorkbenchWindow> openWindow(MessageLog& log);

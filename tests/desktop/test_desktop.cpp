@@ -1,4 +1,4 @@
-// The running workbench as a user works with it.
+// The running workbench, used as a user does.
 
 #include "BoxCatcher.h"
 #include "Desktop.h"
@@ -70,7 +70,7 @@ private:
         return findNamed<QToolButton>(*m_window, QLatin1String(name));
     }
 
-    /// Codes to and from the tool strip since the log was cleared, "51" apart.
+    /// Codes to and from the tool strip since the log was cleared, except 51.
     QVector<int> sent() const
     {
         QVector<int> codes;
@@ -92,13 +92,13 @@ private:
         return dialog;
     }
 
-    /// Where the round pad at the board's upper right stands on the screen.
+    /// Where the round pad at the board's upper right is on the screen.
     static QPoint bigPad(const QWidget& board)
     {
         return board.mapToGlobal(QPoint(board.width() * 748 / 1000, board.height() * 24 / 100));
     }
 
-    /// Opens the right-click menu of a tool and hands it to `inMenu`, which ends it.
+    /// Opens the right-click menu of a tool and hands it to `inMenu`, which closes it.
     void rightClick(const char* name, const std::function<void(QMenu&)>& inMenu)
     {
         bool seen = false;
@@ -283,7 +283,7 @@ private Q_SLOTS:
         Desktop::click(findNamed(dialog, "m_pValuesPB"));
         auto& values = findNamed<QWidget>(dialog, "Widget_Attributes");
         Desktop::waitForWindow(&values);
-        // Below the host's window, which comes to the front when it is clicked.
+        // Behind the host's window, which comes to the front when it is clicked.
         values.resize(420, 160);
         values.move(m_window->x(), m_window->frameGeometry().bottom() + 10);
         dialog.move(values.x() + 460, values.y());
@@ -303,7 +303,7 @@ private Q_SLOTS:
         QAction* const action = m_window->findChild<QAction*>("m_pDimensionsAct");
         QVERIFY(action);
         for (int slot = 0; slot < 7; ++slot) {
-            // The form's slots are connected by name before what they are named after exists.
+            // The form's slots are connected by name before the objects in those names exist.
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("connectSlotsByName"));
         }
         action->trigger();
@@ -354,7 +354,7 @@ private Q_SLOTS:
         Desktop::key("ctrl+z");
         QTRY_COMPARE(undo(), QString("Undo: Add feature"));
 
-        // What is typed is the field's own to undo.
+        // Undo of typed text is the field's own.
         Desktop::click(findNamed(dialog, "m_pPadTB"));
         auto& symbol = findNamed<QLineEdit>(dialog, "m_pSymbolTextLE");
         Desktop::click(symbol);

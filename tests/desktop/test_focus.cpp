@@ -24,7 +24,7 @@ namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
-/// Answers each box when it has been open for half a second, and keeps the texts.
+/// Answers each box once it has been open for half a second, and keeps the texts.
 class SlowHands : public QObject {
 public:
     SlowHands()
@@ -57,7 +57,7 @@ struct Entry {
     const char* typed;
     QString key;
     const char* stored;
-    const char* box;  ///< how the refusal begins; null: accepted
+    const char* box;  ///< how the refusal starts; null: accepted
 };
 
 const QVector<Entry>& entries()
@@ -138,7 +138,7 @@ class TestFocus : public QObject {
         return m_log->messages().back().payload;
     }
 
-    /// A place of the host's window that the dialog does not cover.
+    /// A place in the host's window that the dialog does not cover.
     void clickTheBoard() const
     {
         const QWidget& board = findNamed(*m_window, "m_pBoardView");

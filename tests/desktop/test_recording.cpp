@@ -1,4 +1,4 @@
-// What a user's hands do on a real desktop is recorded; played again, the module sends the same.
+// What a user does on a real desktop is recorded; when it is played, the module sends the same.
 
 #include "Desktop.h"
 #include "FindChild.h"
@@ -59,7 +59,7 @@ class TestRecording : public QObject {
                                          .arg(message.hasAddress() ? message.extraText()
                                                                    : QString::number(message.extra),
                                               entries.join(' '));
-                // A window manager that moves the focus makes a field report its entry once more.
+                // A window manager that moves the focus makes a field report its entry again.
                 if (lines.isEmpty() || lines.last() != line) {
                     lines.append(line);
                 }
@@ -70,8 +70,8 @@ class TestRecording : public QObject {
 
     QWidget& the(const char* name) const { return findNamed<QWidget>(*m_window, name); }
 
-    /// Calls `act` when there is a popup or a box of that kind, and again should it stay open: what
-    /// comes too soon after its opening is taken for a part of that.
+    /// Calls `act` when a popup or box of that kind is open, and again if it stays open: input too
+    /// soon after opening is taken as part of that.
     template <class T>
     void whenOpen(const std::function<void(T*)>& act, const QPointer<T>& seen = {})
     {
@@ -96,7 +96,7 @@ class TestRecording : public QObject {
         auto& combo = findNamed<QComboBox>(*m_window, name);
         Desktop::click(combo);
         QTRY_VERIFY(combo.view()->isVisible());
-        // Qt takes a click so soon after the first for the rest of that.
+        // Qt takes a click so soon after the first as part of a double click.
         QTest::qWait(QApplication::doubleClickInterval() + 50);
         const QWidget* const view = combo.view()->viewport();
         Desktop::clickAt(

@@ -1,4 +1,4 @@
-// At home on a small screen: the window and all that it opens are wholly visible.
+// On a small screen the window and all that it opens are completely visible.
 
 #include "Desktop.h"
 #include "FindChild.h"
@@ -77,7 +77,7 @@ private Q_SLOTS:
              {"m_pLineTB", "m_pPadTB", "m_pSurfaceTB", "m_pArcTB", "m_pTextTB"}) {
             click(findNamed(dialog, page));
             verifyVisible(dialog);
-            // Beside the strip: the next tool can be clicked.
+            // Next to the strip: the next tool can be clicked.
             const int edge = strip.mapToGlobal(strip.rect().topRight()).x();
             QVERIFY2(dialog.frameGeometry().left() > edge, page);
         }
@@ -86,14 +86,14 @@ private Q_SLOTS:
     void otherWindows()
     {
         for (int slot = 0; slot < 7; ++slot) {
-            // The form's slots are connected by name before what they are named after exists.
+            // The form's slots are connected by name before the objects in those names exist.
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("connectSlotsByName"));
         }
         for (const char* const action : {"m_pDimensionsAct", "m_pDocumentationAct"}) {
             m_window->findChild<QAction*>(action)->trigger();
         }
         click(findNamed(*m_window, "m_pMonitorComposePB"));
-        // The form is the module's, and higher than the least of the screens.
+        // The form is the module's, and taller than the smallest screen.
         const auto& form = findNamed(*m_window, "m_pDimensions");
         QVERIFY(screen().contains(form.frameGeometry().topLeft()));
         for (const char* const name : {"m_pDocumentation", "m_pComposeDialog"}) {

@@ -1,11 +1,11 @@
 #!/bin/sh
-# Builds a program that uses a host's libraries by examples/host_package; the module can be configured
-# with them. Usage: host-package.sh SOURCE HOST WORK SANITIZE   (HOST/lib holds the libraries)
+# Builds a program that uses a host's libraries through examples/host_package; the module can be
+# configured with them. Usage: host-package.sh SOURCE HOST WORK SANITIZE   (HOST/lib holds the libraries)
 set -eu
 source=$1 host=$2 work=$3 sanitize=$4
 package=-DCanvasHost_DIR=$source/examples/host_package
 
-# run COMMAND...: prints what the command wrote if it fails.
+# run COMMAND...: prints the command's output if it fails.
 run() {
     "$@" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
 }
@@ -34,7 +34,7 @@ done
 run cmake -S "$source" -B "$work/module" "$@" -DCTS_CHECK_HOST=ON
 grep -q "$host/lib/libhost_widgets.so" "$work/module/build.ninja"
 
-# A host that is not where it is said to be is named.
+# A host that is missing from the given place is named.
 if cmake -S "$source/tests/examples/host_user" -B "$work/nowhere" -G Ninja "$package" \
     -DCANVAS_HOST_ROOT="$work/nowhere" >"$work/log" 2>&1; then
     echo "configured without a host"

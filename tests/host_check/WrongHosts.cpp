@@ -22,7 +22,7 @@ bool isFaulty(const char* fault)
     return qgetenv("WRONG_HOST") == fault;
 }
 
-/// What `call` gives with `replacement` out of the way: the stand-in's own answer.
+/// What `call` returns without `replacement`: the stand-in's own answer.
 template <class Function, class Call>
 auto own(std::function<Function>& replacement, Call call)
 {

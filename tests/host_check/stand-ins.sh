@@ -1,5 +1,5 @@
 #!/bin/sh
-# The stand-ins keep the interface in each of their units, and nothing is left untried but what
+# The stand-ins keep the interface in each of their units, and nothing is left untried except what
 # throws. Usage: stand-ins.sh HOST_CHECK JOB_FILE
 set -u
 program=$1
@@ -8,7 +8,7 @@ failed=0
 errors=$(mktemp)
 trap 'rm -f "$errors"' EXIT
 
-# expect STATUS UNTRIED OPTION...: host_check ends so, and so many lines say what was not tried.
+# expect STATUS UNTRIED OPTION...: the exit status, and how many lines say what was not tried.
 expect() {
     status=$1 untried=$2
     shift 2

@@ -1,5 +1,5 @@
 #!/bin/sh
-# A host with one fault is found by that fault, and by no other. Usage: wrong-hosts.sh PROGRAM JOB_FILE
+# A host with one fault is found by that fault alone. Usage: wrong-hosts.sh PROGRAM JOB_FILE
 set -u
 program=$1
 export CANVAS_HOST_JOBS="$2"

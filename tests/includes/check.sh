@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Who includes whom: every arrow between two rooms of the tree stands in the list of arrows.
+# Who includes whom: every arrow between two rooms of the tree is in the list of arrows.
 # Usage: check.sh TREE ARROWS WIDGET_HEADERS   (the folder of Qt's headers of widgets)
 set -u
 arrows=$(realpath "$2")
@@ -7,7 +7,7 @@ cd "$1" || exit 1
 mapfile -t files < <(find . \( -path ./build -o -path ./.git \) -prune -o \
     \( -name '*.h' -o -name '*.cpp' \) -printf '%P\n' | sort)
 {
-    # Names first: an arrow may stand before what its names mean.
+    # Names first: an arrow may come before what its names mean.
     sed -n 's/#.*//; / = /s/^/rule /p' "$arrows"
     sed 's/#.*//; /^ *$/d; / = /d; s/^/rule /' "$arrows"
     printf 'file %s\n' "${files[@]}"
@@ -24,7 +24,7 @@ function roomOf(path,    prefix, best) {
     return best == "" ? "" : room[best]
 }
 
-# The file of the tree that an include means; empty: none. What lies beside the file comes first.
+# The file of the tree that an include means; empty: none. Files in the same folder come first.
 function fileOf(from, name,    folder, base, list, count, i, found) {
     folder = from
     sub(/[^\/]*$/, "", folder)

@@ -1,4 +1,4 @@
-// Libraries that lack an entry point, or that make no instance.
+// Libraries that lack an entry point, or that create no instance.
 
 #include <PluginMetaData.h>
 

@@ -1,5 +1,5 @@
 // A host that links against the module, compiled for Windows by windows-compile.sh: it has the
-// entry points and the class of another library, and makes nothing of them its own.
+// entry points and the class from another library, and defines none of them itself.
 
 #include "plugin/PluginEntry.h"
 #include "toolbar/Canvas_Tool_Strip.h"

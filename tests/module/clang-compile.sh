@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Clang takes every file of the tree without a warning, as the preset "clang" compiles it, but without
-# generating code. What the build generates is taken from a build that exists.
+# generating code. What the build generates is taken from an existing build.
 # Usage: clang-compile.sh SOURCE BUILD WORK
 set -u
 source=$1 build=$2 work=$3

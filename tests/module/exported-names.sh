@@ -1,5 +1,5 @@
 #!/bin/sh
-# What leaves the module: two undecorated functions, and the class Canvas_Tool_Strip whole.
+# What the module exports: two undecorated functions, and the whole class Canvas_Tool_Strip.
 # Usage: exported-names.sh LIBRARY
 set -u
 names=$(nm -D --defined-only -C "$1" | cut -d' ' -f3-) || exit 1
@@ -39,7 +39,7 @@ expect "$class::On_SelectPolyline_Clicked(int)"
 expect "$class::on_m_pEqTB_clecked()"
 expect "$class::on_m_mark_setting_clicked()"
 
-# The exported function hands its copy to the member of its own name, the only one that takes one.
+# The exported function hands its copy to the member of the same name, the only one that takes one.
 objdump -d --disassemble=recMsgFromManager "$1" |
     grep -q "call .*<_ZN17${class}17recMsgFromManagerE14PluginMetaData@plt>" || {
     echo "recMsgFromManager does not call $class::recMsgFromManager"

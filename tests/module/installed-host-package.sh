@@ -37,6 +37,6 @@ if ninja -C "$work/sibling" -t deps | grep -F "$source/plugin/"; then
     exit 1
 fi
 if nm -D --defined-only -C "$work/sibling/libSibling.so" | grep -E 'MessageCodes|staticMetaObject'; then
-    echo "the sibling exports what it has of the protocol"
+    echo "the sibling exports its copy of the protocol"
     exit 1
 fi

@@ -1,5 +1,5 @@
 #!/bin/sh
-# The Debian packages are as Debian likes them, and the workbench can be listed in menus and shops.
+# The Debian packages pass Debian's checks, and the workbench can be listed in menus and app stores.
 # Usage: lintian.sh PACKAGES   (the folder in which packages.sh left them)
 set -eu
 cd "$1"

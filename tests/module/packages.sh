@@ -43,7 +43,7 @@ if dpkg-deb -c "$module" | grep -E '\.h$|CanvasHost|workbench'; then
     echo "the module's package holds more than the module"
     exit 1
 fi
-# No library of ours lies where other programs look for theirs.
+# No library of ours is where other programs look for theirs.
 if dpkg-deb -c "$workbench" | grep -E ' \./usr/lib/([^/]*-linux-gnu[^/]*/)?[^/]+\.so'; then
     echo "the workbench's libraries are not private"
     exit 1
@@ -70,7 +70,7 @@ done <"$work/programs"
 samples=$installed/usr/share/canvas-tool-strip/samples
 "$installed/usr/bin/canvas-workbench" --play "$samples/sessions/unit.session" --exit
 
-# The menu entry starts that program, with a picture that is there.
+# The menu entry starts that program, and its picture exists.
 entry=$installed/usr/share/applications/canvas-workbench.desktop
 [ -x "$installed/usr/bin/$(sed -n 's/^Exec=//p' "$entry")" ] || { echo "no such program"; exit 1; }
 icon=$(sed -n 's/^Icon=//p' "$entry")

@@ -27,7 +27,7 @@ namespace {
 const QString moduleName = QStringLiteral("Canvas_Tool_Strip.dll");
 const QString moduleDir = QStringLiteral(MODULE_DIR);
 
-// The sanitizers' allocator counts otherwise, and looks for leaks itself.
+// The sanitizers' allocator counts differently, and looks for leaks itself.
 #ifdef __SANITIZE_ADDRESS__
 constexpr bool isSanitized = true;
 #else
@@ -85,7 +85,7 @@ class TestLifeCycle : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // The record would be logged a thousand times.
+    // Otherwise the record is logged a thousand times.
     void initTestCase() { QLoggingCategory::setFilterRules("canvastoolstrip.*=false"); }
 
     void thousandLives()

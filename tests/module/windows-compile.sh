@@ -2,7 +2,7 @@
 # Every source file of the module compiles for Windows, and so does a host that imports the module's
 # class: with Debian's cross compiler against Qt's headers, without linking.
 # Usage: windows-compile.sh INCLUDES SOURCES HOST WORK
-#   INCLUDES and SOURCES are files, a path a line: what the module is built of
+#   INCLUDES and SOURCES are files, one path per line: what the module is built from
 set -u
 host=$3 work=$4
 tool=x86_64-w64-mingw32
@@ -10,7 +10,7 @@ mapfile -t includes < <(sort -u "$1")
 mapfile -t files < <(grep '\.cpp$' "$2")
 [ "${#files[@]}" -gt 0 ] || { echo "no files"; exit 1; }
 
-# Of this system's headers only the log's: the C library's are those of Windows.
+# Of this system's headers only the log's: the C library's are the Windows ones.
 rm -rf "$work"
 mkdir -p "$work/include"
 for name in glog gflags; do

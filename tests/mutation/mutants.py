@@ -1,9 +1,9 @@
-"""Finds the places of C++ sources where one small change makes a mutant."""
+"""Finds the places in C++ sources where one small change makes a mutant."""
 
 import re
 from dataclasses import dataclass
 
-# What stands at a place decides what is put there instead.
+# What is found at a place decides what replaces it.
 OPERATORS = {
     "==": "!=", "!=": "==", "<=": "<", ">=": ">", "<": "<=", ">": ">=",
     "&&": "||", "||": "&&", "+": "-", "-": "+", "*": "/", "/": "*",
@@ -57,7 +57,7 @@ def changed_number(text):
 
 
 def is_binary(source, start, end, operator):
-    """Whether an operator has blanks around it: template brackets, signs and pointers have not."""
+    """Whether an operator has spaces around it: template brackets, signs and pointers do not."""
     if operator in ("++",):
         return True
     return source[start - 1:start] in (" ", "\n") and source[end:end + 1] in (" ", "\n")
@@ -93,7 +93,7 @@ def call_changes(source, comments):
 
 
 def is_declared(line):
-    """Lines that give a name to something, where another text is only another spelling."""
+    """Lines that name something, where a different text is only a different spelling."""
     return re.search(r"Q_LOGGING_CATEGORY|Q_OBJECT|static_assert|^\s*(class|friend|namespace|enum)\b", line)
 
 

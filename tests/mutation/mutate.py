@@ -3,7 +3,7 @@
 fails. The tree itself stays as it is: the changes are made in copies under build/mutation.
 
 Usage: tests/mutation/mutate.py [--count N] [--seed N] [--jobs N] [--only TEXT] [--living]
-Results are kept as they come (build/mutation/results.json); a second run goes on where the first
+Results are saved as they come (build/mutation/results.json); a second run continues where the first
 stopped. Exit status 1 when fewer than 95 % of the mutants are caught."""
 
 import argparse
@@ -25,7 +25,7 @@ from mutants import mutants_of  # noqa: E402
 ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
 FOLDERS = ("plugin", "toolbar", "addfeature", "dimensions")
-# The fast tests of the module, the quickest first; the order changes as tests prove useful.
+# The fast tests of the module, quickest first; the order changes as tests prove useful.
 TESTS = """contract.contract contract.protocol fields.fields fields.rules toolbar.entry
 toolbar.language dimensions.dimensions toolbar.menus toolbar.incoming dialog.attributes
 pages.fonts_and_special_texts_page toolbar.activation dialog.frame dialog.symbol_units
@@ -56,7 +56,7 @@ def all_mutants():
 
 
 def known_living():
-    """The mutants that live and why, from living.txt: file | line's text | change | reason."""
+    """The mutants that survive and why, from living.txt: file | line's text | change | reason."""
     reasons = {}
     for line in (Path(__file__).parent / "living.txt").read_text(encoding="utf-8").splitlines():
         if line.strip() and not line.startswith("#"):
@@ -66,7 +66,7 @@ def known_living():
 
 
 class Copy:
-    """A copy of the tree with a build of its own, in which one mutant at a time is made."""
+    """A copy of the tree with its own build, in which one mutant at a time is made."""
 
     def __init__(self, number):
         self.tree = WORK / f"tree{number}"
@@ -128,7 +128,7 @@ class Copy:
 
     @staticmethod
     def readers(path):
-        """The tests that are to be built again: they read the protocol's headers themselves."""
+        """The tests to rebuild: they read the protocol's headers themselves."""
         return ["tests_contract"] if re.fullmatch(r"plugin/.*\.h", path) else []
 
     def order(self, path):
@@ -165,7 +165,7 @@ def run(copies, mutants, results, keep):
 
 
 def report(mutants, results):
-    """Prints the share and the living; true when enough were caught."""
+    """Prints the share and the survivors; true if enough were caught."""
     reasons = known_living()
     counted = [mutant for mutant in mutants if results.get(mutant.name) != "compiler"]
     living = [mutant for mutant in counted if results[mutant.name] is None]
@@ -183,10 +183,10 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--count", type=int, default=400, help="mutants to try (default 400)")
-    parser.add_argument("--seed", type=int, default=1, help="which of all mutants (default 1)")
+    parser.add_argument("--seed", type=int, default=1, help="selects among all mutants (default 1)")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="copies that work at once")
     parser.add_argument("--only", default="", help="only mutants whose name contains this text")
-    parser.add_argument("--living", action="store_true", help="try those again that lived")
+    parser.add_argument("--living", action="store_true", help="try the survivors again")
     parser.add_argument("--fresh", action="store_true", help="forget earlier results")
     arguments = parser.parse_args()
 

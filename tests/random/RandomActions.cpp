@@ -27,7 +27,7 @@ namespace {
 
 const QVector<int> acceptedCodes = Accepted::all();
 
-/// In an order that is the same each time.
+/// In the same order each time.
 QList<QWidget*> windows()
 {
     QList<QWidget*> all = QApplication::topLevelWidgets();
@@ -41,7 +41,7 @@ QList<QWidget*> windows()
 
 }  // namespace
 
-/// What the user and the host do, and how often of all that they do.
+/// What the user and the host do, each with its share.
 struct RandomUser::Action {
     int often;
     const char* words;
@@ -149,7 +149,7 @@ void RandomUser::openMenu()
     });
     watch.start(0);
     m_story = QStringLiteral("%1, entry %2").arg(tool->objectName()).arg(choice);
-    activate(m_window.get());  // a menu that a box closes before it is up would never end
+    activate(m_window.get());  // a menu that a box closes before it opens would never end
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
     QApplication::sendEvent(tool, &event);
 }
@@ -178,7 +178,7 @@ PluginMetaData RandomUser::message()
 void RandomUser::prepareExtra(PluginMetaData& message)
 {
     const char* const names[] = {"r10", "s5", "Odd name", "r7.5", "rect20x40", "", "r99999999"};
-    if (!m_answer) {  // an answer that still waits refers to them
+    if (!m_answer) {  // a pending answer refers to them
         m_symbols.clear();
         m_attributes.clear();
         for (int i = below(4); i > 0; --i) {
@@ -202,12 +202,12 @@ void RandomUser::receive()
     const PluginMetaData sent = message();
     m_story =
         QStringLiteral("%1 with %2 entries").arg(sent.code).arg(sent.payload.size()) + m_story;
-    // A picked symbol may be one that is refused.
+    // A picked symbol may be refused.
     m_mayRefuse = m_mayRefuse || sent.code == Accepted::SymbolsPicked;
     deliver(sent);
 }
 
-/// A host says at once what unit it works in now.
+/// A host reports at once which unit it uses now.
 void RandomUser::deliver(const PluginMetaData& message)
 {
     if (message.code == Accepted::UnitChanged) {
@@ -312,7 +312,7 @@ void RandomUser::useControl(QWidget* control)
     }
 }
 
-/// Types or pastes into the field, and stays there. False when the field cannot be reached or is
+/// Types or pastes into the field, and stays there. False if the field cannot be reached or is
 /// gone.
 bool RandomUser::enterText(QLineEdit* field)
 {
@@ -323,7 +323,7 @@ bool RandomUser::enterText(QLineEdit* field)
     }
     m_story += QStringLiteral(" %1 \"%2\"").arg(byKeys ? "type" : "paste", text);
     const QString type = dialog() ? Refusals::chosenType(*dialog()) : QString();
-    // A validator leaves out what it does not take: of "12.5" a count keeps "125".
+    // A validator drops what it does not take: of "12.5" a count keeps "125".
     static const QRegularExpression kept("\\A[a-z0-9]*\\z");
     m_mayRefuse = m_mayRefuse || !kept.match(text).hasMatch() ||
                   !Refusals::isSurelyLegal(field->objectName(), text, type, m_isMetric);
@@ -351,7 +351,7 @@ void RandomUser::activate(QWidget* window)
     }
 }
 
-/// As a click into the control or Tab moves the focus there. False when it cannot have it.
+/// Moves the focus there as a click or Tab would. False if the control cannot have it.
 bool RandomUser::focus(QWidget* control)
 {
     const QPointer<QWidget> reached(control);
@@ -362,8 +362,8 @@ bool RandomUser::focus(QWidget* control)
     return reached && control->isVisible() && control->hasFocus();
 }
 
-/// What follows is done while an entry is pending, or makes it so. True: first the dialog had to be
-/// opened.
+/// What follows happens while an entry is pending, or makes one pending. True: the dialog had to be
+/// opened first.
 bool RandomUser::hadToOpenDialog()
 {
     if (dialog() && dialog()->isVisible()) {
@@ -382,7 +382,7 @@ void RandomUser::chooseType()
     QTest::mouseClick(&findNamed(*dialog(), m_story), Qt::LeftButton);
 }
 
-/// The controls of the dialog that can be reached and are wanted.
+/// The dialog's controls that are wanted and can be reached.
 QList<QWidget*> RandomUser::reachable(bool (*isWanted)(const QWidget& control)) const
 {
     QList<QWidget*> found;

@@ -49,7 +49,7 @@ RandomUser::RandomUser(std::optional<int> forbiddenCode)
         }
         receiveAnswer();
     });
-    // A dialog that is made later starts in mil.
+    // A dialog that is created later starts in mil.
     QObject::connect(m_strip, &Canvas_Tool_Strip::Current_Unit_Changed, m_window.get(),
                      [this](bool isMM) { m_isMetric = isMM && dialog(); });
 }
@@ -94,7 +94,7 @@ QString RandomUser::fault()
     }
     QString found = faultOfBoxes();
     if (found.isEmpty() && dialog()) {
-        found = faultOfFields();  // the record's own message is looked at with the others
+        found = faultOfFields();  // the record's own message is checked with the others
     }
     return found.isEmpty() ? faultOfMessages() : found;
 }
@@ -150,7 +150,7 @@ QString RandomUser::faultOfMessages()
             return QStringLiteral("the forbidden code %1").arg(entry.message.code);
         }
         if (entry.sender != m_window.get()) {
-            return QStringLiteral("%1 with another sender").arg(entry.message.code);
+            return QStringLiteral("%1 with a different sender").arg(entry.message.code);
         }
         QString found = Invariants::faultOf(entry);
         if (!found.isEmpty()) {
@@ -160,7 +160,7 @@ QString RandomUser::faultOfMessages()
     return {};
 }
 
-/// The record as the next message would carry it: code 52 is sent whatever the symbol field says.
+/// The record as the next message would carry it: code 52 is sent whatever the symbol field shows.
 QVariantMap RandomUser::record()
 {
     const std::optional<PluginMetaData> answer = std::exchange(m_answer, {});

@@ -17,10 +17,10 @@
 #include <memory>
 #include <optional>
 
-/// A user and a host at once, without any sense: does with the module what a number says.
+/// A user and a host in one, acting at random: does with the module what a number says.
 ///
-/// What a number does depends on it and on the state alone, so that a list of numbers can be played
-/// again, and a shorter one made of it.
+/// What a number does depends only on it and on the state, so that a list of numbers can be played
+/// again, and shortened.
 class RandomUser {
 public:
     explicit RandomUser(std::optional<int> forbiddenCode);
@@ -28,7 +28,7 @@ public:
     RandomUser(const RandomUser&) = delete;
     RandomUser& operator=(const RandomUser&) = delete;
 
-    /// Does one thing, and says what is wrong after it; empty: nothing is.
+    /// Does one thing, and says what is wrong afterwards; empty: nothing.
     QString perform(quint32 number);
 
     /// What the last number did, in a few words.
@@ -37,19 +37,19 @@ public:
     const QMap<int, int>& sent() const { return m_sent; }
     int boxCount() const { return m_boxCount; }
 
-    /// How often a field was found in each state, after a step with the dialog.
+    /// How often a field was in each state, after a step with the dialog.
     struct Looks {
         qint64 held = 0;
         qint64 unfinished = 0;
         qint64 excepted = 0;
     };
     const QMap<QString, Looks>& looks() const { return m_looks; }
-    /// The steps after which the fields were looked at, and those without any left out.
+    /// The steps after which the fields were checked, and those of them that left none out.
     qint64 steps() const { return m_steps; }
     qint64 wholeSteps() const { return m_wholeSteps; }
 
-    /// What Qt says on its own account (a connection that fails, a style sheet that it cannot
-    /// read) is a fault; set by the program's message handler.
+    /// What Qt itself reports (a connection that fails, a style sheet that it cannot read) is a
+    /// fault; set by the program's message handler.
     static QString& complaint();
 
 private:

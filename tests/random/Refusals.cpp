@@ -98,7 +98,7 @@ bool Refusals::isKnown(const QString& title, const QString& text)
 {
     // The other language of a random run puts texts into angle quotes.
     const QString words = QString(title + '|' + text).remove('<').remove('>');
-    // As a pattern, title and text: the host's own checks have boxes of their own.
+    // Title and text, as a pattern: the host's own checks have boxes of their own.
     static const char* const known[] = {
         "\\AIllegal Input\\|Unable to create special symbol!\\z",
         "\\ADialog Box\\|Illegal symbol name: .*\\z",

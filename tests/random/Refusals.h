@@ -4,13 +4,13 @@
 #include <QMessageBox>
 #include <QWidget>
 
-/// When a box may appear: an own, simple judgement of what may stand in the dialog's fields.
+/// When a box may appear: a separate, simple judgement of what the dialog's fields may contain.
 namespace Refusals {
 
-/// Whether `text` in the field of that name is one that nobody refuses. False means "not sure".
+/// Whether nobody refuses `text` in the field of that name. False means "not sure".
 bool isSurelyLegal(const QString& field, const QString& text, const QString& type, bool isMetric);
 
-/// The field of `dialog` whose text may be refused; empty: there is none.
+/// The field of `dialog` whose text may be refused; empty: none.
 QString doubtfulField(const QWidget& dialog, bool isMetric);
 
 /// The object name of the chosen feature type's button.

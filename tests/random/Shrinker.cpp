@@ -6,7 +6,7 @@ QVector<quint32> shrunk(QVector<quint32> numbers,
     int length = numbers.size();
     while (length > 0) {
         bool hasShrunk = false;
-        // From the end: what comes last is needed least often.
+        // From the end: the last steps are least often needed.
         for (int start = numbers.size() - length; start > -length; start -= length) {
             QVector<quint32> shorter = numbers;
             const int first = qMax(0, start);

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/// The shortest list that it finds which still fails: leaves out halves, quarters, ... single
-/// numbers, as long as `fails` holds of what is left. `numbers` itself must fail.
+/// The shortest list it finds that still fails: leaves out halves, quarters, ... single numbers, as
+/// long as `fails` is true of the rest. `numbers` itself must fail.
 QVector<quint32> shrunk(QVector<quint32> numbers,
                         const std::function<bool(const QVector<quint32>&)>& fails);

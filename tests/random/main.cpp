@@ -1,4 +1,4 @@
-// Random use of strip and dialog, without end if need be; see docs/reliability.md.
+// Random use of strip and dialog, endless if wanted; see docs/reliability.md.
 
 #include "RandomUser.h"
 #include "Shrinker.h"
@@ -20,7 +20,7 @@ constexpr int oneRunMilliseconds = 10 * 60 * 1000;
 
 using Numbers = QVector<quint32>;
 
-/// The numbers that a seed stands for.
+/// The numbers that a seed generates.
 Numbers numbersOf(quint32 seed, int count)
 {
     QRandomGenerator generator(seed);
@@ -75,7 +75,7 @@ public:
             bool isNumber = false;
             numbers.append(word.toUInt(&isNumber));
             if (!isNumber) {
-                m_out << file << ": \"" << word << "\" is no number\n";
+                m_out << file << ": \"" << word << "\" is not a number\n";
                 return wrongUse;
             }
         }
@@ -86,7 +86,7 @@ public:
         return failure.step > 0 ? failed : 0;
     }
 
-    /// Each try is a process of its own: what is looked for may be a crash.
+    /// Each try is a separate process: what it looks for may be a crash.
     int shrink(quint32 seed, const QString& target)
     {
         QTemporaryDir directory;
@@ -109,7 +109,7 @@ public:
         }
         numbers = shrunk(numbers, fails);
         write(numbers, target);
-        m_out << numbers.size() << " steps are left of " << m_steps << "; again: --numbers "
+        m_out << numbers.size() << " steps are left of " << m_steps << "; to replay: --numbers "
               << target << " --story\n";
         return failed;
     }
@@ -160,7 +160,7 @@ private:
         return QString::number(whole > 0 ? 100.0 * double(part) / double(whole) : 0.0, 'f', 2);
     }
 
-    /// In what share of the steps the record was held against the fields.
+    /// In what share of the steps the record was compared with the fields.
     void tellAgreement()
     {
         qint64 held = 0;
@@ -191,7 +191,7 @@ private:
     qint64 m_wholeSteps = 0;
 };
 
-/// What Qt itself complains of is a fault; what the windowless platform cannot do is not.
+/// What Qt itself complains about is a fault; what the windowless platform cannot do is not.
 void hear(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     const bool isComplaint = type != QtDebugMsg && type != QtInfoMsg;
@@ -219,11 +219,11 @@ int main(int argc, char** argv)
         {"seed", "The first seed (1).", "number", "1"},
         {"seeds", "How many seeds (1).", "number", "1"},
         {"steps", "How many steps for each seed (400).", "number", "400"},
-        {"story", "Tell each step."},
+        {"story", "Print each step."},
         {"numbers", "Play these numbers instead of a seed's.", "file"},
         {"shrink", "Find fewer steps that fail."},
-        {"to", "Where the fewer numbers go (random.numbers).", "file", "random.numbers"},
-        {"forbid", "Take this code for a fault: to try the program itself.", "code"},
+        {"to", "Where to write the fewer numbers (random.numbers).", "file", "random.numbers"},
+        {"forbid", "Count this code as a fault, to test the program itself.", "code"},
     });
     options.process(application);
     qInstallMessageHandler(hear);

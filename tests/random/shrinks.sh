@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# A planted fault (the fill request counts as one) is found, shrinks to a few steps, and those fail
+# A planted fault (the fill request counts as one) is found and shrunk to a few steps, which fail
 # again in the same way. Usage: shrinks.sh RANDOM_USE
 set -u
 dir=$(mktemp -d)
@@ -16,5 +16,5 @@ steps=$(sed -n 's/^seed 3, step \([0-9]*\): the forbidden code 53$/\1/p' <<<"$sa
 [ "$(wc -l <"$dir/numbers")" -le 3 ] || { echo "still long:"; cat "$dir/numbers"; exit 1; }
 
 "$1" --numbers "$dir/numbers" --forbid 53 --story | tee "$dir/again"
-grep -q "the forbidden code 53$" "$dir/again" || { echo "the fewer steps do not fail"; exit 1; }
+grep -q "the forbidden code 53$" "$dir/again" || { echo "the shrunk steps do not fail"; exit 1; }
 "$1" --numbers "$dir/numbers" || { echo "they fail without the planted fault"; exit 1; }

@@ -61,7 +61,7 @@ void Agreement::watchSymbol()
     });
 }
 
-/// What the entry and the rotation's own handler add: the degrees after the last and the first "_".
+/// What the entry and the rotation's handler add: the degrees after the last and the first "_".
 void Agreement::noteSuffixes(const QString& symbol)
 {
     m_suffixes.insert(symbol.section('_', 1, 1).toInt());

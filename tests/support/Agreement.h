@@ -10,10 +10,10 @@ class QLabel;
 class QLineEdit;
 class QWidget;
 
-/// Whether the dialog's record says of every field what is stored for what the field shows.
+/// Whether the dialog's record holds for every field what is stored for the value it shows.
 ///
 /// It watches the dialog from outside, to know which entries are unfinished and which texts the
-/// program put into a field. Make it before the dialog is used.
+/// program put into a field. Create it before the dialog is used.
 class Agreement : public QObject {
 public:
     enum class Result {
@@ -35,7 +35,7 @@ public:
     /// What is wrong with the first field that disagrees; empty: all agree.
     QString faultOf(const QVariantMap& record) const;
 
-    /// Whether what is typed in that field has not been reported yet.
+    /// Whether the text typed in that field has not been reported yet.
     bool isPending(const QString& field) const { return m_pending.contains(field); }
 
 protected:

@@ -139,7 +139,7 @@ const QVector<Exception>& exceptions()
          [](const Shown& shown) { return shown.record == "508" && agree(metricLength(shown), 20); }},
         {namesOf(Kind::Choice), "no item is chosen: nothing is stored",
          [](const Shown& shown) { return indexOf(shown) < 0; }},
-        {namesOf(Kind::Length), "left as a text that its validator refused, which a change of the unit, that stores nothing, made one that it takes",
+        {namesOf(Kind::Length), "left with a text that its validator refused, and a unit change, which stores nothing, made acceptable",
          [](const Shown& shown) { return shown.isLeftUnreported; }},
     };
     // clang-format on

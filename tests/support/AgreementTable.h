@@ -13,7 +13,7 @@ enum class Kind {
     Text,      ///< as it is typed
     Length,    ///< in the metric unit
     Symbol,    ///< a name whose sizes are in mil
-    Rotation,  ///< degrees, with those of the symbol's suffix
+    Rotation,  ///< degrees, including those of the symbol's suffix
     Index,     ///< of a combo box, from 1
     Choice,    ///< of a combo box: the values of its items
     Box,       ///< a check box: the values of unchecked and checked
@@ -21,13 +21,13 @@ enum class Kind {
 };
 
 struct Field {
-    QStringList names;  ///< object name; of a group all
+    QStringList names;  ///< object name; for a group all of them
     QString key;
     Kind kind;
     QStringList values;
 };
 
-/// What is known of one field and its key.
+/// What is known about one field and its key.
 struct Shown {
     const QWidget* widget = nullptr;
     QString record;
@@ -41,13 +41,13 @@ struct Shown {
 
 const QVector<Field>& fields();
 
-/// What the field shows, for words.
+/// What the field shows, to be printed.
 QString textOf(const Field& field, const QWidget& widget);
 
-/// Whether the record holds what is stored for what the field shows.
+/// Whether the record holds what is stored for the shown value.
 bool isStored(const Field& field, const Shown& shown);
 
-/// The reason why field and record may differ here; empty: they must not.
+/// Why field and record may differ here; empty: they must not.
 QString exceptionOf(const Field& field, const Shown& shown);
 
 }  // namespace AgreementTable

@@ -6,8 +6,8 @@
 
 #include <functional>
 
-/// Answers each message box with Ok while it lives, and keeps what the box said. A box that was
-/// not taken by the test fails it.
+/// Answers each message box with Ok while it lives, and keeps what the box said. A box that the
+/// test does not take fails it.
 class BoxCatcher {
 public:
     struct Box {

@@ -2,7 +2,7 @@
 
 #include <FileError.h>
 
-/// What is wrong with a file by the error that `read` throws; empty when it throws none.
+/// What is wrong with a file according to the error that `read` throws; empty if none.
 template <class Read>
 QString errorOf(const Read& read)
 {

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// What SIGNAL() or SLOT() was given.
+/// The argument of SIGNAL() or SLOT().
 QString signature(const char* code)
 {
     return QString::fromLatin1(code + 1);

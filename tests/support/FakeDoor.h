@@ -10,7 +10,7 @@
 #include <functional>
 
 /// The dialog as a field or page sees it, without strip, window or host: it notes what it is asked,
-/// answers the checks as it is told, and routes each signal straight to the field that sends it.
+/// answers the checks as told, and routes each signal straight to the field that sends it.
 class FakeDoor : public QObject, public DialogDoor {
     Q_OBJECT
 

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QWidget>
 
-/// The child of that object name; without one the test ends with the names that there are.
+/// The child with that object name; without it the test ends with a list of the names.
 template <class T = QWidget>
 T& findNamed(const QWidget& parent, const QString& name)
 {
@@ -15,7 +15,7 @@ T& findNamed(const QWidget& parent, const QString& name)
     for (const QObject* const child : parent.findChildren<T*>()) {
         names.append(child->objectName());
     }
-    qFatal("%s has no %s \"%s\", but: %s", qPrintable(parent.objectName()),
+    qFatal("%s has no %s \"%s\", only: %s", qPrintable(parent.objectName()),
            T::staticMetaObject.className(), qPrintable(name), qPrintable(names.join(' ')));
 }
 

@@ -11,9 +11,9 @@ public:
     GlogCatcher();
     ~GlogCatcher() override;
 
-    /// The lines without their prefix, byte by byte.
+    /// The lines without their prefix, byte for byte.
     const QVector<QByteArray>& errors() const { return m_errors; }
-    /// The name of the source file that each line was written under.
+    /// The source file name that each line was written with.
     const QVector<QByteArray>& files() const { return m_files; }
 
     void send(google::LogSeverity severity, const char* fullFilename, const char* baseFilename,

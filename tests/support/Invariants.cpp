@@ -11,7 +11,7 @@ namespace Sent = MessageCodes::Sent;
 namespace {
 
 /// Whether use can make the strip or the dialog send `code`: not that of a tool which is disabled
-/// from the start, nor the second one of a tool that has two.
+/// from the start, nor the second one of a tool with two.
 bool isSent(int code)
 {
     static const QSet<int> disabled = {Sent::RotateFeature, Sent::MirrorFeature,
@@ -21,7 +21,7 @@ bool isSent(int code)
     return name && !QByteArray(name).endsWith("Off") && !disabled.contains(code);
 }
 
-// The type of a plot stamp is an integer for an index outside its list only.
+// The type of a plot stamp is an integer only for an index outside its list.
 const QSet<QString> integerKeys = {RecordKeys::orbotechType, RecordKeys::features,
                                    RecordKeys::angleGroup,   RecordKeys::cornerType,
                                    RecordKeys::barcodeMode,  RecordKeys::orbotechFontSize,

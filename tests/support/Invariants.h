@@ -4,8 +4,8 @@
 
 #include <QVariantMap>
 
-/// What holds of every record and message of the module, whatever was done before. Each function
-/// says what is wrong; an empty text when nothing is.
+/// What is true of every record and message of the module, whatever was done before. Each function
+/// says what is wrong; an empty text if nothing is.
 namespace Invariants {
 
 /// 45 keys, each of its type, the numbers within their metric bounds.

@@ -25,7 +25,7 @@ void keepLogQuiet(const char* program)
         google::SetLogDestination(severity, "");
     }
     google::InitGoogleLogging(program);
-    // Of each record that is sent there would be a line a key.
+    // Otherwise each record that is sent is logged with one line per key.
     QLoggingCategory::setFilterRules(QStringLiteral("canvastoolstrip.record.debug=false"));
 }
 

@@ -4,12 +4,12 @@
 #include <QObject>
 #include <QtTest>
 
-/// The test classes of a program. Each is run alone, in a process of its own.
+/// The test classes of a program. Each runs alone, in its own process.
 namespace TestProgram {
 
 using Run = int (*)(int argc, char** argv);
 
-/// The class of that source file: test_frame.cpp is chosen by the argument "frame".
+/// The class in that source file: the argument "frame" selects test_frame.cpp.
 bool add(const char* sourceFile, Run run);
 
 }  // namespace TestProgram

@@ -8,8 +8,8 @@
 #include <map>
 #include <string>
 
-/// Sees every message that is sent while it lives, and stands in for the canvas and the job tree
-/// as receivers. One at a time.
+/// Sees every message that is sent while it lives, and acts as the receiver for the canvas and the
+/// job tree. One at a time.
 class Recorder {
 public:
     struct Entry {
@@ -26,13 +26,13 @@ public:
 
     const QVector<Entry>& messages() const { return m_messages; }
     QVector<int> codes() const;
-    /// The last message of that code; one with code -1 when there is none.
+    /// The last message with that code; one with code -1 if there is none.
     Entry last(int code) const;
     void clear() { m_messages.clear(); }
     /// Forgets all but the first `count` messages.
     void truncate(int count) { m_messages.resize(count); }
 
-    /// Called after each message, while its sender is still at it.
+    /// Called after each message, while its sender is still in the call.
     void setOnMessage(std::function<void(const Entry&)> onMessage)
     {
         m_onMessage = std::move(onMessage);
@@ -41,6 +41,6 @@ public:
 private:
     QVector<Entry> m_messages;
     std::function<void(const Entry&)> m_onMessage;
-    char m_canvas = 0;  // what the manager knows as the two instances
+    char m_canvas = 0;  // registered with the manager as the two instances
     char m_jobTree = 0;
 };

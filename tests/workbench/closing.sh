@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Closing the main window ends the program, whatever other windows are open; a session that expects no
-# box is not asked for changes; and nothing is on the terminal but errors. Usage: closing.sh WORKBENCH MODULES JOBS
+# Closing the main window ends the program, whatever other windows are open; a session that expects
+# no box is not asked about changes; and only errors are on the terminal. Usage: closing.sh WORKBENCH MODULES JOBS
 set -u
 workbench=$1 modules=$2 jobs=$3
 dir=$(mktemp -d)

@@ -1,4 +1,4 @@
-// How the program looks: edges in the dark palette, large fonts, the texts of files and of Qt.
+// How the program looks: edges in the dark palette, large fonts, the texts from files and from Qt.
 
 #include "ErrorOf.h"
 #include "FindChild.h"
@@ -36,7 +36,7 @@ double luminance(const QColor& colour)
            0.0722 * linear(colour.blueF());
 }
 
-/// The ratio by which accessibility is judged: a part that must be seen has 3 or more.
+/// The contrast ratio of the accessibility guidelines: a part that must be seen has 3 or more.
 double contrast(const QColor& one, const QColor& other)
 {
     const double a = luminance(one) + 0.05;
@@ -79,7 +79,7 @@ private Q_SLOTS:
         const QImage picture = window.grab().toImage();
         const QColor desk = window.palette().color(QPalette::Window);
         for (const QWidget* const widget : all) {
-            // Across the widget's left edge there is a pixel that stands out.
+            // Across the widget's left edge there is a contrasting pixel.
             double best = 0;
             const QRect place = widget->geometry();
             for (int x = place.left(); x < place.left() + 5; ++x) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Wrong input ends the program with status 2, a step that cannot be done with status 1, each with
-# one line that names file, line and reason.
+# one line giving file, line and reason.
 # Usage: wrong-input.sh WORKBENCH MODULES
 set -u
 workbench=$1 modules=$2
@@ -72,7 +72,7 @@ grep -q expect "$dir/state.session" || {
     failed=1
 }
 
-# Without a display: one line, and no core.
+# Without a display: one line, and no core dump.
 for platform in xcb nonsense; do
     DISPLAY=:4711 QT_QPA_PLATFORM=$platform expect 2 "workbench: no window can be shown: " \
         --modules "$modules"

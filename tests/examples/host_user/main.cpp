@@ -1,4 +1,4 @@
-// Calls something of each library of a host.
+// Calls something in each library of a host.
 
 #include <PluginMetaData.h>
 #include <QTpluginsManger4CAM.h>

@@ -1,4 +1,4 @@
-// A canvas that asks what the tool strip sends.
+// A canvas that looks up what the tool strip sends.
 
 #include <PluginMetaData.h>
 

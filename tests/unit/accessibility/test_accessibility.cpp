@@ -27,8 +27,8 @@ bool needsName(QAccessible::Role role)
     }
 }
 
-/// Counts the controls below `parent`, and gathers those without a name. The parts that Qt builds a
-/// control of belong to it.
+/// Counts the controls below `parent`, and collects those without a name. The parts that Qt builds
+/// a control from belong to it.
 int walk(QAccessibleInterface* parent, QStringList* nameless)
 {
     int controls = 0;
@@ -55,7 +55,7 @@ int walk(QWidget* root, QStringList* nameless)
     return walk(QAccessible::queryAccessibleInterface(root), nameless);
 }
 
-/// The controls that Tab leads to, in its order, from the first.
+/// The controls that Tab leads to, in order, from the first.
 QList<QWidget*> tabOrder(QWidget& window)
 {
     QList<QWidget*> order;
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(nameless, QStringList());
     }
 
-    /// Controls without a label or a text of their own say what they are for.
+    /// Controls without a label or text say what they are for.
     void controlsAreNamedForWhatTheyDo_data()
     {
         QTest::addColumn<QString>("name");

@@ -31,8 +31,8 @@ QList<QWidget*> visibleControls(const QWidget& dialog)
     return controls;
 }
 
-/// What stands beside each other from left to right, row by row from above, by object name. Rows
-/// are what overlaps vertically.
+/// The object names row by row from the top, each from left to right. A row is what overlaps
+/// vertically.
 QStringList rowsOf(const QWidget& dialog)
 {
     QList<QPair<QRect, QString>> places;
@@ -56,7 +56,7 @@ QStringList rowsOf(const QWidget& dialog)
     return rows;
 }
 
-/// The file's parts: a line "[name]", then the lines that belong to it.
+/// The file's sections: a line "[name]", then the lines that belong to it.
 QMap<QString, QStringList> readParts(const QString& file)
 {
     QFile source(file);
@@ -138,14 +138,14 @@ private Q_SLOTS:
         QCOMPARE(rows.size(), expected.size());
     }
 
-    /// Fields below each other begin at one line, and so do their units.
+    /// Fields below each other are aligned, and so are their units.
     void columnsAreAligned_data() { addPages(); }
 
     void columnsAreAligned()
     {
         DialogFixture fixture;
         showPage(fixture);
-        // Of each column of labels: where the labels' fields begin.
+        // For each column of labels: where the labels' fields start.
         QMap<QPair<QWidget*, int>, QSet<int>> columns;
         for (const QLabel* const label : fixture.dialog->findChildren<QLabel*>()) {
             if (label->isVisibleTo(fixture.dialog) && label->buddy()) {
@@ -158,7 +158,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Every row begins where the window's margin ends, and none goes beyond it on the right.
+    /// Every row starts where the window's margin ends, and none goes beyond it on the right.
     void rowsKeepTheMargins_data() { addPages(); }
 
     void rowsKeepTheMargins()
@@ -178,7 +178,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The window alone has margins: a page within a page would stand farther in than others.
+    /// Only the window has margins: a page within a page would be indented more than others.
     void pagesHaveNoMargins()
     {
         const DialogFixture fixture;
@@ -202,7 +202,7 @@ private Q_SLOTS:
         }
     }
 
-    /// What may grow takes the room that is left; the rest keeps to its side.
+    /// What may grow takes the space that is left; the rest stays on its side.
     void fieldsTakeTheRoom_data()
     {
         QTest::addColumn<QString>("type");
@@ -232,7 +232,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// A row for each state of the dialog that shows other controls.
+    /// A row for each state of the dialog that shows different controls.
     static void addPages()
     {
         QTest::addColumn<Steps>("reach");
@@ -268,7 +268,7 @@ private:
             const QSize needed = control->minimumSizeHint();
             const QRect place(control->mapTo(&dialog, QPoint()), control->size());
             const QByteArray name = control->objectName().toUtf8();
-            // The pick button is 25 by 25, which is just its picture.
+            // The pick button is 25 by 25, exactly its picture.
             if (name != "m_pSelectFromEditorPB") {
                 QVERIFY2(place.width() >= needed.width(), name.constData());
                 QVERIFY2(place.height() >= needed.height(), name.constData());

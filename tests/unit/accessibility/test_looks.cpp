@@ -1,6 +1,6 @@
 // Everything that was set on a widget, layout, button group, validator or menu of strip, dialog and
 // popup, against a list: a margin, a stretch, a flat button or an icon size changes only on
-// purpose. After such a change LOOKS_WRITE=1 writes the lists anew; read their difference.
+// purpose. After such a change LOOKS_WRITE=1 rewrites the lists; review the diff.
 
 #include "DialogFixture.h"
 #include "Main.h"
@@ -37,7 +37,7 @@ QPair<QByteArray, Factory> plain()
     return {T::staticMetaObject.className(), [] { return new T; }};
 }
 
-/// The classes that objects are told apart from: what differs from a plain one was set.
+/// The classes that objects are compared with: what differs from a plain one was set.
 const QMap<QByteArray, Factory>& plainOnes()
 {
     static const QMap<QByteArray, Factory> all = [] {
@@ -62,7 +62,7 @@ const QMap<QByteArray, Factory>& plainOnes()
     return all;
 }
 
-/// The nearest class that plain ones are made of; none for an object that is nobody's to set.
+/// The nearest class that plain ones are made of; none for an object that nobody may set.
 const QMetaObject* knownClass(const QObject& object)
 {
     const QMetaObject* meta = object.metaObject();
@@ -99,7 +99,7 @@ QString textOf(const QMetaProperty& property, const QVariant& value)
     }
 }
 
-/// What Qt works out by itself, or what a style, a font or a show decides.
+/// What Qt works out by itself, or what a style, a font or showing decides.
 bool isDerived(const char* property)
 {
     static const QSet<QByteArray> names{"pos",
@@ -149,7 +149,7 @@ QString scalarsOf(const QObject& object)
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
         const QString value = textOf(property, property.read(&object));
-        // Of a window the layout finds the least size.
+        // The layout works out a window's minimum size.
         const bool isLeastOfWindow = object.isWidgetType() &&
                                      static_cast<const QWidget&>(object).isWindow() &&
                                      qstrcmp(property.name(), "minimumSize") == 0;
@@ -163,7 +163,7 @@ QString scalarsOf(const QObject& object)
 
 QString nameOf(const QLayoutItem& item)
 {
-    auto& open = const_cast<QLayoutItem&>(item);  // Qt's questions to an item are not const
+    auto& open = const_cast<QLayoutItem&>(item);  // Qt's getters of an item are not const
     if (const QWidget* const widget = open.widget()) {
         return widget->objectName();
     }

@@ -8,7 +8,7 @@
 /// some of it turned, mirrored, scaled or cut out.
 Pcb::Board sampleBoard();
 
-/// What `work` throws as the error of a file; "none" where it throws nothing.
+/// The file error that `work` throws; "none" if it throws nothing.
 template <class Work>
 QString errorOf(Work work)
 {

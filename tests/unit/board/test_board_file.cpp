@@ -166,7 +166,7 @@ private slots:
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("board.json"));
         write(file, "old");
-        // The file that stands in until all is written has a longer name: one too long.
+        // The temporary file used until all is written has a longer name: too long.
         const QString longName = folder.filePath(QString(250, QLatin1Char('n')));
         write(longName, "old");
         QVERIFY(errorOf([&] {

@@ -122,7 +122,7 @@ private slots:
         QCOMPARE(text.font, QStringLiteral("simplex"));
         QCOMPARE(text.xSize, 1000.0);
         QCOMPARE(text.ySize, 2000.0);
-        QCOMPARE(text.lineWidth, 609.6);  // a width of nothing is none
+        QCOMPARE(text.lineWidth, 609.6);  // a width of 0 is ignored
         QCOMPARE(text.barcode, BarcodeType::Matrix);
         QVERIFY(text.addString && text.addBackground && text.addMarkers && !text.stringOnTop);
         QCOMPARE(text.barcodeHeight, 1.27e6);

@@ -30,7 +30,7 @@ Feature negative(Geometry geometry)
     return Feature(geometry);
 }
 
-/// How many pixels have colours that no smoothing of edges explains.
+/// How many pixels have colours that antialiasing does not explain.
 int differing(const QImage& a, const QImage& b)
 {
     int count = a.size() == b.size() ? 0 : -1;
@@ -158,7 +158,7 @@ private slots:
         QImage drawn(1000, 1000, QImage::Format_ARGB32_Premultiplied);
         drawn.fill(Qt::white);
         QPainter painter(&drawn);
-        const double margin = 3000 / 66.0;  // which only the other picture has
+        const double margin = 3000 / 66.0;  // only the other picture has it
         renderer.render(&painter, QRectF(drawn.rect()).adjusted(margin, margin, -margin, -margin));
         painter.end();
         QCOMPARE(differing(drawn, QImage(png)), 0);

@@ -17,11 +17,11 @@ namespace {
 
 constexpr double micrometresOfInch = 25400;
 
-/// A square part of the board in a number of pixels that both programs make the same of, and with
+/// A square part of the board, in a number of pixels that both programs round alike, and with
 /// numbers short enough for the other one's command line.
 struct View {
     QPointF corner;  ///< lower left, micrometres
-    int hundredths;  ///< of an inch, what a side measures
+    int hundredths;  ///< of an inch, length of a side
     int dotsOfHundredth;
 
     int side() const { return hundredths * dotsOfHundredth; }
@@ -102,7 +102,7 @@ int farFrom(const QImage& a, const QImage& b)
     return count;
 }
 
-/// 400 thin circles and arcs that begin anywhere, between whose ends `gap` micrometres are left.
+/// 400 thin circles and arcs that start anywhere, with `gap` micrometres between their ends.
 Board ringsWithGaps(double gap)
 {
     QRandomGenerator random(9);
@@ -134,7 +134,7 @@ QImage painted(const Board& board, const View& view)
     return image;
 }
 
-/// The picture that the other program makes of the exported file; null where it fails or warns.
+/// The picture that the other program makes of the exported file; null if it fails or warns.
 QImage rendered(const Board& board, const View& view, const QTemporaryDir& folder)
 {
     const QString gerber = folder.filePath(QStringLiteral("board.gbr"));
@@ -184,8 +184,8 @@ private slots:
         QVERIFY(agreement.part() >= 0.98);
     }
 
-    /// Each feature by itself and large, so that a small one does not hide behind the others. The
-    /// programs round edges to pixels in ways of their own, so one pixel does not count.
+    /// Each feature alone and large, so that a small one is not hidden by the others. The programs
+    /// round edges to pixels differently, so one pixel does not count.
     void eachFeatureAgrees()
     {
         for (const Feature& feature : sampleBoard().features) {
@@ -234,7 +234,7 @@ private slots:
         QCOMPARE(farFrom(ours, theirs) + farFrom(theirs, ours), 0);
     }
 
-    /// What the comparison says of a file that lacks its cut-outs.
+    /// What the comparison says about a file without its cut-outs.
     void differencesAreSeen()
     {
         Board filled = sampleBoard();

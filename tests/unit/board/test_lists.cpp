@@ -1,4 +1,4 @@
-// What keeps large boards fast: boxes found by place, ids in little room, lists changed in places.
+// What keeps large boards fast: boxes found by place, compact ids, lists changed in places.
 
 #include "Main.h"
 #include "board/BoxIndex.h"
@@ -21,7 +21,7 @@ class ListsTest : public QObject {
     QRandomGenerator m_random{7};
 
     double place(double most) { return m_random.bounded(2 * most) - most; }
-    /// From points to more than the whole field, here and there far outside of it.
+    /// From points to more than the whole field, some far outside it.
     QRectF box()
     {
         static const double sizes[] = {0, 1, 100, 5000, 4096, 300000};

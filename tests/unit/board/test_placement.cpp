@@ -23,7 +23,7 @@ Brush arcBrush(ArcMethod method, bool clockwise)
     return brush;
 }
 
-/// What a brush makes of these clicks, the last one completing it.
+/// What a brush makes of these clicks, the last of which completes it.
 Features placed(const Brush& brush, const QVector<QPointF>& clicks)
 {
     Placement placement;
@@ -60,7 +60,7 @@ private slots:
         placement.setBrush(lineBrush(LineMode::Single));
         QVERIFY(placement.press({100, 200}).empty());
         QVERIFY(placement.isActive());
-        QVERIFY(placement.press({100, 200}).empty());  // no line without length
+        QVERIFY(placement.press({100, 200}).empty());  // no line of zero length
         placement.move({400, 600});
         QCOMPARE(placement.preview().size(), size_t(1));
         const Features line = placement.press({400, 600});

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double mil = 25.4;
 
-/// Within a part of `expected`, for areas with curves, which are flattened.
+/// Within a fraction of `expected`, for areas with curves, which are flattened.
 bool isAbout(double value, double expected, double part = 1e-3)
 {
     return std::abs(value - expected) <= std::abs(expected) * part + 1e-6;
@@ -70,7 +70,7 @@ private slots:
                             QVector<QPointF> outside) {
             QTest::newRow(name) << QString::fromLatin1(name) << size << area << inside << outside;
         };
-        const double regular = 2 * (M_SQRT2 - 1);  // a regular octagon's area by its square
+        const double regular = 2 * (M_SQRT2 - 1);  // a regular octagon's area over its square's
         row("r100", {100, 100}, M_PI * 2500, {{0, 0}, {49, 0}, {34, 34}}, {{37, 37}, {51, 0}});
         row("s40", {40, 40}, 1600, {{19, 19}, {-19, 19}}, {{21, 0}});
         row("rect20x40", {20, 40}, 800, {{9, 19}, {-9, -19}}, {{11, 0}, {0, 21}});

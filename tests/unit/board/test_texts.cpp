@@ -24,7 +24,7 @@ TextSpec barcode(BarcodeType type, const QString& content)
     return text;
 }
 
-/// What a reader of another maker finds in the picture of a text.
+/// What an independent reader finds in the picture of a text.
 QString readBy(const QString& program, const QStringList& arguments, const TextSpec& text)
 {
     const Feature feature(textGeometry(text, {0, 0}));
@@ -89,7 +89,7 @@ private slots:
         text.xSize = text.ySize = 1000;
         text.lineWidth = 200;
         const QPainterPath area = coveredBy(drawText(text));
-        // Each character is one and a half wide, the dot in its middle.
+        // Each character is one and a half wide, with the dot in the middle.
         QVERIFY(area.contains(QPointF(500, 0)));
         QVERIFY(area.contains(QPointF(3500, 0)));
     }
@@ -122,7 +122,7 @@ private slots:
             const Code code = encode(type, QString::fromLatin1(text));
             return code.rows.size() == 1 ? code.rows.first().size() : -1;
         };
-        // A character is 6 narrow and 3 wide bars of two, and a gap to the next.
+        // A character is 6 narrow elements, 3 wide ones of two modules, and a gap to the next.
         QCOMPARE(width(BarcodeType::Code39, "AB"), 4 * 12 + 3);
         QCOMPARE(width(BarcodeType::Code39Ascii, "a"), 4 * 12 + 3);
         QCOMPARE(width(BarcodeType::Code128B, "ab"), 4 * 11 + 13);

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// A canvas with a board of the test's own: what a hand does on it, in micrometres.
+/// A canvas with the test's own board: what a user does on it, in micrometres.
 class CanvasFixture {
 public:
     explicit CanvasFixture(const Pcb::Features& features = {})
@@ -67,7 +67,7 @@ public:
     ViewerPane* pane = new ViewerPane(&window);
 };
 
-/// A pixel of the view may be some micrometres.
+/// A pixel of the view may be several micrometres.
 inline bool isNear(const QPointF& a, const QPointF& b, double distance = 60)
 {
     return QLineF(a, b).length() <= distance;

@@ -1,4 +1,4 @@
-// The view: zoom, pan, fit, places; and the board's files by the bar above it.
+// The view: zoom, pan, fit, places; and the board's files, from the bar above it.
 
 #include "BoxCatcher.h"
 #include "CanvasFixture.h"

@@ -1,5 +1,5 @@
-// The document and its history: what an entry undoes and does again, what becomes of selections
-// when features come and go, and how much room the history takes.
+// The document and its history: what an entry undoes and redoes, what happens to selections when
+// features come and go, and how much memory the history takes.
 
 #include "CanvasFixture.h"
 #include "Main.h"
@@ -116,7 +116,7 @@ class TestDocument : public QObject {
         }
     }
 
-    /// What is found by place is what is there.
+    /// What is found at a place is what is there.
     void compareFound(const Document& document)
     {
         const QPointF point(m_random.bounded(8000), m_random.bounded(2000));

@@ -159,7 +159,7 @@ private Q_SLOTS:
                 CanvasHost::setDisplayUnit(unit.unit);
                 const QPointF point(2.5 * unit.micrometres, -4 * unit.micrometres);
                 const QString shown = CanvasHost::lengthText(point);
-                CanvasHost::setDisplayUnit(DisplayUnit::Mil);  // not the one that is shown
+                CanvasHost::setDisplayUnit(DisplayUnit::Mil);  // not the one shown
                 const auto read = TypedPlace::readPlace(shown);
                 QVERIFY2(read && isNear(*read, point, 1e-6), qPrintable(shown));
             }

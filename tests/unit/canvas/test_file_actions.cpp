@@ -1,4 +1,4 @@
-// The board as a file: what is not saved is not lost without a word.
+// The board as a file: unsaved changes are not lost without a warning.
 
 #include "CanvasFixture.h"
 #include "Main.h"
@@ -67,7 +67,7 @@ private:
     QTimer m_timer;
 };
 
-/// Answers the next file dialog as a user does; without a name leaves it.
+/// Answers the next file dialog as a user does; without a name cancels it.
 class Chosen {
 public:
     explicit Chosen(const QString& file = {}, int filter = 0)
@@ -179,7 +179,7 @@ private Q_SLOTS:
         fixture.deleteAll();
         const Answer save(QMessageBox::Save);
         QVERIFY(fixture.files().open(fixture.path("two.json")));
-        QVERIFY(fixture.features().empty());  // as it was saved a moment ago
+        QVERIFY(fixture.features().empty());  // as it was just saved
         QCOMPARE(save.texts.size(), 1);
     }
 

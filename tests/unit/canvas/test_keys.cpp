@@ -1,4 +1,4 @@
-// Keys reach the canvas from every window that belongs to its own, but not from what is typed into.
+// Keys reach the canvas from every window that belongs to its own, but not from edited fields.
 
 #include "CanvasFixture.h"
 #include "Main.h"
@@ -39,7 +39,7 @@ class TestKeys : public QObject {
         window.activateWindow();
         QTRY_COMPARE(QApplication::activeWindow(), &window);
     }
-    /// A window as the Add Feature dialog is one.
+    /// A window like the Add Feature dialog.
     static std::unique_ptr<QWidget> windowOf(const CanvasFixture& fixture)
     {
         auto window = std::make_unique<QWidget>(fixture.pane->parentWidget(), Qt::Window);
@@ -56,7 +56,7 @@ class TestKeys : public QObject {
         }
         qFatal("there is no second view");
     }
-    /// Undo, redo in both ways, select all, delete, and Escape.
+    /// Undo, redo both ways, select all, delete, and Escape.
     static void compareKeys(const CanvasFixture& fixture, QWidget& focus)
     {
         const size_t all = fixture.features().size();
@@ -121,7 +121,7 @@ private Q_SLOTS:
         compareKeys(fixture, view);
         const double main = fixture.view().pixelSize();
         compareZoomKeys(view, view);
-        QCOMPARE(fixture.view().pixelSize(), main);  // each window its own
+        QCOMPARE(fixture.view().pixelSize(), main);  // each window has its own
     }
 
     void theSecondViewSaysTheSame()

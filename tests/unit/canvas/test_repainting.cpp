@@ -1,4 +1,4 @@
-// What a view shows: the same whether it was drawn at once or piece by piece, also from afar; how
+// What a view shows: the same whether it was drawn at once or piece by piece, also zoomed out; how
 // far it zooms; and read-outs that follow.
 
 #include "CanvasFixture.h"
@@ -26,7 +26,7 @@ void turnWheel(const BoardView& view, const QPoint& at, int delta)
     QCoreApplication::sendEvent(view.viewport(), &event);
 }
 
-/// Of every kind and size, one over the other, some of them negative.
+/// Of every kind and size, on top of each other, some of them negative.
 Features manyFeatures()
 {
     QRandomGenerator random(3);
@@ -45,7 +45,7 @@ Features manyFeatures()
     return all;
 }
 
-/// With so many more on one place that the board is a large one.
+/// With so many more in one place that the board counts as large.
 Features onALargeBoard(const Features& features)
 {
     static const Features pile(10001, Feature(Pcb::padGeometry("r10", {19500, 500})));
@@ -59,14 +59,14 @@ QImage imageOf(BoardView& view)
     return view.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-/// As though the view had never drawn anything before.
+/// As if the view had never drawn anything before.
 QImage drawnAtOnce(BoardView& view)
 {
     view.resetCachedContent();
     return imageOf(view);
 }
 
-/// How many pixels around a place are of that colour.
+/// How many pixels around a place have that colour.
 int pixelsOf(const CanvasFixture& fixture, const QPointF& place, const QColor& colour)
 {
     const QPoint at = fixture.view().viewPoint(place.x(), place.y());
@@ -78,7 +78,7 @@ int pixelsOf(const CanvasFixture& fixture, const QPointF& place, const QColor& c
     return count;
 }
 
-/// Where the edge of a shape is cut off, its shades may be others by a trace.
+/// Where the edge of a shape is cut off, its shades may differ slightly.
 bool lookAlike(const QImage& a, const QImage& b)
 {
     constexpr int trace = 3;
@@ -140,7 +140,10 @@ class TestRepainting : public QObject {
         }
     }
 
-    QString position(const CanvasFixture& fixture) const { return findNamed<QLineEdit>(*fixture.pane, "m_pPositionLE").text(); }
+    QString position(const CanvasFixture& fixture) const
+    {
+        return findNamed<QLineEdit>(*fixture.pane, "m_pPositionLE").text();
+    }
 
 private Q_SLOTS:
     void piecesMakeTheWhole_data()
@@ -229,7 +232,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(
             onALargeBoard({Feature(Pcb::lineGeometry("r6.5", {8000, 6000}, {8010, 6000}))}));
-        // Some five pixels in both directions.
+        // About five pixels in both directions.
         QVERIFY(pixelsOf(fixture, {8005, 6000}, CanvasColours::line) >= 6);
     }
 

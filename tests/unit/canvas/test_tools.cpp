@@ -1,5 +1,5 @@
-// Each tool of the canvas, by hand: what it does to the board, that it can be undone, and what it
-// says where there is nothing for it to do.
+// Each tool of the canvas, used by hand: what it does to the board, that it can be undone, and what
+// it says when there is nothing to do.
 
 #include "CanvasFixture.h"
 #include "Main.h"
@@ -48,7 +48,7 @@ bool areNear(const QVector<QPointF>& actual, const QVector<QPointF>& expected)
 class TestTools : public QObject {
     Q_OBJECT
 
-    /// What was done is one entry of the history: undone and done again.
+    /// What was done is one entry of the history: undone and redone.
     static void compareHistory(const CanvasFixture& fixture, const CanvasState& before,
                                const char* name)
     {
@@ -259,7 +259,7 @@ private Q_SLOTS:
         fixture.rightClick(100, 100);
         QCOMPARE(fixture.state().selected, Pcb::Indexes{2});
         fixture.click(1000, 1000);
-        fixture.rightClick(1000, 1000);  // no polygon: nothing changes
+        fixture.rightClick(1000, 1000);  // not a polygon: nothing changes
         QCOMPARE(fixture.state().selected, Pcb::Indexes{2});
     }
 

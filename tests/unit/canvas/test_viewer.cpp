@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void namesTheTool()
     {
-        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Area zoom"));  // as the strip begins
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Area zoom"));  // as the strip starts
         receive(Sent::MoveFeature);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Move feature"));
         receive(Sent::DeleteFeature, 1);
@@ -91,7 +91,7 @@ private Q_SLOTS:
         receive(Sent::AddFeature);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add feature"));
         receive(Sent::FeatureSelection);
-        // The dialog was there: it is not announced again.
+        // The dialog was open: it is not announced again.
         receive(Sent::Record, 0, {{RecordKeys::features, FeatureKind::line.toInt()}});
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add feature"));
         receive(Sent::BreakLine);
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(int(m_log->messages().size()), 1);
         QCOMPARE(m_log->messages()[0].code, Accepted::SymbolsPicked);
         QCOMPARE(m_log->messages()[0].pointedAt.values(), QStringList("r100"));
-        // The tool before goes on.
+        // The previous tool continues.
         QCOMPARE(text("m_pPickHintLB"), QString("Click the opposite corner."));
     }
 

@@ -40,7 +40,7 @@ private Q_SLOTS:
         QVERIFY(!fixture.isShown("m_pValuesPB"));
     }
 
-    /// A slot hides the row; ticked meanwhile, the box shows the values' button alone.
+    /// A slot hides the row; if ticked meanwhile, the box shows only the values' button.
     void valuesAreShownAlone()
     {
         DialogFixture fixture;
@@ -96,7 +96,7 @@ private Q_SLOTS:
                  (Map{{".net", "gnd"}, {".smd", ""}}));
         fixture.dialog->get_attribute_list({{".drill", "via"}});
         QCOMPARE(fixture.recorder.last(Sent::AttributeMap).attributes, (Map{{".drill", "via"}}));
-        fixture.click("m_pLineTB");  // says the attributes again
+        fixture.click("m_pLineTB");  // sends the attributes again
         QCOMPARE(fixture.recorder.last(Sent::AttributeMap).attributes, (Map{{".drill", "via"}}));
         fixture.click("m_pAttributesCB");
         QVERIFY(fixture.recorder.last(Sent::AttributeMap).attributes.empty());

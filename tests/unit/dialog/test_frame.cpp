@@ -1,4 +1,4 @@
-// What the dialog's frame is built of, and what a feature type shows.
+// What the dialog's frame contains, and what a feature type shows.
 
 #include "DialogFixture.h"
 #include "Expect.h"
@@ -195,7 +195,7 @@ private Q_SLOTS:
         QCOMPARE(validator->regExp().pattern(), pattern);
         QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
 
-        // Once more on the chosen type: the same again, the type now an integer.
+        // Clicking the chosen type again: the same, but the type is now an integer.
         fixture.recorder.clear();
         fixture.click(button);
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
@@ -234,7 +234,7 @@ private Q_SLOTS:
         QVERIFY(fixture.recorder.messages().isEmpty());
     }
 
-    /// The host's window becomes active: the dialog comes before it, unless it is hidden.
+    /// The host's window becomes active: the dialog comes in front of it, unless it is hidden.
     void staysBeforeTheHostsWindow()
     {
         DialogFixture fixture;

@@ -219,7 +219,7 @@ private Q_SLOTS:
     void fill()
     {
         DialogFixture fixture;
-        fixture.click("m_pFillPB");  // disabled but for a surface
+        fixture.click("m_pFillPB");  // disabled except for a surface
         QVERIFY(fixture.recorder.messages().isEmpty());
         fixture.chooseType("m_pSurfaceTB");
         fixture.click("m_pFillPB");
@@ -243,7 +243,7 @@ private Q_SLOTS:
         QVERIFY(!fixture.dialog->isVisible());
         QVERIFY(fixture.recorder.messages().isEmpty());
 
-        // What closing makes the field report is no entry of the user's, until the next send.
+        // What closing makes the field report is not a user's entry, until the next send.
         fixture.dialog->on_m_pSymbolTextLE_editingFinished();
         QVERIFY(fixture.recorder.messages().isEmpty());
         Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});

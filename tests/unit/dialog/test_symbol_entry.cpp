@@ -18,7 +18,7 @@ namespace {
 
 const QString refusal("Illegal Input|Unable to create special symbol!");
 
-/// What becomes of a name that is entered while the rotation is 30 degrees.
+/// What happens to a name that is entered while the rotation is 30 degrees.
 class EnteredSymbol {
 public:
     explicit EnteredSymbol(const QString& words = {}) : name(words) {}
@@ -190,7 +190,7 @@ private Q_SLOTS:
             QCOMPARE(flags, row.flags);
             flags.clear();
             fixture.enter("m_pSymbolTextLE",
-                          "r10_45");  // the test of the whole name comes first, without the flag
+                          "r10_45");  // the whole name is tested first, without the flag
             QCOMPARE(flags, QVector<bool>({false}) + row.flags);
         }
     }
@@ -211,7 +211,7 @@ private Q_SLOTS:
         fixture.leave(way);
         QCOMPARE(fixture.boxes.takeTexts(), QStringList(refusal));
         QCOMPARE(fixture.symbol().text(), QString());
-        // Enter sends what it was given before the entry is looked at.
+        // Enter sends what it was given before the entry is checked.
         QCOMPARE(fixture.recorder.codes(), way == By::Enter
                                                ? (QVector<int>{Sent::Record, Sent::Record})
                                                : QVector<int>{Sent::Record});
@@ -372,7 +372,7 @@ private Q_SLOTS:
         Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r20")});
     }
 
-    /// What the type does not accept is not reported; when a type that does is chosen, it is taken.
+    /// What the type does not accept is not reported; once a type that does is chosen, it is taken.
     void aNameThatAnotherTypeAcceptsIsTakenWithIt()
     {
         DialogFixture fixture;
@@ -388,7 +388,7 @@ private Q_SLOTS:
         Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "rect20x40")});
     }
 
-    /// The canvas opens a box of its own while it is told: the field reports the same entry again.
+    /// The canvas opens a box while it gets the message: the field reports the same entry again.
     void aBoxOfTheCanvasSendsNothingTwice()
     {
         DialogFixture fixture;
@@ -429,7 +429,7 @@ private Q_SLOTS:
             throw std::runtime_error("no unit");
         };
         fixture.type("m_pSymbolTextLE", "r10");
-        QCOMPARE(fixture.boxes.take().size(), 3);  // one a key, and none for the focus
+        QCOMPARE(fixture.boxes.take().size(), 3);  // one per key, and none for the focus
         QCOMPARE(fixture.symbol().text(), QString("r10"));
         CanvasHost::uiApiOverrides() = {};
         fixture.open();

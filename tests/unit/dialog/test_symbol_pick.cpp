@@ -72,7 +72,7 @@ private Q_SLOTS:
         QSignalSpy select(fixture.dialog, SIGNAL(Select_symbol()));
         fixture.click("m_pSelectFromEditorPB");
         fixture.chooseType(type);
-        fixture.setToolActive(false);  // a pick is sent whatever the tool is
+        fixture.setToolActive(false);  // a pick is sent whichever tool is active
         const QString before = fixture.symbol().text();
 
         fixture.dialog->get_ChangeSymbol_Info({{0, name.toStdString()}});

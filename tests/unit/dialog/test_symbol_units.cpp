@@ -98,7 +98,7 @@ private Q_SLOTS:
 
     void suffixFlagDecides()
     {
-        // Of a name that is no standard symbol, only the part before the suffix is converted.
+        // In a name that is not a standard symbol, only the part before the suffix is converted.
         DialogFixture fixture;
         fixture.chooseType("m_pPadTB");
         fixture.enter("m_pSymbolTextLE", "fiducial_cross_45");
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.symbol().text(), QString("r50"));
     }
 
-    /// The suffix of an earlier entry says nothing of a symbol that was picked since.
+    /// The suffix of an earlier entry does not apply to a symbol picked since.
     void aPickedNameIsConvertedWhole()
     {
         DialogFixture fixture;
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.symbol().text(), QString("ring_r1524x762"));
     }
 
-    /// What a unit change writes is not what the user typed: the handler of typed text rests.
+    /// What a unit change writes was not typed: the handler of typed text does nothing.
     void aUnitChangeIsNoTyping()
     {
         DialogFixture fixture;

@@ -54,7 +54,7 @@ const Combo combos[] = {
     {"m_pMode1CMB", {"All", "Ps", "Pe"}},     {"m_pMode2CMB", {"All", "Ps", "Pe"}},
 };
 
-/// The slots are connected by name before the groups exist: Qt says of each that it finds nothing.
+/// The slots are connected by name before the groups exist: Qt warns that each has no match.
 std::unique_ptr<Dimensious> createPopup()
 {
     for (const char* const slot :
@@ -222,7 +222,7 @@ private Q_SLOTS:
             QVERIFY(findNamed(*popup, name).isHidden());
             QCOMPARE(int(findNamed<QGroupBox>(*popup, name).alignment()), 132);
         }
-        // It lies over the first buttons, and must not take their clicks.
+        // It covers the first buttons, and must not take their clicks.
         auto& button = findNamed<QPushButton>(*popup, "m_pAddReferencePB");
         QCOMPARE(popup->childAt(button.geometry().center()), &button);
     }
@@ -303,7 +303,7 @@ private Q_SLOTS:
         popup->on_pushButton_clicked();
     }
 
-    /// The form has slots for what a later host may connect; they change nothing.
+    /// The form has slots that a later host may connect; they change nothing.
     void slotsThatDoNothing()
     {
         const auto popup = createPopup();

@@ -1,5 +1,5 @@
-// The element area of the Dimensions popup: what is in it, under which names, and what it leaves to
-// the buttons below.
+// The element area of the Dimensions popup: its contents, their names, and what it leaves to the
+// buttons below.
 
 #include "FindChild.h"
 #include "Main.h"
@@ -15,7 +15,7 @@
 
 namespace {
 
-/// The slots are connected by name before the groups exist: Qt says of each that it finds nothing.
+/// The slots are connected by name before the groups exist: Qt warns that each has no match.
 std::unique_ptr<Dimensious> createPopup()
 {
     for (int slot = 0; slot < 7; ++slot) {
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(popup->findChild<QButtonGroup*>("m_pCreateNewEleRBGroup")->buttons().size(), 2);
     }
 
-    /// Wherever it lies over a button, the button is what is clicked.
+    /// Wherever it covers a button, a click goes to the button.
     void buttonsKeepTheirClicks()
     {
         const auto popup = createPopup();

@@ -243,7 +243,7 @@ private Q_SLOTS:
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
-    /// Hiding the page of the strings ends an entry there, which is sent with the format of before.
+    /// Hiding the page of the strings finishes an entry there, which is sent with the old format.
     void theBarcodesPageIsShownBeforeTheFormatIsStored()
     {
         FakeDoor door;

@@ -4,10 +4,10 @@
 
 #include <QVector>
 
-/// What a user enters in a field of the dialog, and what comes of it.
+/// What a user enters in a field of the dialog, and what results.
 class Entry {
 public:
-    /// `typeButton` is that of the field's page.
+    /// `typeButton` is the one of the field's page.
     Entry(const QString& field, const QString& typeButton) : m_field(field), m_type(typeButton) {}
 
     /// What shows the field on its page.
@@ -19,7 +19,7 @@ public:
     {
         return m_recordKey = key, m_stored = value, *this;
     }
-    /// The beginning of the box that refuses it.
+    /// How the box that refuses it starts.
     Entry& refusedBy(const QString& box) { return m_box = box, *this; }
 
     QString field() const { return m_field; }
@@ -48,5 +48,5 @@ private:
     QString m_box;
 };
 
-/// All editable controls, and those that refuse something once more with that.
+/// All editable controls; those that refuse something appear again with that.
 const QVector<Entry>& allEntries();

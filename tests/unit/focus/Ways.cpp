@@ -36,8 +36,8 @@ void clickWhatIsSeen(const DialogFixture& fixture, const QString& control)
     }
 }
 
-/// With the focus staying where it is, and with the focus moving to what is clicked: that differs
-/// by style and platform.
+/// With the focus staying where it is, and with the focus moving to what is clicked: which happens
+/// depends on style and platform.
 QVector<Way> clicksOn(const QString& control, const QString& type = {}, const QString& key = {})
 {
     return {

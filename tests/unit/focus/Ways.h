@@ -6,7 +6,7 @@
 
 #include <functional>
 
-/// How a field loses the focus, or the entry in it its turn.
+/// How a field loses the focus, or how its entry is ended otherwise.
 class Way {
 public:
     using Act = std::function<void(DialogFixture&)>;

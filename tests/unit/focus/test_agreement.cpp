@@ -1,4 +1,4 @@
-// Whether the comparison of fields and record sees what it is there to see.
+// Whether the comparison of fields and record finds what it is meant to find.
 
 #include "AgreementTable.h"
 #include "DialogFixture.h"
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QVERIFY(resultOf(fixture, fixture.record(), symbol) == Result::Excepted);
         QVERIFY(resultOf(fixture, fixture.record(), "m_pAngleValueSB") == Result::Excepted);
 
-        // Typed empty, the field must not keep a symbol; emptied by a refusal it may.
+        // Emptied by typing, the field must not keep a symbol; emptied by a refusal, it may.
         QVariantMap record = fixture.record();
         fixture.type(symbol, "");
         fixture.leave();

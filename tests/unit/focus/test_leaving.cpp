@@ -1,5 +1,5 @@
-// Nothing typed is lost: every editable control, and every way to lose the focus, one after another
-// and two in turn.
+// Nothing typed is lost: every editable control, and every way to lose the focus, singly and in
+// pairs.
 
 #include "Entries.h"
 #include "Main.h"
@@ -12,7 +12,7 @@ using Opened = DialogFixture::Opened;
 
 namespace {
 
-/// Each box with its own words; of a refusal the beginning, since its bounds follow the unit.
+/// Each box with its words; for a refusal only the start, since its bounds follow the unit.
 QStringList boxesOf(DialogFixture& fixture, const Entry& entry)
 {
     QStringList texts = fixture.boxes.takeTexts();
@@ -25,7 +25,7 @@ QStringList boxesOf(DialogFixture& fixture, const Entry& entry)
     return texts;
 }
 
-/// What the second of two is by default; CTS_ALL_PAIRS in the environment: each.
+/// The second of two by default; with CTS_ALL_PAIRS in the environment: each.
 const QStringList secondWays = {"UnitChanged, metric", "AddFeature", "host's box",
                                 "close and open"};
 
@@ -37,7 +37,7 @@ class TestLeaving : public QObject {
     int m_rows = 0;
     int m_unreported = 0;
 
-    /// Everything is taken at the latest when the dialog's field is left.
+    /// Everything is taken, at the latest when the dialog's field is left.
     void check(DialogFixture& fixture, const Entry& entry, const QVector<Way>& ways)
     {
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
@@ -45,7 +45,7 @@ class TestLeaving : public QObject {
         fixture.leave();
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
         if (fixture.agreement->isPending(entry.field())) {
-            // A type that was chosen meanwhile makes it a text that Qt does not report.
+            // A type chosen meanwhile makes it a text that Qt does not report.
             QVERIFY(!fixture.find<QLineEdit>(entry.field()).hasAcceptableInput());
             ++m_unreported;
             fixture.boxes.take();
@@ -54,7 +54,7 @@ class TestLeaving : public QObject {
         checkOutcome(fixture, entry, ways);
     }
 
-    /// Value and boxes, where the ways did not change them.
+    /// Value and boxes, unless the ways changed them.
     void checkOutcome(DialogFixture& fixture, const Entry& entry, const QVector<Way>& ways)
     {
         QStringList expected;

@@ -31,7 +31,7 @@ QVector<int> codesOf(const Entry& entry)
     if (field.startsWith("m_pSlot") || field == "m_pLengthLE") {
         return {};
     }
-    // Counts and factors have been sent while they were typed.
+    // Counts and factors were sent while they were typed.
     if (field.startsWith("m_pDril") && !field.contains("D", Qt::CaseSensitive)) {
         return {};
     }
@@ -47,7 +47,7 @@ bool isCheckedWhileTyping(const Entry& entry)
     return field.startsWith("m_pDrilN") || field.endsWith("sclLE");
 }
 
-/// Entries on pages whose symbol is checked when the record goes.
+/// Entries on pages whose symbol is checked when the record is sent.
 QVector<int> entriesWithSymbol()
 {
     QVector<int> numbers;
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.text("m_pSymbolTextLE"), QString());
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
 
-        // Nothing more comes of leaving the field; a spin box may send the same once more.
+        // Leaving the field does nothing more; a spin box may send the same again.
         const QVariantMap before = fixture.record();
         fixture.leave();
         QCOMPARE(fixture.record(), before);
@@ -194,7 +194,7 @@ private Q_SLOTS:
                                << "m_pDrilDxLE";
     }
 
-    /// Told of an entry, the canvas opens a box: the focus goes, and the entry is not sent again.
+    /// The canvas opens a box on an entry's message: the focus goes, the entry is not sent again.
     void boxOfAReceiver()
     {
         QFETCH(QString, page);
@@ -249,7 +249,7 @@ private Q_SLOTS:
         QVERIFY(fixture.recorder.messages().isEmpty());
         Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
 
-        // The host is well again: the entry goes on.
+        // The host works again: the entry continues.
         fixture.open();
         fixture.focus("m_pSymbolTextLE");
         QTest::keyClicks(&fixture.find("m_pSymbolTextLE"), "0");

@@ -1,4 +1,4 @@
-// A symbol that the host refuses at the send leaves the record with the field.
+// A symbol that the host refuses at the send is removed from record and field.
 
 #include "DialogFixture.h"
 #include "Expect.h"
@@ -75,7 +75,7 @@ private Q_SLOTS:
                                 << "r60000_45";
     }
 
-    /// The refused one was never entered: it is seen by the check alone.
+    /// The refused one was never entered: only the check sees it.
     void anEarlierOneStays()
     {
         QFETCH(Unit, unit);

@@ -1,4 +1,4 @@
-// In what order a change of type goes, as the canvas can see it.
+// The order of the steps of a type change, as the canvas sees it.
 
 #include "DialogFixture.h"
 #include "Expect.h"
@@ -20,7 +20,7 @@ const QStringList placing = {"m_pMirrorCMB", "m_pAngleValueSB"};
 const QStringList kinds = {FeatureKind::line, FeatureKind::pad, FeatureKind::surface,
                            FeatureKind::arc, FeatureKind::text};
 
-/// The number in the record of the type with that button.
+/// The record's number for the type with that button.
 int kindOf(const QString& type)
 {
     return kinds[types.indexOf(type)].toInt();
@@ -73,7 +73,7 @@ private Q_SLOTS:
         }
     }
 
-    /// The attributes go when all common controls are shown and nothing is hidden yet.
+    /// The attributes are sent when all common controls are shown and nothing is hidden yet.
     void order()
     {
         QFETCH(QString, before);
@@ -123,7 +123,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Hiding the spin box ends what is typed in it, still as the old type.
+    /// Hiding the spin box finishes what is typed in it, still as the old type.
     void typedRotation()
     {
         QFETCH(QString, before);

@@ -55,7 +55,7 @@ Job exampleJob(const std::string& name)
     return job;
 }
 
-/// A job file of one line per key; a test replaces one line by another.
+/// A job file with one line per key; a test replaces one line with another.
 QStringList validFile()
 {
     return {
@@ -378,7 +378,7 @@ void TestCamApi::faultyJobFile()
     lines[line - 1] = replacement;
     const QString file = write(lines.join('\n').toUtf8());
 
-    // A missing key is reported where its object begins, a repeated job name where it stands again.
+    // A missing key is reported where its object starts, a repeated job name where it is repeated.
     int expectedLine = line;
     if (replacement.isEmpty()) {
         expectedLine = line == 2 ? 1 : 4;

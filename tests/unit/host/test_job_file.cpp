@@ -1,4 +1,4 @@
-// A job file that was cut off, anywhere, is refused with its line.
+// A job file that is cut off, anywhere, is refused with its line.
 
 #include "ErrorOf.h"
 #include "Main.h"

@@ -118,7 +118,7 @@ private Q_SLOTS:
             const Module module("Gone.dll", &window);
             send(nullptr, "Gone.dll", 1);
         }
-        send(nullptr, "Gone.dll", 1);  // it was there in between: said again
+        send(nullptr, "Gone.dll", 1);  // it was there in between: reported again
         qInstallMessageHandler(previous);
         QCOMPARE(warnings, 3);
     }

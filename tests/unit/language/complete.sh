@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The committed translations of a program hold every text of its folders, each translated.
+# The committed translations of a program have every text of its folders, each translated.
 # Usage: complete.sh SOURCE LUPDATE PROGRAM FOLDER...
 set -u
 cd "$1" || exit 1
@@ -12,7 +12,7 @@ failed=0
 files=(translations/"$program"_*.ts)
 [ -e "${files[0]}" ] || { echo "no translation of $program"; exit 1; }
 for file in "${files[@]}"; do
-    # Gathers the texts into a copy; none may be new, unfinished or gone.
+    # Collects the texts into a copy; none may be new, unfinished or gone.
     copy=$dir/${file##*/}
     cp "$file" "$copy"
     "$lupdate" -silent -locations none -I . -I workbench "$@" \

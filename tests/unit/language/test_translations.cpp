@@ -29,7 +29,7 @@ bool isChinese(const QString& text)
                        [](QChar c) { return c.unicode() >= 0x4e00 && c.unicode() < 0xa000; });
 }
 
-/// All texts that a widget and its children show or say, each with its place.
+/// All texts that a widget and its children show or have read out, each with its place.
 QMap<QString, QString> textsOf(const QWidget& root)
 {
     QMap<QString, QString> texts;
@@ -68,7 +68,7 @@ QStringList untranslated(const QMap<QString, QString>& texts)
     return found;
 }
 
-/// Opens a tool's menu and leaves it.
+/// Opens a tool's menu and dismisses it.
 void openMenu(const DialogFixture& fixture, Tool tool)
 {
     QTimer::singleShot(0, [] { QApplication::activePopupWidget()->close(); });
@@ -110,7 +110,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(std::count_if(entries.begin(), entries.end(), isChinese), 5);
-        QCOMPARE(entries.last(), QString("Setting"));  // made before, and never retitled
+        QCOMPARE(entries.last(), QString("Setting"));  // created before, and never retitled
 
         QCoreApplication::removeTranslator(&m_chinese);
         fixture.receive(Accepted::LanguageChanged);

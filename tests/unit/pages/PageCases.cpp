@@ -16,7 +16,7 @@ void connected(const QList<Connection>& connections)
 {
     const DialogFixture fixture;
     for (const Connection& connection : connections) {
-        // Of one that was never made there is nothing to take back.
+        // There is nothing to undo if it was never made.
         QVERIFY2(QObject::disconnect(&fixture.find(connection.sender), connection.signal,
                                      fixture.dialog, connection.slot),
                  connection.slot);
@@ -174,7 +174,7 @@ void GreyedItems::tryToReach(QComboBox& combo, const QString& item) const
     QVERIFY2(m_free.contains(combo.currentText()), qPrintable(item));
     ByHand::typeAhead(combo, item);
     QVERIFY2(m_free.contains(combo.currentText()), qPrintable(item));
-    combo.setCurrentText(item);  // a program may
+    combo.setCurrentText(item);  // a program may do it
     QCOMPARE(combo.currentText(), item);
 }
 

@@ -6,7 +6,7 @@
 /// What several pages have in common: fields for lengths, greyed items, refusals, units, languages.
 namespace PageCases {
 
-/// A connection made by name, with the signatures as SIGNAL() and SLOT() write them.
+/// A connection made by name, with the signatures as in SIGNAL() and SLOT().
 struct Connection {
     const char* sender;
     const char* signal;
@@ -23,7 +23,7 @@ public:
     LengthField& upTo(int mil) { return m_bound = mil, *this; }
     LengthField& sends(Sends sends) { return m_sends = sends, *this; }
 
-    /// At, inside and outside its bounds, and texts that are no number; in both units.
+    /// At, inside and outside its bounds, and texts that are not numbers; in both units.
     Cases cases() const;
 
 private:
@@ -42,12 +42,12 @@ class GreyedItems {
 public:
     explicit GreyedItems(const QString& combo = {}) : m_combo(combo) {}
     GreyedItems& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
-    /// All items, those that are free in front.
+    /// All items, the enabled ones first.
     GreyedItems& free(const QStringList& items) { return m_free = items, *this; }
     GreyedItems& greyed(const QStringList& items) { return m_greyed = items, *this; }
 
     QString combo() const { return m_combo; }
-    /// Tries to reach the greyed ones by mouse, keyboard, wheel and typing ahead.
+    /// Tries to reach the disabled ones by mouse, keyboard, wheel and typing ahead.
     void tryToReach() const;
 
 private:
@@ -98,7 +98,7 @@ struct UnitLabel {
 void switchUnitTenTimes(const Steps& before, const QList<FieldText>& fields,
                         const QList<UnitLabel>& labels);
 
-/// In another language every text of `page` is another one, and no index, item state, entry of the
+/// In another language every text of `page` is different, and no index, item state, entry of the
 /// record or message has changed.
 void retranslate(const QString& page, const Steps& before);
 

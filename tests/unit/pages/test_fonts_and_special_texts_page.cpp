@@ -1,4 +1,4 @@
-// Fonts and special texts: the lists of the job, and the windows that they are chosen from.
+// Fonts and special texts: the job's lists, and the windows to choose from them.
 
 #include "DemoJobs.h"
 #include "DialogFixture.h"
@@ -132,7 +132,7 @@ private Q_SLOTS:
             fixture.dialog->close();
             QVERIFY(!popup->isVisible());
         }
-        QVERIFY(!popup);  // goes with the dialog
+        QVERIFY(!popup);  // deleted with the dialog
     }
 
     void specialTextBeyondTheValidator()
@@ -155,7 +155,7 @@ private Q_SLOTS:
                                      SLOT(on_m_pTextPB_clicked())));
     }
 
-    /// The job of the moment is the one whose fonts are listed.
+    /// The fonts of the current job are listed.
     void aFreshFontListForEachClick()
     {
         DialogFixture fixture;
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.text("m_pFontLE"), QString("standard"));
     }
 
-    /// A font is taken as it is named, of the job or not.
+    /// A font is taken as named, whether the job has it or not.
     void aChosenFontIsNotLookedUp()
     {
         DialogFixture fixture;
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QVERIFY(fixture.boxes.take().isEmpty());
     }
 
-    /// The window is made once: it stays with the job that there was then.
+    /// The window is created once: it keeps the job of that moment.
     void oneSpecialTextListForGood()
     {
         DialogFixture fixture;

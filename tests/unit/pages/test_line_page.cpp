@@ -32,7 +32,7 @@ const Expect::Expectations noAttributeRows = {
     Expect::shown("m_pSymbolTextLE"),
 };
 
-/// Of the three groups the one.
+/// The one of the three groups that is shown.
 Expect::Expectations onlyGroup(const QString& shown)
 {
     Expect::Expectations expected;
@@ -45,7 +45,7 @@ Expect::Expectations onlyGroup(const QString& shown)
 
 const Expect::Expectation attributesAndRecord = Expect::sent(Sent::AttributeMap, Sent::Record);
 
-/// From another kind, with everything in sight that a kind may hide.
+/// From another kind, with everything visible that a kind may hide.
 Case kind(const QString& item, const QString& value)
 {
     const QString other = item == "Single Line" ? "Polyline" : "Single Line";
@@ -153,7 +153,7 @@ Cases corners()
     };
 }
 
-/// What is stored and travels with the next record.
+/// What is stored and sent with the next record.
 Cases silent()
 {
     const auto entered = [](const QString& field, const QString& text, const QString& key) {

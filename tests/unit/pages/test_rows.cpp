@@ -1,4 +1,4 @@
-// How the rows of dialog and pages are put together, where it cannot be seen from the widgets.
+// How the rows of dialog and pages are composed, where the widgets do not show it.
 
 #include "DialogFixture.h"
 #include "Main.h"
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(namesIn(rows->itemAt(7)->layout()), (QStringList{"m_pTextPB", "m_pTextLE"}));
     }
 
-    /// Two rows of their own, whose fields begin and end at one line.
+    /// Two separate rows, whose fields are aligned on both sides.
     void fieldsOfTheTextPageStandInLine()
     {
         const DialogFixture fixture;

@@ -96,7 +96,7 @@ Cases families()
     };
 }
 
-/// A click on a type tells the attributes first; the type is a number from then on.
+/// A click on a type sends the attributes first; the type is a number from then on.
 Cases types()
 {
     const auto type = [](const QString& name, const QString& button, const QString& kind) {
@@ -221,7 +221,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(), QVector<int>());
     }
 
-    /// A symbol that cannot be sent is no matter of surfaces, but keeps an arc back.
+    /// A symbol that cannot be sent does not matter to surfaces, but holds back an arc.
     void withASymbolThatCannotBeSent_data()
     {
         addCases({Case("surface")

@@ -20,7 +20,7 @@ const Steps barcode = text + Choose("m_pTextFormatCMB", "Barcode");
 const Steps plotStamp = text + Choose("m_pTextFormatCMB", "Orbotech Plot Stamp");
 const Steps cannedText = text + Choose("m_pTextFormatCMB", "Canned Text");
 
-/// Of the four pages of the formats the one.
+/// The one of the four format pages that is shown.
 Expect::Expectations onlyPage(const QString& shown)
 {
     Expect::Expectations expected;
@@ -273,7 +273,7 @@ private Q_SLOTS:
         Expect::sameBoxes(fixture.boxes.takeTexts(), expected.boxes);
     }
 
-    /// The host's unit decides how the sizes are built, the one told later what is typed.
+    /// The host's unit decides how the sizes are built; a later unit message decides what is typed.
     void builtInTheHostsUnit()
     {
         CanvasHost::uiApiOverrides().getShowPara = [](void*, ZENTRA::API::show_param& shown) {

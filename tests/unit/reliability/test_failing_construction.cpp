@@ -1,4 +1,4 @@
-// The host throws while strip or dialog are made: nothing half made is left, and the next try
+// The host throws while strip or dialog are created: nothing half-made is left, and the next try
 // works.
 
 #include "DialogFixture.h"
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void dialog()
     {
         QFETCH(QString, operation);
-        DialogFixture fixture;  // its job and recorder
+        DialogFixture fixture;  // for its job and recorder
         QWidget window;
         auto* const strip = new Canvas_Tool_Strip(&window);
         window.setLayout(strip);

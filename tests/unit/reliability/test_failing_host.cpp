@@ -34,7 +34,7 @@ enum class Thrown { Nothing, Text, Exception, Other };
     throw 7;
 }
 
-/// Runs `action`; what it threw.
+/// Runs `action`; returns what it threw.
 Thrown thrownBy(const std::function<void()>& action)
 {
     try {
@@ -168,7 +168,7 @@ const Answer answers[] = {
      [] { uiApiOverrides().isNumValueLegal = [](double, double, double, void*) { return true; }; }},
     {"no number is legal",
      [] {
-         // The fixture reads the record by an edit of the angle.
+         // The fixture reads the record by editing the angle.
          uiApiOverrides().isNumValueLegal = [](double, double, double most, void*) {
              return most == 360.0;
          };
@@ -223,7 +223,7 @@ const Answer answers[] = {
      [] {
          uiApiOverrides().getShowPara = [](void*, ZENTRA::API::show_param& shown) {
              static bool other = false;
-             other = shown.metric = !other;  // another one at each call
+             other = shown.metric = !other;  // a different one at each call
          };
      }},
 };

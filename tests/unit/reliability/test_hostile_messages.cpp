@@ -47,7 +47,7 @@ class TestHostileMessages : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // The record would be logged a hundred thousand times.
+    // Otherwise the record is logged a hundred thousand times.
     void initTestCase() { QLoggingCategory::setFilterRules("canvastoolstrip.*=false"); }
 
     void unknownCodes()

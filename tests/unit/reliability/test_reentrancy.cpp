@@ -1,5 +1,5 @@
 // Siblings that do not wait: they answer within the call, close or delete the dialog while it
-// sends, and the parent widget goes before the strip does.
+// sends, and the parent widget is deleted before the strip.
 
 #include "DialogFixture.h"
 #include "Invariants.h"
@@ -30,7 +30,7 @@ PluginMetaData messageToStrip(int code, qint64 extra = 0)
 }
 
 /// What makes the dialog send. Combo boxes and line edits are not used themselves: Qt does not
-/// bear that one is deleted inside its own signal, only what the dialog does then is looked at.
+/// survive one being deleted inside its own signal; only what the dialog then does is tested.
 struct Use {
     const char* name;
     const char* type;  ///< the type button that is chosen before

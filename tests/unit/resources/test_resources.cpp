@@ -18,7 +18,7 @@ struct Pair {
     const char* file;
     const char* checkedFile;
 };
-// What a tool shows in place of the pictures of its row.
+// What a tool shows instead of the pictures of its row.
 const Pair variants[] = {
     {"delete2-gry.jpg", "delete2-gre.jpg"},
     {"Net selection4.jpg", "Net selection3.jpg"},
@@ -61,7 +61,7 @@ QVector<Pair> usableTools()
     return pairs;
 }
 
-/// A tool that cannot be used has one picture.
+/// A disabled tool has one picture.
 QVector<const char*> disabledTools()
 {
     QVector<const char*> files;
@@ -107,7 +107,7 @@ double difference(const QImage& a, const QImage& b)
     return sum / (a.width() * a.height() * 3);
 }
 
-/// The rows that are dark from one side of what a button shows to the other.
+/// The rows that are dark across the whole of what a button shows.
 int darkRows(const QImage& picture)
 {
     int rows = 0;
@@ -291,7 +291,7 @@ private Q_SLOTS:
         StripFixture fixture;
         fixture.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&fixture.window));
-        // From another variant, so that the start state does not pass for the choice.
+        // From another variant, so that the start state is not taken for the choice.
         fixture.strip->On_pSelect_layer_net_triggered();
         fixture.strip->on_m_mark_point2point_clicked();
         fixture.strip->on_m_delete_to_intersection_clicked();

@@ -1,4 +1,4 @@
-// What a click on each tool does, in which order.
+// What a click on each tool does, and in which order.
 
 #include "FindChild.h"
 #include "Main.h"
@@ -20,7 +20,7 @@ class Clicked {
 public:
     Clicked(Tool clicked, const char* itsSlot) : tool(clicked), slot(itsSlot) {}
     Clicked& sends(int code) { return onCode = offCode = code, *this; }
-    /// The code that goes where the tool is not checked at the moment of sending.
+    /// The code that is sent if the tool is not checked at that moment.
     Clicked& orElse(int code) { return offCode = code, *this; }
     Clicked& underTheName(const QString& name) { return sender = name, *this; }
 
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QFETCH(int, row);
         const Clicked& expected = clickedTools()[row];
         if (expected.tool == Tool::FeatureHighLight || expected.tool == Tool::SelectByNet) {
-            return;  // handlers of their own, with one code
+            return;  // has its own handler, with one code
         }
         StripFixture fixture;
         QToolButton* const button = fixture.button(expected.tool);
@@ -183,7 +183,7 @@ private Q_SLOTS:
         // At the signal the popup is shown and the tool is checked already.
         QList<Tool> checkedAtSignal;
         bool shownAtSignal = false;
-        int measured = 0;  // what the popup was told
+        int measured = 0;  // what was passed to the popup
         CanvasHost::setMeasureStarted([&] { ++measured; });
         connect(fixture.strip, &Canvas_Tool_Strip::GetRulerinfo, fixture.strip, [&] {
             checkedAtSignal = fixture.checked();
@@ -309,7 +309,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(), QVector<int>{code});
         QCOMPARE(fixture.button(Tool::SelectByNet)->styleSheet(), sheet);
         QCOMPARE(fixture.checked(), QList<Tool>{Tool::SelectByNet});
-        // A later click stays in the mode, known or not.
+        // A later click keeps the mode, known or not.
         QTest::mouseClick(fixture.button(Tool::SelectByNet), Qt::LeftButton);
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{code, code}));
         QCOMPARE(fixture.button(Tool::SelectByNet)->styleSheet(), sheet);

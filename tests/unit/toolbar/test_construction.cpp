@@ -72,8 +72,8 @@ QString resource(const char* file)
     return QStringLiteral(":/Canvas_Tool_Strip/Resources/") + QLatin1String(file);
 }
 
-/// How far the inside of `shown` is from `picture` drawn at (frame, frame), in levels of a colour
-/// on average.
+/// How far the inside of `shown` is from `picture` drawn at (frame, frame), in colour levels on
+/// average.
 double differenceAt(const QImage& shown, const QImage& picture, int frame)
 {
     double sum = 0;
@@ -252,7 +252,7 @@ private Q_SLOTS:
         panel.setLayout(qobject_cast<QLayout*>(asObject));
         delete asObject;
         QVERIFY(!panel.layout());
-        // The buttons are the panel's own by now, and go with it.
+        // The buttons now belong to the panel, and are deleted with it.
         QCOMPARE(panel.findChildren<QToolButton*>().size(), 2 * ToolTable::toolCount);
     }
 };

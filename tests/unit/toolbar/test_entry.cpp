@@ -68,7 +68,7 @@ private Q_SLOTS:
         auto* const strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(&parent));
         parent.setLayout(strip);
         delete static_cast<QObject*>(strip);
-        // The buttons stay with the widget that they live in.
+        // The buttons stay with their parent widget.
         QCOMPARE(parent.findChildren<QToolButton*>().size(), ToolTable::toolCount);
     }
 };

@@ -1,4 +1,4 @@
-// What each message of a sibling does.
+// What each message from a sibling does.
 
 #include "BoxCatcher.h"
 #include "GlogCatcher.h"
@@ -343,7 +343,7 @@ private Q_SLOTS:
                                                {PayloadKeys::step, "pcb"},
                                                {PayloadKeys::stepName, "no"}});
         QCOMPARE(spies.count(), 0);
-        // Seen in what the dialog is made with: its font list is asked for that job.
+        // Seen when the dialog is created: it asks for the fonts of that job.
         QCOMPARE(jobOfDialog(fixture), QString("b7"));
     }
 
@@ -478,7 +478,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// The job that a dialog made now is given, seen in whose fonts it asks for.
+    /// The job that a dialog created now gets, seen from whose fonts it asks for.
     static QString jobOfDialog(StripFixture& fixture)
     {
         QString asked;

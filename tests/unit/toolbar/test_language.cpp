@@ -1,4 +1,4 @@
-// What the strip reads in another language.
+// The strip's texts in another language.
 
 #include "Main.h"
 #include "StripFixture.h"

@@ -27,8 +27,8 @@ struct Opened {
     QMenu* menu = nullptr;
 };
 
-/// Right-clicks the tool and chooses the entry of that text with the mouse; dismisses the menu
-/// when there is none.
+/// Right-clicks the tool and chooses the entry with that text by mouse; dismisses the menu if there
+/// is none.
 Opened rightClick(StripFixture& fixture, Tool tool, const QString& entry)
 {
     Opened opened;
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(styleWhileSending, style);
         QCOMPARE(checkedWhileSending, QList<Tool>{tool});
 
-        // The variant stays in force for plain clicks.
+        // The variant remains for plain clicks.
         QTest::mouseClick(fixture.button(Tool::AreaZoom), Qt::LeftButton);
         QTest::mouseClick(fixture.button(tool), Qt::LeftButton);
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{code, Sent::AreaZoom, code}));

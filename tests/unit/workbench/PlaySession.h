@@ -8,9 +8,9 @@
 
 #include <QtTest>
 
-/// What came of a session.
+/// The outcome of a session.
 struct Played {
-    QString error;         ///< empty when it was played to its end
+    QString error;         ///< empty if it was played to its end
     QStringList notes;     ///< what the player noted
     QStringList messages;  ///< each message as code and extra word
 };

@@ -23,7 +23,7 @@ class TestCompose : public QObject {
     HostState* m_host = nullptr;  // the window owns it
     std::unique_ptr<MessageLog> m_log;
     std::unique_ptr<ComposeDialog> m_dialog;
-    char m_strip = 0;  // what the manager knows as the tool strip
+    char m_strip = 0;  // registered with the manager as the tool strip
 
     static void receive(void*, PluginMetaData) {}
 
@@ -44,7 +44,7 @@ class TestCompose : public QObject {
         findNamed<QComboBox>(*m_dialog, "m_pComposeTypeCMB" + row).setCurrentIndex(type);
         findNamed<QLineEdit>(*m_dialog, "m_pComposeValueLE" + row).setText(value);
     }
-    /// Presses Send; the errors that are shown then.
+    /// Presses Send; returns the errors that are then shown.
     QStringList send()
     {
         QTest::mouseClick(&findNamed(*m_dialog, "m_pComposeSendPB"), Qt::LeftButton);

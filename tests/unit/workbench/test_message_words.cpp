@@ -67,7 +67,7 @@ private Q_SLOTS:
         QTest::newRow("extra type") << QStringList{"1", "extra:list=x"} << entry("extra:list=x");
         QTest::newRow("symbols") << QStringList{"20001811", "extra:symbols=a=r10"}
                                  << entry("extra:symbols=a=r10");
-        // An address that is none would end the program.
+        // An invalid address would crash the program.
         QTest::newRow("number for address")
             << QStringList{"20001811", "extra=77"} << "message 20001811 takes extra:symbols=...";
         QTest::newRow("another object") << QStringList{"20001807", "extra:string=x"}

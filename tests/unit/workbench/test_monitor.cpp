@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(payloadOf(4), QString("Features=2, SymbolText=r10"));
         table.selectRow(1);
         QCOMPARE(marked(monitor), QStringList{RecordKeys::symbolText});
-        // A clear keeps the record that the next one is compared with.
+        // Clearing keeps the record that the next one is compared with.
         log.clear();
         QCOMPARE(findNamed<QTableWidget>(monitor, "m_pMessageTW").rowCount(), 0);
         send(Sent::Record, {{RecordKeys::features, FeatureKind::surface.toInt()},

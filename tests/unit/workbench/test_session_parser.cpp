@@ -7,7 +7,7 @@
 
 namespace {
 
-/// One of each step, with quotes, comments and letters of several bytes.
+/// One of each step, with quotes, comments and multi-byte characters.
 const char* const full =
     "# Ein St\u00fcck Arbeit\n"
     "click m_pA 1 2\n"
@@ -33,7 +33,7 @@ const char* const full =
     "expect state m_pA checked=true \"text=a b\"\n"
     "expect nothing";
 
-/// Where the steps stand, and of how many actions each is made.
+/// The lines of the steps, and how many actions each consists of.
 QStringList outline(const Session& session)
 {
     QStringList steps;
@@ -99,7 +99,7 @@ private Q_SLOTS:
             const QString place = QString("demo:%1: ").arg(lastLine);
             QVERIFY2(error.isEmpty() || (error.startsWith(place) && error.size() > place.size()),
                      qPrintable(QString("%1: %2").arg(size).arg(error)));
-            // All before the line that is cut is as it was.
+            // Everything before the line that is cut is unchanged.
             Session before;
             QCOMPARE(read(cut.left(cut.lastIndexOf('\n') + 1), &before), QString());
             QCOMPARE(outline(before), outline(whole).mid(0, int(before.steps.size())));
@@ -109,7 +109,7 @@ private Q_SLOTS:
 
     void anyByteInAnyPlace()
     {
-        // Whatever stands there, the file is read or the mistake has a line.
+        // Whatever is there, the file is read or the mistake has a line.
         const QByteArray bytes = full;
         const QRegularExpression place("^demo:[0-9]+: .");
         for (const char other : {'\0', '"', '\'', '\\', '\n', '\xff', '='}) {

@@ -1,4 +1,4 @@
-// Sessions played on a small window of their own: each kind of step, and each way to fail.
+// Sessions played on a small test window: each kind of step, and each way to fail.
 
 #include "Main.h"
 #include "PlaySession.h"
@@ -55,7 +55,7 @@ class TestSessionPlayer : public QObject {
     QStringList m_noted;
     QStringList m_seen;  ///< the messages, as code and extra word
 
-    /// What the player says at the end: empty when the session was played to its end.
+    /// What the player reports at the end: empty if the session was played to its end.
     QString play(const QString& text)
     {
         const Played played = playSession(text, m_window.get());

@@ -1,4 +1,4 @@
-// What the hand does is written as a session; played again, it sends the same messages.
+// What a user does is written as a session; played again, it sends the same messages.
 
 #include "ErrorOf.h"
 #include "Main.h"
@@ -26,7 +26,7 @@
 
 namespace {
 
-/// A canvas of 100 micrometres a pixel, its origin at the lower left.
+/// A canvas of 100 micrometres per pixel, its origin at the lower left.
 class Canvas : public QWidget {
     Q_OBJECT
 
@@ -75,7 +75,7 @@ class TestSessionRecorder : public QObject {
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<MessageLog> m_log;
     QStringList m_trace;  ///< the messages, as code and text
-    char m_viewer = 0;    // what the manager knows as the canvas
+    char m_viewer = 0;    // registered with the manager as the canvas
 
     static void receive(void*, PluginMetaData) {}
 
@@ -168,7 +168,7 @@ class TestSessionRecorder : public QObject {
         QTest::mouseClick(handle(), button, {}, at(the(name), the(name)->rect().center()));
     }
 
-    /// Does `hand` while a recorder runs; the lines of the file without the head.
+    /// Does `hand` while a recorder runs; returns the lines of the file without the header.
     QStringList record(const std::function<void()>& hand)
     {
         m_trace.clear();
@@ -186,7 +186,7 @@ class TestSessionRecorder : public QObject {
         return lines;
     }
 
-    /// Plays what was recorded, on a new window; empty when that goes to the end.
+    /// Plays what was recorded, on a new window; empty if it is played to the end.
     QString replay()
     {
         makeWindow();
@@ -210,7 +210,7 @@ class TestSessionRecorder : public QObject {
         return failed.isEmpty() ? QString() : failed[0][0].toString();
     }
 
-    /// Calls `act` as soon as there is a window of that kind to work on.
+    /// Calls `act` as soon as a window of that kind is open.
     template <class T>
     void whenOpen(const std::function<void(T*)>& act)
     {

@@ -51,7 +51,7 @@ private:
     }
 };
 
-/// A canvas of 100 micrometres a pixel, its origin at the lower left.
+/// A canvas of 100 micrometres per pixel, its origin at the lower left.
 class Canvas : public Pad {
     Q_OBJECT
 
@@ -71,7 +71,7 @@ class TestSessionSteps : public QObject {
     std::unique_ptr<QWidget> m_window;
     QPushButton* m_button = nullptr;
     QComboBox* m_combo = nullptr;
-    char m_viewer = 0;  // what the manager knows as the canvas
+    char m_viewer = 0;  // registered with the manager as the canvas
     std::map<std::string, std::string> m_attributes{{".net", "gnd"}};
 
     static void receive(void*, PluginMetaData) {}
@@ -175,7 +175,7 @@ private Q_SLOTS:
         connect(m_button, &QPushButton::clicked, this, [] {
             send(1);
             send(2);
-            send(3, {}, 0, "Canvas_Host.dll");  // the module says nothing
+            send(3, {}, 0, "Canvas_Host.dll");  // the module sends nothing
         });
         const QString click = "click m_pSendPB\n";
         QCOMPARE(play(click + "expect message 1\nexpect message 2\nexpect nothing\n"), QString());
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(play(click + "expect message 1\nexpect nothing\n"),
                  QString("demo:3: expected no further message, got message 2 to "
                          "Canvas_Viewer.dll"));
-        // What was sent before the session began is no part of it.
+        // What was sent before the session started does not belong to it.
         send(9);
         QCOMPARE(play("expect nothing\n"), QString());
     }
@@ -254,7 +254,7 @@ private Q_SLOTS:
         QCOMPARE(answers, (QStringList{"yes", "no"}));
         QCOMPARE(play(click + "box accept title=Why?\n"),
                  QString("demo:2: expected a box of the title \"Why?\", got \"Really?\""));
-        // The line is that of the expectation, wherever the box comes up.
+        // The line is that of the expectation, wherever the box opens.
         QCOMPARE(play("\nbox accept text=One\n" + click),
                  QString("demo:2: expected a box of the text \"One\", got \"Two lines\""));
     }

@@ -1,5 +1,5 @@
-// The canvas of the workbench stays where it is, whatever is said around it; so a click that is
-// recorded is the click that is played.
+// The canvas of the workbench stays where it is, whatever is shown around it; so a recorded click
+// is the click that is played.
 
 #include "FindChild.h"
 #include "Main.h"
@@ -50,7 +50,7 @@ class TestSteadyCanvas : public QObject {
     {
         return findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView");
     }
-    /// A layout that has become too small is made anew, and so is that around it.
+    /// A layout that has become too small is redone, and so is the one around it.
     static void settle()
     {
         for (int i = 0; i < 3; ++i) {
@@ -69,8 +69,8 @@ class TestSteadyCanvas : public QObject {
                                   Q_ARG(double, x), Q_ARG(double, y));
         return position;
     }
-    /// As a hand does it: by the window, which has time for what it does between two events, and on
-    /// a fine screen, where mouse and window stand between two pixels.
+    /// As a user does: through the window, which has time to react between two events, and on a
+    /// high-resolution screen, where mouse and window may be between two pixels.
     void click(const QWidget& widget, const QPoint& position) const
     {
         const QWidget* const window = widget.window();
@@ -135,7 +135,7 @@ private Q_SLOTS:
         const QSize before = m_window->size();
         QSet<QString> said;
         for (QToolButton* const tool : m_window->findChildren<QToolButton*>()) {
-            // The strip's tools; a second window is another matter.
+            // The strip's tools; a second window is a different case.
             if (!tool->isCheckable() || !tool->isEnabled() || !tool->isVisible() ||
                 !findNamed(*m_window, "m_pStripPanel").isAncestorOf(tool)) {
                 continue;
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QTest::mouseMove(board().viewport(), position);
         const QPointF before = place();
         QTest::mousePress(board().viewport(), Qt::LeftButton, {}, position);
-        QTest::qWait(20);  // "1 feature(s) selected." is said meanwhile
+        QTest::qWait(20);  // "1 feature(s) selected." is shown meanwhile
         QCOMPARE(place(), before);
         QTest::mouseRelease(board().viewport(), Qt::LeftButton, {}, position);
         QTest::qWait(20);
@@ -191,7 +191,7 @@ private Q_SLOTS:
             const auto anywhere = [&] {
                 return QPoint(60 + int(random() % 500), 60 + int(random() % 300));
             };
-            // What lies under the mouse is named below the board, where else nothing stands.
+            // What is under the mouse is named below the board, in an otherwise empty place.
             for (int i = 0; i < 6; ++i) {
                 click("m_pBreakLineTB");
                 click(at(5200 + 1500 * i, 9500) + QPoint(int(random() % 7), 0));

@@ -53,7 +53,7 @@ class TestStripAndCanvas : public QObject {
     {
         return findNamed<QLabel>(*m_window, "m_pActiveToolLB").text().remove("Tool: ");
     }
-    /// What the strip's checked button means to the canvas; "none" where no button is checked.
+    /// What the strip's checked button means to the canvas; "none" if no button is checked.
     QString stripTool() const
     {
         QStringList checked;
@@ -65,7 +65,7 @@ class TestStripAndCanvas : public QObject {
         return checked.isEmpty() ? QString("none") : checked.join('+');
     }
     void tell(int code) const { m_window->host()->send({code, {}, qint64(0)}); }
-    /// A click of the mouse in the middle of the board, where a trace lies.
+    /// A mouse click in the middle of the board, on a trace.
     QString afterAClick() const
     {
         auto& board = findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView");
@@ -133,7 +133,7 @@ private Q_SLOTS:
         tell(Accepted::AddFeatureActive);
         QVERIFY(tool("m_pAddFeatureTB").isChecked());
         QCOMPARE(canvasTool(), QString("Add feature"));
-        QCOMPARE(int(m_log->messages().size()), 1);  // nobody answers what was no question
+        QCOMPARE(int(m_log->messages().size()), 1);  // nobody answers what was not a question
         QVERIFY(afterAClick() != QString("Undo: Delete feature"));
     }
 
