@@ -210,7 +210,7 @@ private Q_SLOTS:
         QTest::newRow("time") << "wait -1\n"
                               << "demo:1: \"-1\" is not a time";
         QTest::newRow("picture") << "picture a.xyz\n"
-                                 << "demo:1: \"a.xyz\" does not end";
+                                 << "demo:1: \"a.xyz\" is not a picture";
         QTest::newRow("box") << "box refuse\n"
                              << "demo:1: \"refuse\" is not an answer";
     }
