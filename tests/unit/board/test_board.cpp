@@ -60,7 +60,7 @@ Board edited(Board board, const Edit& edit)
 class BoardTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void hitsTheTopmost()
     {
         const Board board = boardOf({square(0, 0, 1000), square(200, 200, 400, false)});

@@ -42,7 +42,7 @@ QByteArray contentOf(const QString& file)
 class BoardFileTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void boardsComeBackAsTheyWere()
     {
         Board board = sampleBoard();

@@ -19,7 +19,7 @@ Brush read(const QString& key, const QVariant& value)
 class BrushTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void nothingGivesTheDefaults() { QVERIFY(readBrush({}) == Brush()); }
 
     void frame()

@@ -47,7 +47,7 @@ int differing(const QImage& a, const QImage& b)
 class ExportsTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void linesAreDrawn()
     {
         QCOMPARE(gerber({Feature(lineGeometry(QStringLiteral("r10"), {1000, -2000}, {3000.5, 0}))}),

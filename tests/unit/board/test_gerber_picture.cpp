@@ -163,7 +163,7 @@ QImage rendered(const Board& board, const View& view, const QTemporaryDir& folde
 class GerberPictureTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY2(!QStandardPaths::findExecutable(QStringLiteral("gerbv")).isEmpty(),

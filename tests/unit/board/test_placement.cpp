@@ -53,7 +53,7 @@ bool same(const QPointF& a, const QPointF& b)
 class PlacementTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void singleLine()
     {
         Placement placement;

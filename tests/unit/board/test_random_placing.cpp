@@ -61,7 +61,7 @@ QMap<QString, QVariant> anyRecord(Random& random)
 class RandomPlacingTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void whateverIsPlacedCanBeSavedExportedAndEdited_data()
     {
         QTest::addColumn<int>("seed");

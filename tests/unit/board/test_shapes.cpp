@@ -58,7 +58,7 @@ Q_DECLARE_METATYPE(QPainterPath)
 class ShapesTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void symbols_data()
     {
         QTest::addColumn<QString>("name");

@@ -52,7 +52,7 @@ QString readBy(const QString& program, const QStringList& arguments, const TextS
 class TextsTest : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void everyCharacterHasStrokes()
     {
         QVector<QVector<QVector<QPoint>>> known;
