@@ -1,6 +1,9 @@
 # The library that a host loads: Canvas_Tool_Strip.so, with exactly its documented exports.
 
 add_library(Canvas_Tool_Strip SHARED)
+if(CTS_MUTATION)  # the sources are in a library of their own, and none is left here
+    target_sources(Canvas_Tool_Strip PRIVATE ${CMAKE_BINARY_DIR}/precompiled.cpp)
+endif()
 target_link_libraries(Canvas_Tool_Strip PRIVATE cts_settings CanvasToolStripObjects)
 set_target_properties(Canvas_Tool_Strip PROPERTIES
     PREFIX ""
