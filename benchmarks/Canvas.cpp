@@ -4,11 +4,11 @@
 
 namespace {
 
-Canvas* theCanvas = nullptr;
+CanvasFloor* theCanvas = nullptr;
 
 }  // namespace
 
-Connected::Connected(Canvas& canvas)
+Connected::Connected(CanvasFloor& canvas)
 {
     theCanvas = &canvas;
 }

@@ -12,9 +12,9 @@ public:
 };
 
 /// A receiver that keeps the last message, as a canvas does, or drops it.
-class Canvas : public Receiver {
+class CanvasFloor : public Receiver {
 public:
-    explicit Canvas(bool keeps = true) : m_keeps(keeps) {}
+    explicit CanvasFloor(bool keeps = true) : m_keeps(keeps) {}
     void receive(PluginMetaData message) override { take(message); }
 
     /// What happens to a message that has arrived, either way.
@@ -40,7 +40,7 @@ private:
 /// messages to an observer, which is not the module's work.
 class Connected {
 public:
-    explicit Connected(Canvas& canvas);
+    explicit Connected(CanvasFloor& canvas);
     ~Connected();
     Connected(const Connected&) = delete;
     Connected& operator=(const Connected&) = delete;

@@ -18,7 +18,7 @@ constexpr Tool tools[] = {Tool::MoveFeature, Tool::CopyFeature};
 
 /// Runs `click(0)` and `click(1)` in turn; each must send one message.
 template <class Click>
-void clickInTurn(benchmark::State& state, const Canvas& canvas, Click click)
+void clickInTurn(benchmark::State& state, const CanvasFloor& canvas, Click click)
 {
     long clicks = 0;
     const long before = canvas.count();
@@ -33,7 +33,7 @@ void clickInTurn(benchmark::State& state, const Canvas& canvas, Click click)
 
 void clickStrip(benchmark::State& state)
 {
-    Canvas canvas;
+    CanvasFloor canvas;
     const Connected connected(canvas);
     Panel panel;
     auto* const strip = new Canvas_Tool_Strip(&panel);
@@ -47,7 +47,7 @@ void clickStrip(benchmark::State& state)
 
 void clickPlain(benchmark::State& state)
 {
-    Canvas canvas;
+    CanvasFloor canvas;
     Panel panel;
     auto* const strip = new PlainStrip(&panel, canvas);
     panel.setLayout(strip);
@@ -59,7 +59,7 @@ void clickPlain(benchmark::State& state)
 
 void triggerAction(benchmark::State& state)
 {
-    Canvas canvas;
+    CanvasFloor canvas;
     PlainActions window(canvas);
     window.resize(1600, 100);
     window.show();

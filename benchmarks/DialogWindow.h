@@ -14,7 +14,7 @@ void openBenchmarkJob(int specialSymbols = 2);
 struct DialogWindow {
     explicit DialogWindow(bool canvasKeeps = true);
 
-    Canvas canvas;
+    CanvasFloor canvas;
     Connected connected;
     Panel panel;
     Canvas_Tool_Strip* strip;

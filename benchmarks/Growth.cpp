@@ -57,7 +57,7 @@ struct OpenedDialog {
         QApplication::processEvents();
     }
 
-    Canvas canvas;
+    CanvasFloor canvas;
     Connected connected;
     Panel panel;
     Canvas_Tool_Strip* strip;
@@ -121,7 +121,7 @@ void sendWithSpecialSymbols(benchmark::State& state)
 /// All strips live at once; each is shown and clicked.
 void useStrips(benchmark::State& state)
 {
-    Canvas canvas;
+    CanvasFloor canvas;
     const Connected connected(canvas);
     for (auto _ : state) {
         std::deque<Panel> panels(size_t(state.range(0)));

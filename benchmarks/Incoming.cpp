@@ -99,7 +99,7 @@ void deliverToStrips(benchmark::State& state, const std::vector<int>& codes)
     using Strip = Canvas_Tool_Strip;
     openBenchmarkJob();
     long heard = 0;
-    Canvas canvas;
+    CanvasFloor canvas;
     const Connected connected(canvas);
     std::deque<Panel> panels(codes.size());
     std::vector<Delivery> deliveries;
@@ -117,7 +117,7 @@ void deliverToStrips(benchmark::State& state, const std::vector<int>& codes)
 
 /// A plain switch with what Add Feature opens.
 struct PlainReceiver {
-    PlainReceiver(const QMap<QString, QVariant>& entries, Canvas& canvas, long& heard)
+    PlainReceiver(const QMap<QString, QVariant>& entries, CanvasFloor& canvas, long& heard)
         : plain(&panel, canvas), record(entries, " ", &panel, canvas)
     {
         using Plain = PlainSwitch;
@@ -143,7 +143,7 @@ void deliverToSwitches(benchmark::State& state, const std::vector<int>& codes)
     const DialogWindow window;
     const QMap<QString, QVariant> entries = window.canvas.last().payload;
     long heard = 0;
-    Canvas canvas;
+    CanvasFloor canvas;
     std::deque<PlainReceiver> receivers;
     std::vector<Delivery> deliveries;
     for (const int code : codes) {

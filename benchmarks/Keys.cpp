@@ -18,7 +18,7 @@ struct Key {
 };
 
 /// Presses the keys in turn; each must send `messages` messages.
-void pressInTurn(benchmark::State& state, const Canvas& canvas, QLineEdit* field,
+void pressInTurn(benchmark::State& state, const CanvasFloor& canvas, QLineEdit* field,
                  const QVector<Key>& keys, long messages)
 {
     field->setFocus();
@@ -73,7 +73,7 @@ void pressInPlain(benchmark::State& state, const QVector<Key>& keys, long messag
 {
     // The entries of the module's own record: the same keys and values.
     const DialogWindow dialog;
-    Canvas canvas;
+    CanvasFloor canvas;
     PlainRecord record(dialog.canvas.last().payload, "job", nullptr, canvas);
     Window window(record, QStringLiteral("r10"));
     window.showPainted();

@@ -40,7 +40,7 @@ private:
 };
 
 template <class Change>
-void changeAndSend(benchmark::State& state, const Canvas& canvas, Change change)
+void changeAndSend(benchmark::State& state, const CanvasFloor& canvas, Change change)
 {
     const long before = canvas.count();
     for (auto _ : state) {
@@ -62,7 +62,7 @@ void sendPlain(benchmark::State& state, bool canvasKeeps, bool logs)
 {
     // The entries of the module's own record: the same keys and values.
     const DialogWindow window;
-    Canvas canvas(canvasKeeps);
+    CanvasFloor canvas(canvasKeeps);
     PlainRecord record(window.canvas.last().payload, "job", nullptr, canvas);
     const QLineEdit symbol(QStringLiteral("r10"));
     QComboBox polarities;

@@ -42,7 +42,7 @@ void constructShow(benchmark::State& state, MakeStrip makeStrip)
 
 void addStripFigures(Runner& runner)
 {
-    static Canvas canvas;
+    static CanvasFloor canvas;
     const auto project = [](QWidget* panel) -> QLayout* { return new Canvas_Tool_Strip(panel); };
     const auto floor = [](QWidget* panel) -> QLayout* { return new PlainStrip(panel, canvas); };
     runner.addPair(

@@ -5,6 +5,6 @@
 
 extern "C" Q_DECL_EXPORT void* GetPluginInstance(QWidget* parent)
 {
-    static Canvas canvas;
+    static CanvasFloor canvas;
     return new PlainStrip(parent, canvas);
 }
