@@ -29,7 +29,9 @@ if ninja -C "$work/module" -t deps | grep -F "$source/host/"; then
 fi
 "$source/tests/module/exported-names.sh" "$work/module/modules/Canvas_Tool_Strip.so"
 
-cmake -S "$source/tests/module/sibling" -B "$work/sibling" -G Ninja \
+flags=
+[ "$sanitize" = ON ] && flags=-fsanitize=address,undefined
+cmake -S "$source/tests/module/sibling" -B "$work/sibling" -G Ninja -DCMAKE_CXX_FLAGS="$flags" \
     -DCMAKE_PREFIX_PATH="$work/prefix" >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
 cmake --build "$work/sibling" >"$work/build.log" || { cat "$work/build.log"; exit 1; }
 if ninja -C "$work/sibling" -t deps | grep -F "$source/plugin/"; then
