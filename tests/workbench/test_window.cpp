@@ -8,6 +8,7 @@
 #include <CamApiStandIn.h>
 #include <Settings.h>
 
+#include <QAbstractButton>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>

@@ -7,6 +7,7 @@
 
 #include <Settings.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFileDialog>
 #include <QLineEdit>

@@ -12,6 +12,7 @@
 #include <QAbstractScrollArea>
 #include <QCheckBox>
 #include <QLabel>
+#include <QLayout>
 #include <QToolButton>
 
 #include <random>
