@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Every source file is formatted as .clang-format says, and none grows beyond 500 lines. All are plain
-# ASCII, which every compiler reads alike: other letters are in translations/, or as \uXXXX.
+# ASCII, which every compiler reads alike: other letters are in translations/, or as \u escapes.
 set -u
 cd "$1" || exit 1
 mapfile -t files < <(find . \( -path ./build -o -path ./.git \) -prune -o \
