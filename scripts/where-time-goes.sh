@@ -5,6 +5,7 @@ set -eu
 cd "$(dirname "$0")/.."
 build=build/${1:-release}
 
+ninja -C "$build" -t recompact >/dev/null  # forgets steps that are none any more
 # Columns of the log: start, end (milliseconds), time stamp, output, hash of the command.
 awk -F '\t' 'NF == 5 { took[$4] = ($2 - $1) / 1000 }
     function kind(name) {

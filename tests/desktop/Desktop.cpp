@@ -2,7 +2,7 @@
 
 #include <QProcess>
 #include <QWidget>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

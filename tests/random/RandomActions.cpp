@@ -17,7 +17,7 @@
 #include <QMenu>
 #include <QSpinBox>
 #include <QTimer>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -11,7 +11,7 @@
 #include <UiApiStandIn.h>
 
 #include <QApplication>
-#include <QtTest>
+#include <QTest>
 
 #include <utility>
 

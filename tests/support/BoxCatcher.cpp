@@ -2,7 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QtTest>
+#include <QTest>
 
 BoxCatcher::BoxCatcher()
 {

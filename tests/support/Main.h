@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QObject>
-#include <QtTest>
+#include <QTest>
 
 /// The test classes of a program. Each runs alone, in its own process.
 namespace TestProgram {

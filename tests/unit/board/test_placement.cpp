@@ -3,6 +3,8 @@
 #include "board/Paths.h"
 #include "board/Placement.h"
 
+#include <QtMath>
+
 using namespace Pcb;
 
 namespace {

@@ -7,7 +7,7 @@
 #include <PluginManagerStandIn.h>
 
 #include <QLabel>
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 

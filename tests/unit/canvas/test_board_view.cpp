@@ -14,6 +14,8 @@
 #include <QTemporaryDir>
 #include <QWheelEvent>
 
+#include <cmath>
+
 class TestBoardView : public QObject {
     Q_OBJECT
 

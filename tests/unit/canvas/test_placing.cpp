@@ -7,6 +7,7 @@
 #include "plugin/PayloadKeys.h"
 #include "plugin/RecordKeys.h"
 
+#include <cmath>
 #include <map>
 
 namespace Sent = MessageCodes::Sent;

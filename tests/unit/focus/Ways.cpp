@@ -6,7 +6,7 @@
 #include "plugin/RecordKeys.h"
 
 #include <QApplication>
-#include <QtTest>
+#include <QTest>
 
 namespace Accepted = MessageCodes::Accepted;
 

@@ -5,7 +5,7 @@
 #include <cam_api.h>
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <stdexcept>
 

@@ -6,7 +6,7 @@
 #include <QAbstractButton>
 #include <QMessageBox>
 #include <QTimer>
-#include <QtTest>
+#include <QTest>
 
 #include <functional>
 #include <limits>

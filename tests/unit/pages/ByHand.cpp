@@ -1,7 +1,7 @@
 #include "ByHand.h"
 
 #include <QAbstractItemView>
-#include <QtTest>
+#include <QTest>
 
 namespace ByHand {
 

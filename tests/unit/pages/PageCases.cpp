@@ -4,7 +4,7 @@
 #include "plugin/MessageCodes.h"
 
 #include <QLabel>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 
-#include <QtTest>
+#include <QTest>
 
 /// The outcome of a session.
 struct Played {
