@@ -68,9 +68,16 @@ target_link_libraries(cts_precompiled PRIVATE cts_settings Qt5::Widgets)
 target_precompile_headers(cts_precompiled PRIVATE ${CTS_PRECOMPILED_HEADERS})
 
 # cts_library(<target> <SHARED|STATIC|OBJECT> <sources...>): the settings above, and Qt's headers,
-# precompiled once for all.
+# precompiled once for all. Libraries without widgets compile with the same ones; a test of who
+# includes what keeps the widgets out of them.
 function(cts_library target kind)
     add_library(${target} ${kind} ${ARGN})
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:cts_settings>)
     target_precompile_headers(${target} REUSE_FROM cts_precompiled)
+    foreach(library Qt5::Gui Qt5::Widgets)
+        target_include_directories(${target} SYSTEM PRIVATE
+            $<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>)
+        target_compile_definitions(${target} PRIVATE
+            $<TARGET_PROPERTY:${library},INTERFACE_COMPILE_DEFINITIONS>)
+    endforeach()
 endfunction()
