@@ -37,6 +37,11 @@ if(MSVC)
 elseif(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(cts_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
         -Woverloaded-virtual -Wconversion -Wno-sign-conversion $<$<BOOL:${CTS_WERROR}>:-Werror>)
+    if(CMAKE_UNITY_BUILD)
+        # What is local to a source looks like a header's to the compiler.
+        target_compile_options(cts_settings INTERFACE
+            $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+    endif()
     if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
         # qCDebug(category) << ... leaves the macro's last argument out.
         target_compile_options(cts_settings INTERFACE -Wno-gnu-zero-variadic-macro-arguments)

@@ -5,9 +5,14 @@ set -eu
 cd "$(dirname "$0")/.."
 build=build/${1:-release}
 
-ninja -C "$build" -t recompact >/dev/null  # forgets steps that are none any more
+# The log of the steps that the build still has.
+steps_log() {
+    awk -F '\t' 'NR == FNR { sub(/: [^:]*$/, ""); exists[$0]; next } NF == 5 && $4 in exists' \
+        <(ninja -C "$build" -t targets all) "$build/.ninja_log"
+}
+
 # Columns of the log: start, end (milliseconds), time stamp, output, hash of the command.
-awk -F '\t' 'NF == 5 { took[$4] = ($2 - $1) / 1000 }
+steps_log | awk -F '\t' '{ took[$4] = ($2 - $1) / 1000 }
     function kind(name) {
         if (name ~ /cmake_pch/) return "precompiled headers"
         if (name ~ /mocs_compilation/) return "compiled by moc"
@@ -18,9 +23,9 @@ awk -F '\t' 'NF == 5 { took[$4] = ($2 - $1) / 1000 }
     END {
         for (name in took) { sum[kind(name)] += took[name]; count[kind(name)]++ }
         for (k in sum) printf "%8.1f s %5d steps  %s\n", sum[k], count[k], k
-    }' "$build/.ninja_log" | sort -rn
+    }' | sort -rn
 echo "The longest steps:"
-awk -F '\t' 'NF == 5 { printf "%8.1f s  %s\n", ($2 - $1) / 1000, $4 }' "$build/.ninja_log" |
+steps_log | awk -F '\t' '{ printf "%8.1f s  %s\n", ($2 - $1) / 1000, $4 }' |
     sort -rn | head -n 8
 costs=$build/Testing/Temporary/CTestCostData.txt
 if [ -f "$costs" ]; then

@@ -2,19 +2,13 @@
 
 #include "Canvas.h"
 #include "PlainTools.h"
+#include "plugin/ModuleNames.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QToolBar>
 
 #include <utility>
-
-namespace {
-
-const QString toolStrip = QStringLiteral("Canvas_Tool_Strip.dll");
-const QString viewer = QStringLiteral("Canvas_Viewer.dll");
-
-}  // namespace
 
 PlainActions::PlainActions(Receiver& receiver)
 {
@@ -27,7 +21,7 @@ PlainActions::PlainActions(Receiver& receiver)
         group->addAction(action);
         m_actions.append(action);
         connect(action, &QAction::triggered, this, [&receiver, code = tool.code] {
-            PluginMetaData message(toolStrip, viewer);
+            PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
             message.code = code;
             receiver.receive(std::move(message));
         });

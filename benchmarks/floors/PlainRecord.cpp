@@ -1,6 +1,7 @@
 #include "PlainRecord.h"
 
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 
 #include <cam_api.h>
 #include <ui_api.h>
@@ -10,13 +11,6 @@
 #include <algorithm>
 #include <utility>
 #include <vector>
-
-namespace {
-
-const QString toolStrip = QStringLiteral("Canvas_Tool_Strip.dll");
-const QString viewer = QStringLiteral("Canvas_Viewer.dll");
-
-}  // namespace
 
 bool PlainRecord::isSpecial(const QString& symbol) const
 {
@@ -35,7 +29,7 @@ void PlainRecord::send(const QString& symbol, bool logs)
             qDebug().noquote() << "name:" << entry.key() << "value" << entry.value().toString();
         }
     }
-    PluginMetaData message(toolStrip, viewer);
+    PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
     message.code = MessageCodes::Sent::Record;
     message.payload = m_entries;
     m_receiver.receive(std::move(message));

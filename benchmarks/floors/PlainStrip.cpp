@@ -2,6 +2,7 @@
 
 #include "Canvas.h"
 #include "PlainTools.h"
+#include "plugin/ModuleNames.h"
 
 #include <QToolButton>
 
@@ -12,9 +13,6 @@ namespace {
 constexpr int deleteFeature = 5;
 constexpr int selectByNet = 23;
 constexpr int mark = 24;
-
-const QString toolStrip = QStringLiteral("Canvas_Tool_Strip.dll");
-const QString viewer = QStringLiteral("Canvas_Viewer.dll");
 
 }  // namespace
 
@@ -56,7 +54,7 @@ void PlainStrip::checkOnly(const QToolButton* button)
 
 void PlainStrip::send(int code, qint64 extra)
 {
-    PluginMetaData message(toolStrip, viewer);
+    PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
     message.code = code;
     message.extra = extra;
     m_receiver.receive(std::move(message));

@@ -3,6 +3,7 @@
 #include "PlainTools.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
 
 #include <common_widgets.h>
@@ -73,9 +74,7 @@ void PlainSwitch::measure()
 
 void PlainSwitch::addFeature()
 {
-    static const QString toolStrip = QStringLiteral("Canvas_Tool_Strip.dll");
-    static const QString jobTree = QStringLiteral("Canvas_JobTree.dll");
-    PluginMetaData message(toolStrip, jobTree);
+    PluginMetaData message(ModuleNames::toolStrip, ModuleNames::jobTree);
     message.code = Sent::AddFeatureStarted;
     m_receiver.receive(std::move(message));
     m_strip->checkOnly(m_strip->buttons()[Add]);

@@ -1,6 +1,7 @@
 // What siblings and hosts rely on, compared with the lists next to this file in both directions:
 // nothing missing, nothing extra, nothing changed.
 
+#include "ContractList.h"
 #include "DemoJobs.h"
 #include "Main.h"
 #include "Recorder.h"
@@ -9,26 +10,11 @@
 #include "plugin/MessageCodes.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
-#include <QFile>
 #include <QMetaMethod>
 
 namespace Sent = MessageCodes::Sent;
 
 namespace {
-
-QStringList linesOf(const char* name)
-{
-    QFile file(QStringLiteral(CONTRACT_DIR "/") + QLatin1String(name));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        qFatal("%s cannot be read", qPrintable(file.fileName()));
-    }
-    QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
-    lines.removeAll(QString());
-    lines.erase(std::remove_if(lines.begin(), lines.end(),
-                               [](const QString& line) { return line.startsWith('#'); }),
-                lines.end());
-    return lines;
-}
 
 /// The indented lines that follow the line `heading`.
 QStringList listed(const QString& heading)

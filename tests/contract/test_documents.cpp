@@ -10,7 +10,7 @@ namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
-QStringList linesOf(const QString& file)
+QStringList textLinesOf(const QString& file)
 {
     QFile source(QStringLiteral(SOURCE_DIR "/") + file);
     if (!source.open(QIODevice::ReadOnly | QIODevice::Text)) {
@@ -24,7 +24,7 @@ QList<QStringList> rowsOf(const QString& file, const QString& heading = {})
 {
     QList<QStringList> rows;
     bool inside = heading.isEmpty();
-    for (const QString& line : linesOf(file)) {
+    for (const QString& line : textLinesOf(file)) {
         inside = line.startsWith("## ") ? line == heading : inside;
         const bool isRow =
             line.startsWith("| ") && !line.startsWith("| Code |") && !line.startsWith("| Key |");
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void record()
     {
         QStringList expected;
-        for (const QString& line : linesOf("tests/contract/record.txt")) {
+        for (const QString& line : textLinesOf("tests/contract/record.txt")) {
             if (!line.startsWith('#') && !line.isEmpty()) {
                 expected.append(line.simplified());
             }

@@ -1,5 +1,6 @@
 // The texts and numbers of the protocol, each pinned to its name.
 
+#include "ContractList.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
@@ -7,31 +8,13 @@
 #include "plugin/RecordKeys.h"
 #include "toolbar/ToolTable.h"
 
-#include <QFile>
-
 namespace {
-
-/// The lines of a list next to this file, without surrounding spaces, notes and empty lines.
-QStringList linesOf(const char* name)
-{
-    QFile file(QStringLiteral(CONTRACT_DIR "/") + QLatin1String(name));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        qFatal("%s cannot be read", qPrintable(file.fileName()));
-    }
-    QStringList lines;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
-        if (!line.startsWith('#') && !line.isEmpty()) {
-            lines.append(line.simplified());
-        }
-    }
-    return lines;
-}
 
 QStringList messages(const char* heading, const QVector<int>& codes, const char* (*nameOf)(int))
 {
     QStringList lines{QLatin1String(heading)};
     for (const int code : codes) {
-        lines.append(QStringLiteral("%1 %2").arg(code).arg(QLatin1String(nameOf(code))));
+        lines.append(QStringLiteral("    %1  %2").arg(code, -8).arg(QLatin1String(nameOf(code))));
     }
     return lines;
 }

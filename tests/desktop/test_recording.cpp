@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int settleTime = 250;  // milliseconds after which a menu or box takes a click
+constexpr int opensIn = 250;  // milliseconds until a menu or box takes a click
 
 }  // namespace
 
@@ -75,7 +75,7 @@ class TestRecording : public QObject {
     template <class T>
     void whenOpen(const std::function<void(T*)>& act, const QPointer<T>& seen = {})
     {
-        QTimer::singleShot(settleTime, this, [=] {
+        QTimer::singleShot(opensIn, this, [=] {
             auto* window = qobject_cast<T*>(QApplication::activePopupWidget());
             window = window ? window : qobject_cast<T*>(QApplication::activeModalWidget());
             const bool open = window && window->isVisible();

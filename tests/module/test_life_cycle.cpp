@@ -5,6 +5,7 @@
 #include "Main.h"
 #include "Recorder.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 
 #include <PluginManagerStandIn.h>
@@ -24,9 +25,6 @@ namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-const QString moduleName = QStringLiteral("Canvas_Tool_Strip.dll");
-const QString moduleDir = QStringLiteral(MODULE_DIR);
-
 // The sanitizers' allocator counts differently, and looks for leaks itself.
 #ifdef __SANITIZE_ADDRESS__
 constexpr bool isSanitized = true;
@@ -41,7 +39,8 @@ struct Host {
 
     Host()
     {
-        instance = CanvasHost::loadModule(moduleName, moduleDir, &window);
+        instance =
+            CanvasHost::loadModule(ModuleNames::toolStrip, QStringLiteral(MODULE_DIR), &window);
         window.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance)));
         window.show();
     }
@@ -71,7 +70,7 @@ void use(const Host& host)
 
 bool isInMemory()
 {
-    const QByteArray file = QFile::encodeName(moduleDir + "/Canvas_Tool_Strip.so");
+    const QByteArray file = QFile::encodeName(QStringLiteral(MODULE_DIR) + "/Canvas_Tool_Strip.so");
     void* const library = dlopen(file.constData(), RTLD_NOLOAD | RTLD_LAZY);
     if (library) {
         dlclose(library);
@@ -105,7 +104,7 @@ private Q_SLOTS:
             }
             sent += recorder.last(Sent::Record).message.payload.value(RecordKeys::padNx) ==
                     QVariant("12");
-            QVERIFY(CanvasHost::unloadModule(moduleName));
+            QVERIFY(CanvasHost::unloadModule(ModuleNames::toolStrip));
             QVERIFY(!isInMemory());
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }

@@ -4,6 +4,7 @@
 #include "ErrorOf.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "toolbar/ToolTable.h"
 
 #include <PluginManagerStandIn.h>
@@ -20,13 +21,11 @@ namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
-const QString moduleName = QStringLiteral("Canvas_Tool_Strip.dll");
-const QString moduleDir = QStringLiteral(MODULE_DIR);
-
 /// A module instance as a host keeps it: placed in its widget, removed before it is deleted.
 struct LoadedStrip {
     QWidget panel;
-    void* instance = CanvasHost::loadModule(moduleName, moduleDir, &panel);
+    void* instance =
+        CanvasHost::loadModule(ModuleNames::toolStrip, QStringLiteral(MODULE_DIR), &panel);
 
     LoadedStrip() { panel.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance))); }
     ~LoadedStrip() { CanvasHost::removeInstance(instance); }
@@ -39,7 +38,7 @@ struct LoadedStrip {
 
 void sendTo(void* sender, int code)
 {
-    PluginMetaData message(QStringLiteral("Test.dll"), moduleName);
+    PluginMetaData message(QStringLiteral("Test.dll"), ModuleNames::toolStrip);
     message.code = code;
     QTpluginsManger4CAM::instance()->recMegToPlugin(sender, message);
 }
@@ -53,7 +52,7 @@ private Q_SLOTS:
     void cleanup()
     {
         CanvasHost::setObserver({});
-        CanvasHost::unloadModule(moduleName);
+        CanvasHost::unloadModule(ModuleNames::toolStrip);
     }
 
     void makesA26ToolGrid()
@@ -84,7 +83,7 @@ private Q_SLOTS:
         QVERIFY(strip.instance);
         int sent = 0;
         CanvasHost::setObserver([&](const CanvasHost::Transfer& transfer) {
-            sent += transfer.message.receiver != moduleName;
+            sent += transfer.message.receiver != ModuleNames::toolStrip;
         });
         for (const int code : std::initializer_list<int>{
                  0, -1, Sent::Record - 1, Sent::Record, Accepted::AreaZoom - 1,
@@ -102,14 +101,14 @@ private Q_SLOTS:
                 LoadedStrip strip;
                 QVERIFY(strip.instance);
                 QString error;
-                QVERIFY2(!CanvasHost::unloadModule(moduleName, &error),
+                QVERIFY2(!CanvasHost::unloadModule(ModuleNames::toolStrip, &error),
                          "unloaded under a living instance");
                 QVERIFY(error.contains(QStringLiteral("has instances")));
                 QVERIFY(QFileInfo::exists(
                     QStringLiteral(":/Canvas_Tool_Strip/Resources/Area zoom2.jpg")));
             }
             QString error;
-            QVERIFY2(CanvasHost::unloadModule(moduleName, &error), qPrintable(error));
+            QVERIFY2(CanvasHost::unloadModule(ModuleNames::toolStrip, &error), qPrintable(error));
             QVERIFY2(!QFileInfo::exists(QStringLiteral(":/Canvas_Tool_Strip")),
                      "the resource tree outlived the library");
         }
@@ -157,7 +156,7 @@ private Q_SLOTS:
         QWidget panel;
         bool passed = false;
         try {
-            CanvasHost::loadModule(moduleName, moduleDir, &panel);
+            CanvasHost::loadModule(ModuleNames::toolStrip, QStringLiteral(MODULE_DIR), &panel);
         } catch (int) {
             passed = true;
         }

@@ -16,7 +16,7 @@ bool add(const char* sourceFile, Run run);
 
 /// Makes `Class` one of the program's test classes.
 #define CTS_TEST(Class)                                        \
-    [[maybe_unused]] static const bool isClassAdded =          \
+    [[maybe_unused]] static const bool is##Class##Added =      \
         TestProgram::add(__FILE__, [](int argc, char** argv) { \
             Class test;                                        \
             return QTest::qExec(&test, argc, argv);            \

@@ -9,11 +9,6 @@
 namespace Pcb {
 namespace {
 
-bool exists(const Board& board, int index)
-{
-    return index >= 0 && index < static_cast<int>(board.features.size());
-}
-
 const Feature& at(const Board& board, int index)
 {
     return board.features[static_cast<size_t>(index)];
@@ -53,7 +48,7 @@ bool conducts(const Feature& a, const Feature& b)
     return a.isPositive() && b.isPositive() && touch(a, b);
 }
 
-bool hasEnds(const Feature& feature)
+bool hasDrawnEnds(const Feature& feature)
 {
     return (feature.kind() == Kind::Line || feature.kind() == Kind::Arc) &&
            !feature.area().isEmpty();
@@ -61,7 +56,7 @@ bool hasEnds(const Feature& feature)
 
 bool shareAnEnd(const Feature& a, const Feature& b, double tolerance)
 {
-    if (!hasEnds(a) || !hasEnds(b)) {
+    if (!hasDrawnEnds(a) || !hasDrawnEnds(b)) {
         return false;
     }
     for (int end : {0, 1}) {
@@ -87,6 +82,11 @@ Indexes chosen(const Board& board, IsInside isInside)
 }
 
 }  // namespace
+
+bool exists(const Board& board, int index)
+{
+    return index >= 0 && index < static_cast<int>(board.features.size());
+}
 
 bool Board::operator==(const Board& other) const
 {

@@ -22,6 +22,8 @@ struct Board {
 
 using Indexes = std::vector<int>;  ///< of features; ascending, each once
 
+bool exists(const Board& board, int index);
+
 /// Outline and features; invalid for an empty board.
 QRectF boundsOf(const Board& board);
 

@@ -153,11 +153,6 @@ Parts crossings(const Board& board, int index)
     return parts;
 }
 
-bool exists(const Board& board, int index)
-{
-    return index >= 0 && index < static_cast<int>(board.features.size());
-}
-
 /// Replaces one more feature; neighbours share one splice.
 void replace(Edit& edit, int index, const Features& by)
 {

@@ -5,6 +5,7 @@
 #include "messages/HostState.h"
 #include "messages/MessageNames.h"
 #include "messages/MessageWords.h"
+#include "messages/Named.h"
 
 #include <FileError.h>
 #include <PluginManagerStandIn.h>
@@ -45,13 +46,6 @@ int indexOf(Extra kind)
         ++index;
     }
     return index;
-}
-
-template <typename W>
-W* named(W* widget, const char* name)
-{
-    widget->setObjectName(QLatin1String(name));
-    return widget;
 }
 
 /// A line for errors in the fields above; it takes no space while they are valid.

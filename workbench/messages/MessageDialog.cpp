@@ -2,6 +2,7 @@
 
 #include <RecordTable.h>
 #include "messages/MessageNames.h"
+#include "messages/Named.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -11,17 +12,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-namespace {
-
-template <typename W>
-W* named(W* widget, const char* name)
-{
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
-}  // namespace
 
 MessageDialog::MessageDialog(const MessageRecord& message, QWidget* parent)
     : QDialog(parent), m_message(message)

@@ -6,6 +6,7 @@
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
+#include "messages/Named.h"
 
 #include <QEvent>
 #include <QFileDialog>
@@ -22,13 +23,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-template <typename W>
-W* named(W* widget, const char* name)
-{
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
 
 void prepareTable(QTableView* table)
 {

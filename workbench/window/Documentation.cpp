@@ -7,16 +7,16 @@
 
 namespace {
 
-const QString name = QStringLiteral("m_pDocumentation");
+const QString browserName = QStringLiteral("m_pDocumentation");
 
 }  // namespace
 
 void Documentation::show(QWidget* parent)
 {
-    auto* browser = parent->findChild<QTextBrowser*>(name);
+    auto* browser = parent->findChild<QTextBrowser*>(browserName);
     if (!browser) {
         browser = new QTextBrowser(parent);
-        browser->setObjectName(name);
+        browser->setObjectName(browserName);
         browser->setWindowFlag(Qt::Window);
         browser->setOpenExternalLinks(true);
         browser->resize(760, 560);

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr double corner = 2;
+constexpr double cornerRadius = 2;
 
 /// The style below marks the focus by an edge of its own.
 bool showsFocus(const QStyleOption* option)
@@ -62,7 +62,7 @@ void EdgedStyle::drawEdge(const QStyleOption* option, QPainter* painter, bool is
     if (isRound) {
         painter->drawEllipse(line);
     } else {
-        painter->drawRoundedRect(line, corner, corner);
+        painter->drawRoundedRect(line, cornerRadius, cornerRadius);
     }
     painter->restore();
 }

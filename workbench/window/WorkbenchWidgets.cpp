@@ -2,6 +2,7 @@
 
 #include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
+#include "messages/Named.h"
 #include "plugin/ModuleNames.h"
 #include "window/WorkbenchWindow.h"
 
@@ -20,13 +21,6 @@
 #include <algorithm>
 
 namespace {
-
-template <typename W>
-W* named(W* widget, const char* name)
-{
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
 
 /// A widget that keeps a module's panel with `margin` around it.
 QWidget* createHolder(const char* name, int margin)

@@ -1,4 +1,5 @@
 #include "Main.h"
+#include "SamePoint.h"
 #include "board/Areas.h"
 #include "board/Board.h"
 #include "board/EditOps.h"
@@ -30,11 +31,6 @@ Feature named(const Feature& feature, const QString& net)
     Geometry geometry = feature.geometry();
     geometry.attributes.insert(QStringLiteral(".net"), net);
     return Feature(geometry);
-}
-
-bool same(const QPointF& a, const QPointF& b)
-{
-    return distance(a, b) < 1e-6;
 }
 
 bool runs(const Feature& feature, const QPointF& from, const QPointF& to)

@@ -1,5 +1,6 @@
 #include "CoveredArea.h"
 #include "Main.h"
+#include "SamePoint.h"
 #include "board/Paths.h"
 #include "board/Placement.h"
 
@@ -43,11 +44,6 @@ Features placed(const Brush& brush, const QVector<QPointF>& clicks)
 QVector<QPointF> pointsOf(const Feature& feature)
 {
     return feature.geometry().points;
-}
-
-bool same(const QPointF& a, const QPointF& b)
-{
-    return distance(a, b) < 1e-6;
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 
 #include "FindChild.h"
 #include "Main.h"
+#include "Popup.h"
 #include "QuotingTranslator.h"
-#include "dimensions/Dimensious.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -14,8 +14,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
-
-#include <memory>
 
 namespace {
 
@@ -53,21 +51,6 @@ const Combo combos[] = {
     {"m_pOverlapCMB", {"Overlap", "Opaque"}}, {"m_pPrecisionCMB", {"1", "2", "3", "4", "5"}},
     {"m_pMode1CMB", {"All", "Ps", "Pe"}},     {"m_pMode2CMB", {"All", "Ps", "Pe"}},
 };
-
-/// The slots are connected by name before the groups exist: Qt warns that each has no match.
-std::unique_ptr<Dimensious> createPopup()
-{
-    for (const char* const slot :
-         {"on_pushButton_clicked()", "on_m_pSourcesRBGroup_clicked(QAbstractButton*)",
-          "on_m_pCreateNewEleRBGroup_clicked(QAbstractButton*)", "on_m_pLinePBGroup_clicked(int)",
-          "on_m_pRectPBGroup_buttonClicked(int)", "on_m_pSlotPBGroup_buttonClicked(int)",
-          "on_m_pAddDstEleShapeCMB_ComboBox_Changed()"}) {
-        const QByteArray text =
-            QByteArray("QMetaObject::connectSlotsByName: No matching signal for ") + slot;
-        QTest::ignoreMessage(QtWarningMsg, text.constData());
-    }
-    return std::make_unique<Dimensious>(nullptr);
-}
 
 }  // namespace
 

@@ -3,31 +3,20 @@
 
 #include "FindChild.h"
 #include "Main.h"
+#include "Popup.h"
 #include "QuotingTranslator.h"
-#include "dimensions/Dimensious.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 
-#include <memory>
-
 namespace {
 
-/// The slots are connected by name before the groups exist: Qt warns that each has no match.
-std::unique_ptr<Dimensious> createPopup()
-{
-    for (int slot = 0; slot < 7; ++slot) {
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("connectSlotsByName"));
-    }
-    return std::make_unique<Dimensious>(nullptr);
-}
-
-QStringList namesOf(const QList<QRadioButton*>& buttons)
+QStringList namesOf(const QList<QRadioButton*>& choices)
 {
     QStringList names;
-    for (const QRadioButton* const button : buttons) {
+    for (const QRadioButton* const button : choices) {
         names.append(button->objectName());
     }
     return names;

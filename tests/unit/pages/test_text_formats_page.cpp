@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "PageCases.h"
+#include "TextSteps.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -13,11 +14,7 @@ namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-const Steps text = {Click("m_pTextTB")};
-const Steps barcode = text + Choose("m_pTextFormatCMB", "Barcode");
 const Steps matrixCode = barcode + Choose("m_pUPCCMB", "ECC-200");
-const Steps plotStamp = text + Choose("m_pTextFormatCMB", "Orbotech Plot Stamp");
-const Steps cannedText = text + Choose("m_pTextFormatCMB", "Canned Text");
 
 Cases barcodeTypes()
 {

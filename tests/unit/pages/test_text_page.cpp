@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "PageCases.h"
+#include "TextSteps.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -14,11 +15,6 @@
 namespace Sent = MessageCodes::Sent;
 
 namespace {
-
-const Steps text = {Click("m_pTextTB")};
-const Steps barcode = text + Choose("m_pTextFormatCMB", "Barcode");
-const Steps plotStamp = text + Choose("m_pTextFormatCMB", "Orbotech Plot Stamp");
-const Steps cannedText = text + Choose("m_pTextFormatCMB", "Canned Text");
 
 /// The one of the four format pages that is shown.
 Expect::Expectations onlyPage(const QString& shown)

@@ -20,7 +20,7 @@ struct Expected {
     const char* checkedImage;
 };
 
-const Expected tools[] = {
+const Expected expectedTools[] = {
     {"m_pAreaZoomTB", "Area Zoom", Start::Enabled, "Area zoom2.jpg", "Area zoom3.jpg"},
     {"m_pOpenPopViewTB", "Open a Popview", Start::Enabled, "Open a popview-1.jpg",
      "Open a popview-2.jpg"},
@@ -65,7 +65,7 @@ const Expected tools[] = {
     {"m_pMarkTB", "Mark", Start::Enabled, "markgry.png", "markgre.png"},
     {"m_pEqTB", "EQ", Start::Enabled, "EQ-1.jpg", "EQ-2.jpg"},
 };
-static_assert(std::size(tools) == ToolTable::toolCount, "one row a tool");
+static_assert(std::size(expectedTools) == ToolTable::toolCount, "one row a tool");
 
 QString resource(const char* file)
 {
@@ -111,14 +111,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<Tool>("tool");
         for (const Tool tool : allTools()) {
-            QTest::newRow(tools[int(tool)].objectName) << tool;
+            QTest::newRow(expectedTools[int(tool)].objectName) << tool;
         }
     }
     void button()
     {
         QFETCH(Tool, tool);
         StripFixture fixture;
-        const Expected& expected = tools[int(tool)];
+        const Expected& expected = expectedTools[int(tool)];
         QToolButton* const button = fixture.button(tool);
         QVERIFY(button);
         QCOMPARE(button->objectName(), QString(expected.objectName));
@@ -155,8 +155,8 @@ private Q_SLOTS:
         fixture.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&fixture.window));
         QToolButton* const button = fixture.button(tool);
-        const QImage image(resource(tools[int(tool)].image));
-        const QImage checkedImage(resource(tools[int(tool)].checkedImage));
+        const QImage image(resource(expectedTools[int(tool)].image));
+        const QImage checkedImage(resource(expectedTools[int(tool)].checkedImage));
         QVERIFY(!image.isNull() && !checkedImage.isNull());
 
         button->setChecked(false);
@@ -169,8 +169,8 @@ private Q_SLOTS:
             QVERIFY(difference(button, image) > 8);
         }
         // No other tool's picture is nearer.
-        for (const Expected& other : tools) {
-            if (&other != &tools[int(tool)]) {
+        for (const Expected& other : expectedTools) {
+            if (&other != &expectedTools[int(tool)]) {
                 button->setChecked(false);
                 QVERIFY2(difference(button, QImage(resource(other.image))) > plain,
                          other.objectName);

@@ -25,7 +25,7 @@ T* add(QWidget* window, const char* name)
 }
 
 /// Notes where and how it was clicked.
-class Pad : public QWidget {
+class ClickPad : public QWidget {
 public:
     using QWidget::QWidget;
     QStringList clicks;
@@ -51,7 +51,7 @@ class TestSessionPlayer : public QObject {
     QPushButton* m_boxButton = nullptr;
     QLineEdit* m_text = nullptr;
     QComboBox* m_combo = nullptr;
-    Pad* m_pad = nullptr;
+    ClickPad* m_pad = nullptr;
     QStringList m_noted;
     QStringList m_seen;  ///< the messages, as code and extra word
 
@@ -74,7 +74,7 @@ private Q_SLOTS:
         m_text = add<QLineEdit>(m_window.get(), "m_pTextLE");
         m_combo = add<QComboBox>(m_window.get(), "m_pChoiceCMB");
         m_combo->addItems({"one", "two", "three"});
-        m_pad = add<Pad>(m_window.get(), "m_pPad");
+        m_pad = add<ClickPad>(m_window.get(), "m_pPad");
         m_pad->setMinimumSize(100, 60);
         connect(m_boxButton, &QPushButton::clicked, this,
                 [this] { QMessageBox::information(m_window.get(), "Title", "Text"); });

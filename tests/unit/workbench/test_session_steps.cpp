@@ -25,7 +25,7 @@ namespace Sent = MessageCodes::Sent;
 namespace {
 
 /// Notes what the mouse does to it.
-class Pad : public QWidget {
+class EventPad : public QWidget {
 public:
     using QWidget::QWidget;
     QStringList events;
@@ -52,11 +52,11 @@ private:
 };
 
 /// A canvas of 100 micrometres per pixel, its origin at the lower left.
-class Canvas : public Pad {
+class EventCanvas : public EventPad {
     Q_OBJECT
 
 public:
-    using Pad::Pad;
+    using EventPad::EventPad;
     Q_INVOKABLE QPoint viewPoint(double x, double y) const
     {
         return {qRound(x / 100), height() - qRound(y / 100)};
@@ -261,7 +261,7 @@ private Q_SLOTS:
 
     void drags()
     {
-        auto* const pad = add<Pad>("m_pPad");
+        auto* const pad = add<EventPad>("m_pPad");
         pad->setMinimumSize(100, 60);
         QCOMPARE(play("press m_pPad 10 11\nmove m_pPad 20 21\nrelease m_pPad 300 22\n"), QString());
         QCOMPARE(pad->events, (QStringList{"press 10 11 1", "move 20 21 1", "release 300 22 0"}));
@@ -275,7 +275,7 @@ private Q_SLOTS:
 
     void canvasInBoardUnits()
     {
-        auto* const canvas = add<Canvas>("m_pBoardView");
+        auto* const canvas = add<EventCanvas>("m_pBoardView");
         canvas->setFixedSize(120, 80);
         QCOMPARE(play("canvas click 1000 2000\ncanvas rightclick 1mm 2mm\n"
                       "canvas press 100mil 0.1inch middle\ncanvas move 9mm 1mm\n"
@@ -287,7 +287,7 @@ private Q_SLOTS:
         QCOMPARE(play("canvas click 100mm 0\n"),
                  QString("demo:1: \"m_pBoardView\" does not show 100000 0"));
         delete canvas;
-        add<Pad>("m_pBoardView");
+        add<EventPad>("m_pBoardView");
         QCOMPARE(play("canvas click 1 1\n"),
                  QString("demo:1: \"m_pBoardView\" does not know places on the board: it has no "
                          "method viewPoint(double,double)"));
