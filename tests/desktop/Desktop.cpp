@@ -1,8 +1,8 @@
 #include "Desktop.h"
 
 #include <QProcess>
-#include <QWidget>
 #include <QTest>
+#include <QWidget>
 
 namespace {
 

@@ -16,8 +16,8 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QSpinBox>
-#include <QTimer>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 

@@ -5,8 +5,8 @@
 
 #include <QAbstractButton>
 #include <QMessageBox>
-#include <QTimer>
 #include <QTest>
+#include <QTimer>
 
 #include <functional>
 #include <limits>
