@@ -81,6 +81,9 @@ int pixelsOf(const CanvasFixture& fixture, const QPointF& place, const QColor& c
 /// Where the edge of a shape is cut off, its shades may differ slightly.
 bool lookAlike(const QImage& a, const QImage& b)
 {
+    if (a == b) {
+        return true;  // most are: no need to look at each pixel
+    }
     constexpr int trace = 3;
     bool alike = a.size() == b.size();
     for (int y = 0; alike && y < a.height(); ++y) {

@@ -8,6 +8,8 @@
 
 #include <QLineEdit>
 
+#include <memory>
+
 using Opened = DialogFixture::Opened;
 
 namespace {
@@ -34,6 +36,7 @@ const QStringList secondWays = {"UnitChanged, metric", "AddFeature", "host's box
 class TestLeaving : public QObject {
     Q_OBJECT
 
+    std::unique_ptr<DialogFixture> m_fixture;
     int m_rows = 0;
     int m_unreported = 0;
 
@@ -84,7 +87,8 @@ class TestLeaving : public QObject {
 
     void play(int entry, const QVector<int>& numbers)
     {
-        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
+        DialogFixture& fixture = *m_fixture;
+        fixture.renewDialog();
         const Entry& entered = allEntries()[entry];
         entered.reachField(fixture);
         entered.enter(fixture);
@@ -98,8 +102,13 @@ class TestLeaving : public QObject {
     }
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        m_fixture = std::make_unique<DialogFixture>(Unit::Mil, Opened::ByTheStrip);
+    }
     void cleanupTestCase()
     {
+        m_fixture.reset();
         qInfo("%d rows: %d entries, %d ways; %d entries became unacceptable", m_rows,
               allEntries().size(), allWays().size(), m_unreported);
         QVERIFY(m_unreported * 50 < m_rows);
