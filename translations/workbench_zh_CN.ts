@@ -433,7 +433,7 @@
         <translation>没有入口点 %1</translation>
     </message>
     <message>
-        <source>made no instance</source>
+        <source>gave no instance</source>
         <translation>未创建实例</translation>
     </message>
     <message>
@@ -445,7 +445,7 @@
         <translation>必须是对象</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands twice in one object</source>
+        <source>&quot;%1&quot; appears twice in one object</source>
         <translation>“%1”在同一对象中出现两次</translation>
     </message>
     <message>
@@ -469,7 +469,7 @@
         <translation>必须是字符串</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands twice</source>
+        <source>&quot;%1&quot; appears twice</source>
         <translation>“%1”出现两次</translation>
     </message>
     <message>

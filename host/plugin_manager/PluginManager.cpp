@@ -139,7 +139,7 @@ void* loadModule(const QString& moduleName, const QString& directory, QWidget* p
     void* const instance = create(parent);
     if (!instance) {
         library->unload();
-        throw FileError{file, 0, QCoreApplication::translate("FileErrors", "made no instance")};
+        throw FileError{file, 0, QCoreApplication::translate("FileErrors", "gave no instance")};
     }
     const auto known = state().libraries.value(moduleName);
     if (known && known->fileName() == library->fileName()) {

@@ -166,7 +166,7 @@ void JsonNode::requireUniqueKeys() const
     }
     if (m_place->repeatedKey >= 0) {
         failAt(m_place->parts[static_cast<size_t>(m_place->repeatedKey)],
-               QCoreApplication::translate("FileErrors", "\"%1\" stands twice in one object")
+               QCoreApplication::translate("FileErrors", "\"%1\" appears twice in one object")
                    .arg(m_place->keys.at(m_place->repeatedKey)));
     }
 }
@@ -253,7 +253,7 @@ void JsonNode::requireNew(const QStringList& before) const
 {
     if (before.contains(name())) {
         failAt(*m_place,
-               QCoreApplication::translate("FileErrors", "\"%1\" stands twice").arg(name()));
+               QCoreApplication::translate("FileErrors", "\"%1\" appears twice").arg(name()));
     }
 }
 

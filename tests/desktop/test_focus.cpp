@@ -18,6 +18,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 namespace Accepted = MessageCodes::Accepted;
@@ -50,56 +51,83 @@ private:
     QPointer<QMessageBox> m_seen;
 };
 
-struct Entry {
-    const char* type;
-    QStringList reach;  ///< "combo=item"
-    const char* field;
-    const char* typed;
-    QString key;
-    const char* stored;
-    const char* box;  ///< how the refusal starts; null: accepted
+/// What is typed in a field of the dialog, and what results.
+class Entry {
+public:
+    /// `type` is the button of the field's page.
+    Entry(const QString& type, const QString& field) : m_type(type), m_field(field) {}
+    /// What shows the field on its page.
+    Entry& choosing(const QString& combo, const QString& item)
+    {
+        return m_choices.append({combo, item}), *this;
+    }
+    Entry& typed(const QString& text) { return m_typed = text, *this; }
+    Entry& stores(const QString& key, const QString& value)
+    {
+        return m_key = key, m_stored = value, *this;
+    }
+    /// How the box that refuses it starts.
+    Entry& refusedBy(const QString& box) { return m_box = box, *this; }
+
+    QString words() const { return m_field + ' ' + m_typed; }
+    QString type() const { return m_type; }
+    QString field() const { return m_field; }
+    QList<QPair<QString, QString>> choices() const { return m_choices; }
+    QString typed() const { return m_typed; }
+    QString key() const { return m_key; }
+    QString stored() const { return m_stored; }
+    QString box() const { return m_box; }
+
+private:
+    QString m_type;
+    QString m_field;
+    QList<QPair<QString, QString>> m_choices;
+    QString m_typed;
+    QString m_key;
+    QString m_stored;
+    QString m_box;
 };
+
+Entry cornerRadius()
+{
+    return Entry("m_pLineTB", "m_pCornerRadiusLE")
+        .choosing("m_pLineCMB", "Rectangle")
+        .choosing("m_pCornerTypeCMB", "Round");
+}
 
 const QVector<Entry>& entries()
 {
-    static const char length[] =
+    static const QString lengthBox =
         "Information|The current text box can only enter a value from 0 to";
+    static const QString pitchBox = "Information|The current value out of range:";
     static const QVector<Entry> all = {
-        {"m_pPadTB", {}, "m_pSymbolTextLE", "s20", RecordKeys::symbolText, "s20", nullptr},
-        {"m_pPadTB", {}, "m_pAngleValueSB", "45", RecordKeys::mirrorRotate, "45", nullptr},
-        {"m_pPadTB", {}, "m_pDrilDxLE", "10", RecordKeys::padDx, "254", nullptr},
-        {"m_pPadTB",
-         {},
-         "m_pDrilDxLE",
-         "100001",
-         RecordKeys::padDx,
-         "0",
-         "Information|The current value out of range:"},
-        {"m_pLineTB",
-         {"m_pLineCMB=2", "m_pCornerTypeCMB=1"},
-         "m_pCornerRadiusLE",
-         "10",
-         RecordKeys::cornerRadius,
-         "254",
-         nullptr},
-        {"m_pLineTB",
-         {"m_pLineCMB=2", "m_pCornerTypeCMB=1"},
-         "m_pCornerRadiusLE",
-         "50001",
-         RecordKeys::cornerRadius,
-         "0",
-         length},
-        {"m_pTextTB", {}, "m_pXSizeLE", "100", RecordKeys::stringXSize, "2540", nullptr},
-        {"m_pTextTB", {}, "m_pXSizeLE", "10001", RecordKeys::stringXSize, "0", length},
-        {"m_pTextTB", {}, "m_pTextLE", "abc", RecordKeys::textContains, "abc", nullptr},
+        Entry("m_pPadTB", "m_pSymbolTextLE").typed("s20").stores(RecordKeys::symbolText, "s20"),
+        Entry("m_pPadTB", "m_pAngleValueSB").typed("45").stores(RecordKeys::mirrorRotate, "45"),
+        Entry("m_pPadTB", "m_pDrilDxLE").typed("10").stores(RecordKeys::padDx, "254"),
+        Entry("m_pPadTB", "m_pDrilDxLE")
+            .typed("100001")
+            .stores(RecordKeys::padDx, "0")
+            .refusedBy(pitchBox),
+        cornerRadius().typed("10").stores(RecordKeys::cornerRadius, "254"),
+        cornerRadius().typed("50001").stores(RecordKeys::cornerRadius, "0").refusedBy(lengthBox),
+        Entry("m_pTextTB", "m_pXSizeLE").typed("100").stores(RecordKeys::stringXSize, "2540"),
+        Entry("m_pTextTB", "m_pXSizeLE")
+            .typed("10001")
+            .stores(RecordKeys::stringXSize, "0")
+            .refusedBy(lengthBox),
+        Entry("m_pTextTB", "m_pTextLE").typed("abc").stores(RecordKeys::textContains, "abc"),
     };
     return all;
 }
 
-const QStringList ways = {"Tab",        "Return",   "another field", "m_pLineTB",
-                          "m_pTextTB",  "a tool",   "the board",     "close and open",
-                          "20004602",   "20002403", "a host's box",  "the symbol chooser",
-                          "m_pLineCMB", "m_pFontPB"};
+/// How the field is left.
+struct Way {
+    QString name;
+    std::function<void()> leave;
+    QString onlyOn = {};           ///< the button of the only page that has what is clicked
+    bool closesTheDialog = false;  ///< what is not stored then is dropped
+    QString box = {};
+};
 
 }  // namespace
 
@@ -152,81 +180,97 @@ class TestFocus : public QObject {
         }
     }
 
-    void leave(const QString& way)
+    void clickAnotherField() const { Desktop::click(control("m_pAttributesCB"), 1, QPoint(8, 10)); }
+
+    void choose(const QString& combo, const QString& item) const
     {
-        if (way == "Tab" || way == "Return") {
-            Desktop::key(way);
-        } else if (way == "another field") {
-            Desktop::click(control("m_pAttributesCB"), 1, QPoint(8, 10));
-        } else if (way == "a tool") {
-            Desktop::click(tool("m_pRectSelectionTB"));
-        } else if (way == "the board") {
-            clickTheBoard();
-        } else if (way == "close and open") {
-            Desktop::key("alt+F4");
-            QTRY_VERIFY(!m_dialog->isVisible());
-        } else if (way == "20004602") {
-            receive(Accepted::AddFeature);
-        } else if (way == "20002403") {
-            receive(Accepted::CloseDialogs);
-        } else if (way == "a host's box") {
-            QMessageBox::information(m_window.get(), "Host", "Elsewhere");
-        } else if (way == "the symbol chooser") {
-            clickIfShown("m_pSymbolPB");
-        } else if (way == "m_pLineCMB") {
-            findNamed<QComboBox>(*m_dialog, way).setCurrentIndex(0);
-        } else {
-            clickIfShown(way);
-        }
-        QTest::qWait(100);
+        auto& box = findNamed<QComboBox>(*m_dialog, combo);
+        QVERIFY(box.findText(item) >= 0);
+        box.setCurrentIndex(box.findText(item));
     }
 
-    static void addRows(const char* type)
+    QVector<Way> ways()
     {
-        QTest::addColumn<int>("number");
-        QTest::addColumn<QString>("way");
-        for (int number = 0; number < entries().size(); ++number) {
-            for (const QString& way : ways) {
-                const Entry& entry = entries()[number];
-                const bool isPossible = qstrcmp(entry.type, type) == 0 &&
-                                        (way != "m_pLineCMB" || qstrcmp(type, "m_pLineTB") == 0) &&
-                                        (way != "m_pFontPB" || qstrcmp(type, "m_pTextTB") == 0);
-                if (isPossible) {
-                    QTest::addRow("%s %s, %s", entry.field, entry.typed, qPrintable(way))
-                        << number << way;
+        return {
+            {"Tab", [] { Desktop::key("Tab"); }},
+            {"Return", [] { Desktop::key("Return"); }},
+            {"another field", [this] { clickAnotherField(); }},
+            {"m_pLineTB", [this] { clickIfShown("m_pLineTB"); }},
+            {"m_pTextTB", [this] { clickIfShown("m_pTextTB"); }},
+            {"a tool", [this] { Desktop::click(tool("m_pRectSelectionTB")); }},
+            {"the board", [this] { clickTheBoard(); }},
+            {"close and open", [this] { closeTheDialog(); }, {}, true},
+            {"AddFeature", [] { receive(Accepted::AddFeature); }},
+            {"CloseDialogs", [] { receive(Accepted::CloseDialogs); }, {}, true},
+            {"a host's box",
+             [this] { QMessageBox::information(m_window.get(), "Host", "Elsewhere"); },
+             {},
+             false,
+             "Host|Elsewhere"},
+            {"the symbol chooser", [this] { clickIfShown("m_pSymbolPB"); }},
+            {"m_pLineCMB", [this] { choose("m_pLineCMB", "Single Line"); }, "m_pLineTB"},
+            {"m_pFontPB", [this] { clickIfShown("m_pFontPB"); }, "m_pTextTB"},
+        };
+    }
+
+    void closeTheDialog() const
+    {
+        Desktop::key("alt+F4");
+        QTRY_VERIFY(!m_dialog->isVisible());
+    }
+
+    void addRows(const QString& type)
+    {
+        QTest::addColumn<int>("entryNumber");
+        QTest::addColumn<int>("wayNumber");
+        for (int entry = 0; entry < entries().size(); ++entry) {
+            for (int way = 0; way < ways().size(); ++way) {
+                const QString onlyOn = ways()[way].onlyOn;
+                if (entries()[entry].type() == type && (onlyOn.isEmpty() || onlyOn == type)) {
+                    QTest::addRow("%s, %s", qPrintable(entries()[entry].words()),
+                                  qPrintable(ways()[way].name))
+                        << entry << way;
                 }
             }
         }
     }
 
+    void enter(const Entry& entry) const
+    {
+        Desktop::click(control(entry.type()));
+        for (const auto& choice : entry.choices()) {
+            choose(choice.first, choice.second);
+        }
+        Desktop::click(control(entry.field()));
+        Desktop::key("ctrl+a");
+        Desktop::type(entry.typed());
+    }
+
     void nothingTypedIsLost()
     {
-        QFETCH(int, number);
-        QFETCH(QString, way);
-        const Entry& entry = entries()[number];
+        QFETCH(int, entryNumber);
+        QFETCH(int, wayNumber);
+        const Entry& entry = entries()[entryNumber];
+        const Way way = ways()[wayNumber];
         const SlowHands hands;
-        Desktop::click(control(entry.type));
-        for (const QString& step : entry.reach) {
-            findNamed<QComboBox>(*m_dialog, step.section('=', 0, 0))
-                .setCurrentIndex(step.section('=', 1).toInt());
-        }
-        Desktop::click(control(entry.field));
-        Desktop::key("ctrl+a");
-        Desktop::type(entry.typed);
-        leave(way);
+        enter(entry);
+        way.leave();
+        QTest::qWait(100);
         QTRY_VERIFY(!QApplication::activeModalWidget());
 
         openDialog();
         m_dialog->activateWindow();
-        Desktop::click(control("m_pAttributesCB"), 1, QPoint(8, 10));
+        clickAnotherField();
         QTRY_VERIFY(!QApplication::activeModalWidget());
         QCOMPARE(m_agreement->faultOf(record()), QString());
-        const bool isDropped =
-            entry.key == RecordKeys::symbolText && (way == "close and open" || way == "20002403");
-        QCOMPARE(record().value(entry.key).toString(), QString(isDropped ? "" : entry.stored));
-        QCOMPARE(hands.texts.filter("Host|Elsewhere").size(), way == "a host's box" ? 1 : 0);
-        QCOMPARE(hands.texts.filter(entry.box ? entry.box : "|").size(),
-                 (entry.box ? 1 : 0) + (!entry.box && way == "a host's box" ? 1 : 0));
+        const bool isDropped = entry.key() == RecordKeys::symbolText && way.closesTheDialog;
+        QCOMPARE(record().value(entry.key()).toString(), isDropped ? QString() : entry.stored());
+        QStringList expected{entry.box(), way.box};
+        expected.removeAll({});
+        QCOMPARE(hands.texts.size(), expected.size());
+        for (const QString& box : expected) {
+            QCOMPARE(hands.texts.filter(box).size(), 1);
+        }
     }
 
 private Q_SLOTS:

@@ -129,7 +129,7 @@ private Q_SLOTS:
         QTest::newRow("no delivery") << bad << "NoDelivery.dll"
                                      << "NoDelivery.so: no entry point recMsgFromManager";
         QTest::newRow("no instance") << bad << "NoInstance.dll"
-                                     << "NoInstance.so: made no instance";
+                                     << "NoInstance.so: gave no instance";
     }
     void refusesWhatIsNoModule()
     {

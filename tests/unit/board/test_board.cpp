@@ -53,7 +53,7 @@ Board edited(Board board, const Edit& edit)
 
 }  // namespace
 
-class BoardTest : public QObject {
+class TestBoard : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -215,5 +215,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_TEST(BoardTest);
+CTS_TEST(TestBoard);
 #include "test_board.moc"

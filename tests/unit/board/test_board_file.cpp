@@ -39,7 +39,7 @@ QByteArray contentOf(const QString& file)
 
 }  // namespace
 
-class BoardFileTest : public QObject {
+class TestBoardFile : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -108,7 +108,7 @@ private Q_SLOTS:
         row("unknown", document(oneLine).replace("\"step\"", "\"steps\""),
             "4: \"steps\" does not belong to the document");
         row("twice", document(oneLine).replace("\"step\"", "\"job\""),
-            "4: \"job\" stands twice in one object");
+            "4: \"job\" appears twice in one object");
         row("kind", replaced("\"line\"", "\"blob\""),
             "7: \"kind\" is not one of line, pad, surface, arc, text");
         row("no object", document("7"), "7: an entry of \"features\" must be an object");
@@ -181,5 +181,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_TEST(BoardFileTest);
+CTS_TEST(TestBoardFile);
 #include "test_board_file.moc"

@@ -16,7 +16,7 @@ Brush read(const QString& key, const QVariant& value)
 
 }  // namespace
 
-class BrushTest : public QObject {
+class TestBrush : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -215,5 +215,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_TEST(BrushTest);
+CTS_TEST(TestBrush);
 #include "test_brush.moc"

@@ -44,7 +44,7 @@ int differing(const QImage& a, const QImage& b)
 
 }  // namespace
 
-class ExportsTest : public QObject {
+class TestExports : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -188,5 +188,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_TEST(ExportsTest);
+CTS_TEST(TestExports);
 #include "test_exports.moc"

@@ -160,7 +160,7 @@ QImage rendered(const Board& board, const View& view, const QTemporaryDir& folde
 
 }  // namespace
 
-class GerberPictureTest : public QObject {
+class TestGerberPicture : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -262,5 +262,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-CTS_TEST(GerberPictureTest);
+CTS_TEST(TestGerberPicture);
 #include "test_gerber_picture.moc"

@@ -15,7 +15,7 @@ using namespace Pcb;
 
 using Numbers = std::vector<int>;
 
-class ListsTest : public QObject {
+class TestLists : public QObject {
     Q_OBJECT
 
     QRandomGenerator m_random{7};
@@ -114,5 +114,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_TEST(ListsTest);
+CTS_TEST(TestLists);
 #include "test_lists.moc"

@@ -48,7 +48,7 @@ QVector<QPointF> pointsOf(const Feature& feature)
 
 }  // namespace
 
-class PlacementTest : public QObject {
+class TestPlacement : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -392,5 +392,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_TEST(PlacementTest);
+CTS_TEST(TestPlacement);
 #include "test_placement.moc"

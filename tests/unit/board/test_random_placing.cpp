@@ -58,7 +58,7 @@ QMap<QString, QVariant> anyRecord(Random& random)
 
 }  // namespace
 
-class RandomPlacingTest : public QObject {
+class TestRandomPlacing : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -123,5 +123,5 @@ private:
     }
 };
 
-CTS_TEST(RandomPlacingTest);
+CTS_TEST(TestRandomPlacing);
 #include "test_random_placing.moc"

@@ -55,7 +55,7 @@ QPainterPath crowd(Qt::FillRule rule, int others)
 Q_DECLARE_METATYPE(QVector<QPointF>)
 Q_DECLARE_METATYPE(QPainterPath)
 
-class ShapesTest : public QObject {
+class TestShapes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -322,5 +322,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_TEST(ShapesTest);
+CTS_TEST(TestShapes);
 #include "test_shapes.moc"

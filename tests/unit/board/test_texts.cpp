@@ -49,7 +49,7 @@ QString readBy(const QString& program, const QStringList& arguments, const TextS
 
 }  // namespace
 
-class TextsTest : public QObject {
+class TestTexts : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -316,5 +316,5 @@ private Q_SLOTS:
     }
 };
 
-CTS_TEST(TextsTest);
+CTS_TEST(TestTexts);
 #include "test_texts.moc"
