@@ -8,18 +8,18 @@ set -u
 
 purposes=(build run bench test)
 chosen=(--label-exclude border)
-if [ "${1:-}" = --full ]; then
-    purposes+=(border)
-    chosen=()
-    shift
-fi
 preset=release
-case "${1:-}" in
-release | debug | asan | coverage)
-    preset=$1
+while :; do
+    case "${1:-}" in
+    --full)
+        purposes+=(border)
+        chosen=()
+        ;;
+    release | debug | asan | coverage) preset=$1 ;;
+    *) break ;;
+    esac
     shift
-    ;;
-esac
+done
 need_packages "${purposes[@]}"
 build "$preset" all benchmarks
 # Most tests wait for windows and timers: run two per core.

@@ -8,12 +8,10 @@
 #include "addfeature/AddFeature.h"
 #include "floors/PlainCopy.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
 #include <QEvent>
-#include <QLabel>
-#include <QLayout>
-#include <QLineEdit>
+#include <QMetaObject>
+#include <QStringList>
+#include <QVariant>
 
 namespace {
 
@@ -31,17 +29,27 @@ private:
     bool m_painted = false;
 };
 
-/// The number of widgets of each kind that matters, and the window's height: the copy must have the
-/// same.
-QVector<int> census(const QWidget& dialog)
+/// The class of Qt's that the widget is, or that its own class is derived from.
+const char* qtClassOf(const QWidget& widget)
 {
-    return {dialog.findChildren<QWidget*>().size(),
-            dialog.findChildren<QLabel*>().size(),
-            dialog.findChildren<QLineEdit*>().size(),
-            dialog.findChildren<QComboBox*>().size(),
-            dialog.findChildren<QAbstractButton*>().size(),
-            dialog.findChildren<QLayout*>().size(),
-            dialog.sizeHint().height()};
+    const QMetaObject* type = widget.metaObject();
+    while (*type->className() != 'Q') {
+        type = type->superClass();
+    }
+    return qstrcmp(type->className(), "QDialog") == 0 ? "QWidget" : type->className();
+}
+
+/// Each widget's class and text, and the window's height: the copy must have the same.
+QStringList outlineOf(const QWidget& dialog)
+{
+    QStringList outline{QString::number(dialog.sizeHint().height())};
+    for (const QWidget* const widget : dialog.findChildren<QWidget*>()) {
+        outline.append(QStringLiteral("%1 \"%2%3\"")
+                           .arg(QLatin1String(qtClassOf(*widget)),
+                                widget->property("text").toString(),
+                                widget->property("currentText").toString()));
+    }
+    return outline;
 }
 
 QWidget* makeDialog(QWidget* owner)
@@ -55,8 +63,13 @@ PlainCopy copyOfDialog()
     QWidget owner;
     const QWidget* const original = makeDialog(&owner);
     PlainCopy copy(*original);
-    if (census(*original) != census(*copy.make(&owner))) {
-        qFatal("the plain copy has other widgets than the dialog");
+    const QStringList wanted = outlineOf(*original);
+    const QStringList made = outlineOf(*copy.make(&owner));
+    for (int i = 0; i < qMax(wanted.size(), made.size()); ++i) {
+        if (wanted.value(i) != made.value(i)) {
+            qFatal("the plain copy has %s in place of the dialog's %s", qPrintable(made.value(i)),
+                   qPrintable(wanted.value(i)));
+        }
     }
     return copy;
 }

@@ -152,10 +152,15 @@ void PlainCopy::addLineEdit(const QLineEdit& original)
         note<QLineEdit>([pattern = expression->regExp().pattern()](QLineEdit& copy) {
             copy.setValidator(new QRegExpValidator(QRegExp(pattern), &copy));
         });
-    } else if (qobject_cast<const QIntValidator*>(validator)) {
-        note<QLineEdit>([](QLineEdit& copy) { copy.setValidator(new QIntValidator(&copy)); });
-    } else if (qobject_cast<const QDoubleValidator*>(validator)) {
-        note<QLineEdit>([](QLineEdit& copy) { copy.setValidator(new QDoubleValidator(&copy)); });
+    } else if (const auto* const whole = qobject_cast<const QIntValidator*>(validator)) {
+        note<QLineEdit>([least = whole->bottom(), most = whole->top()](QLineEdit& copy) {
+            copy.setValidator(new QIntValidator(least, most, &copy));
+        });
+    } else if (const auto* const number = qobject_cast<const QDoubleValidator*>(validator)) {
+        note<QLineEdit>([least = number->bottom(), most = number->top(),
+                         decimals = number->decimals()](QLineEdit& copy) {
+            copy.setValidator(new QDoubleValidator(least, most, decimals, &copy));
+        });
     }
     note<QLineEdit>([text = original.text(), isReadOnly = original.isReadOnly()](QLineEdit& copy) {
         copy.setText(text);

@@ -12,9 +12,6 @@
 namespace {
 
 constexpr char lineSymbol[] = "^[rs]?|[rs][0-9]+(\\.[0-9]+)?$";
-const QString symbolKey = RecordKeys::symbolText;
-const QString rotationKey = RecordKeys::mirrorRotate;
-const QString countKey = RecordKeys::padNx;
 const QString noRotation = QStringLiteral("0");
 
 /// As deep in its window as a field of the dialog: an unused key is passed up from there.
@@ -49,19 +46,19 @@ void PlainSymbolWindow::returnPressed()
 {
     const QString typed = m_field->text().left(m_field->cursorPosition());
     m_field->setText(typed);
-    m_record.insert(symbolKey, stored(typed));
+    m_record.insert(RecordKeys::symbolText, stored(typed));
     m_record.send(typed);
 }
 
 void PlainSymbolWindow::editingFinished()
 {
-    m_record.insert(rotationKey, noRotation);
+    m_record.insert(RecordKeys::mirrorRotate, noRotation);
     const QString name = m_field->text();
     ZENTRA::API::symbol_type type{};
     int a = 0;
     int b = 0;
     if (ZENTRA::API::identify_symbol(name.toStdString(), type, a, b, false)) {
-        m_record.insert(symbolKey, stored(name));
+        m_record.insert(RecordKeys::symbolText, stored(name));
         m_record.send(name);
     }
 }
@@ -78,7 +75,7 @@ PlainCountWindow::PlainCountWindow(PlainRecord& record, const QString& symbol)
 void PlainCountWindow::textChanged(const QString& text)
 {
     if (ZENTRA::UIAPI::isNumValueLegal(text.toDouble(), 0, 50, this)) {
-        m_record.insert(countKey, text);
+        m_record.insert(RecordKeys::padNx, text);
         m_record.send(m_symbol->text());
     }
 }

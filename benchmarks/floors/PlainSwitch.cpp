@@ -24,10 +24,6 @@ std::string text(const PluginMetaData& message, const QString& key)
     return message.payload.value(key).toString().toStdString();
 }
 
-const QString jobKey = PayloadKeys::jobName;
-const QString stepKey = PayloadKeys::step;
-const QString stepNameKey = PayloadKeys::stepName;
-
 }  // namespace
 
 PlainSwitch::PlainSwitch(QWidget* panel, Receiver& receiver)
@@ -127,8 +123,8 @@ void PlainSwitch::handleData(const PluginMetaData& message)
 {
     switch (message.code) {
         case Accepted::JobAndStep:
-            m_job = text(message, jobKey);
-            m_step = text(message, stepKey);
+            m_job = text(message, PayloadKeys::jobName);
+            m_step = text(message, PayloadKeys::step);
             return;
         case Accepted::AttributesPicked: {
             const auto& picked =
@@ -148,8 +144,8 @@ void PlainSwitch::handleData(const PluginMetaData& message)
             Q_EMIT languageChanged();
             return m_strip->retranslate();
         case Accepted::JobOpened:
-            m_job = text(message, jobKey);
-            m_step = text(message, stepNameKey);
+            m_job = text(message, PayloadKeys::jobName);
+            m_step = text(message, PayloadKeys::stepName);
             return jobOpened(m_job, m_step);
         default:
             return;
