@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QToolButton>
 

@@ -13,6 +13,7 @@
 
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QRegularExpression>
 #include <QToolButton>
 #include <QWidget>
 

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
+#include <QTimer>
 
 BoxCatcher::BoxCatcher()
 {

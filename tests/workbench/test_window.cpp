@@ -15,8 +15,10 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTextBrowser>
+#include <QTimer>
 
 #include <memory>
 

@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QLabel>
+#include <QRegularExpression>
 
 namespace Accepted = MessageCodes::Accepted;
 

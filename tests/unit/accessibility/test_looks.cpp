@@ -21,6 +21,7 @@
 #include <QMetaProperty>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QRegularExpressionValidator>
 #include <QSpinBox>
 #include <QToolButton>

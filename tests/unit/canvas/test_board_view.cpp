@@ -11,7 +11,9 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <cmath>

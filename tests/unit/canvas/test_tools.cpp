@@ -5,6 +5,7 @@
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 
+#include <QRegularExpression>
 #include <QToolButton>
 
 namespace Sent = MessageCodes::Sent;

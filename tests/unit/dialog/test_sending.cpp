@@ -10,6 +10,7 @@
 #include <UiApiStandIn.h>
 
 #include <QLoggingCategory>
+#include <QSignalSpy>
 #include <QSpinBox>
 
 namespace Sent = MessageCodes::Sent;

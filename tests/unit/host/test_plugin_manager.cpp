@@ -5,6 +5,7 @@
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
+#include <QRegularExpression>
 #include <QWidget>
 
 namespace {

@@ -4,6 +4,7 @@
 #include "plugin/MessageCodes.h"
 
 #include <QLabel>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <algorithm>

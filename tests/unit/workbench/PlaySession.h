@@ -6,6 +6,7 @@
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 /// The outcome of a session.

@@ -5,6 +5,8 @@
 #include "session/SessionParser.h"
 #include "session/StepTable.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 /// One of each step, with quotes, comments and multi-byte characters.
