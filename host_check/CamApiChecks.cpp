@@ -1,10 +1,6 @@
 #include "Checks.h"
+#include "Names.h"
 #include "Report.h"
-
-#include <cam_api.h>
-
-#include <string>
-#include <vector>
 
 using namespace ZENTRA::API;
 
@@ -59,25 +55,21 @@ constexpr const char* refusedNames[] = {
 QString call(const char* name, bool arc)
 {
     return QStringLiteral("identify_symbol(\"%1\", %2)")
-        .arg(QString::fromLatin1(name).replace('\n', QStringLiteral("\\n")),
-             arc ? QStringLiteral("arc") : QStringLiteral("no arc"));
+        .arg(QLatin1String(name), arc ? QStringLiteral("arc") : QStringLiteral("no arc"));
 }
 
-/// Both out values are set beforehand to what no answer can be.
 void expectIdentified(Report& report, const StandardName& expected, bool arc, bool accepted)
 {
     const QString what = call(expected.name, arc);
     report.run(what, [&] {
-        symbol_type type = symbol_type::user;
-        int a = -7;
-        int b = -7;
-        if (!report.expect(what, accepted, identify_symbol(expected.name, type, a, b, arc))) {
+        const Identified answer = identify(expected.name, arc);
+        if (!report.expect(what, accepted, answer.isKnown)) {
             return;
         }
         report.expect(what + QStringLiteral(": type"),
-                      int(accepted ? expected.type : symbol_type::unknown), int(type));
-        report.expect(what + QStringLiteral(": first size"), accepted ? expected.a : 0, a);
-        report.expect(what + QStringLiteral(": second size"), accepted ? expected.b : 0, b);
+                      int(accepted ? expected.type : symbol_type::unknown), int(answer.type));
+        report.expect(what + QStringLiteral(": first size"), accepted ? expected.a : 0, answer.a);
+        report.expect(what + QStringLiteral(": second size"), accepted ? expected.b : 0, answer.b);
     });
 }
 
@@ -87,11 +79,7 @@ QStringList namesOf(NamesOf function, const std::string& job)
 {
     std::vector<std::string> names{"left over"};
     function(job, names);
-    QStringList texts;
-    for (const std::string& name : names) {
-        texts.append(QString::fromStdString(name));
-    }
-    return texts;
+    return texts(names);
 }
 
 void checkNamesOfJob(Report& report, const QString& function, NamesOf namesFunction,
@@ -103,8 +91,7 @@ void checkNamesOfJob(Report& report, const QString& function, NamesOf namesFunct
     });
     const QString known = QStringLiteral("%1(\"%2\")").arg(function, job);
     if (job.isEmpty()) {
-        report.untried(function + QStringLiteral("() of a job"),
-                       QStringLiteral("no --job is given"));
+        report.untriedWithoutJob(function + QStringLiteral("() of a job"));
         return;
     }
     report.run(known, [&] {

@@ -1,9 +1,9 @@
 #include "BoxCounter.h"
 #include "Checks.h"
+#include "Names.h"
 #include "Report.h"
 #include "UserActions.h"
 
-#include <cam_api.h>
 #include <common_widgets.h>
 #include <ui_api.h>
 
@@ -19,23 +19,8 @@ enum View { RoundsAndSquares, All };
 /// The name, given in the user's unit, as it is stored.
 std::string stored(const QString& name, const Situation& situation)
 {
-    constexpr int typedToStored = 0;
-    return (situation.isMetric ? ZENTRA::UIAPI::setSymbolUIData(name, typedToStored) : name)
+    return (situation.isMetric ? ZENTRA::UIAPI::setSymbolUIData(name, TypedToStored) : name)
         .toStdString();
-}
-
-struct Symbol {
-    bool isKnown = false;
-    symbol_type type = symbol_type::unknown;
-    int a = -7;
-    int b = -7;
-};
-
-Symbol identify(const std::string& name, bool arc)
-{
-    Symbol symbol;
-    symbol.isKnown = ZENTRA::API::identify_symbol(name, symbol.type, symbol.a, symbol.b, arc);
-    return symbol;
 }
 
 /// Chooses the first name of the list, then the last. `sent` is where the window's signals put
@@ -43,6 +28,10 @@ Symbol identify(const std::string& name, bool arc)
 void expectChosen(Report& report, const QString& signal, QWidget& window, QStringList& sent)
 {
     const QString what = QStringLiteral("%1: signals of a choice").arg(signal);
+    const QString before = QStringLiteral("%1: signals before a choice").arg(signal);
+    report.step(before);
+    window.show();
+    report.expect(before, QStringList(), sent);
     QAbstractItemView* const list = UserActions::listOf(window);
     if (!list) {
         report.untried(what, QStringLiteral("the window has no list with an entry"));
@@ -51,12 +40,12 @@ void expectChosen(Report& report, const QString& signal, QWidget& window, QStrin
     for (const int row : {0, list->model()->rowCount() - 1}) {
         const QModelIndex index = list->model()->index(row, 0);
         const QString name = index.data().toString();
+        report.step(QStringLiteral("%1: a choice of \"%2\"").arg(signal, name));
         BoxCounter boxes;
         sent.clear();
         UserActions::choose(window, *list, index, sent);
         if (sent.isEmpty()) {
-            report.untried(what,
-                           QStringLiteral("neither Enter nor a double click nor a button chooses"));
+            report.untried(what, QStringLiteral("neither Enter nor a click nor a button chooses"));
             return;
         }
         report.expect(what, {QStringLiteral("%1(%2)").arg(signal, name)}, sent);
@@ -68,68 +57,83 @@ void checkOwnSymbols(Report& report, const Situation& situation, const QStringLi
 {
     int count = 0;
     for (const QString& name : names) {
+        const QString what = QStringLiteral("identify_symbol(\"%1\") of the job").arg(name);
+        report.step(what);
         const std::string text = stored(name, situation);
-        const Symbol symbol = identify(text, false);
+        const Identified symbol = identify(text, false);
         if (!symbol.isKnown || symbol.type != symbol_type::user) {
             continue;
         }
         ++count;
-        const QString what = QStringLiteral("identify_symbol(\"%1\") of the job").arg(name);
         report.expect(what + QStringLiteral(": first size"), 0, symbol.a);
         report.expect(what + QStringLiteral(": second size"), 0, symbol.b);
         report.expect(what + QStringLiteral(": for an arc"), false, identify(text, true).isKnown);
     }
     if (count == 0) {
-        report.untried(QStringLiteral("identify_symbol() of a symbol of the job's own"),
-                       situation.job.isEmpty() ? QStringLiteral("no --job is given")
-                                               : QStringLiteral("the chooser offers none"));
+        const QString what = QStringLiteral("identify_symbol() of a symbol of the job's own");
+        if (situation.job.isEmpty()) {
+            report.untriedWithoutJob(what);
+        } else {
+            report.untried(what, QStringLiteral("the chooser offers none"));
+        }
     }
+}
+
+QStringList namesOfView(Report& report, Widget_SymbolSelection& window, View view)
+{
+    report.step(QStringLiteral("Widget_SymbolSelection::changeAvailableItemView(%1)").arg(view));
+    window.changeAvailableItemView(view);
+    return UserActions::namesIn(window);
 }
 
 void checkViews(Report& report, const Situation& situation, Widget_SymbolSelection& window)
 {
     const QString name = QStringLiteral("Widget_SymbolSelection: ");
-    window.changeAvailableItemView(RoundsAndSquares);
-    const QStringList few = UserActions::namesIn(window);
+    const QStringList few = namesOfView(report, window, RoundsAndSquares);
     if (few.isEmpty()) {
-        report.untried(name + QStringLiteral("its names"), QStringLiteral("it has no list"));
+        report.untried(name + QStringLiteral("its names"),
+                       QStringLiteral("the window has no list with an entry"));
         return;
     }
     for (const QString& symbol : few) {
-        const Symbol found = identify(stored(symbol, situation), false);
-        report.expect(name + QStringLiteral("view 0 shows \"%1\", a round or a square").arg(symbol),
-                      true, found.type == symbol_type::round || found.type == symbol_type::square);
+        const QString what =
+            name + QStringLiteral("view 0 shows \"%1\", a round or a square").arg(symbol);
+        report.run(what, [&] {
+            const symbol_type type = identify(stored(symbol, situation), false).type;
+            report.expect(what, true, type == symbol_type::round || type == symbol_type::square);
+        });
     }
-    window.changeAvailableItemView(All);
-    const QStringList all = UserActions::namesIn(window);
+    const QStringList all = namesOfView(report, window, All);
     for (const QString& symbol : few) {
         report.expect(name + QStringLiteral("view 1 shows \"%1\" of view 0").arg(symbol), true,
                       all.contains(symbol));
     }
     report.expect(name + QStringLiteral("view 1 shows more than view 0"), true,
                   all.size() > few.size());
+    report.step(name + QStringLiteral("read()"));
     window.read();
     report.expect(name + QStringLiteral("view 1 after read()"), all, UserActions::namesIn(window));
+    report.step(name + QStringLiteral("change_unit()"));
     window.change_unit();
     report.expect(name + QStringLiteral("view 1 after change_unit() to the same unit"), all,
                   UserActions::namesIn(window));
     checkOwnSymbols(report, situation, all);
-    window.changeAvailableItemView(RoundsAndSquares);
-    report.expect(name + QStringLiteral("view 0 again"), few, UserActions::namesIn(window));
+    report.expect(name + QStringLiteral("view 0 again"), few,
+                  namesOfView(report, window, RoundsAndSquares));
 }
 
 void checkJobOfChooser(Report& report, const Situation& situation, Widget_SymbolSelection& window)
 {
     const QString what = QStringLiteral("Widget_SymbolSelection::setJob()");
-    window.changeAvailableItemView(All);
-    const QStringList own = UserActions::namesIn(window);
+    const QStringList own = namesOfView(report, window, All);
+    report.step(what + QStringLiteral(" of a job that is not known"));
     window.setJob("no such job of any host");
     const QStringList others = UserActions::namesIn(window);
+    report.step(what + QStringLiteral(" and back"));
     window.setJob(situation.job.toStdString());
     report.expect(what + QStringLiteral(" and back"), own, UserActions::namesIn(window));
     if (situation.job.isEmpty()) {
-        report.untried(what + QStringLiteral(" of another job"),
-                       QStringLiteral("no --job is given"));
+        report.untriedWithoutJob(what + QStringLiteral(" of another job"));
     } else if (own == others) {
         report.untried(what + QStringLiteral(" of another job"),
                        QStringLiteral("the job shows no symbols of its own"));
@@ -150,10 +154,12 @@ void checkSymbolChooser(Report& report, const Situation& situation)
     QObject::connect(&window, &Widget_SymbolSelection::sendText, &parent, [&](const QString& name) {
         sent.append(QStringLiteral("%1(%2)").arg(sendText, name));
     });
-    checkViews(report, situation, window);
-    checkJobOfChooser(report, situation, window);
-    report.expect(sendText + QStringLiteral(": signals before a choice"), QStringList(), sent);
-    expectChosen(report, sendText, window, sent);
+    report.run(QStringLiteral("Widget_SymbolSelection: views"),
+               [&] { checkViews(report, situation, window); });
+    report.run(QStringLiteral("Widget_SymbolSelection: jobs"),
+               [&] { checkJobOfChooser(report, situation, window); });
+    report.run(QStringLiteral("Widget_SymbolSelection: a choice"),
+               [&] { expectChosen(report, sendText, window, sent); });
 }
 
 void checkListPopup(Report& report, Widget_listpopup& popup, bool isFonts)
@@ -174,18 +180,20 @@ void checkFonts(Report& report, const Situation& situation)
 {
     QWidget parent;
     Widget_listpopup popup(17, situation.job.toStdString(), &parent);
-    std::vector<std::string> names;
-    ZENTRA::API::get_fonts(situation.job.toStdString(), names);
-    QStringList expected;
-    for (const std::string& name : names) {
-        expected.append(QString::fromStdString(name));
-    }
-    QStringList shown = UserActions::namesIn(popup);
-    if (!shown.isEmpty()) {
+    const QString what = QStringLiteral("Widget_listpopup: fonts");
+    report.run(what, [&] {
+        std::vector<std::string> names;
+        ZENTRA::API::get_fonts(situation.job.toStdString(), names);
+        QStringList expected = texts(names);
+        QStringList shown = UserActions::namesIn(popup);
         expected.sort();
         shown.sort();
-        report.expect(QStringLiteral("Widget_listpopup: fonts"), expected, shown);
-    }
+        if (UserActions::hasList(popup)) {
+            report.expect(what, expected, shown);
+        } else {
+            report.untried(what, QStringLiteral("the window has no list"));
+        }
+    });
     checkListPopup(report, popup, true);
 }
 

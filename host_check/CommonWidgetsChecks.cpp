@@ -44,13 +44,14 @@ const Signature signatures[] = {
 void checkSignatures(Report& report)
 {
     for (const Signature& row : signatures) {
+        const QString what = QStringLiteral("%1 has the %2 %3")
+                                 .arg(QLatin1String(row.widget->className()),
+                                      row.kind == QMetaMethod::Signal ? QStringLiteral("signal")
+                                                                      : QStringLiteral("slot"),
+                                      QLatin1String(row.text));
+        report.step(what);
         const int index = row.widget->indexOfMethod(QMetaObject::normalizedSignature(row.text));
-        report.expect(QStringLiteral("%1 has the %2 %3")
-                          .arg(QLatin1String(row.widget->className()),
-                               row.kind == QMetaMethod::Signal ? QStringLiteral("signal")
-                                                               : QStringLiteral("slot"),
-                               QLatin1String(row.text)),
-                      true, index >= 0 && row.widget->method(index).methodType() == row.kind);
+        report.expect(what, true, index >= 0 && row.widget->method(index).methodType() == row.kind);
     }
 }
 
@@ -75,11 +76,12 @@ const Window windows[] = {
          return new Widget_listpopup(16, situation.job.toStdString(), situation.step.toStdString(),
                                      parent);
      }},
-    {"Grc_Tbe_measurepopup",
-     [](const Situation& situation, QWidget* parent) {
-         return new Grc_Tbe_measurepopup(situation.strip, parent);
-     }},
 };
+
+const Window measureWindow = {"Grc_Tbe_measurepopup",
+                              [](const Situation& situation, QWidget* parent) {
+                                  return new Grc_Tbe_measurepopup(situation.strip, parent);
+                              }};
 
 /// Each is a separate window that is deleted with its parent, and that closing hides.
 void checkWindow(Report& report, const Situation& situation, const Window& row)
@@ -90,21 +92,25 @@ void checkWindow(Report& report, const Situation& situation, const Window& row)
     report.expect(name + QStringLiteral(": its parent is the given one"), true,
                   window->parentWidget() == parent.get());
     report.expect(name + QStringLiteral(": is a window"), true, window->isWindow());
+    report.step(name + QStringLiteral(": show()"));
     window->show();
     report.expect(name + QStringLiteral(": is visible when shown"), true, window->isVisible());
+    report.step(name + QStringLiteral(": close()"));
     UserActions::close(*window);
     if (report.expect(name + QStringLiteral(": is there after closing"), true, !window.isNull())) {
         report.expect(name + QStringLiteral(": is visible after closing"), false,
                       window->isVisible());
+        report.step(name + QStringLiteral(": show() again"));
         window->show();
         report.expect(name + QStringLiteral(": is visible when shown again"), true,
                       window->isVisible());
     }
+    report.step(name + QStringLiteral(": its parent is deleted"));
     parent.reset();
     report.expect(name + QStringLiteral(": is there after its parent"), false, !window.isNull());
 }
 
-QStringList texts(const Attributes& attributes)
+QStringList pairs(const Attributes& attributes)
 {
     QStringList all;
     for (const auto& [name, value] : attributes) {
@@ -118,7 +124,7 @@ QStringList dataOf(Widget_Attributes& window)
 {
     std::map<std::string, std::string> data{{"left over", ""}};
     window.getAttributeData(data);
-    return texts(Attributes(data.begin(), data.end()));
+    return pairs(Attributes(data.begin(), data.end()));
 }
 
 void checkAttributes(Report& report)
@@ -130,22 +136,27 @@ void checkAttributes(Report& report)
     QObject::connect(&window, &Widget_Attributes::change_button_color, &parent,
                      [&] { ++coloured; });
     QObject::connect(&window, &Widget_Attributes::remove_button_color, &parent, [&] { ++plain; });
+    const auto fill = [&](const Attributes& attributes) {
+        report.step(QStringLiteral("Widget_Attributes::get_attributeinfo_list() of %1")
+                        .arg(attributes.size()));
+        window.get_attributeinfo_list(attributes);
+    };
     const QString data = QStringLiteral("Widget_Attributes::getAttributeData() ");
     report.expect(data + QStringLiteral("keeps what was in the map"), false,
                   dataOf(window).contains(QStringLiteral("left over=")));
-    window.get_attributeinfo_list({});
+    fill({});
     plain = 0;
 
-    window.get_attributeinfo_list(picked);
-    report.expect(data + QStringLiteral("after two were picked"), texts(picked), dataOf(window));
-    window.get_attributeinfo_list({picked.back()});
-    report.expect(data + QStringLiteral("after one was picked"), texts({picked.back()}),
+    fill(picked);
+    report.expect(data + QStringLiteral("after two were picked"), pairs(picked), dataOf(window));
+    fill({picked.back()});
+    report.expect(data + QStringLiteral("after one was picked"), pairs({picked.back()}),
                   dataOf(window));
     report.expect(QStringLiteral("Widget_Attributes::change_button_color() of a filled table"), 1,
                   coloured);
     report.expect(QStringLiteral("Widget_Attributes::remove_button_color() of a filled table"), 0,
                   plain);
-    window.get_attributeinfo_list({});
+    fill({});
     report.expect(data + QStringLiteral("after none was picked"), QStringList(), dataOf(window));
     report.expect(QStringLiteral("Widget_Attributes::change_button_color() of an empty table"), 1,
                   coloured);
@@ -162,9 +173,10 @@ void checkAttributeButtons(Report& report)
     QVector<QStringList> sent;
     QObject::connect(&window, &Widget_Attributes::send_attribute_signal, &parent, [&] { ++asked; });
     QObject::connect(&window, &Widget_Attributes::send_attribute_list, &parent,
-                     [&](const Attributes& attributes) { sent.append(texts(attributes)); });
+                     [&](const Attributes& attributes) { sent.append(pairs(attributes)); });
     BoxCounter boxes;
     for (auto* const button : window.findChildren<QAbstractButton*>()) {
+        report.step(QStringLiteral("Widget_Attributes: the button \"%1\"").arg(button->text()));
         window.get_attributeinfo_list(picked);
         window.show();
         button->click();
@@ -180,7 +192,7 @@ void checkAttributeButtons(Report& report)
         return;
     }
     for (const QStringList& list : sent) {
-        report.expect(QStringLiteral("Widget_Attributes::send_attribute_list()"), texts(picked),
+        report.expect(QStringLiteral("Widget_Attributes::send_attribute_list()"), pairs(picked),
                       list);
     }
 }
@@ -191,8 +203,9 @@ void checkMeasurePopup(Report& report, const Situation& situation)
     Grc_Tbe_measurepopup popup(situation.strip, &parent);
     popup.show();
     for (const char* const slot : {"change_language", "onMeasureButtonClicked"}) {
-        report.expect(QStringLiteral("Grc_Tbe_measurepopup::%1() by its name").arg(slot), true,
-                      QMetaObject::invokeMethod(&popup, slot));
+        const QString what = QStringLiteral("Grc_Tbe_measurepopup::%1() by its name").arg(slot);
+        report.step(what);
+        report.expect(what, true, QMetaObject::invokeMethod(&popup, slot));
     }
     report.expect(QStringLiteral("Grc_Tbe_measurepopup: is visible after its slots"), true,
                   popup.isVisible());
@@ -210,6 +223,13 @@ void checkCommonWidgets(Report& report, const Situation& situation)
                [&] { checkAttributes(report); });
     report.run(QStringLiteral("Widget_Attributes: buttons"),
                [&] { checkAttributeButtons(report); });
+    if (!situation.strip) {
+        report.untried(QLatin1String(measureWindow.name),
+                       QStringLiteral("there is no tool strip that could open it"));
+        return;
+    }
+    report.run(QLatin1String(measureWindow.name),
+               [&] { checkWindow(report, situation, measureWindow); });
     report.run(QStringLiteral("Grc_Tbe_measurepopup: slots"),
                [&] { checkMeasurePopup(report, situation); });
 }

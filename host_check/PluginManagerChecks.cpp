@@ -5,13 +5,18 @@
 
 void checkPluginManager(Report& report)
 {
-    auto* const manager = QTpluginsManger4CAM::instance();
-    if (!report.expect(QStringLiteral("QTpluginsManger4CAM::instance() is there"), true,
-                       manager != nullptr)) {
+    QTpluginsManger4CAM* manager = nullptr;
+    const QString instance = QStringLiteral("QTpluginsManger4CAM::instance()");
+    report.run(instance, [&] {
+        manager = QTpluginsManger4CAM::instance();
+        report.expect(instance + QStringLiteral(" is there"), true, manager != nullptr);
+        report.expect(instance + QStringLiteral(" is always the same"), true,
+                      manager == QTpluginsManger4CAM::instance());
+    });
+    if (!manager) {
+        report.untried(QStringLiteral("recMegToPlugin()"), QStringLiteral("there is no manager"));
         return;
     }
-    report.expect(QStringLiteral("QTpluginsManger4CAM::instance() is always the same"), true,
-                  manager == QTpluginsManger4CAM::instance());
 
     // The sender pointer may no longer be a widget: it is compared, never followed.
     int noWidget = 0;

@@ -7,8 +7,10 @@
 
 namespace {
 
-void print(const QString& line)
+/// Texts of the host may have several lines.
+void print(QString line)
 {
+    line.replace('\n', QLatin1String("\\n")).replace('\r', QLatin1String("\\r"));
     QTextStream(stdout) << line << '\n';
 }
 
@@ -70,17 +72,27 @@ bool Report::compared(bool isSame, const QString& what, const QString& expected,
     return isSame;
 }
 
+void Report::step(const QString& what)
+{
+    if (m_isVerbose) {
+        print(QStringLiteral("trying: ") + what);
+    }
+}
+
 void Report::untried(const QString& what, const QString& why)
 {
     ++m_untried;
     print(QStringLiteral("not tried: %1: %2").arg(what, why));
 }
 
+void Report::untriedWithoutJob(const QString& what)
+{
+    untried(what, QStringLiteral("no --job is given"));
+}
+
 void Report::run(const QString& what, const std::function<void()>& action)
 {
-    if (m_isVerbose) {
-        print(QStringLiteral("trying: ") + what);
-    }
+    step(what);
     QString thrown;
     try {
         action();
@@ -92,7 +104,9 @@ void Report::run(const QString& what, const std::function<void()>& action)
     } catch (...) {
         thrown = QStringLiteral("something thrown");
     }
-    compared(thrown.isEmpty(), what, QStringLiteral("no exception"), thrown);
+    if (!compared(thrown.isEmpty(), what, QStringLiteral("no exception"), thrown)) {
+        untried(QStringLiteral("the rest of ") + what, QStringLiteral("see the line above"));
+    }
 }
 
 void Report::finish() const

@@ -8,8 +8,7 @@
 /// and counts.
 class Report {
 public:
-    /// `isVerbose`: each step is printed before it is tried, so that one can see where a host
-    /// crashes.
+    /// `isVerbose`: see step().
     explicit Report(bool isVerbose) : m_isVerbose(isVerbose) {}
 
     /// Whether both are equal; a difference is printed under the name `what`.
@@ -20,10 +19,15 @@ public:
     bool expect(const QString& what, const QString& expected, const QString& got);
     bool expect(const QString& what, const QStringList& expected, const QStringList& got);
 
+    /// Announces what is called next. If verbose, it is printed, so that one can see in which call
+    /// a host crashes.
+    void step(const QString& what);
+
     /// Reports that something could not be tried, and why.
     void untried(const QString& what, const QString& why);
+    void untriedWithoutJob(const QString& what);
 
-    /// Runs `action`; an exception that leaves it is a difference named `what`.
+    /// Runs `action` as a step; an exception that leaves it is a difference named `what`.
     void run(const QString& what, const std::function<void()>& action);
 
     /// Prints the totals.

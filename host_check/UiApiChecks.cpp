@@ -1,5 +1,6 @@
 #include "BoxCounter.h"
 #include "Checks.h"
+#include "Names.h"
 #include "RandomNumbers.h"
 #include "Report.h"
 
@@ -14,8 +15,6 @@ namespace {
 constexpr double micrometresOfMil = 25.4;
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
-
-enum Direction { TypedToStored, StoredToMetric };
 
 /// A name as it is stored, in mil, and as a metric user reads it.
 constexpr const char* symbolNames[][2] = {
@@ -128,6 +127,7 @@ void checkUnitString(Report& report, const Situation& situation)
 {
     const QString expected = situation.isMetric ? QStringLiteral("MM") : QStringLiteral("INCH");
     bool hasThrown = true;
+    report.step(QStringLiteral("getUnitString()"));
     try {
         const QString got = getUnitString(situation.context);
         hasThrown = false;
@@ -171,6 +171,8 @@ void checkSymbolsComeBack(Report& report)
             const QString name = 'r' + numbers.next(6);
             for (const Direction there : {TypedToStored, StoredToMetric}) {
                 const Direction back = there == StoredToMetric ? TypedToStored : StoredToMetric;
+                report.step(
+                    QStringLiteral("setSymbolUIData(\"%1\", %2) and back").arg(name).arg(there));
                 const QString other = setSymbolUIData(name, there);
                 isSame &= report.expect(QStringLiteral("setSymbolUIData(\"%1\", %2) of what "
                                                        "setSymbolUIData(\"%3\", %4) gave")

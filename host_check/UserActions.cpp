@@ -8,12 +8,12 @@
 
 namespace {
 
-void doubleClick(QAbstractItemView& list, const QModelIndex& index)
+/// Presses and releases the left button at the entry; `press` tells a second click from a first.
+void click(QAbstractItemView& list, const QModelIndex& index, QEvent::Type press)
 {
     list.scrollTo(index);
     const QPoint place = list.visualRect(index).center();
-    for (const QEvent::Type kind : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+    for (const QEvent::Type kind : {press, QEvent::MouseButtonRelease}) {
         QMouseEvent event(kind, place, list.viewport()->mapToGlobal(place), Qt::LeftButton,
                           kind == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
                           Qt::NoModifier);
@@ -38,6 +38,11 @@ void type(QWidget& widget, const QString& text)
     for (const QChar character : text) {
         pressKey(widget, 0, character);
     }
+}
+
+bool hasList(const QWidget& window)
+{
+    return window.findChild<QAbstractItemView*>() != nullptr;
 }
 
 QAbstractItemView* listOf(const QWidget& window)
@@ -66,9 +71,14 @@ void choose(QWidget& window, QAbstractItemView& list, const QModelIndex& index,
 {
     window.show();
     list.setCurrentIndex(index);
-    pressKey(list, Qt::Key_Return);
     if (chosen.isEmpty()) {
-        doubleClick(list, index);
+        pressKey(list, Qt::Key_Return);
+    }
+    // The second click makes the first one a double click.
+    for (const QEvent::Type press : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+        if (chosen.isEmpty()) {
+            click(list, index, press);
+        }
     }
     for (auto* const button : window.findChildren<QAbstractButton*>()) {
         if (!chosen.isEmpty()) {

@@ -14,9 +14,11 @@ namespace {
 
 constexpr int different = 1;
 constexpr int wrongUsage = 2;
+constexpr const char* usage =
+    "usage: host_check --unit metric|inch [--job NAME] [--step NAME] [--verbose]\n";
 
 /// False, with the usage on stderr, if the options are not understood.
-bool readOptions(const QApplication& application, Situation& situation, bool& isVerbose)
+bool readOptions(Situation& situation, bool& isVerbose)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
@@ -36,15 +38,20 @@ bool readOptions(const QApplication& application, Situation& situation, bool& is
         QStringLiteral("verbose"),
         QStringLiteral("Print each step before it is tried, to see where a host crashes."));
     parser.addOptions({unit, job, step, verbose});
-    parser.addHelpOption();
-    parser.process(application);
-
+    const QCommandLineOption help = parser.addHelpOption();
+    // Not process(): it would exit with the status that means a difference.
+    if (!parser.parse(QApplication::arguments())) {
+        QTextStream(stderr) << parser.errorText() << '\n' << usage;
+        return false;
+    }
+    if (parser.isSet(help)) {
+        parser.showHelp();
+    }
     const QString value = parser.value(unit);
     situation.isMetric = value == QLatin1String("metric");
     if ((!situation.isMetric && value != QLatin1String("inch")) ||
         !parser.positionalArguments().isEmpty()) {
-        QTextStream(stderr)
-            << "usage: host_check --unit metric|inch [--job NAME] [--step NAME] [--verbose]\n";
+        QTextStream(stderr) << usage;
         return false;
     }
     situation.job = parser.value(job);
@@ -57,11 +64,11 @@ bool readOptions(const QApplication& application, Situation& situation, bool& is
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     Situation situation;
     bool isVerbose = false;
-    if (!readOptions(application, situation, isVerbose)) {
+    if (!readOptions(situation, isVerbose)) {
         return wrongUsage;
     }
     Report report(isVerbose);
@@ -69,7 +76,10 @@ int main(int argc, char** argv)
     situation.context = &window;
     report.run(QStringLiteral("GetPluginInstance()"), [&] {
         situation.strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(&window));
-        window.setLayout(situation.strip);
+        if (report.expect(QStringLiteral("GetPluginInstance() gives a tool strip"), true,
+                          situation.strip != nullptr)) {
+            window.setLayout(situation.strip);
+        }
     });
     checkPluginManager(report);
     checkCamApi(report, situation);

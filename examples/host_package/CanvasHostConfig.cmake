@@ -7,8 +7,9 @@
 
 set(CANVAS_HOST_ROOT "/opt/host" CACHE PATH "The host: include/, lib/ and, on Windows, bin/")
 
-# The libraries are built against Qt's widgets, and so is whoever includes their headers. find_dependency
-# passes on what the caller said about the package: whether it is required, and whether to be quiet.
+# The libraries are built against Qt's widgets, and so is any code that includes their headers.
+# find_dependency passes on what the caller said about the package: whether it is required, and
+# whether to be quiet.
 include(CMakeFindDependencyMacro)
 find_dependency(Qt5 5.15 COMPONENTS Core Gui Widgets)
 
@@ -47,6 +48,6 @@ host_library(PluginManager  host_plugins     CanvasHost::Envelope)
 host_library(CamApi         host_cam)
 host_library(UiApi          host_ui          CanvasHost::CamApi Qt5::Widgets)
 # This library may use the class of the tool strip, and the tool strip uses it. On Linux it leaves the
-# class undefined, which the module defines as soon as it is loaded. A program that is itself linked
-# with this library links the module, too.
+# class undefined, and the program has to provide it: it links the module, or opens the module with
+# QLibrary::ExportExternalSymbolsHint before this library is loaded.
 host_library(CommonWidgets  host_widgets     Qt5::Widgets)

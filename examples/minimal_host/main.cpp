@@ -18,12 +18,14 @@
 #include <QTextStream>
 #include <QVBoxLayout>
 
+#include <glog/logging.h>
+
 namespace Accepted = MessageCodes::Accepted;
 namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-// Not a QStringLiteral: a receiver may keep the name of a sender for longer than you think.
+// In a module, which may be unloaded, this must not be a QStringLiteral: receivers keep the name.
 const QString hostName = QString::fromLatin1("Minimal_Host.dll");
 
 /// The two entry points of a module.
@@ -115,7 +117,8 @@ int run(const Module& module, bool quit)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    // The module logs through Qt's categories. Set rules before it is opened.
+    // The module writes to both logs. Set them up before it is opened.
+    google::InitGoogleLogging(argv[0]);
     QLoggingCategory::setFilterRules(QStringLiteral("canvastoolstrip.record=false"));
 
     QLibrary library(QStringLiteral(MODULE_DIR "/Canvas_Tool_Strip"));

@@ -43,4 +43,8 @@ printf '%s\n' "$output" | grep -qxF 'trying: getUnitData(10)' || { echo "no step
 expect 2 0
 expect 2 0 --unit mm
 expect 2 0 --unit metric more
+expect 2 0 --units metric
+expect 2 0 --unit
+grep -q "Missing value after '--unit'" "$errors" || { echo "a mistake is not explained"; failed=1; }
+expect 0 0 --help
 exit $failed

@@ -34,8 +34,8 @@ flags=
 cmake -S "$source/tests/module/sibling" -B "$work/sibling" -G Ninja -DCMAKE_CXX_FLAGS="$flags" \
     -DCMAKE_PREFIX_PATH="$work/prefix" >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
 cmake --build "$work/sibling" >"$work/build.log" || { cat "$work/build.log"; exit 1; }
-if ninja -C "$work/sibling" -t deps | grep -F "$source/plugin/"; then
-    echo "the sibling reached into the tree's plugin/"
+if ninja -C "$work/sibling" -t deps | grep -E "$source/(plugin|toolbar|host)/"; then
+    echo "the sibling reached into the tree"
     exit 1
 fi
 if nm -D --defined-only -C "$work/sibling/libSibling.so" | grep -E 'MessageCodes|staticMetaObject'; then

@@ -31,7 +31,9 @@ holds "$workbench" usr/bin/canvas-workbench $private/modules/Canvas_Viewer.so \
     usr/share/metainfo/canvas-workbench.metainfo.xml
 holds "$development" include/CanvasHost/PluginMetaData.h include/CanvasHost/cam_api.h \
     include/CanvasToolStrip/plugin/RecordKeys.h libcanvas_tool_strip_protocol.a \
+    include/CanvasToolStrip/toolbar/Canvas_Tool_Strip.h \
     cmake/CanvasHost/CanvasHostConfig.cmake cmake/CanvasToolStrip/CanvasToolStripConfig.cmake \
+    cmake/CanvasToolStrip/CanvasToolStripConfigVersion.cmake \
     $private/host/libCanvasHostPluginManager.so
 for package in "$module" "$workbench"; do
     if dpkg-deb -c "$package" | grep -E '\.(h|a)$'; then

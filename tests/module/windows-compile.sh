@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Every source file of the module compiles for Windows, and so does a host that imports the module's
-# class: with Debian's cross compiler against Qt's headers, without linking.
-# Usage: windows-compile.sh INCLUDES SOURCES HOST WORK
+# Every source file of the module and of host_check compiles for Windows, and so does a host that
+# imports the module's class: with Debian's cross compiler against Qt's headers, without linking.
+# Usage: windows-compile.sh INCLUDES SOURCES CHECK HOST WORK
 #   INCLUDES and SOURCES are files, one path per line: what the module is built from
+#   CHECK is the folder of host_check, HOST the source file of the host
 set -u
-host=$3 work=$4
+check=$3 host=$4 work=$5
 tool=x86_64-w64-mingw32
 mapfile -t includes < <(sort -u "$1")
 mapfile -t files < <(grep '\.cpp$' "$2")
@@ -34,6 +35,16 @@ for name in GetPluginInstance recMsgFromManager "${class}C2EP7QWidget" \
     grep -qx "__imp_$name" "$work/names" || { echo "the host does not import $name"; exit 1; }
 done
 
-echo "${#files[@]} files"
-printf '%s\0' "${files[@]}" | xargs -0 -P "$(nproc)" -I FILE \
-    "$tool-g++-posix" "${options[@]}" -DCANVAS_TOOL_STRIP_BUILD -fsyntax-only FILE
+# compile OPTION... -- FILE...
+compile() {
+    own=()
+    while [ "$1" != -- ]; do
+        own+=("$1")
+        shift
+    done
+    shift
+    echo "$# files"
+    printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -I FILE \
+        "$tool-g++-posix" "${options[@]}" "${own[@]}" -fsyntax-only FILE
+}
+compile -DCANVAS_TOOL_STRIP_BUILD -- "${files[@]}" && compile -- "$check"/*.cpp

@@ -1,5 +1,6 @@
-// A host that links against the module, compiled for Windows by windows-compile.sh: it has the
-// entry points and the class from another library, and defines none of them itself.
+// A part of a host that uses the class and the entry points of the module, and defines none of
+// them: compiled for Windows by windows-compile.sh, and against the installed headers with the
+// sibling.
 
 #include "plugin/PluginEntry.h"
 #include "toolbar/Canvas_Tool_Strip.h"
