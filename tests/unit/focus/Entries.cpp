@@ -1,19 +1,11 @@
 #include "Entries.h"
 
+#include "PageSteps.h"
 #include "plugin/RecordKeys.h"
 
-namespace {
+using namespace PageSteps;
 
-const Steps polyline = {Choose("m_pLineCMB", "Polyline")};
-const Steps rectangle = {Choose("m_pLineCMB", "Rectangle")};
-const Steps roundCorner = rectangle + Choose("m_pCornerTypeCMB", "Round");
-const Steps slot = {Choose("m_pLineCMB", "Slot")};
-const Steps fixedAngle = {Click("m_pFixedAngleRB")};
-const Steps circle = {Choose("m_pArcAndCircleCMB", "Circle")};
-const Steps barcode = {Choose("m_pTextFormatCMB", "Barcode")};
-const Steps matrixCode = barcode + Choose("m_pUPCCMB", "ECC-200");
-const Steps plotStamp = {Choose("m_pTextFormatCMB", "Orbotech Plot Stamp")};
-const Steps cannedText = {Choose("m_pTextFormatCMB", "Canned Text")};
+namespace {
 
 const QString lengthBox = "Information|The current text box can only enter a value from 0 to";
 const QString pitchBox = "Information|The current value out of range:";
@@ -250,7 +242,6 @@ QString Entry::words() const
 
 void Entry::reachField(const DialogFixture& fixture) const
 {
-    fixture.click(m_type);
     fixture.perform(m_reach);
 }
 

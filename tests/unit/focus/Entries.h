@@ -8,7 +8,10 @@
 class Entry {
 public:
     /// `typeButton` is the one of the field's page.
-    Entry(const QString& field, const QString& typeButton) : m_field(field), m_type(typeButton) {}
+    Entry(const QString& field, const QString& typeButton)
+        : m_field(field), m_type(typeButton), m_reach({Click(typeButton)})
+    {
+    }
 
     /// What shows the field on its page.
     Entry& reachedBy(const Steps& steps) { return m_reach = steps, *this; }

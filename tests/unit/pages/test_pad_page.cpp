@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "PageCases.h"
+#include "PageSteps.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -12,9 +13,9 @@
 
 namespace Sent = MessageCodes::Sent;
 
-namespace {
+using namespace PageSteps;
 
-const Steps pad = {Click("m_pPadTB")};
+namespace {
 
 /// A count or factor is checked at each change of its text.
 Cases numbers(const QString& field, const QString& key, const QStringList& legal,

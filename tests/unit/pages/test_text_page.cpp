@@ -2,7 +2,7 @@
 
 #include "Main.h"
 #include "PageCases.h"
-#include "TextSteps.h"
+#include "PageSteps.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -13,6 +13,8 @@
 #include <QRegExpValidator>
 
 namespace Sent = MessageCodes::Sent;
+
+using namespace PageSteps;
 
 namespace {
 
