@@ -60,7 +60,7 @@ Cases pitches(const QString& field, const QString& key)
         const bool isMetric = unit == Unit::Metric;
         return entered(unit, text)
             .then(Expect::record(key, isMetric ? "127" : "3225.8"), Expect::text(field, "0"),
-                  Expect::coordinateBox(isMetric ? 2540000 : 100000));
+                  Expect::box(BoxTexts::coordinate(isMetric ? 2540000 : 100000)));
     };
     return {
         accepted(Unit::Mil, "10", "254"),
