@@ -6,6 +6,7 @@
 #include "Main.h"
 #include "OpenWindow.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 
 #include <QLabel>
@@ -58,7 +59,34 @@ constexpr int toolCodes[] = {Sent::AreaZoom,
                              Sent::Mark,
                              Sent::Eq};
 
+/// An entry that is refused in one box.
+class Refusal {
+public:
+    explicit Refusal(const QString& type = {}, const QString& field = {})
+        : m_type(type), m_field(field)
+    {
+    }
+    Refusal& of(const QString& typed) { return m_typed = typed, *this; }
+    Refusal& leaves(const QString& shown) { return m_shown = shown, *this; }
+    Refusal& opens(const BoxText& box) { return m_box = box, *this; }
+
+    QString words() const { return m_field + ' ' + m_typed; }
+    QString type() const { return m_type; }
+    QString field() const { return m_field; }
+    QString typed() const { return m_typed; }
+    QString shown() const { return m_shown; }
+    BoxText box() const { return m_box; }
+
+private:
+    QString m_type;
+    QString m_field;
+    QString m_typed;
+    QString m_shown;
+    BoxText m_box;
+};
+
 }  // namespace
+Q_DECLARE_METATYPE(Refusal)
 
 class TestDesktop : public QObject {
     Q_OBJECT
@@ -72,12 +100,12 @@ private:
         return findNamed<QToolButton>(*m_window, QLatin1String(name));
     }
 
-    /// Codes to and from the tool strip since the log was cleared, except 51.
+    /// What strip and dialog have sent since the log was cleared.
     QVector<int> sent() const
     {
         QVector<int> codes;
         for (const MessageRecord& message : m_log->messages()) {
-            if (message.sender.startsWith("Canvas_Tool_Strip")) {
+            if (message.sender.startsWith(ModuleNames::bareToolStrip)) {
                 codes.append(message.code);
             }
         }
@@ -193,59 +221,46 @@ private Q_SLOTS:
 
     void refusedOnce_data()
     {
-        QTest::addColumn<QString>("typeButton");
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("box");
+        QTest::addColumn<Refusal>("refusal");
         QTest::addColumn<QString>("way");
-        QTest::addColumn<QString>("shown");
-        const struct {
-            const char* typeButton;
-            const char* field;
-            const char* typed;
-            const char* box;
-            const char* shown;
-        } rows[] = {
-            {"m_pLineTB", "m_pSymbolTextLE", "r", "Unable to create special symbol!", ""},
-            {"m_pPadTB", "m_pSymbolTextLE", "foo", "Unable to create special symbol!", ""},
-            {"m_pPadTB", "m_pDrilDxLE", "100001",
-             "The current value out of range:-100000 to 100000", "0"},
-            {"m_pTextTB", "m_pXSizeLE", "10000.5",
-             "The current text box can only enter a value from 0 to10000", "0"},
+        const QVector<Refusal> refusals = {
+            Refusal("m_pLineTB", "m_pSymbolTextLE").of("r").leaves("").opens(BoxTexts::symbol()),
+            Refusal("m_pPadTB", "m_pSymbolTextLE").of("foo").leaves("").opens(BoxTexts::symbol()),
+            Refusal("m_pPadTB", "m_pDrilDxLE")
+                .of("100001")
+                .leaves("0")
+                .opens(BoxTexts::coordinate(100000)),
+            Refusal("m_pTextTB", "m_pXSizeLE")
+                .of("10000.5")
+                .leaves("0")
+                .opens(BoxTexts::length(10000)),
         };
-        for (const auto& row : rows) {
+        for (const Refusal& refusal : refusals) {
             for (const char* const way : {"Tab", "Return", "mouse"}) {
-                QTest::addRow("%s %s by %s", row.field, row.typed, way)
-                    << row.typeButton << row.field << row.typed << row.box << way << row.shown;
+                QTest::addRow("%s by %s", qPrintable(refusal.words()), way) << refusal << way;
             }
         }
     }
 
     void refusedOnce()
     {
-        QFETCH(QString, typeButton);
-        QFETCH(QString, field);
-        QFETCH(QString, typed);
-        QFETCH(QString, box);
+        QFETCH(Refusal, refusal);
         QFETCH(QString, way);
-        QFETCH(QString, shown);
         BoxCatcher boxes;
-        QWidget& dialog = openDialog(qPrintable(typeButton));
-        auto& entry = findNamed<QLineEdit>(dialog, field);
+        QWidget& dialog = openDialog(qPrintable(refusal.type()));
+        auto& entry = findNamed<QLineEdit>(dialog, refusal.field());
         Desktop::click(entry);
         Desktop::key("ctrl+a");
-        Desktop::type(typed);
-        QCOMPARE(entry.text(), typed);
+        Desktop::type(refusal.typed());
+        QCOMPARE(entry.text(), refusal.typed());
         if (way == "mouse") {
             Desktop::click(findNamed(dialog, "m_pAttributesCB"), 1, QPoint(8, 10));
         } else {
             Desktop::key(way);
         }
-        QTRY_COMPARE(entry.text(), shown);
+        QTRY_COMPARE(entry.text(), refusal.shown());
         QTest::qWait(100);
-        const QStringList texts = boxes.takeTexts();
-        QCOMPARE(texts.size(), 1);
-        QVERIFY2(texts[0].endsWith('|' + box), qPrintable(texts[0]));
+        QCOMPARE(boxes.takeTexts(), BoxTextList{refusal.box()});
     }
 
     void aWholeLine()

@@ -13,8 +13,8 @@ BoxCatcher::BoxCatcher()
 
 BoxCatcher::~BoxCatcher()
 {
-    for (const QString& text : takeTexts()) {
-        QTest::qFail(qPrintable("unexpected box: " + text), __FILE__, __LINE__);
+    for (const BoxText& box : takeTexts()) {
+        QTest::qFail(qPrintable("unexpected box: " + box.words()), __FILE__, __LINE__);
     }
 }
 
@@ -44,11 +44,11 @@ QVector<BoxCatcher::Box> BoxCatcher::take()
     return std::exchange(m_boxes, {});
 }
 
-QStringList BoxCatcher::takeTexts()
+BoxTextList BoxCatcher::takeTexts()
 {
-    QStringList texts;
+    BoxTextList texts;
     for (const Box& box : take()) {
-        texts.append(box.title + '|' + box.text);
+        texts.append({box.title, box.text});
     }
     return texts;
 }

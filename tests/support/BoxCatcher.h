@@ -1,5 +1,7 @@
 #pragma once
 
+#include "BoxText.h"
+
 #include <QMessageBox>
 #include <QTimer>
 #include <QVector>
@@ -25,8 +27,8 @@ public:
 
     /// The boxes since the last call, each as kind, title and text.
     QVector<Box> take();
-    /// The same, as "title|text".
-    QStringList takeTexts();
+    /// The same, title and text only.
+    BoxTextList takeTexts();
 
     /// Called while a box is open, before it is answered.
     void setOnBox(std::function<void()> onBox) { m_onBox = std::move(onBox); }

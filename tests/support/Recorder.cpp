@@ -52,5 +52,6 @@ Recorder::Entry Recorder::last(int code) const
             return *entry;
         }
     }
-    return {};
+    const char* const name = MessageCodes::Sent::nameOf(code);
+    qFatal("%s was not sent", name ? name : qPrintable(QString::number(code)));
 }

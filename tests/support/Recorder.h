@@ -26,7 +26,7 @@ public:
 
     const QVector<Entry>& messages() const { return m_messages; }
     QVector<int> codes() const;
-    /// The last message with that code; one with code -1 if there is none.
+    /// The last message with that code. Ends the program if none was sent.
     Entry last(int code) const;
     void clear() { m_messages.clear(); }
     /// Forgets all but the first `count` messages.

@@ -2,6 +2,7 @@
 
 #include "DialogFixture.h"
 #include "Main.h"
+#include "PageSteps.h"
 
 #include <QAbstractButton>
 #include <QFile>
@@ -13,6 +14,8 @@
 #include <QTranslator>
 
 #include <algorithm>
+
+using namespace PageSteps;
 
 namespace {
 
@@ -236,18 +239,16 @@ private:
     static void addPages()
     {
         QTest::addColumn<Steps>("reach");
-        const Steps line = {Click("m_pLineTB")};
-        const Steps text = {Click("m_pTextTB")};
         QTest::newRow("single line") << line + Choose("m_pLineCMB", "Single Line");
-        QTest::newRow("rectangle") << line + Choose("m_pLineCMB", "Rectangle");
-        QTest::newRow("slot") << line + Choose("m_pLineCMB", "Slot");
-        QTest::newRow("pad") << Steps{Click("m_pPadTB")};
-        QTest::newRow("surface") << Steps{Click("m_pSurfaceTB")};
-        QTest::newRow("arc") << Steps{Click("m_pArcTB")};
+        QTest::newRow("rectangle") << rectangle;
+        QTest::newRow("slot") << slot;
+        QTest::newRow("pad") << pad;
+        QTest::newRow("surface") << surface;
+        QTest::newRow("arc") << arc;
         QTest::newRow("string") << text + Choose("m_pTextFormatCMB", "String");
-        QTest::newRow("barcode") << text + Choose("m_pTextFormatCMB", "Barcode");
-        QTest::newRow("plot stamp") << text + Choose("m_pTextFormatCMB", "Orbotech Plot Stamp");
-        QTest::newRow("canned text") << text + Choose("m_pTextFormatCMB", "Canned Text");
+        QTest::newRow("barcode") << barcode;
+        QTest::newRow("plot stamp") << plotStamp;
+        QTest::newRow("canned text") << cannedText;
     }
 
     /// Brings the dialog into the state of the current row.

@@ -134,9 +134,10 @@ private Q_SLOTS:
         const CanvasState before = fixture.state();
         answerDialog(file);
         QTest::mouseClick(&findNamed(*fixture.pane, "m_pOpenBoardTB"), Qt::LeftButton);
-        const QStringList told = boxes.takeTexts();
+        const BoxTextList told = boxes.takeTexts();
         QCOMPARE(told.size(), 1);
-        QVERIFY2(told[0].startsWith("Board|" + file + ":3: "), qPrintable(told[0]));
+        const BoxText expected{"Board", file + ":3: ", BoxText::Match::Start};
+        QVERIFY2(expected.matches(told[0]), qPrintable(told[0].words()));
         QVERIFY(fixture.state() == before);
     }
 

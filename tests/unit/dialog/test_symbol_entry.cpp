@@ -16,8 +16,6 @@ namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-const QString refusal("Illegal Input|Unable to create special symbol!");
-
 /// What happens to a name that is entered while the rotation is 30 degrees.
 class EnteredSymbol {
 public:
@@ -121,7 +119,8 @@ private Q_SLOTS:
         fixture.setToolActive(isActive);
 
         fixture.enter("m_pSymbolTextLE", entered.text);
-        QCOMPARE(fixture.boxes.takeTexts(), entered.refused ? QStringList(refusal) : QStringList());
+        QCOMPARE(fixture.boxes.takeTexts(),
+                 entered.refused ? BoxTextList{BoxTexts::symbol()} : BoxTextList());
         QCOMPARE(fixture.symbol().text(), entered.refused ? QString() : entered.text);
         QCOMPARE(fixture.recorder.codes(), isActive ? QVector<int>{Sent::Record} : QVector<int>{});
         Expect::holds(
@@ -209,7 +208,7 @@ private Q_SLOTS:
         DialogFixture fixture;
         fixture.type("m_pSymbolTextLE", "r");
         fixture.leave(way);
-        QCOMPARE(fixture.boxes.takeTexts(), QStringList(refusal));
+        QCOMPARE(fixture.boxes.takeTexts(), BoxTextList{BoxTexts::symbol()});
         QCOMPARE(fixture.symbol().text(), QString());
         // Enter sends what it was given before the entry is checked.
         QCOMPARE(fixture.recorder.codes(), way == By::Enter
@@ -330,7 +329,7 @@ private Q_SLOTS:
         fixture.chooseType("m_pPadTB");
         fixture.symbol().setMaxLength(INT_MAX);
         fixture.enter("m_pSymbolTextLE", text);
-        QCOMPARE(fixture.boxes.takeTexts(), QStringList(refusal));
+        QCOMPARE(fixture.boxes.takeTexts(), BoxTextList{BoxTexts::symbol()});
         QCOMPARE(fixture.symbol().text(), QString());
         Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
     }

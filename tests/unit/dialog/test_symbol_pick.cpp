@@ -77,9 +77,8 @@ private Q_SLOTS:
 
         fixture.dialog->get_ChangeSymbol_Info({{0, name.toStdString()}});
         const bool isRefused = shown.isEmpty();
-        QCOMPARE(
-            fixture.boxes.takeTexts(),
-            isRefused ? QStringList("Dialog Box|Illegal symbol name: " + name) : QStringList());
+        QCOMPARE(fixture.boxes.takeTexts(),
+                 isRefused ? BoxTextList{BoxTexts::pickedSymbol(name)} : BoxTextList());
         QCOMPARE(fixture.symbol().text(), isRefused ? before : shown);
         QCOMPARE(fixture.find("m_pSelectFromEditorPB").styleSheet(), isRefused ? armed : disarmed);
         QCOMPARE(fixture.recorder.codes(), isRefused ? QVector<int>{} : QVector<int>{Sent::Record});
@@ -93,7 +92,7 @@ private Q_SLOTS:
         DialogFixture fixture;
         fixture.chooseType("m_pArcTB");
         fixture.dialog->get_ChangeSymbol_Info({{7, "r30"}, {1, "r10"}, {3, "s20"}});
-        QCOMPARE(fixture.boxes.takeTexts(), QStringList("Dialog Box|Illegal symbol name: s20"));
+        QCOMPARE(fixture.boxes.takeTexts(), BoxTextList{BoxTexts::pickedSymbol("s20")});
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::Record, Sent::Record}));
         QCOMPARE(fixture.recorder.messages()[0].message.payload.value(RecordKeys::symbolText),
                  QVariant(QString("r10")));

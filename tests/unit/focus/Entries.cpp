@@ -1,24 +1,11 @@
 #include "Entries.h"
 
+#include "PageSteps.h"
 #include "plugin/RecordKeys.h"
 
+using namespace PageSteps;
+
 namespace {
-
-const Steps polyline = {Choose("m_pLineCMB", "Polyline")};
-const Steps rectangle = {Choose("m_pLineCMB", "Rectangle")};
-const Steps roundCorner = rectangle + Choose("m_pCornerTypeCMB", "Round");
-const Steps slot = {Choose("m_pLineCMB", "Slot")};
-const Steps fixedAngle = {Click("m_pFixedAngleRB")};
-const Steps circle = {Choose("m_pArcAndCircleCMB", "Circle")};
-const Steps barcode = {Choose("m_pTextFormatCMB", "Barcode")};
-const Steps matrixCode = barcode + Choose("m_pUPCCMB", "ECC-200");
-const Steps plotStamp = {Choose("m_pTextFormatCMB", "Orbotech Plot Stamp")};
-const Steps cannedText = {Choose("m_pTextFormatCMB", "Canned Text")};
-
-const QString lengthBox = "Information|The current text box can only enter a value from 0 to";
-const QString pitchBox = "Information|The current value out of range:";
-const QString numberBox = "Information|The value must lie between ";
-const QString symbolBox = "Illegal Input|Unable to create special symbol!";
 
 Entry onLine(const QString& field)
 {
@@ -93,53 +80,68 @@ QVector<Entry> refusedEntries()
         onPad("m_pSymbolTextLE")
             .typed("r10_4x")
             .stores(RecordKeys::symbolText, "")
-            .refusedBy(symbolBox),
+            .refusedBy(BoxTexts::symbol()),
         onLine("m_pAngleLE")
             .reachedBy(fixedAngle)
             .typed("400")
             .stores(RecordKeys::angle, "")
-            .refusedBy(numberBox),
+            .refusedBy(BoxTexts::anyNumber()),
         onLine("m_pCornerRadiusLE")
             .reachedBy(roundCorner)
             .typed("50005")
             .stores(RecordKeys::cornerRadius, "0")
-            .refusedBy(lengthBox),
+            .refusedBy(BoxTexts::anyLength()),
         onLine("m_pLengthLE")
             .reachedBy(slot)
             .typed("50005")
             .stores(RecordKeys::slotLength, "0")
-            .refusedBy(lengthBox),
-        onPad("m_pDrilNxLE").typed("51").stores(RecordKeys::padNx, "5").refusedBy(numberBox),
-        onPad("m_pDrilNyLE").typed("51").stores(RecordKeys::padNy, "5").refusedBy(numberBox),
-        onPad("m_pDrilDxLE").typed("100005").stores(RecordKeys::padDx, "0").refusedBy(pitchBox),
-        onPad("m_pDrilDyLE").typed("-100005").stores(RecordKeys::padDy, "0").refusedBy(pitchBox),
-        onPad("m_pDrilXsclLE").typed("101").stores(RecordKeys::padXscl, "10").refusedBy(numberBox),
+            .refusedBy(BoxTexts::anyLength()),
+        onPad("m_pDrilNxLE")
+            .typed("51")
+            .stores(RecordKeys::padNx, "5")
+            .refusedBy(BoxTexts::anyNumber()),
+        onPad("m_pDrilNyLE")
+            .typed("51")
+            .stores(RecordKeys::padNy, "5")
+            .refusedBy(BoxTexts::anyNumber()),
+        onPad("m_pDrilDxLE")
+            .typed("100005")
+            .stores(RecordKeys::padDx, "0")
+            .refusedBy(BoxTexts::anyCoordinate()),
+        onPad("m_pDrilDyLE")
+            .typed("-100005")
+            .stores(RecordKeys::padDy, "0")
+            .refusedBy(BoxTexts::anyCoordinate()),
+        onPad("m_pDrilXsclLE")
+            .typed("101")
+            .stores(RecordKeys::padXscl, "10")
+            .refusedBy(BoxTexts::anyNumber()),
         onPad("m_pDrilYsclLE")
             .typed("-101")
             .stores(RecordKeys::padYscl, "-10")
-            .refusedBy(numberBox),
+            .refusedBy(BoxTexts::anyNumber()),
         onText("m_pXSizeLE")
             .typed("10005")
             .stores(RecordKeys::stringXSize, "0")
-            .refusedBy(lengthBox),
+            .refusedBy(BoxTexts::anyLength()),
         onText("m_pYSizeLE")
             .typed("10005")
             .stores(RecordKeys::stringYSize, "0")
-            .refusedBy(lengthBox),
+            .refusedBy(BoxTexts::anyLength()),
         onText("m_pLineWidthLE")
             .typed("10005")
             .stores(RecordKeys::stringLineWidth, "0")
-            .refusedBy(lengthBox),
+            .refusedBy(BoxTexts::anyLength()),
         onText("m_pHeightLE")
             .reachedBy(matrixCode)
             .typed("50005")
             .stores(RecordKeys::barcodeHeight, "0")
-            .refusedBy(lengthBox),
+            .refusedBy(BoxTexts::anyLength()),
         onText("m_pCannedHoleSizeLE")
             .reachedBy(cannedText)
             .typed("50005")
             .stores(RecordKeys::cannedHoleSize, "0")
-            .refusedBy(lengthBox),
+            .refusedBy(BoxTexts::anyLength()),
     };
 }
 
@@ -250,7 +252,6 @@ QString Entry::words() const
 
 void Entry::reachField(const DialogFixture& fixture) const
 {
-    fixture.click(m_type);
     fixture.perform(m_reach);
 }
 

@@ -8,7 +8,10 @@
 class Entry {
 public:
     /// `typeButton` is the one of the field's page.
-    Entry(const QString& field, const QString& typeButton) : m_field(field), m_type(typeButton) {}
+    Entry(const QString& field, const QString& typeButton)
+        : m_field(field), m_type(typeButton), m_reach({Click(typeButton)})
+    {
+    }
 
     /// What shows the field on its page.
     Entry& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
@@ -19,15 +22,15 @@ public:
     {
         return m_recordKey = key, m_stored = value, *this;
     }
-    /// How the box that refuses it starts.
-    Entry& refusedBy(const QString& box) { return m_box = box, *this; }
+    Entry& refusedBy(const BoxText& box) { return m_boxes.append(box), *this; }
 
     QString field() const { return m_field; }
     QString type() const { return m_type; }
     QString recordKey() const { return m_recordKey; }
     QString stored() const { return m_stored; }
-    QString box() const { return m_box; }
-    bool isRefused() const { return !m_box.isEmpty(); }
+    /// The one that refuses it, if it is refused.
+    BoxTextList boxes() const { return m_boxes; }
+    bool isRefused() const { return !m_boxes.isEmpty(); }
     bool isTyped() const { return !m_typed.isEmpty(); }
     /// Field, what is entered, and page.
     QString words() const;
@@ -45,7 +48,7 @@ private:
     Qt::Key m_key = Qt::Key_unknown;
     QString m_recordKey;
     QString m_stored;
-    QString m_box;
+    BoxTextList m_boxes;
 };
 
 /// All editable controls; those that refuse something appear again with that.

@@ -25,7 +25,8 @@ QVector<Way> handWays()
                 f.open();
             })
             .closesTheDialog(),
-        Way("host's box", [](DialogFixture& f) { f.openHostBox(); }).opensBox("Host|Elsewhere"),
+        Way("host's box", [](DialogFixture& f) { f.openHostBox(); })
+            .opensBox({"Host", "Elsewhere"}),
     };
 }
 
@@ -134,7 +135,7 @@ QVector<Way> messageWays()
         Way("SymbolsPicked", [](DialogFixture& f) { f.pick("r7"); }).putsASymbol(),
         Way("SymbolsPicked, refused", [](DialogFixture& f) { f.pick("s5"); })
             .onlyOn("m_pArcTB")
-            .opensBox("Dialog Box|Illegal symbol name: s5"),
+            .opensBox(BoxTexts::pickedSymbol("s5")),
         Way("UserSymbolsChanged",
             [](DialogFixture& f) { f.receive(Accepted::UserSymbolsChanged); }),
         Way("AddFeature", [](DialogFixture& f) { f.receive(Accepted::AddFeature); }),

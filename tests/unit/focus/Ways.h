@@ -17,13 +17,14 @@ public:
     Way& onlyOn(const QString& typeButton) { return m_type = typeButton, *this; }
     /// Chooses the value of this key itself.
     Way& sets(const QString& key) { return m_key = key, *this; }
-    Way& opensBox(const QString& box) { return m_box = box, *this; }
+    Way& opensBox(const BoxText& box) { return m_boxes.append(box), *this; }
     Way& closesTheDialog() { return m_closes = true, *this; }
     Way& putsASymbol() { return m_putsSymbol = true, *this; }
 
     QString name() const { return m_name; }
     QString key() const { return m_key; }
-    QString box() const { return m_box; }
+    /// None or one.
+    BoxTextList boxes() const { return m_boxes; }
     bool isAlwaysPossible() const { return m_type.isEmpty(); }
     bool isPossibleOn(const QString& typeButton) const
     {
@@ -38,7 +39,7 @@ private:
     Act m_act;
     QString m_type;
     QString m_key;
-    QString m_box;
+    BoxTextList m_boxes;
     bool m_closes = false;
     bool m_putsSymbol = false;
 };

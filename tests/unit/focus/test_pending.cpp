@@ -21,8 +21,8 @@ using Opened = DialogFixture::Opened;
 
 namespace {
 
-const QString sizeBox = "Information|The value must lie between 0 and 50000.";
-const QString pickBox = "Dialog Box|Illegal symbol name: ";
+/// What refuses a symbol of that size.
+const BoxText sizeBox = BoxTexts::number(0, 50000);
 
 /// What taking an entry of that field sends.
 QVector<int> codesOf(const Entry& entry)
@@ -90,10 +90,7 @@ private Q_SLOTS:
         fixture.recorder.clear();
         fixture.receive(Accepted::AddFeature);
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AddFeatureStarted} + codesOf(entry));
-        QStringList boxes = fixture.boxes.takeTexts();
-        QCOMPARE(boxes.value(0), sizeBox);
-        QCOMPARE(boxes.size(), entry.isRefused() ? 2 : 1);
-        QVERIFY(!entry.isRefused() || boxes[1].startsWith(entry.box()));
+        Expect::sameBoxes(fixture.boxes.takeTexts(), BoxTextList{sizeBox} + entry.boxes());
         QCOMPARE(fixture.value(entry.recordKey()).toString(), entry.stored());
         QCOMPARE(fixture.text("m_pSymbolTextLE"), QString());
         QCOMPARE(fixture.agreement->faultOf(fixture.record()), QString());
@@ -108,24 +105,22 @@ private Q_SLOTS:
     void picks_data()
     {
         QTest::addColumn<QStringList>("picked");
-        QTest::addColumn<QStringList>("boxes");
+        QTest::addColumn<QStringList>("refused");
         QTest::addColumn<QStringList>("sent");
-        QTest::newRow("refused") << QStringList{"s5"} << QStringList{pickBox + "s5"}
-                                 << QStringList{"r30"};
+        QTest::newRow("refused") << QStringList{"s5"} << QStringList{"s5"} << QStringList{"r30"};
         QTest::newRow("refused twice")
-            << QStringList{"s5", "s6"} << QStringList{pickBox + "s5", pickBox + "s6"}
-            << QStringList{"r30"};
+            << QStringList{"s5", "s6"} << QStringList{"s5", "s6"} << QStringList{"r30"};
         QTest::newRow("refused, accepted")
-            << QStringList{"s5", "r7"} << QStringList{pickBox + "s5"} << QStringList{"r30", "r7"};
+            << QStringList{"s5", "r7"} << QStringList{"s5"} << QStringList{"r30", "r7"};
         QTest::newRow("accepted, refused")
-            << QStringList{"r7", "s5"} << QStringList{pickBox + "s5"} << QStringList{"r7", "r7"};
+            << QStringList{"r7", "s5"} << QStringList{"s5"} << QStringList{"r7", "r7"};
         QTest::newRow("accepted") << QStringList{"r7"} << QStringList() << QStringList{"r7"};
     }
 
     void picks()
     {
         QFETCH(QStringList, picked);
-        QFETCH(QStringList, boxes);
+        QFETCH(QStringList, refused);
         QFETCH(QStringList, sent);
         DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
         fixture.click("m_pArcTB");
@@ -136,6 +131,10 @@ private Q_SLOTS:
             symbols[int(symbols.size())] = name.toStdString();
         }
         fixture.receive(Accepted::SymbolsPicked, {}, ExtraWord::pointingAt(symbols));
+        BoxTextList boxes;
+        for (const QString& name : refused) {
+            boxes.append(BoxTexts::pickedSymbol(name));
+        }
         QCOMPARE(fixture.boxes.takeTexts(), boxes);
         QStringList names;
         for (const Recorder::Entry& entry : fixture.recorder.messages()) {
@@ -155,8 +154,7 @@ private Q_SLOTS:
         fixture.type("m_pSymbolTextLE", "s20");
         fixture.recorder.clear();
         fixture.dialog->on_m_pDrilDxLE_editingFinished();
-        QCOMPARE(fixture.boxes.takeTexts(),
-                 QStringList{"Information|The current value out of range:-100000 to 100000"});
+        QCOMPARE(fixture.boxes.takeTexts(), BoxTextList{BoxTexts::coordinate(100000)});
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "s20")});
         Expect::holds(fixture, {Expect::record(RecordKeys::padDx, "0")});
@@ -177,7 +175,7 @@ private Q_SLOTS:
         });
         fixture.dialog->getChangeCurrentTool();
         fixture.boxes.setOnBox({});
-        QCOMPARE(fixture.boxes.takeTexts(), QStringList{sizeBox});
+        QCOMPARE(fixture.boxes.takeTexts(), BoxTextList{sizeBox});
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::DirectionRecord});
         Expect::holds(fixture, {Expect::record(RecordKeys::angle, "45")});
     }
@@ -211,7 +209,7 @@ private Q_SLOTS:
         });
         fixture.press(Qt::Key_Return);
         fixture.recorder.setOnMessage({});
-        QCOMPARE(fixture.boxes.takeTexts(), QStringList{"Host|Elsewhere"});
+        QCOMPARE(fixture.boxes.takeTexts(), (BoxTextList{{"Host", "Elsewhere"}}));
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
     }
 
@@ -243,8 +241,8 @@ private Q_SLOTS:
         };
         QTest::keyClicks(&fixture.find("m_pSymbolTextLE"), "r1");
         getUnit = nullptr;
-        QCOMPARE(fixture.boxes.takeTexts(),
-                 (QStringList{"Information|no unit", "Information|no unit"}));
+        const BoxText noUnit{"Information", "no unit"};
+        QCOMPARE(fixture.boxes.takeTexts(), (BoxTextList{noUnit, noUnit}));
         QCOMPARE(fixture.text("m_pSymbolTextLE"), QString("r1"));
         QVERIFY(fixture.recorder.messages().isEmpty());
         Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});

@@ -63,7 +63,7 @@ private Q_SLOTS:
             };
             fixture.receive(MessageCodes::Accepted::UnitChanged);
         }
-        QCOMPARE(fixture.boxes.takeTexts(), QStringList{title + "|failed"});
+        QCOMPARE(fixture.boxes.takeTexts(), (BoxTextList{{title, "failed"}}));
     }
 };
 

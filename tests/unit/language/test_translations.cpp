@@ -141,10 +141,14 @@ private Q_SLOTS:
         fixture.chooseType("m_pPadTB");
         fixture.enter("m_pSymbolTextLE", "foo");
         fixture.enter("m_pDrilDxLE", "100001");
-        const QStringList boxes = fixture.boxes.takeTexts();
+        const BoxTextList boxes = fixture.boxes.takeTexts();
         QCOMPARE(boxes.size(), 2);
-        QVERIFY(untranslated({{"symbol", boxes[0]}, {"step", boxes[1]}}).isEmpty());
-        QVERIFY(boxes[1].endsWith("-100000 to 100000"));
+        QVERIFY(untranslated({{"symbol title", boxes[0].title},
+                              {"symbol", boxes[0].text},
+                              {"step title", boxes[1].title},
+                              {"step", boxes[1].text}})
+                    .isEmpty());
+        QVERIFY(boxes[1].text.endsWith("-100000 to 100000"));
         QCoreApplication::removeTranslator(&m_chinese);
     }
 

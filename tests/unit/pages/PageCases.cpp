@@ -92,7 +92,7 @@ Case LengthField::refused(const QString& text, Unit unit) const
     Case row(QStringLiteral("%1 \"%2\"").arg(m_field, text));
     row.given(m_reach).when(Enter(m_field, text));
     row.then(Expect::record(m_key, "0"), Expect::text(m_field, "0"),
-             Expect::lengthBox(unit == Unit::Metric ? m_bound / 10 * 254 : m_bound));
+             Expect::box(BoxTexts::length(unit == Unit::Metric ? m_bound / 10 * 254 : m_bound)));
     if (m_sends == Sends::Always) {
         row.then(Expect::sent(Sent::Record));
     }
@@ -252,7 +252,7 @@ void switchUnitTenTimes(const Steps& before, const QList<FieldText>& fields,
     }
     QCOMPARE(fixture.recorder.codes(), QVector<int>());
     Expect::sameRecord(fixture.record(), record);
-    QCOMPARE(fixture.boxes.takeTexts(), QStringList());
+    QCOMPARE(fixture.boxes.takeTexts(), BoxTextList());
 }
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "PageCases.h"
+#include "PageSteps.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -11,13 +12,9 @@
 
 namespace Sent = MessageCodes::Sent;
 
-namespace {
+using namespace PageSteps;
 
-const Steps polyline = {Choose("m_pLineCMB", "Polyline")};
-const Steps rectangle = {Choose("m_pLineCMB", "Rectangle")};
-const Steps roundCorner = rectangle + Choose("m_pCornerTypeCMB", "Round");
-const Steps slot = {Choose("m_pLineCMB", "Slot")};
-const Steps fixedAngle = {Click("m_pFixedAngleRB")};
+namespace {
 
 const Expect::Expectations commonRows = {
     Expect::shown("m_pAttributesCB"),  Expect::shown("m_pValuesPB"),

@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "PageCases.h"
+#include "PageSteps.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -12,9 +13,9 @@
 
 namespace Sent = MessageCodes::Sent;
 
-namespace {
+using namespace PageSteps;
 
-const Steps pad = {Click("m_pPadTB")};
+namespace {
 
 /// A count or factor is checked at each change of its text.
 Cases numbers(const QString& field, const QString& key, const QStringList& legal,
@@ -59,7 +60,7 @@ Cases pitches(const QString& field, const QString& key)
         const bool isMetric = unit == Unit::Metric;
         return entered(unit, text)
             .then(Expect::record(key, isMetric ? "127" : "3225.8"), Expect::text(field, "0"),
-                  Expect::coordinateBox(isMetric ? 2540000 : 100000));
+                  Expect::box(BoxTexts::coordinate(isMetric ? 2540000 : 100000)));
     };
     return {
         accepted(Unit::Mil, "10", "254"),

@@ -3,6 +3,7 @@
 #include "ByHand.h"
 #include "Main.h"
 #include "PageCases.h"
+#include "PageSteps.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -10,11 +11,9 @@
 
 namespace Sent = MessageCodes::Sent;
 
-namespace {
+using namespace PageSteps;
 
-const Steps surface = {Click("m_pSurfaceTB")};
-const Steps arc = {Click("m_pArcTB")};
-const Steps circle = arc + Choose("m_pArcAndCircleCMB", "Circle");
+namespace {
 
 struct Item {
     const char* text;

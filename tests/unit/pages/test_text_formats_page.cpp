@@ -2,7 +2,7 @@
 
 #include "Main.h"
 #include "PageCases.h"
-#include "TextSteps.h"
+#include "PageSteps.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -12,9 +12,9 @@
 
 namespace Sent = MessageCodes::Sent;
 
-namespace {
+using namespace PageSteps;
 
-const Steps matrixCode = barcode + Choose("m_pUPCCMB", "ECC-200");
+namespace {
 
 Cases barcodeTypes()
 {

@@ -297,14 +297,14 @@ private Q_SLOTS:
 
         const bool isReported = row.exceptions == Exceptions::AreReported && kind != Thrown::Other;
         QVERIFY(reached == (isReported ? Thrown::Nothing : kind));
-        QCOMPARE(fixture.boxes.takeTexts(),
-                 isReported ? QStringList{"Information|the host gave up"} : QStringList());
+        const BoxTextList boxes{{"Information", "the host gave up"}};
+        QCOMPARE(fixture.boxes.takeTexts(), isReported ? boxes : BoxTextList());
         QCOMPARE(log.errors().size(), isReported && kind == Thrown::Text ? 2 : 0);
         QCOMPARE(Invariants::faultOf(fixture.record()), QString());
         QCOMPARE(fixture.checked(), QList<Tool>{Tool::AddFeature});
         // From here on it is a dialog like any other.
         QCOMPARE(recordAfterUse(fixture), undisturbed);
-        QCOMPARE(fixture.boxes.takeTexts(), QStringList());
+        QCOMPARE(fixture.boxes.takeTexts(), BoxTextList());
     }
 
     void nonsense_data()
@@ -337,7 +337,7 @@ private Q_SLOTS:
             fixture.setUnit(unit);
             fixture.symbol().clear();
             QCOMPARE(recordAfterUse(fixture), undisturbed);
-            QCOMPARE(fixture.boxes.takeTexts(), QStringList());
+            QCOMPARE(fixture.boxes.takeTexts(), BoxTextList());
         }
     }
 };

@@ -80,7 +80,7 @@ private Q_SLOTS:
         }
         QVERIFY(count > 1000000);
         QCOMPARE(fixture.recorder.codes(), QVector<int>());
-        QCOMPARE(fixture.boxes.takeTexts(), QStringList());
+        QCOMPARE(fixture.boxes.takeTexts(), BoxTextList());
         QCOMPARE(stateOf(fixture), state);
         QCOMPARE(fixture.record(), record);
     }
