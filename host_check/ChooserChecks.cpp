@@ -57,17 +57,19 @@ void checkOwnSymbols(Report& report, const Situation& situation, const QStringLi
 {
     int count = 0;
     for (const QString& name : names) {
-        const QString what = QStringLiteral("identify_symbol(\"%1\") of the job").arg(name);
-        report.step(what);
-        const std::string text = stored(name, situation);
-        const Identified symbol = identify(text, false);
-        if (!symbol.isKnown || symbol.type != symbol_type::user) {
-            continue;
-        }
-        ++count;
-        report.expect(what + QStringLiteral(": first size"), 0, symbol.a);
-        report.expect(what + QStringLiteral(": second size"), 0, symbol.b);
-        report.expect(what + QStringLiteral(": for an arc"), false, identify(text, true).isKnown);
+        const QString what = QStringLiteral("identify_symbol(\"%1\") of the chooser").arg(name);
+        report.run(what, [&] {
+            const std::string text = stored(name, situation);
+            const Identified symbol = identify(text, false);
+            if (!symbol.isKnown || symbol.type != symbol_type::user) {
+                return;
+            }
+            ++count;
+            report.expect(what + QStringLiteral(": first size"), 0, symbol.a);
+            report.expect(what + QStringLiteral(": second size"), 0, symbol.b);
+            report.expect(what + QStringLiteral(": for an arc"), false,
+                          identify(text, true).isKnown);
+        });
     }
     if (count == 0) {
         const QString what = QStringLiteral("identify_symbol() of a symbol of the job's own");

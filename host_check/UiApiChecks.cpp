@@ -224,6 +224,10 @@ void checkBounds(Report& report, const Situation& situation)
                                       situation.context);
         });
     }
+    // More than a double can hold
+    const QString huge = 'r' + QString(400, '9');
+    expectJudged(report, QStringLiteral("isSymbolValueLegal() of r and 400 nines"), false,
+                 [&] { return isSymbolValueLegal(huge, 0, largestSymbol, situation.context); });
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ int main(int argc, char** argv)
     int b = 0;
     const bool isKnown = ZENTRA::API::identify_symbol("r10", type, a, b, true);
     const bool isMetric = ZENTRA::UIAPI::getUnit(nullptr) != 0;
-    Widget_listpopup popup(17, "job", nullptr);
+    QWidget parent;
+    const Widget_listpopup popup(17, "job", &parent);
     return isKnown && isMetric && popup.isWindow() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
