@@ -40,7 +40,7 @@ CANVAS_HOST_EXPORT bool isSymbolValueLegal(const QString& name, double minimum, 
 /// Converts the sizes of a standard symbol name. `direction` 0: the metric name as typed
 /// (micrometre) to the stored one (mil); 1: stored to metric display. Any other name, a rotation
 /// suffix, letters and separators are left alone. Converting there and back gives the same name,
-/// except for trailing zeros ("r10.50" comes back as "r10.5") and sizes of more than twelve digits.
+/// except for trailing zeros ("r10.50" comes back as "r10.5") and sizes of more than six digits.
 CANVAS_HOST_EXPORT QString setSymbolUIData(const QString& name, int direction);
 
 /// Fills `out` with how values are shown to the user.
