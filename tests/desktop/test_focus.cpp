@@ -152,9 +152,7 @@ class TestFocus : public QObject {
 
     void choose(const QString& combo, const QString& item) const
     {
-        auto& box = findNamed<QComboBox>(*m_dialog, combo);
-        QVERIFY(box.findText(item) >= 0);
-        box.setCurrentIndex(box.findText(item));
+        chooseItem(findNamed<QComboBox>(*m_dialog, combo), item);
     }
 
     QVector<Way> ways()
