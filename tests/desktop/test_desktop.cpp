@@ -5,6 +5,7 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "OpenWindow.h"
+#include "ToolModes.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
@@ -191,11 +192,11 @@ private Q_SLOTS:
             Desktop::clickAt(menu.mapToGlobal(entry.center()));
         });
         QCOMPARE(sent(), QVector<int>{Sent::DeleteFeature});
-        QCOMPARE(m_log->messages().back().extra, qint64(1));
+        QCOMPARE(m_log->messages().back().extra, DeleteMode::toIntersection);
         QVERIFY(tool("m_pDeleteFeatTB").isChecked());
         Desktop::click(tool("m_pAreaZoomTB"));
         Desktop::click(tool("m_pDeleteFeatTB"));
-        QCOMPARE(m_log->messages().back().extra, qint64(1));
+        QCOMPARE(m_log->messages().back().extra, DeleteMode::toIntersection);
     }
 
     void menuByKeyboard()
@@ -312,7 +313,7 @@ private Q_SLOTS:
         Desktop::click(findNamed(values, "m_pApplyPB"));
         QTRY_COMPARE(m_log->messages().back().code, Sent::AttributeMap);
         QVERIFY(!m_log->messages().back().pointedAt.isEmpty());
-        QVERIFY(m_log->messages().front().sender == "Canvas_RuleMenu.dll");
+        QVERIFY(m_log->messages().front().sender == ModuleNames::ruleMenu);
     }
 
     void dimensionsFromTheMenu()

@@ -3,6 +3,7 @@
 
 #include "Agreement.h"
 #include "Desktop.h"
+#include "Entries.h"
 #include "FindChild.h"
 #include "Main.h"
 #include "OpenWindow.h"
@@ -18,6 +19,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -33,7 +35,7 @@ public:
         connect(&m_watch, &QTimer::timeout, this, [this] { look(); });
         m_watch.start(10);
     }
-    QStringList texts;
+    BoxTextList boxes;
 
 private:
     void look()
@@ -43,7 +45,7 @@ private:
             return;
         }
         m_seen = box;
-        texts.append(box->windowTitle() + '|' + box->text());
+        boxes.append({box->windowTitle(), box->text()});
         QTimer::singleShot(500, box, [box] { box->button(QMessageBox::Ok)->click(); });
     }
 
@@ -51,73 +53,39 @@ private:
     QPointer<QMessageBox> m_seen;
 };
 
-/// What is typed in a field of the dialog, and what results.
-class Entry {
-public:
-    /// `type` is the button of the field's page.
-    Entry(const QString& type, const QString& field) : m_type(type), m_field(field) {}
-    /// What shows the field on its page.
-    Entry& choosing(const QString& combo, const QString& item)
-    {
-        return m_choices.append({combo, item}), *this;
-    }
-    Entry& typed(const QString& text) { return m_typed = text, *this; }
-    Entry& stores(const QString& key, const QString& value)
-    {
-        return m_key = key, m_stored = value, *this;
-    }
-    /// How the box that refuses it starts.
-    Entry& refusedBy(const QString& box) { return m_box = box, *this; }
-
-    QString words() const { return m_field + ' ' + m_typed; }
-    QString type() const { return m_type; }
-    QString field() const { return m_field; }
-    QList<QPair<QString, QString>> choices() const { return m_choices; }
-    QString typed() const { return m_typed; }
-    QString key() const { return m_key; }
-    QString stored() const { return m_stored; }
-    QString box() const { return m_box; }
-
-private:
-    QString m_type;
-    QString m_field;
-    QList<QPair<QString, QString>> m_choices;
-    QString m_typed;
-    QString m_key;
-    QString m_stored;
-    QString m_box;
-};
-
-Entry cornerRadius()
+/// Half a second for each box: a few entries stand for all.
+QVector<Entry> chosenEntries()
 {
-    return Entry("m_pLineTB", "m_pCornerRadiusLE")
-        .choosing("m_pLineCMB", "Rectangle")
-        .choosing("m_pCornerTypeCMB", "Round");
+    const struct {
+        const char* type;
+        const char* field;
+        const char* typed;
+    } chosen[] = {
+        {"m_pPadTB", "m_pSymbolTextLE", "s20"},   {"m_pPadTB", "m_pAngleValueSB", "45"},
+        {"m_pPadTB", "m_pDrilDxLE", "10"},        {"m_pPadTB", "m_pDrilDxLE", "100005"},
+        {"m_pLineTB", "m_pCornerRadiusLE", "10"}, {"m_pLineTB", "m_pCornerRadiusLE", "50005"},
+        {"m_pTextTB", "m_pXSizeLE", "100"},       {"m_pTextTB", "m_pXSizeLE", "10005"},
+        {"m_pTextTB", "m_pTextLE", "abc"},
+    };
+    QVector<Entry> found;
+    for (const auto& row : chosen) {
+        const auto entry =
+            std::find_if(allEntries().cbegin(), allEntries().cend(), [&](const Entry& known) {
+                return known.type() == row.type && known.field() == row.field &&
+                       known.typed() == row.typed;
+            });
+        if (entry == allEntries().cend()) {
+            qFatal("there is no entry %s %s", row.field, row.typed);
+        }
+        found.append(*entry);
+    }
+    return found;
 }
 
 const QVector<Entry>& entries()
 {
-    static const QString lengthBox =
-        "Information|The current text box can only enter a value from 0 to";
-    static const QString pitchBox = "Information|The current value out of range:";
-    static const QVector<Entry> all = {
-        Entry("m_pPadTB", "m_pSymbolTextLE").typed("s20").stores(RecordKeys::symbolText, "s20"),
-        Entry("m_pPadTB", "m_pAngleValueSB").typed("45").stores(RecordKeys::mirrorRotate, "45"),
-        Entry("m_pPadTB", "m_pDrilDxLE").typed("10").stores(RecordKeys::padDx, "254"),
-        Entry("m_pPadTB", "m_pDrilDxLE")
-            .typed("100001")
-            .stores(RecordKeys::padDx, "0")
-            .refusedBy(pitchBox),
-        cornerRadius().typed("10").stores(RecordKeys::cornerRadius, "254"),
-        cornerRadius().typed("50001").stores(RecordKeys::cornerRadius, "0").refusedBy(lengthBox),
-        Entry("m_pTextTB", "m_pXSizeLE").typed("100").stores(RecordKeys::stringXSize, "2540"),
-        Entry("m_pTextTB", "m_pXSizeLE")
-            .typed("10001")
-            .stores(RecordKeys::stringXSize, "0")
-            .refusedBy(lengthBox),
-        Entry("m_pTextTB", "m_pTextLE").typed("abc").stores(RecordKeys::textContains, "abc"),
-    };
-    return all;
+    static const QVector<Entry> chosen = chosenEntries();
+    return chosen;
 }
 
 /// How the field is left.
@@ -126,7 +94,7 @@ struct Way {
     std::function<void()> leave;
     QString onlyOn = {};           ///< the button of the only page that has what is clicked
     bool closesTheDialog = false;  ///< what is not stored then is dropped
-    QString box = {};
+    BoxTextList boxes = {};
 };
 
 }  // namespace
@@ -184,9 +152,7 @@ class TestFocus : public QObject {
 
     void choose(const QString& combo, const QString& item) const
     {
-        auto& box = findNamed<QComboBox>(*m_dialog, combo);
-        QVERIFY(box.findText(item) >= 0);
-        box.setCurrentIndex(box.findText(item));
+        chooseItem(findNamed<QComboBox>(*m_dialog, combo), item);
     }
 
     QVector<Way> ways()
@@ -206,7 +172,7 @@ class TestFocus : public QObject {
              [this] { QMessageBox::information(m_window.get(), "Host", "Elsewhere"); },
              {},
              false,
-             "Host|Elsewhere"},
+             {{"Host", "Elsewhere"}}},
             {"the symbol chooser", [this] { clickIfShown("m_pSymbolPB"); }},
             {"m_pLineCMB", [this] { choose("m_pLineCMB", "Single Line"); }, "m_pLineTB"},
             {"m_pFontPB", [this] { clickIfShown("m_pFontPB"); }, "m_pTextTB"},
@@ -235,11 +201,20 @@ class TestFocus : public QObject {
         }
     }
 
+    void perform(const Step& step) const
+    {
+        if (step.act == Step::Act::Choose) {
+            choose(step.control, step.text);
+        } else {
+            QCOMPARE(step.act, Step::Act::Click);
+            Desktop::click(control(step.control));
+        }
+    }
+
     void enter(const Entry& entry) const
     {
-        Desktop::click(control(entry.type()));
-        for (const auto& choice : entry.choices()) {
-            choose(choice.first, choice.second);
+        for (const Step& step : entry.reach()) {
+            perform(step);
         }
         Desktop::click(control(entry.field()));
         Desktop::key("ctrl+a");
@@ -263,13 +238,15 @@ class TestFocus : public QObject {
         clickAnotherField();
         QTRY_VERIFY(!QApplication::activeModalWidget());
         QCOMPARE(m_agreement->faultOf(record()), QString());
-        const bool isDropped = entry.key() == RecordKeys::symbolText && way.closesTheDialog;
-        QCOMPARE(record().value(entry.key()).toString(), isDropped ? QString() : entry.stored());
-        QStringList expected{entry.box(), way.box};
-        expected.removeAll({});
-        QCOMPARE(hands.texts.size(), expected.size());
-        for (const QString& box : expected) {
-            QCOMPARE(hands.texts.filter(box).size(), 1);
+        const bool isDropped = entry.recordKey() == RecordKeys::symbolText && way.closesTheDialog;
+        QCOMPARE(record().value(entry.recordKey()).toString(),
+                 isDropped ? QString() : entry.stored());
+        const BoxTextList expected = entry.boxes() + way.boxes;
+        QCOMPARE(hands.boxes.size(), expected.size());
+        for (const BoxText& box : expected) {
+            QCOMPARE(std::count_if(hands.boxes.cbegin(), hands.boxes.cend(),
+                                   [&](const BoxText& seen) { return box.matches(seen); }),
+                     1);
         }
     }
 

@@ -4,6 +4,7 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "OpenWindow.h"
+#include "plugin/ModuleNames.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
@@ -49,7 +50,7 @@ class TestRecording : public QObject {
     {
         QStringList lines;
         for (const MessageRecord& message : m_log->messages()) {
-            if (message.sender.startsWith("Canvas_Tool_Strip")) {
+            if (message.sender.startsWith(ModuleNames::bareToolStrip)) {
                 QStringList entries;
                 for (auto entry = message.payload.begin(); entry != message.payload.end();
                      ++entry) {
@@ -93,7 +94,7 @@ class TestRecording : public QObject {
         });
     }
 
-    void choose(const char* name, int row)
+    void choose(const char* name, const QString& item)
     {
         auto& combo = findNamed<QComboBox>(*m_window, name);
         Desktop::click(combo);
@@ -101,8 +102,8 @@ class TestRecording : public QObject {
         // Qt takes a click so soon after the first as part of a double click.
         QTest::qWait(QApplication::doubleClickInterval() + 50);
         const QWidget* const view = combo.view()->viewport();
-        Desktop::clickAt(
-            view->mapToGlobal(combo.view()->visualRect(combo.model()->index(row, 0)).center()));
+        Desktop::clickAt(view->mapToGlobal(
+            combo.view()->visualRect(combo.model()->index(indexOfItem(combo, item), 0)).center()));
         QTRY_VERIFY(!combo.view()->isVisible());
     }
 
@@ -138,7 +139,7 @@ class TestRecording : public QObject {
         Desktop::key("ctrl+a");
         Desktop::type("3");
         Desktop::key("Tab");
-        choose("m_pMirrorCMB", 0);
+        choose("m_pMirrorCMB", "Mir");
         Desktop::click(the("m_pAttributesCB"), 1, {8, 10});
         QTRY_VERIFY(findNamed<QCheckBox>(*m_window, "m_pAttributesCB").isChecked());
     }

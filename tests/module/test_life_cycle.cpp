@@ -2,6 +2,7 @@
 // windows never touch each other.
 
 #include "BoxCatcher.h"
+#include "FindChild.h"
 #include "Main.h"
 #include "Recorder.h"
 #include "plugin/MessageCodes.h"
@@ -61,7 +62,7 @@ void use(const Host& host)
     host.click("m_pFeatHighLightTB");
     host.click("m_pAddFeatureTB");
     host.click("m_pPadTB");
-    host.dialog()->findChild<QComboBox*>("m_pPolarityCMB")->setCurrentIndex(1);
+    chooseItem(findNamed<QComboBox>(*host.dialog(), "m_pPolarityCMB"), "Negative");
     QTest::keyClicks(host.dialog()->findChild<QLineEdit*>("m_pSymbolTextLE"), "r10");
     QTest::keyClick(host.dialog()->findChild<QLineEdit*>("m_pSymbolTextLE"), Qt::Key_Return);
     QTest::keyClicks(host.dialog()->findChild<QLineEdit*>("m_pDrilNxLE"), "2");

@@ -160,7 +160,8 @@ QString RandomUser::faultOfMessages()
     return {};
 }
 
-/// The record as the next message would carry it: code 52 is sent whatever the symbol field shows.
+/// The record as the next message would carry it: a DirectionRecord is sent whatever the symbol
+/// field shows.
 QVariantMap RandomUser::record()
 {
     const std::optional<PluginMetaData> answer = std::exchange(m_answer, {});

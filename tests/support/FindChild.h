@@ -19,6 +19,7 @@ T& findNamed(const QWidget& parent, const QString& name)
            T::staticMetaObject.className(), qPrintable(name), qPrintable(names.join(' ')));
 }
 
+/// All items of the combo box.
 inline QStringList itemTexts(const QComboBox& combo)
 {
     QStringList texts;
@@ -26,4 +27,21 @@ inline QStringList itemTexts(const QComboBox& combo)
         texts.append(combo.itemText(i));
     }
     return texts;
+}
+
+/// Its index; without such an item the test ends with a list of the items.
+inline int indexOfItem(const QComboBox& combo, const QString& item)
+{
+    const int index = combo.findText(item);
+    if (index < 0) {
+        qFatal("%s has no \"%s\", only: %s", qPrintable(combo.objectName()), qPrintable(item),
+               qPrintable(itemTexts(combo).join(", ")));
+    }
+    return index;
+}
+
+/// Makes the item with that text the current one.
+inline void chooseItem(QComboBox& combo, const QString& item)
+{
+    combo.setCurrentIndex(indexOfItem(combo, item));
 }

@@ -16,7 +16,7 @@ public:
         void* sender = nullptr;
         PluginMetaData message{QString(), QString()};
         bool delivered = false;
-        std::map<std::string, std::string> attributes;  ///< what the extra word of a 51 points at
+        std::map<std::string, std::string> attributes;  ///< what an AttributeMap points at
     };
 
     Recorder();

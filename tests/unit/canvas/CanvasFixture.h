@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FindChild.h"
+#include "plugin/ModuleNames.h"
 #include "viewer/BoardView.h"
 #include "viewer/ViewerPane.h"
 
@@ -39,7 +40,7 @@ public:
 
     void receive(int code, qint64 extra = 0, const QMap<QString, QVariant>& payload = {}) const
     {
-        PluginMetaData message("Canvas_Tool_Strip.dll", "Canvas_Viewer.dll");
+        PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
         message.code = code;
         message.extra = extra;
         message.payload = payload;

@@ -3,6 +3,7 @@
 
 #include "CanvasFixture.h"
 #include "Main.h"
+#include "ToolModes.h"
 #include "plugin/MessageCodes.h"
 
 #include <QRegularExpression>
@@ -67,7 +68,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(Sent::DeleteFeature, 0);
+        fixture.receive(Sent::DeleteFeature, DeleteMode::feature);
         fixture.click(16000, 10000);
         QCOMPARE(fixture.features().size(), size_t(3));
         QVERIFY(fixture.features()[2] == before.board.features[3]);
@@ -84,7 +85,7 @@ private Q_SLOTS:
         fixture.click(16000, 10000);
         fixture.click(8000, 7500, Qt::ControlModifier);
         QCOMPARE(fixture.state().selected, (Pcb::Indexes{1, 2}));
-        fixture.receive(Sent::DeleteFeature, 0);
+        fixture.receive(Sent::DeleteFeature, DeleteMode::feature);
         fixture.click(16000, 10000);
         QCOMPARE(fixture.features().size(), size_t(2));
         QCOMPARE(fixture.state().selected, Pcb::Indexes());
@@ -94,7 +95,7 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
-        fixture.receive(Sent::DeleteFeature, 1);
+        fixture.receive(Sent::DeleteFeature, DeleteMode::toIntersection);
         fixture.click(11000, 5000);
         QCOMPARE(fixture.features().size(), size_t(4));
         QVERIFY(areNear(pointsOf(fixture, 0), {{2000, 5000}, {8000, 5000}}));
@@ -346,7 +347,7 @@ private Q_SLOTS:
         }
         QVERIFY(second);
         // The tool works in both.
-        fixture.receive(Sent::DeleteFeature, 0);
+        fixture.receive(Sent::DeleteFeature, DeleteMode::feature);
         const auto& view = findNamed<BoardView>(*second, "m_pSecondBoardView");
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewPoint(16000, 10000));
         QCOMPARE(fixture.features().size(), size_t(3));

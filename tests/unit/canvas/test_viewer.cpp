@@ -6,6 +6,7 @@
 #include "messages/MessageNames.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 #include "viewer/BoardView.h"
 #include "viewer/ToolSet.h"
@@ -34,7 +35,7 @@ class TestViewer : public QObject {
 
     void receive(int code, qint64 extra = 0, const QMap<QString, QVariant>& payload = {})
     {
-        PluginMetaData message("Canvas_Tool_Strip.dll", "Canvas_Viewer.dll");
+        PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
         message.code = code;
         message.extra = extra;
         message.payload = payload;
@@ -107,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(int(m_log->messages().size()), 1);
         const MessageRecord& answer = m_log->messages()[0];
         QCOMPARE(answer.code, Accepted::UnitChanged);
-        QCOMPARE(answer.sender, QString("Canvas_Viewer.dll"));
+        QCOMPARE(answer.sender, ModuleNames::viewer);
         QCOMPARE(answer.receiver, QString("Canvas_Tool_Strip.dll"));
     }
 

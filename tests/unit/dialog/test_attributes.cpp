@@ -44,7 +44,7 @@ private Q_SLOTS:
     void valuesAreShownAlone()
     {
         DialogFixture fixture;
-        fixture.find<QComboBox>("m_pLineCMB").setCurrentText("Slot");
+        fixture.choose("m_pLineCMB", "Slot");
         QVERIFY(!fixture.isShown("m_pAttributesCB"));
         QVERIFY(!fixture.isShown("m_pFillPB"));
         fixture.find<QCheckBox>("m_pAttributesCB").setChecked(true);
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY(sent.message.payload.isEmpty());
         QVERIFY(sent.message.extra != 0);
         QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
-        QCOMPARE(attributesAtSend, QVariant(QString("1")));
+        QCOMPARE(attributesAtSend, QVariant(HasAttributes::yes));
         fixture.click("m_pPadTB");
         fixture.dialog->get_attribute_list({{"a", "b"}});
         for (const Recorder::Entry& entry : fixture.recorder.messages()) {

@@ -1,7 +1,7 @@
 // Nothing typed is lost: every editable control, and every way to lose the focus, singly and in
 // pairs.
 
-#include "Entries.h"
+#include "DialogFixture.h"
 #include "Main.h"
 #include "Ways.h"
 #include "plugin/RecordKeys.h"
@@ -86,8 +86,8 @@ class TestLeaving : public QObject {
         DialogFixture& fixture = *m_fixture;
         fixture.renewDialog();
         const Entry& entered = allEntries()[entry];
-        entered.reachField(fixture);
-        entered.enter(fixture);
+        fixture.perform(entered.reach());
+        fixture.make(entered);
         QVector<Way> ways;
         for (const int number : numbers) {
             ways.append(allWays()[number]);

@@ -1,6 +1,6 @@
 // An entry that is pending when a box opens elsewhere is taken once the box is closed.
 
-#include "Entries.h"
+#include "DialogFixture.h"
 #include "Expect.h"
 #include "Main.h"
 #include "plugin/ExtraWord.h"
@@ -24,37 +24,13 @@ namespace {
 /// What refuses a symbol of that size.
 const BoxText sizeBox = BoxTexts::number(0, 50000);
 
-/// What taking an entry of that field sends.
-QVector<int> codesOf(const Entry& entry)
-{
-    const QString field = entry.field();
-    if (field.startsWith("m_pSlot") || field == "m_pLengthLE") {
-        return {};
-    }
-    // Counts and factors were sent while they were typed.
-    if (field.startsWith("m_pDril") && !field.contains("D", Qt::CaseSensitive)) {
-        return {};
-    }
-    if (entry.isRefused() && field != "m_pSymbolTextLE") {
-        return {};
-    }
-    return {field == "m_pAngleLE" ? Sent::DirectionRecord : Sent::Record};
-}
-
-bool isCheckedWhileTyping(const Entry& entry)
-{
-    const QString field = entry.field();
-    return field.startsWith("m_pDrilN") || field.endsWith("sclLE");
-}
-
 /// Entries on pages whose symbol is checked when the record is sent.
 QVector<int> entriesWithSymbol()
 {
     QVector<int> numbers;
     for (int i = 0; i < allEntries().size(); ++i) {
         const Entry& entry = allEntries()[i];
-        const QString field = entry.field();
-        if (entry.isTyped() && field != "m_pSymbolTextLE" && !isCheckedWhileTyping(entry) &&
+        if (entry.isTyped() && entry.field() != "m_pSymbolTextLE" && !entry.isCheckedWhileTyped() &&
             (entry.type() == "m_pLineTB" || entry.type() == "m_pPadTB")) {
             numbers.append(i);
         }
@@ -68,6 +44,35 @@ class TestPending : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void takenWhenLeft_data()
+    {
+        QTest::addColumn<int>("number");
+        for (int i = 0; i < allEntries().size(); ++i) {
+            if (allEntries()[i].isTyped()) {
+                QTest::addRow("%s", qPrintable(allEntries()[i].words())) << i;
+            }
+        }
+    }
+
+    /// With nothing in its way.
+    void takenWhenLeft()
+    {
+        QFETCH(int, number);
+        const Entry& entry = allEntries()[number];
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
+        fixture.perform(entry.reach());
+        fixture.make(entry);
+        if (entry.isCheckedWhileTyped()) {
+            Expect::sameBoxes(fixture.boxes.takeTexts(), entry.boxes());
+        }
+        fixture.recorder.clear();
+        fixture.leave();
+        QCOMPARE(fixture.recorder.codes(), entry.codes());
+        Expect::sameBoxes(fixture.boxes.takeTexts(),
+                          entry.isCheckedWhileTyped() ? BoxTextList() : entry.boxes());
+        Expect::holds(fixture, {Expect::record(entry.recordKey(), entry.stored())});
+    }
+
     void refusedSymbolAtTheSend_data()
     {
         QTest::addColumn<int>("number");
@@ -83,13 +88,13 @@ private Q_SLOTS:
         QFETCH(int, number);
         const Entry& entry = allEntries()[number];
         DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
-        entry.reachField(fixture);
+        fixture.perform(entry.reach());
         fixture.find<QLineEdit>("m_pSymbolTextLE").setText("r60000");
         fixture.boxes.take();
-        entry.enter(fixture);
+        fixture.make(entry);
         fixture.recorder.clear();
         fixture.receive(Accepted::AddFeature);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AddFeatureStarted} + codesOf(entry));
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AddFeatureStarted} + entry.codes());
         Expect::sameBoxes(fixture.boxes.takeTexts(), BoxTextList{sizeBox} + entry.boxes());
         QCOMPARE(fixture.value(entry.recordKey()).toString(), entry.stored());
         QCOMPARE(fixture.text("m_pSymbolTextLE"), QString());

@@ -221,7 +221,7 @@ void switchUnitTenTimes(const Steps& before, const QList<FieldText>& fields,
     DialogFixture fixture;
     fixture.perform(before);
     for (const FieldText& field : fields) {
-        SetText(field.field, field.text).act(fixture);
+        fixture.perform(SetText(field.field, field.text));
     }
     const QVariantMap record = fixture.record();
     fixture.recorder.clear();

@@ -261,7 +261,7 @@ private Q_SLOTS:
         fixture.setUnit(changedTo);
         QCOMPARE(fixture.find<QLineEdit>("m_pXSizeLE").validator(), validator);
         fixture.recorder.clear();
-        Type("m_pXSizeLE", typed).act(fixture);
+        fixture.perform(Type("m_pXSizeLE", typed));
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         Expect::holds(fixture, {Expect::record(RecordKeys::stringXSize, stored)});
         QCOMPARE(fixture.boxes.takeTexts(),

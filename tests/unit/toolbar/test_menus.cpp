@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "StripFixture.h"
+#include "ToolModes.h"
 #include "plugin/MessageCodes.h"
 
 #include <QAction>
@@ -12,13 +13,38 @@ namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-QString sheet(const char* image, const char* checkedImage, const char* tail = "")
-{
-    return QStringLiteral(
-               "QToolButton{background-image:url(:/Canvas_Tool_Strip/Resources/%1);}"
-               "QToolButton::checked{background-image:url(:/Canvas_Tool_Strip/Resources/%2);}%3")
-        .arg(image, checkedImage, tail);
-}
+/// A row of a menu, and what choosing it does.
+class MenuRow {
+public:
+    explicit MenuRow(Tool tool = Tool::AreaZoom, const QString& text = {})
+        : m_tool(tool), m_text(text)
+    {
+    }
+    MenuRow& sends(int code, qint64 mode = 0) { return m_code = code, m_mode = mode, *this; }
+    MenuRow& shows(const char* image, const char* checkedImage)
+    {
+        m_sheet =
+            QStringLiteral(
+                "QToolButton{background-image:url(:/Canvas_Tool_Strip/Resources/%1);}"
+                "QToolButton::checked{background-image:url(:/Canvas_Tool_Strip/Resources/%2);}")
+                .arg(image, checkedImage);
+        return *this;
+    }
+    MenuRow& framed(const QString& border) { return m_sheet += border, *this; }
+
+    Tool tool() const { return m_tool; }
+    QString text() const { return m_text; }
+    int code() const { return m_code; }
+    qint64 mode() const { return m_mode; }
+    QString styleSheet() const { return m_sheet; }
+
+private:
+    Tool m_tool;
+    QString m_text;
+    int m_code = Sent::Unset;
+    qint64 m_mode = 0;
+    QString m_sheet;
+};
 
 struct Opened {
     QStringList entries;
@@ -59,6 +85,7 @@ Opened rightClick(StripFixture& fixture, Tool tool, const QString& entry)
 }
 
 }  // namespace
+Q_DECLARE_METATYPE(MenuRow)
 
 class TestMenus : public QObject {
     Q_OBJECT
@@ -104,39 +131,40 @@ private Q_SLOTS:
 
     void entry_data()
     {
-        QTest::addColumn<Tool>("tool");
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<int>("extra");
-        QTest::addColumn<QString>("style");
-        QTest::newRow("delete feature")
-            << Tool::DeleteFeature << "Delete Feature" << int(Sent::DeleteFeature) << 0
-            << sheet("delete1-gry.jpg", "delete1-gre.jpg");
-        QTest::newRow("to intersection")
-            << Tool::DeleteFeature << "Delete to Intersection" << int(Sent::DeleteFeature) << 1
-            << sheet("delete2-gry.jpg", "delete2-gre.jpg");
-        QTest::newRow("layer net")
-            << Tool::SelectByNet << "Select Layer Net" << int(Sent::SelectLayerNet) << 0
-            << sheet("Net selection6.jpg", "Net selection5.jpg");
-        QTest::newRow("board net")
-            << Tool::SelectByNet << "Select Board Net" << int(Sent::SelectBoardNet) << 0
-            << sheet("Net selection4.jpg", "Net selection3.jpg", "border:2px solid green");
-        QTest::newRow("polyline") << Tool::SelectByNet << "Select Polyline"
-                                  << int(Sent::SelectPolyline) << 0
-                                  << sheet("Net selection2.jpg", "Net selection1.jpg",
-                                           "border:2px solid red");
-        QTest::newRow("orthogonal") << Tool::Mark << "Mark Orthogonal" << int(Sent::Mark) << 0
-                                    << sheet("markgry.png", "markgre.png");
-        QTest::newRow("point to point") << Tool::Mark << "Mark Point to Point" << int(Sent::Mark)
-                                        << 1 << sheet("xie_grey.png", "xie_green.png");
+        QTest::addColumn<MenuRow>("row");
+        const QVector<MenuRow> rows = {
+            MenuRow(Tool::DeleteFeature, "Delete Feature")
+                .sends(Sent::DeleteFeature, DeleteMode::feature)
+                .shows("delete1-gry.jpg", "delete1-gre.jpg"),
+            MenuRow(Tool::DeleteFeature, "Delete to Intersection")
+                .sends(Sent::DeleteFeature, DeleteMode::toIntersection)
+                .shows("delete2-gry.jpg", "delete2-gre.jpg"),
+            MenuRow(Tool::SelectByNet, "Select Layer Net")
+                .sends(Sent::SelectLayerNet)
+                .shows("Net selection6.jpg", "Net selection5.jpg"),
+            MenuRow(Tool::SelectByNet, "Select Board Net")
+                .sends(Sent::SelectBoardNet)
+                .shows("Net selection4.jpg", "Net selection3.jpg")
+                .framed("border:2px solid green"),
+            MenuRow(Tool::SelectByNet, "Select Polyline")
+                .sends(Sent::SelectPolyline)
+                .shows("Net selection2.jpg", "Net selection1.jpg")
+                .framed("border:2px solid red"),
+            MenuRow(Tool::Mark, "Mark Orthogonal")
+                .sends(Sent::Mark, MarkMode::orthogonal)
+                .shows("markgry.png", "markgre.png"),
+            MenuRow(Tool::Mark, "Mark Point to Point")
+                .sends(Sent::Mark, MarkMode::pointToPoint)
+                .shows("xie_grey.png", "xie_green.png"),
+        };
+        for (const MenuRow& row : rows) {
+            QTest::newRow(qPrintable(row.text())) << row;
+        }
     }
     void entry()
     {
-        QFETCH(Tool, tool);
-        QFETCH(QString, entry);
-        QFETCH(int, code);
-        QFETCH(int, extra);
-        QFETCH(QString, style);
+        QFETCH(MenuRow, row);
+        const Tool tool = row.tool();
         StripFixture fixture;
         fixture.window.show();
         QString styleWhileSending;
@@ -145,19 +173,19 @@ private Q_SLOTS:
             styleWhileSending = fixture.button(tool)->styleSheet();
             checkedWhileSending = fixture.checked();
         });
-        rightClick(fixture, tool, entry);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{code});
-        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(extra));
+        rightClick(fixture, tool, row.text());
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{row.code()});
+        QCOMPARE(fixture.recorder.messages().last().message.extra, row.mode());
         QCOMPARE(fixture.recorder.messages().last().sender, static_cast<void*>(&fixture.window));
-        QCOMPARE(styleWhileSending, style);
+        QCOMPARE(styleWhileSending, row.styleSheet());
         QCOMPARE(checkedWhileSending, QList<Tool>{tool});
 
         // The variant remains for plain clicks.
         QTest::mouseClick(fixture.button(Tool::AreaZoom), Qt::LeftButton);
         QTest::mouseClick(fixture.button(tool), Qt::LeftButton);
-        QCOMPARE(fixture.recorder.codes(), (QVector<int>{code, Sent::AreaZoom, code}));
-        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(extra));
-        QCOMPARE(fixture.button(tool)->styleSheet(), style);
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{row.code(), Sent::AreaZoom, row.code()}));
+        QCOMPARE(fixture.recorder.messages().last().message.extra, row.mode());
+        QCOMPARE(fixture.button(tool)->styleSheet(), row.styleSheet());
     }
 
     void settingOnlySends()
@@ -174,7 +202,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.checked(), QList<Tool>{Tool::OpenPopView});
         QCOMPARE(fixture.button(Tool::Mark)->styleSheet(), styleBefore);
         QTest::mouseClick(fixture.button(Tool::Mark), Qt::LeftButton);
-        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(1));
+        QCOMPARE(fixture.recorder.messages().last().message.extra, MarkMode::pointToPoint);
     }
 
     void variantsAreIndependent()
@@ -183,13 +211,13 @@ private Q_SLOTS:
         fixture.window.show();
         rightClick(fixture, Tool::DeleteFeature, "Delete to Intersection");
         fixture.strip->on_mark_clicked();
-        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
+        QCOMPARE(fixture.recorder.messages().last().message.extra, MarkMode::orthogonal);
         rightClick(fixture, Tool::Mark, "Mark Point to Point");
         rightClick(fixture, Tool::DeleteFeature, "Delete Feature");
         fixture.strip->on_mark_clicked();
-        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(1));
+        QCOMPARE(fixture.recorder.messages().last().message.extra, MarkMode::pointToPoint);
         fixture.strip->On_DeleteFeat_Clicked();
-        QCOMPARE(fixture.recorder.messages().last().message.extra, qint64(0));
+        QCOMPARE(fixture.recorder.messages().last().message.extra, DeleteMode::feature);
     }
 
     void entriesHaveTheirNames()

@@ -6,6 +6,7 @@
 #include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 
 #include <PluginManagerStandIn.h>
 
@@ -31,17 +32,18 @@ class TestCompose : public QObject {
     {
         findNamed<QComboBox>(*m_dialog, "m_pComposeCodeCMB").setEditText(text);
     }
+    void code(Accepted::Code number) { code(QString::number(number)); }
     void extra(const QString& text)
     {
         findNamed<QLineEdit>(*m_dialog, "m_pComposeExtraLE").setText(text);
     }
-    void entry(const QString& key, int type, const QString& value)
+    void entry(const QString& key, const QString& type, const QString& value)
     {
         QTest::mouseClick(&findNamed(*m_dialog, "m_pComposeAddPB"), Qt::LeftButton);
         const QString row =
             QString::number(findNamed<QTableWidget>(*m_dialog, "m_pComposePayloadTW").rowCount());
         findNamed<QLineEdit>(*m_dialog, "m_pComposeKeyLE" + row).setText(key);
-        findNamed<QComboBox>(*m_dialog, "m_pComposeTypeCMB" + row).setCurrentIndex(type);
+        chooseItem(findNamed<QComboBox>(*m_dialog, "m_pComposeTypeCMB" + row), type);
         findNamed<QLineEdit>(*m_dialog, "m_pComposeValueLE" + row).setText(value);
     }
     /// Presses Send; returns the errors that are then shown.
@@ -68,7 +70,7 @@ private Q_SLOTS:
         m_log = std::make_unique<MessageLog>();
         m_dialog = std::make_unique<ComposeDialog>(m_host);
         m_dialog->show();
-        CanvasHost::addInstance("Canvas_Tool_Strip.dll", &m_strip, &receive);
+        CanvasHost::addInstance(ModuleNames::toolStrip, &m_strip, &receive);
     }
 
     void cleanup()
@@ -81,17 +83,17 @@ private Q_SLOTS:
 
     void payloadOfEveryType()
     {
-        code("20002400");
-        findNamed<QLineEdit>(*m_dialog, "m_pComposeSenderLE").setText("Canvas_JobTree.dll");
-        entry("Text", 0, "a b=c");
-        entry("Whole", 1, "-7");
-        entry("Decimal", 2, "0.5");
-        entry("Truth", 3, "true");
+        code(Accepted::JobOpened);
+        findNamed<QLineEdit>(*m_dialog, "m_pComposeSenderLE").setText(ModuleNames::jobTree);
+        entry("Text", "text", "a b=c");
+        entry("Whole", "integer", "-7");
+        entry("Decimal", "decimal", "0.5");
+        entry("Truth", "truth", "true");
         extra("12");
         QCOMPARE(send(), QStringList());
         QCOMPARE(m_log->messages().size(), size_t(1));
-        QCOMPARE(last().sender, QString("Canvas_JobTree.dll"));
-        QCOMPARE(last().receiver, QString("Canvas_Tool_Strip.dll"));
+        QCOMPARE(last().sender, ModuleNames::jobTree);
+        QCOMPARE(last().receiver, ModuleNames::toolStrip);
         QCOMPARE(last().code, Accepted::JobOpened);
         QCOMPARE(last().extra, qint64(12));
         const QMap<QString, QVariant> expected{
@@ -108,11 +110,11 @@ private Q_SLOTS:
         extra("demo");
         QCOMPARE(send(), QStringList());
         QCOMPARE(last().pointedAt[""], QString("demo"));
-        code("20001811");
+        code(Accepted::SymbolsPicked);
         extra("1=r10,2=s20");
         QCOMPARE(send(), QStringList());
         QCOMPARE(last().pointedAt, (QMap<QString, QString>{{"1", "r10"}, {"2", "s20"}}));
-        code("20001807");
+        code(Accepted::AttributesPicked);
         extra(".net=gnd,.smd=");
         QCOMPARE(send(), QStringList());
         QCOMPARE(last().pointedAt, (QMap<QString, QString>{{".net", "gnd"}, {".smd", ""}}));
@@ -121,16 +123,16 @@ private Q_SLOTS:
     void mistakesAreNamedInPlace()
     {
         code("move");
-        entry("", 0, "x");
-        entry("N", 1, "1.5");
+        entry("", "text", "x");
+        entry("N", "integer", "1.5");
         QCOMPARE(send(),
                  (QStringList{"\"move\" is not a message code", "Row 1: the key is missing"}));
         QVERIFY(!findNamed(*m_dialog, "m_pComposeKeyLE1").toolTip().isEmpty());
         QCOMPARE(findNamed(*m_dialog, "m_pComposeValueLE2").toolTip(),
                  QString("\"1.5\" is not a whole number"));
-        code("20000201");
+        code(Accepted::AreaZoom);
         findNamed<QLineEdit>(*m_dialog, "m_pComposeKeyLE1").setText("T");
-        findNamed<QComboBox>(*m_dialog, "m_pComposeTypeCMB1").setCurrentIndex(3);
+        chooseItem(findNamed<QComboBox>(*m_dialog, "m_pComposeTypeCMB1"), "truth");
         extra("much");
         QCOMPARE(send(), (QStringList{"Row 1: \"x\" is neither true nor false",
                                       "\"much\" is not a whole number"}));
@@ -140,15 +142,15 @@ private Q_SLOTS:
     void aWrongAddressIsNeverSent()
     {
         auto& kind = findNamed<QComboBox>(*m_dialog, "m_pComposeExtraCMB");
-        code("20001811");
-        QCOMPARE(kind.currentIndex(), 2);
-        kind.setCurrentIndex(0);
+        code(Accepted::SymbolsPicked);
+        QCOMPARE(kind.currentText(), QString("Symbols"));
+        chooseItem(kind, "Number");
         extra("77");
         QCOMPARE(send(), QStringList("message 20001811 takes: Symbols"));
-        kind.setCurrentIndex(2);
+        chooseItem(kind, "Symbols");
         extra("a=r10");
         QCOMPARE(send(), QStringList("\"a=r10\" is not a list NUMBER=SYMBOL,..."));
-        code("20001807");
+        code(Accepted::AttributesPicked);
         extra("gnd");
         QCOMPARE(send(), QStringList("\"gnd\" is not a list NAME=VALUE,..."));
         QVERIFY(m_log->messages().empty());
@@ -156,10 +158,10 @@ private Q_SLOTS:
 
     void entriesAreRemoved()
     {
-        code("20002400");
-        entry("A", 0, "1");
-        entry("B", 0, "2");
-        entry("C", 0, "3");
+        code(Accepted::JobOpened);
+        entry("A", "text", "1");
+        entry("B", "text", "2");
+        entry("C", "text", "3");
         m_dialog->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
         findNamed(*m_dialog, "m_pComposeValueLE2").setFocus();

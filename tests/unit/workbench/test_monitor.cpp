@@ -8,6 +8,7 @@
 #include "messages/MessageModel.h"
 #include "messages/MessageMonitor.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 
 #include <QTpluginsManger4CAM.h>
@@ -27,7 +28,7 @@ namespace {
 
 void send(int code, const QMap<QString, QVariant>& payload = {})
 {
-    PluginMetaData message("Canvas_Tool_Strip.dll", "Canvas_Viewer.dll");
+    PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
     message.code = code;
     message.payload = payload;
     QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, message);
@@ -163,7 +164,7 @@ private Q_SLOTS:
         QVERIFY(dialog && dialog->isVisible());
         const auto text = [&](const char* name) { return findNamed<QLabel>(*dialog, name).text(); };
         QCOMPARE(text("m_pMessageFromLB"), QString("Canvas_Tool_Strip.dll"));
-        QCOMPARE(text("m_pMessageToLB"), QString("Canvas_Viewer.dll"));
+        QCOMPARE(text("m_pMessageToLB"), ModuleNames::viewer);
         QCOMPARE(text("m_pMessageCodeLB"), QString("50 Record (Feature record)"));
         QCOMPARE(text("m_pMessageExtraLB"), QString("0"));
         QVERIFY(

@@ -4,6 +4,7 @@
 #include "Main.h"
 #include "messages/HostState.h"
 #include "messages/MessageLog.h"
+#include "plugin/ModuleNames.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
@@ -83,7 +84,7 @@ class TestSessionRecorder : public QObject {
 
     void send(int code, const QString& text)
     {
-        PluginMetaData message("Canvas_Tool_Strip.dll", "Canvas_Viewer.dll");
+        PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
         message.code = code;
         message.payload.insert("text", text);
         QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, message);
@@ -235,7 +236,7 @@ private Q_SLOTS:
             m_trace.append(
                 QString("%1 %2").arg(message.code).arg(message.payload["text"].toString()));
         });
-        CanvasHost::addInstance("Canvas_Viewer.dll", &m_viewer, &receive);
+        CanvasHost::addInstance(ModuleNames::viewer, &m_viewer, &receive);
         makeWindow();
         m_window->show();
         m_window->activateWindow();

@@ -4,6 +4,7 @@
 #include "PlaySession.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 
 #include <PluginManagerStandIn.h>
@@ -87,9 +88,9 @@ class TestSessionSteps : public QObject {
     }
 
     static void send(int code, const QMap<QString, QVariant>& payload = {}, qint64 extra = 0,
-                     const QString& sender = "Canvas_Tool_Strip.dll")
+                     const QString& sender = ModuleNames::toolStrip)
     {
-        PluginMetaData message(sender, "Canvas_Viewer.dll");
+        PluginMetaData message(sender, ModuleNames::viewer);
         message.code = code;
         message.payload = payload;
         message.extra = extra;
@@ -109,7 +110,7 @@ private Q_SLOTS:
         m_combo->addItems({"one", "two"});
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-        CanvasHost::addInstance("Canvas_Viewer.dll", &m_viewer, &receive);
+        CanvasHost::addInstance(ModuleNames::viewer, &m_viewer, &receive);
     }
 
     void cleanup()
@@ -234,7 +235,7 @@ private Q_SLOTS:
         m_button->setCheckable(true);
         m_button->setChecked(true);
         m_button->setToolTip("Now");
-        m_combo->setCurrentIndex(1);
+        m_combo->setCurrentText("two");
         auto* const spin = add<QSpinBox>("m_pValueSB");
         spin->setValue(7);
         spin->setEnabled(false);

@@ -72,23 +72,24 @@ private Q_SLOTS:
     void record()
     {
         const std::map<std::string, std::string> attributes{{".net", "gnd"}};
-        PluginMetaData message("Canvas_Tool_Strip.dll", "Canvas_Viewer.dll");
+        PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
         message.code = Sent::AttributeMap;
         message.payload = {{RecordKeys::features, FeatureKind::pad.toInt()},
                            {RecordKeys::line, LineKind::single}};
         message.extra = ExtraWord::pointingAt(attributes);
         const MessageRecord record = MessageRecord::of({nullptr, message, true});
         const QJsonObject json = QJsonDocument::fromJson(record.toJson()).object();
-        QCOMPARE(json["code"].toInt(), 51);
+        QCOMPARE(json["code"].toInt(), int(Sent::AttributeMap));
         QCOMPARE(json["name"].toString(), QString("AttributeMap"));
-        QCOMPARE(json["sender"].toString(), QString("Canvas_Tool_Strip.dll"));
+        QCOMPARE(json["sender"].toString(), ModuleNames::toolStrip);
         QCOMPARE(json["delivered"].toBool(), true);
         QCOMPARE(json["attributes"].toObject()[".net"].toString(), QString("gnd"));
         const QJsonObject payload = json["payload"].toObject();
         QCOMPARE(payload[RecordKeys::features].toObject()["type"].toString(), QString("integer"));
-        QCOMPARE(payload[RecordKeys::features].toObject()["value"], QJsonValue(2));
+        QCOMPARE(payload[RecordKeys::features].toObject()["value"],
+                 QJsonValue(FeatureKind::pad.toInt()));
         QCOMPARE(payload[RecordKeys::line].toObject()["type"].toString(), QString("text"));
-        QCOMPARE(payload[RecordKeys::line].toObject()["value"], QJsonValue("1"));
+        QCOMPARE(payload[RecordKeys::line].toObject()["value"], QJsonValue(LineKind::single));
         QVERIFY(!record.toJson().contains('\n'));
     }
 
