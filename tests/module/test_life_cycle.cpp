@@ -2,22 +2,17 @@
 // windows never touch each other.
 
 #include "BoxCatcher.h"
-#include "FindChild.h"
+#include "LoadedStrip.h"
 #include "Main.h"
 #include "Recorder.h"
 #include "plugin/MessageCodes.h"
-#include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 
-#include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
 #include <QComboBox>
-#include <QLayout>
 #include <QLineEdit>
 #include <QLoggingCategory>
-#include <QToolButton>
-#include <QWidget>
 
 #include <dlfcn.h>
 #include <malloc.h>
@@ -33,39 +28,17 @@ constexpr bool isSanitized = true;
 constexpr bool isSanitized = false;
 #endif
 
-/// A host's window with a strip of the library in it.
-struct Host {
-    QWidget window;
-    void* instance = nullptr;
-
-    Host()
-    {
-        instance =
-            CanvasHost::loadModule(ModuleNames::toolStrip, QStringLiteral(MODULE_DIR), &window);
-        window.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance)));
-        window.show();
-    }
-    ~Host() { CanvasHost::removeInstance(instance); }
-
-    QToolButton& tool(const char* name) const
-    {
-        return *window.findChild<QToolButton*>(QLatin1String(name));
-    }
-    void click(const char* name) const { QTest::mouseClick(&tool(name), Qt::LeftButton); }
-    QWidget* dialog() const { return window.findChild<QWidget*>("AddFeature"); }
-};
-
 /// What a user does with it: tools, the dialog, a typed symbol, a count, closing.
-void use(const Host& host)
+void use(const LoadedStrip& host)
 {
     host.click("m_pMeasureTB");
     host.click("m_pFeatHighLightTB");
     host.click("m_pAddFeatureTB");
     host.click("m_pPadTB");
     chooseItem(findNamed<QComboBox>(*host.dialog(), "m_pPolarityCMB"), "Negative");
-    QTest::keyClicks(host.dialog()->findChild<QLineEdit*>("m_pSymbolTextLE"), "r10");
-    QTest::keyClick(host.dialog()->findChild<QLineEdit*>("m_pSymbolTextLE"), Qt::Key_Return);
-    QTest::keyClicks(host.dialog()->findChild<QLineEdit*>("m_pDrilNxLE"), "2");
+    QTest::keyClicks(&findNamed<QLineEdit>(*host.dialog(), "m_pSymbolTextLE"), "r10");
+    QTest::keyClick(&findNamed<QLineEdit>(*host.dialog(), "m_pSymbolTextLE"), Qt::Key_Return);
+    QTest::keyClicks(&findNamed<QLineEdit>(*host.dialog(), "m_pDrilNxLE"), "2");
     host.dialog()->close();
 }
 
@@ -100,7 +73,7 @@ private Q_SLOTS:
             }
             Recorder recorder;
             {
-                const Host host;
+                const LoadedStrip host;
                 use(host);
             }
             sent += recorder.last(Sent::Record).message.payload.value(RecordKeys::padNx) ==
@@ -118,18 +91,18 @@ private Q_SLOTS:
     void twoStripsNeverTouch()
     {
         Recorder recorder;
-        const Host one;
-        const Host two;
+        const LoadedStrip one;
+        const LoadedStrip two;
         use(one);
         for (const Recorder::Entry& entry : recorder.messages()) {
             QCOMPARE(entry.sender, const_cast<QWidget*>(&one.window));
         }
-        QVERIFY(two.tool("m_pAreaZoomTB").isChecked());
+        QVERIFY(two.isChecked("m_pAreaZoomTB"));
         QVERIFY(!two.dialog());
         recorder.clear();
         two.click("m_pAddFeatureTB");
         two.click("m_pArcTB");
-        QVERIFY(!one.tool("m_pAddFeatureTB").isChecked());
+        QVERIFY(!one.isChecked("m_pAddFeatureTB"));
         QVERIFY(one.tool("m_pPadTB").isChecked());
         QVERIFY(!one.dialog()->isVisible());
         QCOMPARE(recorder.last(Sent::Record).sender, const_cast<QWidget*>(&two.window));

@@ -2,12 +2,11 @@
 
 #include "BoxCatcher.h"
 #include "ErrorOf.h"
+#include "LoadedStrip.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
-#include "plugin/ModuleNames.h"
 #include "toolbar/ToolTable.h"
 
-#include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 #include <UiApiStandIn.h>
 
@@ -21,21 +20,6 @@ namespace Sent = MessageCodes::Sent;
 namespace Accepted = MessageCodes::Accepted;
 
 namespace {
-
-/// A module instance as a host keeps it: placed in its widget, removed before it is deleted.
-struct LoadedStrip {
-    QWidget panel;
-    void* instance =
-        CanvasHost::loadModule(ModuleNames::toolStrip, QStringLiteral(MODULE_DIR), &panel);
-
-    LoadedStrip() { panel.setLayout(qobject_cast<QLayout*>(static_cast<QObject*>(instance))); }
-    ~LoadedStrip() { CanvasHost::removeInstance(instance); }
-
-    bool isChecked(const char* name) const
-    {
-        return panel.findChild<QToolButton*>(QLatin1String(name))->isChecked();
-    }
-};
 
 void sendTo(void* sender, int code)
 {
@@ -63,7 +47,7 @@ private Q_SLOTS:
         auto* const grid = qobject_cast<QGridLayout*>(static_cast<QObject*>(strip.instance));
         QVERIFY(grid);
         QCOMPARE(grid->count(), ToolTable::toolCount);
-        QCOMPARE(strip.panel.findChildren<QToolButton*>().size(), ToolTable::toolCount);
+        QCOMPARE(strip.window.findChildren<QToolButton*>().size(), ToolTable::toolCount);
         QVERIFY(strip.isChecked("m_pAreaZoomTB"));
     }
 
@@ -73,7 +57,7 @@ private Q_SLOTS:
         LoadedStrip two;
         QVERIFY(one.instance && two.instance);
         QVERIFY(one.instance != two.instance);
-        sendTo(&two.panel, Accepted::ReleaseAll);
+        sendTo(&two.window, Accepted::ReleaseAll);
         QVERIFY(one.isChecked("m_pAreaZoomTB"));
         QVERIFY(!two.isChecked("m_pAreaZoomTB"));
     }
@@ -89,7 +73,7 @@ private Q_SLOTS:
         for (const int code : std::initializer_list<int>{
                  0, -1, Sent::Record - 1, Sent::Record, Accepted::AreaZoom - 1,
                  Accepted::SelectPolyline + 1, Sent::AddFeatureStarted, 2147483647}) {
-            sendTo(&strip.panel, code);
+            sendTo(&strip.window, code);
         }
         QCOMPARE(sent, 0);
         QVERIFY(strip.isChecked("m_pAreaZoomTB"));

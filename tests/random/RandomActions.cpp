@@ -5,6 +5,7 @@
 #include "Refusals.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
 
 #include <QTpluginsManger4CAM.h>
@@ -26,7 +27,27 @@ namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
-const QVector<int> acceptedCodes = Accepted::all();
+/// As a story tells it.
+QString wordsOf(int code)
+{
+    const char* const name = Accepted::nameOf(code);
+    return name ? QString(name) : QStringLiteral("unknown code %1").arg(code);
+}
+
+QString wordsOf(CanvasHost::DisplayUnit unit)
+{
+    switch (unit) {
+        case CanvasHost::DisplayUnit::Mil:
+            return QStringLiteral("mil");
+        case CanvasHost::DisplayUnit::Inch:
+            return QStringLiteral("inch");
+        case CanvasHost::DisplayUnit::Micrometre:
+            return QStringLiteral("micrometre");
+        case CanvasHost::DisplayUnit::Millimetre:
+            return QStringLiteral("millimetre");
+    }
+    Q_UNREACHABLE();
+}
 
 /// In the same order each time.
 QList<QWidget*> windows()
@@ -88,7 +109,7 @@ void RandomUser::act()
 void RandomUser::prepareAnswer()
 {
     m_answer = message();
-    m_story = QStringLiteral("with %1").arg(m_answer->code) + m_story;
+    m_story = QStringLiteral("with %1").arg(wordsOf(m_answer->code)) + m_story;
 }
 
 void RandomUser::useAnyWindow()
@@ -134,8 +155,8 @@ void RandomUser::clickTool()
 
 void RandomUser::openMenu()
 {
-    const Tool owner = oneOf(ToolTable::menus()).owner;
-    QWidget* const tool = m_strip->itemAt(int(owner))->widget();
+    const ToolTable::Menu row = oneOf(ToolTable::menus());
+    QWidget* const tool = m_strip->itemAt(int(row.owner))->widget();
     const int choice = below(4);
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &watch, [choice] {
@@ -149,7 +170,9 @@ void RandomUser::openMenu()
         }
     });
     watch.start(0);
-    m_story = QStringLiteral("%1, entry %2").arg(tool->objectName()).arg(choice);
+    const bool isEntry = choice < int(row.entries.size());
+    m_story = QStringLiteral("%1, %2").arg(
+        tool->objectName(), QLatin1String(isEntry ? row.entries[choice].text : "nothing"));
     activate(m_window.get());  // a menu that a box closes before it opens would never end
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3));
     QApplication::sendEvent(tool, &event);
@@ -158,8 +181,8 @@ void RandomUser::openMenu()
 /// A message to the module, known or not, with a payload that may be odd.
 PluginMetaData RandomUser::message()
 {
-    PluginMetaData message("Sibling.dll", "Canvas_Tool_Strip.dll");
-    message.code = below(4) > 0 ? oneOf(acceptedCodes) : int(m_random.generate());
+    PluginMetaData message("Sibling.dll", ModuleNames::toolStrip);
+    message.code = below(4) > 0 ? oneOf(Accepted::all()) : int(m_random.generate());
     const QVariant values[] = {
         "job", "other", "", 7, QVariant(), 2.5, QStringList("a"), QString(5000, 'x')};
     for (const QString& key :
@@ -171,7 +194,7 @@ PluginMetaData RandomUser::message()
     prepareExtra(message);
     if (message.code == Accepted::UnitChanged) {
         m_unitToCome = CanvasHost::DisplayUnit(below(4));
-        m_story = QStringLiteral(", unit %1").arg(int(m_unitToCome));
+        m_story = QStringLiteral(", unit %1").arg(wordsOf(m_unitToCome));
     }
     return message;
 }
@@ -202,7 +225,8 @@ void RandomUser::receive()
 {
     const PluginMetaData sent = message();
     m_story =
-        QStringLiteral("%1 with %2 entries").arg(sent.code).arg(sent.payload.size()) + m_story;
+        QStringLiteral("%1 with %2 entries").arg(wordsOf(sent.code)).arg(sent.payload.size()) +
+        m_story;
     // A picked symbol may be refused.
     m_mayRefuse = m_mayRefuse || sent.code == Accepted::SymbolsPicked;
     deliver(sent);
@@ -250,7 +274,7 @@ void RandomUser::switchLanguage()
         m_story = QStringLiteral("to another one");
         m_translator = std::make_unique<QuotingTranslator>("AddFeature");
     }
-    PluginMetaData changed("Sibling.dll", "Canvas_Tool_Strip.dll");
+    PluginMetaData changed("Sibling.dll", ModuleNames::toolStrip);
     changed.code = Accepted::LanguageChanged;
     QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, changed);
 }
@@ -291,7 +315,7 @@ void RandomUser::useControl(QWidget* control)
     if (auto* const combo = qobject_cast<QComboBox*>(control)) {
         constexpr int noItemOnceIn = 50;
         const int item = below(noItemOnceIn) > 0 && combo->count() > 0 ? below(combo->count()) : -1;
-        m_story += QStringLiteral(" item %1").arg(item);
+        m_story += item < 0 ? " no item" : QStringLiteral(" \"%1\"").arg(combo->itemText(item));
         combo->setCurrentIndex(item);
     } else if (auto* const spin = qobject_cast<QSpinBox*>(control)) {
         if (focus(spin)) {

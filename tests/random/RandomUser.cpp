@@ -4,6 +4,7 @@
 #include "Invariants.h"
 #include "Refusals.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "plugin/PluginEntry.h"
 
 #include <PluginManagerStandIn.h>
@@ -20,6 +21,12 @@ namespace Accepted = MessageCodes::Accepted;
 namespace {
 
 using ToolTable::toolCount;
+
+QString nameOfSent(int code)
+{
+    const char* const name = MessageCodes::Sent::nameOf(code);
+    return name ? QString(name) : QStringLiteral("unknown code %1").arg(code);
+}
 
 }  // namespace
 
@@ -38,8 +45,7 @@ RandomUser::RandomUser(std::optional<int> forbiddenCode)
     m_strip = static_cast<Canvas_Tool_Strip*>(GetPluginInstance(m_window.get()));
     m_window->setLayout(m_strip);
     m_window->show();
-    CanvasHost::addInstance(QStringLiteral("Canvas_Tool_Strip.dll"), m_strip, recMsgFromManager,
-                            m_window.get());
+    CanvasHost::addInstance(ModuleNames::toolStrip, m_strip, recMsgFromManager, m_window.get());
     m_recorder.setOnMessage([this](const Recorder::Entry& entry) {
         if (entry.sender != m_window.get()) {
             return;  // what this user sent to the module
@@ -147,10 +153,10 @@ QString RandomUser::faultOfMessages()
         }
         ++m_sent[entry.message.code];
         if (entry.message.code == m_forbiddenCode) {
-            return QStringLiteral("the forbidden code %1").arg(entry.message.code);
+            return "the forbidden code " + nameOfSent(entry.message.code);
         }
         if (entry.sender != m_window.get()) {
-            return QStringLiteral("%1 with a different sender").arg(entry.message.code);
+            return nameOfSent(entry.message.code) + " with a different sender";
         }
         QString found = Invariants::faultOf(entry);
         if (!found.isEmpty()) {
@@ -174,7 +180,7 @@ QVariantMap RandomUser::record()
 void RandomUser::greetTheDialog()
 {
     m_agreement = std::make_unique<Agreement>(*dialog());
-    PluginMetaData unit("Sibling.dll", "Canvas_Tool_Strip.dll");
+    PluginMetaData unit("Sibling.dll", ModuleNames::toolStrip);
     unit.code = Accepted::UnitChanged;
     QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, unit);
 }

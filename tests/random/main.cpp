@@ -2,6 +2,7 @@
 
 #include "RandomUser.h"
 #include "Shrinker.h"
+#include "plugin/MessageCodes.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -29,6 +30,17 @@ Numbers numbersOf(quint32 seed, int count)
     return numbers;
 }
 
+/// The code that the module sends under that name; nothing if there is none.
+std::optional<int> codeNamed(const QString& name)
+{
+    for (const int code : MessageCodes::Sent::all()) {
+        if (name == QLatin1String(MessageCodes::Sent::nameOf(code))) {
+            return code;
+        }
+    }
+    return {};
+}
+
 struct Failure {
     int step = 0;  ///< from 1; 0: none
     QString fault;
@@ -37,11 +49,10 @@ struct Failure {
 class Program {
 public:
     explicit Program(const QCommandLineParser& options)
-        : m_steps(options.value("steps").toInt()), m_tells(options.isSet("story"))
+        : m_steps(options.value("steps").toInt()),
+          m_tells(options.isSet("story")),
+          m_forbidden(codeNamed(options.value("forbid")))
     {
-        if (options.isSet("forbid")) {
-            m_forbidden = options.value("forbid").toInt();
-        }
     }
 
     int runSeeds(quint32 first, quint32 count)
@@ -93,7 +104,7 @@ public:
         const QString file = directory.filePath("numbers");
         QStringList arguments{"--numbers", file};
         if (m_forbidden) {
-            arguments << "--forbid" << QString::number(*m_forbidden);
+            arguments << "--forbid" << QString(MessageCodes::Sent::nameOf(*m_forbidden));
         }
         const auto fails = [&](const Numbers& numbers) {
             write(numbers, file);
@@ -223,9 +234,13 @@ int main(int argc, char** argv)
         {"numbers", "Play these numbers instead of a seed's.", "file"},
         {"shrink", "Find fewer steps that fail."},
         {"to", "Where to write the fewer numbers (random.numbers).", "file", "random.numbers"},
-        {"forbid", "Count this code as a fault, to test the program itself.", "code"},
+        {"forbid", "Count this code as a fault, to test the program itself.", "name"},
     });
     options.process(application);
+    if (options.isSet("forbid") && !codeNamed(options.value("forbid"))) {
+        QTextStream(stderr) << "no code is named \"" << options.value("forbid") << "\"\n";
+        return wrongUse;
+    }
     qInstallMessageHandler(hear);
 
     Program program(options);

@@ -46,7 +46,31 @@ QVector<QPointF> pointsOf(const Feature& feature)
     return feature.geometry().points;
 }
 
+/// An arc that starts at 1000, 0, and what becomes of its other two clicks.
+struct PlacedArc {
+    explicit PlacedArc(const char* itsName = "", ArcMethod itsMethod = ArcMethod::StartCenterEnd)
+        : name(itsName), method(itsMethod)
+    {
+    }
+    PlacedArc& clockwise() { return isClockwise = true, *this; }
+    PlacedArc& through(QPointF click, QPointF lastClick)
+    {
+        return second = click, third = lastClick, *this;
+    }
+    PlacedArc& around(QPointF place) { return centre = place, *this; }
+    PlacedArc& sweeps(double degrees) { return sweep = degrees, *this; }
+
+    const char* name;
+    ArcMethod method;
+    bool isClockwise = false;
+    QPointF second;
+    QPointF third;
+    QPointF centre;
+    double sweep = 0;
+};
+
 }  // namespace
+Q_DECLARE_METATYPE(PlacedArc)
 
 class TestPlacement : public QObject {
     Q_OBJECT
@@ -276,51 +300,80 @@ private Q_SLOTS:
 
     void arcs_data()
     {
-        QTest::addColumn<int>("method");
-        QTest::addColumn<bool>("clockwise");
-        QTest::addColumn<QPointF>("second");
-        QTest::addColumn<QPointF>("third");
-        QTest::addColumn<QPointF>("centre");
-        QTest::addColumn<double>("sweep");
-        const auto row = [](const char* name, ArcMethod method, bool clockwise, QPointF second,
-                            QPointF third, QPointF centre, double sweep) {
-            QTest::newRow(name) << int(method) << clockwise << second << third << centre << sweep;
-        };
-        const QPointF none(0, 0);
+        QTest::addColumn<PlacedArc>("arc");
+        const QPointF origin(0, 0);
         const QPointF top(0, 1000);
-        // All start at 1000, 0.
-        row("1", ArcMethod::StartCenterEnd, false, none, {0, 5}, none, 90);
-        row("1 cw", ArcMethod::StartCenterEnd, true, none, {0, 5}, none, -270);
-        row("2", ArcMethod::StartEndEdge, true, top, polar(none, 1000, 30), none, 90);
-        row("2 far", ArcMethod::StartEndEdge, false, top, polar(none, 1000, 200), none, -270);
-        row("3", ArcMethod::StartEndCenter, false, top, {200, 200}, {200, 200}, 118.07248693585);
-        row("3 aside", ArcMethod::StartEndCenter, false, top, {300, -300}, none, 90);
-        row("4", ArcMethod::StartCenterAngle, false, none, polar(none, 7, 33.4), none, 33);
-        row("4 cw", ArcMethod::StartCenterAngle, true, none, polar(none, 7, 33.4), none, -327);
-        row("5", ArcMethod::StartCenterLength, false, none, {1000, 500}, none, 28.64788976);
-        row("5 all", ArcMethod::StartCenterLength, true, none, {9000, 0}, none, -360);
-        row("6", ArcMethod::StartEndAngle, false, top, {1000, 50}, none, 90);
-        row("6 cw", ArcMethod::StartEndAngle, true, top, {1000, 50}, {1000, 1000}, -90);
-        row("7", ArcMethod::StartEndRadius, false, top, {1000, 1000}, none, 90);
-        row("7 least", ArcMethod::StartEndRadius, true, {0, 0}, {1, 0}, {500, 0}, -180);
+        const QVector<PlacedArc> arcs = {
+            PlacedArc("start, center, end", ArcMethod::StartCenterEnd)
+                .through(origin, {0, 5})
+                .sweeps(90),
+            PlacedArc("start, center, end, clockwise", ArcMethod::StartCenterEnd)
+                .clockwise()
+                .through(origin, {0, 5})
+                .sweeps(-270),
+            PlacedArc("start, end, edge, clockwise", ArcMethod::StartEndEdge)
+                .clockwise()
+                .through(top, polar(origin, 1000, 30))
+                .sweeps(90),
+            PlacedArc("start, end, edge on the far side", ArcMethod::StartEndEdge)
+                .through(top, polar(origin, 1000, 200))
+                .sweeps(-270),
+            PlacedArc("start, end, center", ArcMethod::StartEndCenter)
+                .through(top, {200, 200})
+                .around({200, 200})
+                .sweeps(118.07248693585),
+            PlacedArc("start, end, center aside", ArcMethod::StartEndCenter)
+                .through(top, {300, -300})
+                .sweeps(90),
+            PlacedArc("start, center, angle", ArcMethod::StartCenterAngle)
+                .through(origin, polar(origin, 7, 33.4))
+                .sweeps(33),
+            PlacedArc("start, center, angle, clockwise", ArcMethod::StartCenterAngle)
+                .clockwise()
+                .through(origin, polar(origin, 7, 33.4))
+                .sweeps(-327),
+            PlacedArc("start, center, length", ArcMethod::StartCenterLength)
+                .through(origin, {1000, 500})
+                .sweeps(28.64788976),
+            PlacedArc("start, center, length of the whole circle", ArcMethod::StartCenterLength)
+                .clockwise()
+                .through(origin, {9000, 0})
+                .sweeps(-360),
+            PlacedArc("start, end, angle", ArcMethod::StartEndAngle)
+                .through(top, {1000, 50})
+                .sweeps(90),
+            PlacedArc("start, end, angle, clockwise", ArcMethod::StartEndAngle)
+                .clockwise()
+                .through(top, {1000, 50})
+                .around({1000, 1000})
+                .sweeps(-90),
+            PlacedArc("start, end, radius", ArcMethod::StartEndRadius)
+                .through(top, {1000, 1000})
+                .sweeps(90),
+            PlacedArc("start, end, least radius", ArcMethod::StartEndRadius)
+                .clockwise()
+                .through({0, 0}, {1, 0})
+                .around({500, 0})
+                .sweeps(-180),
+        };
+        for (const PlacedArc& arc : arcs) {
+            QTest::newRow(arc.name) << arc;
+        }
     }
 
     void arcs()
     {
-        QFETCH(int, method);
-        QFETCH(bool, clockwise);
-        QFETCH(QPointF, second);
-        QFETCH(QPointF, third);
-        QFETCH(QPointF, centre);
-        QFETCH(double, sweep);
+        QFETCH(PlacedArc, arc);
+        const QPointF start(1000, 0);
         const Features made =
-            placed(arcBrush(static_cast<ArcMethod>(method), clockwise), {{1000, 0}, second, third});
+            placed(arcBrush(arc.method, arc.isClockwise), {start, arc.second, arc.third});
         QCOMPARE(made.size(), size_t(1));
         const ArcPlace place = arcPlace(made[0].geometry());
-        QVERIFY2(same(place.centre, centre),
+        QVERIFY2(same(place.centre, arc.centre),
                  qPrintable(QStringLiteral("%1 %2").arg(place.centre.x()).arg(place.centre.y())));
-        QVERIFY2(std::abs(place.sweep - sweep) < 1e-6, qPrintable(QString::number(place.sweep)));
-        QVERIFY(same(pointsOf(made[0])[0], {1000, 0}));
+        QVERIFY2(std::abs(place.sweep - arc.sweep) < 1e-6,
+                 qPrintable(QString::number(place.sweep)));
+        QVERIFY(same(pointsOf(made[0])[0], start));
     }
 
     void circles()

@@ -148,10 +148,10 @@ private Q_SLOTS:
         fixture.click("m_pValuesPB");
         auto* const values = fixture.dialog->findChild<Widget_Attributes*>();
         fixture.recorder.clear();
-        emit values->send_attribute_list(List{{".net", "gnd"}});
+        Q_EMIT values->send_attribute_list(List{{".net", "gnd"}});
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::AttributeMap});
         QCOMPARE(fixture.recorder.last(Sent::AttributeMap).attributes, (Map{{".net", "gnd"}}));
-        emit values->send_attribute_signal();
+        Q_EMIT values->send_attribute_signal();
         QCOMPARE(fixture.recorder.codes(),
                  (QVector<int>{Sent::AttributeMap, Sent::SelectFromEditor}));
         const Recorder::Entry sent = fixture.recorder.last(Sent::SelectFromEditor);

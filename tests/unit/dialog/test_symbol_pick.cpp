@@ -169,7 +169,7 @@ private Q_SLOTS:
         }
         QCOMPARE(fixture.window.findChildren<Widget_SymbolSelection*>().size(), 1);
 
-        emit chooser->sendText("s20");
+        Q_EMIT chooser->sendText("s20");
         QCOMPARE(fixture.symbol().text(), QString("s20"));
         fixture.setUnit(Unit::Metric);
         QVERIFY(offers("r254") && !offers("r10"));

@@ -18,29 +18,33 @@
 
 namespace {
 
-const QSize unlimited(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-const QSize hideSize(41, 41);
-
+/// A button of at least 40 by 40, unless it hides something.
 struct Button {
+    Button(const char* itsName, const QString& itsText) : name(itsName), text(itsText) {}
+    Button& tip(const QString& itsTip) { return toolTip = itsTip, *this; }
+    /// Of that size exactly.
+    Button& hides() { return minimum = maximum = QSize(41, 41), *this; }
+    Button& fixed() { return isFixed = true, *this; }
+
     const char* name;
-    const char* toolTip;
-    const char* text;
-    QSize minimum;
-    QSize maximum;
-    bool isFixed;
+    QString text;
+    QString toolTip;
+    QSize minimum{40, 40};
+    QSize maximum{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+    bool isFixed = false;
 };
 const Button buttons[] = {
-    {"m_pAddReferencePB", "Add reference point", "Ref", {40, 40}, unlimited, false},
-    {"m_pAddDimensionLinkPB", "Add Dimension Link", "Dimen", {40, 40}, unlimited, false},
-    {"m_pEditDimensionLinkPB", "Edit Dimension Link", "E Dim", {40, 40}, unlimited, false},
-    {"m_pDeleteDimensionLinkPB", "Delete Dimension Link", "Del..", {40, 40}, unlimited, false},
-    {"m_pConnectReferePB", "Connect Reference point", "Con", {40, 40}, unlimited, false},
-    {"m_pEraseAllDimenPB", "Erase All Dimensions", "Erase", {40, 40}, unlimited, false},
-    {"m_pHideDLinePB", "Hide DLine", "H..L", hideSize, hideSize, true},
-    {"m_pHideDPointPB", "HideDPoint", "H.P.", hideSize, hideSize, true},
-    {"m_pHideDimenLinkPB", "Hide Dimensions Link", "HLink", hideSize, hideSize, false},
-    {"m_pHideAngleDimenPB", "Hide Angle Dimensions", "Angle", hideSize, hideSize, false},
-    {"m_pHideIndicatePB", "Hide distance indications", "Hid d", hideSize, hideSize, true},
+    Button("m_pAddReferencePB", "Ref").tip("Add reference point"),
+    Button("m_pAddDimensionLinkPB", "Dimen").tip("Add Dimension Link"),
+    Button("m_pEditDimensionLinkPB", "E Dim").tip("Edit Dimension Link"),
+    Button("m_pDeleteDimensionLinkPB", "Del..").tip("Delete Dimension Link"),
+    Button("m_pConnectReferePB", "Con").tip("Connect Reference point"),
+    Button("m_pEraseAllDimenPB", "Erase").tip("Erase All Dimensions"),
+    Button("m_pHideDLinePB", "H..L").tip("Hide DLine").hides().fixed(),
+    Button("m_pHideDPointPB", "H.P.").tip("HideDPoint").hides().fixed(),
+    Button("m_pHideDimenLinkPB", "HLink").tip("Hide Dimensions Link").hides(),
+    Button("m_pHideAngleDimenPB", "Angle").tip("Hide Angle Dimensions").hides(),
+    Button("m_pHideIndicatePB", "Hid d").tip("Hide distance indications").hides().fixed(),
 };
 
 struct Combo {
@@ -80,11 +84,11 @@ private Q_SLOTS:
     void button()
     {
         QFETCH(int, row);
-        const Button& expected = buttons[row];
         const auto popup = createPopup();
+        const Button& expected = buttons[row];
         const auto& button = findNamed<QPushButton>(*popup, expected.name);
-        QCOMPARE(button.toolTip(), QString(expected.toolTip));
-        QCOMPARE(button.text(), QString(expected.text));
+        QCOMPARE(button.toolTip(), expected.toolTip);
+        QCOMPARE(button.text(), expected.text);
         QCOMPARE(button.minimumSize(), expected.minimum);
         QCOMPARE(button.maximumSize(), expected.maximum);
         const bool isFixed = button.sizePolicy().horizontalPolicy() == QSizePolicy::Fixed &&
@@ -315,10 +319,9 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents();
         QCOMPARE(popup->windowTitle(), QString("<Dimensions Popup>"));
         for (const Button& button : buttons) {
-            QCOMPARE(findNamed<QPushButton>(*popup, button.name).text(),
-                     '<' + QString(button.text) + '>');
+            QCOMPARE(findNamed<QPushButton>(*popup, button.name).text(), '<' + button.text + '>');
             QCOMPARE(findNamed<QPushButton>(*popup, button.name).toolTip(),
-                     '<' + QString(button.toolTip) + '>');
+                     '<' + button.toolTip + '>');
         }
         for (const Combo& combo : combos) {
             QCOMPARE(

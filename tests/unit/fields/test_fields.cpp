@@ -32,6 +32,22 @@ Field::Details other(Sends sends)
     return {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot, sends};
 }
 
+/// "10" in a field for a length, and what results.
+struct TypedLength {
+    explicit TypedLength(Sends whenSends = Sends::Never) : sends(whenSends) {}
+    TypedLength& inMetric() { return metric = true, *this; }
+    TypedLength& refused() { return isAccepted = false, shown = stored = "0", *this; }
+    TypedLength& stores(const QString& value) { return stored = value, *this; }
+    TypedLength& isSent() { return sent = true, *this; }
+
+    Sends sends;
+    bool isAccepted = true;
+    bool metric = false;
+    QString shown = "10";
+    QString stored;
+    bool sent = false;
+};
+
 void type(QLineEdit& field, const QString& text)
 {
     field.selectAll();
@@ -40,6 +56,7 @@ void type(QLineEdit& field, const QString& text)
 }
 
 }  // namespace
+Q_DECLARE_METATYPE(TypedLength)
 
 class TestFields : public QObject {
     Q_OBJECT
@@ -64,48 +81,33 @@ private Q_SLOTS:
 
     void length_data()
     {
-        QTest::addColumn<Sends>("sends");
-        QTest::addColumn<bool>("accepts");
-        QTest::addColumn<bool>("metric");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<bool>("isSent");
-        QTest::newRow("mil") << Sends::WhenAccepted << true << false << "10"
-                             << "254" << true;
-        QTest::newRow("metric") << Sends::WhenAccepted << true << true << "10"
-                                << "10" << true;
-        QTest::newRow("never") << Sends::Never << true << false << "10"
-                               << "254" << false;
-        QTest::newRow("refused") << Sends::WhenAccepted << false << false << "0"
-                                 << "0" << false;
-        QTest::newRow("refused, always") << Sends::Always << false << false << "0"
-                                         << "0" << true;
-        QTest::newRow("refused, never") << Sends::Never << false << true << "0"
-                                        << "0" << false;
+        QTest::addColumn<TypedLength>("row");
+        QTest::newRow("mil") << TypedLength(Sends::WhenAccepted).stores("254").isSent();
+        QTest::newRow("metric")
+            << TypedLength(Sends::WhenAccepted).inMetric().stores("10").isSent();
+        QTest::newRow("never") << TypedLength(Sends::Never).stores("254");
+        QTest::newRow("refused") << TypedLength(Sends::WhenAccepted).refused();
+        QTest::newRow("refused, always") << TypedLength(Sends::Always).refused().isSent();
+        QTest::newRow("refused, never") << TypedLength(Sends::Never).refused().inMetric();
     }
 
     void length()
     {
-        QFETCH(Sends, sends);
-        QFETCH(bool, accepts);
-        QFETCH(bool, metric);
-        QFETCH(QString, shown);
-        QFETCH(QString, stored);
-        QFETCH(bool, isSent);
+        QFETCH(TypedLength, row);
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(sends), "5", 50000);
-        door.accepts = accepts;
-        door.metric = metric;
+        LengthField field(door, &page, line(row.sends), "5", 50000);
+        door.accepts = row.isAccepted;
+        door.metric = row.metric;
         QString whenSent;
         door.onSend = [&] { whenSent = door.record().text(key); };
         type(field, "10");
         QTest::keyClick(&field, Qt::Key_Return);
-        QCOMPARE(field.text(), shown);
-        QCOMPARE(door.record().text(key), stored);
+        QCOMPARE(field.text(), row.shown);
+        QCOMPARE(door.record().text(key), row.stored);
         QCOMPARE(door.takeCalls(), QStringList("length 10 up to 50000") +
-                                       (isSent ? QStringList("record") : QStringList()));
-        QCOMPARE(whenSent, isSent ? stored : QString());
+                                       (row.sent ? QStringList("record") : QStringList()));
+        QCOMPARE(whenSent, row.sent ? row.stored : QString());
     }
 
     void unit_data()

@@ -87,7 +87,7 @@ private Q_SLOTS:
         QVERIFY(!first);
         const auto popups = fixture.window.findChildren<Widget_listpopup*>();
         QCOMPARE(popups.size(), 1);
-        emit popups[0]->on_send_Font("simple");
+        Q_EMIT popups[0]->on_send_Font("simple");
         QCOMPARE(fixture.text("m_pFontLE"), QString("simple"));
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         Expect::holds(fixture, {Expect::record(RecordKeys::stringTextFont, "simple")});

@@ -64,8 +64,8 @@ struct Operation {
     const char* name;
     void (*fail)(Thrown kind);
     void (*use)(DialogFixture& fixture);
-    Exceptions exceptions;
-    Unit unit;
+    Exceptions exceptions = Exceptions::PassThrough;
+    Unit unit = Unit::Mil;
 };
 
 const Operation operations[] = {
@@ -74,14 +74,14 @@ const Operation operations[] = {
          camApiOverrides().identify_symbol = [=](const std::string&, ZENTRA::API::symbol_type&,
                                                  int&, int&, bool) -> bool { throwAs(kind); };
      },
-     typeSymbol, Exceptions::PassThrough, Unit::Mil},
+     typeSymbol},
     {"get_special_symbol_names",
      [](Thrown kind) {
          camApiOverrides().get_special_symbol_names = [=](const std::string&, Names&) {
              throwAs(kind);
          };
      },
-     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, Exceptions::PassThrough, Unit::Mil},
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }},
     {"get_fonts",
      [](Thrown kind) {
          camApiOverrides().get_fonts = [=](const std::string&, Names&) { throwAs(kind); };
@@ -92,23 +92,20 @@ const Operation operations[] = {
          font.selectAll();
          QTest::keyClicks(&font, "simple");
          QTest::keyClick(&font, Qt::Key_Return);
-     },
-     Exceptions::PassThrough, Unit::Mil},
+     }},
     {"getUnitString",
      [](Thrown kind) { uiApiOverrides().getUnitString = [=](void*) -> QString { throwAs(kind); }; },
      [](DialogFixture& fixture) { fixture.receive(Accepted::UnitChanged); },
-     Exceptions::AreReported, Unit::Mil},
+     Exceptions::AreReported},
     {"getUnit",
      [](Thrown kind) { uiApiOverrides().getUnit = [=](void*) -> int { throwAs(kind); }; },
-     [](DialogFixture& fixture) { fixture.symbol().insert("s20"); }, Exceptions::AreReported,
-     Unit::Mil},
+     [](DialogFixture& fixture) { fixture.symbol().insert("s20"); }, Exceptions::AreReported},
     {"getUnit for a picked symbol",
      [](Thrown kind) { uiApiOverrides().getUnit = [=](void*) -> int { throwAs(kind); }; },
      [](DialogFixture& fixture) {
          QMetaObject::invokeMethod(fixture.dialog, "receive_text", Q_ARG(QString, QString()));
          fixture.dialog->get_ChangeSymbol_Info({{1, "r5"}});
-     },
-     Exceptions::PassThrough, Unit::Mil},
+     }},
     {"getUnitJudgeDouble",
      [](Thrown kind) {
          uiApiOverrides().getUnitJudgeDouble = [=](void*, double) -> double { throwAs(kind); };
@@ -118,8 +115,7 @@ const Operation operations[] = {
          auto& size = fixture.find<QLineEdit>("m_pXSizeLE");
          size.setText("99999");
          QTest::keyClick(&size, Qt::Key_Return);
-     },
-     Exceptions::PassThrough, Unit::Mil},
+     }},
     {"isNumValueLegal",
      [](Thrown kind) {
          uiApiOverrides().isNumValueLegal = [=](double, double, double, void*) -> bool {
@@ -129,22 +125,21 @@ const Operation operations[] = {
      [](DialogFixture& fixture) {
          fixture.click("m_pPadTB");
          QTest::keyClick(&fixture.find("m_pDrilNxLE"), Qt::Key_3);
-     },
-     Exceptions::PassThrough, Unit::Mil},
+     }},
     {"isSymbolValueLegal",
      [](Thrown kind) {
          uiApiOverrides().isSymbolValueLegal = [=](const QString&, double, double, void*) -> bool {
              throwAs(kind);
          };
      },
-     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, Exceptions::PassThrough, Unit::Mil},
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }},
     {"setSymbolUIData",
      [](Thrown kind) {
          uiApiOverrides().setSymbolUIData = [=](const QString&, int) -> QString { throwAs(kind); };
      },
      typeSymbol, Exceptions::PassThrough, Unit::Metric},
     {"the canvas", [](Thrown) {},  // its message handler throws; see throwing()
-     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }, Exceptions::PassThrough, Unit::Mil},
+     [](DialogFixture& fixture) { fixture.click("m_pPadTB"); }},
 };
 
 /// An answer of the host that makes no sense.
