@@ -1,9 +1,6 @@
 #pragma once
 
-#include "messages/MessageLog.h"
-#include "window/WorkbenchWindow.h"
-
-#include <memory>
+#include "StartWorkbench.h"
 
 /// The workbench with its sample jobs, shown and active on the display. `log` gets its messages
 /// and starts empty; it must outlive the window.

@@ -3,10 +3,7 @@
 #include "Desktop.h"
 #include "FindChild.h"
 #include "Main.h"
-#include "messages/MessageLog.h"
-#include "window/WorkbenchWindow.h"
-
-#include <CamApiStandIn.h>
+#include "StartWorkbench.h"
 
 #include <QAction>
 #include <QDockWidget>
@@ -43,11 +40,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        CanvasHost::loadJobs(JOB_FILE);
-        Options options;
-        options.moduleDirectory = MODULE_DIR;
-        m_window = std::make_unique<WorkbenchWindow>(options, &m_log);
-        m_window->start();
+        m_window = startWorkbench(m_log);
         m_window->show();
         Desktop::waitForWindow(m_window.get());
     }

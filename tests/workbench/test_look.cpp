@@ -3,10 +3,9 @@
 #include "ErrorOf.h"
 #include "FindChild.h"
 #include "Main.h"
-#include "messages/MessageLog.h"
+#include "StartWorkbench.h"
 #include "window/Language.h"
 #include "window/Look.h"
-#include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>
 #include <Files.h>
@@ -129,14 +128,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, language);
         Options options;
-        options.moduleDirectory = MODULE_DIR;
         options.fontSize = 20;
         options.language = language;
         Look::dress(options);
-        CanvasHost::loadJobs(JOB_FILE);
         MessageLog log;
-        WorkbenchWindow window(options, &log);
-        window.start();
+        const auto started = startWorkbench(log, options);
+        WorkbenchWindow& window = *started;
         window.resize(1366, 760);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));

@@ -2,10 +2,8 @@
 
 #include "FindChild.h"
 #include "Main.h"
-#include "messages/MessageLog.h"
-#include "window/WorkbenchWindow.h"
+#include "StartWorkbench.h"
 
-#include <CamApiStandIn.h>
 #include <Settings.h>
 
 #include <QAbstractButton>
@@ -56,13 +54,9 @@ private:
 private Q_SLOTS:
     void init()
     {
-        CanvasHost::loadJobs(JOB_FILE);
         m_window.reset();
-        Options options;
-        options.moduleDirectory = MODULE_DIR;
         m_log = std::make_unique<MessageLog>();
-        m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
-        m_window->start();
+        m_window = startWorkbench(*m_log);
         m_window->show();
     }
     void cleanup()
@@ -195,14 +189,11 @@ private Q_SLOTS:
     {
         CanvasHost::Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
         init();
-        Options options;
-        options.moduleDirectory = MODULE_DIR;
-        WorkbenchWindow second(options, m_log.get());
-        second.start();
-        QVERIFY(second.pos().x() > m_window->pos().x());
-        QVERIFY(second.pos().y() > m_window->pos().y());
-        QVERIFY(second.screen()->availableGeometry().contains(second.frameGeometry()));
-        second.close();
+        const auto second = startWorkbench(*m_log);
+        QVERIFY(second->pos().x() > m_window->pos().x());
+        QVERIFY(second->pos().y() > m_window->pos().y());
+        QVERIFY(second->screen()->availableGeometry().contains(second->frameGeometry()));
+        second->close();
         QVERIFY(!CanvasHost::Settings::value("window/geometry").isValid());
         m_window->close();
         QVERIFY(CanvasHost::Settings::value("window/geometry").isValid());

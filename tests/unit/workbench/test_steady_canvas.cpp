@@ -3,15 +3,12 @@
 
 #include "FindChild.h"
 #include "Main.h"
+#include "StartWorkbench.h"
 #include "messages/HostState.h"
-#include "messages/MessageLog.h"
 #include "plugin/MessageCodes.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
-#include "window/WorkbenchWindow.h"
-
-#include <CamApiStandIn.h>
 
 #include <QAbstractScrollArea>
 #include <QComboBox>
@@ -36,12 +33,9 @@ class TestSteadyCanvas : public QObject {
     {
         m_window.reset();
         Options options;
-        options.moduleDirectory = MODULE_DIR;
         options.language = language;
-        CanvasHost::loadJobs(JOB_FILE);
         m_log = std::make_unique<MessageLog>();
-        m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
-        m_window->start();
+        m_window = startWorkbench(*m_log, options);
         m_window->resize(1200, 860);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));

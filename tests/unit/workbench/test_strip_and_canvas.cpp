@@ -2,12 +2,9 @@
 
 #include "FindChild.h"
 #include "Main.h"
+#include "StartWorkbench.h"
 #include "messages/HostState.h"
-#include "messages/MessageLog.h"
 #include "plugin/MessageCodes.h"
-#include "window/WorkbenchWindow.h"
-
-#include <CamApiStandIn.h>
 
 #include <QAbstractScrollArea>
 #include <QCheckBox>
@@ -86,12 +83,8 @@ class TestStripAndCanvas : public QObject {
 private Q_SLOTS:
     void init()
     {
-        Options options;
-        options.moduleDirectory = MODULE_DIR;
-        CanvasHost::loadJobs(JOB_FILE);
         m_log = std::make_unique<MessageLog>();
-        m_window = std::make_unique<WorkbenchWindow>(options, m_log.get());
-        m_window->start();
+        m_window = startWorkbench(*m_log);
         m_window->resize(1200, 860);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
