@@ -5,10 +5,10 @@
 namespace {
 
 // Tables of tests use these before main() starts.
-constexpr QLatin1String information("Information");
-constexpr QLatin1String lengthStart("The current text box can only enter a value from 0 to");
-constexpr QLatin1String coordinateStart("The current value out of range:");
-constexpr QLatin1String numberStart("The value must lie between ");
+constexpr char information[] = "Information";
+constexpr char lengthStart[] = "The current text box can only enter a value from 0 to";
+constexpr char coordinateStart[] = "The current value out of range:";
+constexpr char numberStart[] = "The value must lie between ";
 
 }  // namespace
 
@@ -49,7 +49,9 @@ BoxText anyLength()
 
 BoxText coordinate(int bound)
 {
-    return {information, QStringLiteral("%1%2 to %3").arg(coordinateStart).arg(-bound).arg(bound)};
+    return {
+        information,
+        QStringLiteral("%1%2 to %3").arg(QLatin1String(coordinateStart)).arg(-bound).arg(bound)};
 }
 
 BoxText anyCoordinate()
@@ -59,7 +61,8 @@ BoxText anyCoordinate()
 
 BoxText number(int least, int most)
 {
-    return {information, QStringLiteral("%1%2 and %3.").arg(numberStart).arg(least).arg(most)};
+    return {information,
+            QStringLiteral("%1%2 and %3.").arg(QLatin1String(numberStart)).arg(least).arg(most)};
 }
 
 BoxText anyNumber()

@@ -239,9 +239,9 @@ private Q_SLOTS:
         for (const auto& expected : labels) {
             QCOMPARE(fixture.find<QLabel>(expected.label).text(), QString(expected.text));
         }
-        const auto& line = fixture.find<QFrame>("m_pPadColumnsFrame");
-        QCOMPARE(line.frameShape(), QFrame::VLine);
-        QCOMPARE(line.frameShadow(), QFrame::Sunken);
+        const auto& divider = fixture.find<QFrame>("m_pPadColumnsFrame");
+        QCOMPARE(divider.frameShape(), QFrame::VLine);
+        QCOMPARE(divider.frameShadow(), QFrame::Sunken);
     }
 
     void columns()
