@@ -62,9 +62,9 @@ QVector<Entry> chosenEntries()
         const char* typed;
     } chosen[] = {
         {"m_pPadTB", "m_pSymbolTextLE", "s20"},   {"m_pPadTB", "m_pAngleValueSB", "45"},
-        {"m_pPadTB", "m_pDrilDxLE", "10"},        {"m_pPadTB", "m_pDrilDxLE", "100005"},
-        {"m_pLineTB", "m_pCornerRadiusLE", "10"}, {"m_pLineTB", "m_pCornerRadiusLE", "50005"},
-        {"m_pTextTB", "m_pXSizeLE", "100"},       {"m_pTextTB", "m_pXSizeLE", "10005"},
+        {"m_pPadTB", "m_pDrilDxLE", "10"},        {"m_pPadTB", "m_pDrilDxLE", "100001"},
+        {"m_pLineTB", "m_pCornerRadiusLE", "10"}, {"m_pLineTB", "m_pCornerRadiusLE", "50001"},
+        {"m_pTextTB", "m_pXSizeLE", "100"},       {"m_pTextTB", "m_pXSizeLE", "10001"},
         {"m_pTextTB", "m_pTextLE", "abc"},
     };
     QVector<Entry> found;
