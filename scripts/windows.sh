@@ -1,0 +1,70 @@
+#!/usr/bin/env bash
+# Builds everything for Windows with Debian's cross compiler, and tests it under Wine.
+# Usage: scripts/windows.sh [tools | build | test [ctest options]]
+#   tools  installs the compiler, Wine and what else is needed
+#   build  Qt and the other libraries, once, which takes the better part of an hour; then the tree,
+#          into build/windows
+#   test   runs the tests
+# Without a step all three are done. What was broken off goes on where it was. The libraries are kept
+# in the folder CTS_WINDOWS_CACHE, by default ~/.cache/canvas-tool-strip/windows.
+set -u
+. "$(dirname "$0")/prepare.sh"
+
+say() { printf '%(%H:%M:%S)T %s\n' -1 "$*"; }
+fail() {
+    echo "$*" >&2
+    exit 1
+}
+. scripts/windows/libraries.sh
+out=build/windows
+
+tools() {
+    say "tools"
+    need_packages build run bench test windows
+}
+
+# The tree is configured from the start when it finds other libraries than last time.
+build_tree() {
+    local fresh=() linguist
+    say "the tree, into $out"
+    linguist=$(dpkg -L qttools5-dev | grep /Qt5LinguistToolsConfig.cmake)
+    [ "$(cat "$out/libraries" 2>/dev/null)" = "${prefixes[*]}" ] || fresh=(--fresh)
+    mkdir -p "$out"
+    cmake --preset windows "${fresh[@]}" -DCMAKE_PREFIX_PATH="$(IFS=';'; echo "${prefixes[*]}")" \
+        -DQt5LinguistTools_DIR="${linguist%/*}" >"$out/configure.log" 2>&1 ||
+        { tail -n 30 "$out/configure.log" >&2; fail "configuring failed"; }
+    echo "${prefixes[*]}" >"$out/libraries"
+    cmake --build "$out" || exit 1
+}
+
+# What a program needs to run under Wine, with a folder and a server of its own.
+start_wine() {
+    export WINEPREFIX=$root/$out/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
+    WINEPATH=$root/$out/modules\;$root/$out/system\;$(printf '%s/bin;' "${prefixes[@]}")
+    export WINEPATH
+    if [ ! -e "$WINEPREFIX/complete" ]; then
+        say "a folder for Wine"
+        rm -rf "$WINEPREFIX"
+        wineboot --init >"$out/wine.log" 2>&1 || { cat "$out/wine.log"; fail "Wine does not start"; }
+        wineserver --wait
+        touch "$WINEPREFIX/complete"
+    fi
+    # The server holds whatever output it was started with, and would keep the first reader waiting.
+    wineserver --persistent >/dev/null 2>&1
+    trap 'wineserver --kill' EXIT
+}
+
+run_tests() {
+    say "tests"
+    start_wine
+    ctest --test-dir "$out" --output-on-failure --label-exclude border \
+        --parallel "$(nproc)" "$@"
+}
+
+case ${1:-all} in
+all) tools && build_libraries && build_tree && run_tests ;;
+tools) tools ;;
+build) build_libraries && build_tree ;;
+test) build_libraries && run_tests "${@:2}" ;;
+*) fail "unknown step \"$1\": tools, build or test" ;;
+esac
