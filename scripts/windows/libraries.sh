@@ -105,6 +105,11 @@ qt_configure() {
             -qt-harfbuzz -qt-doubleconversion
 }
 
+# A part of mkspecs/ is among the include folders of those who use Qt.
+qt_mkspecs() {
+    mkdir -p "$qt/mkspecs" && cp -r source/mkspecs/common source/mkspecs/win32-g++ "$qt/mkspecs"
+}
+
 # qt_make FOLDER-OR-PROJECT, in src/ of Qt
 qt_make() {
     local folder=$1 project=
@@ -149,6 +154,7 @@ build_qt() {
     qmake=$work/source/bin/qmake
     link_qt_tools
     once "$work" configure qt_configure
+    once "$work" mkspecs qt_mkspecs
     for folder in "${qt_folders[@]}"; do
         once "$work" "${folder//\//-}" qt_make "$folder"
     done
@@ -188,6 +194,6 @@ build_libraries() {
         -DWITH_UNWIND=OFF
     cmake_library libzint-dev . -DZINT_USE_PNG=OFF -DZINT_USE_QT=OFF
     cmake_library libpolyclipping-dev cpp
-    cmake_library libbenchmark-dev . -DBENCHMARK_ENABLE_TESTING=OFF -DBENCHMARK_ENABLE_WERROR=OFF \
-        -DBENCHMARK_INSTALL_DOCS=OFF
+    cmake_library libbenchmark-dev . -DGIT_VERSION="$(dpkg-query -W -f='${Version}' libbenchmark-dev)" \
+        -DBENCHMARK_ENABLE_TESTING=OFF -DBENCHMARK_ENABLE_WERROR=OFF -DBENCHMARK_INSTALL_DOCS=OFF
 }

@@ -3,6 +3,10 @@
 # and the status is the program's. WINEPATH names the folders of libraries.
 # Usage: wine.sh PROGRAM ARGUMENT...
 export WINEDEBUG=${WINEDEBUG:--all}
+# Wine keeps variables that begin with QT_ to itself, and takes WINEQT_ for them.
+for name in ${!QT_@}; do
+    export "WINE$name=${!name}"
+done
 {
     wine "$@" 2>&1 >&3 3>&- | sed -u 's/\r$//' >&2
     exit "${PIPESTATUS[0]}"
