@@ -25,13 +25,12 @@ tools() {
 
 # The tree is configured from the start when it finds other libraries than last time.
 build_tree() {
-    local fresh=() linguist
+    local fresh=()
     say "the tree, into $out"
-    linguist=$(dpkg -L qttools5-dev | grep /Qt5LinguistToolsConfig.cmake)
     [ "$(cat "$out/libraries" 2>/dev/null)" = "${prefixes[*]}" ] || fresh=(--fresh)
     mkdir -p "$out"
     cmake --preset windows "${fresh[@]}" -DCMAKE_PREFIX_PATH="$(IFS=';'; echo "${prefixes[*]}")" \
-        -DQt5LinguistTools_DIR="${linguist%/*}" >"$out/configure.log" 2>&1 ||
+        >"$out/configure.log" 2>&1 ||
         { tail -n 30 "$out/configure.log" >&2; fail "configuring failed"; }
     echo "${prefixes[*]}" >"$out/libraries"
     cmake --build "$out" || exit 1
@@ -42,6 +41,10 @@ start_wine() {
     export WINEPREFIX=$root/$out/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
     WINEPATH=$root/$out/modules\;$root/$out/system\;$(printf '%s/bin;' "${prefixes[@]}")
     export WINEPATH
+    # Without a screen Qt draws with the fonts of one folder.
+    export QT_QPA_FONTDIR=$root/$out/fonts
+    mkdir -p "$QT_QPA_FONTDIR"
+    ln -sf $(dpkg -L fonts-dejavu-core fonts-wqy-microhei | grep '\.tt[cf]$') "$QT_QPA_FONTDIR"
     if [ ! -e "$WINEPREFIX/complete" ]; then
         say "a folder for Wine"
         rm -rf "$WINEPREFIX"
@@ -49,9 +52,11 @@ start_wine() {
         wineserver --wait
         touch "$WINEPREFIX/complete"
     fi
-    # The server holds whatever output it was started with, and would keep the first reader waiting.
+    # The server, and what the first program starts, hold the output that they were started with,
+    # and would keep its reader waiting.
     wineserver --persistent >/dev/null 2>&1
     trap 'wineserver --kill' EXIT
+    wineboot >/dev/null 2>&1
 }
 
 run_tests() {

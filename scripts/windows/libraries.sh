@@ -125,13 +125,14 @@ qt_svg() {
 }
 
 # Qt's build and CMake look for the tools beside the libraries; Debian's, of the same version, run on
-# this machine.
+# this machine. Qt's own texts in other languages are the same for all.
 link_qt_tools() {
     local tool
     mkdir -p "$qt/bin"
     for tool in moc qmake qvkgen rcc uic; do
         ln -sf "/usr/lib/qt5/bin/$tool" "$qt/bin/$tool"
     done
+    ln -sfn "$(/usr/lib/qt5/bin/qmake -query QT_INSTALL_TRANSLATIONS)" "$qt/translations"
 }
 
 # What the compiler's programs need at run time.

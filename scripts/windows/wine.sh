@@ -7,8 +7,11 @@ export WINEDEBUG=${WINEDEBUG:--all}
 for name in ${!QT_@}; do
     export "WINE$name=${!name}"
 done
+program=$1
+shift
+[ -e "$program.exe" ] && program+=.exe
 {
-    wine "$@" 2>&1 >&3 3>&- | sed -u 's/\r$//' >&2
+    wine "$program" "$@" 2>&1 >&3 3>&- | sed -u 's/\r$//' >&2
     exit "${PIPESTATUS[0]}"
 } 3>&1 | sed -u 's/\r$//'
 exit "${PIPESTATUS[0]}"

@@ -3,6 +3,6 @@
 case $1 in
 *.dll)
     objdump -p "$1" |
-        sed -n '/^\[Ordinal\/Name Pointer\] Table/,/^$/s/.*[] ]\([A-Za-z_][^ ]*\)$/\1/p' ;;
+        sed -n '/^\[Ordinal\/Name Pointer\] Table/,/^$/s/^\t.*[] ]\([A-Za-z_][^ ]*\)$/\1/p' ;;
 *) nm -D --defined-only "$1" | cut -d' ' -f3- ;;
 esac

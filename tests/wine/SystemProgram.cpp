@@ -1,6 +1,6 @@
-// Lets a test that runs under Wine call a program of the system below, such as zbarimg: as NAME.exe it
-// runs NAME, with names of files translated, and hands on what it prints and its exit status. Wine
-// starts such programs by itself, but neither waits for them nor connects them to pipes.
+// Lets a test that runs under Wine call a program of the system below, such as zbarimg: as NAME.exe
+// it runs NAME, with names of files translated, and hands on what it prints and its exit status.
+// Wine starts such programs by itself, but neither waits for them nor connects them to pipes.
 
 #include <cstdio>
 #include <string>
