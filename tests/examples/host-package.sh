@@ -35,7 +35,7 @@ for library in plugins cam ui widgets; do
 done
 
 run cmake -S "$source" -B "$work/module" "$@" -DCTS_CHECK_HOST=ON
-grep -qE "$host/(lib/libhost_widgets.so|bin/host_widgets.dll)" "$work/module/build.ninja"
+grep -qE "$host/lib/(libhost_widgets.so|host_widgets.lib)" "$work/module/build.ninja"
 
 # A host that is missing from the given place is named.
 if cmake -S "$source/tests/examples/host_user" -B "$work/nowhere" -G Ninja "$package" \
