@@ -36,22 +36,29 @@ build_tree() {
     cmake --build "$out" || exit 1
 }
 
-# What a program needs to run under Wine, with a folder and a server of its own.
+# wine_folder NAME: a folder for Wine, made once.
+wine_folder() {
+    export WINEPREFIX=$root/$out/$1
+    [ -e "$WINEPREFIX/complete" ] && return
+    say "Wine's folder $1"
+    rm -rf "$WINEPREFIX"
+    wineboot --init >"$out/wine.log" 2>&1 || { cat "$out/wine.log"; fail "Wine does not start"; }
+    wineserver --wait
+    touch "$WINEPREFIX/complete"
+}
+
+# What a program needs to run under Wine, and a server that stays. Tests on a display have another
+# folder, and so a server that starts and ends with each: one server knows one screen.
 start_wine() {
-    export WINEPREFIX=$root/$out/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
+    export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
     WINEPATH=$root/$out/modules\;$root/$out/system\;$(printf '%s/bin;' "${prefixes[@]}")
     export WINEPATH
     # Without a screen Qt draws with the fonts of one folder.
     export QT_QPA_FONTDIR=$root/$out/fonts
     mkdir -p "$QT_QPA_FONTDIR"
     ln -sf $(dpkg -L fonts-dejavu-core fonts-wqy-microhei | grep '\.tt[cf]$') "$QT_QPA_FONTDIR"
-    if [ ! -e "$WINEPREFIX/complete" ]; then
-        say "a folder for Wine"
-        rm -rf "$WINEPREFIX"
-        wineboot --init >"$out/wine.log" 2>&1 || { cat "$out/wine.log"; fail "Wine does not start"; }
-        wineserver --wait
-        touch "$WINEPREFIX/complete"
-    fi
+    wine_folder wine-on-display
+    wine_folder wine
     # The server, and what the first program starts, hold the output that they were started with,
     # and would keep its reader waiting.
     wineserver --persistent >/dev/null 2>&1
