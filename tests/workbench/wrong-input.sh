@@ -44,6 +44,8 @@ expect 2 "Unknown option 'bogus'" -bogus
 expect 2 "unexpected argument \"$dir\"" "$dir"
 expect 2 "foot" --unit foot
 expect 2 "$dir/absent.json" --job "$dir/absent.json"
+chinese=$(printf '\346\235\277')
+expect 2 "$dir/$chinese.json: " --job "$dir/$chinese.json"
 expect 2 "$dir:" --job "$dir"
 expect 2 "$dir/binary.json:1: " --job "$dir/binary.json"
 expect 2 "$dir/open.json:3: " --job "$dir/open.json"
