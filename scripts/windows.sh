@@ -50,7 +50,7 @@ wine_folder() {
 # What a program needs to run under Wine, and a server that stays. Tests on a display have another
 # folder, and so a server that starts and ends with each: one server knows one screen.
 start_wine() {
-    export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
+    export WINEDEBUG=-all,err+module WINEDLLOVERRIDES='mscoree=;mshtml='
     WINEPATH=$root/$out/modules\;$root/$out/system\;$(printf '%s/bin;' "${prefixes[@]}")
     export WINEPATH
     # Without a screen Qt draws with the fonts of one folder.
