@@ -30,7 +30,8 @@ own_apt() {
     local program=$1
     shift
     "$program" -o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$cache/apt/entries" \
-        -o Dir::State::Lists="$cache/apt/lists" -o APT::Sandbox::User=root "$@"
+        -o Dir::State::Lists="$cache/apt/lists" -o Dir::Cache="$cache/apt" \
+        -o APT::Sandbox::User=root "$@"
 }
 
 # update_sources: once per run; an entry of another archive that has no sources does no harm.
@@ -40,7 +41,7 @@ update_sources() {
     say "lists of Debian's source packages"
     local entries=$cache/apt/entries file
     rm -rf "$entries"
-    mkdir -p "$entries" "$cache/apt/lists/partial"
+    mkdir -p "$entries" "$cache/apt/lists/partial" "$cache/apt/archives/partial"
     for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
         [ -e "$file" ] && sed -nE 's/^deb(-src)?\s/deb-src /p' "$file" >"$entries/${file##*/}.list"
     done
