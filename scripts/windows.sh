@@ -2,8 +2,8 @@
 # Builds everything for Windows with Debian's cross compiler, and tests it under Wine.
 # Usage: scripts/windows.sh [tools | build | test [ctest options]]
 #   tools  installs the compiler, Wine and what else is needed
-#   build  Qt and the other libraries, once, which takes the better part of an hour; then the tree,
-#          into build/windows
+#   build  Qt and the other libraries, once, which takes twenty minutes or more; then the tree, into
+#          build/windows
 #   test   runs the tests
 # Without a step all three are done. What was broken off goes on where it was. The libraries are kept
 # in the folder CTS_WINDOWS_CACHE, by default ~/.cache/canvas-tool-strip/windows.
@@ -17,11 +17,6 @@ fail() {
 }
 . scripts/windows/libraries.sh
 out=build/windows
-
-tools() {
-    say "tools"
-    need_packages build run bench test windows
-}
 
 # The tree is configured from the start when it finds other libraries than last time.
 build_tree() {
@@ -58,7 +53,7 @@ start_wine() {
     mkdir -p "$QT_QPA_FONTDIR"
     ln -sf $(dpkg -L fonts-dejavu-core fonts-wqy-microhei | grep '\.tt[cf]$') "$QT_QPA_FONTDIR"
     wine_folder wine-on-display
-    wine_folder wine
+    wine_folder wine  # the one that counts from here on
     # The server, and what the first program starts, hold the output that they were started with,
     # and would keep its reader waiting.
     wineserver --persistent >/dev/null 2>&1
@@ -70,12 +65,13 @@ run_tests() {
     say "tests"
     start_wine
     ctest --test-dir "$out" --output-on-failure --label-exclude border \
-        --parallel "$(nproc)" "$@"
+        --parallel "$((2 * $(nproc)))" "$@"
 }
 
+need_packages build run bench test windows
 case ${1:-all} in
-all) tools && build_libraries && build_tree && run_tests ;;
-tools) tools ;;
+all) build_libraries && build_tree && run_tests ;;
+tools) ;;
 build) build_libraries && build_tree ;;
 test) build_libraries && run_tests "${@:2}" ;;
 *) fail "unknown step \"$1\": tools, build or test" ;;

@@ -140,7 +140,7 @@ link_qt_tools() {
 link_runtime() {
     local library
     for library in libstdc++-6 libgcc_s_seh-1 libwinpthread-1; do
-        ln -sf "$("$compiler-g++" -print-file-name="$library.dll")" "$qt/bin/$library.dll"
+        ln -sf "$("$compiler-g++-posix" -print-file-name="$library.dll")" "$qt/bin/$library.dll"
     done
 }
 
