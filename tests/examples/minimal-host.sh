@@ -23,6 +23,7 @@ if ninja -C "$work/build" -t deps | grep -E "$source/(host|plugin|toolbar)/"; th
 fi
 
 # For Windows: the libraries of the host are in bin/.
-WINEPATH="$work/prefix/bin;${WINEPATH:-}" $emulator "$work/build/minimal_host" --quit >"$work/printed" 2>"$work/errors" ||
+export WINEPATH="$work/prefix/bin;${WINEPATH:-}"
+$emulator "$work/build/minimal_host" --quit >"$work/printed" 2>"$work/errors" ||
     { echo "status $?"; cat "$work/printed" "$work/errors"; exit 1; }
 diff "$source/tests/examples/minimal-host.expected" "$work/printed"

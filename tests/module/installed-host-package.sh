@@ -17,8 +17,8 @@ cmake -S "$source" -B "$work/module" -G Ninja -DCMAKE_BUILD_TYPE="$type" \
 cmake --build "$work/module" --target Canvas_Tool_Strip host_check >"$work/build.log" ||
     { cat "$work/build.log"; exit 1; }
 # For Windows: the libraries of the host are in bin/, the module in modules/.
-WINEPATH="$work/prefix/bin;$work/module/modules;${WINEPATH:-}" \
-    $emulator "$work/module/bin/host_check" --unit inch 2>"$work/check.log" || { cat "$work/check.log"; exit 1; }
+export WINEPATH="$work/prefix/bin;$work/module/modules;${WINEPATH:-}"
+$emulator "$work/module/bin/host_check" --unit inch 2>"$work/check.log" || { cat "$work/check.log"; exit 1; }
 
 # The headers came from the installed package, not from the tree.
 for header in cam_api.h ui_api.h common_widgets.h QTpluginsManger4CAM.h PluginMetaData.h; do
@@ -40,8 +40,8 @@ if ninja -C "$work/sibling" -t deps | grep -E "$source/(plugin|toolbar|host)/"; 
     echo "the sibling reached into the tree"
     exit 1
 fi
-if "$source/tests/module/exports.sh" "$(ls "$work/sibling"/libSibling.so "$work/sibling"/libSibling.dll 2>/dev/null)" | c++filt |
-    grep -E 'MessageCodes|staticMetaObject'; then
+sibling=$(find "$work/sibling" -name 'libSibling.so' -o -name 'libSibling.dll')
+if "$source/tests/module/exports.sh" "$sibling" | c++filt | grep -E 'MessageCodes|staticMetaObject'; then
     echo "the sibling exports its copy of the protocol"
     exit 1
 fi
