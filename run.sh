@@ -8,7 +8,7 @@ set -u
 need_packages build run
 build release workbench_all
 
-workbench=build/release/bin/workbench
+workbench=build/release/bin/canvas-workbench
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     exec "$workbench" --job workbench/samples/board.json "$@"
 fi

@@ -34,14 +34,3 @@ private:
     long m_count = 0;
     PluginMetaData m_last{{}, {}};
 };
-
-/// While it lives, the plug-in manager that the module is linked with gives every message, which it
-/// gets by value, straight to `canvas`. The manager of the stand-ins looks instances up and shows
-/// messages to an observer, which is not the module's work.
-class Connected {
-public:
-    explicit Connected(CanvasFloor& canvas);
-    ~Connected();
-    Connected(const Connected&) = delete;
-    Connected& operator=(const Connected&) = delete;
-};

@@ -1,6 +1,6 @@
 // Figures for a click on a tool, until the canvas has its message.
 
-#include "Canvas.h"
+#include "Connected.h"
 #include "Groups.h"
 #include "Panel.h"
 #include "Runner.h"

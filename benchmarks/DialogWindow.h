@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Canvas.h"
+#include "Connected.h"
 #include "Panel.h"
 
 class AddFeature;

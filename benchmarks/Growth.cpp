@@ -1,6 +1,6 @@
 // How times grow with the amount that comes in at once.
 
-#include "Canvas.h"
+#include "Connected.h"
 #include "DialogWindow.h"
 #include "Groups.h"
 #include "Panel.h"

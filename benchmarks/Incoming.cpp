@@ -1,6 +1,6 @@
 // Figures for a message from a sibling module, handed to the exported entry point.
 
-#include "Canvas.h"
+#include "Connected.h"
 #include "DialogWindow.h"
 #include "Groups.h"
 #include "Panel.h"

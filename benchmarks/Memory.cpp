@@ -2,14 +2,13 @@
 
 #include "DialogWindow.h"
 #include "Groups.h"
+#include "Heap.h"
 #include "Runner.h"
 #include "addfeature/AddFeature.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <QLayoutItem>
 #include <QToolButton>
-
-#include <malloc.h>
 
 namespace {
 
@@ -19,8 +18,7 @@ double heldBytes(const DialogWindow& window)
     qobject_cast<QToolButton*>(window.strip->itemAt(int(Tool::MoveFeature))->widget())->click();
     window.dialog->on_m_pPolarityCMB_ComboBox_Changed();
     QApplication::processEvents();
-    const auto heap = mallinfo2();
-    return double(heap.uordblks) + double(heap.hblkhd);
+    return Heap::heldBytes();
 }
 
 /// Every tool in turn, and a record after each.

@@ -1,6 +1,7 @@
 // Measures every figure next to its floor, and prints one table.
 
 #include "Groups.h"
+#include "Heap.h"
 #include "Runner.h"
 #include "Table.h"
 
@@ -13,9 +14,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <limits>
-
-#include <malloc.h>
 
 namespace {
 
@@ -30,14 +28,6 @@ void silenceLogs(char* program)
     google::InitGoogleLogging(program);
     QLoggingCategory::setFilterRules(
         QStringLiteral("canvastoolstrip.*=false\ndefault.warning=false"));
-}
-
-/// Memory that was allocated once is kept, as in a host that runs for long: what the kernel does to
-/// hand out empty pages again is not the work of either side.
-void keepMemory()
-{
-    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
-    mallopt(M_MMAP_MAX, 0);
 }
 
 void startBenchmarks(char* program)
@@ -111,7 +101,7 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    keepMemory();
+    Heap::keepMemory();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QString jsonFile;

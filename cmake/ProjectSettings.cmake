@@ -10,6 +10,8 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# Not every Qt 5 that a host may run reads rcc's newer formats; all read version 2.
+set(CMAKE_AUTORCC_OPTIONS --format-version 2)
 # The meta-object and resource compilers run where a target asks for them: each costs four build
 # steps. No AUTOUIC: it would take the host header ui_api.h for a form.
 

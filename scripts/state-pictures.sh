@@ -16,7 +16,7 @@ picture() {
     shift 2
     sed "s#OUT#$out/$tag#" scripts/state-pictures.session >"$out/session"
     QT_SCALE_FACTOR=$scale scripts/with-display.sh \
-        build/release/bin/workbench --job workbench/samples/board.json --play "$out/session" \
+        build/release/bin/canvas-workbench --job workbench/samples/board.json --play "$out/session" \
         --exit "$@" >"$out/log" 2>&1 || {
         cat "$out/log" >&2
         exit 1

@@ -32,7 +32,7 @@ int fail(const QLibrary& library)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    QLibrary log(QStringLiteral("glog"), 1);
+    QLibrary log(QStringLiteral(LOG_LIBRARY));
     if (argc > 2 && std::strcmp(argv[1], "log") == 0 && !log.load()) {
         return fail(log);
     }

@@ -71,12 +71,8 @@ const Instance* receiverOf(void* sender, const QString& module)
 
 QString libraryFile(const QString& moduleName, const QString& directory)
 {
-#ifdef Q_OS_WIN
-    const QString suffix = QStringLiteral(".dll");
-#else
-    const QString suffix = QStringLiteral(".so");
-#endif
-    return QDir(directory).filePath(QFileInfo(moduleName).completeBaseName() + suffix);
+    return QDir(directory).filePath(QFileInfo(moduleName).completeBaseName() +
+                                    QStringLiteral(MODULE_SUFFIX));
 }
 
 void fail(QString* error, const QString& text)

@@ -5,6 +5,17 @@
 #include <QSaveFile>
 
 namespace CanvasHost {
+namespace {
+
+/// Windows tells what is wrong in its own words and language; what is wrong most often is told alike
+/// everywhere, by a text that Qt has in all of its languages.
+FileError missing(const QString& file)
+{
+    static const char* const text = "No such file or directory";
+    return {file, 0, QCoreApplication::translate("QIODevice", text)};
+}
+
+}  // namespace
 
 FileError fileError(const QFileDevice& device)
 {
@@ -20,6 +31,9 @@ FileError fileError(const QFileDevice& device)
 QByteArray readWhole(const QString& file)
 {
     QFile device(file);
+    if (!device.exists()) {
+        throw missing(file);
+    }
     QByteArray content;
     if (device.open(QIODevice::ReadOnly)) {
         content = device.readAll();

@@ -1,8 +1,9 @@
 #!/bin/sh
 # Builds a program that uses a host's libraries through examples/host_package; the module can be
-# configured with them. Usage: host-package.sh SOURCE HOST WORK SANITIZE   (HOST/lib holds the libraries)
+# configured with them. Usage: host-package.sh SOURCE HOST WORK SANITIZE [EMULATOR]
+# HOST holds the libraries: in lib/, those of Windows in bin/.
 set -eu
-source=$1 host=$2 work=$3 sanitize=$4
+source=$1 host=$2 work=$3 sanitize=$4 emulator=${5:-}
 package=-DCanvasHost_DIR=$source/examples/host_package
 
 # run COMMAND...: prints the command's output if it fails.
@@ -21,18 +22,20 @@ set -- -G Ninja -DCMAKE_BUILD_TYPE=None -DCMAKE_CXX_FLAGS="$flags" "$package" \
 
 run cmake -S "$source/tests/examples/host_user" -B "$work/user" "$@"
 run cmake --build "$work/user"
-CANVAS_HOST_UNIT=mm "$work/user/host_user" 2>"$work/log" || { cat "$work/log"; exit 1; }
-if CANVAS_HOST_UNIT=mil "$work/user/host_user" 2>/dev/null; then
+WINEPATH="$host/bin;${WINEPATH:-}"
+export WINEPATH
+CANVAS_HOST_UNIT=mm $emulator "$work/user/host_user" 2>"$work/log" || { cat "$work/log"; exit 1; }
+if CANVAS_HOST_UNIT=mil $emulator "$work/user/host_user" 2>/dev/null; then
     echo "the program does not ask the host"
     exit 1
 fi
 for library in plugins cam ui widgets; do
-    readelf -d "$work/user/host_user" | grep -q "NEEDED.*libhost_$library\.so" ||
-        { echo "libhost_$library.so is not used"; exit 1; }
+    objdump -p "$work/user"/host_user* | grep -qE "(NEEDED|DLL Name:).*host_$library\.(so|dll)" ||
+        { echo "host_$library is not used"; exit 1; }
 done
 
 run cmake -S "$source" -B "$work/module" "$@" -DCTS_CHECK_HOST=ON
-grep -q "$host/lib/libhost_widgets.so" "$work/module/build.ninja"
+grep -qE "$host/lib/(libhost_widgets.so|host_widgets.lib)" "$work/module/build.ninja"
 
 # A host that is missing from the given place is named.
 if cmake -S "$source/tests/examples/host_user" -B "$work/nowhere" -G Ninja "$package" \

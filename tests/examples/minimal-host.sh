@@ -1,8 +1,8 @@
 #!/bin/sh
 # Installs the packages, builds examples/minimal_host against them, runs it and compares what it
-# prints. Usage: minimal-host.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
+# prints. Usage: minimal-host.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE [EMULATOR]
 set -eu
-source=$1 build=$2 work=$3 type=$4 sanitize=$5
+source=$1 build=$2 work=$3 type=$4 sanitize=$5 emulator=${6:-}
 example=$source/examples/minimal_host
 
 lines=$(wc -l <"$example/main.cpp")
@@ -22,6 +22,8 @@ if ninja -C "$work/build" -t deps | grep -E "$source/(host|plugin|toolbar)/"; th
     exit 1
 fi
 
-"$work/build/minimal_host" --quit >"$work/printed" 2>"$work/errors" ||
+# For Windows: the libraries of the host are in bin/.
+export WINEPATH="$work/prefix/bin;${WINEPATH:-}"
+$emulator "$work/build/minimal_host" --quit >"$work/printed" 2>"$work/errors" ||
     { echo "status $?"; cat "$work/printed" "$work/errors"; exit 1; }
 diff "$source/tests/examples/minimal-host.expected" "$work/printed"

@@ -1,9 +1,9 @@
 #!/bin/sh
 # Installs the packages, then builds the module a second time against what was installed, as an
 # integrator would, has the host checked, and builds a sibling.
-# Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE
+# Usage: installed-host-package.sh SOURCE BUILD WORK BUILD_TYPE SANITIZE [EMULATOR]
 set -eu
-source=$1 build=$2 work=$3 type=$4 sanitize=$5
+source=$1 build=$2 work=$3 type=$4 sanitize=$5 emulator=${6:-}
 
 rm -rf "$work"
 mkdir -p "$work"
@@ -16,7 +16,9 @@ cmake -S "$source" -B "$work/module" -G Ninja -DCMAKE_BUILD_TYPE="$type" \
     >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
 cmake --build "$work/module" --target Canvas_Tool_Strip host_check >"$work/build.log" ||
     { cat "$work/build.log"; exit 1; }
-"$work/module/bin/host_check" --unit inch 2>"$work/check.log" || { cat "$work/check.log"; exit 1; }
+# For Windows: the libraries of the host are in bin/, the module in modules/.
+export WINEPATH="$work/prefix/bin;$work/module/modules;${WINEPATH:-}"
+$emulator "$work/module/bin/host_check" --unit inch 2>"$work/check.log" || { cat "$work/check.log"; exit 1; }
 
 # The headers came from the installed package, not from the tree.
 for header in cam_api.h ui_api.h common_widgets.h QTpluginsManger4CAM.h PluginMetaData.h; do
@@ -27,7 +29,7 @@ if ninja -C "$work/module" -t deps | grep -F "$source/host/"; then
     echo "the module reached into the tree's host/"
     exit 1
 fi
-"$source/tests/module/exported-names.sh" "$work/module/modules/Canvas_Tool_Strip.so"
+"$source/tests/module/exported-names.sh" "$(ls "$work"/module/modules/Canvas_Tool_Strip.*)"
 
 flags=
 [ "$sanitize" = ON ] && flags=-fsanitize=address,undefined
@@ -38,7 +40,8 @@ if ninja -C "$work/sibling" -t deps | grep -E "$source/(plugin|toolbar|host)/"; 
     echo "the sibling reached into the tree"
     exit 1
 fi
-if nm -D --defined-only -C "$work/sibling/libSibling.so" | grep -E 'MessageCodes|staticMetaObject'; then
+sibling=$(find "$work/sibling" -name 'libSibling.so' -o -name 'libSibling.dll')
+if "$source/tests/module/exports.sh" "$sibling" | c++filt | grep -E 'MessageCodes|staticMetaObject'; then
     echo "the sibling exports its copy of the protocol"
     exit 1
 fi

@@ -2,6 +2,7 @@
 // windows never touch each other.
 
 #include "BoxCatcher.h"
+#include "Heap.h"
 #include "LoadedStrip.h"
 #include "Main.h"
 #include "Recorder.h"
@@ -11,11 +12,9 @@
 #include <QTpluginsManger4CAM.h>
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QLoggingCategory>
-
-#include <dlfcn.h>
-#include <malloc.h>
 
 namespace Sent = MessageCodes::Sent;
 
@@ -42,14 +41,10 @@ void use(const LoadedStrip& host)
     host.dialog()->close();
 }
 
+/// Its pictures are registered for as long as the library is in memory.
 bool isInMemory()
 {
-    const QByteArray file = QFile::encodeName(QStringLiteral(MODULE_DIR) + "/Canvas_Tool_Strip.so");
-    void* const library = dlopen(file.constData(), RTLD_NOLOAD | RTLD_LAZY);
-    if (library) {
-        dlclose(library);
-    }
-    return library != nullptr;
+    return QFileInfo::exists(QStringLiteral(":/Canvas_Tool_Strip"));
 }
 
 }  // namespace
@@ -65,16 +60,17 @@ private Q_SLOTS:
     {
         constexpr int lives = 1000;
         constexpr int warmUp = 200;
-        size_t before = 0;
+        double before = 0;
         int sent = 0;
         for (int life = 0; life < lives; ++life) {
             if (life == warmUp) {
-                before = mallinfo2().uordblks;
+                before = Heap::heldBytes();
             }
             Recorder recorder;
             {
                 const LoadedStrip host;
                 use(host);
+                QVERIFY(isInMemory());
             }
             sent += recorder.last(Sent::Record).message.payload.value(RecordKeys::padNx) ==
                     QVariant("12");
@@ -83,7 +79,7 @@ private Q_SLOTS:
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
         QCOMPARE(sent, lives);
-        const auto grown = qint64(mallinfo2().uordblks) - qint64(before);
+        const double grown = Heap::heldBytes() - before;
         QVERIFY2(isSanitized || grown < 64 * (lives - warmUp),
                  qPrintable(QStringLiteral("%1 bytes").arg(grown)));
     }

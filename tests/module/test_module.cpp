@@ -104,17 +104,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("directory");
         QTest::addColumn<QString>("module");
         QTest::addColumn<QString>("reason");
-        const QString bad = QStringLiteral(BAD_MODULE_DIR);
-        QTest::newRow("missing") << bad << "Missing.dll"
-                                 << "Missing.so: no such file";
-        QTest::newRow("no library") << bad << "NoLibrary.dll"
-                                    << "NoLibrary.so: ";
-        QTest::newRow("no factory") << bad << "NoFactory.dll"
-                                    << "NoFactory.so: no entry point GetPluginInstance";
-        QTest::newRow("no delivery") << bad << "NoDelivery.dll"
-                                     << "NoDelivery.so: no entry point recMsgFromManager";
-        QTest::newRow("no instance") << bad << "NoInstance.dll"
-                                     << "NoInstance.so: gave no instance";
+        const auto row = [](const char* name, const QString& module, const QString& reason) {
+            QTest::newRow(name) << QStringLiteral(BAD_MODULE_DIR) << module + ".dll"
+                                << module + MODULE_SUFFIX ": " + reason;
+        };
+        row("missing", "Missing", "no such file");
+        row("no library", "NoLibrary", "");
+        row("no factory", "NoFactory", "no entry point GetPluginInstance");
+        row("no delivery", "NoDelivery", "no entry point recMsgFromManager");
+        row("no instance", "NoInstance", "gave no instance");
     }
     void refusesWhatIsNoModule()
     {

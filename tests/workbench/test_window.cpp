@@ -7,6 +7,7 @@
 #include <Settings.h>
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -213,7 +214,7 @@ private Q_SLOTS:
         action("m_pNewBoardAct").trigger();
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
         QCOMPARE(list().size(), 1);
-        QCOMPARE(list()[0]->text(), file);
+        QCOMPARE(list()[0]->text(), QDir::toNativeSeparators(file));
         list()[0]->trigger();
         QVERIFY(m_window->windowTitle().startsWith("dropped.json"));
     }

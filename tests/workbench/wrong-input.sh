@@ -36,13 +36,16 @@ printf 'click m_pAddFeatureTB\nclick m_pPadTB\ntype m_pSymbolTextLE x\nkey m_pSy
     >"$dir/box.session"
 mkdir "$dir/modules"
 cp "$modules"/Canvas_Viewer.* "$dir/modules/"
-echo "no library" >"$dir/modules/Canvas_JobTree.so"
+suffix=$(ls "$dir/modules" | sed 's/.*\.//')
+echo "no library" >"$dir/modules/Canvas_JobTree.$suffix"
 
 expect 2 "Unknown option 'bogus'; see --help" --bogus
 expect 2 "Unknown option 'bogus'" -bogus
 expect 2 "unexpected argument \"$dir\"" "$dir"
 expect 2 "foot" --unit foot
 expect 2 "$dir/absent.json" --job "$dir/absent.json"
+chinese=$(printf '\346\235\277')
+expect 2 "$dir/$chinese.json: " --job "$dir/$chinese.json"
 expect 2 "$dir:" --job "$dir"
 expect 2 "$dir/binary.json:1: " --job "$dir/binary.json"
 expect 2 "$dir/open.json:3: " --job "$dir/open.json"
@@ -53,8 +56,8 @@ expect 2 "$dir/jump.session:2: unknown step \"jump\"" --play "$dir/jump.session"
 expect 2 "$dir/binary.session:3: the text is not UTF-8" --play "$dir/binary.session"
 expect 2 "$dir/address.session:1: message 20001811 takes" --play "$dir/address.session"
 expect 2 "$dir/no/trace" --trace "$dir/no/trace"
-expect 2 "$dir/no/Canvas_Viewer.so: no such file" --modules "$dir/no"
-expect 2 "$dir/modules/Canvas_JobTree.so: " --modules "$dir/modules"
+expect 2 "$dir/no/Canvas_Viewer.$suffix: no such file" --modules "$dir/no"
+expect 2 "$dir/modules/Canvas_JobTree.$suffix: " --modules "$dir/modules"
 expect 2 "$dir/no/picture.png" --screenshot "$dir/no/picture.png"
 expect 1 "$dir/absent-widget.session:2: no widget \"m_pMarkTC\"; there is m_pMarkTB" \
     --play "$dir/absent-widget.session"

@@ -2,6 +2,8 @@
 
 #include "board/Paths.h"
 
+#include <QtMath>
+
 #include <algorithm>
 #include <cmath>
 

@@ -220,11 +220,7 @@ Options Options::ofProgram(int argc, char* argv[])
 {
     // Before the program has a screen: wrong options are reported without one as well.
     const QCoreApplication program(argc, argv);
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    }
-    Options options = parse(arguments);
+    Options options = parse(QCoreApplication::arguments());
     if (!options.answer.isEmpty()) {
         fputs(qPrintable(options.answer), stdout);
         ::exit(EXIT_SUCCESS);

@@ -2,14 +2,13 @@
 // features come and go, and how much memory the history takes.
 
 #include "CanvasFixture.h"
+#include "Heap.h"
 #include "Main.h"
 #include "plugin/MessageCodes.h"
 
 #include <QRandomGenerator>
 
 #include <numeric>
-
-#include <malloc.h>
 
 using Pcb::Feature;
 using Pcb::Features;
@@ -41,12 +40,6 @@ const Pcb::Board& largeBoard()
 Pcb::Board fourPads()
 {
     return {{}, {}, {}, {pad(0, 0), pad(2000, 0), pad(4000, 0), pad(6000, 0)}};
-}
-
-double heldBytes()
-{
-    const auto heap = mallinfo2();
-    return double(heap.uordblks) + double(heap.hblkhd);
 }
 
 Indexes allOf(const Document& document)
@@ -236,7 +229,7 @@ private Q_SLOTS:
         QFETCH(int, way);
         Document document(largeBoard());
         const Indexes all = allOf(document);
-        const double before = heldBytes();
+        const double before = Heap::heldBytes();
         for (int i = 0; i < 1000; ++i) {
             Indexes picked;
             if (way == 0) {
@@ -251,7 +244,7 @@ private Q_SLOTS:
             document.select("select", picked);
         }
         QVERIFY(document.history().count() >= 999);
-        const double used = heldBytes() - before;
+        const double used = Heap::heldBytes() - before;
         QVERIFY2(used < (way == 0 ? megabyte : 50 * megabyte), qPrintable(QString::number(used)));
     }
 
@@ -259,14 +252,14 @@ private Q_SLOTS:
     {
         Document document(largeBoard());
         document.select("select", allOf(document));
-        const double before = heldBytes();
+        const double before = Heap::heldBytes();
         for (int i = 0; i < 300; ++i) {
             document.applyBoard("delete", Pcb::without(document.board(), {i * 90}));
             document.applyBoard("move", Pcb::withMoved(document.board(), {i * 90}, {10, 10}));
             document.setMarks("mark", {{QLineF(0, 0, i, 1), false}});
         }
         QCOMPARE(document.history().count(), 901);
-        const double used = heldBytes() - before;
+        const double used = Heap::heldBytes() - before;
         QVERIFY2(used < 3 * megabyte, qPrintable(QString::number(used)));
     }
 };

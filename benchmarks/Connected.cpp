@@ -1,4 +1,4 @@
-#include "Canvas.h"
+#include "Connected.h"
 
 #include <QTpluginsManger4CAM.h>
 
