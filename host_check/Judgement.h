@@ -23,4 +23,7 @@ struct Judgement {
     static std::optional<Judgement> fromLine(const QString& line);
 };
 
+/// The step that a process announces last, when it has done everything.
+inline const QString lastStep(QLatin1String("the program ends"));
+
 using TakeJudgement = std::function<void(const Judgement&)>;

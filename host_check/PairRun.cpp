@@ -1,7 +1,6 @@
 #include "PairRun.h"
 
 #include "Report.h"
-#include "pair/LastStep.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -53,9 +52,10 @@ void PairRun::run()
         process.kill();
         process.waitForFinished();
     }
-    const bool isGood = m_isFinished && !isHanging &&
-                        process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    const bool isCrashed = process.exitStatus() == QProcess::CrashExit;
+    const bool isGood = m_isFinished && !isHanging && !isCrashed && process.exitCode() == 0;
     report.judge(Row::PairSurvives, m_step, isGood, QStringLiteral("it goes on"),
-                 isHanging ? QStringLiteral("it hangs")
-                           : QStringLiteral("the program ended, with %1").arg(process.exitCode()));
+                 isHanging   ? QStringLiteral("it hangs")
+                 : isCrashed ? QStringLiteral("it crashes")
+                             : QStringLiteral("it ends, with status %1").arg(process.exitCode()));
 }

@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr int mostPrinted = 3;  // differences of a row; the others only say the same
+
 /// Texts of the host may have several lines.
 void print(QString line)
 {
@@ -35,11 +37,13 @@ QString whyNotJudged(Row row)
         case JudgedBy::Calls:
             return QStringLiteral("no check came so far");
         case JudgedBy::Pair:
-            return QStringLiteral("no --module is given");
+            return QStringLiteral("no --module is given, or it did not get that far");
         case JudgedBy::PairInBoth:
-            return QStringLiteral("no --module or no --switch-unit is given");
+            return QStringLiteral(
+                "no --module or no --switch-unit is given, or it did not get that far");
         case JudgedBy::Nothing:
-            return QStringLiteral("it takes the running host, with its modules loaded");
+            return QStringLiteral(
+                "messages cannot be seen from outside: it takes modules that receive them");
     }
     return QString();
 }
@@ -78,7 +82,9 @@ void Printer::take(const Judgement& judgement)
     ++m_tried;
     if (judgement.kind == Judgement::Kind::Differs) {
         ++m_differences;
-        printDifference(judgement);
+        if (++fate.differences <= mostPrinted || m_isVerbose) {
+            printDifference(judgement);
+        }
     }
 }
 
@@ -96,6 +102,11 @@ void Printer::finish()
     int untried = 0;
     for (int i = 0; i < int(Row::Count); ++i) {
         const Fate& fate = m_fates[size_t(i)];
+        if (fate.differences > mostPrinted && !m_isVerbose) {
+            print(QStringLiteral("differs %1 times in all: %2")
+                      .arg(fate.differences)
+                      .arg(statementOf(Row(i))));
+        }
         if (!fate.isJudged || !fate.whyNot.isEmpty()) {
             ++untried;
             print(QStringLiteral("not tried%1: %2: %3")

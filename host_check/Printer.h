@@ -7,11 +7,11 @@
 /// Prints what the checks say, and counts.
 class Printer {
 public:
-    /// `isVerbose`: steps are printed as well.
+    /// `isVerbose`: steps and all differences of a row are printed, not only the first ones.
     explicit Printer(bool isVerbose) : m_isVerbose(isVerbose) {}
 
     void take(const Judgement& judgement);
-    /// Prints the rows that nothing judged, and the totals.
+    /// Prints what was left out, the rows that nothing judged, and the totals.
     void finish();
     bool isClean() const { return m_differences == 0; }
 
@@ -21,6 +21,7 @@ public:
 private:
     struct Fate {
         bool isJudged = false;
+        int differences = 0;
         QString whyNot;
     };
 

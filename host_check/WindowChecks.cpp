@@ -20,6 +20,7 @@ struct Window {
     const char* name;
     std::function<QWidget*(const Situation&, QWidget* parent)> create;
     bool isDeleted = false;  ///< by the module
+    bool needsStrip = false;
 };
 
 const Window windows[] = {
@@ -43,7 +44,8 @@ const Window windows[] = {
     {"Grc_Tbe_measurepopup",
      [](const Situation& situation, QWidget* parent) {
          return new Grc_Tbe_measurepopup(situation.strip, parent);
-     }},
+     },
+     false, true},
 };
 
 /// Two lives: a window that deletes itself when it is closed is made again.
@@ -89,6 +91,16 @@ void checkDeletion(Report& report, const Situation& situation, const Window& row
             window->setVisible(isVisible);
             delete window;
         });
+    }
+}
+
+void checkWindow(Report& report, const Situation& situation, const Window& row)
+{
+    const QString name = QLatin1String(row.name);
+    report.run(Row::WindowsShow, name, [&] { checkShowing(report, situation, row); });
+    report.run(Row::WindowsBelong, name, [&] { checkBelonging(report, situation, row); });
+    if (row.isDeleted) {
+        checkDeletion(report, situation, row);
     }
 }
 
@@ -217,14 +229,15 @@ void checkWindows(Report& report, const Situation& situation)
                [&] { checkPicked(report, situation); });
     report.run(Row::AttributesApplied, QStringLiteral("Widget_Attributes: buttons"),
                [&] { checkButtons(report, situation); });
-    report.run(Row::MeasureSlots, QStringLiteral("Grc_Tbe_measurepopup"),
-               [&] { checkMeasurePopup(report, situation); });
+    if (situation.strip) {
+        report.run(Row::MeasureSlots, QStringLiteral("Grc_Tbe_measurepopup"),
+                   [&] { checkMeasurePopup(report, situation); });
+    } else {
+        report.untried(Row::MeasureSlots, QStringLiteral("there is no strip that could open it"));
+    }
     for (const Window& row : windows) {
-        const QString name = QLatin1String(row.name);
-        report.run(Row::WindowsShow, name, [&] { checkShowing(report, situation, row); });
-        report.run(Row::WindowsBelong, name, [&] { checkBelonging(report, situation, row); });
-        if (row.isDeleted) {
-            checkDeletion(report, situation, row);
+        if (!row.needsStrip || situation.strip) {
+            checkWindow(report, situation, row);
         }
     }
 }

@@ -44,7 +44,7 @@ void Dialog::sendRecord()
     }
 }
 
-/// The last of `records` is as it must be.
+/// The last of `records` is as it must be. If it is not, the next one is judged from there.
 void Dialog::expectRecord(Row row, const QString& what, const QVector<RecordLog::Record>& records)
 {
     m_driver.report().expect(row, what + QStringLiteral(": a record is sent"), true,
@@ -53,6 +53,7 @@ void Dialog::expectRecord(Row row, const QString& what, const QVector<RecordLog:
         const RecordLog::Record& last = records.last();
         m_driver.report().judge(row, what, last == m_expected, difference(m_expected, last),
                                 difference(last, m_expected));
+        m_expected = last;
     }
 }
 

@@ -30,8 +30,9 @@ void Driver::step(const QString& what, const std::function<void()>& action, int 
         action();
         settle();
     });
-    m_report.expect(Row::PairBoxes, what, boxes, m_boxes.take());
-    m_report.expect(Row::PairWarnings, what, QStringList(), m_log.takeWarnings());
+    m_report.expect(Row::PairBoxes, what + QStringLiteral(": boxes"), boxes, m_boxes.take());
+    m_report.expect(Row::PairWarnings, what + QStringLiteral(": warnings"), QStringList(),
+                    m_log.takeWarnings());
 }
 
 void Driver::click(QWidget& widget)

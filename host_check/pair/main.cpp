@@ -1,6 +1,5 @@
 // Opens the module in a window, and uses it as a user would: started by host_check --module.
 
-#include "LastStep.h"
 #include "Strip.h"
 
 #include <QApplication>

@@ -29,7 +29,7 @@ extern const Habits habits;
 /// The unit stands in the file that OTHER_HOST_UNIT names: mil, inch, um or mm.
 bool isMetric();
 
-/// The number in the other unit; the text itself if it is no number.
+/// The number in the other unit; the text itself if it is not one.
 QString converted(const QString& text, bool toMetric);
 
 /// A name taken apart; no sizes: it is not a standard one.
