@@ -130,6 +130,15 @@ void Dialog::tryEntry(const Entry& entry, bool byReturn, Row row)
     m_driver.step(
         what, [&] { enter(entry, byReturn); }, entry.boxes);
     const QVector<RecordLog::Record> records = m_driver.log().takeRecords();
+    for (const RecordLog::Record& record : records) {
+        // While it is being typed, each character may change what the entry is about.
+        RecordLog::Record rest = record;
+        for (const QString& key : entry.changes.keys()) {
+            rest[key] = before.value(key);
+        }
+        m_driver.report().judge(row, what + QStringLiteral(": nothing else changes"),
+                                rest == before, difference(before, rest), difference(rest, before));
+    }
     // What is hidden on the way may send the record as it was.
     if (!records.isEmpty() && records.last() != before) {
         expectRecord(row, what, records);

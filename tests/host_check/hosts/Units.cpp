@@ -158,7 +158,9 @@ void ZTLineEdit::changeunit(bool isMM)
     }
     m_metric = isMM;
     QString other = ::converted(text(), isMM);
-    if (isWrong("factor")) {
+    if (isWrong("edit identity")) {
+        other = text();
+    } else if (isWrong("factor")) {
         other = plain(text().toDouble() * (isMM ? 25.0 : 0.04), habits.digits);
     } else if (isWrong("comma")) {
         other.replace('.', QLocale().decimalPoint());
