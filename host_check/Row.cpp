@@ -1,5 +1,6 @@
 #include "Row.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace {
@@ -101,8 +102,8 @@ const Reliance table[] = {
      "a metric user cannot choose a symbol of the job"},
     {Row::NamesComeBack,
      "setSymbolUIData()",
-     "gives the same name when a name is converted there and back: up to six digits, four of them "
-     "behind the point",
+     "gives a stored name again that was converted to metric units and back: up to six digits, "
+     "four of them behind the point",
      {{"addfeature/SymbolEntry.cpp", "picked"}, {"addfeature/SymbolEntry.cpp", "storeEntry"}},
      "a symbol that is picked on the board and left as it is gets another size"},
     {Row::NumberAnswer,
@@ -152,7 +153,7 @@ const Reliance table[] = {
      "lengths are converted twice when the unit is told twice"},
     {Row::EditComesBack,
      "changeunit()",
-     "gives the same text when it is called there and back",
+     "gives the same number again, to six digits, when it is called there and back",
      {{"addfeature/fields/UnitField.cpp", "changeUnit"}},
      "lengths drift when the unit is changed several times"},
     {Row::EditDecimalPoint,
@@ -361,5 +362,6 @@ static_assert(std::size(table) == static_cast<size_t>(Row::Count), "one row a na
 
 const Reliance& reliance(Row row)
 {
-    return table[static_cast<size_t>(row)];
+    return *std::find_if(std::begin(table), std::end(table),
+                         [row](const Reliance& candidate) { return candidate.row == row; });
 }

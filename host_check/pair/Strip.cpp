@@ -15,12 +15,20 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <cmath>
+
 namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
 constexpr int settlingTime = 50;  // milliseconds in which what was left behind would run
+constexpr double factor = 25.4;   // mil to micrometre
 constexpr const char* aPicture = ":/Canvas_Tool_Strip/Resources/add_fea.jpg";
+
+bool isNear(double value, double expected)
+{
+    return std::abs(value - expected) < 1e-3 * expected;
+}
 
 }  // namespace
 
@@ -186,15 +194,23 @@ void Strip::tryUnits(Dialog& dialog)
     const bool other = !m_options.isMetric;
     dialog.tryUnitSwitch(other, [&] { switchUnit(other); });
     dialog.enterAll(other, Row::PairUnitSwitch);
-    if (symbol.isNull()) {
-        m_driver.report().untried(Row::ChooserUnit,
-                                  QStringLiteral("the window has no list with an entry"));
-    } else {
+    judgeChooser(symbol, dialog.firstSymbol());
+    dialog.tryUnitSwitch(m_options.isMetric, [&] { switchUnit(m_options.isMetric); });
+}
+
+/// By the first symbol that is offered in each unit, as the record has it.
+void Strip::judgeChooser(const QString& symbol, const QString& inOtherUnit)
+{
+    const double ratio = inOtherUnit.mid(1).toDouble() / symbol.mid(1).toDouble();
+    const bool isConverted = isNear(ratio, factor) || isNear(ratio, 1 / factor);
+    if (isConverted || isNear(ratio, 1)) {
         m_driver.report().expect(Row::ChooserUnit,
                                  QStringLiteral("the first symbol is chosen in the other unit"),
-                                 symbol, dialog.firstSymbol());
+                                 symbol, inOtherUnit);
+    } else {
+        m_driver.report().untried(Row::ChooserUnit,
+                                  QStringLiteral("it does not offer the same symbols in both"));
     }
-    dialog.tryUnitSwitch(m_options.isMetric, [&] { switchUnit(m_options.isMetric); });
 }
 
 void Strip::switchUnit(bool isMetric)

@@ -37,6 +37,7 @@ private:
     void tryMeasure();
     void tryDialog();
     void tryUnits(Dialog& dialog);
+    void judgeChooser(const QString& symbol, const QString& inOtherUnit);
     void switchUnit(bool isMetric);
     void end();
 
