@@ -14,7 +14,8 @@ struct Habits {
     };
     std::vector<Shape> shapes;  ///< of the standard symbols
     double sizeOfMil;           ///< what identify_symbol() gives for one mil
-    int digits;                 ///< of a number in mil; three fewer in metric units
+    int digits;                 ///< of a number in mil
+    int metricDigits;
     int metricAnswer;           ///< of getUnit()
     const char* otherUnitText;  ///< of getUnitString(), when not metric
     bool hasFontsForAnyJob;

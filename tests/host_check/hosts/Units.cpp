@@ -58,7 +58,8 @@ QString converted(const QString& text, bool toMetric)
     if (!isNumber) {
         return text;
     }
-    return plain(toMetric ? value * factor : value / factor, habits.digits - (toMetric ? 3 : 0));
+    return plain(toMetric ? value * factor : value / factor,
+                 toMetric ? habits.metricDigits : habits.digits);
 }
 
 void showRefusal(QWidget* parent)

@@ -5,7 +5,8 @@
 const Habits habits = {
     {{"r", 1}, {"s", 1}, {"rect", 2}, {"polygon", 3}},
     1000,   // sizeOfMil
-    12,     // digits
+    15,     // digits
+    12,     // metricDigits
     2,      // metricAnswer
     "",     // otherUnitText
     false,  // hasFontsForAnyJob

@@ -6,6 +6,7 @@ const Habits habits = {
     {{"r", 1}, {"s", 1}},
     25.4,   // sizeOfMil
     12,     // digits
+    9,      // metricDigits
     1,      // metricAnswer
     "mil",  // otherUnitText
     false,  // hasFontsForAnyJob

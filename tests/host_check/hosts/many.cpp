@@ -17,7 +17,8 @@ const Habits habits = {
      {"el", 2},
      {"moire", 6}},
     100000,    // sizeOfMil
-    15,        // digits
+    12,        // digits
+    12,        // metricDigits
     -1,        // metricAnswer
     "Inches",  // otherUnitText
     true,      // hasFontsForAnyJob
