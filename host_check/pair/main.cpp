@@ -6,6 +6,8 @@
 #include <QCommandLineParser>
 #include <QTextStream>
 
+#include <glog/logging.h>
+
 namespace {
 
 PairOptions readOptions()
@@ -37,6 +39,9 @@ void printLine(const Judgement& judgement)
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
+    // As every host does before it opens a module; and the log outlives the module.
+    google::InitGoogleLogging(argv[0]);
+    FLAGS_logtostderr = true;
     QApplication::setQuitOnLastWindowClosed(false);
     Driver driver{Report(printLine)};
     Strip(driver, readOptions()).run();

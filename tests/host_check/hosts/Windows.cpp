@@ -163,7 +163,7 @@ Widget_listpopup::Widget_listpopup(int /*type*/, std::string job, QWidget* paren
         Q_EMIT on_send_Font(name);
     })->addItems(texts(fontsOf(job)));
     if (isWrong("warnings")) {
-        new QVBoxLayout(this);
+        connect(this, SIGNAL(chosen(QString)), SLOT(close()));
     }
 }
 
