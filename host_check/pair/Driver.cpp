@@ -43,6 +43,8 @@ void Driver::click(QWidget& widget)
 void Driver::type(QWidget& field, const QString& text, bool byReturn)
 {
     field.setFocus(Qt::TabFocusReason);
+    // A window system may take its time to make the window active.
+    static_cast<void>(QTest::qWaitFor([&field] { return field.hasFocus(); }));
     auto* const edit = qobject_cast<QLineEdit*>(&field);
     (edit ? edit : field.findChild<QLineEdit*>())->selectAll();
     if (text.isEmpty()) {
@@ -109,6 +111,9 @@ QWidget* Driver::open(QWidget& button, const char* className)
     step(what, [&] { click(button); });
     QWidget* const window = windowOf(className);
     m_report.expect(Row::PairWindows, what, true, window != nullptr);
+    if (window) {
+        static_cast<void>(QTest::qWaitForWindowActive(window));
+    }
     return window;
 }
 

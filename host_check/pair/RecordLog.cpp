@@ -22,11 +22,13 @@ void handle(QtMsgType type, const QMessageLogContext& context, const QString& te
     }
 }
 
-/// About a connection, a layout, a style sheet; not about what a platform does not support.
-bool isComplaint(const QString& text)
+/// About a connection, a layout, a style sheet; not about what a platform does not support, nor
+/// from a category of its own, such as the window system's.
+bool isComplaint(const QMessageLogContext& context, const QString& text)
 {
     static const QRegularExpression pattern(QStringLiteral("\\bQ[A-Z][A-Za-z]*:|[Ss]tyle ?sheet"));
-    return pattern.match(text).hasMatch() && !text.contains(QLatin1String("does not support"));
+    return qstrcmp(context.category, "default") == 0 && pattern.match(text).hasMatch() &&
+           !text.contains(QLatin1String("does not support"));
 }
 
 }  // namespace
@@ -58,7 +60,7 @@ void RecordLog::take(QtMsgType type, const QMessageLogContext& context, const QS
             m_records.append(Record());
         }
         m_records.last().insert(key, match.captured(2));
-    } else if (type != QtDebugMsg && type != QtInfoMsg && isComplaint(text)) {
+    } else if (type != QtDebugMsg && type != QtInfoMsg && isComplaint(context, text)) {
         m_warnings.append(text);
     }
 }

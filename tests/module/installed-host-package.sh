@@ -16,7 +16,8 @@ cmake -S "$source" -B "$work/module" -G Ninja -DCMAKE_BUILD_TYPE="$type" \
     >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
 cmake --build "$work/module" --target Canvas_Tool_Strip host_check >"$work/build.log" ||
     { cat "$work/build.log"; exit 1; }
-"$work/module/bin/host_check" --unit inch 2>"$work/check.log" || { cat "$work/check.log"; exit 1; }
+"$work/module/bin/host_check" --unit inch --module "$work/module/modules/Canvas_Tool_Strip.so" \
+    >"$work/check.log" 2>&1 || { cat "$work/check.log"; exit 1; }
 
 # The headers came from the installed package, not from the tree.
 for header in cam_api.h ui_api.h common_widgets.h QTpluginsManger4CAM.h PluginMetaData.h; do
