@@ -1,5 +1,7 @@
 #include "BoxCounter.h"
 
+#include "UserActions.h"
+
 #include <QApplication>
 #include <QDialog>
 
@@ -12,7 +14,7 @@ BoxCounter::BoxCounter()
 void BoxCounter::answer()
 {
     QWidget* const window = QApplication::activeModalWidget();
-    if (!window) {
+    if (!window || UserActions::isHostWindow(*window)) {
         return;
     }
     ++m_count;

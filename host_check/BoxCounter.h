@@ -2,7 +2,10 @@
 
 #include <QTimer>
 
-/// Counts the modal windows that are opened while it lives, and answers each of them.
+#include <utility>
+
+/// Counts the modal boxes that are opened while it lives, and answers each of them. The windows of
+/// a host from which something is chosen are no boxes, modal or not.
 class BoxCounter {
 public:
     BoxCounter();

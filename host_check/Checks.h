@@ -2,6 +2,10 @@
 
 #include <QString>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 class Canvas_Tool_Strip;
 class QWidget;
 class Report;
@@ -11,15 +15,22 @@ struct Situation {
     bool isMetric = false;
     QString job;  ///< empty: none is known
     QString step;
-    QWidget* context = nullptr;  ///< the widget that holds the module
-    Canvas_Tool_Strip* strip = nullptr;
+    /// Attributes that the job knows, name and value; two at least, or none are known.
+    std::vector<std::pair<std::string, std::string>> attributes;
+    QWidget* context = nullptr;          ///< the widget that holds the module
+    Canvas_Tool_Strip* strip = nullptr;  ///< null: the host let none be made
 };
 
-void checkPluginManager(Report& report);
-void checkCamApi(Report& report, const Situation& situation);
-void checkUiApi(Report& report, const Situation& situation);
+constexpr double factor = 25.4;  ///< mil to micrometre
+
+void checkManager(Report& report);
+/// Symbols, special symbols and fonts of the job, conversions of names.
+void checkNames(Report& report, const Situation& situation);
+/// The unit, and what is legal in it.
+void checkUnits(Report& report, const Situation& situation);
+void checkLegal(Report& report, const Situation& situation);
 void checkLineEdit(Report& report, const Situation& situation);
-/// The attribute window and the measure popup, and what is true of all four widgets.
-void checkCommonWidgets(Report& report, const Situation& situation);
+/// The attribute window and the measure popup, and what is true of all windows.
+void checkWindows(Report& report, const Situation& situation);
 /// The windows from which a name is chosen.
 void checkChoosers(Report& report, const Situation& situation);

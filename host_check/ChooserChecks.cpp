@@ -1,83 +1,53 @@
 #include "BoxCounter.h"
 #include "Checks.h"
-#include "Names.h"
 #include "Report.h"
+#include "Spy.h"
 #include "UserActions.h"
 
+#include <cam_api.h>
 #include <common_widgets.h>
-#include <ui_api.h>
 
 #include <QAbstractItemView>
-#include <QSet>
-
-using ZENTRA::API::symbol_type;
+#include <QPointer>
+#include <QRegularExpression>
 
 namespace {
 
 enum View { RoundsAndSquares, All };
 
-/// The name, given in the user's unit, as it is stored.
-std::string stored(const QString& name, const Situation& situation)
-{
-    return (situation.isMetric ? ZENTRA::UIAPI::setSymbolUIData(name, TypedToStored) : name)
-        .toStdString();
-}
+const QString noList = QStringLiteral("the window has no list with an entry");
 
-/// Chooses the first name of the list, then the last. `sent` is where the window's signals put
-/// their names, each with the name that it carries.
-void expectChosen(Report& report, const QString& signal, QWidget& window, QStringList& sent)
+/// Chooses the first name of the list, then the last, each in a new window of `create`.
+void expectChosen(Report& report, Row row, const char* signal,
+                  const std::function<QWidget*(QWidget* parent)>& create)
 {
-    const QString what = QStringLiteral("%1: signals of a choice").arg(signal);
-    const QString before = QStringLiteral("%1: signals before a choice").arg(signal);
-    report.step(before);
-    window.show();
-    report.expect(before, QStringList(), sent);
-    QAbstractItemView* const list = UserActions::listOf(window);
-    if (!list) {
-        report.untried(what, QStringLiteral("the window has no list with an entry"));
-        return;
-    }
-    for (const int row : {0, list->model()->rowCount() - 1}) {
-        const QModelIndex index = list->model()->index(row, 0);
-        const QString name = index.data().toString();
-        report.step(QStringLiteral("%1: a choice of \"%2\"").arg(signal, name));
-        BoxCounter boxes;
-        sent.clear();
-        UserActions::choose(window, *list, index, sent);
-        if (sent.isEmpty()) {
-            report.untried(what, QStringLiteral("neither Enter nor a click nor a button chooses"));
+    for (const bool isFirst : {true, false}) {
+        QWidget parent;
+        const QPointer<QWidget> window = create(&parent);
+        Spy sent(*window, signal);
+        window->show();
+        QAbstractItemView* const list = UserActions::listOf(*window);
+        if (!list) {
+            report.untried(row, noList);
             return;
         }
-        report.expect(what, {QStringLiteral("%1(%2)").arg(signal, name)}, sent);
-    }
-}
-
-/// The job's own symbols are read from the chooser: nothing else gives their names.
-void checkOwnSymbols(Report& report, const Situation& situation, const QStringList& names)
-{
-    int count = 0;
-    for (const QString& name : names) {
-        const QString what = QStringLiteral("identify_symbol(\"%1\") of the chooser").arg(name);
-        report.run(what, [&] {
-            const std::string text = stored(name, situation);
-            const Identified symbol = identify(text, false);
-            if (!symbol.isKnown || symbol.type != symbol_type::user) {
-                return;
-            }
-            ++count;
-            report.expect(what + QStringLiteral(": first size"), 0, symbol.a);
-            report.expect(what + QStringLiteral(": second size"), 0, symbol.b);
-            report.expect(what + QStringLiteral(": for an arc"), false,
-                          identify(text, true).isKnown);
-        });
-    }
-    if (count == 0) {
-        const QString what = QStringLiteral("identify_symbol() of a symbol of the job's own");
-        if (situation.job.isEmpty()) {
-            report.untriedWithoutJob(what);
-        } else {
-            report.untried(what, QStringLiteral("the chooser offers none"));
+        const QModelIndex index =
+            list->model()->index(isFirst ? 0 : list->model()->rowCount() - 1, 0);
+        const QString name = index.data().toString();
+        const QString what = QStringLiteral("\"%1\" is chosen").arg(name);
+        report.step(what);
+        BoxCounter boxes;
+        report.expect(row, QStringLiteral("signals before a choice"), 0, sent.count());
+        UserActions::choose(*window, *list, index, [&] { return !window || sent.count() > 0; });
+        QStringList names;
+        for (const QVariant& argument : sent.take()) {
+            names.append(argument.toString());
         }
+        if (names.isEmpty()) {
+            report.untried(row, QStringLiteral("neither Enter nor a click nor a button chooses"));
+            return;
+        }
+        report.expect(row, what, QStringList{name}, names);
     }
 }
 
@@ -88,132 +58,110 @@ QStringList namesOfView(Report& report, Widget_SymbolSelection& window, View vie
     return UserActions::namesIn(window);
 }
 
-void checkViews(Report& report, const Situation& situation, Widget_SymbolSelection& window)
+void checkView(Report& report, Widget_SymbolSelection& window)
 {
-    const QString name = QStringLiteral("Widget_SymbolSelection: ");
-    const QStringList few = namesOfView(report, window, RoundsAndSquares);
-    if (few.isEmpty()) {
-        report.untried(name + QStringLiteral("its names"),
-                       QStringLiteral("the window has no list with an entry"));
-        return;
+    static const QRegularExpression roundOrSquare(QStringLiteral("\\A[rs][0-9]+(\\.[0-9]+)?\\z"));
+    const QStringList names = namesOfView(report, window, RoundsAndSquares);
+    if (names.isEmpty()) {
+        report.untried(Row::ChooserView, noList);
     }
-    for (const QString& symbol : few) {
-        const QString what =
-            name + QStringLiteral("view 0 shows \"%1\", a round or a square").arg(symbol);
-        report.run(what, [&] {
-            const symbol_type type = identify(stored(symbol, situation), false).type;
-            report.expect(what, true, type == symbol_type::round || type == symbol_type::square);
-        });
+    for (const QString& name : names) {
+        report.expect(Row::ChooserView, QStringLiteral("\"%1\" is offered").arg(name), true,
+                      roundOrSquare.match(name).hasMatch());
     }
-    const QStringList all = namesOfView(report, window, All);
-    for (const QString& symbol : few) {
-        report.expect(name + QStringLiteral("view 1 shows \"%1\" of view 0").arg(symbol), true,
-                      all.contains(symbol));
-    }
-    report.expect(name + QStringLiteral("view 1 shows more than view 0"), true,
-                  all.size() > few.size());
-    report.step(name + QStringLiteral("read()"));
-    window.read();
-    report.expect(name + QStringLiteral("view 1 after read()"), all, UserActions::namesIn(window));
-    report.step(name + QStringLiteral("change_unit()"));
-    window.change_unit();
-    report.expect(name + QStringLiteral("view 1 after change_unit() to the same unit"), all,
-                  UserActions::namesIn(window));
-    checkOwnSymbols(report, situation, all);
-    report.expect(name + QStringLiteral("view 0 again"), few,
-                  namesOfView(report, window, RoundsAndSquares));
 }
 
-void checkJobOfChooser(Report& report, const Situation& situation, Widget_SymbolSelection& window)
+void checkRefreshing(Report& report, const Situation& situation, Widget_SymbolSelection& window)
 {
-    const QString what = QStringLiteral("Widget_SymbolSelection::setJob()");
-    const QStringList own = namesOfView(report, window, All);
-    report.step(what + QStringLiteral(" of a job that is not known"));
-    window.setJob("no such job of any host");
-    const QStringList others = UserActions::namesIn(window);
-    report.step(what + QStringLiteral(" and back"));
-    window.setJob(situation.job.toStdString());
-    report.expect(what + QStringLiteral(" and back"), own, UserActions::namesIn(window));
-    if (situation.job.isEmpty()) {
-        report.untriedWithoutJob(what + QStringLiteral(" of another job"));
-    } else if (own == others) {
-        report.untried(what + QStringLiteral(" of another job"),
-                       QStringLiteral("the job shows no symbols of its own"));
-    } else {
-        const auto ownSet = QSet<QString>(own.begin(), own.end());
-        report.expect(
-            what + QStringLiteral(" of a job that is not known: symbols of the one before"), true,
-            others.size() < ownSet.size());
+    const QStringList names = namesOfView(report, window, All);
+    const auto expectSame = [&](const char* what) {
+        report.expect(Row::ChooserRefreshes, QLatin1String(what), names,
+                      UserActions::namesIn(window));
+    };
+    if (names.isEmpty()) {
+        report.untried(Row::ChooserRefreshes, noList);
+        return;
     }
+    window.read();
+    expectSame("names after read()");
+    QMetaObject::invokeMethod(&window, "change_unit");
+    expectSame("names after change_unit()");
+    window.setJob(situation.job.toStdString());
+    expectSame("names after setJob()");
 }
 
 void checkSymbolChooser(Report& report, const Situation& situation)
 {
+    const auto create = [&](QWidget* parent) {
+        return new Widget_SymbolSelection(situation.job.toStdString(), situation.context, parent);
+    };
     QWidget parent;
-    Widget_SymbolSelection window(situation.job.toStdString(), situation.context, &parent);
-    const QString sendText = QStringLiteral("Widget_SymbolSelection::sendText");
-    QStringList sent;
-    QObject::connect(&window, &Widget_SymbolSelection::sendText, &parent, [&](const QString& name) {
-        sent.append(QStringLiteral("%1(%2)").arg(sendText, name));
-    });
-    report.run(QStringLiteral("Widget_SymbolSelection: views"),
-               [&] { checkViews(report, situation, window); });
-    report.run(QStringLiteral("Widget_SymbolSelection: jobs"),
-               [&] { checkJobOfChooser(report, situation, window); });
-    report.run(QStringLiteral("Widget_SymbolSelection: a choice"),
-               [&] { expectChosen(report, sendText, window, sent); });
+    Widget_SymbolSelection& window = *create(&parent);
+    expectMembers(report, Row::ChooserSignals, window,
+                  {SIGNAL(sendText(QString)), SLOT(change_unit())});
+    report.run(Row::ChooserView, QStringLiteral("Widget_SymbolSelection: view 0"),
+               [&] { checkView(report, window); });
+    report.run(Row::ChooserRefreshes, QStringLiteral("Widget_SymbolSelection: its names"),
+               [&] { checkRefreshing(report, situation, window); });
+    report.run(Row::ChooserSends, QStringLiteral("Widget_SymbolSelection: a choice"),
+               [&] { expectChosen(report, Row::ChooserSends, SIGNAL(sendText(QString)), create); });
 }
 
-void checkListPopup(Report& report, Widget_listpopup& popup, bool isFonts)
+QStringList fontsOf(const Situation& situation)
 {
-    const QString sendFont = QStringLiteral("Widget_listpopup::on_send_Font");
-    const QString sendText = QStringLiteral("Widget_listpopup::on_send_changeText");
-    QStringList sent;
-    QObject::connect(&popup, &Widget_listpopup::on_send_Font, &popup, [&](const QString& name) {
-        sent.append(QStringLiteral("%1(%2)").arg(sendFont, name));
-    });
-    QObject::connect(
-        &popup, &Widget_listpopup::on_send_changeText, &popup,
-        [&](const QString& name) { sent.append(QStringLiteral("%1(%2)").arg(sendText, name)); });
-    expectChosen(report, isFonts ? sendFont : sendText, popup, sent);
+    std::vector<std::string> names;
+    ZENTRA::API::get_fonts(situation.job.toStdString(), names);
+    QStringList all;
+    for (const std::string& name : names) {
+        all.append(QString::fromStdString(name));
+    }
+    return all;
 }
 
 void checkFonts(Report& report, const Situation& situation)
 {
+    const auto create = [&](QWidget* parent) {
+        return new Widget_listpopup(17, situation.job.toStdString(), parent);
+    };
     QWidget parent;
-    Widget_listpopup popup(17, situation.job.toStdString(), &parent);
-    const QString what = QStringLiteral("Widget_listpopup: fonts");
-    report.run(what, [&] {
-        std::vector<std::string> names;
-        ZENTRA::API::get_fonts(situation.job.toStdString(), names);
-        QStringList expected = texts(names);
-        QStringList shown = UserActions::namesIn(popup);
-        expected.sort();
-        shown.sort();
-        if (UserActions::hasList(popup)) {
-            report.expect(what, expected, shown);
-        } else {
-            report.untried(what, QStringLiteral("the window has no list"));
-        }
-    });
-    checkListPopup(report, popup, true);
+    const QWidget& window = *create(&parent);
+    expectMembers(report, Row::FontsSend, window, {SIGNAL(on_send_Font(QString))});
+    const QStringList known = fontsOf(situation);
+    const QStringList offered = UserActions::namesIn(window);
+    if (offered.isEmpty()) {
+        report.untried(Row::FontsKnown, noList);
+    }
+    for (const QString& name : offered) {
+        report.expect(Row::FontsKnown, QStringLiteral("get_fonts() has \"%1\"").arg(name), true,
+                      known.contains(name));
+    }
+    expectChosen(report, Row::FontsSend, SIGNAL(on_send_Font(QString)), create);
 }
 
 void checkSpecialTexts(Report& report, const Situation& situation)
 {
+    const auto create = [&](QWidget* parent) {
+        return new Widget_listpopup(16, situation.job.toStdString(), situation.step.toStdString(),
+                                    parent);
+    };
     QWidget parent;
-    Widget_listpopup popup(16, situation.job.toStdString(), situation.step.toStdString(), &parent);
-    checkListPopup(report, popup, false);
+    const QWidget& window = *create(&parent);
+    expectMembers(report, Row::TextsSend, window, {SIGNAL(on_send_changeText(QString))});
+    for (const QString& name : UserActions::namesIn(window)) {
+        report.expect(Row::TextsSend, QStringLiteral("\"%1\" begins with $$").arg(name), false,
+                      name.startsWith(QLatin1String("$$")));
+    }
+    expectChosen(report, Row::TextsSend, SIGNAL(on_send_changeText(QString)), create);
 }
 
 }  // namespace
 
 void checkChoosers(Report& report, const Situation& situation)
 {
-    report.run(QStringLiteral("Widget_SymbolSelection: names"),
+    report.run(Row::ChooserSignals, QStringLiteral("Widget_SymbolSelection"),
                [&] { checkSymbolChooser(report, situation); });
-    report.run(QStringLiteral("Widget_listpopup: fonts of a job"),
+    report.run(Row::FontsSend, QStringLiteral("Widget_listpopup: fonts"),
                [&] { checkFonts(report, situation); });
-    report.run(QStringLiteral("Widget_listpopup: special texts of a job"),
+    report.run(Row::TextsSend, QStringLiteral("Widget_listpopup: special texts"),
                [&] { checkSpecialTexts(report, situation); });
 }

@@ -1,234 +1,260 @@
 #include "Checks.h"
 #include "RandomNumbers.h"
 #include "Report.h"
-#include "UserActions.h"
 
 #include <ui_api.h>
 
 #include <QIntValidator>
 #include <QLocale>
+#include <QRegExpValidator>
+#include <QTest>
+
+#include <cmath>
+#include <memory>
 
 using ZENTRA::UIAPI::ZTERegExp;
 using ZENTRA::UIAPI::ZTLineEdit;
 
 namespace {
 
-// The module knows the patterns by their numbers.
-enum Pattern {
-    UnsignedDecimal,
-    SignedLength,
-    UnsignedInteger,
-    SignedDecimal,
-    SignedInteger,
-    SymbolName,
-    FreeText,
-};
+/// The module knows the patterns by their numbers.
+enum Pattern { Length = 1, Decimal = 3, Text = 6 };
 
-/// A line edit, and how often it has emitted editingFinished.
+constexpr Pattern numeric[] = {Length, Decimal};
+constexpr double sixDigits = 5.5e-6;  // of a number that was rounded to six digits
+
+/// A line edit in a page, as the module uses it, and how often it has reported.
 struct Field {
-    ZTLineEdit edit;
+    QWidget page;
+    ZTLineEdit* edit;
     int finished = 0;
 
-    Field(Pattern pattern, QWidget* context) : edit(static_cast<ZTERegExp>(pattern), context)
+    Field(Pattern pattern, const Situation& situation)
+        : edit(new ZTLineEdit(static_cast<ZTERegExp>(pattern), situation.context))
     {
-        QObject::connect(&edit, &QLineEdit::editingFinished, &edit, [this] { ++finished; });
+        edit->setParent(&page);
+        QObject::connect(edit, &QLineEdit::editingFinished, &page, [this] { ++finished; });
+    }
+
+    void type(const QString& text)
+    {
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+    }
+    void pressReturn() { QTest::keyClick(edit, Qt::Key_Return); }
+    void leave()
+    {
+        QFocusEvent event(QEvent::FocusOut, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(edit, &event);
+    }
+    QString converted(bool isMetric)
+    {
+        edit->changeunit(isMetric);
+        return edit->text();
     }
 };
 
-struct Typing {
-    Pattern pattern;
-    const char* typed;
-    const char* shown;
-};
-
-constexpr Typing typings[] = {
-    {UnsignedDecimal, "-2.5", "2.5"}, {UnsignedDecimal, "1,5", "15"},
-    {SignedLength, "-1.5x", "-1.5"},  {SignedLength, "1e5", "15"},
-    {UnsignedInteger, "-2.5", "25"},  {SignedDecimal, "-a12.3.4", "-12.34"},
-    {SignedDecimal, "1e5", "15"},     {SignedDecimal, "1,5", "15"},
-    {SignedInteger, "-2.5", "-25"},   {SymbolName, "r10 _4,5", "r10_45"},
-    {SymbolName, "R1.5+-", "R1.5+-"}, {FreeText, "a B-1,5", "a B-1,5"},
-};
-
-struct Finished {
-    Pattern pattern;
-    const char* text;
-};
-
-// Incomplete numbers are accepted, as far as the pattern has their signs.
-constexpr Finished finishedTexts[] = {
-    {UnsignedDecimal, ""},  {UnsignedDecimal, "."}, {UnsignedDecimal, "1.5"},
-    {SignedLength, ""},     {SignedLength, "-"},    {SignedLength, "."},
-    {SignedLength, "1.5"},  {UnsignedInteger, ""},  {UnsignedInteger, "15"},
-    {SignedDecimal, ""},    {SignedDecimal, "-"},   {SignedDecimal, "."},
-    {SignedDecimal, "1.5"}, {SignedInteger, ""},    {SignedInteger, "-"},
-    {SignedInteger, "-15"},
-};
-
-struct InBothUnits {
-    Pattern pattern;
-    const char* mil;
-    const char* metric;
-};
-
-constexpr InBothUnits unitTexts[] = {
-    {UnsignedDecimal, "10.5", "266.7"},
-    {UnsignedInteger, "10", "254"},
-    {SignedInteger, "-10", "-254"},
-    {SymbolName, "r10", "r10"},
-    {SignedLength, "10", "254"},
-    {SignedDecimal, "-0.5", "-12.7"},
-    {SignedDecimal, "10", "254"},
-    {SignedDecimal, "50000", "1270000"},
-    {SignedLength, "50000", "1270000"},
-    {SignedDecimal, "0.00001", "0.000254"},
-    {SignedDecimal, "0", "0"},
-    {SignedDecimal, "", ""},
-    {SignedDecimal, "-", "-"},
-    {SignedLength, ".", "."},
-    {FreeText, "10", "10"},
-    {FreeText, "r10", "r10"},
-};
-
-QString named(Pattern pattern, const char* what)
+QString named(Pattern pattern, const QString& what)
 {
-    return QStringLiteral("ZTLineEdit of pattern %1: %2").arg(pattern).arg(QLatin1String(what));
+    return QStringLiteral("pattern %1: %2").arg(pattern).arg(what);
 }
 
-void checkTyping(Report& report, QWidget* context)
+QString unitNamed(bool isMetric)
 {
-    // The decimal separator is a point everywhere, even where the user writes a comma.
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::German));
-    for (const Typing& row : typings) {
-        const QString what =
-            named(row.pattern, "what is shown of the typed \"%1\"").arg(QLatin1String(row.typed));
-        report.run(what, [&] {
-            Field field(row.pattern, context);
-            UserActions::type(field.edit, QLatin1String(row.typed));
-            report.expect(what, QLatin1String(row.shown), field.edit.text());
+    return isMetric ? QStringLiteral("metric units") : QStringLiteral("mil");
+}
+
+struct Entered {
+    Pattern pattern;
+    const char* text;
+    Row row = Row::EditKeepsText;
+};
+
+// What the module sets, and what its fields are for.
+constexpr Entered settings[] = {{Length, "0"},     {Decimal, "0"}, {Decimal, "609.6"},
+                                {Decimal, "5080"}, {Text, ""},     {Text, "standard"},
+                                {Text, "r254_45"}, {Text, "$$JOB"}};
+constexpr Entered typings[] = {{Length, "10"},
+                               {Length, "-12.5"},
+                               {Decimal, "10"},
+                               {Decimal, "12.5"},
+                               {Text, "r10.5_45"},
+                               {Text, "abc"},
+                               {Length, "100001", Row::EditTakesRefused},
+                               {Length, "-2540001", Row::EditTakesRefused},
+                               {Decimal, "50001", Row::EditTakesRefused},
+                               {Decimal, "1270001", Row::EditTakesRefused},
+                               {Decimal, "400", Row::EditTakesRefused},
+                               {Decimal, "-101", Row::EditTakesRefused}};
+
+void checkEntries(Report& report, const Situation& situation)
+{
+    for (const Entered& row : settings) {
+        const QString text = QLatin1String(row.text);
+        const QString what = named(row.pattern, QStringLiteral("setText(\"%1\")").arg(text));
+        report.run(row.row, what, [&] {
+            Field field(row.pattern, situation);
+            field.edit->setText(text);
+            report.expect(row.row, what, text, field.edit->text());
         });
     }
+    for (const Entered& row : typings) {
+        const QString text = QLatin1String(row.text);
+        const QString what = named(row.pattern, QStringLiteral("\"%1\" is typed").arg(text));
+        report.run(row.row, what, [&] {
+            Field field(row.pattern, situation);
+            field.type(text);
+            report.expect(row.row, what, text, field.edit->text());
+            field.pressReturn();
+            report.expect(Row::EditIsReported, what + QStringLiteral(", Return: reports"), 1,
+                          field.finished);
+            report.expect(row.row, what + QStringLiteral(", Return"), text, field.edit->text());
+        });
+        report.run(row.row, what + QStringLiteral(", left"), [&] {
+            Field field(row.pattern, situation);
+            field.type(text);
+            field.leave();
+            report.expect(Row::EditIsReported, what + QStringLiteral(", left: reports"), 1,
+                          field.finished);
+            report.expect(row.row, what + QStringLiteral(", left"), text, field.edit->text());
+        });
+    }
+}
+
+/// Whether `text` is `value` to six digits, written with a decimal point and without an exponent.
+bool isNumber(const QString& text, double value)
+{
+    const bool isPlain = !text.isEmpty() && !text.contains('e', Qt::CaseInsensitive);
+    return isPlain && std::abs(text.toDouble() - value) <= std::abs(value) * sixDigits;
+}
+
+void checkConversion(Report& report, const Situation& situation, Pattern pattern,
+                     const QString& own)
+{
+    const bool other = !situation.isMetric;
+    const QString what = named(pattern, QStringLiteral("\"%1\"").arg(own));
+    const QString there = what + QStringLiteral(" in ") + unitNamed(other);
+    const double expected = other ? own.toDouble() * factor : own.toDouble() / factor;
+    report.run(Row::EditConverts, what, [&] {
+        Field field(pattern, situation);
+        field.edit->setText(own);
+        report.expect(Row::EditStartsInUnit,
+                      what + QStringLiteral(" in ") + unitNamed(situation.isMetric), own,
+                      field.converted(situation.isMetric));
+        const QString once = field.converted(other);
+        report.judge(Row::EditConverts, there, isNumber(once, expected),
+                     QString::number(expected, 'g', 12), once);
+        report.expect(Row::EditConvertsOnce, there + QStringLiteral(" twice"), once,
+                      field.converted(other));
+        const QString back = field.converted(situation.isMetric);
+        report.judge(Row::EditComesBack, there + QStringLiteral(" and back"),
+                     isNumber(back, own.toDouble()), own, back);
+        report.expect(Row::EditIsQuiet, there + QStringLiteral(" and back: reports"), 0,
+                      field.finished);
+    });
+}
+
+void checkTypedConversion(Report& report, const Situation& situation, Pattern pattern)
+{
+    const QString what = named(pattern, QStringLiteral("\"10\" is typed, then the unit changes"));
+    report.run(Row::EditIsQuiet, what, [&] {
+        Field field(pattern, situation);
+        field.type(QStringLiteral("10"));
+        field.edit->changeunit(!situation.isMetric);
+        report.expect(Row::EditIsQuiet, what + QStringLiteral(": reports"), 0, field.finished);
+    });
+}
+
+void checkRandomConversions(Report& report, const Situation& situation)
+{
+    RandomNumbers numbers;
+    bool isSame = true;
+    for (int i = 0; i < 300 && isSame; ++i) {
+        const QString text = numbers.next();
+        const QString what = named(Decimal, QStringLiteral("\"%1\" there and back").arg(text));
+        report.run(Row::EditComesBack, what, [&] {
+            Field field(Decimal, situation);
+            field.edit->setText(text);
+            field.edit->changeunit(!situation.isMetric);
+            const QString back = field.converted(situation.isMetric);
+            isSame =
+                report.judge(Row::EditComesBack, what, isNumber(back, text.toDouble()), text, back);
+        });
+    }
+}
+
+void checkLocale(Report& report, const Situation& situation, Pattern pattern)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    const QString what = named(pattern, QStringLiteral("where a comma is written"));
+    report.run(Row::EditDecimalPoint, what, [&] {
+        Field field(pattern, situation);
+        field.type(QStringLiteral("12.5"));
+        report.expect(Row::EditDecimalPoint, what + QStringLiteral(", \"12.5\" is typed"),
+                      QStringLiteral("12.5"), field.edit->text());
+        const double expected = situation.isMetric ? 12.5 / factor : 12.5 * factor;
+        const QString came = field.converted(!situation.isMetric);
+        report.judge(Row::EditDecimalPoint,
+                     what + QStringLiteral(", \"12.5\" in ") + unitNamed(!situation.isMetric),
+                     isNumber(came, expected), QString::number(expected, 'g', 12), came);
+    });
     QLocale::setDefault(before);
 }
 
-void checkEditing(Report& report, QWidget* context)
+void checkPlace(Report& report, const Situation& situation)
 {
-    for (const Finished& row : finishedTexts) {
-        const QString what = named(row.pattern, "editingFinished after \"%1\" and Return")
-                                 .arg(QLatin1String(row.text));
-        report.run(what, [&] {
-            Field field(row.pattern, context);
-            field.edit.setText(QLatin1String(row.text));
-            field.finished = 0;
-            UserActions::pressKey(field.edit, Qt::Key_Return);
-            report.expect(what, 1, field.finished);
-        });
-    }
-    const QString parent = named(SignedLength, "its parent is the context");
-    report.run(parent, [&] {
-        const Field field(SignedLength, context);
-        report.expect(parent, true, field.edit.parentWidget() == context);
-    });
-    const QString validator =
-        named(SignedDecimal, "what a later validator of integers leaves of \"1.5\"");
-    report.run(validator, [&] {
-        Field field(SignedDecimal, nullptr);
-        QIntValidator integers;
-        field.edit.setValidator(&integers);
-        UserActions::type(field.edit, QStringLiteral("1.5"));
-        report.expect(validator, QStringLiteral("15"), field.edit.text());
+    const QString what = QStringLiteral("setParent(page)");
+    report.run(Row::EditParent, what, [&] {
+        Field field(Decimal, situation);
+        field.page.show();
+        field.edit->show();
+        report.expect(Row::EditParent, what + QStringLiteral(": it is in the page"), true,
+                      field.edit->parentWidget() == &field.page && !field.edit->isWindow());
+        report.expect(Row::EditParent, what + QStringLiteral(": is visible"), true,
+                      field.edit->isVisible());
     });
 }
 
-/// Changes the unit twice, the second time to the same one, and looks for what must not happen.
-void expectChanged(Report& report, Field& field, const QString& what, bool isMetric,
-                   const QString& expected)
+void checkValidators(Report& report, const Situation& situation)
 {
-    const bool wasAcceptable = field.edit.hasAcceptableInput();
-    field.finished = 0;
-    for (int i = 0; i < 2; ++i) {
-        const QString change =
-            QStringLiteral("%1: changeunit(%2) %3")
-                .arg(what, isMetric ? QStringLiteral("metric") : QStringLiteral("mil"),
-                     i == 0 ? QStringLiteral("once") : QStringLiteral("twice"));
-        report.step(change);
-        field.edit.changeunit(isMetric);
-        report.expect(change, expected, field.edit.text());
-    }
-    report.expect(what + QStringLiteral(": changeunit() emits editingFinished"), 0, field.finished);
-    report.expect(what + QStringLiteral(": acceptable after changeunit()"), wasAcceptable,
-                  field.edit.hasAcceptableInput());
-}
-
-void checkUnitTexts(Report& report, const Situation& situation)
-{
-    for (const InBothUnits& row : unitTexts) {
-        const QString own = QLatin1String(situation.isMetric ? row.metric : row.mil);
-        const QString other = QLatin1String(situation.isMetric ? row.mil : row.metric);
-        const QString what = named(row.pattern, "\"%1\"").arg(own);
-        report.run(what, [&] {
-            Field field(row.pattern, situation.context);
-            field.edit.setText(own);
-            expectChanged(report, field, what + QStringLiteral(" in its own unit"),
-                          situation.isMetric, own);
-            for (int round = 0; round < 3; ++round) {
-                expectChanged(report, field, what, !situation.isMetric, other);
-                expectChanged(report, field, what + QStringLiteral(" and back"), situation.isMetric,
-                              own);
-            }
-        });
-    }
-}
-
-void checkTextsComeBack(Report& report, const Situation& situation)
-{
-    RandomNumbers numbers;
-    Field field(SignedLength, situation.context);
-    bool isSame = true;
-    for (int i = 0; i < 2000 && isSame; ++i) {
-        const QString text = numbers.next(9);
-        const QString what = named(SignedLength, "\"%1\" in the other unit").arg(text);
-        report.step(what);
-        field.edit.setText(text);
-        field.edit.changeunit(!situation.isMetric);
-        isSame = report.expect(what + QStringLiteral(" is acceptable"), true,
-                               field.edit.hasAcceptableInput());
-        field.edit.changeunit(situation.isMetric);
-        isSame &= report.expect(what + QStringLiteral(" and back"), text, field.edit.text());
-    }
-}
-
-void checkEditedText(Report& report, const Situation& situation)
-{
-    Field field(SignedLength, situation.context);
-    const QString zeros = QStringLiteral("10.500");
-    field.edit.setText(zeros);
-    field.edit.changeunit(!situation.isMetric);
-    field.edit.changeunit(situation.isMetric);
-    report.expect(named(SignedLength, "\"10.500\" there and back"), zeros, field.edit.text());
-
-    field.edit.changeunit(false);
-    field.edit.setText(QStringLiteral("10.50"));
-    field.edit.changeunit(true);
-    field.edit.setText(QStringLiteral("508"));
-    field.edit.changeunit(false);
-    report.expect(named(SignedLength, "\"508\", typed in place of a converted text, in mil"),
-                  QStringLiteral("20"), field.edit.text());
-    field.edit.changeunit(true);
-    report.expect(named(SignedLength, "\"508\", typed in place of a converted text, and back"),
-                  QStringLiteral("508"), field.edit.text());
+    const QString integers = named(Decimal, QStringLiteral("a validator of integers, \"1.5\""));
+    report.run(Row::EditValidator, integers, [&] {
+        Field field(Decimal, situation);
+        field.edit->setValidator(new QIntValidator(field.edit));
+        field.type(QStringLiteral("1.5"));
+        report.expect(Row::EditValidator, integers, QStringLiteral("15"), field.edit->text());
+    });
+    const QString symbols = named(Text, QStringLiteral("a validator of symbols, \"xr10_4\""));
+    report.run(Row::EditValidator, symbols, [&] {
+        Field field(Text, situation);
+        field.edit->setValidator(new QRegExpValidator(
+            QRegExp(QStringLiteral("[rs]?|[rs][0-9]+(\\.[0-9]+)?")), field.edit));
+        field.type(QStringLiteral("xr10_4"));
+        report.expect(Row::EditValidator, symbols, QStringLiteral("r104"), field.edit->text());
+        field.edit->setValidator(
+            new QRegExpValidator(QRegExp(QStringLiteral("[a-z0-9_]*")), field.edit));
+        field.type(QStringLiteral("logo_1"));
+        report.expect(Row::EditValidator,
+                      symbols + QStringLiteral(", then a wider one, \"logo_1\""),
+                      QStringLiteral("logo_1"), field.edit->text());
+    });
 }
 
 }  // namespace
 
 void checkLineEdit(Report& report, const Situation& situation)
 {
-    checkTyping(report, situation.context);
-    checkEditing(report, situation.context);
-    checkUnitTexts(report, situation);
-    report.run(named(SignedLength, "changeunit() of any number"),
-               [&] { checkTextsComeBack(report, situation); });
-    report.run(named(SignedLength, "changeunit() of a text that was edited"),
-               [&] { checkEditedText(report, situation); });
+    checkEntries(report, situation);
+    for (const Pattern pattern : numeric) {
+        for (const char* const text : {"10", "254", "0.5", "1000", "50000", "0"}) {
+            checkConversion(report, situation, pattern, QLatin1String(text));
+        }
+        checkTypedConversion(report, situation, pattern);
+        checkLocale(report, situation, pattern);
+    }
+    checkConversion(report, situation, Length, QStringLiteral("-10"));
+    checkRandomConversions(report, situation);
+    checkPlace(report, situation);
+    checkValidators(report, situation);
 }

@@ -1,16 +1,18 @@
 #include "RandomNumbers.h"
 
-QString RandomNumbers::next(int mostDigits)
+#include <QLocale>
+
+QString RandomNumbers::next()
 {
-    const int digits = m_random.bounded(1, mostDigits + 1);
-    QString text;
+    const int decimals = m_random.bounded(0, 5);
+    const int digits = m_random.bounded(qMax(decimals, 1), 7);
+    int most = 1;
+    int scale = 1;
     for (int i = 0; i < digits; ++i) {
-        const int least = i == 0 || i == digits - 1 ? 1 : 0;
-        text += QString::number(m_random.bounded(least, 10));
+        most *= 10;
+        scale *= i < decimals ? 10 : 1;
     }
-    const int place = m_random.bounded(-4, digits + 5);
-    if (place <= 0) {
-        return QStringLiteral("0.") + QString(-place, '0') + text;
-    }
-    return place < digits ? text.insert(place, '.') : text.leftJustified(place, '0');
+    // The shortest form has no needless zeros.
+    return QString::number(double(m_random.bounded(1, most)) / scale, 'f',
+                           QLocale::FloatingPointShortest);
 }

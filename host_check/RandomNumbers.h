@@ -3,11 +3,11 @@
 #include <QRandomGenerator>
 #include <QString>
 
-/// Numbers as a user types them, the same in each run.
+/// Sizes and lengths as a user types them, the same in each run.
 class RandomNumbers {
 public:
-    /// Up to `mostDigits` digits with the point anywhere, without needless zeros.
-    QString next(int mostDigits);
+    /// Above 0, up to six digits, at most four of them behind the point, without needless zeros.
+    QString next();
 
 private:
     QRandomGenerator m_random{20261121};

@@ -1,18 +1,8 @@
 #include "Report.h"
 
-#include <QTextStream>
-
-#include <cmath>
 #include <exception>
 
 namespace {
-
-/// Texts of the host may have several lines.
-void print(QString line)
-{
-    line.replace('\n', QLatin1String("\\n")).replace('\r', QLatin1String("\\r"));
-    QTextStream(stdout) << line << '\n';
-}
 
 QString quoted(const QString& text)
 {
@@ -33,86 +23,77 @@ QString word(bool value)
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
+/// What leaves `action` as an exception; empty: nothing.
+QString thrownBy(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const std::exception& exception) {
+        return QStringLiteral("the exception ") + quoted(QString::fromLocal8Bit(exception.what()));
+    } catch (const char* text) {
+        return QStringLiteral("the thrown text ") + quoted(QString::fromLocal8Bit(text));
+    } catch (...) {
+        return QStringLiteral("something thrown");
+    }
+    return QString();
+}
+
 }  // namespace
 
-bool Report::expect(const QString& what, bool expected, bool got)
+bool Report::judge(Row row, const QString& done, bool holds, const QString& expected,
+                   const QString& came)
 {
-    return compared(expected == got, what, word(expected), word(got));
+    m_take({holds ? Judgement::Kind::Held : Judgement::Kind::Differs, row, done, expected, came});
+    return holds;
 }
 
-bool Report::expect(const QString& what, int expected, int got)
+bool Report::expect(Row row, const QString& done, bool expected, bool came)
 {
-    return compared(expected == got, what, QString::number(expected), QString::number(got));
+    return judge(row, done, expected == came, word(expected), word(came));
 }
 
-bool Report::expect(const QString& what, double expected, double got)
+bool Report::expect(Row row, const QString& done, int expected, int came)
 {
-    const bool isSame = std::abs(got - expected) <= 1e-9 * std::abs(expected);
-    return compared(isSame, what, QString::number(expected, 'g', 12),
-                    QString::number(got, 'g', 12));
+    return judge(row, done, expected == came, QString::number(expected), QString::number(came));
 }
 
-bool Report::expect(const QString& what, const QString& expected, const QString& got)
+bool Report::expect(Row row, const QString& done, const QString& expected, const QString& came)
 {
-    return compared(expected == got, what, quoted(expected), quoted(got));
+    return judge(row, done, expected == came, quoted(expected), quoted(came));
 }
 
-bool Report::expect(const QString& what, const QStringList& expected, const QStringList& got)
+bool Report::expect(Row row, const QString& done, const QStringList& expected,
+                    const QStringList& came)
 {
-    return compared(expected == got, what, quoted(expected), quoted(got));
-}
-
-bool Report::compared(bool isSame, const QString& what, const QString& expected, const QString& got)
-{
-    ++m_tried;
-    if (!isSame) {
-        ++m_differences;
-        print(QStringLiteral("differs: %1: expected %2, got %3").arg(what, expected, got));
-    }
-    return isSame;
+    return judge(row, done, expected == came, quoted(expected), quoted(came));
 }
 
 void Report::step(const QString& what)
 {
-    if (m_isVerbose) {
-        print(QStringLiteral("trying: ") + what);
-    }
+    m_take({Judgement::Kind::Step, Row::Count, what, QString(), QString()});
 }
 
-void Report::untried(const QString& what, const QString& why)
+void Report::untried(Row row, const QString& why)
 {
-    ++m_untried;
-    print(QStringLiteral("not tried: %1: %2").arg(what, why));
+    m_take({Judgement::Kind::Untried, row, why, QString(), QString()});
 }
 
-void Report::untriedWithoutJob(const QString& what)
-{
-    untried(what, QStringLiteral("no --job is given"));
-}
-
-void Report::run(const QString& what, const std::function<void()>& action)
+void Report::run(Row row, const QString& what, const std::function<void()>& action)
 {
     step(what);
-    QString thrown;
-    try {
-        action();
-    } catch (const std::exception& exception) {
-        thrown =
-            QStringLiteral("the exception ") + quoted(QString::fromLocal8Bit(exception.what()));
-    } catch (const char* text) {
-        thrown = QStringLiteral("the thrown text ") + quoted(QString::fromLocal8Bit(text));
-    } catch (...) {
-        thrown = QStringLiteral("something thrown");
-    }
-    if (!compared(thrown.isEmpty(), what, QStringLiteral("no exception"), thrown)) {
-        untried(QStringLiteral("the rest of ") + what, QStringLiteral("see the line above"));
+    const QString thrown = thrownBy(action);
+    if (!thrown.isEmpty()) {
+        expectNothing(row, what, thrown);
     }
 }
 
-void Report::finish() const
+void Report::expectReturn(Row row, const QString& what, const std::function<void()>& action)
 {
-    print(QStringLiteral("%1 tried, %2 different, %3 not tried")
-              .arg(m_tried)
-              .arg(m_differences)
-              .arg(m_untried));
+    step(what);
+    expectNothing(row, what, thrownBy(action));
+}
+
+void Report::expectNothing(Row row, const QString& what, const QString& thrown)
+{
+    judge(row, what, thrown.isEmpty(), QStringLiteral("no exception"), thrown);
 }

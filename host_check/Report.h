@@ -1,44 +1,36 @@
 #pragma once
 
+#include "Judgement.h"
+
 #include <QStringList>
 
-#include <functional>
-
-/// Compares what a host does with what the interface requires, prints each difference in one line,
-/// and counts.
+/// What the checks say, each about a row of the table.
 class Report {
 public:
-    /// `isVerbose`: see step().
-    explicit Report(bool isVerbose) : m_isVerbose(isVerbose) {}
+    explicit Report(TakeJudgement take) : m_take(std::move(take)) {}
 
-    /// Whether both are equal; a difference is printed under the name `what`.
-    bool expect(const QString& what, bool expected, bool got);
-    bool expect(const QString& what, int expected, int got);
-    /// Sizes go through two conversions: the last digits of a double do not count.
-    bool expect(const QString& what, double expected, double got);
-    bool expect(const QString& what, const QString& expected, const QString& got);
-    bool expect(const QString& what, const QStringList& expected, const QStringList& got);
+    /// Whether `came` is as `expected`; `done` says what was done.
+    bool expect(Row row, const QString& done, bool expected, bool came);
+    bool expect(Row row, const QString& done, int expected, int came);
+    bool expect(Row row, const QString& done, const QString& expected, const QString& came);
+    bool expect(Row row, const QString& done, const QStringList& expected, const QStringList& came);
+    /// The same, with a comparison of the caller's.
+    bool judge(Row row, const QString& done, bool holds, const QString& expected,
+               const QString& came);
 
-    /// Announces what is called next. If verbose, it is printed, so that one can see in which call
-    /// a host crashes.
+    /// Says what is called next, to see in which call a host crashes.
     void step(const QString& what);
+    /// Says why a row could not be judged.
+    void untried(Row row, const QString& why);
 
-    /// Reports that something could not be tried, and why.
-    void untried(const QString& what, const QString& why);
-    void untriedWithoutJob(const QString& what);
-
-    /// Runs `action` as a step; an exception that leaves it is a difference named `what`.
-    void run(const QString& what, const std::function<void()>& action);
-
-    /// Prints the totals.
-    void finish() const;
-    bool isClean() const { return m_differences == 0; }
+    /// Runs `action`, which judges, as a step; an exception that leaves it is a difference of the
+    /// row.
+    void run(Row row, const QString& what, const std::function<void()>& action);
+    /// The same of an `action` of which nothing more is expected than that it returns.
+    void expectReturn(Row row, const QString& what, const std::function<void()>& action);
 
 private:
-    bool compared(bool isSame, const QString& what, const QString& expected, const QString& got);
+    void expectNothing(Row row, const QString& what, const QString& thrown);
 
-    bool m_isVerbose;
-    int m_tried = 0;
-    int m_differences = 0;
-    int m_untried = 0;
+    TakeJudgement m_take;
 };

@@ -3,8 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QKeyEvent>
-#include <QMouseEvent>
+#include <QTest>
 
 namespace {
 
@@ -24,26 +23,6 @@ void click(QAbstractItemView& list, const QModelIndex& index, QEvent::Type press
 }  // namespace
 
 namespace UserActions {
-
-void pressKey(QWidget& widget, int key, const QString& text)
-{
-    for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(kind, key, Qt::NoModifier, text);
-        QCoreApplication::sendEvent(&widget, &event);
-    }
-}
-
-void type(QWidget& widget, const QString& text)
-{
-    for (const QChar character : text) {
-        pressKey(widget, 0, character);
-    }
-}
-
-bool hasList(const QWidget& window)
-{
-    return window.findChild<QAbstractItemView*>() != nullptr;
-}
 
 QAbstractItemView* listOf(const QWidget& window)
 {
@@ -67,21 +46,24 @@ QStringList namesIn(const QWidget& window)
 }
 
 void choose(QWidget& window, QAbstractItemView& list, const QModelIndex& index,
-            const QStringList& chosen)
+            const std::function<bool()>& isChosen)
 {
     window.show();
     list.setCurrentIndex(index);
-    if (chosen.isEmpty()) {
-        pressKey(list, Qt::Key_Return);
+    if (!isChosen()) {
+        QTest::keyClick(&list, Qt::Key_Return);
     }
     // The second click makes the first one a double click.
     for (const QEvent::Type press : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
-        if (chosen.isEmpty()) {
+        if (!isChosen()) {
             click(list, index, press);
         }
     }
+    if (isChosen()) {
+        return;  // and the window may be gone
+    }
     for (auto* const button : window.findChildren<QAbstractButton*>()) {
-        if (!chosen.isEmpty()) {
+        if (isChosen()) {
             return;
         }
         window.show();
@@ -94,6 +76,12 @@ void close(QWidget& window)
 {
     window.close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool isHostWindow(const QWidget& window)
+{
+    return window.inherits("Widget_Attributes") || window.inherits("Widget_SymbolSelection") ||
+           window.inherits("Widget_listpopup") || window.inherits("Grc_Tbe_measurepopup");
 }
 
 }  // namespace UserActions

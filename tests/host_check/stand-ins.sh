@@ -1,50 +1,36 @@
-#!/bin/sh
-# The stand-ins keep the interface in each of their units, and nothing is left untried except what
-# throws. Usage: stand-ins.sh HOST_CHECK JOB_FILE
+#!/usr/bin/env bash
+# The stand-ins keep what the module relies on in each of their units, and left untried is only what
+# takes a switch of the unit or modules that receive.
+# Usage: stand-ins.sh JOB_FILE MODULE HOST_CHECK...
 set -u
-program=$1
-export CANVAS_HOST_JOBS="$2"
-failed=0
-errors=$(mktemp)
-trap 'rm -f "$errors"' EXIT
-
-# expect STATUS UNTRIED OPTION...: the exit status, and how many lines say what was not tried.
-expect() {
-    status=$1 untried=$2
-    shift 2
-    output=$("$program" "$@" 2>"$errors")
-    got=$?
-    lines=$(printf '%s\n' "$output" | grep -c '^not tried: ')
-    if [ "$got" -ne "$status" ] || [ "$lines" -ne "$untried" ]; then
-        printf '%s\n' "$output"
-        cat "$errors"
-        echo "host_check $* in $CANVAS_HOST_UNIT: status $got, $lines not tried"
-        failed=1
-    fi
-    last=$(printf '%s\n' "$output" | tail -n 1)
-}
+export CANVAS_HOST_JOBS=$1
+module=$2
+program=("${@:3}")
+. "$(dirname "$0")/expect.sh"
+job=(--job demo --step pcb)
+attributes=(--attribute .smd= --attribute .net=GND)
 
 for units in mil=inch inch=inch um=metric mm=metric; do
     export CANVAS_HOST_UNIT="${units%=*}"
-    expect 0 1 --unit "${units#*=}" --job demo --step pcb
-    printf '%s\n' "$output" | grep -q '^not tried: getUnitString() that throws' || failed=1
+    expect 0 4 --unit "${units#*=}" "${job[@]}" "${attributes[@]}" --module "$module"
     echo "$CANVAS_HOST_UNIT: $last"
-    case $last in
-    [1-9][0-9][0-9][0-9]*" tried, 0 different, 1 not tried") ;;
-    *) failed=1 ;;
-    esac
 done
 
 # Told of the wrong unit, of no job, of nothing.
-expect 1 1 --unit inch --job demo --step pcb
-expect 0 7 --unit metric
-expect 0 7 --unit metric --verbose
-printf '%s\n' "$output" | grep -qxF 'trying: getUnitData(10)' || { echo "no steps"; failed=1; }
+expect 1 4 --unit inch "${job[@]}" "${attributes[@]}" --module "$module"
+expect 0 19 --unit metric
+expect 0 12 --unit metric "${job[@]}" "${attributes[@]}" --verbose
+grep -qxF 'trying: getUnitJudgeDouble(10000)' "$work/output" || { echo "no steps"; failed=1; }
+expect 1 10 --unit metric "${job[@]}" "${attributes[@]}" --module "$module.missing"
+grep -q '^differs: the module can be opened' "$work/output" || { echo "a missing module is not told"; failed=1; }
 expect 2 0
 expect 2 0 --unit mm
 expect 2 0 --unit metric more
 expect 2 0 --units metric
+expect 2 0 --unit metric --attribute .smd
+expect 2 0 --unit metric --attribute .smd=
+expect 2 0 --unit metric --switch-unit true
 expect 2 0 --unit
-grep -q "Missing value after '--unit'" "$errors" || { echo "a mistake is not explained"; failed=1; }
+grep -q "Missing value after '--unit'" "$work/errors" || { echo "a mistake is not explained"; failed=1; }
 expect 0 0 --help
 exit $failed

@@ -1,41 +1,80 @@
-#!/bin/sh
-# A host with one fault is found by that fault alone. Usage: wrong-hosts.sh PROGRAM JOB_FILE
+#!/usr/bin/env bash
+# A host with one fault is found by that fault: by calls alone, or only when the module is at work.
+# Usage: wrong-hosts.sh calls|pair MODULE SWITCH_UNIT HOST_CHECK...
 set -u
-program=$1
-export CANVAS_HOST_JOBS="$2"
-found=0
+way=$1 module=$2 switch=$3
+program=("${@:4}")
+. "$(dirname "$0")/expect.sh"
+export WRONG_HOST
 tried=0
-errors=$(mktemp)
-trap 'rm -f "$errors"' EXIT
 
-# expect FAULT NAME: each difference of the host with this fault begins with that name.
-expect() {
+options() {
+    set_unit "$1"
+    case $1 in um) kind=metric ;; *) kind=inch ;; esac
+    options=(--unit "$kind" --job demo --step pcb --attribute .net=GND --attribute .bit=3)
+}
+
+# found STATEMENT...: there are differences, and each is of one of these statements.
+found() {
+    local expression
+    expression=$(printf '|%s' "$@")
     tried=$((tried + 1))
-    differences=$(WRONG_HOST="$1" "$program" --unit inch --job demo --step pcb 2>"$errors")
-    status=$?
-    differences=$(printf '%s\n' "$differences" | sed -n 's/^differs: //p')
-    others=$(printf '%s\n' "$differences" | grep -v "^$2")
-    if [ "$status" -eq 1 ] && [ -n "$differences" ] && [ -z "$others" ]; then
-        found=$((found + 1))
-        printf '%s: %s\n' "$1" "$(printf '%s\n' "$differences" | head -n 1)"
+    if [ "$status" -ne 1 ] || ! grep -q '^differs' "$work/output" ||
+        grep '^differs' "$work/output" | grep -vE "^differs[^:]*: (${expression#|})"; then
+        cat "$work/output" "$work/errors"
+        echo "$WRONG_HOST in $OTHER_HOST_UNIT: status $status"
+        failed=1
     else
-        printf '%s: status %s\n%s\n' "$1" "$status" "$differences"
-        cat "$errors"
+        echo "$WRONG_HOST: $(grep -m 1 '^  done' "$work/output")"
     fi
 }
 
-expect units 'getUnitData('
-expect 'symbol names' 'setSymbolUIData('
-expect arcs 'identify_symbol(.*arc'
-expect bounds 'isNumValueLegal(.*: modal boxes: expected 1, got 2'
-expect 'line edit' 'ZTLineEdit of pattern .*: changeunit() emits editingFinished'
-expect popups 'Widget_listpopup of .*: is there after closing'
-echo "$found of $tried wrong hosts were found"
+# calls UNIT FAULT STATEMENT...: found by calls alone.
+calls() {
+    [ "$way" = calls ] || return
+    options "$1"
+    WRONG_HOST=$2
+    check "${options[@]}"
+    found "${@:3}"
+}
+
+# pair UNIT FAULT STATEMENT...: found only with the module.
+pair() {
+    [ "$way" = pair ] || return
+    options "$1"
+    WRONG_HOST=$2
+    expect 0 12 "${options[@]}"
+    check "${options[@]}" --module "$module" \
+        --switch-unit "\"$switch\" \"$OTHER_HOST_UNIT\" um mil"
+    found "${@:3}"
+}
+
+calls mil 'symbol names' 'setSymbolUIData\(name, [01]\) (multi|div)' 'setSymbolUIData\(\) gives a stored name again'
+calls um 'identity' 'setSymbolUIData\(name, [01]\) (multi|div)'
+calls mil 'bounds' 'isNumValueLegal\(\) shows a refusal in exactly one'
+calls um 'late box' 'isSymbolValueLegal\(\) shows a refusal in exactly one'
+calls um 'bound' 'getUnitJudgeDouble\(\) is a bound'
+calls um 'unit string' 'getUnitString\(\) is "MM"'
+calls mil 'line edit' 'changeunit\(\) never reports'
+calls mil 'edit identity' 'changeunit\(\) .* multiplies the number by 25.4' 'ZTLineEdit writes and takes a decimal point'
+calls mil 'factor' 'changeunit\(\) .* multiplies the number by 25.4' 'ZTLineEdit writes and takes a decimal point'
+calls mil 'comma' 'ZTLineEdit writes and takes a decimal point'
+calls mil 'choice' 'Widget_SymbolSelection signals a choice once'
+
+pair mil 'pictures' 'Qt of the host reads the pictures'
+pair mil 'messages' 'module and host work through each step without a crash'
+pair um 'dialogs' 'the dialog and each window of the host appear'
+pair mil 'told once' 'a refused entry opens exactly one box'
+pair um 'active window' 'each entry changes the record' 'Widget_SymbolSelection shows and sends sizes in the unit'
+pair mil 'warnings' 'Qt has nothing to complain'
+pair mil 'unit' 'lengths and symbols are shown and taken' 'a refused entry opens'
+pair mil 'unloading' 'module and host work through each step without a crash'
+[ "$way" = calls ] || grep -q '^  done: the program ends:' "$work/output" ||
+    { echo "not after unloading"; failed=1; }
 
 # Without a fault the same program finds none.
-WRONG_HOST='' "$program" --unit inch --job demo --step pcb >"$errors" 2>&1 || {
-    cat "$errors"
-    echo "a difference without a fault"
-    exit 1
-}
-[ "$found" -eq "$tried" ]
+WRONG_HOST=
+options mil
+expect 0 12 "${options[@]}"
+echo "$tried wrong hosts"
+exit $failed

@@ -18,7 +18,9 @@ cmake --build "$work/module" --target Canvas_Tool_Strip host_check >"$work/build
     { cat "$work/build.log"; exit 1; }
 # For Windows: the libraries of the host are in bin/, the module in modules/.
 export WINEPATH="$work/prefix/bin;$work/module/modules;${WINEPATH:-}"
-$emulator "$work/module/bin/host_check" --unit inch 2>"$work/check.log" || { cat "$work/check.log"; exit 1; }
+module=$(ls "$work"/module/modules/Canvas_Tool_Strip.*)
+$emulator "$work/module/bin/host_check" --unit inch --module "$module" \
+    >"$work/check.log" 2>&1 || { cat "$work/check.log"; exit 1; }
 
 # The headers came from the installed package, not from the tree.
 for header in cam_api.h ui_api.h common_widgets.h QTpluginsManger4CAM.h PluginMetaData.h; do
@@ -29,7 +31,7 @@ if ninja -C "$work/module" -t deps | grep -F "$source/host/"; then
     echo "the module reached into the tree's host/"
     exit 1
 fi
-"$source/tests/module/exported-names.sh" "$(ls "$work"/module/modules/Canvas_Tool_Strip.*)"
+"$source/tests/module/exported-names.sh" "$module"
 
 flags=
 [ "$sanitize" = ON ] && flags=-fsanitize=address,undefined

@@ -47,4 +47,5 @@ compile() {
     printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -I FILE \
         "$tool-g++-posix" "${options[@]}" "${own[@]}" -fsyntax-only FILE
 }
-compile -DCANVAS_TOOL_STRIP_BUILD -- "${files[@]}" && compile -- "$check"/*.cpp
+compile -DCANVAS_TOOL_STRIP_BUILD -- "${files[@]}" &&
+    compile -DHOST_LIBRARIES='""' -I"$check" -- "$check"/*.cpp "$check"/pair/*.cpp

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -222,6 +223,30 @@ private Q_SLOTS:
             QCOMPARE(expected.size(), 1);
             QCOMPARE(expected[0][0].toString(), names[1]);
             QCOMPARE(font.size() + text.size(), 1);
+        }
+    }
+
+    void windowsAreSeparateAndStay()
+    {
+        auto parent = std::make_unique<QWidget>();
+        const std::vector<QPointer<QWidget>> windows = {
+            new Widget_Attributes(parent.get()),
+            new Widget_SymbolSelection("one", parent.get(), parent.get()),
+            new Widget_listpopup(17, "one", parent.get()),
+            new Widget_listpopup(16, "one", "pcb", parent.get()),
+            new Grc_Tbe_measurepopup(nullptr, parent.get())};
+        for (const QPointer<QWidget>& window : windows) {
+            QCOMPARE(window->parentWidget(), parent.get());
+            QVERIFY(window->isWindow());
+            window->show();
+            window->close();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(window);
+            QVERIFY(!window->isVisible());
+        }
+        parent.reset();
+        for (const QPointer<QWidget>& window : windows) {
+            QVERIFY(!window);
         }
     }
 

@@ -1,0 +1,6 @@
+#include "HostLibraries.h"
+
+QStringList hostLibraries()
+{
+    return QStringLiteral(HOST_LIBRARIES).split('|');
+}
