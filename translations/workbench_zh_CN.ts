@@ -90,6 +90,30 @@
         <source>Fit</source>
         <translation>适合窗口</translation>
     </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Deselect</source>
+        <translation>取消选择</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Dese&amp;lect</source>
+        <translation>取消选择(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>ComposeDialog</name>
@@ -175,33 +199,6 @@
     <message>
         <source>Documentation</source>
         <translation>文档</translation>
-    </message>
-</context>
-<context>
-    <name>EditActions</name>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>全选(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Dese&amp;lect</source>
-        <translation>取消选择(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>删除(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Select all</source>
-        <translation>全选</translation>
-    </message>
-    <message>
-        <source>Deselect</source>
-        <translation>取消选择</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>删除</translation>
     </message>
 </context>
 <context>
@@ -495,6 +492,10 @@
     <message>
         <source>is not one of </source>
         <translation>不是以下之一：</translation>
+    </message>
+    <message>
+        <source>is not a canvas for this window</source>
+        <translation>不是此窗口的画布</translation>
     </message>
 </context>
 <context>

@@ -1,10 +1,14 @@
 #include "board/BoardFile.h"
 
 #include "board/FeatureJson.h"
+#include "board/GerberExport.h"
+#include "board/PictureExport.h"
 
 #include <Files.h>
 #include <Json.h>
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QJsonDocument>
 
 namespace Pcb {
@@ -65,6 +69,26 @@ Board readBoardFile(const QString& file)
 void writeBoardFile(const Board& board, const QString& file)
 {
     CanvasHost::writeWhole(file, toJson(board));
+}
+
+void exportBoard(const Board& board, const QString& file)
+{
+    constexpr int pictureSize = 2000;  // pixels
+    const QString suffix = QFileInfo(file).suffix().toLower();
+    if (suffix == QLatin1String("json")) {
+        writeBoardFile(board, file);
+    } else if (suffix == QLatin1String("gbr")) {
+        writeGerber(board, file);
+    } else if (suffix == QLatin1String("png")) {
+        writePng(board, file, pictureSize);
+    } else if (suffix == QLatin1String("svg")) {
+        writeSvg(board, file);
+    } else {
+        throw CanvasHost::FileError{
+            file, 0,
+            QCoreApplication::translate("FileErrors",
+                                        "the name must end in .json, .gbr, .png or .svg")};
+    }
 }
 
 }  // namespace Pcb

@@ -5,7 +5,7 @@
 #include "messages/HostState.h"
 #include "messages/MessageNames.h"
 #include "messages/MessageWords.h"
-#include "messages/Named.h"
+#include "shared/Named.h"
 
 #include <FileError.h>
 #include <PluginManagerStandIn.h>

@@ -1,8 +1,8 @@
 #include "messages/MessageDialog.h"
 
-#include <RecordTable.h>
 #include "messages/MessageNames.h"
-#include "messages/Named.h"
+#include "shared/Named.h"
+#include "shared/RecordTable.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,12 +1,12 @@
 #include "messages/MessageMonitor.h"
 
 #include <FileError.h>
-#include <RecordTable.h>
 #include "messages/MessageDialog.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
-#include "messages/Named.h"
+#include "shared/Named.h"
+#include "shared/RecordTable.h"
 
 #include <QEvent>
 #include <QFileDialog>

@@ -1,10 +1,10 @@
 #include "messages/MessageRecord.h"
 
-#include <Values.h>
 #include "messages/MessageNames.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "shared/Values.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,9 +1,9 @@
 #include "session/MessageExpectation.h"
 
 #include "messages/MessageWords.h"
+#include "shared/Values.h"
 
 #include <FileError.h>
-#include <Values.h>
 
 #include <algorithm>
 

@@ -1,14 +1,13 @@
-// The menus of the window. What acts on the board are actions of the canvas, which is a module and
-// known by the object names of its parts alone.
+// The menus of the window. What acts on the board are actions of the canvas.
 
 #include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
 #include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
+#include "shared/CanvasControl.h"
+#include "shared/Named.h"
 #include "window/Documentation.h"
 #include "window/WorkbenchWindow.h"
-
-#include <Settings.h>
 
 #include <QAction>
 #include <QDir>
@@ -25,9 +24,7 @@ namespace {
 
 QMenu* createMenu(QMenuBar* bar, const char* name)
 {
-    QMenu* const menu = bar->addMenu(QString());
-    menu->setObjectName(QLatin1String(name));
-    return menu;
+    return named(bar->addMenu(QString()), name);
 }
 
 QString droppedFile(const QMimeData* data)
@@ -40,8 +37,7 @@ QString droppedFile(const QMimeData* data)
 
 QAction* WorkbenchWindow::addEntry(QMenu* menu, const char* name, const char* text)
 {
-    QAction* const action = menu->addAction(QString());
-    action->setObjectName(QLatin1String(name));
+    QAction* const action = named(menu->addAction(QString()), name);
     m_entries.append({action, text});
     return action;
 }
@@ -98,62 +94,32 @@ void WorkbenchWindow::createSendEntries()
 
 void WorkbenchWindow::addCanvasEntries()
 {
-    const auto actions = [this](const std::initializer_list<const char*>& names) {
-        QList<QAction*> found;
-        for (const char* const name : names) {
-            if (auto* const action = findChild<QAction*>(QLatin1String(name))) {
-                found.append(action);
-            }
-        }
-        return found;
-    };
+    using Group = CanvasControl::Group;
     QAction* const trace = m_fileMenu->actions().constFirst();
-    m_fileMenu->insertActions(trace, actions({"m_pNewBoardAct", "m_pOpenBoardAct"}));
-    m_recentMenu = new QMenu(m_fileMenu);
-    m_recentMenu->setObjectName(QStringLiteral("m_pRecentMenu"));
+    m_fileMenu->insertActions(trace, canvas()->actions(Group::NewAndOpen));
+    m_recentMenu = named(new QMenu(m_fileMenu), "m_pRecentMenu");
     connect(m_fileMenu, &QMenu::aboutToShow, this, &WorkbenchWindow::listRecentFiles);
     m_fileMenu->insertMenu(trace, m_recentMenu);
-    m_fileMenu->insertActions(
-        trace, actions({"m_pSaveBoardAct", "m_pSaveBoardAsAct", "m_pExportBoardAct"}));
+    m_fileMenu->insertActions(trace, canvas()->actions(Group::Save));
     m_fileMenu->insertSeparator(trace);
-    m_editMenu->addActions(actions({"m_pUndoAct", "m_pRedoAct"}));
+    m_editMenu->addActions(canvas()->actions(Group::History));
     m_editMenu->addSeparator();
-    m_editMenu->addActions(actions({"m_pSelectAllAct", "m_pDeselectAct", "m_pDeleteAct"}));
+    m_editMenu->addActions(canvas()->actions(Group::Selection));
     QAction* const docks = m_viewMenu->actions().constFirst();
-    m_viewMenu->insertActions(
-        docks, actions({"m_pFitAct", "m_pZoomInAct", "m_pZoomOutAct", "m_pSnapAct"}));
+    m_viewMenu->insertActions(docks, canvas()->actions(Group::View));
     m_viewMenu->insertSeparator(docks);
-    m_boardFiles = findChild<QObject*>(QStringLiteral("m_pBoardFiles"));
-    connect(m_boardFiles, SIGNAL(changed()), this, SLOT(showTitle()));
+    canvas()->files().setChanged([this] { showTitle(); });
 }
 
 void WorkbenchWindow::listRecentFiles()
 {
     m_recentMenu->clear();
-    const QStringList files =
-        CanvasHost::Settings::value(QStringLiteral("files/recent")).toStringList();
+    const QStringList files = canvas()->files().recent();
     for (const QString& file : files) {
         QAction* const action = m_recentMenu->addAction(QDir::toNativeSeparators(file));
-        connect(action, &QAction::triggered, this, [this, file] { openBoard(file); });
+        connect(action, &QAction::triggered, this, [this, file] { canvas()->files().open(file); });
     }
     m_recentMenu->setEnabled(!files.isEmpty());
-}
-
-void WorkbenchWindow::openBoard(const QString& file)
-{
-    QMetaObject::invokeMethod(m_boardFiles, "open", Q_ARG(QString, file));
-}
-
-void WorkbenchWindow::setMayAsk(const std::function<bool()>& mayAsk)
-{
-    QMetaObject::invokeMethod(m_boardFiles, "setMayAsk", Q_ARG(std::function<bool()>, mayAsk));
-}
-
-bool WorkbenchWindow::mayClose() const
-{
-    bool may = true;
-    QMetaObject::invokeMethod(m_boardFiles, "mayClose", Q_RETURN_ARG(bool, may));
-    return may;
 }
 
 void WorkbenchWindow::showTitle()
@@ -161,16 +127,13 @@ void WorkbenchWindow::showTitle()
     QString title = m_host->job().isEmpty()
                         ? tr("Workbench")
                         : tr("%1 / %2[*] - Workbench").arg(m_host->job(), m_host->step());
-    if (m_boardFiles) {
-        QString file;
-        bool modified = false;
-        QMetaObject::invokeMethod(m_boardFiles, "file", Q_RETURN_ARG(QString, file));
-        QMetaObject::invokeMethod(m_boardFiles, "isModified", Q_RETURN_ARG(bool, modified));
+    if (canvas()) {
+        const QString file = canvas()->files().file();
         if (!file.isEmpty()) {
             title = tr("%1[*] - %2 / %3 - Workbench")
                         .arg(QFileInfo(file).fileName(), m_host->job(), m_host->step());
         }
-        setWindowModified(modified);
+        setWindowModified(canvas()->files().isModified());
     }
     setWindowTitle(title);
 }
@@ -195,7 +158,7 @@ void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
 void WorkbenchWindow::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    openBoard(droppedFile(event->mimeData()));
+    canvas()->files().open(droppedFile(event->mimeData()));
 }
 
 void WorkbenchWindow::retranslateMenus()

@@ -10,9 +10,9 @@
 #include <QMainWindow>
 #include <QPointer>
 
-#include <functional>
 #include <memory>
 
+class CanvasControl;
 class ComposeDialog;
 class HostState;
 class MessageLog;
@@ -40,9 +40,8 @@ public:
     void start();
 
     HostState* host() const { return m_host; }
-
-    /// Whether a user is there to be asked before changes of a board are lost.
-    void setMayAsk(const std::function<bool()>& mayAsk);
+    /// Null before the modules are loaded, and after they have gone.
+    CanvasControl* canvas() const;
 
 Q_SIGNALS:
     void closed();
@@ -52,9 +51,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-
-private Q_SLOTS:
-    void showTitle();
 
 private:
     /// A menu entry and its text, which is read again when the language changes.
@@ -78,14 +74,12 @@ private:
     void changeLanguage(int index);
     void showEq(bool visible);
     void tellCanvas(const MessageRecord& message);
-    void invokeCanvas(const char* method, QGenericArgument argument = {});
     void savePicture();
     void openDimensions();
     void compose();
     void showAbout();
     void listRecentFiles();
-    void openBoard(const QString& file);
-    bool mayClose() const;
+    void showTitle();
     void retranslate();
     void retranslateMenus();
 
@@ -111,7 +105,6 @@ private:
     QMenu* m_viewMenu;
     QMenu* m_sendMenu;
     QMenu* m_helpMenu;
-    QPointer<QObject> m_boardFiles;  // the canvas's, see FileActions
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
     ComposeDialog* m_compose = nullptr;  // made when it is first asked for
