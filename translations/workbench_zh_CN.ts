@@ -122,10 +122,6 @@
         <translation>数字</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a whole number</source>
-        <translation>“%1”不是整数</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>文本</translation>
     </message>
@@ -134,20 +130,8 @@
         <translation>符号</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a list NUMBER=SYMBOL,...</source>
-        <translation>“%1”不是“编号=符号,…”形式的列表</translation>
-    </message>
-    <message>
         <source>Attributes</source>
         <translation>属性</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a list NAME=VALUE,...</source>
-        <translation>“%1”不是“名称=值,…”形式的列表</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a message code</source>
-        <translation>“%1”不是消息代码</translation>
     </message>
     <message>
         <source>message %1 takes: %2</source>
@@ -1034,6 +1018,33 @@
     </message>
 </context>
 <context>
+    <name>MessageWords</name>
+    <message>
+        <source>&quot;%1&quot; is not a list NUMBER=SYMBOL,...</source>
+        <translation>“%1”不是“编号=符号,…”形式的列表</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a list NAME=VALUE,...</source>
+        <translation>“%1”不是“名称=值,…”形式的列表</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a message code</source>
+        <translation>“%1”不是消息代码</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>“%1”不是数字</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false</source>
+        <translation>“%1”既不是 true 也不是 false</translation>
+    </message>
+</context>
+<context>
     <name>NameList</name>
     <message>
         <source>Filter</source>
@@ -1067,24 +1078,12 @@
         <translation>整数</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a whole number</source>
-        <translation>“%1”不是整数</translation>
-    </message>
-    <message>
         <source>decimal</source>
         <translation>小数</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a number</source>
-        <translation>“%1”不是数字</translation>
-    </message>
-    <message>
         <source>truth</source>
         <translation>真假</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is neither true nor false</source>
-        <translation>“%1”既不是 true 也不是 false</translation>
     </message>
     <message>
         <source>the key is missing</source>

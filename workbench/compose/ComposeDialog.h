@@ -33,9 +33,7 @@ private:
     void createExtra();
     void createButtons();
     void codeChanged();
-    bool readCode(HostMessage* message);
-    bool readPayload(HostMessage* message);
-    bool readExtra(HostMessage* message);
+    HostMessage::ExtraWord readExtra(int code) const;
     void showExtraHint();
     void retranslate();
 

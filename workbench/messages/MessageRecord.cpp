@@ -17,12 +17,7 @@
 namespace {
 
 using MessageNames::Extra;
-
-Extra extraOf(const QString& receiver, int code)
-{
-    const MessageNames::Row* const row = MessageNames::find(receiver, code);
-    return row ? row->extra : Extra::Number;
-}
+using MessageNames::extraOf;
 
 QMap<QString, QString> readExtra(Extra kind, qint64 address)
 {
@@ -81,6 +76,7 @@ MessageRecord MessageRecord::of(const CanvasHost::Transfer& transfer)
     record.payload = message.payload;
     record.extra = message.extra;
     record.delivered = transfer.delivered;
+    record.module = transfer.module;
     if (message.extra != 0) {
         record.pointedAt = readExtra(extraOf(message.receiver, message.code), message.extra);
     }

@@ -2,8 +2,8 @@
 
 #include "session/BoxAnswers.h"
 #include "session/MessageExpectation.h"
+#include "session/Reach.h"
 #include "session/SentMessages.h"
-#include "session/StepReach.h"
 #include "session/WidgetState.h"
 
 namespace ExpectSteps {
@@ -44,7 +44,7 @@ StepAction expectProperty(const QString& name, const QString& property, const QS
         const QString wanted = QStringLiteral("%1=\"%2\" of \"%3\"").arg(property, value, name);
         const QWidget* widget = nullptr;
         try {
-            widget = StepReach::find(name);
+            widget = Reach::widget(name);
         } catch (const StepFault& absent) {
             notYet(fault(wanted, absent.reason));
         }

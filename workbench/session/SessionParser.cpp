@@ -115,8 +115,8 @@ Session SessionParser::read(const QByteArray& bytes, const QString& file)
                 session.steps.push_back(StepTable::parse(words));
                 session.steps.back().line = number;
             }
-        } catch (const CanvasHost::FileError& error) {
-            throw CanvasHost::FileError{file, number, error.reason};
+        } catch (const WordError& error) {
+            throw CanvasHost::FileError{file, number, error.text()};
         }
     }
     return session;

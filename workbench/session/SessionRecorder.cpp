@@ -1,8 +1,8 @@
 #include "session/SessionRecorder.h"
 
 #include "session/BoxAnswers.h"
-#include "session/MenuEntries.h"
-#include "session/TextWidgets.h"
+#include "session/Reach.h"
+#include "shared/TakesText.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -311,7 +311,7 @@ void SessionRecorder::key(const QKeyEvent* event)
     }
     QWidget* const focus = QApplication::focusWidget();
     if (!focus || isInBox(focus) || isModifier(event->key()) ||
-        (TextWidgets::hasText(focus) && !leavesText(event->key()))) {
+        (takesText(focus) && !leavesText(event->key()))) {
         return;
     }
     writeKey(focus, keyName(event));
@@ -377,9 +377,9 @@ void SessionRecorder::chooseEntry(QMenu* menu, const QAction* action)
         return;
     }
     const QString entry =
-        action->objectName().isEmpty() ? MenuEntries::text(action) : action->objectName();
+        action->objectName().isEmpty() ? Reach::textOf(action) : action->objectName();
     const QStringList before = m_file.last();
-    if (MenuEntries::barOf(menu) && !menu->objectName().isEmpty()) {
+    if (Reach::barOf(menu) && !menu->objectName().isEmpty()) {
         m_file.append({QStringLiteral("menu"), menu->objectName(), entry});
         unlessClosed(menu, {});
     } else if (m_rightClick.isValid() &&
@@ -428,7 +428,7 @@ void SessionRecorder::unlessClosed(QWidget* popup, const QStringList& before)
 void SessionRecorder::watchText(QWidget* focus)
 {
     disconnect(m_text);
-    if (!focus || !TextWidgets::hasText(focus)) {
+    if (!focus || !takesText(focus)) {
         return;
     }
     // Combo and spin boxes take the keys for the line edit in them.

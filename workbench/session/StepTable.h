@@ -7,8 +7,8 @@
 /// All steps that a session can have.
 namespace StepTable {
 
-/// The step that the words of a line describe. Throws a CanvasHost::FileError without a place for
-/// words that describe none.
+/// The step that the words of a line describe. Throws a WordError for words that describe
+/// none.
 SessionStep parse(const QStringList& words);
 
 QStringList names();

@@ -77,18 +77,18 @@ void WorkbenchWindow::createMenus()
 
 void WorkbenchWindow::createSendEntries()
 {
-    bool tool = false;
-    for (const MessageNames::Row& row : MessageNames::accepted()) {
-        if (row.tool != tool) {
+    for (const QVector<int>& group : MessageNames::accepted()) {
+        if (!m_sendActions.isEmpty()) {
             m_sendMenu->addSeparator();
-            tool = row.tool;
         }
-        QAction* const action = m_sendMenu->addAction(QString());
-        action->setObjectName(QStringLiteral("m_pSend%1Act").arg(row.code));
-        action->setData(row.code);
-        m_sendActions.append(action);
-        connect(action, &QAction::triggered, m_host,
-                [this, code = row.code] { m_host->sendSample(code); });
+        for (const int code : group) {
+            QAction* const action = m_sendMenu->addAction(QString());
+            action->setObjectName(QStringLiteral("m_pSend%1Act").arg(code));
+            action->setData(code);
+            m_sendActions.append(action);
+            connect(action, &QAction::triggered, m_host,
+                    [this, code] { m_host->sendSample(code); });
+        }
     }
 }
 
