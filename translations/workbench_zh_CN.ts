@@ -179,13 +179,6 @@
     </message>
 </context>
 <context>
-    <name>Documentation</name>
-    <message>
-        <source>Documentation</source>
-        <translation>文档</translation>
-    </message>
-</context>
-<context>
     <name>EditTools</name>
     <message>
         <source>No feature here.</source>
@@ -724,10 +717,6 @@
     <message>
         <source>Select a message to see it in full.</source>
         <translation>选择一条消息以查看全部内容。</translation>
-    </message>
-    <message>
-        <source>by address</source>
-        <translation>按地址</translation>
     </message>
     <message>
         <source>Save Trace</source>
@@ -1633,6 +1622,10 @@ Qt %2</translation>
     <message>
         <source>Restore &amp;Layout</source>
         <translation>恢复布局(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>文档</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,6 @@
 
 #include "messages/MessageNames.h"
 #include "shared/Named.h"
-#include "shared/RecordTable.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -12,6 +11,15 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+QVector<RecordTable::Row> rowsOf(const MessageRecord& message)
+{
+    auto rows = RecordTable::rowsOf(message.payload, message.changed);
+    for (auto entry = message.pointedAt.begin(); entry != message.pointedAt.end(); ++entry) {
+        rows.append({entry.key(), entry.value(), MessageDialog::tr("by address")});
+    }
+    return rows;
+}
 
 MessageDialog::MessageDialog(const MessageRecord& message, QWidget* parent)
     : QDialog(parent), m_message(message)
@@ -63,11 +71,7 @@ MessageDialog::Field MessageDialog::addField(const char* titleName, const char* 
 void MessageDialog::createTable()
 {
     m_pMessageDialogTW = new RecordTable("m_pMessageDialogTW", this);
-    auto rows = RecordTable::rowsOf(m_message.payload, m_message.changed);
-    for (auto entry = m_message.pointedAt.begin(); entry != m_message.pointedAt.end(); ++entry) {
-        rows.append({entry.key(), entry.value(), tr("by address")});
-    }
-    m_pMessageDialogTW->showRows(rows);
+    m_pMessageDialogTW->showRows(rowsOf(m_message));
     layout()->addWidget(m_pMessageDialogTW);
 }
 

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "messages/MessageRecord.h"
+#include "shared/RecordTable.h"
 
 #include <QDialog>
 
 class QLabel;
 class QPushButton;
-class RecordTable;
+
+/// Every entry of the payload, and what the extra word pointed at.
+QVector<RecordTable::Row> rowsOf(const MessageRecord& message);
 
 /// Shows one message in full: sender, receiver, code and name, extra word, and every entry of the
 /// payload with its type.

@@ -6,7 +6,6 @@
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
 #include "shared/Named.h"
-#include "shared/RecordTable.h"
 
 #include <QEvent>
 #include <QFileDialog>
@@ -171,11 +170,7 @@ void MessageMonitor::showSelected()
     m_pMessageLB->setText(QStringLiteral("<b>%1</b> %2")
                               .arg(message.code)
                               .arg(MessageNames::text(message.receiver, message.code)));
-    auto rows = RecordTable::rowsOf(message.payload, message.changed);
-    for (auto entry = message.pointedAt.begin(); entry != message.pointedAt.end(); ++entry) {
-        rows.append({entry.key(), entry.value(), tr("by address")});
-    }
-    m_pMessageTW->showRows(rows);
+    m_pMessageTW->showRows(rowsOf(message));
 }
 
 void MessageMonitor::showWhole(const QModelIndex& index)

@@ -1,4 +1,4 @@
-#include "session/ExpectSteps.h"
+#include "session/Steps.h"
 
 #include "session/BoxAnswers.h"
 #include "session/MessageExpectation.h"
@@ -6,7 +6,7 @@
 #include "session/SentMessages.h"
 #include "session/WidgetState.h"
 
-namespace ExpectSteps {
+namespace Steps {
 namespace {
 
 constexpr int settleTime = 60;  // milliseconds in which a late message would have arrived
@@ -114,4 +114,4 @@ StepActionList box(const QStringList& words)
     }};
 }
 
-}  // namespace ExpectSteps
+}  // namespace Steps

@@ -1,8 +1,7 @@
-#include "session/MouseSteps.h"
+#include "session/Steps.h"
 
 #include "session/InputEvents.h"
 #include "session/Reach.h"
-#include "session/WidgetSteps.h"
 
 #include <QCursor>
 #include <QHash>
@@ -11,7 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace MouseSteps {
+namespace Steps {
 namespace {
 
 using Reach::Target;
@@ -106,8 +105,8 @@ StepActionList actionsOf(const MouseStep& step, Target target, const QString& wo
     }};
     if (step.extra == MouseStep::Entry) {
         // A click on the middle of a widget is for its menu, on a place perhaps for something else.
-        actions.push_back(word.isEmpty() ? WidgetSteps::dismissMenu(target.kind == Target::Centre)
-                                         : WidgetSteps::pickEntry(word));
+        actions.push_back(word.isEmpty() ? dismissMenu(target.kind == Target::Centre)
+                                         : pickEntry(word));
     }
     return actions;
 }
@@ -160,4 +159,4 @@ StepActionList onBoard(const QStringList& words)
     return actionsOf(*step, {Reach::canvasName, Target::Board, place}, words.value(4));
 }
 
-}  // namespace MouseSteps
+}  // namespace Steps

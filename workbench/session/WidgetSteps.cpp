@@ -1,4 +1,4 @@
-#include "session/WidgetSteps.h"
+#include "session/Steps.h"
 
 #include "messages/HostState.h"
 #include "messages/MessageWords.h"
@@ -17,7 +17,7 @@
 #include <QPixmap>
 #include <QPointer>
 
-namespace WidgetSteps {
+namespace Steps {
 namespace {
 
 QMenu* openMenu()
@@ -225,4 +225,4 @@ StepAction dismissMenu(bool needed)
     };
 }
 
-}  // namespace WidgetSteps
+}  // namespace Steps

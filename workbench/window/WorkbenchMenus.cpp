@@ -6,10 +6,10 @@
 #include "plugin/ModuleNames.h"
 #include "shared/CanvasControl.h"
 #include "shared/Named.h"
-#include "window/Documentation.h"
 #include "window/WorkbenchWindow.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QDockWidget>
 #include <QDragEnterEvent>
@@ -19,6 +19,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTextBrowser>
 
 namespace {
 
@@ -70,7 +71,7 @@ void WorkbenchWindow::createMenus()
 
     createSendEntries();
     connect(addEntry(m_helpMenu, "m_pDocumentationAct", QT_TR_NOOP("&Documentation")),
-            &QAction::triggered, this, [this] { Documentation::show(this); });
+            &QAction::triggered, this, [this] { showDocumentation(); });
     connect(addEntry(m_helpMenu, "m_pAboutAct", QT_TR_NOOP("&About...")), &QAction::triggered, this,
             &WorkbenchWindow::showAbout);
 }
@@ -136,6 +137,22 @@ void WorkbenchWindow::showTitle()
         setWindowModified(canvas()->files().isModified());
     }
     setWindowTitle(title);
+}
+
+void WorkbenchWindow::showDocumentation()
+{
+    if (!m_pDocumentation) {
+        m_pDocumentation = named(new QTextBrowser(this), "m_pDocumentation");
+        m_pDocumentation->setWindowFlag(Qt::Window);
+        m_pDocumentation->setOpenExternalLinks(true);
+        m_pDocumentation->resize(760, 560);
+    }
+    const QDir pages(QCoreApplication::applicationDirPath() +
+                     QStringLiteral("/../" WORKBENCH_DOCS_DIRECTORY "/workbench/docs"));
+    m_pDocumentation->setWindowTitle(tr("Documentation"));
+    m_pDocumentation->setSource(QUrl::fromLocalFile(QDir::cleanPath(pages.filePath("canvas.md"))));
+    m_pDocumentation->show();
+    m_pDocumentation->raise();
 }
 
 void WorkbenchWindow::showAbout()

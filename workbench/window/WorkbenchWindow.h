@@ -24,6 +24,7 @@ class QComboBox;
 class QDockWidget;
 class QLabel;
 class QMenu;
+class QTextBrowser;
 
 /// The host's window: the modules, the message monitor, and the host's own settings.
 class WorkbenchWindow : public QMainWindow {
@@ -77,6 +78,7 @@ private:
     void savePicture();
     void openDimensions();
     void compose();
+    void showDocumentation();
     void showAbout();
     void listRecentFiles();
     void showTitle();
@@ -107,8 +109,9 @@ private:
     QMenu* m_helpMenu;
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
-    ComposeDialog* m_compose = nullptr;  // made when it is first asked for
-    QPointer<QWidget> m_dimensions;      // a window of its own, made when it is first asked for
+    ComposeDialog* m_compose = nullptr;        // made when it is first asked for
+    QTextBrowser* m_pDocumentation = nullptr;  // likewise
+    QPointer<QWidget> m_dimensions;  // a window of its own, made when it is first asked for
     std::unique_ptr<WindowLayout> m_layout;
     std::unique_ptr<ModulePlace> m_strip;
     std::unique_ptr<ModulePlace> m_viewer;
