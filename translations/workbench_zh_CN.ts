@@ -743,18 +743,6 @@
         <translation>保存...</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>键</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>类型</translation>
-    </message>
-    <message>
         <source>Compose...</source>
         <translation>编写...</translation>
     </message>

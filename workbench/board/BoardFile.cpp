@@ -9,18 +9,11 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QJsonDocument>
 
 namespace Pcb {
 namespace {
 
 constexpr int supportedFormat = 1;
-
-QByteArray compact(const QJsonValue& value)
-{
-    const QByteArray listed = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return listed.mid(1, listed.size() - 2);
-}
 
 Board boardFromJson(const CanvasHost::JsonNode& root)
 {
@@ -43,13 +36,13 @@ QByteArray toJson(const Board& board)
 {
     // One line per feature, so that errors have a useful line number and diffs are readable.
     QByteArray text = "{\n  \"format\": " + QByteArray::number(supportedFormat);
-    text += ",\n  \"job\": " + compact(board.job);
-    text += ",\n  \"step\": " + compact(board.step);
-    text += ",\n  \"outline\": " + compact(toJsonPoints(board.outline));
+    text += ",\n  \"job\": " + CanvasHost::compactJson(board.job);
+    text += ",\n  \"step\": " + CanvasHost::compactJson(board.step);
+    text += ",\n  \"outline\": " + CanvasHost::compactJson(toJsonPoints(board.outline));
     text += ",\n  \"features\": [";
     const char* separator = "\n    ";
     for (const Feature& feature : board.features) {
-        text += separator + compact(toJsonFeature(feature));
+        text += separator + CanvasHost::compactJson(toJsonFeature(feature));
         separator = ",\n    ";
     }
     return text + (board.features.empty() ? "]\n}\n" : "\n  ]\n}\n");

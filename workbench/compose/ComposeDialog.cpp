@@ -10,7 +10,6 @@
 #include <PluginManagerStandIn.h>
 
 #include <QComboBox>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -89,7 +88,7 @@ QString codeWord(const QComboBox* combo)
 
 }  // namespace
 
-ComposeDialog::ComposeDialog(HostState* host, QWidget* parent) : QDialog(parent), m_host(host)
+ComposeDialog::ComposeDialog(HostState* host, QWidget* parent) : Retranslated(parent), m_host(host)
 {
     setObjectName(QStringLiteral("m_pComposeDialog"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -239,14 +238,6 @@ bool ComposeDialog::send()
     m_host->send(message);
     m_pComposeSentLB->setText(tr("Message %1 was sent.").arg(message.code));
     return true;
-}
-
-void ComposeDialog::changeEvent(QEvent* event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
 }
 
 void ComposeDialog::retranslate()

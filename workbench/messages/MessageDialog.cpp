@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -22,7 +21,7 @@ QVector<RecordTable::Row> rowsOf(const MessageRecord& message)
 }
 
 MessageDialog::MessageDialog(const MessageRecord& message, QWidget* parent)
-    : QDialog(parent), m_message(message)
+    : Retranslated(parent), m_message(message)
 {
     setObjectName(QStringLiteral("m_pMessageDialog"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -103,14 +102,6 @@ QString MessageDialog::text() const
 void MessageDialog::copy() const
 {
     QApplication::clipboard()->setText(text());
-}
-
-void MessageDialog::changeEvent(QEvent* event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
 }
 
 void MessageDialog::retranslate()

@@ -7,7 +7,6 @@
 #include "messages/MessageNames.h"
 #include "shared/Named.h"
 
-#include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -40,7 +39,7 @@ void prepareTable(QTableView* table)
 }  // namespace
 
 MessageMonitor::MessageMonitor(MessageLog* log, QWidget* parent)
-    : QWidget(parent),
+    : Retranslated(parent),
       m_log(log),
       m_model(new MessageModel(log, this)),
       m_filtered(new QSortFilterProxyModel(this))
@@ -60,7 +59,6 @@ MessageMonitor::MessageMonitor(MessageLog* log, QWidget* parent)
     layout->addWidget(splitter);
     connectAll();
     retranslate();
-    showSelected();
 }
 
 QWidget* MessageMonitor::createTable()
@@ -197,22 +195,14 @@ void MessageMonitor::saveTrace()
     }
 }
 
-void MessageMonitor::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-        m_model->retranslate();
-        showSelected();
-    }
-}
-
 void MessageMonitor::retranslate()
 {
     m_pMonitorFilterLE->setPlaceholderText(tr("Filter: any text of a message"));
     m_pMonitorComposePB->setText(tr("Compose..."));
     m_pMonitorClearPB->setText(tr("Clear"));
     m_pMonitorSavePB->setText(tr("Save..."));
-    m_pMessageTW->setHorizontalHeaderLabels({tr("Key"), tr("Value"), tr("Type")});
+    m_pMessageTW->retranslate();
+    m_model->retranslate();
     showCount();
+    showSelected();
 }

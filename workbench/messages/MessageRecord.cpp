@@ -6,8 +6,8 @@
 #include "plugin/ModuleNames.h"
 #include "shared/Values.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
+#include <Json.h>
+
 #include <QJsonObject>
 #include <QStringList>
 
@@ -43,13 +43,6 @@ QMap<QString, QString> readExtra(Extra kind, qint64 address)
             break;
     }
     return read;
-}
-
-/// A JSON value on its own, which QJsonDocument does not write.
-QByteArray valueText(const QJsonValue& value)
-{
-    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return list.mid(1, list.size() - 2);
 }
 
 QString pairs(const QMap<QString, QString>& map)
@@ -150,7 +143,7 @@ QByteArray MessageRecord::toJson() const
     }
     QByteArrayList parts;
     for (const auto& [key, value] : fields) {
-        parts.append('"' + key + "\":" + valueText(value));
+        parts.append('"' + key + "\":" + CanvasHost::compactJson(value));
     }
     return '{' + parts.join(',') + '}';
 }

@@ -12,7 +12,6 @@
 #include <CommonWidgetsStandIn.h>
 
 #include <QAction>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSplitter>
@@ -24,7 +23,7 @@ constexpr QSize secondViewSize(800, 560);
 
 }  // namespace
 
-ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
+ViewerPane::ViewerPane(QWidget* parent) : Retranslated(parent), m_parent(parent)
 {
     setObjectName(QStringLiteral("m_pViewer"));
     m_view = new BoardView(&m_canvas.scene(), this);
@@ -186,18 +185,6 @@ void ViewerPane::showHovered(int feature)
     m_view->viewport()->setToolTip(words.join('\n'));
 }
 
-void ViewerPane::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        m_inspector->retranslate();
-        m_files->retranslate();
-        m_bar->retranslate();
-        m_snapping->retranslate();
-        retranslate();
-    }
-}
-
 void ViewerPane::showTool()
 {
     QString tool = tr("none");
@@ -214,6 +201,10 @@ void ViewerPane::showTool()
 
 void ViewerPane::retranslate()
 {
+    m_inspector->retranslate();
+    m_files->retranslate();
+    m_bar->retranslate();
+    m_snapping->retranslate();
     showTool();
     m_canvas.refresh();  // the hint
     m_view->setAccessibleName(tr("Board"));

@@ -2,6 +2,7 @@
 
 #include "board/Feature.h"
 #include "shared/CanvasControl.h"
+#include "shared/Retranslated.h"
 #include "viewer/CanvasController.h"
 #include "viewer/ToolSet.h"
 
@@ -22,7 +23,7 @@ class ToolLine;
 
 /// The canvas: draws what the tool strip describes, does what its tools do, and sends back what the
 /// user picks on the board. It never sends a tool's message back, which would circulate for ever.
-class ViewerPane : public QWidget, public CanvasControl {
+class ViewerPane : public Retranslated<QWidget>, public CanvasControl {
     Q_OBJECT
     Q_INTERFACES(CanvasControl)
 
@@ -40,9 +41,6 @@ public:
     QList<QAction*> actions(Group group) const override;
     void stripWasMade() override;
     void overhear(int code) override;
-
-protected:
-    void changeEvent(QEvent* event) override;
 
 private:
     QLayout* createFoot();
@@ -67,7 +65,7 @@ private:
     void showHovered(int feature);
     void showTool();
     void showLengths();
-    void retranslate();
+    void retranslate() override;
 
     QWidget* m_parent;
     CanvasController m_canvas;

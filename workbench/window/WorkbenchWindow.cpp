@@ -19,7 +19,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QEvent>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPixmap>
@@ -188,13 +187,5 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
     if (event->isAccepted()) {
         m_layout->save();
         Q_EMIT closed();
-    }
-}
-
-void WorkbenchWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shared/Retranslated.h"
 #include "window/Language.h"
 #include "window/ModulePlace.h"
 #include "window/Options.h"
@@ -27,7 +28,7 @@ class QMenu;
 class QTextBrowser;
 
 /// The host's window: the modules, the message monitor, and the host's own settings.
-class WorkbenchWindow : public QMainWindow {
+class WorkbenchWindow : public Retranslated<QMainWindow> {
     Q_OBJECT
 
 public:
@@ -48,7 +49,6 @@ Q_SIGNALS:
     void closed();
 
 protected:
-    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -82,7 +82,7 @@ private:
     void showAbout();
     void listRecentFiles();
     void showTitle();
-    void retranslate();
+    void retranslate() override;
     void retranslateMenus();
 
     Options m_options;
