@@ -37,6 +37,9 @@ printf 'click m_pAddFeatureTB\nclick m_pPadTB\ntype m_pSymbolTextLE x\nkey m_pSy
 mkdir "$dir/modules"
 cp "$modules"/Canvas_Viewer.* "$dir/modules/"
 echo "no library" >"$dir/modules/Canvas_JobTree.so"
+mkdir "$dir/swapped"
+cp "$modules"/Canvas_* "$dir/swapped/"
+cp "$modules"/Canvas_JobTree.so "$dir/swapped/Canvas_Viewer.so"
 
 expect 2 "Unknown option 'bogus'; see --help" --bogus
 expect 2 "Unknown option 'bogus'" -bogus
@@ -55,6 +58,7 @@ expect 2 "$dir/address.session:1: message 20001811 takes" --play "$dir/address.s
 expect 2 "$dir/no/trace" --trace "$dir/no/trace"
 expect 2 "$dir/no/Canvas_Viewer.so: no such file" --modules "$dir/no"
 expect 2 "$dir/modules/Canvas_JobTree.so: " --modules "$dir/modules"
+expect 2 "Canvas_Viewer.dll: is not a canvas for this window" --modules "$dir/swapped"
 expect 2 "$dir/no/picture.png" --screenshot "$dir/no/picture.png"
 expect 1 "$dir/absent-widget.session:2: no widget \"m_pMarkTC\"; there is m_pMarkTB" \
     --play "$dir/absent-widget.session"
