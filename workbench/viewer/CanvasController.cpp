@@ -141,7 +141,7 @@ template <typename Work>
 void CanvasController::atWork(Work work)
 {
     if (m_tool) {
-        const QScopedValueRollback<bool> atWork(m_isAtWork, true);
+        const QScopedValueRollback<bool> own(m_isAtWork, true);
         work(*m_tool);
     }
 }
