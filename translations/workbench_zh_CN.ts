@@ -90,16 +90,36 @@
         <source>Fit</source>
         <translation>适合窗口</translation>
     </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Deselect</source>
+        <translation>取消选择</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Dese&amp;lect</source>
+        <translation>取消选择(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>ComposeDialog</name>
     <message>
         <source>Number</source>
         <translation>数字</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a whole number</source>
-        <translation>“%1”不是整数</translation>
     </message>
     <message>
         <source>Text</source>
@@ -110,20 +130,8 @@
         <translation>符号</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a list NUMBER=SYMBOL,...</source>
-        <translation>“%1”不是“编号=符号,…”形式的列表</translation>
-    </message>
-    <message>
         <source>Attributes</source>
         <translation>属性</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a list NAME=VALUE,...</source>
-        <translation>“%1”不是“名称=值,…”形式的列表</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a message code</source>
-        <translation>“%1”不是消息代码</translation>
     </message>
     <message>
         <source>message %1 takes: %2</source>
@@ -168,40 +176,6 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
-    </message>
-</context>
-<context>
-    <name>Documentation</name>
-    <message>
-        <source>Documentation</source>
-        <translation>文档</translation>
-    </message>
-</context>
-<context>
-    <name>EditActions</name>
-    <message>
-        <source>Select &amp;All</source>
-        <translation>全选(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Dese&amp;lect</source>
-        <translation>取消选择(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>删除(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Select all</source>
-        <translation>全选</translation>
-    </message>
-    <message>
-        <source>Deselect</source>
-        <translation>取消选择</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>删除</translation>
     </message>
 </context>
 <context>
@@ -496,6 +470,10 @@
         <source>is not one of </source>
         <translation>不是以下之一：</translation>
     </message>
+    <message>
+        <source>is not a canvas for this window</source>
+        <translation>不是此窗口的画布</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -741,10 +719,6 @@
         <translation>选择一条消息以查看全部内容。</translation>
     </message>
     <message>
-        <source>by address</source>
-        <translation>按地址</translation>
-    </message>
-    <message>
         <source>Save Trace</source>
         <translation>保存消息记录</translation>
     </message>
@@ -767,18 +741,6 @@
     <message>
         <source>Save...</source>
         <translation>保存...</translation>
-    </message>
-    <message>
-        <source>Key</source>
-        <translation>键</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>类型</translation>
     </message>
     <message>
         <source>Compose...</source>
@@ -1033,6 +995,33 @@
     </message>
 </context>
 <context>
+    <name>MessageWords</name>
+    <message>
+        <source>&quot;%1&quot; is not a list NUMBER=SYMBOL,...</source>
+        <translation>“%1”不是“编号=符号,…”形式的列表</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a list NAME=VALUE,...</source>
+        <translation>“%1”不是“名称=值,…”形式的列表</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a message code</source>
+        <translation>“%1”不是消息代码</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number</source>
+        <translation>“%1”不是整数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>“%1”不是数字</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false</source>
+        <translation>“%1”既不是 true 也不是 false</translation>
+    </message>
+</context>
+<context>
     <name>NameList</name>
     <message>
         <source>Filter</source>
@@ -1066,24 +1055,12 @@
         <translation>整数</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a whole number</source>
-        <translation>“%1”不是整数</translation>
-    </message>
-    <message>
         <source>decimal</source>
         <translation>小数</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a number</source>
-        <translation>“%1”不是数字</translation>
-    </message>
-    <message>
         <source>truth</source>
         <translation>真假</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is neither true nor false</source>
-        <translation>“%1”既不是 true 也不是 false</translation>
     </message>
     <message>
         <source>the key is missing</source>
@@ -1633,6 +1610,10 @@ Qt %2</translation>
     <message>
         <source>Restore &amp;Layout</source>
         <translation>恢复布局(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>文档</translation>
     </message>
 </context>
 </TS>

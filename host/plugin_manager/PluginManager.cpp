@@ -42,20 +42,21 @@ State& state()
     return theState;
 }
 
-QWidget* windowOf(void* sender)
+/// The instance whose parent is the sender pointer; null if there is none.
+const Instance* sentBy(void* sender)
 {
     // The sender pointer is only compared: what it points at may be gone.
     for (const Instance& instance : state().instances) {
         if (instance.parent && instance.parent.data() == sender) {
-            return instance.parent->window();
+            return &instance;
         }
     }
     return nullptr;
 }
 
-const Instance* receiverOf(void* sender, const QString& module)
+const Instance* receiverOf(const Instance* sending, const QString& module)
 {
-    const QWidget* const window = windowOf(sender);
+    const QWidget* const window = sending ? sending->parent->window() : nullptr;
     const Instance* first = nullptr;
     for (const Instance& instance : state().instances) {
         if (instance.module != module) {
@@ -172,13 +173,14 @@ namespace {
 
 void route(void* sender, const PluginMetaData& message)
 {
-    const Instance* const found = receiverOf(sender, message.receiver);
+    const Instance* const sending = sentBy(sender);
+    const Instance* const found = receiverOf(sending, message.receiver);
     const bool known = found != nullptr;
     // Copies: the observer or the receiver may add or remove instances.
     const Instance receiver = known ? *found : Instance{};
     const Observer observer = state().observer;
     if (observer) {
-        observer({sender, message, known});
+        observer({sender, message, known, sending ? sending->module : QString()});
     }
     if (known) {
         receiver.entry(receiver.object, message);

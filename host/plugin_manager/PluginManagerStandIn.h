@@ -24,6 +24,7 @@ struct Transfer {
     void* sender;                   ///< the sender pointer that was passed
     const PluginMetaData& message;  ///< valid during the call
     bool delivered;                 ///< false: no instance of the receiver is known
+    QString module;  ///< whose instance has the sender pointer as its parent; empty: none's
 };
 using Observer = std::function<void(const Transfer&)>;
 

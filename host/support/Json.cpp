@@ -10,6 +10,12 @@
 
 namespace CanvasHost {
 
+QByteArray compactJson(const QJsonValue& value)
+{
+    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return list.mid(1, list.size() - 2);
+}
+
 /// The lines of a value and of its parts: a tree with the shape of the document. Written by hand
 /// because none of the available libraries, including Qt's, gives the lines of values.
 struct JsonPlace {

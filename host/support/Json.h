@@ -12,6 +12,9 @@
 
 namespace CanvasHost {
 
+/// A value on its own, on one line; QJsonDocument writes only objects and arrays.
+QByteArray compactJson(const QJsonValue& value);
+
 struct JsonPlace;
 
 /// A JSON value that knows its line. Every operation throws a FileError with that line if the value

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Who includes whom: every arrow between two rooms of the tree is in the list of arrows.
+# Who includes whom: every arrow between two rooms of the tree is in the list of arrows, and the
+# list has none that nothing uses.
 # Usage: check.sh TREE ARROWS WIDGET_HEADERS   (the folder of Qt's headers of widgets)
 set -u
 arrows=$(realpath "$2")
@@ -50,7 +51,7 @@ function isAllowed(from, path,    tokens, count, i, prefixes, n, k) {
         if (tokens[i] == "*") return 1
         n = split(tokens[i] in meaning ? meaning[tokens[i]] : tokens[i], prefixes, " ")
         for (k = 1; k <= n; ++k)
-            if (starts(path, prefixes[k])) return 1
+            if (starts(path, prefixes[k])) return isUsed[from, tokens[i]] = 1
     }
     return 0
 }
@@ -91,6 +92,12 @@ $1 == "include" {
 }
 END {
     if (count == 0) fail("no includes were found")
+    for (from in allowed) {
+        n = split(allowed[from], tokens, " ")
+        for (i = 1; i <= n; ++i)
+            if (tokens[i] != "*" && !((from, tokens[i]) in isUsed))
+                fail("nothing uses the arrow from " from " to " tokens[i])
+    }
     print count + 0 " includes"
     exit failed
 }'

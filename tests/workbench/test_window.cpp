@@ -3,8 +3,8 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "StartWorkbench.h"
-
-#include <Settings.h>
+#include "shared/CanvasControl.h"
+#include "shared/Settings.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -62,7 +62,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        CanvasHost::Settings::keepIn({});
+        Settings::keepIn({});
         m_window.reset();
         m_log.reset();
     }
@@ -139,8 +139,7 @@ private Q_SLOTS:
                 box->accept();
             }
         });
-        QMetaObject::invokeMethod(m_window->findChild<QObject*>("m_pBoardFiles"), "open",
-                                  Q_ARG(QString, JOB_FILE));
+        m_window->canvas()->files().open(JOB_FILE);
         QVERIFY2(told.startsWith(JOB_FILE ":"), qPrintable(told));
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
     }
@@ -159,7 +158,7 @@ private Q_SLOTS:
         action("m_pQuitAct").trigger();
         QVERIFY(m_window->isVisible());
         QCOMPARE(closed.count(), 0);
-        m_window->setMayAsk([] { return false; });
+        m_window->canvas()->files().setMayAsk([] { return false; });
         action("m_pQuitAct").trigger();
         QVERIFY(!m_window->isVisible());
         QCOMPARE(closed.count(), 1);
@@ -167,7 +166,7 @@ private Q_SLOTS:
 
     void layoutIsRememberedAndRestored()
     {
-        CanvasHost::Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
         init();
         const QSize first = m_window->size();
         auto& monitor = findNamed(*m_window, "m_pMonitorDock");
@@ -188,29 +187,28 @@ private Q_SLOTS:
 
     void aSecondInstanceIsOffset()
     {
-        CanvasHost::Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
         init();
         const auto second = startWorkbench(*m_log);
         QVERIFY(second->pos().x() > m_window->pos().x());
         QVERIFY(second->pos().y() > m_window->pos().y());
         QVERIFY(second->screen()->availableGeometry().contains(second->frameGeometry()));
         second->close();
-        QVERIFY(!CanvasHost::Settings::value("window/geometry").isValid());
+        QVERIFY(!Settings::value("window/geometry").isValid());
         m_window->close();
-        QVERIFY(CanvasHost::Settings::value("window/geometry").isValid());
+        QVERIFY(Settings::value("window/geometry").isValid());
     }
 
     void recentFiles()
     {
-        CanvasHost::Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
         const auto list = [this] {
             Q_EMIT findNamed<QMenu>(*m_window, "m_pFileMenu").aboutToShow();
             return findNamed<QMenu>(*m_window, "m_pRecentMenu").actions();
         };
         QVERIFY(list().isEmpty());
         const QString file = writeBoard(m_directory);
-        QMetaObject::invokeMethod(m_window->findChild<QObject*>("m_pBoardFiles"), "open",
-                                  Q_ARG(QString, file));
+        m_window->canvas()->files().open(file);
         action("m_pNewBoardAct").trigger();
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
         QCOMPARE(list().size(), 1);

@@ -38,6 +38,9 @@ mkdir "$dir/modules"
 cp "$modules"/Canvas_Viewer.* "$dir/modules/"
 suffix=$(ls "$dir/modules" | sed 's/.*\.//')
 echo "no library" >"$dir/modules/Canvas_JobTree.$suffix"
+mkdir "$dir/swapped"
+cp "$modules"/Canvas_* "$dir/swapped/"
+cp "$modules/Canvas_JobTree.$suffix" "$dir/swapped/Canvas_Viewer.$suffix"
 
 expect 2 "Unknown option 'bogus'; see --help" --bogus
 expect 2 "Unknown option 'bogus'" -bogus
@@ -58,6 +61,7 @@ expect 2 "$dir/address.session:1: message 20001811 takes" --play "$dir/address.s
 expect 2 "$dir/no/trace" --trace "$dir/no/trace"
 expect 2 "$dir/no/Canvas_Viewer.$suffix: no such file" --modules "$dir/no"
 expect 2 "$dir/modules/Canvas_JobTree.$suffix: " --modules "$dir/modules"
+expect 2 "Canvas_Viewer.dll: is not a canvas for this window" --modules "$dir/swapped"
 expect 2 "$dir/no/picture.png" --screenshot "$dir/no/picture.png"
 expect 1 "$dir/absent-widget.session:2: no widget \"m_pMarkTC\"; there is m_pMarkTB" \
     --play "$dir/absent-widget.session"

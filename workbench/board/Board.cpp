@@ -5,6 +5,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Pcb {
 namespace {
@@ -82,6 +83,25 @@ Indexes chosen(const Board& board, IsInside isInside)
 }
 
 }  // namespace
+
+bool contains(const Indexes& indexes, int index)
+{
+    return std::binary_search(indexes.begin(), indexes.end(), index);
+}
+
+Indexes toggled(const Indexes& before, const Indexes& picked)
+{
+    const bool hasAll = std::includes(before.begin(), before.end(), picked.begin(), picked.end());
+    Indexes all;
+    if (hasAll) {
+        std::set_difference(before.begin(), before.end(), picked.begin(), picked.end(),
+                            std::back_inserter(all));
+    } else {
+        std::set_union(before.begin(), before.end(), picked.begin(), picked.end(),
+                       std::back_inserter(all));
+    }
+    return all;
+}
 
 bool exists(const Board& board, int index)
 {

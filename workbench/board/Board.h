@@ -22,6 +22,9 @@ struct Board {
 
 using Indexes = std::vector<int>;  ///< of features; ascending, each once
 
+bool contains(const Indexes& indexes, int index);
+/// Both together; or, if `picked` are all in it, `before` without them.
+Indexes toggled(const Indexes& before, const Indexes& picked);
 bool exists(const Board& board, int index);
 
 /// Outline and features; invalid for an empty board.

@@ -1,22 +1,19 @@
 #include "board/BoardFile.h"
 
 #include "board/FeatureJson.h"
+#include "board/GerberExport.h"
+#include "board/PictureExport.h"
 
 #include <Files.h>
 #include <Json.h>
 
-#include <QJsonDocument>
+#include <QCoreApplication>
+#include <QFileInfo>
 
 namespace Pcb {
 namespace {
 
 constexpr int supportedFormat = 1;
-
-QByteArray compact(const QJsonValue& value)
-{
-    const QByteArray listed = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return listed.mid(1, listed.size() - 2);
-}
 
 Board boardFromJson(const CanvasHost::JsonNode& root)
 {
@@ -39,13 +36,13 @@ QByteArray toJson(const Board& board)
 {
     // One line per feature, so that errors have a useful line number and diffs are readable.
     QByteArray text = "{\n  \"format\": " + QByteArray::number(supportedFormat);
-    text += ",\n  \"job\": " + compact(board.job);
-    text += ",\n  \"step\": " + compact(board.step);
-    text += ",\n  \"outline\": " + compact(toJsonPoints(board.outline));
+    text += ",\n  \"job\": " + CanvasHost::compactJson(board.job);
+    text += ",\n  \"step\": " + CanvasHost::compactJson(board.step);
+    text += ",\n  \"outline\": " + CanvasHost::compactJson(toJsonPoints(board.outline));
     text += ",\n  \"features\": [";
     const char* separator = "\n    ";
     for (const Feature& feature : board.features) {
-        text += separator + compact(toJsonFeature(feature));
+        text += separator + CanvasHost::compactJson(toJsonFeature(feature));
         separator = ",\n    ";
     }
     return text + (board.features.empty() ? "]\n}\n" : "\n  ]\n}\n");
@@ -65,6 +62,26 @@ Board readBoardFile(const QString& file)
 void writeBoardFile(const Board& board, const QString& file)
 {
     CanvasHost::writeWhole(file, toJson(board));
+}
+
+void exportBoard(const Board& board, const QString& file)
+{
+    constexpr int pictureSize = 2000;  // pixels
+    const QString suffix = QFileInfo(file).suffix().toLower();
+    if (suffix == QLatin1String("json")) {
+        writeBoardFile(board, file);
+    } else if (suffix == QLatin1String("gbr")) {
+        writeGerber(board, file);
+    } else if (suffix == QLatin1String("png")) {
+        writePng(board, file, pictureSize);
+    } else if (suffix == QLatin1String("svg")) {
+        writeSvg(board, file);
+    } else {
+        throw CanvasHost::FileError{
+            file, 0,
+            QCoreApplication::translate("FileErrors",
+                                        "the name must end in .json, .gbr, .png or .svg")};
+    }
 }
 
 }  // namespace Pcb

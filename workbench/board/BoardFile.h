@@ -16,5 +16,8 @@ Board fromJson(const QByteArray& text, const QString& file = {});
 /// Throw a FileError. A file is written completely, or the existing one stays.
 Board readBoardFile(const QString& file);
 void writeBoardFile(const Board& board, const QString& file);
+/// The kind follows from the end of the name: ".gbr" Gerber, ".png" or ".svg" a picture, ".json"
+/// the board itself.
+void exportBoard(const Board& board, const QString& file);
 
 }  // namespace Pcb

@@ -243,15 +243,6 @@ std::optional<Feature> stretched(const Feature& feature, End end, const QPointF&
     return withEnds(feature, points.at(0), points.at(1));
 }
 
-std::optional<Feature> lengthened(const Feature& line, End end, const QPointF& to)
-{
-    if (!isLine(line)) {
-        return std::nullopt;
-    }
-    const Geometry& geometry = line.geometry();
-    return stretched(line, end, pointOfLine(geometry, partOfLine(geometry, to)));
-}
-
 Features broken(const Feature& feature, const QPointF& point)
 {
     if (!hasEnds(feature)) {

@@ -30,9 +30,6 @@ std::optional<Feature> withAngle(const Feature& line, double degrees, End fixed)
 /// Nothing for other kinds, or if nothing would be left of the line.
 std::optional<Feature> stretched(const Feature& feature, End end, const QPointF& to);
 
-/// As stretched(), but the line keeps its direction: `to` is projected onto it.
-std::optional<Feature> lengthened(const Feature& line, End end, const QPointF& to);
-
 /// The two parts of a line or an arc (one of a full circle) broken at its place nearest to
 /// `point`; empty for other kinds and for a break at an end.
 Features broken(const Feature& feature, const QPointF& point);

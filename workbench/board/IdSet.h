@@ -8,7 +8,8 @@
 namespace Pcb {
 
 /// A compact set of numbers for long keeping: a list or, if that is smaller, one bit for each
-/// number from the smallest to the largest. Copies share the data.
+/// number from the smallest to the largest. Copies share the data. In the history a thousand
+/// selections of all of 100,000 features take 13 MB, as lists 400; of one each 0.4, as bits 5.
 class IdSet {
 public:
     IdSet() = default;

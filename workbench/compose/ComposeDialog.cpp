@@ -1,22 +1,22 @@
 #include "compose/ComposeDialog.h"
 
-#include "compose/FaultMark.h"
 #include "compose/PayloadTable.h"
 #include "messages/HostState.h"
 #include "messages/MessageNames.h"
 #include "messages/MessageWords.h"
-#include "messages/Named.h"
+#include "plugin/ModuleNames.h"
+#include "shared/Named.h"
 
-#include <FileError.h>
 #include <PluginManagerStandIn.h>
 
 #include <QComboBox>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <functional>
 
 namespace {
 
@@ -27,16 +27,12 @@ struct ExtraChoice {
     Extra kind;
     const char* text;
     const char* example;
-    const char* fault;
 };
 const ExtraChoice extras[] = {
-    {Extra::Number, QT_TRANSLATE_NOOP("ComposeDialog", "Number"), "0",
-     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a whole number")},
-    {Extra::String, QT_TRANSLATE_NOOP("ComposeDialog", "Text"), "demo", ""},
-    {Extra::Symbols, QT_TRANSLATE_NOOP("ComposeDialog", "Symbols"), "1=r10,2=s20",
-     QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a list NUMBER=SYMBOL,...")},
-    {Extra::Attributes, QT_TRANSLATE_NOOP("ComposeDialog", "Attributes"),
-     ".net=gnd,.smd=", QT_TRANSLATE_NOOP("ComposeDialog", "\"%1\" is not a list NAME=VALUE,...")},
+    {Extra::Number, QT_TRANSLATE_NOOP("ComposeDialog", "Number"), "0"},
+    {Extra::String, QT_TRANSLATE_NOOP("ComposeDialog", "Text"), "demo"},
+    {Extra::Symbols, QT_TRANSLATE_NOOP("ComposeDialog", "Symbols"), "1=r10,2=s20"},
+    {Extra::Attributes, QT_TRANSLATE_NOOP("ComposeDialog", "Attributes"), ".net=gnd,.smd="},
 };
 
 int indexOf(Extra kind)
@@ -68,6 +64,22 @@ void showError(QLabel* label, const QString& error)
     label->setVisible(!error.isEmpty());
 }
 
+/// Does `read`, and shows its error at the field, which may be null. False: there is one.
+bool shownRead(QWidget* field, QLabel* label, const std::function<void()>& read)
+{
+    QString error;
+    try {
+        read();
+    } catch (const WordError& thrown) {
+        error = thrown.text();
+    }
+    if (field) {
+        markFault(field, error);
+    }
+    showError(label, error);
+    return error.isEmpty();
+}
+
 /// The number at the start of the text: items of the list have the message's name after it.
 QString codeWord(const QComboBox* combo)
 {
@@ -76,7 +88,7 @@ QString codeWord(const QComboBox* combo)
 
 }  // namespace
 
-ComposeDialog::ComposeDialog(HostState* host, QWidget* parent) : QDialog(parent), m_host(host)
+ComposeDialog::ComposeDialog(HostState* host, QWidget* parent) : Retranslated(parent), m_host(host)
 {
     setObjectName(QStringLiteral("m_pComposeDialog"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -101,9 +113,11 @@ void ComposeDialog::createCode()
     m_pComposeCodeCMB->setEditable(true);
     m_pComposeCodeCMB->setInsertPolicy(QComboBox::NoInsert);
     m_pComposeCodeCMB->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    for (const MessageNames::Row& row : MessageNames::accepted()) {
-        m_pComposeCodeCMB->addItem(
-            QStringLiteral("%1 %2").arg(row.code).arg(QLatin1String(row.name)));
+    for (const QVector<int>& group : MessageNames::accepted()) {
+        for (const int code : group) {
+            m_pComposeCodeCMB->addItem(QStringLiteral("%1 %2").arg(
+                QString::number(code), MessageNames::name(ModuleNames::toolStrip, code)));
+        }
     }
     m_pComposeSenderTitleLB = named(new QLabel(this), "m_pComposeSenderTitleLB");
     m_pComposeSenderLE = named(new QLineEdit(CanvasHost::hostName, this), "m_pComposeSenderLE");
@@ -179,7 +193,8 @@ void ComposeDialog::codeChanged()
     bool ok = false;
     const int code = codeWord(m_pComposeCodeCMB).toInt(&ok);
     if (ok) {
-        m_pComposeExtraCMB->setCurrentIndex(indexOf(MessageWords::wantedExtra(code)));
+        m_pComposeExtraCMB->setCurrentIndex(
+            indexOf(MessageNames::extraOf(ModuleNames::toolStrip, code)));
     }
     showExtraHint();
 }
@@ -190,57 +205,32 @@ void ComposeDialog::showExtraHint()
         QLatin1String(extras[m_pComposeExtraCMB->currentIndex()].example));
 }
 
-bool ComposeDialog::readCode(HostMessage* message)
-{
-    bool ok = false;
-    const QString word = codeWord(m_pComposeCodeCMB);
-    message->code = word.toInt(&ok);
-    const QString fault = ok ? QString() : tr("\"%1\" is not a message code").arg(word);
-    FaultMark::set(m_pComposeCodeCMB, fault);
-    showError(m_pComposeCodeErrorLB, fault);
-    return ok;
-}
-
-bool ComposeDialog::readPayload(HostMessage* message)
-{
-    try {
-        message->payload = m_pComposePayloadTW->read();
-        showError(m_pComposePayloadErrorLB, QString());
-        return true;
-    } catch (const CanvasHost::FileError& error) {
-        showError(m_pComposePayloadErrorLB, error.text());
-        return false;
-    }
-}
-
-bool ComposeDialog::readExtra(HostMessage* message)
+HostMessage::ExtraWord ComposeDialog::readExtra(int code) const
 {
     const ExtraChoice& choice = extras[m_pComposeExtraCMB->currentIndex()];
-    const Extra wanted = MessageWords::wantedExtra(message->code);
-    QString text = m_pComposeExtraLE->text();
-    if (choice.kind == Extra::Number && text.isEmpty()) {
-        text = QStringLiteral("0");
-    }
-    QString fault;
+    const Extra wanted = MessageNames::extraOf(ModuleNames::toolStrip, code);
     if (choice.kind != wanted) {
         // A wrong address would crash the program.
-        fault = tr("message %1 takes: %2").arg(message->code).arg(tr(extras[indexOf(wanted)].text));
-    } else if (!MessageWords::extraValue(choice.kind, text, &message->extra)) {
-        fault = tr(choice.fault).arg(text);
+        malformed(tr("message %1 takes: %2").arg(code).arg(tr(extras[indexOf(wanted)].text)));
     }
-    FaultMark::set(m_pComposeExtraLE, fault);
-    showError(m_pComposeExtraErrorLB, fault);
-    return fault.isEmpty();
+    const QString text = m_pComposeExtraLE->text();
+    const bool isLeftOut = choice.kind == Extra::Number && text.isEmpty();
+    return MessageWords::extraValue(choice.kind, isLeftOut ? QStringLiteral("0") : text);
 }
 
 bool ComposeDialog::send()
 {
     HostMessage message;
     message.sender = m_pComposeSenderLE->text().trimmed();
-    const bool codeRight = readCode(&message);
-    const bool payloadRight = readPayload(&message);
+    const bool codeRight = shownRead(m_pComposeCodeCMB, m_pComposeCodeErrorLB, [&] {
+        message.code = MessageWords::readCode(codeWord(m_pComposeCodeCMB));
+    });
+    const bool payloadRight = shownRead(nullptr, m_pComposePayloadErrorLB,
+                                        [&] { message.payload = m_pComposePayloadTW->read(); });
     // The code determines what the extra word must be.
-    const bool extraRight = codeRight && readExtra(&message);
+    const bool extraRight = codeRight && shownRead(m_pComposeExtraLE, m_pComposeExtraErrorLB, [&] {
+                                message.extra = readExtra(message.code);
+                            });
     m_pComposeSentLB->clear();
     if (!codeRight || !payloadRight || !extraRight) {
         return false;
@@ -248,14 +238,6 @@ bool ComposeDialog::send()
     m_host->send(message);
     m_pComposeSentLB->setText(tr("Message %1 was sent.").arg(message.code));
     return true;
-}
-
-void ComposeDialog::changeEvent(QEvent* event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
 }
 
 void ComposeDialog::retranslate()

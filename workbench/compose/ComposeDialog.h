@@ -1,6 +1,7 @@
 #pragma once
 
 #include "messages/HostMessage.h"
+#include "shared/Retranslated.h"
 
 #include <QDialog>
 
@@ -13,7 +14,7 @@ class QPushButton;
 
 /// Composes a message and sends it to the tool strip, as a host or a sibling would: code, sender,
 /// entries of the payload, and the extra word as a number or as an object.
-class ComposeDialog : public QDialog {
+class ComposeDialog : public Retranslated<QDialog> {
     Q_OBJECT
 
 public:
@@ -24,20 +25,15 @@ public:
     /// nothing is sent.
     bool send();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     void createCode();
     void createPayload();
     void createExtra();
     void createButtons();
     void codeChanged();
-    bool readCode(HostMessage* message);
-    bool readPayload(HostMessage* message);
-    bool readExtra(HostMessage* message);
+    HostMessage::ExtraWord readExtra(int code) const;
     void showExtraHint();
-    void retranslate();
+    void retranslate() override;
 
     HostState* m_host;
     QLabel* m_pComposeCodeTitleLB;

@@ -1,9 +1,6 @@
 #include "compose/PayloadTable.h"
 
-#include "compose/FaultMark.h"
 #include "messages/MessageWords.h"
-
-#include <FileError.h>
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -17,19 +14,27 @@ enum Column { Key, Type, Value };
 struct TypeChoice {
     const char* word;
     const char* text;
-    const char* fault;
 };
 const TypeChoice types[] = {
-    {"text", QT_TRANSLATE_NOOP("PayloadTable", "text"), ""},
-    {"int", QT_TRANSLATE_NOOP("PayloadTable", "integer"),
-     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is not a whole number")},
-    {"decimal", QT_TRANSLATE_NOOP("PayloadTable", "decimal"),
-     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is not a number")},
-    {"bool", QT_TRANSLATE_NOOP("PayloadTable", "truth"),
-     QT_TRANSLATE_NOOP("PayloadTable", "\"%1\" is neither true nor false")},
+    {"text", QT_TRANSLATE_NOOP("PayloadTable", "text")},
+    {"int", QT_TRANSLATE_NOOP("PayloadTable", "integer")},
+    {"decimal", QT_TRANSLATE_NOOP("PayloadTable", "decimal")},
+    {"bool", QT_TRANSLATE_NOOP("PayloadTable", "truth")},
 };
 
 }  // namespace
+
+void markFault(QWidget* field, const QString& fault)
+{
+    QPalette palette;
+    if (!fault.isEmpty()) {
+        palette.setColor(QPalette::Base, QColor(0xff, 0xd6, 0xd6));
+        palette.setColor(QPalette::Button, QColor(0xff, 0xd6, 0xd6));
+        palette.setColor(QPalette::Text, QColor(0x5a, 0x00, 0x00));
+    }
+    field->setPalette(palette);
+    field->setToolTip(fault);
+}
 
 PayloadTable::PayloadTable(const char* name, QWidget* parent) : QTableWidget(0, 3, parent)
 {
@@ -98,11 +103,11 @@ void PayloadTable::nameFields()
 QMap<QString, QVariant> PayloadTable::read()
 {
     QMap<QString, QVariant> payload;
-    CanvasHost::FileError first;
+    WordError first;
     for (int row = 0; row < rowCount(); ++row) {
         const QString fault = readRow(row, &payload);
         if (!fault.isEmpty() && first.reason.isEmpty()) {
-            first = {tr("Row %1").arg(row + 1), 0, fault};
+            first = {tr("Row %1").arg(row + 1), fault};
         }
     }
     if (!first.reason.isEmpty()) {
@@ -120,14 +125,17 @@ QString PayloadTable::readRow(int row, QMap<QString, QVariant>* payload)
     } else if (payload->contains(key)) {
         keyFault = tr("the key \"%1\" appears twice").arg(key);
     }
-    FaultMark::set(field(row, Key), keyFault);
+    markFault(field(row, Key), keyFault);
 
     const TypeChoice& choice = types[type(row)->currentIndex()];
-    const QString text = field(row, Value)->text();
-    bool ok = false;
-    const QVariant value = MessageWords::payloadValue(QLatin1String(choice.word), text, &ok);
-    const QString valueFault = ok ? QString() : tr(choice.fault).arg(text);
-    FaultMark::set(field(row, Value), valueFault);
+    QVariant value;
+    QString valueFault;
+    try {
+        value = MessageWords::payloadValue(QLatin1String(choice.word), field(row, Value)->text());
+    } catch (const WordError& error) {
+        valueFault = error.text();
+    }
+    markFault(field(row, Value), valueFault);
     if (keyFault.isEmpty()) {
         payload->insert(key, value);
     }

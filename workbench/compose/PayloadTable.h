@@ -7,6 +7,9 @@
 class QComboBox;
 class QLineEdit;
 
+/// Marks `field` as invalid, with `fault` as its tool tip; an empty one removes the mark.
+void markFault(QWidget* field, const QString& fault);
+
 /// Edits the entries of a payload: a row each with key, type and value. The fields of row n
 /// are called m_pComposeKeyLEn, m_pComposeTypeCMBn and m_pComposeValueLEn.
 class PayloadTable : public QTableWidget {
@@ -19,8 +22,7 @@ public:
     /// Removes the row of the field that has the focus, or the last one.
     void removeEntry();
 
-    /// The entries as typed. Invalid fields are marked, and the first is thrown as a FileError,
-    /// which names the row in place of a file.
+    /// The entries as typed. Invalid fields are marked, and the first is thrown as a WordError.
     QMap<QString, QVariant> read();
 
     void retranslate();

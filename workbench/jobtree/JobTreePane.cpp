@@ -3,28 +3,26 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
+#include "shared/Named.h"
 
 #include <CamApiStandIn.h>
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
-#include <QEvent>
 #include <QLabel>
 #include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 JobTreePane::JobTreePane(QWidget* parent)
-    : QWidget(parent),
+    : Retranslated(parent),
       m_parent(parent),
-      m_pJobTreeTW(new QTreeWidget(this)),
-      m_pAddFeatureLB(new QLabel(this))
+      m_pJobTreeTW(named(new QTreeWidget(this), "m_pJobTreeTW")),
+      m_pAddFeatureLB(named(new QLabel(this), "m_pAddFeatureLB"))
 {
     setObjectName(QStringLiteral("m_pJobTree"));
-    m_pJobTreeTW->setObjectName(QStringLiteral("m_pJobTreeTW"));
     m_pJobTreeTW->setHeaderHidden(true);
     m_pJobTreeTW->setExpandsOnDoubleClick(false);
-    m_pAddFeatureLB->setObjectName(QStringLiteral("m_pAddFeatureLB"));
     m_pAddFeatureLB->setWordWrap(true);
     m_pAddFeatureLB->setMargin(6);
     auto* const layout = new QVBoxLayout(this);
@@ -69,14 +67,6 @@ void JobTreePane::receive(const PluginMetaData& message)
 {
     if (message.code == MessageCodes::Sent::AddFeatureStarted) {
         ++m_started;
-        retranslate();
-    }
-}
-
-void JobTreePane::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
         retranslate();
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/Retranslated.h"
+
 #include <PluginMetaData.h>
 
 #include <QWidget>
@@ -9,7 +11,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /// The tree of jobs and their steps. A double click on a step asks the host to open it.
-class JobTreePane : public QWidget {
+class JobTreePane : public Retranslated<QWidget> {
     Q_OBJECT
 
 public:
@@ -18,13 +20,10 @@ public:
 
     void receive(const PluginMetaData& message);
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     void fill();
     void open(const QTreeWidgetItem* item);
-    void retranslate();
+    void retranslate() override;
 
     QWidget* m_parent;
     QTreeWidget* m_pJobTreeTW;

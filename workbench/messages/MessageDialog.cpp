@@ -1,20 +1,27 @@
 #include "messages/MessageDialog.h"
 
-#include <RecordTable.h>
 #include "messages/MessageNames.h"
-#include "messages/Named.h"
+#include "shared/Named.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+QVector<RecordTable::Row> rowsOf(const MessageRecord& message)
+{
+    auto rows = RecordTable::rowsOf(message.payload, message.changed);
+    for (auto entry = message.pointedAt.begin(); entry != message.pointedAt.end(); ++entry) {
+        rows.append({entry.key(), entry.value(), MessageDialog::tr("by address")});
+    }
+    return rows;
+}
+
 MessageDialog::MessageDialog(const MessageRecord& message, QWidget* parent)
-    : QDialog(parent), m_message(message)
+    : Retranslated(parent), m_message(message)
 {
     setObjectName(QStringLiteral("m_pMessageDialog"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -63,11 +70,7 @@ MessageDialog::Field MessageDialog::addField(const char* titleName, const char* 
 void MessageDialog::createTable()
 {
     m_pMessageDialogTW = new RecordTable("m_pMessageDialogTW", this);
-    auto rows = RecordTable::rowsOf(m_message.payload, m_message.changed);
-    for (auto entry = m_message.pointedAt.begin(); entry != m_message.pointedAt.end(); ++entry) {
-        rows.append({entry.key(), entry.value(), tr("by address")});
-    }
-    m_pMessageDialogTW->showRows(rows);
+    m_pMessageDialogTW->showRows(rowsOf(m_message));
     layout()->addWidget(m_pMessageDialogTW);
 }
 
@@ -99,14 +102,6 @@ QString MessageDialog::text() const
 void MessageDialog::copy() const
 {
     QApplication::clipboard()->setText(text());
-}
-
-void MessageDialog::changeEvent(QEvent* event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
 }
 
 void MessageDialog::retranslate()

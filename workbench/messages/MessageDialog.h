@@ -1,16 +1,20 @@
 #pragma once
 
 #include "messages/MessageRecord.h"
+#include "shared/RecordTable.h"
+#include "shared/Retranslated.h"
 
 #include <QDialog>
 
 class QLabel;
 class QPushButton;
-class RecordTable;
+
+/// Every entry of the payload, and what the extra word pointed at.
+QVector<RecordTable::Row> rowsOf(const MessageRecord& message);
 
 /// Shows one message in full: sender, receiver, code and name, extra word, and every entry of the
 /// payload with its type.
-class MessageDialog : public QDialog {
+class MessageDialog : public Retranslated<QDialog> {
     Q_OBJECT
 
 public:
@@ -18,9 +22,6 @@ public:
 
     /// Everything the dialog shows, one entry per line, as it is copied.
     QString text() const;
-
-protected:
-    void changeEvent(QEvent* event) override;
 
 private:
     /// A line above the table.
@@ -34,7 +35,7 @@ private:
     Field addField(const char* titleName, const char* valueName);
     QString codeText() const;
     void copy() const;
-    void retranslate();
+    void retranslate() override;
 
     MessageRecord m_message;
     QVector<Field> m_fields;  ///< time, from, to, code, extra, delivered

@@ -1,7 +1,8 @@
 #include "messages/MessageLog.h"
 
+#include "shared/Values.h"
+
 #include <Files.h>
-#include <Values.h>
 
 MessageLog::MessageLog(QObject* parent) : QObject(parent)
 {

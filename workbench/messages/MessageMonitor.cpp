@@ -1,14 +1,12 @@
 #include "messages/MessageMonitor.h"
 
 #include <FileError.h>
-#include <RecordTable.h>
 #include "messages/MessageDialog.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
-#include "messages/Named.h"
+#include "shared/Named.h"
 
-#include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -41,7 +39,7 @@ void prepareTable(QTableView* table)
 }  // namespace
 
 MessageMonitor::MessageMonitor(MessageLog* log, QWidget* parent)
-    : QWidget(parent),
+    : Retranslated(parent),
       m_log(log),
       m_model(new MessageModel(log, this)),
       m_filtered(new QSortFilterProxyModel(this))
@@ -61,7 +59,6 @@ MessageMonitor::MessageMonitor(MessageLog* log, QWidget* parent)
     layout->addWidget(splitter);
     connectAll();
     retranslate();
-    showSelected();
 }
 
 QWidget* MessageMonitor::createTable()
@@ -171,11 +168,7 @@ void MessageMonitor::showSelected()
     m_pMessageLB->setText(QStringLiteral("<b>%1</b> %2")
                               .arg(message.code)
                               .arg(MessageNames::text(message.receiver, message.code)));
-    auto rows = RecordTable::rowsOf(message.payload, message.changed);
-    for (auto entry = message.pointedAt.begin(); entry != message.pointedAt.end(); ++entry) {
-        rows.append({entry.key(), entry.value(), tr("by address")});
-    }
-    m_pMessageTW->showRows(rows);
+    m_pMessageTW->showRows(rowsOf(message));
 }
 
 void MessageMonitor::showWhole(const QModelIndex& index)
@@ -202,22 +195,14 @@ void MessageMonitor::saveTrace()
     }
 }
 
-void MessageMonitor::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-        m_model->retranslate();
-        showSelected();
-    }
-}
-
 void MessageMonitor::retranslate()
 {
     m_pMonitorFilterLE->setPlaceholderText(tr("Filter: any text of a message"));
     m_pMonitorComposePB->setText(tr("Compose..."));
     m_pMonitorClearPB->setText(tr("Clear"));
     m_pMonitorSavePB->setText(tr("Save..."));
-    m_pMessageTW->setHorizontalHeaderLabels({tr("Key"), tr("Value"), tr("Type")});
+    m_pMessageTW->retranslate();
+    m_model->retranslate();
     showCount();
+    showSelected();
 }

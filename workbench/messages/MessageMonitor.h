@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/Retranslated.h"
+
 #include <QWidget>
 
 class MessageLog;
@@ -13,7 +15,7 @@ class QTableView;
 class RecordTable;
 
 /// Shows the messages of a log: a table with a filter, and the selected message in full.
-class MessageMonitor : public QWidget {
+class MessageMonitor : public Retranslated<QWidget> {
     Q_OBJECT
 
 public:
@@ -27,9 +29,6 @@ Q_SIGNALS:
     /// The user wants to compose a message.
     void composeAsked();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     QWidget* createTable();
     QWidget* createDetail();
@@ -38,7 +37,7 @@ private:
     void showSelected();
     void showWhole(const QModelIndex& index);
     void showCount();
-    void retranslate();
+    void retranslate() override;
 
     MessageLog* m_log;
     MessageModel* m_model;

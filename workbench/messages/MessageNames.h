@@ -1,34 +1,22 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
 
-#include <vector>
-
-/// The message codes by name, for people to read.
+/// The messages by name, for people to read.
 namespace MessageNames {
 
 /// What the extra word of a message points at.
 enum class Extra { Number, String, Symbols, Attributes };
+Extra extraOf(const QString& receiver, int code);
 
-struct Row {
-    int code;
-    const char* text;  ///< to be translated in the context "MessageNames"
-    Extra extra = Extra::Number;
-    bool tool = false;           ///< the message announces the tool that is active now
-    const char* name = nullptr;  ///< as in MessageCodes.h, from there
-};
-
-/// The messages that the tool strip accepts, in the order in which a menu offers them.
-const std::vector<Row>& accepted();
-/// The messages that the tool strip sends.
-const std::vector<Row>& sent();
-
-/// The row of a message to `receiver`; null for a code that is not known there.
-const Row* find(const QString& receiver, int code);
-/// As in MessageCodes.h; empty for a code that is not known.
+/// As in MessageCodes.h; empty for a code that is not known to `receiver`.
 QString name(const QString& receiver, int code);
-/// In the user's language; empty for a code that is not known.
+/// In the user's language: the name in words, unless there is a better text. Empty for a code that
+/// is not known.
 QString text(const QString& receiver, int code);
-QString text(const Row& row);
+
+/// The codes that the tool strip accepts, as a menu offers them: in groups.
+const QVector<QVector<int>>& accepted();
 
 }  // namespace MessageNames

@@ -1,13 +1,13 @@
 #include "messages/MessageRecord.h"
 
-#include <Values.h>
 #include "messages/MessageNames.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "shared/Values.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
+#include <Json.h>
+
 #include <QJsonObject>
 #include <QStringList>
 
@@ -17,12 +17,7 @@
 namespace {
 
 using MessageNames::Extra;
-
-Extra extraOf(const QString& receiver, int code)
-{
-    const MessageNames::Row* const row = MessageNames::find(receiver, code);
-    return row ? row->extra : Extra::Number;
-}
+using MessageNames::extraOf;
 
 QMap<QString, QString> readExtra(Extra kind, qint64 address)
 {
@@ -50,13 +45,6 @@ QMap<QString, QString> readExtra(Extra kind, qint64 address)
     return read;
 }
 
-/// A JSON value on its own, which QJsonDocument does not write.
-QByteArray valueText(const QJsonValue& value)
-{
-    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return list.mid(1, list.size() - 2);
-}
-
 QString pairs(const QMap<QString, QString>& map)
 {
     QStringList list;
@@ -81,6 +69,7 @@ MessageRecord MessageRecord::of(const CanvasHost::Transfer& transfer)
     record.payload = message.payload;
     record.extra = message.extra;
     record.delivered = transfer.delivered;
+    record.module = transfer.module;
     if (message.extra != 0) {
         record.pointedAt = readExtra(extraOf(message.receiver, message.code), message.extra);
     }
@@ -154,7 +143,7 @@ QByteArray MessageRecord::toJson() const
     }
     QByteArrayList parts;
     for (const auto& [key, value] : fields) {
-        parts.append('"' + key + "\":" + valueText(value));
+        parts.append('"' + key + "\":" + CanvasHost::compactJson(value));
     }
     return '{' + parts.join(',') + '}';
 }

@@ -14,6 +14,7 @@ struct MessageRecord {
     QDateTime time;
     QString sender;
     QString receiver;
+    QString module;  ///< that sent it, whatever name it gave; empty if none is known
     int code = -1;
     QMap<QString, QVariant> payload;
     qint64 extra = 0;

@@ -1,29 +1,56 @@
 #include "messages/MessageWords.h"
 
-#include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
 
-#include <FileError.h>
-
+#include <QCoreApplication>
 #include <QHash>
 
 namespace MessageWords {
 namespace {
 
-using CanvasHost::FileError;
 using MessageNames::Extra;
 
-/// "a=1,b=2"
-bool readPairs(const QString& text, QList<QPair<QString, QString>>* pairs)
+/// `word` unless `isRight`; then what is wrong with it, in the user's language.
+void require(bool isRight, const char* reason, const QString& word)
 {
+    if (!isRight) {
+        malformed(QCoreApplication::translate("MessageWords", reason).arg(word));
+    }
+}
+
+/// "a=1,b=2"
+QList<QPair<QString, QString>> readPairs(const QString& text, const char* reason)
+{
+    QList<QPair<QString, QString>> pairs;
     for (const QString& part : text.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
         const int equals = part.indexOf(QLatin1Char('='));
-        if (equals < 1) {
-            return false;
-        }
-        pairs->append({part.left(equals), part.mid(equals + 1)});
+        require(equals >= 1, reason, text);
+        pairs.append({part.left(equals), part.mid(equals + 1)});
     }
-    return true;
+    return pairs;
+}
+
+HostMessage::Symbols readSymbols(const QString& text)
+{
+    const char* const reason =
+        QT_TRANSLATE_NOOP("MessageWords", "\"%1\" is not a list NUMBER=SYMBOL,...");
+    HostMessage::Symbols symbols;
+    for (const auto& [number, symbol] : readPairs(text, reason)) {
+        bool ok = false;
+        symbols[number.toInt(&ok)] = symbol.toStdString();
+        require(ok, reason, text);
+    }
+    return symbols;
+}
+
+HostMessage::Attributes readAttributes(const QString& text)
+{
+    HostMessage::Attributes attributes;
+    for (const auto& [name, value] : readPairs(
+             text, QT_TRANSLATE_NOOP("MessageWords", "\"%1\" is not a list NAME=VALUE,..."))) {
+        attributes[name.toStdString()] = value.toStdString();
+    }
+    return attributes;
 }
 
 QString needed(Extra kind)
@@ -46,95 +73,75 @@ int readCode(const QString& word)
 {
     bool ok = false;
     const int code = word.toInt(&ok);
-    if (!ok) {
-        throw FileError{{}, 0, QStringLiteral("\"%1\" is not a message code").arg(word)};
-    }
+    require(ok, QT_TRANSLATE_NOOP("MessageWords", "\"%1\" is not a message code"), word);
     return code;
 }
 
-bool take(const QString& text, Word* word)
+Word split(const QString& word)
 {
-    const int equals = text.indexOf(QLatin1Char('='));
-    if (equals < 1) {
-        return false;
-    }
-    const QString left = text.left(equals);
+    const int equals = word.indexOf(QLatin1Char('='));
+    const QString left = word.left(qMax(0, equals));
     // Keys may hold a colon themselves: the last one starts the type.
     const int colon = left.lastIndexOf(QLatin1Char(':'));
-    word->key = left.left(colon < 0 ? left.size() : colon);
-    word->type = colon < 0 ? QString() : left.mid(colon + 1);
-    word->value = text.mid(equals + 1);
-    return !word->key.isEmpty();
+    const QString key = left.left(colon < 0 ? left.size() : colon);
+    if (key.isEmpty()) {
+        malformed(QStringLiteral("\"%1\" is not an entry KEY=VALUE").arg(word));
+    }
+    return {key, colon < 0 ? QString() : left.mid(colon + 1), word.mid(equals + 1)};
 }
 
-QVariant payloadValue(const QString& type, const QString& text, bool* ok)
+QVariant payloadValue(const QString& type, const QString& text)
 {
-    *ok = true;
+    bool ok = true;
     if (type.isEmpty() || type == QLatin1String("text")) {
         return text;
     }
     if (type == QLatin1String("int")) {
-        return text.toInt(ok);
+        const int value = text.toInt(&ok);
+        require(ok, QT_TRANSLATE_NOOP("MessageWords", "\"%1\" is not a whole number"), text);
+        return value;
     }
     if (type == QLatin1String("decimal")) {
-        return text.toDouble(ok);
+        const double value = text.toDouble(&ok);
+        require(ok, QT_TRANSLATE_NOOP("MessageWords", "\"%1\" is not a number"), text);
+        return value;
     }
-    if (type == QLatin1String("bool")) {
-        *ok = text == QLatin1String("true") || text == QLatin1String("false");
-        return text == QLatin1String("true");
+    if (type != QLatin1String("bool")) {
+        malformed(QStringLiteral("\"%1\" is not a type").arg(type));
     }
-    *ok = false;
-    return {};
+    ok = text == QLatin1String("true") || text == QLatin1String("false");
+    require(ok, QT_TRANSLATE_NOOP("MessageWords", "\"%1\" is neither true nor false"), text);
+    return text == QLatin1String("true");
 }
 
-bool extraKind(const QString& type, Extra* kind)
+Extra extraKind(const QString& type)
 {
     static const QHash<QString, Extra> kinds{{QString(), Extra::Number},
                                              {QStringLiteral("string"), Extra::String},
                                              {QStringLiteral("symbols"), Extra::Symbols},
                                              {QStringLiteral("attributes"), Extra::Attributes}};
-    *kind = kinds.value(type);
-    return kinds.contains(type);
+    if (!kinds.contains(type)) {
+        malformed(QStringLiteral("\"%1\" is not a kind of extra word").arg(type));
+    }
+    return kinds.value(type);
 }
 
-bool extraValue(Extra kind, const QString& text, HostMessage::ExtraWord* extra)
+HostMessage::ExtraWord extraValue(Extra kind, const QString& text)
 {
-    bool ok = true;
-    QList<QPair<QString, QString>> pairs;
-    if (kind == Extra::Number) {
-        *extra = text.toLongLong(&ok);
-        return ok;
+    switch (kind) {
+        case Extra::String:
+            return text.toStdString();
+        case Extra::Symbols:
+            return readSymbols(text);
+        case Extra::Attributes:
+            return readAttributes(text);
+        case Extra::Number:
+            break;
     }
-    if (kind == Extra::String) {
-        *extra = text.toStdString();
-        return true;
-    }
-    if (!readPairs(text, &pairs)) {
-        return false;
-    }
-    if (kind == Extra::Attributes) {
-        HostMessage::Attributes attributes;
-        for (const auto& [name, value] : pairs) {
-            attributes[name.toStdString()] = value.toStdString();
-        }
-        *extra = attributes;
-        return true;
-    }
-    HostMessage::Symbols symbols;
-    for (const auto& [number, symbol] : pairs) {
-        symbols[number.toInt(&ok)] = symbol.toStdString();
-        if (!ok) {
-            return false;
-        }
-    }
-    *extra = symbols;
-    return true;
-}
-
-Extra wantedExtra(int code)
-{
-    const MessageNames::Row* const row = MessageNames::find(ModuleNames::toolStrip, code);
-    return row ? row->extra : Extra::Number;
+    bool ok = false;
+    const qint64 number = text.toLongLong(&ok);
+    require(ok, QT_TRANSLATE_NOOP("MessageWords", "\"%1\" is not a whole number"), text);
+    return number;
 }
 
 HostMessage read(const QStringList& words)
@@ -143,22 +150,22 @@ HostMessage read(const QStringList& words)
     message.code = readCode(words.value(0));
     Extra given = Extra::Number;
     for (const QString& text : words.mid(1)) {
-        Word word;
-        bool ok = take(text, &word);
-        if (ok && word.key == QLatin1String("extra")) {
-            ok = extraKind(word.type, &given) && extraValue(given, word.value, &message.extra);
-        } else if (ok) {
-            message.payload.insert(word.key, payloadValue(word.type, word.value, &ok));
-        }
-        if (!ok) {
-            throw FileError{{}, 0, QStringLiteral("\"%1\" is not an entry of a message").arg(text)};
+        try {
+            const Word word = split(text);
+            if (word.key == QLatin1String("extra")) {
+                given = extraKind(word.type);
+                message.extra = extraValue(given, word.value);
+            } else {
+                message.payload.insert(word.key, payloadValue(word.type, word.value));
+            }
+        } catch (const WordError&) {
+            malformed(QStringLiteral("\"%1\" is not an entry of a message").arg(text));
         }
     }
     // A wrong address would crash the program, not fail the step.
-    const Extra wanted = wantedExtra(message.code);
+    const Extra wanted = MessageNames::extraOf(ModuleNames::toolStrip, message.code);
     if (given != wanted) {
-        throw FileError{
-            {}, 0, QStringLiteral("message %1 takes %2").arg(message.code).arg(needed(wanted))};
+        malformed(QStringLiteral("message %1 takes %2").arg(message.code).arg(needed(wanted)));
     }
     return message;
 }

@@ -2,13 +2,14 @@
 
 #include "messages/HostMessage.h"
 #include "messages/MessageNames.h"
+#include "messages/WordError.h"
 
 #include <QStringList>
 
-/// The words of which messages are made: "CODE [key[:type]=value ...] [extra[:kind]=value]".
+/// The words of which messages are made: "CODE [key[:type]=value ...] [extra[:kind]=value]". What
+/// cannot be read is thrown as a WordError.
 namespace MessageWords {
 
-/// Throws a CanvasHost::FileError without a place for a word that is not a number.
 int readCode(const QString& word);
 
 /// A word "key:type=value" split up; the type may be absent.
@@ -17,21 +18,17 @@ struct Word {
     QString type;
     QString value;
 };
-/// False for a word without a key or without an equals sign.
-bool take(const QString& text, Word* word);
+Word split(const QString& word);
 
 /// The value that `text` stands for: `type` is "text", "int", "decimal", "bool", or empty for text.
-QVariant payloadValue(const QString& type, const QString& text, bool* ok);
+QVariant payloadValue(const QString& type, const QString& text);
 
-/// `type` is empty for a number, or "string", "symbols", "attributes". False for another one.
-bool extraKind(const QString& type, MessageNames::Extra* kind);
-/// Maps are written "1=r10,2=s20". False for any other text.
-bool extraValue(MessageNames::Extra kind, const QString& text, HostMessage::ExtraWord* extra);
-/// What the extra word of a message to the tool strip must be.
-MessageNames::Extra wantedExtra(int code);
+/// `type` is empty for a number, or "string", "symbols", "attributes".
+MessageNames::Extra extraKind(const QString& type);
+/// Maps are written "1=r10,2=s20".
+HostMessage::ExtraWord extraValue(MessageNames::Extra kind, const QString& text);
 
-/// Throws a CanvasHost::FileError without a place for words that are not a message to the tool
-/// strip.
+/// A message to the tool strip.
 HostMessage read(const QStringList& words);
 
 }  // namespace MessageWords

@@ -1,12 +1,12 @@
-#include "session/ExpectSteps.h"
+#include "session/Steps.h"
 
 #include "session/BoxAnswers.h"
 #include "session/MessageExpectation.h"
+#include "session/Reach.h"
 #include "session/SentMessages.h"
-#include "session/StepReach.h"
 #include "session/WidgetState.h"
 
-namespace ExpectSteps {
+namespace Steps {
 namespace {
 
 constexpr int settleTime = 60;  // milliseconds in which a late message would have arrived
@@ -44,7 +44,7 @@ StepAction expectProperty(const QString& name, const QString& property, const QS
         const QString wanted = QStringLiteral("%1=\"%2\" of \"%3\"").arg(property, value, name);
         const QWidget* widget = nullptr;
         try {
-            widget = StepReach::find(name);
+            widget = Reach::widget(name);
         } catch (const StepFault& absent) {
             notYet(fault(wanted, absent.reason));
         }
@@ -114,4 +114,4 @@ StepActionList box(const QStringList& words)
     }};
 }
 
-}  // namespace ExpectSteps
+}  // namespace Steps

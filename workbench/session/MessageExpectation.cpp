@@ -1,9 +1,7 @@
 #include "session/MessageExpectation.h"
 
 #include "messages/MessageWords.h"
-
-#include <FileError.h>
-#include <Values.h>
+#include "shared/Values.h"
 
 #include <algorithm>
 
@@ -76,9 +74,10 @@ MessageExpectation MessageExpectation::read(const QStringList& words)
     MessageExpectation expectation;
     expectation.m_code = MessageWords::readCode(words.value(0));
     for (const QString& word : words.mid(1)) {
-        if (!expectation.readWord(word)) {
-            throw CanvasHost::FileError{
-                {}, 0, QStringLiteral("\"%1\" cannot be expected of a message").arg(word)};
+        try {
+            expectation.readWord(word);
+        } catch (const WordError&) {
+            malformed(QStringLiteral("\"%1\" cannot be expected of a message").arg(word));
         }
     }
     std::stable_sort(expectation.m_parts.begin(), expectation.m_parts.end(),
@@ -86,18 +85,13 @@ MessageExpectation MessageExpectation::read(const QStringList& words)
     return expectation;
 }
 
-bool MessageExpectation::readWord(const QString& text)
+void MessageExpectation::readWord(const QString& text)
 {
-    MessageWords::Word word;
-    if (!MessageWords::take(text, &word)) {
-        return false;
-    }
-    if (word.key == QLatin1String("extra")) {
-        return readExtra(word.type, word.value);
-    }
-    bool ok = true;
+    const MessageWords::Word word = MessageWords::split(text);
     const bool plain = word.type.isEmpty();
-    if (plain && word.key == QLatin1String("to")) {
+    if (word.key == QLatin1String("extra")) {
+        readExtra(word.type, word.value);
+    } else if (plain && word.key == QLatin1String("to")) {
         m_receiver = word.value;
     } else if (plain && word.key == QLatin1String("from")) {
         m_parts.push_back(
@@ -107,10 +101,11 @@ bool MessageExpectation::readWord(const QString& text)
     } else if (plain && word.key == QLatin1String("total")) {
         const auto total = [](int count) { return QStringLiteral("total=%1").arg(count); };
         m_parts.push_back(
-            {Part::Total, total(word.value.toInt(&ok)),
+            {Part::Total,
+             total(MessageWords::payloadValue(QStringLiteral("int"), word.value).toInt()),
              [total](const MessageRecord& message) { return total(message.payload.size()); }});
     } else {
-        const QVariant value = MessageWords::payloadValue(word.type, word.value, &ok);
+        const QVariant value = MessageWords::payloadValue(word.type, word.value);
         m_parts.push_back({Part::Entry, entryText(word.key, value, !plain),
                            [key = word.key, plain](const MessageRecord& message) {
                                return message.payload.contains(key)
@@ -118,22 +113,17 @@ bool MessageExpectation::readWord(const QString& text)
                                           : QStringLiteral("no %1").arg(key);
                            }});
     }
-    return ok;
 }
 
-bool MessageExpectation::readExtra(const QString& type, const QString& text)
+void MessageExpectation::readExtra(const QString& type, const QString& text)
 {
-    MessageNames::Extra kind = MessageNames::Extra::Number;
-    HostMessage::ExtraWord extra;
-    if (!MessageWords::extraKind(type, &kind) || !MessageWords::extraValue(kind, text, &extra)) {
-        return false;
-    }
+    const HostMessage::ExtraWord extra =
+        MessageWords::extraValue(MessageWords::extraKind(type), text);
     m_parts.push_back(
         {Part::Extra, std::visit([](const auto& value) { return extraText(value); }, extra),
          [](const MessageRecord& message) {
              return message.hasAddress() ? extraText(message.pointedAt) : extraText(message.extra);
          }});
-    return true;
 }
 
 bool MessageExpectation::matches(const MessageRecord& message) const

@@ -11,7 +11,7 @@
 class MessageExpectation {
 public:
     /// Of the words "CODE [to=RECEIVER] [from=SENDER] [key[:type]=value ...] [extra[:kind]=value]
-    /// [total=N]". Throws a CanvasHost::FileError without a place for any other words.
+    /// [total=N]". Throws a WordError for any other words.
     static MessageExpectation read(const QStringList& words);
 
     bool matches(const MessageRecord& message) const;
@@ -31,8 +31,8 @@ private:
         std::function<QString(const MessageRecord&)> got;
     };
 
-    bool readWord(const QString& text);
-    bool readExtra(const QString& type, const QString& text);
+    void readWord(const QString& text);
+    void readExtra(const QString& type, const QString& text);
 
     int m_code = -1;
     QString m_receiver;

@@ -1,9 +1,7 @@
-#include "session/MouseSteps.h"
+#include "session/Steps.h"
 
-#include "session/BoardPlaces.h"
 #include "session/InputEvents.h"
-#include "session/StepReach.h"
-#include "session/WidgetSteps.h"
+#include "session/Reach.h"
 
 #include <QCursor>
 #include <QHash>
@@ -12,10 +10,10 @@
 #include <algorithm>
 #include <cmath>
 
-namespace MouseSteps {
+namespace Steps {
 namespace {
 
-using StepReach::Target;
+using Reach::Target;
 
 /// What a step says besides its place.
 struct Extra {
@@ -102,13 +100,13 @@ StepActionList actionsOf(const MouseStep& step, Target target, const QString& wo
 {
     target.mayLeave = step.place == MouseStep::Anywhere;
     StepActionList actions{[act = step.act, target, extra = readExtra(step, word)](StepContext&) {
-        const StepReach::Place place = StepReach::reach(target);
+        const Reach::Place place = Reach::reach(target);
         act(place.widget, place.position, extra);
     }};
     if (step.extra == MouseStep::Entry) {
         // A click on the middle of a widget is for its menu, on a place perhaps for something else.
-        actions.push_back(word.isEmpty() ? WidgetSteps::dismissMenu(target.kind == Target::Centre)
-                                         : WidgetSteps::pickEntry(word));
+        actions.push_back(word.isEmpty() ? dismissMenu(target.kind == Target::Centre)
+                                         : pickEntry(word));
     }
     return actions;
 }
@@ -121,16 +119,6 @@ bool takePlace(QStringList* words, QPointF* place)
     const bool found = xIsWhole && yIsWhole;
     *words = words->mid(found ? 2 : 0);
     return found;
-}
-
-double length(const QString& word)
-{
-    double micrometres = 0;
-    if (!BoardPlaces::readLength(word, &micrometres)) {
-        malformed(
-            QStringLiteral("\"%1\" is not a length (a number, and um, mm, mil or inch)").arg(word));
-    }
-    return micrometres;
 }
 
 }  // namespace
@@ -161,14 +149,14 @@ StepActionList onBoard(const QStringList& words)
         malformed(QStringLiteral("unknown step \"%1\" of the canvas; choose from %2")
                       .arg(words[1], names.join(QStringLiteral(", "))));
     }
-    const QPointF place(length(words[2]), length(words[3]));
+    const QPointF place(Reach::length(words[2]), Reach::length(words[3]));
     const int extras = words.size() - 4;
     if ((step->extra == MouseStep::Nothing && extras > 0) ||
         (step->extra == MouseStep::Notches && extras == 0)) {
         malformed(QStringLiteral("wrong number of words; usage: canvas %1 %2")
                       .arg(QLatin1String(step->name), QLatin1String(step->boardUsage)));
     }
-    return actionsOf(*step, {BoardPlaces::canvasName, Target::Board, place}, words.value(4));
+    return actionsOf(*step, {Reach::canvasName, Target::Board, place}, words.value(4));
 }
 
-}  // namespace MouseSteps
+}  // namespace Steps

@@ -1,7 +1,6 @@
 #include "session/RecordedPlace.h"
 
-#include "session/BoardPlaces.h"
-#include "session/WidgetFinder.h"
+#include "session/Reach.h"
 
 #include <QPushButton>
 #include <QToolButton>
@@ -37,12 +36,14 @@ QStringList RecordedPlace::click(const QString& step) const
 QStringList RecordedPlace::exact(const QString& step, const QString& last) const
 {
     QStringList words;
-    QPointF place;
-    if (onBoard(&place)) {
+    const QPoint position = m_widget->mapFromGlobal(m_global);
+    const std::optional<QPointF> place = m_widget->objectName() == Reach::canvasName
+                                             ? Reach::boardPlace(m_widget, position)
+                                             : std::nullopt;
+    if (place) {
         words = QStringList{QStringLiteral("canvas"), step} +
-                BoardPlaces::text(place).split(QLatin1Char(' '));
+                Reach::placeText(*place).split(QLatin1Char(' '));
     } else {
-        const QPoint position = m_widget->mapFromGlobal(m_global);
         words = QStringList{step, m_widget->objectName(), QString::number(position.x()),
                             QString::number(position.y())};
     }
@@ -60,18 +61,12 @@ QStringList RecordedPlace::wheel(double notches) const
     return words;
 }
 
-bool RecordedPlace::onBoard(QPointF* place) const
-{
-    return m_widget->objectName() == BoardPlaces::canvasName &&
-           BoardPlaces::toBoard(m_widget, m_widget->mapFromGlobal(m_global), place);
-}
-
 QWidget* RecordedPlace::named(QWidget* widget)
 {
     for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
         const QString name = widget->objectName();
         if (!name.isEmpty() && !name.startsWith(QLatin1String("qt_")) &&
-            WidgetFinder::find(name) == widget) {
+            Reach::findWidget(name) == widget) {
             return widget;
         }
     }

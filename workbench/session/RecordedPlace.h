@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QPoint>
-#include <QPointF>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
@@ -32,8 +31,6 @@ public:
     static QWidget* named(QWidget* widget);
 
 private:
-    bool onBoard(QPointF* place) const;
-
     QPointer<QWidget> m_widget;
     QPoint m_global;
 };

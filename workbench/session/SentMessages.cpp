@@ -8,11 +8,10 @@
 
 namespace {
 
+/// Not by the name of the sender: the module uses more than one as its own.
 bool isFromModule(const MessageRecord& message)
 {
-    // By excluding all other senders: the module uses more than one name as its own.
-    return message.receiver != ModuleNames::toolStrip && message.sender != CanvasHost::hostName &&
-           message.sender != ModuleNames::viewer && message.sender != ModuleNames::jobTree;
+    return message.module == ModuleNames::toolStrip && message.receiver != ModuleNames::toolStrip;
 }
 
 }  // namespace

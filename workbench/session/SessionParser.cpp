@@ -1,6 +1,6 @@
 #include "session/SessionParser.h"
 
-#include "session/StepTable.h"
+#include "session/Steps.h"
 
 #include <Files.h>
 
@@ -112,11 +112,11 @@ Session SessionParser::read(const QByteArray& bytes, const QString& file)
         try {
             const QStringList words = split(line);
             if (!words.isEmpty()) {
-                session.steps.push_back(StepTable::parse(words));
+                session.steps.push_back(Steps::parse(words));
                 session.steps.back().line = number;
             }
-        } catch (const CanvasHost::FileError& error) {
-            throw CanvasHost::FileError{file, number, error.reason};
+        } catch (const WordError& error) {
+            throw CanvasHost::FileError{file, number, error.text()};
         }
     }
     return session;

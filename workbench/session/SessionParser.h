@@ -13,7 +13,7 @@ Session readFile(const QString& file);
 /// The same from what a file holds; `file` names it.
 Session read(const QByteArray& bytes, const QString& file);
 
-/// Splits one line into words; a comment is left out. An open quote is an error without a place.
+/// Splits one line into words; a comment is left out. An open quote is a WordError.
 QStringList split(const QString& line);
 
 }  // namespace SessionParser

@@ -1,8 +1,8 @@
 #include "session/SessionRecorder.h"
 
 #include "session/BoxAnswers.h"
-#include "session/MenuEntries.h"
-#include "session/TextWidgets.h"
+#include "session/Reach.h"
+#include "shared/TakesText.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -66,38 +66,19 @@ QString buttonName(Qt::MouseButton button)
 
 bool isModifier(int key)
 {
-    switch (key) {
-        case Qt::Key_Shift:
-        case Qt::Key_Control:
-        case Qt::Key_Alt:
-        case Qt::Key_AltGr:
-        case Qt::Key_Meta:
-        case Qt::Key_CapsLock:
-        case Qt::Key_NumLock:
-        case Qt::Key_unknown:
-            return true;
-        default:
-            return false;
-    }
+    static const QVector<int> keys{Qt::Key_Shift,   Qt::Key_Control, Qt::Key_Alt,
+                                   Qt::Key_AltGr,   Qt::Key_Meta,    Qt::Key_CapsLock,
+                                   Qt::Key_NumLock, Qt::Key_unknown};
+    return keys.contains(key);
 }
 
 /// Whether the key does more in a text than change it or move the cursor.
 bool leavesText(int key)
 {
-    switch (key) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Tab:
-        case Qt::Key_Backtab:
-        case Qt::Key_Escape:
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_PageUp:
-        case Qt::Key_PageDown:
-            return true;
-        default:
-            return false;
-    }
+    static const QVector<int> keys{Qt::Key_Return,  Qt::Key_Enter,  Qt::Key_Tab,
+                                   Qt::Key_Backtab, Qt::Key_Escape, Qt::Key_Up,
+                                   Qt::Key_Down,    Qt::Key_PageUp, Qt::Key_PageDown};
+    return keys.contains(key);
 }
 
 bool isConfirmation(int key)
@@ -311,7 +292,7 @@ void SessionRecorder::key(const QKeyEvent* event)
     }
     QWidget* const focus = QApplication::focusWidget();
     if (!focus || isInBox(focus) || isModifier(event->key()) ||
-        (TextWidgets::hasText(focus) && !leavesText(event->key()))) {
+        (takesText(focus) && !leavesText(event->key()))) {
         return;
     }
     writeKey(focus, keyName(event));
@@ -377,9 +358,9 @@ void SessionRecorder::chooseEntry(QMenu* menu, const QAction* action)
         return;
     }
     const QString entry =
-        action->objectName().isEmpty() ? MenuEntries::text(action) : action->objectName();
+        action->objectName().isEmpty() ? Reach::textOf(action) : action->objectName();
     const QStringList before = m_file.last();
-    if (MenuEntries::barOf(menu) && !menu->objectName().isEmpty()) {
+    if (Reach::barOf(menu) && !menu->objectName().isEmpty()) {
         m_file.append({QStringLiteral("menu"), menu->objectName(), entry});
         unlessClosed(menu, {});
     } else if (m_rightClick.isValid() &&
@@ -428,7 +409,7 @@ void SessionRecorder::unlessClosed(QWidget* popup, const QStringList& before)
 void SessionRecorder::watchText(QWidget* focus)
 {
     disconnect(m_text);
-    if (!focus || !TextWidgets::hasText(focus)) {
+    if (!focus || !takesText(focus)) {
         return;
     }
     // Combo and spin boxes take the keys for the line edit in them.

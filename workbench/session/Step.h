@@ -1,6 +1,6 @@
 #pragma once
 
-#include <FileError.h>
+#include "messages/WordError.h"
 
 #include <QString>
 
@@ -52,9 +52,3 @@ struct Session {
     QString file;
     std::vector<SessionStep> steps;
 };
-
-/// The words are not a valid step. The reader of the file adds the place.
-[[noreturn]] inline void malformed(const QString& reason)
-{
-    throw CanvasHost::FileError{{}, 0, reason};
-}

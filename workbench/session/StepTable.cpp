@@ -1,8 +1,4 @@
-#include "session/StepTable.h"
-
-#include "session/ExpectSteps.h"
-#include "session/MouseSteps.h"
-#include "session/WidgetSteps.h"
+#include "session/Steps.h"
 
 #include <algorithm>
 #include <climits>
@@ -20,31 +16,31 @@ struct Kind {
 
 // clang-format off
 constexpr Kind kinds[] = {
-    {"click", "click NAME [x y]", 1, 3, MouseSteps::onWidget},
-    {"doubleclick", "doubleclick NAME [x y]", 1, 3, MouseSteps::onWidget},
-    {"rightclick", "rightclick NAME [x y] [ENTRY]", 1, 4, MouseSteps::onWidget},
-    {"press", "press NAME x y [BUTTON]", 3, 4, MouseSteps::onWidget},
-    {"move", "move NAME x y", 3, 3, MouseSteps::onWidget},
-    {"release", "release NAME x y [BUTTON]", 3, 4, MouseSteps::onWidget},
-    {"wheel", "wheel NAME NOTCHES [x y]", 2, 4, MouseSteps::onWidget},
-    {"canvas", "canvas STEP X Y [...]", 3, 4, MouseSteps::onBoard},
-    {"type", "type NAME TEXT", 2, 2, WidgetSteps::type},
-    {"key", "key NAME KEY", 2, 2, WidgetSteps::key},
-    {"choose", "choose NAME ITEM", 2, 2, WidgetSteps::choose},
-    {"set", "set NAME ITEM", 2, 2, WidgetSteps::set},
-    {"menu", "menu NAME ENTRY", 2, 2, WidgetSteps::menu},
-    {"close", "close NAME", 1, 1, WidgetSteps::close},
-    {"send", "send CODE [key=value ...] [extra=N]", 1, INT_MAX, WidgetSteps::send},
-    {"picture", "picture FILE [NAME]", 1, 2, WidgetSteps::picture},
-    {"wait", "wait MILLISECONDS", 1, 1, WidgetSteps::wait},
-    {"box", "box accept|reject|discard [title=TEXT] [text=TEXT]", 1, 3, ExpectSteps::box, true},
-    {"expect", "expect message|nothing|state ...", 1, INT_MAX, ExpectSteps::expect},
+    {"click", "click NAME [x y]", 1, 3, Steps::onWidget},
+    {"doubleclick", "doubleclick NAME [x y]", 1, 3, Steps::onWidget},
+    {"rightclick", "rightclick NAME [x y] [ENTRY]", 1, 4, Steps::onWidget},
+    {"press", "press NAME x y [BUTTON]", 3, 4, Steps::onWidget},
+    {"move", "move NAME x y", 3, 3, Steps::onWidget},
+    {"release", "release NAME x y [BUTTON]", 3, 4, Steps::onWidget},
+    {"wheel", "wheel NAME NOTCHES [x y]", 2, 4, Steps::onWidget},
+    {"canvas", "canvas STEP X Y [...]", 3, 4, Steps::onBoard},
+    {"type", "type NAME TEXT", 2, 2, Steps::type},
+    {"key", "key NAME KEY", 2, 2, Steps::key},
+    {"choose", "choose NAME ITEM", 2, 2, Steps::choose},
+    {"set", "set NAME ITEM", 2, 2, Steps::set},
+    {"menu", "menu NAME ENTRY", 2, 2, Steps::menu},
+    {"close", "close NAME", 1, 1, Steps::close},
+    {"send", "send CODE [key=value ...] [extra=N]", 1, INT_MAX, Steps::send},
+    {"picture", "picture FILE [NAME]", 1, 2, Steps::picture},
+    {"wait", "wait MILLISECONDS", 1, 1, Steps::wait},
+    {"box", "box accept|reject|discard [title=TEXT] [text=TEXT]", 1, 3, Steps::box, true},
+    {"expect", "expect message|nothing|state ...", 1, INT_MAX, Steps::expect},
 };
 // clang-format on
 
 }  // namespace
 
-SessionStep StepTable::parse(const QStringList& words)
+SessionStep Steps::parse(const QStringList& words)
 {
     const auto kind = std::find_if(std::begin(kinds), std::end(kinds), [&](const Kind& candidate) {
         return words[0] == QLatin1String(candidate.name);
@@ -60,7 +56,7 @@ SessionStep StepTable::parse(const QStringList& words)
     return {0, kind->parse(words), kind->answersBox};
 }
 
-QStringList StepTable::names()
+QStringList Steps::names()
 {
     QStringList list;
     for (const Kind& kind : kinds) {

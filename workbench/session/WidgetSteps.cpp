@@ -1,13 +1,11 @@
-#include "session/WidgetSteps.h"
+#include "session/Steps.h"
 
 #include "messages/HostState.h"
 #include "messages/MessageWords.h"
 #include "messages/WindowPicture.h"
 #include "session/InputEvents.h"
-#include "session/MenuEntries.h"
-#include "session/StepReach.h"
-#include "session/TextWidgets.h"
-#include "session/WidgetFinder.h"
+#include "session/Reach.h"
+#include "shared/TakesText.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -19,7 +17,7 @@
 #include <QPixmap>
 #include <QPointer>
 
-namespace WidgetSteps {
+namespace Steps {
 namespace {
 
 QMenu* openMenu()
@@ -30,7 +28,7 @@ QMenu* openMenu()
 /// The widget called `name`, with the focus.
 QWidget* focused(const QString& name)
 {
-    QWidget* const widget = StepReach::reach(name);
+    QWidget* const widget = Reach::reach(name);
     widget->setFocus(Qt::OtherFocusReason);
     if (!widget->hasFocus() && !(widget->focusProxy() && widget->focusProxy()->hasFocus())) {
         notYet(QStringLiteral("\"%1\" does not take the focus").arg(name));
@@ -40,7 +38,7 @@ QWidget* focused(const QString& name)
 
 QComboBox* reachCombo(const QString& name)
 {
-    auto* const combo = qobject_cast<QComboBox*>(StepReach::reach(name));
+    auto* const combo = qobject_cast<QComboBox*>(Reach::reach(name));
     if (!combo) {
         never(QStringLiteral("\"%1\" is not a combo box").arg(name));
     }
@@ -82,7 +80,7 @@ StepAction openList(const QString& name, const QString& item)
 StepAction pickItem(const QString& name, const QString& item)
 {
     return [=](StepContext&) {
-        const QPointer<QComboBox> combo = qobject_cast<QComboBox*>(WidgetFinder::find(name));
+        const QPointer<QComboBox> combo = qobject_cast<QComboBox*>(Reach::findWidget(name));
         if (!combo || !combo->view()->isVisible()) {
             notYet(QStringLiteral("the list of \"%1\" did not open").arg(name));
         }
@@ -102,18 +100,15 @@ StepAction pickItem(const QString& name, const QString& item)
 StepAction openBarMenu(const QString& name)
 {
     return [=](StepContext&) {
-        auto* const menu = qobject_cast<QMenu*>(StepReach::find(name));
+        auto* const menu = qobject_cast<QMenu*>(Reach::widget(name));
         if (!menu) {
             never(QStringLiteral("\"%1\" is not a menu").arg(name));
         }
-        QMenuBar* const bar = MenuEntries::barOf(menu);
+        QMenuBar* const bar = Reach::barOf(menu);
         if (!bar) {
             never(QStringLiteral("\"%1\" is not in a menu bar").arg(name));
         }
-        const QString obstacle = WidgetFinder::obstacle(bar);
-        if (!obstacle.isEmpty()) {
-            notYet(obstacle);
-        }
+        Reach::requireFree(bar);
         InputEvents::click(bar, bar->actionGeometry(menu->menuAction()).center());
     };
 }
@@ -125,7 +120,7 @@ StepActionList type(const QStringList& words)
     return {[name = words[1], text = words[2]](StepContext&) {
         const QWidget* const widget = focused(name);
         QWidget* const window = widget->window();
-        if (TextWidgets::hasText(widget)) {
+        if (takesText(widget)) {
             InputEvents::key(window, QKeySequence(QStringLiteral("Ctrl+A")));
         }
         if (text.isEmpty()) {
@@ -166,7 +161,7 @@ StepActionList menu(const QStringList& words)
 
 StepActionList close(const QStringList& words)
 {
-    return {[name = words[1]](StepContext&) { StepReach::reach(name)->window()->close(); }};
+    return {[name = words[1]](StepContext&) { Reach::reach(name)->window()->close(); }};
 }
 
 StepActionList send(const QStringList& words)
@@ -183,7 +178,7 @@ StepActionList picture(const QStringList& words)
         malformed(QStringLiteral("\"%1\" is not a picture file (.png)").arg(words[1]));
     }
     return {[file = words[1], name = words.value(2)](StepContext& context) {
-        QWidget* const widget = name.isEmpty() ? context.window : WidgetFinder::find(name);
+        QWidget* const widget = name.isEmpty() ? context.window : Reach::findWidget(name);
         if (!widget) {
             notYet(QStringLiteral("no widget \"%1\"").arg(name));
         }
@@ -210,13 +205,12 @@ StepAction pickEntry(const QString& entry)
         if (!menu) {
             notYet(QStringLiteral("no menu opened"));
         }
-        QString reason;
-        QAction* const action = MenuEntries::find(menu, entry, &reason);
-        if (!action) {
+        try {
+            InputEvents::click(menu, menu->actionGeometry(Reach::entry(menu, entry)).center());
+        } catch (const StepFault&) {
             menu->close();
-            never(reason);
+            throw;
         }
-        InputEvents::click(menu, menu->actionGeometry(action).center());
     };
 }
 
@@ -231,4 +225,4 @@ StepAction dismissMenu(bool needed)
     };
 }
 
-}  // namespace WidgetSteps
+}  // namespace Steps

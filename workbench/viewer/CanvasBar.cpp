@@ -1,68 +1,108 @@
 #include "viewer/CanvasBar.h"
 
+#include "board/EditOps.h"
+#include "shared/Named.h"
 #include "viewer/BoardView.h"
 #include "viewer/FileActions.h"
 
 #include <QAction>
 #include <QToolButton>
 
+#include <numeric>
+
 namespace {
 
 constexpr double zoomStep = 1.5;
+
+/// `actions` fit the board into the view, zoom in and out.
+void connectZoom(const QList<QAction*>& actions, BoardView& view)
+{
+    actions[0]->setShortcut(QStringLiteral("Ctrl+0"));
+    actions[1]->setShortcut(QKeySequence::ZoomIn);
+    actions[2]->setShortcut(QKeySequence::ZoomOut);
+    QObject::connect(actions[0], &QAction::triggered, &view, &BoardView::fit);
+    QObject::connect(actions[1], &QAction::triggered, &view, [&view] { view.zoom(zoomStep); });
+    QObject::connect(actions[2], &QAction::triggered, &view, [&view] { view.zoom(1 / zoomStep); });
+}
 
 }  // namespace
 
 CanvasBar::CanvasBar(CanvasController& canvas, BoardView& view, const FileActions& files,
                      QWidget* parent)
-    : QToolBar(parent), m_canvas(canvas)
+    : QToolBar(parent),
+      m_canvas(canvas),
+      m_selectAll(named(new QAction(this), "m_pSelectAllAct")),
+      m_deselect(named(new QAction(this), "m_pDeselectAct")),
+      m_delete(named(new QAction(this), "m_pDeleteAct"))
 {
     setObjectName(QStringLiteral("m_pCanvasBar"));
     setToolButtonStyle(Qt::ToolButtonTextOnly);
-    m_undo = add("m_pUndoTB", QKeySequence::Undo);
-    m_redo = add("m_pRedoTB", QKeySequence::Redo);
-    m_redo->setShortcuts(
-        {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
+    m_undo = addButton("m_pUndoTB", "m_pUndoAct");
+    m_redo = addButton("m_pRedoTB", "m_pRedoAct");
     addSeparator();
-    m_fit = add("m_pFitTB", QKeySequence(QStringLiteral("Ctrl+0")));
-    m_zoomIn = add("m_pZoomInTB", QKeySequence::ZoomIn);
-    m_zoomOut = add("m_pZoomOutTB", QKeySequence::ZoomOut);
+    m_fit = addButton("m_pFitTB", "m_pFitAct");
+    m_zoomIn = addButton("m_pZoomInTB", "m_pZoomInAct");
+    m_zoomOut = addButton("m_pZoomOutTB", "m_pZoomOutAct");
     addSeparator();
-    place(files.openAction(), "m_pOpenBoardTB");
-    place(files.saveAction(), "m_pSaveBoardTB");
-    place(files.exportAction(), "m_pExportBoardTB");
+    addButton(files.openAction(), "m_pOpenBoardTB");
+    addButton(files.saveAction(), "m_pSaveBoardTB");
+    addButton(files.exportAction(), "m_pExportBoardTB");
+    connectHistory();
+    connectSelection();
+    connectZoom(zoomActions(), view);
+    retranslate();
+}
 
-    QUndoGroup& histories = canvas.histories();
+QAction* CanvasBar::addButton(const char* buttonName, const char* actionName)
+{
+    auto* const action = named(new QAction(this), actionName);
+    addButton(action, buttonName);
+    return action;
+}
+
+void CanvasBar::addButton(QAction* action, const char* buttonName)
+{
+    addAction(action);
+    named(widgetForAction(action), buttonName);
+}
+
+void CanvasBar::connectHistory()
+{
+    m_undo->setShortcut(QKeySequence::Undo);
+    m_redo->setShortcuts({QStringLiteral("Ctrl+Shift+Z"), QStringLiteral("Ctrl+Y")});
+    const QUndoGroup& histories = m_canvas.histories();
     connect(m_undo, &QAction::triggered, &histories, &QUndoGroup::undo);
     connect(m_redo, &QAction::triggered, &histories, &QUndoGroup::redo);
     connect(&histories, &QUndoGroup::indexChanged, this, &CanvasBar::nameHistory);
     connect(&histories, &QUndoGroup::activeStackChanged, this, &CanvasBar::nameHistory);
-    connect(m_fit, &QAction::triggered, &view, &BoardView::fit);
-    connect(m_zoomIn, &QAction::triggered, &view, [&view] { view.zoom(zoomStep); });
-    connect(m_zoomOut, &QAction::triggered, &view, [&view] { view.zoom(1 / zoomStep); });
-    retranslate();
 }
 
-QAction* CanvasBar::add(const char* objectName, const QKeySequence& shortcut)
+void CanvasBar::connectSelection()
 {
-    auto* const action = new QAction(this);
-    action->setShortcut(shortcut);
-    // "m_pUndoTB" is the button of "m_pUndoAct", which the window's menus show as well.
-    action->setObjectName(
-        QString::fromLatin1(objectName).replace(QLatin1String("TB"), QLatin1String("Act")));
-    place(action, objectName);
-    return action;
-}
-
-void CanvasBar::place(QAction* action, const char* objectName)
-{
-    addAction(action);
-    widgetForAction(action)->setObjectName(QLatin1String(objectName));
+    m_selectAll->setShortcut(QKeySequence::SelectAll);
+    m_deselect->setShortcut(QStringLiteral("Ctrl+D"));
+    m_delete->setShortcut(QKeySequence::Delete);
+    connect(m_selectAll, &QAction::triggered, this, [this] {
+        Pcb::Indexes all(m_canvas.document().board().features.size());
+        std::iota(all.begin(), all.end(), 0);
+        m_canvas.document().select(tr("Select all"), all);
+    });
+    connect(m_deselect, &QAction::triggered, this,
+            [this] { m_canvas.document().select(tr("Deselect"), {}); });
+    connect(m_delete, &QAction::triggered, this, [this] {
+        Document& document = m_canvas.document();
+        document.applyBoard(tr("Delete"),
+                            Pcb::without(document.board(), document.state().selected));
+    });
 }
 
 void CanvasBar::retranslate()
 {
     m_undo->setIconText(tr("Undo"));
     m_redo->setIconText(tr("Redo"));
+    m_selectAll->setText(tr("Select &All"));
+    m_deselect->setText(tr("Dese&lect"));
+    m_delete->setText(tr("&Delete"));
     m_fit->setText(tr("&Fit"));
     m_fit->setIconText(tr("Fit"));
     m_zoomIn->setText(tr("Zoom &In"));
@@ -72,7 +112,7 @@ void CanvasBar::retranslate()
     m_fit->setToolTip(tr("Show the whole board"));
     m_zoomIn->setToolTip(tr("Zoom in"));
     m_zoomOut->setToolTip(tr("Zoom out"));
-    for (QAction* const action : {m_fit, m_zoomIn, m_zoomOut}) {
+    for (QAction* const action : zoomActions()) {
         widgetForAction(action)->setAccessibleName(action->toolTip());
     }
     nameHistory();
@@ -91,16 +131,7 @@ void CanvasBar::nameHistory()
 
 void CanvasBar::addZoomKeys(QWidget* window, BoardView& view)
 {
-    const auto add = [window](const QKeySequence& shortcut) {
-        auto* const action = new QAction(window);
-        action->setShortcut(shortcut);
-        window->addAction(action);
-        return action;
-    };
-    connect(add(QKeySequence(QStringLiteral("Ctrl+0"))), &QAction::triggered, &view,
-            &BoardView::fit);
-    connect(add(QKeySequence::ZoomIn), &QAction::triggered, &view,
-            [&view] { view.zoom(zoomStep); });
-    connect(add(QKeySequence::ZoomOut), &QAction::triggered, &view,
-            [&view] { view.zoom(1 / zoomStep); });
+    const QList<QAction*> keys{new QAction(window), new QAction(window), new QAction(window)};
+    window->addActions(keys);
+    connectZoom(keys, view);
 }

@@ -53,7 +53,9 @@ void CanvasController::openStep(const QString& job, const QString& step)
     m_scene.setDocument(m_document);
     // What was started refers to features that may be others now.
     connect(m_document, &Document::changed, this, [this] {
-        cancel();
+        if (!m_isAtWork) {
+            cancel();
+        }
         hover(m_cursor);
     });
     Q_EMIT documentOpened();
@@ -135,21 +137,26 @@ void CanvasController::clickAt(const QPointF& place)
     release(place);
 }
 
-void CanvasController::press(const QPointF& point, bool extends)
+template <typename Work>
+void CanvasController::atWork(Work work)
 {
     if (m_tool) {
-        m_tool->press(aim(point), extends);
-        aim(point);
+        const QScopedValueRollback<bool> own(m_isAtWork, true);
+        work(*m_tool);
     }
+}
+
+void CanvasController::press(const QPointF& point, bool extends)
+{
+    atWork([&](CanvasTool& tool) { tool.press(aim(point), extends); });
+    aim(point);
     refresh();
 }
 
 void CanvasController::move(const QPointF& point)
 {
     const QPointF place = aim(point);
-    if (m_tool) {
-        m_tool->move(place);
-    }
+    atWork([&](CanvasTool& tool) { tool.move(place); });
     hover(point);
     refresh();
     Q_EMIT moved(place);
@@ -157,17 +164,13 @@ void CanvasController::move(const QPointF& point)
 
 void CanvasController::release(const QPointF& point)
 {
-    if (m_tool) {
-        m_tool->release(aim(point));
-    }
+    atWork([&](CanvasTool& tool) { tool.release(aim(point)); });
     refresh();
 }
 
 void CanvasController::finish()
 {
-    if (m_tool) {
-        m_tool->finish();
-    }
+    atWork([](CanvasTool& tool) { tool.finish(); });
     refresh();
 }
 

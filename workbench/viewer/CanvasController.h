@@ -64,6 +64,9 @@ Q_SIGNALS:
     void hovered(int feature);  ///< -1: none
 
 private:
+    /// Lets the tool do `work`: what it changes itself does not cancel it.
+    template <typename Work>
+    void atWork(Work work);
     void press(const QPointF& point, bool extends);
     void move(const QPointF& point);
     void release(const QPointF& point);
@@ -83,6 +86,7 @@ private:
     QPointer<BoardView> m_view;
     std::unique_ptr<CanvasTool> m_tool;
     std::optional<QPointF> m_cursor;
+    bool m_isAtWork = false;
     bool m_snaps = false;
     double m_gridStep;
     std::optional<Snapping::Place> m_snap;  ///< of the cursor, when the tool asks for a place

@@ -1,26 +1,14 @@
 #include "viewer/CanvasKeys.h"
 
+#include "shared/TakesText.h"
+
 #include <QAbstractItemView>
-#include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QDialog>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTextEdit>
 
 namespace {
-
-bool isField(const QWidget* widget)
-{
-    const auto* const combo = qobject_cast<const QComboBox*>(widget);
-    return qobject_cast<const QLineEdit*>(widget) ||
-           qobject_cast<const QAbstractSpinBox*>(widget) ||
-           qobject_cast<const QTextEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
-           (combo && combo->isEditable());
-}
 
 /// Keys that act on the text or the rows of the focused widget.
 bool isKept(const QWidget* focus, const QKeyEvent* event)
@@ -30,7 +18,7 @@ bool isKept(const QWidget* focus, const QKeyEvent* event)
     if (qobject_cast<const QAbstractItemView*>(focus)) {
         return meansItems;
     }
-    return isField(focus) &&
+    return takesText(focus) &&
            (meansItems || event->matches(QKeySequence::Undo) ||
             event->matches(QKeySequence::Redo) || event->matches(QKeySequence::Cancel) ||
             (event->key() == Qt::Key_Y && event->modifiers() == Qt::ControlModifier));

@@ -28,11 +28,6 @@ Ids difference(const Ids& a, const Ids& b)
     return all;
 }
 
-bool contains(const Pcb::Indexes& indexes, int index)
-{
-    return std::binary_search(indexes.begin(), indexes.end(), index);
-}
-
 Pcb::Splices<Mark> changeOf(const std::vector<Mark>& before, const std::vector<Mark>& after)
 {
     const auto same = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
@@ -160,11 +155,11 @@ Pcb::IdSet Document::inherited(const Pcb::Splices<int>& splices, const Pcb::Inde
     for (const Pcb::Splice<int>& splice : splices) {
         const int count = static_cast<int>(splice.entries.size());
         for (int i = count; i < splice.count; ++i) {
-            if (contains(indexes, splice.index + i)) {
+            if (Pcb::contains(indexes, splice.index + i)) {
                 ids.push_back(m_ids[static_cast<size_t>(splice.index + i)]);
             }
         }
-        if (splice.count > 0 && contains(indexes, splice.index + splice.count - 1)) {
+        if (splice.count > 0 && Pcb::contains(indexes, splice.index + splice.count - 1)) {
             addNew(splice.entries, ids);
         }
     }

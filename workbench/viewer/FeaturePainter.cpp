@@ -11,9 +11,11 @@
 namespace {
 
 constexpr size_t many = 10000;  // features of a board: fewer are always drawn as they are
-constexpr double dot = 3;       // pixels: anything no larger is drawn as a rectangle
-constexpr double dash = 6;      // pixels: a hairline no longer than this is drawn as one
-constexpr double hair = 1.5;    // pixels
+// With rectangles and hairlines a notch of the wheel on 100,000 features takes 22 ms; without
+// hairlines 57, without rectangles 73.
+constexpr double dot = 3;     // pixels: anything no larger is drawn as a rectangle
+constexpr double dash = 6;    // pixels: a hairline no longer than this is drawn as one
+constexpr double hair = 1.5;  // pixels
 
 const QColor& colourOf(Pcb::Kind kind)
 {
@@ -30,21 +32,6 @@ const QColor& colourOf(Pcb::Kind kind)
     }
     return CanvasColours::line;
 }
-
-/// Walks through ascending indexes, and tells whether it contains those asked for, in this order.
-class Walk {
-public:
-    explicit Walk(const Pcb::Indexes& indexes) : m_next(indexes.begin()), m_end(indexes.end()) {}
-    bool isAt(int index)
-    {
-        m_next = std::lower_bound(m_next, m_end, index);
-        return m_next != m_end && *m_next == index;
-    }
-
-private:
-    Pcb::Indexes::const_iterator m_next;
-    Pcb::Indexes::const_iterator m_end;
-};
 
 /// Draws features by a painter whose state it changes only where necessary.
 class FeatureBrush {
@@ -113,18 +100,17 @@ private:
 void paintFeatures(QPainter& painter, const Document& document, const QRectF& area)
 {
     const CanvasState& state = document.state();
-    Walk selected(state.selected);
-    Walk highlighted(state.highlighted);
     FeatureBrush brush(painter);
     const bool isLarge = state.board.features.size() > many;
     for (const int index : document.featuresIn(area)) {
         const Pcb::Sketch& sketch = document.sketch(index);
-        const bool isSelected = selected.isAt(index);
+        const bool isSelected = Pcb::contains(state.selected, index);
         // A negative feature cuts holes into those below it: the background shows.
-        const QColor& colour = isSelected                ? CanvasColours::selected
-                               : highlighted.isAt(index) ? CanvasColours::highlighted
-                               : sketch.positive         ? colourOf(sketch.kind)
-                                                         : CanvasColours::boardGround;
+        const QColor& colour = isSelected ? CanvasColours::selected
+                               : Pcb::contains(state.highlighted, index)
+                                   ? CanvasColours::highlighted
+                               : sketch.positive ? colourOf(sketch.kind)
+                                                 : CanvasColours::boardGround;
         if (!isLarge || !brush.draw(sketch, colour)) {
             brush.draw(state.board.features[static_cast<size_t>(index)].area(), colour, isSelected);
         }

@@ -1,7 +1,10 @@
 #include "viewer/FileActions.h"
 
-#include "viewer/BoardFiles.h"
+#include "board/BoardFile.h"
+#include "shared/Named.h"
 #include "viewer/FileNames.h"
+
+#include <FileError.h>
 
 #include <QAction>
 #include <QFileInfo>
@@ -12,7 +15,6 @@
 FileActions::FileActions(CanvasController& canvas, QWidget* pane)
     : QObject(pane), m_canvas(canvas), m_pane(pane)
 {
-    setObjectName(QStringLiteral("m_pBoardFiles"));
     m_new = add("m_pNewBoardAct", QKeySequence::New, &FileActions::startNew);
     m_open = add("m_pOpenBoardAct", QKeySequence::Open, &FileActions::chooseAndOpen);
     m_save = add("m_pSaveBoardAct", QKeySequence::Save, &FileActions::saveShown);
@@ -28,8 +30,7 @@ FileActions::FileActions(CanvasController& canvas, QWidget* pane)
 QAction* FileActions::add(const char* name, const QKeySequence& shortcut,
                           void (FileActions::*slot)())
 {
-    auto* const action = new QAction(this);
-    action->setObjectName(QLatin1String(name));
+    auto* const action = named(new QAction(this), name);
     action->setShortcut(shortcut);
     connect(action, &QAction::triggered, this, slot);
     return action;
@@ -62,33 +63,53 @@ void FileActions::watch()
     Q_EMIT changed();
 }
 
+bool FileActions::isModified() const
+{
+    return m_canvas.document().isModified();
+}
+
+void FileActions::setChanged(const std::function<void()>& changed)
+{
+    connect(this, &FileActions::changed, this, changed);
+}
+
+QStringList FileActions::recent() const
+{
+    return FileNames::recent();
+}
+
 QString FileActions::file() const
 {
     const auto found = m_files.find(&m_canvas.document());
     return found == m_files.end() ? QString() : found->second;
 }
 
-bool FileActions::isModified() const
-{
-    return m_canvas.document().isModified();
-}
-
 void FileActions::openAtOnce(const QString& file)
 {
     Document& document = m_canvas.document();
-    BoardFiles::open(document, file);
+    document.replace(Pcb::readBoardFile(file));
     setFile(document, file);
     FileNames::remember(file);
     Q_EMIT opened();
 }
 
+void FileActions::exportTo(const QString& file)
+{
+    Pcb::exportBoard(m_canvas.document().board(), file);
+}
+
 bool FileActions::open(const QString& file)
 {
-    if (!mayReplace(m_canvas.document()) || !attempt([&] { openAtOnce(file); })) {
-        return false;
+    return mayReplace(m_canvas.document()) && tryToOpen(file);
+}
+
+bool FileActions::tryToOpen(const QString& file)
+{
+    const bool opened = attempt([&] { openAtOnce(file); });
+    if (opened) {
+        m_canvas.say(tr("Opened %1.").arg(file));
     }
-    m_canvas.say(tr("Opened %1.").arg(file));
-    return true;
+    return opened;
 }
 
 void FileActions::startNew()
@@ -108,8 +129,8 @@ void FileActions::chooseAndOpen()
     // Before the file is chosen, so that the choice is not in vain.
     if (mayReplace(m_canvas.document())) {
         const QString file = FileNames::ask(FileNames::Purpose::Open, {}, m_pane);
-        if (!file.isEmpty() && attempt([&] { openAtOnce(file); })) {
-            m_canvas.say(tr("Opened %1.").arg(file));
+        if (!file.isEmpty()) {
+            tryToOpen(file);
         }
     }
 }
@@ -129,7 +150,7 @@ void FileActions::chooseAndExport()
     const Document& document = m_canvas.document();
     const QString name = QFileInfo(nameOf(document)).completeBaseName();
     const QString file = FileNames::ask(FileNames::Purpose::Export, name, m_pane);
-    if (!file.isEmpty() && attempt([&] { BoardFiles::exportTo(document, file); })) {
+    if (!file.isEmpty() && attempt([&] { exportTo(file); })) {
         m_canvas.say(tr("Wrote %1.").arg(file));
     }
 }
@@ -170,7 +191,7 @@ bool FileActions::saveAs(Document& document)
 
 bool FileActions::write(Document& document, const QString& file)
 {
-    if (!attempt([&] { BoardFiles::save(document, file); })) {
+    if (!attempt([&] { Pcb::writeBoardFile(document.board(), file); })) {
         return false;
     }
     document.setSaved();

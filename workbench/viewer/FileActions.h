@@ -1,8 +1,7 @@
 #pragma once
 
+#include "shared/CanvasControl.h"
 #include "viewer/CanvasController.h"
-
-#include <FileError.h>
 
 #include <QObject>
 
@@ -12,12 +11,9 @@
 
 class QAction;
 
-/// The boards as files, as the user handles them: which file is open, what is not saved yet, and
-/// the actions for both. Asks before changes are lost; errors are shown in a box.
-///
-/// The host's window, to which the canvas is a module, finds this by its object name,
-/// "m_pBoardFiles", and calls it by the names of its methods.
-class FileActions : public QObject {
+/// The boards as files, as the user handles them, and the actions for that. Asks before changes
+/// are lost; errors are shown in a box.
+class FileActions : public QObject, public BoardFiles {
     Q_OBJECT
 
 public:
@@ -27,21 +23,20 @@ public:
     QAction* openAction() const { return m_open; }
     QAction* saveAction() const { return m_save; }
     QAction* exportAction() const { return m_export; }
+    QList<QAction*> openActions() const { return {m_new, m_open}; }
+    QList<QAction*> saveActions() const { return {m_save, m_saveAs, m_export}; }
     void retranslate();
 
-    /// For a file that a program has named: nothing is asked. Throws a FileError.
-    void openAtOnce(const QString& file);
-
-    /// The file of the board that is shown; empty when it was never saved.
-    Q_INVOKABLE QString file() const;
-    /// Whether the board that is shown differs from its file.
-    Q_INVOKABLE bool isModified() const;
-    /// False: the user wants to keep the board that is shown, or it could not be saved.
-    Q_INVOKABLE bool open(const QString& file);
-    /// The same of all boards that are not saved.
-    Q_INVOKABLE bool mayClose();
-    /// Whether a user is there to be asked; otherwise changes are discarded.
-    Q_INVOKABLE void setMayAsk(std::function<bool()> mayAsk) { m_mayAsk = std::move(mayAsk); }
+    // BoardFiles
+    void openAtOnce(const QString& file) override;
+    void exportTo(const QString& file) override;
+    bool open(const QString& file) override;
+    bool mayClose() override;
+    void setMayAsk(std::function<bool()> mayAsk) override { m_mayAsk = std::move(mayAsk); }
+    QString file() const override;
+    bool isModified() const override;
+    void setChanged(const std::function<void()>& changed) override;
+    QStringList recent() const override;
 
 Q_SIGNALS:
     /// Another file, or another state of it.
@@ -53,6 +48,7 @@ private:
     QAction* add(const char* name, const QKeySequence& shortcut, void (FileActions::*slot)());
     void watch();
     void startNew();
+    bool tryToOpen(const QString& file);
     void chooseAndOpen();
     void saveShown();
     void saveShownAs();

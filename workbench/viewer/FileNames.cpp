@@ -1,12 +1,10 @@
 #include "viewer/FileNames.h"
 
-#include <Settings.h>
+#include "shared/Settings.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
-
-namespace Settings = CanvasHost::Settings;
 
 namespace {
 
@@ -67,8 +65,13 @@ QString FileNames::ask(Purpose purpose, const QString& offered, QWidget* parent)
 void FileNames::remember(const QString& file)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
-    QStringList recent = Settings::value(recentKey).toStringList();
-    recent.removeAll(path);
-    recent.prepend(path);
-    Settings::set(recentKey, QStringList(recent.mid(0, mostRecent)));
+    QStringList files = recent();
+    files.removeAll(path);
+    files.prepend(path);
+    Settings::set(recentKey, QStringList(files.mid(0, mostRecent)));
+}
+
+QStringList FileNames::recent()
+{
+    return Settings::value(recentKey).toStringList();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -14,7 +14,8 @@ enum class Purpose { Open, Save, Export };
 /// Empty: the user cancelled.
 QString ask(Purpose purpose, const QString& offered, QWidget* parent);
 
-/// Puts the file first among the recent ones, which the host's window lists.
+/// Puts the file first among the recent ones.
 void remember(const QString& file);
+QStringList recent();
 
 }  // namespace FileNames

@@ -1,6 +1,6 @@
 #include "viewer/Inspector.h"
 
-#include <RecordTable.h>
+#include "shared/RecordTable.h"
 
 #include <QLabel>
 #include <QVBoxLayout>

@@ -1,5 +1,6 @@
 #include "viewer/SnapControls.h"
 
+#include "shared/Named.h"
 #include "viewer/CanvasController.h"
 #include "viewer/TypedPlace.h"
 
@@ -20,22 +21,19 @@ constexpr double greatestStep = 1e5;
 SnapControls::SnapControls(CanvasController& canvas, QToolBar* bar)
     : QObject(bar),
       m_canvas(canvas),
-      m_snap(new QAction(bar)),
-      m_label(new QLabel(bar)),
-      m_step(new QLineEdit(bar))
+      m_snap(named(new QAction(bar), "m_pSnapAct")),
+      m_label(named(new QLabel(bar), "m_pGridStepLB")),
+      m_step(named(new QLineEdit(bar), "m_pGridStepLE"))
 {
-    m_snap->setObjectName(QStringLiteral("m_pSnapAct"));
     m_snap->setShortcut(Qt::Key_F9);
     m_snap->setCheckable(true);
-    m_label->setObjectName(QStringLiteral("m_pGridStepLB"));
     m_label->setContentsMargins(8, 0, 4, 0);
     m_label->setBuddy(m_step);
-    m_step->setObjectName(QStringLiteral("m_pGridStepLE"));
     m_step->setFixedWidth(
         m_step->fontMetrics().horizontalAdvance(QStringLiteral("0000.00000 inch")));
     bar->addSeparator();
     bar->addAction(m_snap);
-    bar->widgetForAction(m_snap)->setObjectName(QStringLiteral("m_pSnapTB"));
+    named(bar->widgetForAction(m_snap), "m_pSnapTB");
     bar->addWidget(m_label);
     bar->addWidget(m_step);
     connect(m_snap, &QAction::toggled, this, [this](bool snaps) {

@@ -15,6 +15,7 @@ class SnapControls : public QObject {
 public:
     SnapControls(CanvasController& canvas, QToolBar* bar);
 
+    QAction* snapAction() const { return m_snap; }
     void retranslate();
     /// In the unit that the user has chosen.
     void showStep();

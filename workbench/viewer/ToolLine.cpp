@@ -4,7 +4,6 @@
 
 #include <UiApiStandIn.h>
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -35,7 +34,7 @@ void makeSteady(QHBoxLayout* line, const QLabel* label)
 }
 
 ToolLine::ToolLine(const Names& names, QWidget* parent)
-    : QWidget(parent),
+    : Retranslated(parent),
       m_tool(createSteadyLabel(names.tool, this)),
       m_hint(createSteadyLabel(names.hint, this)),
       m_position(new QLineEdit(this))
@@ -116,14 +115,6 @@ bool ToolLine::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     return QWidget::eventFilter(watched, event);
-}
-
-void ToolLine::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
 }
 
 void ToolLine::retranslate()

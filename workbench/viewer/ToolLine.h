@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/Retranslated.h"
+
 #include <QPointF>
 #include <QWidget>
 
@@ -18,7 +20,7 @@ void makeSteady(QHBoxLayout* line, const QLabel* label);
 
 /// Above a view: the tool at work, what the user is to do next, and the position of the mouse, into
 /// which another can be typed.
-class ToolLine : public QWidget {
+class ToolLine : public Retranslated<QWidget> {
     Q_OBJECT
 
 public:
@@ -44,11 +46,10 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void takePlace();
-    void retranslate();
+    void retranslate() override;
 
     QLabel* m_tool;
     QLabel* m_hint;

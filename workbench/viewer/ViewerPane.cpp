@@ -1,11 +1,9 @@
 #include "viewer/ViewerPane.h"
 
 #include "plugin/ModuleNames.h"
-#include "viewer/BoardFiles.h"
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
 #include "viewer/CanvasKeys.h"
-#include "viewer/EditActions.h"
 #include "viewer/FileActions.h"
 #include "viewer/Inspector.h"
 #include "viewer/SnapControls.h"
@@ -14,7 +12,6 @@
 #include <CommonWidgetsStandIn.h>
 
 #include <QAction>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSplitter>
@@ -24,28 +21,15 @@ namespace {
 
 constexpr QSize secondViewSize(800, 560);
 
-/// The error that `work` ends with.
-template <class Work>
-CanvasHost::FileError errorOf(Work work)
-{
-    try {
-        work();
-    } catch (const CanvasHost::FileError& error) {
-        return error;
-    }
-    return {};
-}
-
 }  // namespace
 
-ViewerPane::ViewerPane(QWidget* parent) : QWidget(parent), m_parent(parent)
+ViewerPane::ViewerPane(QWidget* parent) : Retranslated(parent), m_parent(parent)
 {
     setObjectName(QStringLiteral("m_pViewer"));
     m_view = new BoardView(&m_canvas.scene(), this);
     // Dropped files go to the window, which opens them.
     m_view->viewport()->setAcceptDrops(false);
     m_files = new FileActions(m_canvas, this);
-    m_edits = new EditActions(m_canvas, this);
     m_bar = new CanvasBar(m_canvas, *m_view, *m_files, this);
     m_snapping = new SnapControls(m_canvas, m_bar);
     m_inspector = new Inspector(this);
@@ -125,14 +109,26 @@ void ViewerPane::connectLine(ToolLine* line, BoardView* view)
     connect(line, &ToolLine::finished, view, qOverload<>(&QWidget::setFocus));
 }
 
-CanvasHost::FileError ViewerPane::openBoard(const QString& file)
+BoardFiles& ViewerPane::files()
 {
-    return errorOf([&] { m_files->openAtOnce(file); });
+    return *m_files;
 }
 
-CanvasHost::FileError ViewerPane::exportBoard(const QString& file)
+QList<QAction*> ViewerPane::actions(Group group) const
 {
-    return errorOf([&] { BoardFiles::exportTo(m_canvas.document(), file); });
+    switch (group) {
+        case Group::NewAndOpen:
+            return m_files->openActions();
+        case Group::Save:
+            return m_files->saveActions();
+        case Group::History:
+            return m_bar->historyActions();
+        case Group::Selection:
+            return m_bar->selectionActions();
+        case Group::View:
+            break;
+    }
+    return m_bar->zoomActions() << m_snapping->snapAction();
 }
 
 void ViewerPane::openSecondView()
@@ -189,19 +185,6 @@ void ViewerPane::showHovered(int feature)
     m_view->viewport()->setToolTip(words.join('\n'));
 }
 
-void ViewerPane::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        m_inspector->retranslate();
-        m_files->retranslate();
-        m_edits->retranslate();
-        m_bar->retranslate();
-        m_snapping->retranslate();
-        retranslate();
-    }
-}
-
 void ViewerPane::showTool()
 {
     QString tool = tr("none");
@@ -218,6 +201,10 @@ void ViewerPane::showTool()
 
 void ViewerPane::retranslate()
 {
+    m_inspector->retranslate();
+    m_files->retranslate();
+    m_bar->retranslate();
+    m_snapping->retranslate();
     showTool();
     m_canvas.refresh();  // the hint
     m_view->setAccessibleName(tr("Board"));

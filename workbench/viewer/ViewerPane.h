@@ -1,10 +1,11 @@
 #pragma once
 
 #include "board/Feature.h"
+#include "shared/CanvasControl.h"
+#include "shared/Retranslated.h"
 #include "viewer/CanvasController.h"
 #include "viewer/ToolSet.h"
 
-#include <FileError.h>
 #include <PluginMetaData.h>
 
 #include <QPointer>
@@ -12,7 +13,6 @@
 
 class BoardView;
 class CanvasKeys;
-class EditActions;
 class CanvasBar;
 class FileActions;
 class Inspector;
@@ -23,8 +23,9 @@ class ToolLine;
 
 /// The canvas: draws what the tool strip describes, does what its tools do, and sends back what the
 /// user picks on the board. It never sends a tool's message back, which would circulate for ever.
-class ViewerPane : public QWidget {
+class ViewerPane : public Retranslated<QWidget>, public CanvasControl {
     Q_OBJECT
+    Q_INTERFACES(CanvasControl)
 
 public:
     /// `parent` is the sender pointer of every message.
@@ -35,18 +36,11 @@ public:
 
     CanvasController& canvas() { return m_canvas; }
 
-    /// For those who control the canvas from outside, by name: no exception can pass such a call,
-    /// so the error is returned; its reason is empty if there was none.
-    Q_INVOKABLE CanvasHost::FileError openBoard(const QString& file);
-    Q_INVOKABLE CanvasHost::FileError exportBoard(const QString& file);
-
-    /// For the host, which alone knows: the tool strip was recreated, or there was a message to or
-    /// from it that does not come here. The canvas's tool is the one that the strip shows.
-    Q_INVOKABLE void stripWasMade();
-    Q_INVOKABLE void overhear(int code);
-
-protected:
-    void changeEvent(QEvent* event) override;
+    // CanvasControl
+    BoardFiles& files() override;
+    QList<QAction*> actions(Group group) const override;
+    void stripWasMade() override;
+    void overhear(int code) override;
 
 private:
     QLayout* createFoot();
@@ -71,13 +65,12 @@ private:
     void showHovered(int feature);
     void showTool();
     void showLengths();
-    void retranslate();
+    void retranslate() override;
 
     QWidget* m_parent;
     CanvasController m_canvas;
     BoardView* m_view;
     FileActions* m_files;
-    EditActions* m_edits;
     CanvasBar* m_bar;
     SnapControls* m_snapping;
     CanvasKeys* m_keys;

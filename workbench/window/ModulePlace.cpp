@@ -28,12 +28,11 @@ void ModulePlace::fill(const QString& directory)
     m_instance = CanvasHost::loadModule(m_moduleName, directory, panel.get());
     m_panel = panel.release();
     // A module is a layout to be placed, or a widget.
-    auto* const object = static_cast<QObject*>(m_instance);
-    if (auto* const layout = qobject_cast<QLayout*>(object)) {
+    if (auto* const layout = qobject_cast<QLayout*>(instance())) {
         m_panel->setLayout(layout);
         m_holder->layout()->addWidget(m_panel);
         m_holder->layout()->setAlignment(m_panel, Qt::AlignTop | Qt::AlignLeft);
-    } else if (auto* const widget = qobject_cast<QWidget*>(object)) {
+    } else if (auto* const widget = qobject_cast<QWidget*>(instance())) {
         auto* const around = new QVBoxLayout(m_panel);
         around->setContentsMargins(0, 0, 0, 0);
         around->addWidget(widget);

@@ -18,6 +18,8 @@ public:
     void fill(const QString& directory);
     /// Takes the instance from the plug-in manager and deletes it with all its windows.
     void clear();
+    /// Null while the place is empty.
+    QObject* instance() const { return static_cast<QObject*>(m_instance); }
 
 private:
     Q_DISABLE_COPY(ModulePlace)

@@ -21,60 +21,40 @@ QString languageCodes()
     return codes.join(QStringLiteral(" or "));
 }
 
-const QCommandLineOption modulesOption(QStringLiteral("modules"),
-                                       QStringLiteral("Load the modules from <dir>."),
-                                       QStringLiteral("dir"));
-const QCommandLineOption jobOption(
-    QStringLiteral("job"), QStringLiteral("Read the jobs from <file> instead of the samples."),
-    QStringLiteral("file"));
-const QCommandLineOption traceOption(
-    QStringLiteral("trace"),
-    QStringLiteral("Write every message to <file>, one JSON object per line."),
-    QStringLiteral("file"));
-const QCommandLineOption screenshotOption(
-    QStringLiteral("screenshot"),
-    QStringLiteral("Save a picture of the window as <file>, after playing or the first paint."),
-    QStringLiteral("file"));
-const QCommandLineOption playOption(QStringLiteral("play"),
-                                    QStringLiteral("Play the session <file>."),
-                                    QStringLiteral("file"));
-const QCommandLineOption recordOption(
-    QStringLiteral("record"),
-    QStringLiteral("Record mouse and keyboard to <file>, as a session to play."),
-    QStringLiteral("file"));
-const QCommandLineOption boardOption(QStringLiteral("board"),
-                                     QStringLiteral("Show the board <file> (JSON) on the canvas."),
-                                     QStringLiteral("file"));
-const QCommandLineOption exportOption(
-    QStringLiteral("export"),
-    QStringLiteral("Write the board to <file>, after playing or the first paint: .json, .gbr "
-                   "(Gerber), .png or .svg."),
-    QStringLiteral("file"));
-const QCommandLineOption settingsOption(
-    QStringLiteral("settings"),
-    QStringLiteral("Keep the settings in <file>. Otherwise sessions, pictures and other "
-                   "unattended runs start without settings and keep none."),
-    QStringLiteral("file"));
-const QCommandLineOption exitOption(
-    QStringLiteral("exit"), QStringLiteral("Exit after playing, or after the first paint."));
-const QCommandLineOption unitOption(QStringLiteral("unit"),
-                                    QStringLiteral("Start in <unit>: mil, inch, um or mm."),
-                                    QStringLiteral("unit"), QStringLiteral("mil"));
-const QCommandLineOption languageOption(
-    QStringLiteral("language"), QStringLiteral("Start in <language>: %1.").arg(languageCodes()),
-    QStringLiteral("language"), QStringLiteral("en"));
-const QCommandLineOption darkOption(QStringLiteral("dark"),
-                                    QStringLiteral("Start with a dark palette."));
-const QCommandLineOption fontSizeOption(QStringLiteral("font-size"),
-                                        QStringLiteral("Start with a font of <points> (6 to 48)."),
-                                        QStringLiteral("points"));
-
-const QCommandLineOption logOption(QStringLiteral("log"),
-                                   QStringLiteral("Show the debug lines of the modules as well."));
-const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("version")},
-                                       QStringLiteral("Show the version."));
-const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
-                                    QStringLiteral("Show this help."));
+/// An option, in the order of the help, and where its value goes.
+struct Row {
+    const char* name;
+    const char* text;
+    const char* value = nullptr;  ///< the name of its value; null: it takes none
+    QString Options::*word = nullptr;
+    bool Options::*flag = nullptr;
+};
+constexpr Row rows[] = {
+    {"modules", "Load the modules from <dir>.", "dir", &Options::moduleDirectory},
+    {"job", "Read the jobs from <file> instead of the samples.", "file", &Options::jobFile},
+    {"trace", "Write every message to <file>, one JSON object per line.", "file",
+     &Options::traceFile},
+    {"screenshot", "Save a picture of the window as <file>, after playing or the first paint.",
+     "file", &Options::screenshotFile},
+    {"play", "Play the session <file>.", "file", &Options::sessionFile},
+    {"record", "Record mouse and keyboard to <file>, as a session to play.", "file",
+     &Options::recordFile},
+    {"board", "Show the board <file> (JSON) on the canvas.", "file", &Options::boardFile},
+    {"export",
+     "Write the board to <file>, after playing or the first paint: .json, .gbr (Gerber), .png or "
+     ".svg.",
+     "file", &Options::exportFile},
+    {"settings",
+     "Keep the settings in <file>. Otherwise sessions, pictures and other unattended runs start "
+     "without settings and keep none.",
+     "file", &Options::settingsFile},
+    {"exit", "Exit after playing, or after the first paint.", nullptr, nullptr, &Options::exit},
+    {"unit", "Start in <unit>: mil, inch, um or mm.", "unit"},
+    {"language", "Start in <language>: %1.", "language", &Options::language},
+    {"dark", "Start with a dark palette.", nullptr, nullptr, &Options::isDark},
+    {"font-size", "Start with a font of <points> (6 to 48).", "points"},
+    {"log", "Show the debug lines of the modules as well.", nullptr, nullptr, &Options::log},
+};
 
 /// The options that QApplication itself takes, and whether a value follows.
 const QHash<QString, bool> qtOptions{
@@ -105,12 +85,11 @@ QString defaultModuleDirectory()
                                 reason + QStringLiteral("; see --help")};
 }
 
-/// The choice that the option names.
+/// The choice that is called `name`.
 template <typename Choice>
-const Choice& choose(const QCommandLineParser& parser, const QCommandLineOption& option,
-                     const std::vector<Choice>& choices, const char* Choice::*key)
+const Choice& choose(const char* option, const QString& name, const std::vector<Choice>& choices,
+                     const char* Choice::*key)
 {
-    const QString name = parser.value(option);
     const auto found = std::find_if(choices.begin(), choices.end(), [&](const Choice& choice) {
         return name == QLatin1String(choice.*key);
     });
@@ -122,20 +101,17 @@ const Choice& choose(const QCommandLineParser& parser, const QCommandLineOption&
         names.append(QLatin1String(choice.*key));
     }
     refuse(QStringLiteral("unknown %1 \"%2\"; choose from %3")
-               .arg(option.names().constFirst(), name, names.join(QStringLiteral(", "))));
+               .arg(QLatin1String(option), name, names.join(QStringLiteral(", "))));
 }
 
-int fontSize(const QCommandLineParser& parser)
+int fontSize(const QString& points)
 {
     constexpr int smallest = 6;
     constexpr int largest = 48;
-    if (!parser.isSet(fontSizeOption)) {
-        return 0;
-    }
-    const int size = parser.value(fontSizeOption).toInt();
+    const int size = points.toInt();
     if (size < smallest || size > largest) {
         refuse(QStringLiteral("\"%1\" is not a font size (%2 to %3)")
-                   .arg(parser.value(fontSizeOption))
+                   .arg(points)
                    .arg(smallest)
                    .arg(largest));
     }
@@ -171,49 +147,55 @@ Options Options::parse(const QStringList& arguments)
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
         QStringLiteral("A small host application for the Canvas Tool Strip."));
-    parser.addOptions({modulesOption, jobOption, traceOption, screenshotOption, playOption,
-                       recordOption, boardOption, exportOption, settingsOption, exitOption,
-                       unitOption, languageOption, darkOption, fontSizeOption, logOption,
-                       versionOption, helpOption});
+    for (const Row& row : rows) {
+        QString text = QLatin1String(row.text);
+        text.replace(QStringLiteral("%1"), languageCodes());
+        parser.addOption({QLatin1String(row.name), text,
+                          row.value ? QString::fromLatin1(row.value) : QString()});
+    }
+    parser.addOption(
+        {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")});
+    parser.addOption(
+        {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")});
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
         // Qt ends some of its texts with a full stop.
         refuse(parser.errorText().remove(QRegularExpression(QStringLiteral("\\.$"))));
     }
-    if (parser.isSet(helpOption)) {
+    if (parser.isSet(QStringLiteral("help"))) {
         options.answer = parser.helpText();
-        return options;
-    }
-    if (parser.isSet(versionOption)) {
+    } else if (parser.isSet(QStringLiteral("version"))) {
         options.answer = QStringLiteral("workbench " WORKBENCH_VERSION "\n");
-        return options;
-    }
-    if (!parser.positionalArguments().isEmpty()) {
+    } else if (!parser.positionalArguments().isEmpty()) {
         refuse(QStringLiteral("unexpected argument \"%1\"")
                    .arg(parser.positionalArguments().constFirst()));
+    } else {
+        options.take(parser);
     }
-    const auto valueOr = [&](const QCommandLineOption& option, const QString& other) {
-        return parser.isSet(option) ? parser.value(option) : other;
-    };
-    options.moduleDirectory = valueOr(modulesOption, defaultModuleDirectory());
-    options.jobFile = valueOr(
-        jobOption, besideProgram(QStringLiteral("../" WORKBENCH_SAMPLE_DIRECTORY "/board.json")));
-    options.traceFile = parser.value(traceOption);
-    options.screenshotFile = parser.value(screenshotOption);
-    options.sessionFile = parser.value(playOption);
-    options.recordFile = parser.value(recordOption);
-    options.boardFile = parser.value(boardOption);
-    options.exportFile = parser.value(exportOption);
-    options.exit = parser.isSet(exitOption);
-    options.settingsFile = parser.value(settingsOption);
-    options.log = parser.isSet(logOption);
-    options.isDark = parser.isSet(darkOption);
-    options.fontSize = ::fontSize(parser);
-    options.language = QLatin1String(
-        choose(parser, languageOption, languageChoices(), &LanguageChoice::code).code);
-    options.unit =
-        choose(parser, unitOption, CanvasHost::lengthUnits(), &CanvasHost::LengthUnit::name).unit;
     return options;
+}
+
+void Options::take(const QCommandLineParser& parser)
+{
+    moduleDirectory = defaultModuleDirectory();
+    jobFile = besideProgram(QStringLiteral("../" WORKBENCH_SAMPLE_DIRECTORY "/board.json"));
+    for (const Row& row : rows) {
+        const bool isSet = parser.isSet(QLatin1String(row.name));
+        if (isSet && row.word) {
+            this->*row.word = parser.value(QLatin1String(row.name));
+        } else if (isSet && row.flag) {
+            this->*row.flag = true;
+        }
+    }
+    choose("language", language, languageChoices(), &LanguageChoice::code);
+    if (parser.isSet(QStringLiteral("unit"))) {
+        unit = choose("unit", parser.value(QStringLiteral("unit")), CanvasHost::lengthUnits(),
+                      &CanvasHost::LengthUnit::name)
+                   .unit;
+    }
+    if (parser.isSet(QStringLiteral("font-size"))) {
+        fontSize = ::fontSize(parser.value(QStringLiteral("font-size")));
+    }
 }
 
 Options Options::ofProgram(int argc, char* argv[])

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+class QCommandLineParser;
+
 /// A language by its code; its own name for itself is never translated.
 struct LanguageChoice {
     const char* code;
@@ -42,4 +44,5 @@ struct Options {
 
 private:
     static QStringList withoutQts(const QStringList& arguments);
+    void take(const QCommandLineParser& parser);
 };

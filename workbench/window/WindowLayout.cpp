@@ -1,6 +1,6 @@
 #include "window/WindowLayout.h"
 
-#include <Settings.h>
+#include "shared/Settings.h"
 
 #include <QDir>
 #include <QDockWidget>
@@ -8,8 +8,6 @@
 #include <QLockFile>
 #include <QMainWindow>
 #include <QScreen>
-
-namespace Settings = CanvasHost::Settings;
 
 namespace {
 

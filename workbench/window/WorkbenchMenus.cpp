@@ -1,16 +1,15 @@
-// The menus of the window. What acts on the board are actions of the canvas, which is a module and
-// known by the object names of its parts alone.
+// The menus of the window. What acts on the board are actions of the canvas.
 
 #include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
 #include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
-#include "window/Documentation.h"
+#include "shared/CanvasControl.h"
+#include "shared/Named.h"
 #include "window/WorkbenchWindow.h"
 
-#include <Settings.h>
-
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QDockWidget>
 #include <QDragEnterEvent>
@@ -20,14 +19,13 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTextBrowser>
 
 namespace {
 
 QMenu* createMenu(QMenuBar* bar, const char* name)
 {
-    QMenu* const menu = bar->addMenu(QString());
-    menu->setObjectName(QLatin1String(name));
-    return menu;
+    return named(bar->addMenu(QString()), name);
 }
 
 QString droppedFile(const QMimeData* data)
@@ -40,8 +38,7 @@ QString droppedFile(const QMimeData* data)
 
 QAction* WorkbenchWindow::addEntry(QMenu* menu, const char* name, const char* text)
 {
-    QAction* const action = menu->addAction(QString());
-    action->setObjectName(QLatin1String(name));
+    QAction* const action = named(menu->addAction(QString()), name);
     m_entries.append({action, text});
     return action;
 }
@@ -74,86 +71,56 @@ void WorkbenchWindow::createMenus()
 
     createSendEntries();
     connect(addEntry(m_helpMenu, "m_pDocumentationAct", QT_TR_NOOP("&Documentation")),
-            &QAction::triggered, this, [this] { Documentation::show(this); });
+            &QAction::triggered, this, [this] { showDocumentation(); });
     connect(addEntry(m_helpMenu, "m_pAboutAct", QT_TR_NOOP("&About...")), &QAction::triggered, this,
             &WorkbenchWindow::showAbout);
 }
 
 void WorkbenchWindow::createSendEntries()
 {
-    bool tool = false;
-    for (const MessageNames::Row& row : MessageNames::accepted()) {
-        if (row.tool != tool) {
+    for (const QVector<int>& group : MessageNames::accepted()) {
+        if (!m_sendActions.isEmpty()) {
             m_sendMenu->addSeparator();
-            tool = row.tool;
         }
-        QAction* const action = m_sendMenu->addAction(QString());
-        action->setObjectName(QStringLiteral("m_pSend%1Act").arg(row.code));
-        action->setData(row.code);
-        m_sendActions.append(action);
-        connect(action, &QAction::triggered, m_host,
-                [this, code = row.code] { m_host->sendSample(code); });
+        for (const int code : group) {
+            QAction* const action = m_sendMenu->addAction(QString());
+            action->setObjectName(QStringLiteral("m_pSend%1Act").arg(code));
+            action->setData(code);
+            m_sendActions.append(action);
+            connect(action, &QAction::triggered, m_host,
+                    [this, code] { m_host->sendSample(code); });
+        }
     }
 }
 
 void WorkbenchWindow::addCanvasEntries()
 {
-    const auto actions = [this](const std::initializer_list<const char*>& names) {
-        QList<QAction*> found;
-        for (const char* const name : names) {
-            if (auto* const action = findChild<QAction*>(QLatin1String(name))) {
-                found.append(action);
-            }
-        }
-        return found;
-    };
+    using Group = CanvasControl::Group;
     QAction* const trace = m_fileMenu->actions().constFirst();
-    m_fileMenu->insertActions(trace, actions({"m_pNewBoardAct", "m_pOpenBoardAct"}));
-    m_recentMenu = new QMenu(m_fileMenu);
-    m_recentMenu->setObjectName(QStringLiteral("m_pRecentMenu"));
+    m_fileMenu->insertActions(trace, canvas()->actions(Group::NewAndOpen));
+    m_recentMenu = named(new QMenu(m_fileMenu), "m_pRecentMenu");
     connect(m_fileMenu, &QMenu::aboutToShow, this, &WorkbenchWindow::listRecentFiles);
     m_fileMenu->insertMenu(trace, m_recentMenu);
-    m_fileMenu->insertActions(
-        trace, actions({"m_pSaveBoardAct", "m_pSaveBoardAsAct", "m_pExportBoardAct"}));
+    m_fileMenu->insertActions(trace, canvas()->actions(Group::Save));
     m_fileMenu->insertSeparator(trace);
-    m_editMenu->addActions(actions({"m_pUndoAct", "m_pRedoAct"}));
+    m_editMenu->addActions(canvas()->actions(Group::History));
     m_editMenu->addSeparator();
-    m_editMenu->addActions(actions({"m_pSelectAllAct", "m_pDeselectAct", "m_pDeleteAct"}));
+    m_editMenu->addActions(canvas()->actions(Group::Selection));
     QAction* const docks = m_viewMenu->actions().constFirst();
-    m_viewMenu->insertActions(
-        docks, actions({"m_pFitAct", "m_pZoomInAct", "m_pZoomOutAct", "m_pSnapAct"}));
+    m_viewMenu->insertActions(docks, canvas()->actions(Group::View));
     m_viewMenu->insertSeparator(docks);
-    m_boardFiles = findChild<QObject*>(QStringLiteral("m_pBoardFiles"));
-    connect(m_boardFiles, SIGNAL(changed()), this, SLOT(showTitle()));
+    canvas()->files().setChanged([this] { showTitle(); });
 }
 
 void WorkbenchWindow::listRecentFiles()
 {
     m_recentMenu->clear();
-    const QStringList files =
-        CanvasHost::Settings::value(QStringLiteral("files/recent")).toStringList();
+    const QStringList files = canvas()->files().recent();
     for (const QString& file : files) {
         QAction* const action = m_recentMenu->addAction(QDir::toNativeSeparators(file));
-        connect(action, &QAction::triggered, this, [this, file] { openBoard(file); });
+        connect(action, &QAction::triggered, this, [this, file] { canvas()->files().open(file); });
     }
     m_recentMenu->setEnabled(!files.isEmpty());
-}
-
-void WorkbenchWindow::openBoard(const QString& file)
-{
-    QMetaObject::invokeMethod(m_boardFiles, "open", Q_ARG(QString, file));
-}
-
-void WorkbenchWindow::setMayAsk(const std::function<bool()>& mayAsk)
-{
-    QMetaObject::invokeMethod(m_boardFiles, "setMayAsk", Q_ARG(std::function<bool()>, mayAsk));
-}
-
-bool WorkbenchWindow::mayClose() const
-{
-    bool may = true;
-    QMetaObject::invokeMethod(m_boardFiles, "mayClose", Q_RETURN_ARG(bool, may));
-    return may;
 }
 
 void WorkbenchWindow::showTitle()
@@ -161,18 +128,31 @@ void WorkbenchWindow::showTitle()
     QString title = m_host->job().isEmpty()
                         ? tr("Workbench")
                         : tr("%1 / %2[*] - Workbench").arg(m_host->job(), m_host->step());
-    if (m_boardFiles) {
-        QString file;
-        bool modified = false;
-        QMetaObject::invokeMethod(m_boardFiles, "file", Q_RETURN_ARG(QString, file));
-        QMetaObject::invokeMethod(m_boardFiles, "isModified", Q_RETURN_ARG(bool, modified));
+    if (canvas()) {
+        const QString file = canvas()->files().file();
         if (!file.isEmpty()) {
             title = tr("%1[*] - %2 / %3 - Workbench")
                         .arg(QFileInfo(file).fileName(), m_host->job(), m_host->step());
         }
-        setWindowModified(modified);
+        setWindowModified(canvas()->files().isModified());
     }
     setWindowTitle(title);
+}
+
+void WorkbenchWindow::showDocumentation()
+{
+    if (!m_pDocumentation) {
+        m_pDocumentation = named(new QTextBrowser(this), "m_pDocumentation");
+        m_pDocumentation->setWindowFlag(Qt::Window);
+        m_pDocumentation->setOpenExternalLinks(true);
+        m_pDocumentation->resize(760, 560);
+    }
+    const QDir pages(QCoreApplication::applicationDirPath() +
+                     QStringLiteral("/../" WORKBENCH_DOCS_DIRECTORY "/workbench/docs"));
+    m_pDocumentation->setWindowTitle(tr("Documentation"));
+    m_pDocumentation->setSource(QUrl::fromLocalFile(QDir::cleanPath(pages.filePath("canvas.md"))));
+    m_pDocumentation->show();
+    m_pDocumentation->raise();
 }
 
 void WorkbenchWindow::showAbout()
@@ -195,7 +175,7 @@ void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
 void WorkbenchWindow::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    openBoard(droppedFile(event->mimeData()));
+    canvas()->files().open(droppedFile(event->mimeData()));
 }
 
 void WorkbenchWindow::retranslateMenus()

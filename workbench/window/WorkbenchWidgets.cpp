@@ -2,8 +2,8 @@
 
 #include "messages/HostState.h"
 #include "messages/MessageMonitor.h"
-#include "messages/Named.h"
 #include "plugin/ModuleNames.h"
+#include "shared/Named.h"
 #include "window/WorkbenchWindow.h"
 
 #include <CamApiStandIn.h>

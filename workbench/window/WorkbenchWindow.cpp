@@ -8,6 +8,7 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
+#include "shared/CanvasControl.h"
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
@@ -18,7 +19,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QEvent>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPixmap>
@@ -60,6 +60,11 @@ void WorkbenchWindow::start()
 {
     for (ModulePlace* const place : {m_viewer.get(), m_jobTree.get(), m_strip.get()}) {
         place->fill(m_options.moduleDirectory);
+    }
+    if (!canvas()) {
+        throw CanvasHost::FileError{
+            ModuleNames::viewer, 0,
+            QCoreApplication::translate("FileErrors", "is not a canvas for this window")};
     }
     addCanvasEntries();
     retranslateMenus();
@@ -120,7 +125,7 @@ void WorkbenchWindow::showEq(bool visible)
 {
     // The strip asks only while it is created, so the host creates a new one.
     CanvasHost::setEQVisible(visible);
-    invokeCanvas("stripWasMade");
+    canvas()->stripWasMade();
     try {
         m_strip->fill(m_options.moduleDirectory);
         m_host->announceJob();
@@ -132,17 +137,14 @@ void WorkbenchWindow::showEq(bool visible)
 /// The strip's active tool may change by messages that do not go to the canvas.
 void WorkbenchWindow::tellCanvas(const MessageRecord& message)
 {
-    if (message.receiver != ModuleNames::viewer) {
-        invokeCanvas("overhear", Q_ARG(int, message.code));
+    if (canvas() && message.receiver != ModuleNames::viewer) {
+        canvas()->overhear(message.code);
     }
 }
 
-/// The canvas is a module, known by its name and methods alone.
-void WorkbenchWindow::invokeCanvas(const char* method, QGenericArgument argument)
+CanvasControl* WorkbenchWindow::canvas() const
 {
-    if (auto* const canvas = findChild<QWidget*>(QStringLiteral("m_pViewer"))) {
-        QMetaObject::invokeMethod(canvas, method, argument);
-    }
+    return m_viewer ? qobject_cast<CanvasControl*>(m_viewer->instance()) : nullptr;
 }
 
 void WorkbenchWindow::savePicture()
@@ -181,17 +183,9 @@ void WorkbenchWindow::compose()
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(mayClose());
+    event->setAccepted(canvas()->files().mayClose());
     if (event->isAccepted()) {
         m_layout->save();
         Q_EMIT closed();
-    }
-}
-
-void WorkbenchWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
     }
 }

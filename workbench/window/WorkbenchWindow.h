@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shared/Retranslated.h"
 #include "window/Language.h"
 #include "window/ModulePlace.h"
 #include "window/Options.h"
@@ -10,9 +11,9 @@
 #include <QMainWindow>
 #include <QPointer>
 
-#include <functional>
 #include <memory>
 
+class CanvasControl;
 class ComposeDialog;
 class HostState;
 class MessageLog;
@@ -24,9 +25,10 @@ class QComboBox;
 class QDockWidget;
 class QLabel;
 class QMenu;
+class QTextBrowser;
 
 /// The host's window: the modules, the message monitor, and the host's own settings.
-class WorkbenchWindow : public QMainWindow {
+class WorkbenchWindow : public Retranslated<QMainWindow> {
     Q_OBJECT
 
 public:
@@ -40,21 +42,16 @@ public:
     void start();
 
     HostState* host() const { return m_host; }
-
-    /// Whether a user is there to be asked before changes of a board are lost.
-    void setMayAsk(const std::function<bool()>& mayAsk);
+    /// Null before the modules are loaded, and after they have gone.
+    CanvasControl* canvas() const;
 
 Q_SIGNALS:
     void closed();
 
 protected:
-    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-
-private Q_SLOTS:
-    void showTitle();
 
 private:
     /// A menu entry and its text, which is read again when the language changes.
@@ -78,15 +75,14 @@ private:
     void changeLanguage(int index);
     void showEq(bool visible);
     void tellCanvas(const MessageRecord& message);
-    void invokeCanvas(const char* method, QGenericArgument argument = {});
     void savePicture();
     void openDimensions();
     void compose();
+    void showDocumentation();
     void showAbout();
     void listRecentFiles();
-    void openBoard(const QString& file);
-    bool mayClose() const;
-    void retranslate();
+    void showTitle();
+    void retranslate() override;
     void retranslateMenus();
 
     Options m_options;
@@ -111,11 +107,11 @@ private:
     QMenu* m_viewMenu;
     QMenu* m_sendMenu;
     QMenu* m_helpMenu;
-    QPointer<QObject> m_boardFiles;  // the canvas's, see FileActions
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
-    ComposeDialog* m_compose = nullptr;  // made when it is first asked for
-    QPointer<QWidget> m_dimensions;      // a window of its own, made when it is first asked for
+    ComposeDialog* m_compose = nullptr;        // made when it is first asked for
+    QTextBrowser* m_pDocumentation = nullptr;  // likewise
+    QPointer<QWidget> m_dimensions;  // a window of its own, made when it is first asked for
     std::unique_ptr<WindowLayout> m_layout;
     std::unique_ptr<ModulePlace> m_strip;
     std::unique_ptr<ModulePlace> m_viewer;

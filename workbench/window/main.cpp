@@ -4,6 +4,8 @@
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
+#include "shared/CanvasControl.h"
+#include "shared/Settings.h"
 #include "window/Display.h"
 #include "window/Look.h"
 #include "window/Options.h"
@@ -11,7 +13,6 @@
 
 #include <CamApiStandIn.h>
 #include <FileError.h>
-#include <Settings.h>
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -89,36 +90,19 @@ void whenPainted(QWidget* window, const std::function<void()>& then)
     });
 }
 
-/// Has the canvas open or export a file. The canvas is a module, known by its name and methods
-/// alone.
-void askCanvas(QWidget* window, const char* method, const QString& file)
-{
-    if (file.isEmpty()) {
-        return;
-    }
-    auto* const canvas = window->findChild<QWidget*>(QStringLiteral("m_pViewer"));
-    FileError error;
-    if (!canvas ||
-        !QMetaObject::invokeMethod(canvas, method, Q_RETURN_ARG(CanvasHost::FileError, error),
-                                   Q_ARG(QString, file))) {
-        throw FileError{file, 0, QStringLiteral("the canvas has no %1").arg(method)};
-    }
-    if (!error.reason.isEmpty()) {
-        throw error;
-    }
-}
-
 /// Writes what the options ask for once everything has been played.
-void writeOutputs(const Options& options, QWidget* window)
+void writeOutputs(const Options& options, WorkbenchWindow* window)
 {
-    askCanvas(window, "exportBoard", options.exportFile);
+    if (!options.exportFile.isEmpty()) {
+        window->canvas()->files().exportTo(options.exportFile);
+    }
     if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
         throw FileError{options.screenshotFile, 0,
                         QCoreApplication::translate("FileErrors", "the picture cannot be written")};
     }
 }
 
-void end(const Options& options, QWidget* window)
+void end(const Options& options, WorkbenchWindow* window)
 {
     try {
         writeOutputs(options, window);
@@ -143,14 +127,16 @@ int run(int argc, char* argv[])
     QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
     const QTemporaryDir ownSettings;
-    CanvasHost::Settings::keepIn(settingsFile(inputs.options, ownSettings));
+    Settings::keepIn(settingsFile(inputs.options, ownSettings));
     Look::dress(inputs.options);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
     window.start();
-    askCanvas(&window, "openBoard", inputs.options.boardFile);
+    if (!inputs.options.boardFile.isEmpty()) {
+        window.canvas()->files().openAtOnce(inputs.options.boardFile);
+    }
     SessionRecorder recorder(&window);
     if (!inputs.options.recordFile.isEmpty()) {
         recorder.start(inputs.options.recordFile);
@@ -164,7 +150,8 @@ int run(int argc, char* argv[])
     QObject::connect(&player, &SessionPlayer::finished, &window,
                      [&] { end(inputs.options, &window); });
     QObject::connect(&window, &WorkbenchWindow::closed, application.get(), &QCoreApplication::quit);
-    window.setMayAsk([&] { return player.isOver() ? !inputs.options.exit : player.expectsBox(); });
+    window.canvas()->files().setMayAsk(
+        [&] { return player.isOver() ? !inputs.options.exit : player.expectsBox(); });
     window.show();
     whenPainted(&window, [&] { player.start(); });
     return QApplication::exec();

@@ -2,9 +2,9 @@
 
 #include "BoxCatcher.h"
 #include "CanvasFixture.h"
+#include "ErrorOf.h"
 #include "Main.h"
 #include "board/BoardFile.h"
-#include "viewer/BoardFiles.h"
 
 #include <Files.h>
 #include <UiApiStandIn.h>
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, beginning);
         const QTemporaryDir directory;
         const CanvasFixture fixture(twoPads());
-        QCOMPARE(fixture.pane->exportBoard(directory.filePath(name)).text(), QString());
+        fixture.pane->files().exportTo(directory.filePath(name));
         QFile file(directory.filePath(name));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray text = file.readAll();
@@ -167,11 +167,12 @@ private Q_SLOTS:
     {
         const CanvasFixture fixture(twoPads());
         const auto exported = [&](const char* file) {
-            return fixture.pane->exportBoard(file).text();
+            return errorOf([&] { fixture.pane->files().exportTo(file); });
         };
         QVERIFY(exported("/no/such/place/board.gbr").startsWith("/no/such/place"));
         QVERIFY(exported("board.txt").startsWith("board.txt: the name must end in"));
-        const QString opened = fixture.pane->openBoard("/no/such/file.json").text();
+        const QString opened =
+            errorOf([&] { fixture.pane->files().openAtOnce("/no/such/file.json"); });
         QVERIFY(opened.startsWith("/no/such/file.json: "));
     }
 
@@ -183,9 +184,9 @@ private Q_SLOTS:
         const Pcb::Board board{"another job", "another step", QPolygonF(QRectF(0, 0, 9, 9)), {}};
         Pcb::writeBoardFile(board, opened);
         const CanvasFixture fixture(twoPads());
-        QCOMPARE(fixture.pane->openBoard(opened).text(), QString());
+        fixture.pane->files().openAtOnce(opened);
         QCOMPARE(fixture.document().board().job, QString("another job"));
-        QCOMPARE(fixture.pane->exportBoard(saved).text(), QString());
+        fixture.pane->files().exportTo(saved);
         QCOMPARE(CanvasHost::readWhole(saved), CanvasHost::readWhole(opened));
     }
 };

@@ -3,9 +3,8 @@
 #include "CanvasFixture.h"
 #include "Main.h"
 #include "board/BoardFile.h"
+#include "shared/Settings.h"
 #include "viewer/FileActions.h"
-
-#include <Settings.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -25,7 +24,7 @@ public:
     {
     }
 
-    FileActions& files() const { return *pane->findChild<FileActions*>("m_pBoardFiles"); }
+    FileActions& files() const { return *pane->findChild<FileActions*>(); }
     QAction& action(const char* name) const { return *pane->findChild<QAction*>(name); }
     QString path(const char* name) const { return directory.filePath(name); }
     void deleteAll() const
@@ -120,7 +119,7 @@ class TestFileActions : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { CanvasHost::Settings::keepIn({}); }
+    void cleanup() { Settings::keepIn({}); }
 
     void onlyTheBoardCountsAsChanged()
     {
@@ -283,7 +282,7 @@ private Q_SLOTS:
     void folderAndRecentFilesAreRemembered()
     {
         const FileFixture fixture;
-        CanvasHost::Settings::keepIn(fixture.path("settings.ini"));
+        Settings::keepIn(fixture.path("settings.ini"));
         QVERIFY(QDir(fixture.directory.path()).mkdir("boards"));
         const Chosen first(fixture.path("boards/one.json"));
         fixture.action("m_pSaveBoardAsAct").trigger();
@@ -294,7 +293,7 @@ private Q_SLOTS:
         const Chosen again;
         fixture.action("m_pOpenBoardAct").trigger();
         QCOMPARE(again.folder, fixture.path("boards"));
-        QCOMPARE(CanvasHost::Settings::value("files/recent").toStringList(),
+        QCOMPARE(Settings::value("files/recent").toStringList(),
                  QStringList({fixture.path("boards/other.json"), fixture.path("boards/one.json")}));
     }
 };

@@ -45,6 +45,24 @@ bool areNear(const QVector<QPointF>& actual, const QVector<QPointF>& expected)
     return near;
 }
 
+/// Edits the board with each press and goes on; counts what cancels it.
+class GoingOn : public CanvasTool {
+public:
+    GoingOn(Canvas& canvas, int& cancelled) : CanvasTool(canvas), m_cancelled(cancelled) {}
+
+    void press(const QPointF& point, bool) override
+    {
+        std::vector<Mark> marks = document().state().marks;
+        marks.push_back({QLineF({}, point), true});
+        document().setMarks("Mark", marks);
+    }
+    void cancel() override { ++m_cancelled; }
+    QString hint() const override { return {}; }
+
+private:
+    int& m_cancelled;
+};
+
 }  // namespace
 
 class TestTools : public QObject {
@@ -64,6 +82,20 @@ class TestTools : public QObject {
     }
 
 private Q_SLOTS:
+    void aToolIsNotCancelledByItsOwnEdit()
+    {
+        const CanvasFixture fixture(cross());
+        int cancelled = 0;
+        fixture.pane->canvas().setTool(
+            std::make_unique<GoingOn>(fixture.pane->canvas(), cancelled));
+        fixture.click(5000, 5000);
+        fixture.click(6000, 6000);
+        QCOMPARE(fixture.state().marks.size(), size_t(2));
+        QCOMPARE(cancelled, 0);
+        fixture.document().history().undo();
+        QCOMPARE(cancelled, 1);
+    }
+
     void deletes()
     {
         const CanvasFixture fixture(cross());

@@ -86,15 +86,18 @@ private Q_SLOTS:
         QVector<bool> delivered;
         QVector<int> receivedBefore;
         void* sender = nullptr;
+        QStringList modules;
         CanvasHost::setObserver([&](const CanvasHost::Transfer& transfer) {
+            modules.append(transfer.module);
             delivered.append(transfer.delivered);
             receivedBefore.append(module.codes.size());
             sender = transfer.sender;
         });
-        send(&window, "One.dll", 1);
-        QCOMPARE(sender, static_cast<void*>(&window));
+        send(&module.panel, "One.dll", 1);
+        QCOMPARE(sender, static_cast<void*>(&module.panel));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no module \"?Absent.dll"));
         send(nullptr, "Absent.dll", 2);
+        QCOMPARE(modules, QStringList({"One.dll", ""}));
         QCOMPARE(delivered, (QVector<bool>{true, false}));
         QCOMPARE(receivedBefore, (QVector<int>{0, 1}));
         CanvasHost::setObserver({});

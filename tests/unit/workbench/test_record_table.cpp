@@ -1,8 +1,8 @@
 // The table in which the canvas shows the feature record.
 
-#include <RecordTable.h>
 #include "Main.h"
 #include "plugin/RecordKeys.h"
+#include "shared/RecordTable.h"
 
 namespace {
 

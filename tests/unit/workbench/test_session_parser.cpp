@@ -3,7 +3,7 @@
 #include "ErrorOf.h"
 #include "Main.h"
 #include "session/SessionParser.h"
-#include "session/StepTable.h"
+#include "session/Steps.h"
 
 #include <QRegularExpression>
 
@@ -70,7 +70,7 @@ private Q_SLOTS:
         for (const QStringList& words : lines) {
             commands.append(words.first());
         }
-        for (const QString& name : StepTable::names()) {
+        for (const QString& name : Steps::names()) {
             QVERIFY2(commands.contains(name), qPrintable(name));
         }
         QCOMPARE(lines[2], (QStringList{"rightclick", "m_pA", "3", "4", "Save \"all\""}));
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QFile page(SOURCE_DIR "/workbench/docs/sessions.md");
         QVERIFY(page.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(page.readAll());
-        for (const QString& name : StepTable::names()) {
+        for (const QString& name : Steps::names()) {
             const bool hasRow = text.contains("\n| `" + name + " ");
             QVERIFY2(hasRow, qPrintable(name));
         }

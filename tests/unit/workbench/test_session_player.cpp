@@ -96,6 +96,17 @@ private Q_SLOTS:
         QCOMPARE(m_pad->clicks.last(), QString("double 11 12"));
     }
 
+    void aVisibleWidgetIsPreferred()
+    {
+        // Widgets have no order of their own: with many hidden ones a wrong choice is seen.
+        for (int i = 0; i < 20; ++i) {
+            add<QPushButton>(m_window.get(), "m_pButtonPB")->hide();
+        }
+        const QSignalSpy clicked(m_button, &QPushButton::clicked);
+        QCOMPARE(play("click m_pButtonPB\n"), QString());
+        QCOMPARE(clicked.count(), 1);
+    }
+
     void typing()
     {
         const QSignalSpy entered(m_text, &QLineEdit::returnPressed);

@@ -73,7 +73,8 @@ class TestSessionSteps : public QObject {
     std::unique_ptr<QWidget> m_window;
     QPushButton* m_button = nullptr;
     QComboBox* m_combo = nullptr;
-    char m_viewer = 0;  // registered with the manager as the canvas
+    char m_viewer = 0;          // registered with the manager as the canvas
+    QPointer<QWidget> m_strip;  // ... and as the tool strip and its parent
     std::map<std::string, std::string> m_attributes{{".net", "gnd"}};
 
     static void receive(void*, PluginMetaData) {}
@@ -87,14 +88,18 @@ class TestSessionSteps : public QObject {
         return widget;
     }
 
-    static void send(int code, const QMap<QString, QVariant>& payload = {}, qint64 extra = 0,
-                     const QString& sender = ModuleNames::toolStrip)
+    void send(int code, const QMap<QString, QVariant>& payload = {}, qint64 extra = 0) const
     {
-        PluginMetaData message(sender, ModuleNames::viewer);
+        sendFrom(m_strip, code, payload, extra);
+    }
+    static void sendFrom(QWidget* sender, int code, const QMap<QString, QVariant>& payload = {},
+                         qint64 extra = 0)
+    {
+        PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
         message.code = code;
         message.payload = payload;
         message.extra = extra;
-        QTpluginsManger4CAM::instance()->recMegToPlugin(nullptr, message);
+        QTpluginsManger4CAM::instance()->recMegToPlugin(sender, message);
     }
 
     QString play(const QString& text) { return playSession(text, m_window.get()).error; }
@@ -110,12 +115,15 @@ private Q_SLOTS:
         m_combo->addItems({"one", "two"});
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_strip = new QWidget(m_window.get());
         CanvasHost::addInstance(ModuleNames::viewer, &m_viewer, &receive);
+        CanvasHost::addInstance(ModuleNames::toolStrip, m_strip, &receive, m_strip);
     }
 
     void cleanup()
     {
         CanvasHost::removeInstance(&m_viewer);
+        CanvasHost::removeInstance(m_strip);
         m_window.reset();
     }
 
@@ -174,10 +182,10 @@ private Q_SLOTS:
 
     void messagesAreTakenInOrder()
     {
-        connect(m_button, &QPushButton::clicked, this, [] {
+        connect(m_button, &QPushButton::clicked, this, [this] {
             send(1);
             send(2);
-            send(3, {}, 0, "Canvas_Host.dll");  // the module sends nothing
+            sendFrom(m_window.get(), 3);  // not by the module, whatever name it has
         });
         const QString click = "click m_pSendPB\n";
         QCOMPARE(play(click + "expect message 1\nexpect message 2\nexpect nothing\n"), QString());
@@ -194,7 +202,7 @@ private Q_SLOTS:
 
     void lateMessage()
     {
-        QTimer::singleShot(150, this, [] { send(4); });
+        QTimer::singleShot(150, this, [this] { send(4); });
         QCOMPARE(play("expect message 4\n"), QString());
     }
 

@@ -9,6 +9,7 @@
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "session/SessionRecorder.h"
+#include "shared/CanvasControl.h"
 
 #include <QAbstractScrollArea>
 #include <QComboBox>
@@ -89,8 +90,7 @@ class TestSteadyCanvas : public QObject {
     QByteArray boardAsFile() const
     {
         const QString file = m_folder.filePath("board.json");
-        QMetaObject::invokeMethod(&findNamed(*m_window, "m_pViewer"), "exportBoard",
-                                  Q_ARG(QString, file));
+        m_window->canvas()->files().exportTo(file);
         QFile written(file);
         return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
     }

@@ -8,7 +8,7 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
-#include "session/BoardPlaces.h"
+#include "session/Reach.h"
 #include "session/SessionParser.h"
 #include "window/Options.h"
 
@@ -16,6 +16,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QTranslator>
 
 namespace Sent = MessageCodes::Sent;
 
@@ -41,11 +42,12 @@ QMap<QString, int> codesOf(const QString& space)
     return codes;
 }
 
-QMap<QString, int> codesOf(const std::vector<MessageNames::Row>& rows)
+/// By the names that the monitor shows for messages to `receiver`.
+QMap<QString, int> namedCodes(const QVector<int>& all, const QString& receiver)
 {
     QMap<QString, int> codes;
-    for (const MessageNames::Row& row : rows) {
-        codes.insert(row.name, row.code);
+    for (const int code : all) {
+        codes.insert(MessageNames::name(receiver, code), code);
     }
     return codes;
 }
@@ -63,10 +65,44 @@ class TestWorkbench : public QObject {
 private Q_SLOTS:
     void everyCodeHasItsName()
     {
-        QCOMPARE(codesOf(MessageNames::sent()), codesOf("Sent"));
-        QCOMPARE(codesOf(MessageNames::accepted()), codesOf("Accepted"));
+        QCOMPARE(namedCodes(MessageCodes::Sent::all(), ModuleNames::viewer), codesOf("Sent"));
+        QVector<int> accepted;
+        for (const QVector<int>& group : MessageNames::accepted()) {
+            accepted += group;
+        }
+        QCOMPARE(accepted.size(), 23);
+        QCOMPARE(namedCodes(accepted, ModuleNames::toolStrip), codesOf("Accepted"));
         QVERIFY(codesOf("Sent").size() > 40);
         QCOMPARE(codesOf("Accepted").size(), 23);
+    }
+
+    void everyCodeHasATextInEachLanguage()
+    {
+        using namespace MessageCodes;
+        const auto texts = [] {
+            QMap<QString, QString> all;
+            for (const int code : Sent::all()) {
+                all.insert(Sent::nameOf(code), MessageNames::text(ModuleNames::viewer, code));
+            }
+            for (const int code : Accepted::all()) {
+                all.insert(QString("accepted ") + Accepted::nameOf(code),
+                           MessageNames::text(ModuleNames::toolStrip, code));
+            }
+            return all;
+        };
+        const QMap<QString, QString> english = texts();
+        QCOMPARE(english["AddFeatureStarted"], QString("Add feature started"));
+        QCOMPARE(english["DirectionRecord"], QString("Feature record (direction)"));
+        QCOMPARE(english["accepted AddFeatureActive"], QString("Add feature is active"));
+        QTranslator translator;
+        QVERIFY(translator.load("workbench_zh_CN", TRANSLATION_DIR));
+        QCoreApplication::installTranslator(&translator);
+        const QMap<QString, QString> chinese = texts();
+        QCoreApplication::removeTranslator(&translator);
+        for (auto text = english.begin(); text != english.end(); ++text) {
+            QVERIFY2(!text->isEmpty(), qPrintable(text.key()));
+            QVERIFY2(chinese[text.key()] != *text || *text == "EQ", qPrintable(text.key()));
+        }
     }
 
     void record()
@@ -77,7 +113,7 @@ private Q_SLOTS:
         message.payload = {{RecordKeys::features, FeatureKind::pad.toInt()},
                            {RecordKeys::line, LineKind::single}};
         message.extra = ExtraWord::pointingAt(attributes);
-        const MessageRecord record = MessageRecord::of({nullptr, message, true});
+        const MessageRecord record = MessageRecord::of({nullptr, message, true, {}});
         const QJsonObject json = QJsonDocument::fromJson(record.toJson()).object();
         QCOMPARE(json["code"].toInt(), int(Sent::AttributeMap));
         QCOMPARE(json["name"].toString(), QString("AttributeMap"));
@@ -120,14 +156,12 @@ private Q_SLOTS:
         for (const CanvasHost::LengthUnit& unit : CanvasHost::lengthUnits()) {
             const QString name = unit.name;
             QCOMPARE(parsed({"--unit", name}).unit, unit.unit);
-            double micrometres = 0;
-            QVERIFY2(BoardPlaces::readLength("2.5" + name, &micrometres), unit.name);
+            const double micrometres = Reach::length("2.5" + name);
             QCOMPARE(micrometres, 2.5 * unit.micrometres);
             CanvasHost::setDisplayUnit(unit.unit);
             const QString read = CanvasHost::lengthText(micrometres);
             QCOMPARE(read, QString::number(2.5, 'f', unit.decimals) + " " + name);
-            QVERIFY(BoardPlaces::readLength(QString(read).remove(' '), &micrometres));
-            QCOMPARE(micrometres, 2.5 * unit.micrometres);
+            QCOMPARE(Reach::length(QString(read).remove(' ')), 2.5 * unit.micrometres);
         }
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
     }

@@ -10,8 +10,7 @@ namespace {
 Pcb::Indexes meantBy(const Document& document, int feature)
 {
     const Pcb::Indexes& selected = document.state().selected;
-    const bool isSelected = std::binary_search(selected.begin(), selected.end(), feature);
-    return isSelected ? selected : Pcb::Indexes{feature};
+    return Pcb::contains(selected, feature) ? selected : Pcb::Indexes{feature};
 }
 
 const Pcb::Feature& featureOf(const Pcb::Board& board, int index)

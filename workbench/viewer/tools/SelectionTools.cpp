@@ -1,32 +1,12 @@
 #include "viewer/tools/SelectionTools.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace {
-
-/// Both together where the selection is extended, else the new ones alone. A single feature
-/// that is picked again is deselected.
-Pcb::Indexes joined(const Pcb::Indexes& before, const Pcb::Indexes& picked, bool extends)
-{
-    if (!extends) {
-        return picked;
-    }
-    Pcb::Indexes all;
-    if (std::includes(before.begin(), before.end(), picked.begin(), picked.end())) {
-        std::set_difference(before.begin(), before.end(), picked.begin(), picked.end(),
-                            std::back_inserter(all));
-    } else {
-        std::set_union(before.begin(), before.end(), picked.begin(), picked.end(),
-                       std::back_inserter(all));
-    }
-    return all;
-}
 
 void selectOn(Canvas& canvas, const QString& text, const Pcb::Indexes& picked, bool extends)
 {
     Document& document = canvas.document();
-    document.select(text, joined(document.state().selected, picked, extends));
+    // A feature that is picked again is deselected.
+    document.select(text, extends ? Pcb::toggled(document.state().selected, picked) : picked);
     const auto count = static_cast<int>(document.state().selected.size());
     canvas.say(
         QCoreApplication::translate("SelectionTools", "%n feature(s) selected.", nullptr, count));

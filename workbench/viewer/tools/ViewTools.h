@@ -33,51 +33,61 @@ public:
     QString hint() const override;
 };
 
-/// Marks the way between two points. A right click removes all marks.
-class MarkTool : public CanvasTool {
-    Q_DECLARE_TR_FUNCTIONS(ViewTools)
-
+/// A tool that is given two points, each by a click.
+class TwoPointTool : public CanvasTool {
 public:
-    MarkTool(Canvas& canvas, bool orthogonal) : CanvasTool(canvas), m_orthogonal(orthogonal) {}
+    TwoPointTool(Canvas& canvas, bool orthogonal) : CanvasTool(canvas), m_orthogonal(orthogonal) {}
 
     bool takesPlace() const override { return true; }
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
-    void finish() override;
     void cancel() override { m_first.reset(); }
     Overlay overlay() const override;
-    QString hint() const override;
+
+protected:
+    virtual void take(const QLineF& line) = 0;
+
+    bool isActive() const { return m_first.has_value(); }
+    bool isOrthogonal() const { return m_orthogonal; }
 
 private:
-    Mark markTo(const QPointF& point) const { return {QLineF(*m_first, point), m_orthogonal}; }
-
-    bool m_orthogonal;
+    bool m_orthogonal;  ///< shown by its way along x and along y; else straight
     std::optional<QPointF> m_first;
     QPointF m_cursor;
 };
 
+/// Marks the way between two points. A right click removes all marks.
+class MarkTool : public TwoPointTool {
+    Q_DECLARE_TR_FUNCTIONS(ViewTools)
+
+public:
+    using TwoPointTool::TwoPointTool;
+
+    void finish() override;
+    QString hint() const override;
+
+protected:
+    void take(const QLineF& line) override;
+};
+
 /// Tells a listener the two points of a distance.
-class MeasureTool : public CanvasTool {
+class MeasureTool : public TwoPointTool {
     Q_DECLARE_TR_FUNCTIONS(ViewTools)
 
 public:
     using Listener = std::function<void(const QPointF&, const QPointF&)>;
     MeasureTool(Canvas& canvas, Listener listener)
-        : CanvasTool(canvas), m_listener(std::move(listener))
+        : TwoPointTool(canvas, false), m_listener(std::move(listener))
     {
     }
 
-    bool takesPlace() const override { return true; }
-    void press(const QPointF& point, bool extends) override;
-    void move(const QPointF& point) override { m_cursor = point; }
-    void cancel() override { m_first.reset(); }
-    Overlay overlay() const override;
     QString hint() const override;
+
+protected:
+    void take(const QLineF& line) override { m_listener(line.p1(), line.p2()); }
 
 private:
     Listener m_listener;
-    std::optional<QPointF> m_first;
-    QPointF m_cursor;
 };
 
 /// Tells a listener which feature was clicked.

@@ -5,7 +5,7 @@
 
 /// What a program remembers from one start to the next, in one INI file. As long as no file is
 /// named nothing is remembered, so that tests read nobody's settings. Needs the application object.
-namespace CanvasHost::Settings {
+namespace Settings {
 
 void keepIn(const QString& file);
 /// The file; empty when there is none.
@@ -15,4 +15,4 @@ QString file();
 QVariant value(const QString& key);
 void set(const QString& key, const QVariant& value);
 
-}  // namespace CanvasHost::Settings
+}  // namespace Settings

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <HostExport.h>
-
 #include <QMap>
 #include <QStringList>
 #include <QTableWidget>
@@ -9,7 +7,7 @@
 #include <QVector>
 
 /// Shows named values as a table of key, value and type. Changes are marked.
-class CANVAS_HOST_EXPORT RecordTable : public QTableWidget {
+class RecordTable : public QTableWidget {
     Q_OBJECT
 
 public:

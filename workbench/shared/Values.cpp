@@ -1,4 +1,4 @@
-#include "Values.h"
+#include "shared/Values.h"
 
 namespace Values {
 

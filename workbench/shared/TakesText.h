@@ -1,4 +1,4 @@
-#include "session/TextWidgets.h"
+#pragma once
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
@@ -6,7 +6,8 @@
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
-bool TextWidgets::hasText(const QWidget* widget)
+/// Whether everything typed into `widget` becomes its text.
+inline bool takesText(const QWidget* widget)
 {
     const auto* const combo = qobject_cast<const QComboBox*>(widget);
     return (combo && combo->isEditable()) || qobject_cast<const QLineEdit*>(widget) ||

@@ -1,6 +1,6 @@
-#include "RecordTable.h"
+#include "shared/RecordTable.h"
 
-#include <Values.h>
+#include "shared/Values.h"
 
 #include <QHeaderView>
 

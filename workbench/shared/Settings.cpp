@@ -1,9 +1,7 @@
-#include "Settings.h"
+#include "shared/Settings.h"
 
 #include <QCoreApplication>
 #include <QSettings>
-
-namespace CanvasHost {
 
 namespace {
 
@@ -33,5 +31,3 @@ void Settings::set(const QString& key, const QVariant& value)
         QSettings(file(), QSettings::IniFormat).setValue(key, value);
     }
 }
-
-}  // namespace CanvasHost
