@@ -10,14 +10,14 @@
 #include <common_widgets.h>
 #include <ui_api.h>
 
-#include <QEvent>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegExpValidator>
 #include <QRegularExpression>
-#include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <optional>
@@ -91,7 +91,11 @@ SymbolEntry::SymbolEntry(DialogDoor& door, QWidget* parent)
     m_pSelectFromEditorPB->setIcon(
         QIcon(QStringLiteral(":/Canvas_Tool_Strip/Resources/add_fea.jpg")));
     m_pSymbolTextLE->setValidator(m_lineValidator);
-    m_pSymbolTextLE->installEventFilter(this);
+    // Queued: by then Qt has reported what it reports by itself.
+    connect(qApp, &QApplication::focusChanged, this, &SymbolEntry::takeLeftEntry,
+            Qt::QueuedConnection);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &SymbolEntry::takeLeftEntry,
+            Qt::QueuedConnection);
 
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -233,8 +237,9 @@ void SymbolEntry::enterText()
 void SymbolEntry::finish()
 {
     const RefusalGuard& refusals = m_door.refusals();
-    if (!m_pSymbolTextLE->isModified() && refusals.isHandling(m_pSymbolTextLE)) {
-        return;  // the same report again, from a box that a receiver opens; see LineField::finish()
+    if (!m_pSymbolTextLE->isModified() &&
+        (refusals.isHandling(m_pSymbolTextLE) || refusals.isBoxOver(*m_pSymbolTextLE))) {
+        return;  // see LineField::finish()
     }
     m_door.refusals().report(m_pSymbolTextLE, [this] { takeEntry(); });
 }
@@ -311,26 +316,27 @@ void SymbolEntry::noteText(const QString& text)
             if (!isKept) {
                 m_metricText.clear();
                 m_otherText.clear();
+                // Whatever closing the box has done to the focus is looked at once it is closed.
+                QMetaObject::invokeMethod(this, &SymbolEntry::takeLeftEntry, Qt::QueuedConnection);
             }
         });
     });
 }
 
-/// Handles an entry that Qt has not reported, or whose report was lost to a box about a failure,
-/// and that is still in the field when the user leaves it.
-bool SymbolEntry::eventFilter(QObject* field, QEvent* event)
+/// A box that takes the focus is no leaving, nor is its closing, after which no window may be
+/// active for a while: the focus is then still this field's within the dialog.
+bool SymbolEntry::isLeft() const
 {
-    if (event->type() == QEvent::FocusOut) {
-        // Later: usually Qt reports it now.
-        QTimer::singleShot(0, m_pSymbolTextLE, [this] { takeLeftEntry(); });
-    }
-    return QWidget::eventFilter(field, event);
+    const QWidget* const active = QApplication::activeWindow();
+    return !m_door.refusals().isBoxOver(*m_pSymbolTextLE) &&
+           (window()->focusWidget() != m_pSymbolTextLE || (active && active != window()));
 }
 
+/// Handles an entry that Qt has not reported, or whose report was lost to a box about a failure,
+/// and that is still in the field when the user leaves it.
 void SymbolEntry::takeLeftEntry()
 {
-    if (m_pSymbolTextLE->isModified() && !m_pSymbolTextLE->hasFocus() &&
-        m_pSymbolTextLE->hasAcceptableInput()) {
+    if (m_pSymbolTextLE->isModified() && m_pSymbolTextLE->hasAcceptableInput() && isLeft()) {
         Q_EMIT m_pSymbolTextLE->editingFinished();
     }
 }

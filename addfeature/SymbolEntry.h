@@ -70,12 +70,12 @@ public:
     void closePopups();
 
 private:
-    bool eventFilter(QObject* field, QEvent* event) override;
     bool isMetric() const;
     void keepText(const QString& text);
     QString stored(const QString& name) const;
     QString converted(const QString& name, int direction) const;
     void takeEntry();
+    bool isLeft() const;
     void takeLeftEntry();
     void storeEntry();
     void refuse(const QString& title, const QString& text);

@@ -19,8 +19,11 @@ LineField::LineField(DialogDoor& door, QWidget* page, Pattern pattern, const Det
 
 void LineField::finish()
 {
-    // A box that a receiver opens while it handles an entry makes Qt report the entry again.
-    if (!isModified() && m_door.refusals().isHandling(this)) {
+    // Nothing was typed: Qt reports because a box takes the focus, perhaps one that a receiver of
+    // this field's own entry opens. A field that cannot be typed in has no other reports.
+    const RefusalGuard& refusals = m_door.refusals();
+    if (!isModified() &&
+        (refusals.isHandling(this) || (!isReadOnly() && refusals.isBoxOver(*this)))) {
         return;
     }
     m_door.refusals().report(this, [this] { take(); });

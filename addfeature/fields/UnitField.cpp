@@ -61,7 +61,7 @@ void UnitField::changeUnit(bool isMetric)
 void UnitField::focusOutEvent(QFocusEvent* event)
 {
     LineField::focusOutEvent(event);
-    if (isModified() && !hasAcceptableInput() && text() == m_converted) {
+    if (isModified() && !hasAcceptableInput() && m_converted == text()) {
         Q_EMIT editingFinished();
     }
 }

@@ -2,6 +2,8 @@
 
 #include "addfeature/fields/LineField.h"
 
+#include <optional>
+
 /// A field for a length, with the label of its unit.
 class UnitField : public LineField {
 public:
@@ -32,7 +34,7 @@ private:
 
     const Unit m_unit;
     bool m_isMetric;
-    QString m_converted;  // of an entry that was pending when the unit changed
-    QString m_shown;      // what convertPlain() last wrote
-    QString m_previous;   // the text before that
+    std::optional<QString> m_converted;  // of an entry that was pending when the unit changed
+    QString m_shown;                     // what convertPlain() last wrote
+    QString m_previous;                  // the text before that
 };

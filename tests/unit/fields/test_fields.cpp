@@ -1,5 +1,6 @@
 // What each kind of field stores, refuses and sends, without a dialog around it.
 
+#include "AnyField.h"
 #include "FakeDoor.h"
 #include "Main.h"
 #include "addfeature/fields/ChoiceField.h"
@@ -19,19 +20,6 @@ Q_DECLARE_METATYPE(UnitField::Unit)
 
 namespace {
 
-const QString key("Key");
-const char* const finishSlot = SLOT(on_m_pAnyLE_editingFinished());
-
-Field::Details line(Sends sends, Message message = Message::Record)
-{
-    return {"m_pAnyLE", Caption::label("Any : "), key, finishSlot, sends, message};
-}
-
-Field::Details other(Sends sends)
-{
-    return {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot, sends};
-}
-
 /// "10" in a field for a length, and what results.
 struct TypedLength {
     explicit TypedLength(Sends whenSends = Sends::Never) : sends(whenSends) {}
@@ -47,13 +35,6 @@ struct TypedLength {
     QString stored;
     bool sent = false;
 };
-
-void type(QLineEdit& field, const QString& text)
-{
-    field.selectAll();
-    QTest::keyClick(&field, Qt::Key_Delete);
-    QTest::keyClicks(&field, text);
-}
 
 }  // namespace
 Q_DECLARE_METATYPE(TypedLength)
@@ -353,120 +334,6 @@ private Q_SLOTS:
         field.button(1)->click();
         QCOMPARE(door.record().map().value(key), QVariant(2));
         QCOMPARE(door.takeCalls(), QStringList("direction"));
-    }
-
-    void aRefusalIsHandledOnceAndWhatIsPendingElsewhereAfterIt()
-    {
-        FakeDoor door;
-        QWidget page;
-        LengthField refused(door, &page, line(Sends::Never), "5", 50000);
-        TextField pending(door, &page, other(Sends::Always), LineField::Pattern::Text, "a");
-        pending.setText("b");
-        door.accepts = false;
-        door.onBox = [&] {
-            refused.finish();  // the box takes the focus
-            pending.finish();
-            pending.finish();
-            QCOMPARE(door.record().text("Other"), QString("a"));
-        };
-        refused.setText("99");
-        refused.finish();
-        QCOMPARE(door.takeCalls(), (QStringList{"length 99 up to 50000", "record"}));
-        QCOMPARE(door.record().text(key), QString("0"));
-        QCOMPARE(door.record().text("Other"), QString("b"));
-    }
-
-    void anEntryThatIsPendingIsCheckedItself()
-    {
-        FakeDoor door;
-        QWidget page;
-        LengthField first(door, &page, line(Sends::Never), "5", 50000);
-        LengthField second(door, &page, other(Sends::Never), "5", 10000);
-        door.accepts = false;
-        bool isFirstBox = true;
-        door.onBox = [&] {
-            if (std::exchange(isFirstBox, false)) {
-                second.finish();
-            } else {
-                second.finish();  // its own box, its own report
-            }
-        };
-        first.setText("98");
-        second.setText("99");
-        first.finish();
-        QCOMPARE(door.takeCalls(), (QStringList{"length 98 up to 50000", "length 99 up to 10000"}));
-        QCOMPARE(second.text(), QString("0"));
-    }
-
-    void aHandlerThatThrowsLosesNothing()
-    {
-        FakeDoor door;
-        QWidget page;
-        TextField pending(door, &page, other(Sends::Never), LineField::Pattern::Text, "a");
-        pending.setText("b");
-        bool hasThrown = false;
-        try {
-            door.refusals().run(nullptr, [&] {
-                door.refusals().box([&] { pending.finish(); });
-                throw 7;
-            });
-        } catch (int) {
-            hasThrown = true;
-        }
-        QVERIFY(hasThrown);
-        QCOMPARE(door.record().text("Other"), QString("b"));
-        pending.setText("c");
-        pending.finish();  // and the next entry is taken at once
-        QCOMPARE(door.record().text("Other"), QString("c"));
-    }
-
-    void anEntryThatAUnitChangeMakesUntypableIsTakenOnLeaving()
-    {
-        FakeDoor door;
-        QWidget page;
-        Field::Details details = line(Sends::WhenAccepted);
-        details.pattern = "^[1-9][0-9]*|0$";
-        LengthField field(door, &page, details, "0", 50000);
-        type(field, "1");
-        door.metric = true;
-        field.changeUnit(true);
-        QCOMPARE(field.text(), QString("25.4"));
-        QVERIFY(!field.hasAcceptableInput());
-        QCOMPARE(door.takeCalls(), QStringList());
-
-        QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
-        QApplication::sendEvent(&field, &left);
-        QCOMPARE(door.record().text(key), QString("25.4"));
-        QCOMPARE(door.takeCalls(), (QStringList{"length 25.4 up to 50000", "record"}));
-        QApplication::sendEvent(&field, &left);  // once
-        QCOMPARE(door.takeCalls(), QStringList());
-    }
-
-    void anEntryThatTheUserLeftUntypableIsNotTaken()
-    {
-        FakeDoor door;
-        QWidget page;
-        Field::Details details = line(Sends::WhenAccepted);
-        details.pattern = "[1-9]|[1-9][.][0-9]";
-        LengthField field(door, &page, details, "0", 50000);
-        type(field, "1.");
-        QVERIFY(!field.hasAcceptableInput());
-        field.changeUnit(true);
-        QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
-        QApplication::sendEvent(&field, &left);
-        QCOMPARE(door.takeCalls(), QStringList());
-        QCOMPARE(door.record().text(key), QString("0"));
-    }
-
-    void aBoxOfTheReceiversMakesNoSecondEntry()
-    {
-        FakeDoor door;
-        QWidget page;
-        LengthField field(door, &page, line(Sends::Always), "5", 50000);
-        door.onSend = [&] { field.finish(); };  // its box takes the focus
-        type(field, "10");
-        field.finish();
-        QCOMPARE(door.takeCalls(), (QStringList{"length 10 up to 50000", "record"}));
     }
 
     void aRowIsEnabledWhole()
