@@ -90,7 +90,7 @@ void AddFeature::on_m_pFillPB_clicked() { m_canvas.sendFill(); }
 void AddFeature::set_attribute_color() { m_attributes->setColor(); }
 void AddFeature::reset_attribute_color() { m_attributes->resetColor(); }
 void AddFeature::get_attribute_list(std::vector<std::pair<std::string, std::string>> attr_list)
-    { m_attributes->setList(std::move(attr_list)); }
+    { m_attributes->setList(attr_list); }
 void AddFeature::on_m_pSelectFromEditorPB_clicked() { m_symbol->togglePick(); Q_EMIT Select_symbol(); }
 void AddFeature::get_attribute_signal() { m_canvas.sendSelectFromEditor(); }
 // clang-format on

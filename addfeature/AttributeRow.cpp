@@ -10,8 +10,6 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
-#include <utility>
-
 AttributeRow::AttributeRow(DialogDoor& door, QWidget* dialog)
     : QWidget(dialog),
       m_door(door),
@@ -117,16 +115,13 @@ void AttributeRow::resetColor()
     m_pValuesPB->setStyleSheet(QStringLiteral("background-color:none"));
 }
 
-void AttributeRow::setList(std::vector<std::pair<std::string, std::string>> attributes)
+void AttributeRow::setList(const std::vector<std::pair<std::string, std::string>>& attributes)
 {
     if (!m_pAttributesCB->isChecked()) {
         return;
     }
     m_attributes.clear();
-    for (auto& [name, value] : attributes) {
-        // Names mostly come in order.
-        m_attributes.emplace_hint(m_attributes.end(), std::move(name), std::move(value));
-    }
+    m_attributes.insert(attributes.begin(), attributes.end());
     m_door.sendAttributes(m_attributes);
 }
 

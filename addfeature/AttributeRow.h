@@ -38,7 +38,7 @@ public:
     void setColor();
     void resetColor();
     /// Takes the list that the attribute window applied.
-    void setList(std::vector<std::pair<std::string, std::string>> attributes);
+    void setList(const std::vector<std::pair<std::string, std::string>>& attributes);
 
     void closePopups();
 

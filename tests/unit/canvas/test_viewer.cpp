@@ -2,6 +2,7 @@
 
 #include "FindChild.h"
 #include "Main.h"
+#include "ToolRows.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageNames.h"
 #include "plugin/ExtraWord.h"
@@ -9,7 +10,6 @@
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 #include "viewer/BoardView.h"
-#include "viewer/ToolSet.h"
 #include "viewer/ViewerPane.h"
 
 #include <common_widgets.h>
@@ -50,17 +50,6 @@ class TestViewer : public QObject {
     }
 
 private Q_SLOTS:
-    void everyToolMessageHasItsMeaning()
-    {
-        for (const MessageNames::Row& row : MessageNames::sent()) {
-            const ToolSet::Row* const tool = ToolSet::find(row.code);
-            QVERIFY2((tool != nullptr) == row.tool, row.name);
-            QVERIFY2(!tool || ToolSet::text(*tool) == MessageNames::text(row), row.name);
-            const bool ends = QByteArray(row.name).endsWith("Off");
-            QVERIFY2((ToolSet::ended(row.code) != nullptr) == ends, row.name);
-        }
-    }
-
     void initTestCase()
     {
         CanvasHost::addInstance("Canvas_Tool_Strip.dll", this, [](void*, PluginMetaData) {});
@@ -100,6 +89,24 @@ private Q_SLOTS:
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
         receive(12345);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
+    }
+
+    /// By the name that the monitor shows, whether the canvas has it or not.
+    void followsEachTool()
+    {
+        for (const ToolRow& tool : toolRows()) {
+            receive(Sent::MoveFeature);
+            if (tool.code < 0) {
+                continue;  // announced by no message
+            }
+            receive(tool.code);
+            QCOMPARE(text("m_pActiveToolLB"),
+                     "Tool: " + MessageNames::text(ModuleNames::viewer, tool.code));
+            if (tool.offCode != tool.code) {
+                receive(tool.offCode);
+                QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
+            }
+        }
     }
 
     void answersAddFeatureWithTheUnit()
