@@ -8,8 +8,9 @@
 class UnitField : public LineField {
 public:
     enum class Unit {
-        Mil,         ///< mil or micrometres
-        MilByLabel,  ///< the same, but the label says "mil" in both
+        Mil,         ///< mil, or micrometres after a change of the unit
+        AsShown,     ///< the same, at first in the unit that the host shows
+        MilByLabel,  ///< as Mil, but the label says "mil" in both
         PlainInch,   ///< inch or millimetres, which the line edit cannot convert: converted here
     };
 
@@ -17,11 +18,9 @@ public:
     void changeUnit(bool isMetric) override;
 
 protected:
-    /// `isMetric` is the unit of the first text.
-    UnitField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details, Unit unit,
-              bool isMetric);
+    UnitField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details, Unit unit);
 
-    /// Shows the first text, and stores its value.
+    /// Shows the first text, given in mil or inch, and stores its value.
     void start(const QString& text);
     void storeLength();
 

@@ -153,10 +153,10 @@ QString scalarsOf(const QObject& object)
         const QMetaProperty property = meta->property(i);
         const QString value = textOf(property, property.read(&object));
         // The layout works out a window's minimum size.
-        const bool isLeastOfWindow = object.isWidgetType() &&
-                                     static_cast<const QWidget&>(object).isWindow() &&
-                                     qstrcmp(property.name(), "minimumSize") == 0;
-        if (!isLeastOfWindow && !isDerived(property.name()) &&
+        const bool isMinimumOfWindow = object.isWidgetType() &&
+                                       static_cast<const QWidget&>(object).isWindow() &&
+                                       qstrcmp(property.name(), "minimumSize") == 0;
+        if (!isMinimumOfWindow && !isDerived(property.name()) &&
             value != textOf(property, property.read(other.data()))) {
             found.append(QStringLiteral("%1=%2").arg(property.name(), value).replace('\n', "\\n"));
         }

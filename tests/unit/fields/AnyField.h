@@ -9,9 +9,13 @@
 const QString key("Key");
 const char* const finishSlot = SLOT(on_m_pAnyLE_editingFinished());
 
-inline Field::Details line(Sends sends, Message message = Message::Record)
+inline Field::Details line(Sends sends)
 {
-    return {"m_pAnyLE", Caption::label("Any : "), key, finishSlot, sends, message};
+    return {"m_pAnyLE", Caption::label("Any : "), key, finishSlot, sends};
+}
+inline Field::Details upTo50000(Sends sends)
+{
+    return line(sends).within(0, 50000);
 }
 
 inline Field::Details other(Sends sends)

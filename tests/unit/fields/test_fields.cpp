@@ -3,6 +3,7 @@
 #include "AnyField.h"
 #include "FakeDoor.h"
 #include "Main.h"
+#include "addfeature/fields/ButtonField.h"
 #include "addfeature/fields/ChoiceField.h"
 #include "addfeature/fields/FlagField.h"
 #include "addfeature/fields/LengthField.h"
@@ -10,6 +11,8 @@
 #include "addfeature/fields/PitchField.h"
 #include "addfeature/fields/RadioField.h"
 #include "addfeature/fields/TextField.h"
+
+#include <UiApiStandIn.h>
 
 #include <QLabel>
 #include <QToolButton>
@@ -47,7 +50,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        const LengthField length(door, &page, line(Sends::Always), "250", 50000);
+        const LengthField length(door, &page, upTo50000(Sends::Always), "250");
         QCOMPARE(door.record().text(key), QString("6350"));
         QCOMPARE(door.takeCalls(), QStringList());
         QCOMPARE(door.connections(),
@@ -77,9 +80,9 @@ private Q_SLOTS:
         QFETCH(TypedLength, row);
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(row.sends), "5", 50000);
+        LengthField field(door, &page, upTo50000(row.sends), "5");
         door.accepts = row.isAccepted;
-        door.metric = row.metric;
+        door.hostUnits.tell(row.metric);
         QString whenSent;
         door.onSend = [&] { whenSent = door.record().text(key); };
         type(field, "10");
@@ -110,7 +113,7 @@ private Q_SLOTS:
         QFETCH(QString, metric);
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(Sends::Always), "10", 50000, unit);
+        LengthField field(door, &page, upTo50000(Sends::Always), "10", unit);
         QCOMPARE(field.unitLabel()->text(), labels[0]);
         for (int twice = 0; twice < 2; ++twice) {
             field.changeUnit(true);
@@ -128,7 +131,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(Sends::Never), "1", 50000, UnitField::Unit::PlainInch);
+        LengthField field(door, &page, upTo50000(Sends::Never), "1", UnitField::Unit::PlainInch);
         field.changeUnit(true);
         QCOMPARE(field.text(), QString("25.4"));
         field.setText("50.8");
@@ -143,7 +146,9 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        PitchField field(door, &page, line(Sends::WhenAccepted), true);
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Micrometre);
+        PitchField field(door, &page, line(Sends::WhenAccepted));
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
         QCOMPARE(field.unitLabel()->text(), QString("my"));
         QCOMPARE(door.record().text(key), QString("0"));
         type(field, "-10");
@@ -177,11 +182,11 @@ private Q_SLOTS:
         QFETCH(bool, atEachChange);
         FakeDoor door;
         QWidget page;
+        Field::Details details = line(Sends::WhenAccepted).within(-1, 50);
         NumberField field(
-            door, &page,
-            line(Sends::WhenAccepted, atEachChange ? Message::Record : Message::Direction), "1",
-            {-1, 50},
-            atEachChange ? NumberField::Checked::AtEachChange : NumberField::Checked::WhenFinished);
+            door, &page, atEachChange ? details : details.asDirection(), "1",
+            atEachChange ? NumberField::Checked::AtEachChange : NumberField::Checked::WhenFinished,
+            NumberField::Typed::AsTheHostAllows);
         const QString sent = atEachChange ? "record" : "direction";
         field.setText("7");
         if (!atEachChange) {
@@ -205,13 +210,13 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        TextField field(door, &page, line(Sends::Always), LineField::Pattern::Text, "a");
+        TextField field(door, &page, line(Sends::Always), LineField::Pattern::Text, "a",
+                        [](const QString& text) { return text != "bad"; });
         type(field, "word");
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(door.record().text(key), QString("word"));
         QCOMPARE(door.takeCalls(), QStringList("record"));
 
-        field.acceptOnly([](const QString& text) { return text == "good"; });
         field.setText("bad");
         field.finish();
         QCOMPARE(field.text(), QString());
@@ -287,7 +292,7 @@ private Q_SLOTS:
         ChoiceField field(
             door, &page,
             {"m_pAnyCMB", Caption::label("Any"), key, SLOT(on_Any_Changed()), Sends::Never},
-            {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, 1);
+            {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, "y");
         QCOMPARE(door.record().text(key), QString("y"));
         field.setCurrentText("first");
         QCOMPARE(door.record().text(key), QString("x"));
@@ -321,11 +326,13 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        RadioField field(door, &page,
-                         {"m_pAnyBG", Caption::none(), key, SLOT(on_Any_Clicked(QAbstractButton*)),
-                          Sends::Always, Message::Direction},
-                         RadioField::Look::Tool,
-                         {{"m_pOneTB", "Free1.jpg", "One"}, {"m_pTwoTB", "Ver1.jpg", "Two"}});
+        RadioField field(
+            door, &page,
+            Field::Details{"m_pAnyBG", Caption::none(), key, SLOT(on_Any_Clicked(QAbstractButton*)),
+                           Sends::Always}
+                .asDirection(),
+            RadioField::Look::Tool,
+            {{"m_pOneTB", "Free1.jpg", "One", "1"}, {"m_pTwoTB", "Ver1.jpg", "Two", "2"}});
         QCOMPARE(door.record().map().value(key), QVariant("1"));
         QCOMPARE(field.checkedId(), 0);
         QCOMPARE(field.button(1)->toolTip(), QString("Two"));
@@ -336,16 +343,85 @@ private Q_SLOTS:
         QCOMPARE(door.takeCalls(), QStringList("direction"));
     }
 
-    void aRowIsEnabledWhole()
+    /// What a choice enables is enabled whole, with its labels, from the start on.
+    void aChoiceEnablesARow()
     {
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(Sends::Never), "5", 50000);
-        field.setRowEnabled(false);
-        QVERIFY(!field.isEnabled() && !field.label()->isEnabled() &&
-                !field.unitLabel()->isEnabled());
-        field.setRowEnabled(true);
-        QVERIFY(field.isEnabled() && field.label()->isEnabled() && field.unitLabel()->isEnabled());
+        ChoiceField choice(
+            door, &page,
+            {"m_pAnyCMB", Caption::spoken("Any"), "Choice", SLOT(on_Any_Changed()), Sends::Never},
+            {{"first", "x"}, {"second", "y"}, {"third", "z"}}, ChoiceField::Stores::Text);
+        const LengthField field(door, &page, upTo50000(Sends::Never).enabledBy(&choice, {"y", "z"}),
+                                "5");
+        const auto isEnabled = [&] {
+            return QList<bool>{field.isEnabled(), field.label()->isEnabled(),
+                               field.unitLabel()->isEnabled()};
+        };
+        const QList<bool> all{true, true, true};
+        const QList<bool> none{false, false, false};
+        QCOMPARE(isEnabled(), none);
+        for (const auto& [item, expected] :
+             {std::pair(1, all), std::pair(2, all), std::pair(0, none), std::pair(2, all)}) {
+            choice.setCurrentIndex(item);
+            QCOMPARE(isEnabled(), expected);
+        }
+        // Where nothing is stored, nothing changes either.
+        choice.setCurrentIndex(-1);
+        QCOMPARE(isEnabled(), all);
+        choice.enableOthers();
+        QCOMPARE(isEnabled(), none);
+    }
+
+    void flagsAndRadioButtonsEnable()
+    {
+        FakeDoor door;
+        QWidget page;
+        FlagField flag(
+            door, &page,
+            {"m_pAnyCB", Caption::own("Any"), "Flag", SLOT(on_Any_Changed(int)), Sends::Never},
+            true, {"yes", "no"});
+        RadioField radio(
+            door, &page,
+            {"m_pAnyBG", Caption::none(), "Radio", SLOT(on_Any_Clicked(QAbstractButton*)),
+             Sends::Never},
+            RadioField::Look::Radio,
+            {{"m_pOneRB", "Free1.jpg", "One", "1"}, {"m_pTwoRB", "Ver1.jpg", "Two", "2"}});
+        const ButtonField byFlag(door, &page,
+                                 Field::Details{"m_pFlagPB", Caption::own("Flag"), QString(),
+                                                SLOT(on_Flag_clicked()), Sends::Never}
+                                     .enabledBy(&flag, {"no"}));
+        const ButtonField byRadio(door, &page,
+                                  Field::Details{"m_pRadioPB", Caption::own("Radio"), QString(),
+                                                 SLOT(on_Radio_clicked()), Sends::Never}
+                                      .enabledBy(&radio, {"2"}));
+        QVERIFY(!byFlag.isEnabled() && !byRadio.isEnabled());
+        QCOMPARE(byFlag.text(), QString("Flag"));
+        flag.setChecked(false);
+        QVERIFY(byFlag.isEnabled() && !byRadio.isEnabled());
+        radio.button(1)->click();
+        QVERIFY(byRadio.isEnabled());
+        flag.setChecked(true);
+        radio.button(0)->click();
+        QVERIFY(!byFlag.isEnabled() && !byRadio.isEnabled());
+        QVERIFY(!door.record().map().contains(QString()));
+    }
+
+    /// A length that starts in the unit that the host shows.
+    void startsAsShown()
+    {
+        QWidget page;
+        for (const bool isMetric : {false, true}) {
+            using CanvasHost::DisplayUnit;
+            CanvasHost::setDisplayUnit(isMetric ? DisplayUnit::Micrometre : DisplayUnit::Mil);
+            FakeDoor door;
+            const LengthField field(door, &page, upTo50000(Sends::Never), "24",
+                                    LengthField::Unit::AsShown);
+            QCOMPARE(field.text(), QString(isMetric ? "609.6" : "24"));
+            QCOMPARE(field.unitLabel()->text(), QString(isMetric ? "my" : "mil"));
+            QCOMPARE(door.record().text(key), QString("609.6"));
+        }
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
     }
 };
 

@@ -16,7 +16,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField refused(door, &page, line(Sends::Never), "5", 50000);
+        LengthField refused(door, &page, upTo50000(Sends::Never), "5");
         TextField pending(door, &page, other(Sends::Always), LineField::Pattern::Text, "a");
         type(pending, "b");
         door.accepts = false;
@@ -37,8 +37,8 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField first(door, &page, line(Sends::Never), "5", 50000);
-        LengthField second(door, &page, other(Sends::Never), "5", 10000);
+        LengthField first(door, &page, upTo50000(Sends::Never), "5");
+        LengthField second(door, &page, other(Sends::Never).within(0, 10000), "5");
         door.accepts = false;
         bool isFirstBox = true;
         door.onBox = [&] {
@@ -81,11 +81,10 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        Field::Details details = line(Sends::WhenAccepted);
-        details.pattern = "^[1-9][0-9]*|0$";
-        LengthField field(door, &page, details, "0", 50000);
+        LengthField field(door, &page, upTo50000(Sends::WhenAccepted).pattern("^[1-9][0-9]*|0$"),
+                          "0");
         type(field, "1");
-        door.metric = true;
+        door.hostUnits.tell(true);
         field.changeUnit(true);
         QCOMPARE(field.text(), QString("25.4"));
         QVERIFY(!field.hasAcceptableInput());
@@ -103,9 +102,8 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        Field::Details details = line(Sends::WhenAccepted);
-        details.pattern = "[1-9]|[1-9][.][0-9]";
-        LengthField field(door, &page, details, "0", 50000);
+        LengthField field(door, &page,
+                          upTo50000(Sends::WhenAccepted).pattern("[1-9]|[1-9][.][0-9]"), "0");
         type(field, "1.");
         QVERIFY(!field.hasAcceptableInput());
         field.changeUnit(true);
@@ -119,7 +117,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(Sends::Always), "5", 50000);
+        LengthField field(door, &page, upTo50000(Sends::Always), "5");
         door.onSend = [&] { field.finish(); };  // its box takes the focus
         type(field, "10");
         field.finish();
@@ -134,13 +132,13 @@ private Q_SLOTS:
         window.setWindowModality(Qt::ApplicationModal);
         window.show();
         QWidget page(&window, Qt::Window);
-        LengthField field(door, &page, line(Sends::Always), "5", 50000);
+        LengthField field(door, &page, upTo50000(Sends::Always), "5");
         QVERIFY(!door.refusals().isBoxOver(field));
         field.finish();
         QCOMPARE(door.takeCalls(), (QStringList{"length 5 up to 50000", "record"}));
 
         QWidget elsewhere;
-        LengthField blocked(door, &elsewhere, other(Sends::Always), "5", 50000);
+        LengthField blocked(door, &elsewhere, other(Sends::Always).within(0, 50000), "5");
         QVERIFY(door.refusals().isBoxOver(blocked));
         blocked.finish();
         QCOMPARE(door.takeCalls(), QStringList());

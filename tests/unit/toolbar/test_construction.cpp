@@ -36,11 +36,11 @@ double differenceAt(const QImage& shown, const QImage& picture, int frame)
 double difference(QToolButton* button, const QImage& picture)
 {
     const QImage shown = button->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    double least = differenceAt(shown, picture, 0);
+    double minimum = differenceAt(shown, picture, 0);
     for (int frame = 1; frame <= 3; ++frame) {
-        least = qMin(least, differenceAt(shown, picture, frame));
+        minimum = qMin(minimum, differenceAt(shown, picture, frame));
     }
-    return least;
+    return minimum;
 }
 
 }  // namespace
