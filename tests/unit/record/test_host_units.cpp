@@ -24,7 +24,7 @@ private Q_SLOTS:
         QVERIFY(!units.wasToldMetric());
     }
 
-    /// Asked anew each time, with the host's widget.
+    /// With the host's widget, at each call.
     void whatTheHostWorksInNow()
     {
         QWidget widget;
