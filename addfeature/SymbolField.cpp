@@ -1,13 +1,13 @@
 #include "addfeature/SymbolField.h"
 
 #include "addfeature/record/FeatureRecord.h"
+#include "addfeature/record/Logging.h"
 #include "addfeature/record/RefusalGuard.h"
 #include "addfeature/record/ValueChecks.h"
 #include "plugin/Guard.h"
 #include "plugin/RecordKeys.h"
 
 #include <QApplication>
-#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScopeGuard>
@@ -16,12 +16,6 @@
 
 #include <optional>
 #include <utility>
-
-namespace {
-
-Q_LOGGING_CATEGORY(dialogLog, "canvastoolstrip.addfeature")
-
-}  // namespace
 
 SymbolField::SymbolField(DialogDoor& door, QWidget* row)
     : LineField(door, row, Pattern::Text,
