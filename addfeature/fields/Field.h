@@ -78,7 +78,7 @@ public:
         const char* m_pattern = nullptr;
         Bounds m_bounds = {0, 0};
         Field* m_choice = nullptr;
-        QStringList m_enabling;
+        QStringList m_enabling = {};
         bool m_isReadOnly = false;
     };
 

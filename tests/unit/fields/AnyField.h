@@ -6,12 +6,12 @@
 
 // What the tests of single fields have in common.
 
-const QString key("Key");
+const QString anyKey("Key");
 const char* const finishSlot = SLOT(on_m_pAnyLE_editingFinished());
 
 inline Field::Details line(Sends sends)
 {
-    return {"m_pAnyLE", Caption::label("Any : "), key, finishSlot, sends};
+    return {"m_pAnyLE", Caption::label("Any : "), anyKey, finishSlot, sends};
 }
 inline Field::Details upTo50000(Sends sends)
 {

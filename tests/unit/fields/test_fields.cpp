@@ -51,7 +51,7 @@ private Q_SLOTS:
         FakeDoor door;
         QWidget page;
         const LengthField length(door, &page, upTo50000(Sends::Always), "250");
-        QCOMPARE(door.record().text(key), QString("6350"));
+        QCOMPARE(door.record().text(anyKey), QString("6350"));
         QCOMPARE(door.takeCalls(), QStringList());
         QCOMPARE(door.connections(),
                  QStringList("m_pAnyLE editingFinished() on_m_pAnyLE_editingFinished()"));
@@ -84,11 +84,11 @@ private Q_SLOTS:
         door.accepts = row.isAccepted;
         door.hostUnits.tell(row.metric);
         QString whenSent;
-        door.onSend = [&] { whenSent = door.record().text(key); };
+        door.onSend = [&] { whenSent = door.record().text(anyKey); };
         type(field, "10");
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(field.text(), row.shown);
-        QCOMPARE(door.record().text(key), row.stored);
+        QCOMPARE(door.record().text(anyKey), row.stored);
         QCOMPARE(door.takeCalls(), QStringList("length 10 up to 50000") +
                                        (row.sent ? QStringList("record") : QStringList()));
         QCOMPARE(whenSent, row.sent ? row.stored : QString());
@@ -123,7 +123,7 @@ private Q_SLOTS:
         field.changeUnit(false);
         QCOMPARE(field.unitLabel()->text(), labels[2]);
         QCOMPARE(field.text(), QString("10"));
-        QCOMPARE(door.record().text(key), QString("254"));
+        QCOMPARE(door.record().text(anyKey), QString("254"));
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
@@ -150,24 +150,24 @@ private Q_SLOTS:
         PitchField field(door, &page, line(Sends::WhenAccepted));
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
         QCOMPARE(field.unitLabel()->text(), QString("my"));
-        QCOMPARE(door.record().text(key), QString("0"));
+        QCOMPARE(door.record().text(anyKey), QString("0"));
         type(field, "-10");
         QTest::keyClick(&field, Qt::Key_Return);
-        QCOMPARE(door.record().text(key), QString("-254"));
+        QCOMPARE(door.record().text(anyKey), QString("-254"));
         QCOMPARE(door.takeCalls(), (QStringList{"coordinate -10", "record"}));
 
         door.accepts = false;
         type(field, "99");
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(field.text(), QString("0"));
-        QCOMPARE(door.record().text(key), QString("-254"));  // only the field falls back
+        QCOMPARE(door.record().text(anyKey), QString("-254"));  // only the field falls back
         QCOMPARE(door.takeCalls(), QStringList("coordinate 99"));
 
         door.accepts = true;
         field.clear();
         field.finish();
         QCOMPARE(field.text(), QString("0"));
-        QCOMPARE(door.record().text(key), QString("0"));
+        QCOMPARE(door.record().text(anyKey), QString("0"));
     }
 
     void number_data()
@@ -194,7 +194,7 @@ private Q_SLOTS:
             field.finish();
         }
         QCOMPARE(door.takeCalls(), (QStringList{"number 7 from -1 to 50", sent}));
-        QCOMPARE(door.record().text(key), QString("7"));
+        QCOMPARE(door.record().text(anyKey), QString("7"));
 
         door.accepts = false;
         field.setText("99");
@@ -203,7 +203,7 @@ private Q_SLOTS:
         }
         QCOMPARE(door.takeCalls(), QStringList("number 99 from -1 to 50"));  // once, and unsent
         QCOMPARE(field.text(), QString("7"));
-        QCOMPARE(door.record().text(key), QString("7"));
+        QCOMPARE(door.record().text(anyKey), QString("7"));
     }
 
     void text()
@@ -214,16 +214,16 @@ private Q_SLOTS:
                         [](const QString& text) { return text != "bad"; });
         type(field, "word");
         QTest::keyClick(&field, Qt::Key_Return);
-        QCOMPARE(door.record().text(key), QString("word"));
+        QCOMPARE(door.record().text(anyKey), QString("word"));
         QCOMPARE(door.takeCalls(), QStringList("record"));
 
         field.setText("bad");
         field.finish();
         QCOMPARE(field.text(), QString());
-        QCOMPARE(door.record().text(key), QString("word"));
+        QCOMPARE(door.record().text(anyKey), QString("word"));
         QCOMPARE(door.takeCalls(), QStringList());
         field.enter("bad");  // chosen elsewhere: not asked
-        QCOMPARE(door.record().text(key), QString("bad"));
+        QCOMPARE(door.record().text(anyKey), QString("bad"));
         QCOMPARE(door.takeCalls(), QStringList("record"));
     }
 
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QWidget page;
         TextField field(door, &page, line(Sends::Never), LineField::Pattern::Text, "a");
         field.enter("b");
-        QCOMPARE(door.record().text(key), QString("b"));
+        QCOMPARE(door.record().text(anyKey), QString("b"));
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
@@ -263,9 +263,9 @@ private Q_SLOTS:
         QWidget page;
         ChoiceField field(
             door, &page,
-            {"m_pAnyCMB", Caption::spoken("Any"), key, SLOT(on_Any_Changed()), Sends::Always},
+            {"m_pAnyCMB", Caption::spoken("Any"), anyKey, SLOT(on_Any_Changed()), Sends::Always},
             {{"first", "x"}, {"second", "y", false}}, stores);
-        const auto value = [&] { return door.record().map().value(key); };
+        const auto value = [&] { return door.record().map().value(anyKey); };
         QCOMPARE(value(), atFirst);
         QCOMPARE(value().type(), atFirst.type());
         QCOMPARE(field.accessibleName(), QString("Any"));
@@ -291,11 +291,11 @@ private Q_SLOTS:
         QWidget page;
         ChoiceField field(
             door, &page,
-            {"m_pAnyCMB", Caption::label("Any"), key, SLOT(on_Any_Changed()), Sends::Never},
+            {"m_pAnyCMB", Caption::label("Any"), anyKey, SLOT(on_Any_Changed()), Sends::Never},
             {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, "y");
-        QCOMPARE(door.record().text(key), QString("y"));
+        QCOMPARE(door.record().text(anyKey), QString("y"));
         field.setCurrentText("first");
-        QCOMPARE(door.record().text(key), QString("x"));
+        QCOMPARE(door.record().text(anyKey), QString("x"));
         QCOMPARE(door.takeCalls(), QStringList());
         field.setCurrentText("second");
         field.retranslate();
@@ -309,16 +309,16 @@ private Q_SLOTS:
         QWidget page;
         FlagField field(
             door, &page,
-            {"m_pAnyCB", Caption::own("Any"), key, SLOT(on_Any_Changed(int)), Sends::Always}, true,
-            {"yes", "no"});
+            {"m_pAnyCB", Caption::own("Any"), anyKey, SLOT(on_Any_Changed(int)), Sends::Always},
+            true, {"yes", "no"});
         QCOMPARE(field.text(), QString("Any"));
         QVERIFY(field.isChecked());
-        QCOMPARE(door.record().text(key), QString("yes"));
+        QCOMPARE(door.record().text(anyKey), QString("yes"));
         field.setChecked(false);
-        QCOMPARE(door.record().text(key), QString("no"));
+        QCOMPARE(door.record().text(anyKey), QString("no"));
         QCOMPARE(door.takeCalls(), QStringList("record"));
         field.storeAs(true);
-        QCOMPARE(door.record().text(key), QString("yes"));
+        QCOMPARE(door.record().text(anyKey), QString("yes"));
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
@@ -328,18 +328,18 @@ private Q_SLOTS:
         QWidget page;
         RadioField field(
             door, &page,
-            Field::Details{"m_pAnyBG", Caption::none(), key, SLOT(on_Any_Clicked(QAbstractButton*)),
-                           Sends::Always}
+            Field::Details{"m_pAnyBG", Caption::none(), anyKey,
+                           SLOT(on_Any_Clicked(QAbstractButton*)), Sends::Always}
                 .asDirection(),
             RadioField::Look::Tool,
             {{"m_pOneTB", "Free1.jpg", "One", "1"}, {"m_pTwoTB", "Ver1.jpg", "Two", "2"}});
-        QCOMPARE(door.record().map().value(key), QVariant("1"));
+        QCOMPARE(door.record().map().value(anyKey), QVariant("1"));
         QCOMPARE(field.checkedId(), 0);
         QCOMPARE(field.button(1)->toolTip(), QString("Two"));
         QCOMPARE(field.button(1)->accessibleName(), QString("Two"));
         QVERIFY(qobject_cast<QToolButton*>(field.button(1))->autoRaise());
         field.button(1)->click();
-        QCOMPARE(door.record().map().value(key), QVariant(2));
+        QCOMPARE(door.record().map().value(anyKey), QVariant(2));
         QCOMPARE(door.takeCalls(), QStringList("direction"));
     }
 
@@ -419,7 +419,7 @@ private Q_SLOTS:
                                     LengthField::Unit::AsShown);
             QCOMPARE(field.text(), QString(isMetric ? "609.6" : "24"));
             QCOMPARE(field.unitLabel()->text(), QString(isMetric ? "my" : "mil"));
-            QCOMPARE(door.record().text(key), QString("609.6"));
+            QCOMPARE(door.record().text(anyKey), QString("609.6"));
         }
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
     }

@@ -109,6 +109,7 @@ private Q_SLOTS:
                 fixture.type(field, typed);
             }
             fixture.openHostBox();
+            settle();
             QCOMPARE(fixture.boxes.takeTexts(), (BoxTextList{{"Host", "Elsewhere"}}));
             QCOMPARE(fixture.recorder.codes(), codes);
         }
