@@ -2,6 +2,7 @@
 
 #include "addfeature/AttributeRow.h"
 #include "addfeature/SymbolEntry.h"
+#include "addfeature/SymbolField.h"
 #include "addfeature/fields/ChoiceField.h"
 #include "addfeature/fields/RadioField.h"
 #include "addfeature/pages/ArcPage.h"
@@ -15,7 +16,6 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QScopeGuard>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -26,17 +26,17 @@ namespace {
 
 constexpr int dialogWidth = 350;
 constexpr int maximumRotation = 360;
-constexpr int notMirrored = 1;
 
 }  // namespace
 
 AddFeature::AddFeature(void* ownerContext, std::string job, std::string step, QWidget* parent)
     : QWidget(parent, Qt::Window),
-      m_ownerContext(ownerContext),
+      m_hostWidget(static_cast<QWidget*>(ownerContext)),
       m_job(std::move(job)),
       m_step(std::move(step)),
       m_canvas(ownerContext),
-      m_checks(m_refusals, this, ownerContext)
+      m_units(m_hostWidget),
+      m_checks(m_refusals, m_units, this, m_hostWidget)
 {
     setObjectName(QStringLiteral("AddFeature"));
     setFixedWidth(dialogWidth);
@@ -53,15 +53,16 @@ AddFeature::~AddFeature() = default;
 
 void AddFeature::buildTypeRow(QVBoxLayout* layout)
 {
-    m_pFeatureBG = new RadioField(*this, this,
-                                  {"m_pFeatureBG", Caption::none(), RecordKeys::features,
-                                   SLOT(onFeatureButtonClicked(QAbstractButton*)), Sends::Always},
-                                  RadioField::Look::Tool,
-                                  {{"m_pLineTB", "Line1.jpg", QT_TR_NOOP("Line")},
-                                   {"m_pPadTB", "Pad1.jpg", QT_TR_NOOP("Pad")},
-                                   {"m_pSurfaceTB", "Surf1.jpg", QT_TR_NOOP("Surface")},
-                                   {"m_pArcTB", "Arc1.jpg", QT_TR_NOOP("Arc")},
-                                   {"m_pTextTB", "Text1.jpg", QT_TR_NOOP("Text")}});
+    m_pFeatureBG =
+        new RadioField(*this, this,
+                       {"m_pFeatureBG", Caption::none(), RecordKeys::features,
+                        SLOT(onFeatureButtonClicked(QAbstractButton*)), Sends::Always},
+                       RadioField::Look::Tool,
+                       {{"m_pLineTB", "Line1.jpg", QT_TR_NOOP("Line"), FeatureKind::line},
+                        {"m_pPadTB", "Pad1.jpg", QT_TR_NOOP("Pad"), FeatureKind::pad},
+                        {"m_pSurfaceTB", "Surf1.jpg", QT_TR_NOOP("Surface"), FeatureKind::surface},
+                        {"m_pArcTB", "Arc1.jpg", QT_TR_NOOP("Arc"), FeatureKind::arc},
+                        {"m_pTextTB", "Text1.jpg", QT_TR_NOOP("Text"), FeatureKind::text}});
     QHBoxLayout* const row = m_pFeatureBG->createRow();
     row->addStretch();
     layout->addLayout(row);
@@ -86,7 +87,7 @@ void AddFeature::buildCommonRows(QVBoxLayout* layout)
                         {"m_pMirrorCMB", Caption::spoken(QT_TR_NOOP("Mirror")), RecordKeys::mirror,
                          SLOT(on_m_pMirrorCMB_ComboBox_Changed()), Sends::Always},
                         {{QT_TR_NOOP("Mir"), Mirror::yes}, {QT_TR_NOOP("No Mir"), Mirror::no}},
-                        ChoiceField::Stores::Text, notMirrored);
+                        ChoiceField::Stores::Text, Mirror::no);
     m_pMirrorCMB->hide();
     layout->addWidget(m_pMirrorCMB);
 
@@ -168,21 +169,6 @@ void AddFeature::sendAttributes(const std::map<std::string, std::string>& attrib
     m_canvas.sendAttributes(attributes);
 }
 
-bool AddFeature::checkLength(const QString& text, double boundInMil)
-{
-    return m_checks.length(text, boundInMil, m_metric);
-}
-
-bool AddFeature::checkCoordinate(double value)
-{
-    return m_checks.coordinate(value, m_metric);
-}
-
-bool AddFeature::checkNumber(double value, double minimum, double maximum)
-{
-    return m_checks.number(value, minimum, maximum);
-}
-
 void AddFeature::connectToSlot(QObject* sender, const char* signal, const char* slot)
 {
     connect(sender, signal, this, slot);
@@ -240,7 +226,7 @@ void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
     m_pFeatureBG->storeChoice();
     if (id >= 0 && id < m_pages.size()) {
         const bool isPlaced = type == FeatureType::Pad || type == FeatureType::Text;
-        m_symbol->applyFeatureType();
+        m_symbol->m_pSymbolTextLE->applyFeatureType();
         m_symbol->setControlsVisible(hasSymbol());
         m_attributes->setFillEnabled(type == FeatureType::Surface);
         m_pMirrorCMB->setVisible(isPlaced);
@@ -263,34 +249,10 @@ bool AddFeature::hasSymbol() const
     return type != FeatureType::Surface && type != FeatureType::Text;
 }
 
-/// Has the host check the symbol, and removes a refused one from field and record.
-bool AddFeature::isSymbolAccepted()
-{
-    const QString symbol = m_symbol->text();
-    if (!symbol.isEmpty() && symbol == m_checkedSymbol) {
-        return false;  // re-entered from the box of its refusal
-    }
-    bool isAccepted = false;
-    m_refusals.run(m_symbol->field(), [this, &symbol, &isAccepted] {
-        const QPointer<AddFeature> self(this);
-        const QString outer = std::exchange(m_checkedSymbol, symbol);
-        const auto checked = qScopeGuard([self, outer] {
-            if (self) {
-                self->m_checkedSymbol = outer;
-            }
-        });
-        isAccepted = m_symbol->isSpecial(symbol) || m_checks.symbolSizes(symbol);
-        if (self && !isAccepted) {
-            m_symbol->dropRefused(symbol);
-        }
-    });
-    return isAccepted;
-}
-
 void AddFeature::getChangeCurrentTool()
 {
     m_closing = false;
-    if (!hasSymbol() || isSymbolAccepted()) {
+    if (!hasSymbol() || m_symbol->m_pSymbolTextLE->isAccepted()) {
         m_canvas.sendRecord(m_record.map());
     }
 }
@@ -302,26 +264,27 @@ void AddFeature::on_m_pAngleValueSB_editingFinished()
 
 void AddFeature::storeRotation()
 {
-    m_symbol->storeRotation(m_symbol->suffixDegrees());
+    m_symbol->m_pSymbolTextLE->storeRotation();
     getChangeCurrentTool();
 }
 
 void AddFeature::on_m_pSymbolTextLE_editingFinished()
 {
     if (m_closing) {
-        m_symbol->dropEntry();  // closing the window takes the focus: not an entry by the user
+        m_symbol->m_pSymbolTextLE
+            ->dropEntry();  // closing the window takes the focus: not an entry by the user
     } else {
-        m_symbol->finish();
+        m_symbol->m_pSymbolTextLE->finish();
     }
 }
 
 void AddFeature::change_current_units(bool isMM)
 {
-    m_metric = isMM;
+    m_units.tell(isMM);
     for (Page* const page : std::as_const(m_pages)) {
         page->changeUnit(isMM);
     }
-    m_symbol->changeUnit(isMM);
+    m_symbol->m_pSymbolTextLE->changeUnit(isMM);
     Q_EMIT unit_changed();
 }
 

@@ -3,6 +3,7 @@
 #include "addfeature/record/CanvasLink.h"
 #include "addfeature/record/DialogDoor.h"
 #include "addfeature/record/FeatureRecord.h"
+#include "addfeature/record/HostUnits.h"
 #include "addfeature/record/RefusalGuard.h"
 #include "addfeature/record/ValueChecks.h"
 
@@ -152,8 +153,9 @@ private:
     // The door
     FeatureRecord& record() override { return m_record; }
     RefusalGuard& refusals() override { return m_refusals; }
-    bool isMetric() const override { return m_metric; }
-    void* ownerContext() const override { return m_ownerContext; }
+    const HostUnits& units() const override { return m_units; }
+    const ValueChecks& checks() const override { return m_checks; }
+    QWidget* hostWidget() const override { return m_hostWidget; }
     const std::string& job() const override { return m_job; }
     const std::string& step() const override { return m_step; }
     FeatureType featureType() const override;
@@ -162,9 +164,6 @@ private:
     void sendRecord() override { getChangeCurrentTool(); }
     void sendDirection() override { m_canvas.sendDirection(m_record.map()); }
     void sendAttributes(const std::map<std::string, std::string>& attributes) override;
-    bool checkLength(const QString& text, double boundInMil) override;
-    bool checkCoordinate(double value) override;
-    bool checkNumber(double value, double minimum, double maximum) override;
     bool restoreCommonRows() override;
     void hideAttributeRows() override;
     void hidePlacementRows() override;
@@ -179,19 +178,17 @@ private:
     void showPage(const Page* chosen);
     void stayAbove(const QObject* active);
     bool hasSymbol() const;
-    bool isSymbolAccepted();
     void storeRotation();
 
-    void* m_ownerContext;
+    QWidget* m_hostWidget;
     QPointer<Canvas_Tool_Strip> m_toolStrip;
     std::string m_job;
     std::string m_step;
-    bool m_metric = false;
     bool m_closing = false;
-    QString m_checkedSymbol;  // while the host checks it, with or without a box
     FeatureRecord m_record;
     CanvasLink m_canvas;
     RefusalGuard m_refusals;
+    HostUnits m_units;
     ValueChecks m_checks;
 
     RadioField* m_pFeatureBG = nullptr;  // in the order of FeatureType

@@ -4,6 +4,7 @@
 #include "addfeature/AddFeature.h"
 #include "addfeature/AttributeRow.h"
 #include "addfeature/SymbolEntry.h"
+#include "addfeature/SymbolField.h"
 #include "addfeature/pages/ArcPage.h"
 #include "addfeature/pages/LinePage.h"
 #include "addfeature/pages/PadPage.h"
@@ -14,14 +15,14 @@
 
 // clang-format off
 // Driven by the toolbar and the choosers
-void AddFeature::receive_text(QString symbolName) { m_symbol->chosen(symbolName); }
+void AddFeature::receive_text(QString symbolName) { m_symbol->m_pSymbolTextLE->choose(symbolName); }
 void AddFeature::forward_Attribute_Info(std::vector<std::pair<std::string, std::string>> att)
     { Q_EMIT send_attributeinfo_list(std::move(att)); }
 void AddFeature::refresh_symbolselection_user_list() { m_symbol->readChooser(); }
 void AddFeature::get_ChangeSymbol_Info(std::map<int, std::string> symbols) { m_symbol->picked(symbols); }
 
 // Buttons of the pages
-void AddFeature::on_Line_Button_Clicked(QAbstractButton* /*button*/) { m_line->chooseDirection(); }
+void AddFeature::on_Line_Button_Clicked(QAbstractButton* /*button*/) { m_line->m_pDirectionBG->change(); }
 void AddFeature::on_Text_clicked() { m_text->openSpecialTexts(); }
 void AddFeature::get_font_name(QString name) { m_text->m_pFontLE->enter(name); }
 void AddFeature::get_Special_TEXT(QString s) { m_text->m_pTextLE->enter(QStringLiteral("$$") + s); }
@@ -30,14 +31,14 @@ void AddFeature::get_Special_TEXT(QString s) { m_text->m_pTextLE->enter(QStringL
 void AddFeature::on_m_pPolarityCMB_ComboBox_Changed() { m_pPolarityCMB->change(); }
 void AddFeature::on_m_pMirrorCMB_ComboBox_Changed() { m_pMirrorCMB->change(); }
 void AddFeature::on_Line_ComboBox_Changed() { m_line->chooseKind(); }
-void AddFeature::on_CornerTypre_ComboBox_Changed() { m_line->chooseCorner(); }
+void AddFeature::on_CornerTypre_ComboBox_Changed() { m_line->m_pCornerTypeCMB->change(); }
 void AddFeature::on_m_pSlotPlatedCMB_ComboBox_Changed() { m_line->m_pSlotPlatedCMB->change(); }
 void AddFeature::on_SurfShape_ComboBox_Changed() { m_surface->m_pSurfShapeCMB->change(); }
-void AddFeature::on_ArcAndCircle_ComboBox_Changed() { m_arc->chooseArcOrCircle(); }
+void AddFeature::on_ArcAndCircle_ComboBox_Changed() { m_arc->m_pArcAndCircleCMB->change(); }
 void AddFeature::on_Arc_ComboBox_Changed() { m_arc->m_pArcCMB->change(); }
 void AddFeature::on_Circle_ComboBox_Changed() { m_arc->m_pCircleCMB->change(); }
 void AddFeature::on_Textformart_ComboBox_Changed() { m_text->chooseFormat(); }
-void AddFeature::on_UPC_ComboBox_Changed() { m_text->m_barcode->chooseType(); }
+void AddFeature::on_UPC_ComboBox_Changed() { m_text->m_barcode->m_pUPCCMB->change(); }
 void AddFeature::on_m_pPositionCMB_ComboBox_Changed() { m_text->m_barcode->m_pPositionCMB->change(); }
 void AddFeature::on_m_pOrbotechTypeCMB_ComboBox_Changed() { m_text->m_plotStamp->m_pOrbotechTypeCMB->change(); }
 void AddFeature::on_m_pOrbotechFontSizeCMB_ComboBox_Changed() { m_text->m_plotStamp->m_pOrbotechFontSizeCMB->change(); }
@@ -48,7 +49,7 @@ void AddFeature::on_m_pCannedHoleSizeCMB_ComboBox_Changed() { m_text->m_cannedTe
 void AddFeature::on_ClockWise_CheckState_Changed(int /*arg1*/) { m_arc->m_pClockWiseCB->change(); }
 void AddFeature::on_Attribute_CheckState_Changed(int /*arg1*/) { m_attributes->stateChanged(); }
 void AddFeature::on_m_pClosedCB_CheckState_Changed(int /*arg1*/) { m_line->m_pClosedCB->change(); }
-void AddFeature::on_AddString_CheckState_Changed(int /*arg1*/) { m_text->m_barcode->chooseString(); }
+void AddFeature::on_AddString_CheckState_Changed(int /*arg1*/) { m_text->m_barcode->m_pAddStringCB->change(); }
 void AddFeature::on_m_pBackgroundCB_CheckState_Changed(int /*arg1*/) { m_text->m_barcode->chooseBackground(); }
 void AddFeature::on_m_pAddMarkersCB_CheckState_Changed(int /*arg1*/) { m_text->m_barcode->m_pAddMarkersCB->change(); }
 
@@ -62,7 +63,7 @@ void AddFeature::on_m_pTextPB_clicked() {}
 void AddFeature::on_m_pMatrixPB_clicked() {}
 
 // Fields
-void AddFeature::Enter_Symbol_Text() { m_symbol->enterText(); }
+void AddFeature::Enter_Symbol_Text() { m_symbol->m_pSymbolTextLE->enterText(); }
 void AddFeature::on_m_pAngleLE_editingFinished() { m_line->m_pAngleLE->finish(); }
 void AddFeature::on_m_pCornerRadiusLE_editingFinished() { m_line->m_pCornerRadiusLE->finish(); }
 void AddFeature::on_m_pLengthLE_editingFinished() { m_line->m_pLengthLE->finish(); }
@@ -82,15 +83,15 @@ void AddFeature::on_m_pLineWidthLE_editingFinished() { m_text->m_strings->m_pLin
 void AddFeature::on_m_pHeightLE_editingFinished() { m_text->m_barcode->m_pHeightLE->finish(); }
 void AddFeature::on_m_pMatrixLE_editingFinished() { m_text->m_barcode->m_pMatrixLE->finish(); }
 void AddFeature::on_m_pCannedHoleSizeLE_editingFinished() { m_text->m_cannedText->m_pCannedHoleSizeLE->finish(); }
-void AddFeature::on_m_pSymbolTextLE_textChanged(QString text) { m_symbol->noteText(text); }
-void AddFeature::on_m_pSymbolTextLE_returnPressed() { m_symbol->returnPressed(); }
+void AddFeature::on_m_pSymbolTextLE_textChanged(QString text) { m_symbol->m_pSymbolTextLE->noteText(text); }
+void AddFeature::on_m_pSymbolTextLE_returnPressed() { m_symbol->m_pSymbolTextLE->cutAtCursor(); }
 
 // Fill, attributes, pick from the board
 void AddFeature::on_m_pFillPB_clicked() { m_canvas.sendFill(); }
 void AddFeature::set_attribute_color() { m_attributes->setColor(); }
 void AddFeature::reset_attribute_color() { m_attributes->resetColor(); }
 void AddFeature::get_attribute_list(std::vector<std::pair<std::string, std::string>> attr_list)
-    { m_attributes->setList(std::move(attr_list)); }
+    { m_attributes->setList(attr_list); }
 void AddFeature::on_m_pSelectFromEditorPB_clicked() { m_symbol->togglePick(); Q_EMIT Select_symbol(); }
 void AddFeature::get_attribute_signal() { m_canvas.sendSelectFromEditor(); }
 // clang-format on

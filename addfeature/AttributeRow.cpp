@@ -1,29 +1,30 @@
 #include "addfeature/AttributeRow.h"
 
-#include "addfeature/record/DialogDoor.h"
-#include "addfeature/record/FeatureRecord.h"
+#include "addfeature/fields/ButtonField.h"
+#include "addfeature/fields/FlagField.h"
 #include "plugin/RecordKeys.h"
 
 #include <common_widgets.h>
 
-#include <QCheckBox>
 #include <QHBoxLayout>
-#include <QPushButton>
-
-#include <utility>
 
 AttributeRow::AttributeRow(DialogDoor& door, QWidget* dialog)
     : QWidget(dialog),
       m_door(door),
       m_dialog(dialog),
-      m_pAttributesCB(new QCheckBox(this)),
-      m_pValuesPB(new QPushButton(this)),
-      m_pFillPB(new QPushButton(this))
+      m_pAttributesCB(new FlagField(
+          door, this,
+          {"m_pAttributesCB", Caption::own(QT_TR_NOOP("Attributes")), RecordKeys::attributes,
+           SLOT(on_Attribute_CheckState_Changed(int)), Sends::Never},
+          false, {HasAttributes::yes, HasAttributes::no})),
+      m_pValuesPB(new ButtonField(door, this,
+                                  {"m_pValuesPB", Caption::own(QT_TR_NOOP("Values...")), QString(),
+                                   SLOT(on_m_pValuesPB_clicked()), Sends::Never})),
+      m_pFillPB(new ButtonField(door, this,
+                                {"m_pFillPB", Caption::own(QT_TR_NOOP("Fill...")), QString(),
+                                 SLOT(on_m_pFillPB_clicked()), Sends::Never}))
 {
     setObjectName(QStringLiteral("m_pAttributesWidget"));
-    m_pAttributesCB->setObjectName(QStringLiteral("m_pAttributesCB"));
-    m_pValuesPB->setObjectName(QStringLiteral("m_pValuesPB"));
-    m_pFillPB->setObjectName(QStringLiteral("m_pFillPB"));
     m_pValuesPB->setVisible(false);
     m_pFillPB->setEnabled(false);
 
@@ -32,20 +33,14 @@ AttributeRow::AttributeRow(DialogDoor& door, QWidget* dialog)
     row->addWidget(m_pAttributesCB);
     row->addWidget(m_pValuesPB);
     row->addWidget(m_pFillPB);
-    retranslate();
-    m_door.record().set(RecordKeys::attributes, HasAttributes::no);
-
-    door.connectToSlot(m_pAttributesCB, SIGNAL(stateChanged(int)),
-                       SLOT(on_Attribute_CheckState_Changed(int)));
-    door.connectToSlot(m_pValuesPB, SIGNAL(clicked()), SLOT(on_m_pValuesPB_clicked()));
-    door.connectToSlot(m_pFillPB, SIGNAL(clicked()), SLOT(on_m_pFillPB_clicked()));
 }
 
 void AttributeRow::retranslate()
 {
-    m_pAttributesCB->setText(tr("Attributes"));
-    m_pValuesPB->setText(tr("Values..."));
-    m_pFillPB->setText(tr("Fill..."));
+    for (Field* const field :
+         std::initializer_list<Field*>{m_pAttributesCB, m_pValuesPB, m_pFillPB}) {
+        field->retranslate();
+    }
 }
 
 void AttributeRow::restore()
@@ -77,7 +72,7 @@ void AttributeRow::setFillEnabled(bool enabled)
 void AttributeRow::stateChanged()
 {
     const bool checked = m_pAttributesCB->isChecked();
-    m_door.record().set(RecordKeys::attributes, checked ? HasAttributes::yes : HasAttributes::no);
+    m_pAttributesCB->storeAs(checked);
     setShown(m_pValuesPB, checked);
     if (!checked) {
         m_attributes.clear();
@@ -117,16 +112,13 @@ void AttributeRow::resetColor()
     m_pValuesPB->setStyleSheet(QStringLiteral("background-color:none"));
 }
 
-void AttributeRow::setList(std::vector<std::pair<std::string, std::string>> attributes)
+void AttributeRow::setList(const std::vector<std::pair<std::string, std::string>>& attributes)
 {
     if (!m_pAttributesCB->isChecked()) {
         return;
     }
     m_attributes.clear();
-    for (auto& [name, value] : attributes) {
-        // Names mostly come in order.
-        m_attributes.emplace_hint(m_attributes.end(), std::move(name), std::move(value));
-    }
+    m_attributes.insert(attributes.begin(), attributes.end());
     m_door.sendAttributes(m_attributes);
 }
 

@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
+class ButtonField;
 class DialogDoor;
-class QCheckBox;
-class QPushButton;
+class FlagField;
 class Widget_Attributes;
 
 /// The attribute row of the dialog: check box, "Values..." and "Fill..." buttons, and the attribute
@@ -38,7 +38,7 @@ public:
     void setColor();
     void resetColor();
     /// Takes the list that the attribute window applied.
-    void setList(std::vector<std::pair<std::string, std::string>> attributes);
+    void setList(const std::vector<std::pair<std::string, std::string>>& attributes);
 
     void closePopups();
 
@@ -47,9 +47,9 @@ private:
 
     DialogDoor& m_door;
     QWidget* m_dialog;
-    QCheckBox* m_pAttributesCB;
-    QPushButton* m_pValuesPB;
-    QPushButton* m_pFillPB;
+    FlagField* const m_pAttributesCB;
+    ButtonField* const m_pValuesPB;
+    ButtonField* const m_pFillPB;
     QPointer<Widget_Attributes> m_window;
     std::map<std::string, std::string> m_attributes;  // passed by address with each code 51
 };

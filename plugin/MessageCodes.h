@@ -20,7 +20,7 @@ enum Code : int {
     RectangleSelection = 20000203,
     FeatureSelectionOff = 20000204,
     RectangleSelectionOff = 20000205,
-    DeleteFeature = 20000206,  ///< extra: 0 delete feature, 1 delete to intersection
+    DeleteFeature = 20000206,  ///< extra: DeleteMode
     MoveFeature = 20000207,
     CopyFeature = 20000208,
     ChangeLineAngle = 20000211,
@@ -51,7 +51,7 @@ enum Code : int {
     AddFeatureStarted = 20000246,  ///< to "Canvas_JobTree.dll", on every click
     MoveTripletOff = 20000249,
     RerouteTraceOff = 20000250,
-    Mark = 20000266,  ///< extra: 0 orthogonal, 1 point to point
+    Mark = 20000266,  ///< extra: MarkMode
     MarkSettings = 20000268,
     SelectSymbol = 20001405,  ///< the dialog asks for a symbol picked on the board
     DialogsClosed = 20003950,

@@ -2,7 +2,6 @@
 
 #include "addfeature/AddFeature.h"
 #include "plugin/Guard.h"
-#include "plugin/MessageCodes.h"
 
 #include <common_widgets.h>
 #include <ui_api.h>
@@ -34,15 +33,16 @@ void applyStart(QToolButton* button, ToolTable::Start start)
 
 }  // namespace
 
-Canvas_Tool_Strip::Canvas_Tool_Strip(QWidget* parent)
-    : m_parent(parent), m_selectionMode(MessageCodes::Sent::SelectLayerNet)
+Canvas_Tool_Strip::Canvas_Tool_Strip(QWidget* parent) : m_parent(parent)
 {
     if (m_parent) {
         m_parent->setFocusPolicy(Qt::NoFocus);
         connect(m_parent, &QObject::destroyed, this, &Canvas_Tool_Strip::forgetParent);
     }
     createButtons();
-    for (const ToolTable::Menu& menu : ToolTable::menus()) {
+    for (int which = 0; which < ToolTable::menuCount; ++which) {
+        const ToolTable::Menu& menu = ToolTable::menus()[which];
+        variantOf(static_cast<ToolMenu>(which)) = &*menu.entries.front().variant;
         button(menu.owner)->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(button(menu.owner), SIGNAL(customContextMenuRequested(QPoint)), this,
                 menu.openSlot);
@@ -66,7 +66,7 @@ void Canvas_Tool_Strip::createButtons()
         tool->setCheckable(true);
         tool->setAutoRaise(true);  // the pictures bring their own frame
         applyStart(tool, row.start);
-        tool->setStyleSheet(ToolTable::styleSheet(row.image, row.checkedImage, row.imageProperty));
+        tool->setStyleSheet(ToolTable::styleSheet(row.pictures, row.imageProperty));
         addWidget(tool, index / columns, index % columns);
         m_buttons.append(tool);
         connect(tool, SIGNAL(clicked()), this, row.clickSlot);

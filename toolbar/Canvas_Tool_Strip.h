@@ -119,16 +119,18 @@ public Q_SLOTS:
     void on_m_mark_setting_clicked();
 
 private:
-    struct Variant;
-
     void createButtons();
     void forgetParent();
     void createAddFeatureDialog();
-    void createMeasurePopup();
 
     QToolButton* button(Tool tool) const;  // null for Area Zoom when the parent widget is gone
-    void activate(Tool tool, qint64 extra = 0);
-    void activateVariant(Tool tool, const Variant& variant);
+    void activate(Tool tool);
+    /// The variant that is in force in the menu.
+    void activateVariant(ToolMenu menu);
+    /// Puts the variant with that code and mode in force, and activates it. Without such a variant
+    /// the tool keeps its pictures, and sends Unset.
+    void chooseVariant(ToolMenu menu, int code, int mode = 0);
+    const ToolTable::Variant*& variantOf(ToolMenu menu);
     void send(int code, qint64 extra = 0);
     void sendAs(const QString& sender, const QString& receiver, int code, qint64 extra = 0);
     QMenu* createMenu(const ToolTable::Menu& row);
@@ -157,13 +159,12 @@ private:
     // The parent widget may be deleted before this object, and its children with it.
     QPointer<QWidget> m_parent;
     QList<QToolButton*> m_buttons;  // in the order of Tool; see forgetParent()
-    // In the order of ToolMenu; each is created on its first right-click.
+    // Both in the order of ToolMenu. Each menu is created on its first right-click. No variant: the
+    // one that was asked for does not exist.
     std::array<QPointer<QMenu>, ToolTable::menuCount> m_menus;
+    std::array<const ToolTable::Variant*, ToolTable::menuCount> m_variants{};
     QPointer<AddFeature> m_addFeature;
     QPointer<Grc_Tbe_measurepopup> m_measurePopup;
     std::string m_job = " ";
     std::string m_step;
-    int m_selectionMode;
-    int m_deleteMode = 0;
-    int m_markMode = 0;
 };

@@ -104,11 +104,7 @@ void Canvas_Tool_Strip::send_AttributePoint_Info(const PluginMetaData& message)
 {
     if (const auto* const attributes =
             ExtraWord::object<std::map<std::string, std::string>>(message.extra)) {
-        std::vector<std::pair<std::string, std::string>> list;
-        list.reserve(attributes->size());  // otherwise the map is walked once just to be counted
-        for (const auto& attribute : *attributes) {
-            list.emplace_back(attribute);
-        }
-        Q_EMIT send_Attribute_Info(std::move(list));
+        Q_EMIT send_Attribute_Info(std::vector<std::pair<std::string, std::string>>(
+            attributes->begin(), attributes->end()));
     }
 }

@@ -58,12 +58,12 @@ void Canvas_Tool_Strip::send(int code, qint64 extra)
     sendAs(ModuleNames::toolStrip, ModuleNames::viewer, code, extra);
 }
 
-void Canvas_Tool_Strip::activate(Tool tool, qint64 extra)
+void Canvas_Tool_Strip::activate(Tool tool)
 {
     SetAllButtonchecked(false, button(tool));
     const ToolTable::Row& row = ToolTable::row(tool);
     const bool isChecked = isToolButtonChecked(static_cast<int>(tool));
-    sendAs(*row.sender, ModuleNames::viewer, isChecked ? row.onCode : row.offCode, extra);
+    sendAs(*row.sender, ModuleNames::viewer, isChecked ? row.onCode : row.offCode);
 }
 
 void Canvas_Tool_Strip::On_AreaZoom_Clicked()
@@ -83,7 +83,7 @@ void Canvas_Tool_Strip::On_FeatHighLight_Clicked()
 
 void Canvas_Tool_Strip::On_DeleteFeat_Clicked()
 {
-    activate(Tool::DeleteFeature, m_deleteMode);
+    activateVariant(ToolMenu::Delete);
 }
 
 void Canvas_Tool_Strip::On_MoveFeature_Clicked()
@@ -173,7 +173,7 @@ void Canvas_Tool_Strip::On_PolygonSelection_Clicked()
 
 void Canvas_Tool_Strip::on_mark_clicked()
 {
-    activate(Tool::Mark, m_markMode);
+    activateVariant(ToolMenu::Mark);
 }
 
 void Canvas_Tool_Strip::on_m_pEqTB_clecked()
@@ -183,43 +183,14 @@ void Canvas_Tool_Strip::on_m_pEqTB_clecked()
 
 void Canvas_Tool_Strip::On_SelectPolyline_Clicked()
 {
-    SetAllButtonchecked(false, button(Tool::SelectByNet));
-    On_SelectPolyline_Clicked(m_selectionMode);
+    // Chosen again: at first the button does not show the variant that is in force.
+    const ToolTable::Variant* const variant = variantOf(ToolMenu::Net);
+    On_SelectPolyline_Clicked(variant ? variant->code : Sent::Unset);
 }
-
-namespace {
-
-/// A mode of Select By Net. In two of the sheets the text after the second rule is outside any
-/// selector: deliberate.
-struct NetMode {
-    int code;
-    const char* image;
-    const char* checkedImage;
-    const char* trailingStyle;
-};
-
-constexpr NetMode netModes[] = {
-    {Sent::SelectPolyline, "Net selection2.jpg", "Net selection1.jpg", "border:2px solid red"},
-    {Sent::SelectLayerNet, "Net selection6.jpg", "Net selection5.jpg", ""},
-    {Sent::SelectBoardNet, "Net selection4.jpg", "Net selection3.jpg", "border:2px solid green"},
-};
-
-}  // namespace
 
 void Canvas_Tool_Strip::On_SelectPolyline_Clicked(int datatype)
 {
-    SetAllButtonchecked(false, button(Tool::SelectByNet));
-    m_selectionMode = datatype;
-    int code = Sent::Unset;
-    for (const NetMode& mode : netModes) {
-        if (mode.code == datatype) {
-            code = mode.code;
-            button(Tool::SelectByNet)
-                ->setStyleSheet(ToolTable::styleSheet(mode.image, mode.checkedImage) +
-                                QLatin1String(mode.trailingStyle));
-        }
-    }
-    send(code);
+    chooseVariant(ToolMenu::Net, datatype);
 }
 
 void Canvas_Tool_Strip::On_AddFeature_Clicked()

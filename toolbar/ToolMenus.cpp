@@ -1,6 +1,7 @@
 // The right-click menus of Delete Feature, Select By Net and Mark.
 
 #include "plugin/MessageCodes.h"
+#include "plugin/ToolModes.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <QAction>
@@ -9,13 +10,6 @@
 #include <QToolButton>
 
 namespace Sent = MessageCodes::Sent;
-
-/// A variant of a tool: its pictures, and the mode that goes out in the extra word.
-struct Canvas_Tool_Strip::Variant {
-    int mode;
-    const char* image;
-    const char* checkedImage;
-};
 
 QMenu* Canvas_Tool_Strip::createMenu(const ToolTable::Menu& row)
 {
@@ -66,22 +60,38 @@ void Canvas_Tool_Strip::on_mark_customContextMenuRequested(QPoint /*pos*/)
     openMenu(ToolMenu::Mark);
 }
 
-void Canvas_Tool_Strip::activateVariant(Tool tool, const Variant& variant)
+const ToolTable::Variant*& Canvas_Tool_Strip::variantOf(ToolMenu menu)
 {
-    button(tool)->setStyleSheet(ToolTable::styleSheet(variant.image, variant.checkedImage));
-    activate(tool, variant.mode);
+    return m_variants[static_cast<size_t>(menu)];
+}
+
+void Canvas_Tool_Strip::activateVariant(ToolMenu menu)
+{
+    SetAllButtonchecked(false, button(ToolTable::menu(menu).owner));
+    const ToolTable::Variant* const variant = variantOf(menu);
+    send(variant ? variant->code : Sent::Unset, variant ? variant->mode : 0);
+}
+
+void Canvas_Tool_Strip::chooseVariant(ToolMenu menu, int code, int mode)
+{
+    const ToolTable::Variant* const variant = ToolTable::variant(menu, code, mode);
+    variantOf(menu) = variant;
+    if (variant) {
+        button(ToolTable::menu(menu).owner)
+            ->setStyleSheet(ToolTable::styleSheet(variant->pictures) +
+                            QLatin1String(variant->trailingStyle));
+    }
+    activateVariant(menu);
 }
 
 void Canvas_Tool_Strip::on_m_delete_feature_clicked()
 {
-    m_deleteMode = 0;
-    activateVariant(Tool::DeleteFeature, {m_deleteMode, "delete1-gry.jpg", "delete1-gre.jpg"});
+    chooseVariant(ToolMenu::Delete, Sent::DeleteFeature, DeleteMode::feature);
 }
 
 void Canvas_Tool_Strip::on_m_delete_to_intersection_clicked()
 {
-    m_deleteMode = 1;
-    activateVariant(Tool::DeleteFeature, {m_deleteMode, "delete2-gry.jpg", "delete2-gre.jpg"});
+    chooseVariant(ToolMenu::Delete, Sent::DeleteFeature, DeleteMode::toIntersection);
 }
 
 void Canvas_Tool_Strip::On_pSelect_layer_net_triggered()
@@ -101,14 +111,12 @@ void Canvas_Tool_Strip::On_Select_polyline_triggered()
 
 void Canvas_Tool_Strip::on_m_mark_horizontalandvertical_clicked()
 {
-    m_markMode = 0;
-    activateVariant(Tool::Mark, {m_markMode, "markgry.png", "markgre.png"});
+    chooseVariant(ToolMenu::Mark, Sent::Mark, MarkMode::orthogonal);
 }
 
 void Canvas_Tool_Strip::on_m_mark_point2point_clicked()
 {
-    m_markMode = 1;
-    activateVariant(Tool::Mark, {m_markMode, "xie_grey.png", "xie_green.png"});
+    chooseVariant(ToolMenu::Mark, Sent::Mark, MarkMode::pointToPoint);
 }
 
 void Canvas_Tool_Strip::on_m_mark_setting_clicked()

@@ -57,16 +57,21 @@ struct Tip {
     const char* note;  ///< disambiguation; null: none
 };
 
+/// What a button shows: file names in the resource tree.
+struct Pictures {
+    const char* released;
+    const char* checked;
+};
+
 /// One tool.
 struct Row {
     const char* objectName;
-    Tip tip;            ///< tool tip at construction
-    const char* image;  ///< file names in the resource tree
-    const char* checkedImage;
+    Tip tip;  ///< tool tip at construction
+    Pictures pictures;
     Start start;
     const char* clickSlot;  ///< SLOT(...) that clicked() is connected to
     int onCode;             ///< sent by a standard handler while the button is checked; Unset:
-                            ///< the tool's handler is its own
+                            ///< the tool's handler is its own, or its variants have the codes
     int offCode;            ///< sent otherwise; equal to onCode for a tool with one code
     /// The tip after a language change, unless it is `tip` again; one without a text leaves the
     /// button alone.
@@ -75,12 +80,21 @@ struct Row {
     const QString* sender = &ModuleNames::toolStrip;  ///< the name that its messages go under
 };
 
+/// A way in which a tool works from the choice of a menu entry on.
+struct Variant {
+    int code;  ///< that the tool sends
+    int mode;  ///< in the extra word of that message
+    Pictures pictures;
+    const char* trailingStyle = "";  ///< behind the rules of the style sheet
+};
+
 /// An entry of a menu.
 struct MenuEntry {
     const char* objectName;
     const char* text;
     const char* laterText;  ///< after a language change; null: it keeps its text
     const char* slot;       ///< SLOT(...) that triggered(bool) is connected to
+    std::optional<Variant> variant = std::nullopt;  ///< none: it leaves the tool as it is
 };
 
 /// A right-click menu.
@@ -89,7 +103,7 @@ struct Menu {
     Tool owner;            ///< whose button opens it
     Tool parent;           ///< whose button it is a child of
     const char* openSlot;  ///< SLOT(...) that customContextMenuRequested(QPoint) is connected to
-    std::vector<MenuEntry> entries;
+    std::vector<MenuEntry> entries;  ///< the first is in force until another is chosen
 };
 
 using Rows = Row[toolCount];
@@ -101,10 +115,10 @@ const Row& row(Tool tool);
 /// In the order of ToolMenu.
 const Menus& menus();
 const Menu& menu(ToolMenu menu);
+/// The variant in that menu with that code and mode; null if there is none.
+const Variant* variant(ToolMenu menu, int code, int mode);
 
-/// The style sheet that shows `image`, and `checkedImage` while the button is checked, as
-/// `property`.
-QString styleSheet(const char* image, const char* checkedImage,
-                   const char* property = "background-image");
+/// The style sheet that shows the pictures as `property`.
+QString styleSheet(const Pictures& pictures, const char* property = "background-image");
 
 }  // namespace ToolTable

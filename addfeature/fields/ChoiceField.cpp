@@ -11,7 +11,7 @@ constexpr int flagsRole = Qt::UserRole - 1;
 }  // namespace
 
 ChoiceField::ChoiceField(DialogDoor& door, QWidget* page, const Details& details,
-                         const Choices& choices, Stores stores, int index)
+                         const Choices& choices, Stores stores, const QString& initial)
     : QComboBox(page), Field(door, this, page, details), m_choices(choices), m_stores(stores)
 {
     for (const Choice& choice : m_choices) {
@@ -19,15 +19,17 @@ ChoiceField::ChoiceField(DialogDoor& door, QWidget* page, const Details& details
         if (!choice.isSelectable) {
             setItemData(count() - 1, 0, flagsRole);
         }
+        if (choice.value == initial) {
+            setCurrentIndex(count() - 1);
+        }
     }
-    setCurrentIndex(index);
     if (m_stores == Stores::TextThenNumber) {
         store(chosen()->value);
     } else {
         storeChoice();
     }
     ChoiceField::retranslate();
-    connectSignal(SIGNAL(currentIndexChanged(QString)));
+    complete(SIGNAL(currentIndexChanged(QString)));
 }
 
 void ChoiceField::retranslate()
@@ -57,14 +59,19 @@ bool ChoiceField::storeChoice()
     const bool isText = m_stores == Stores::Text || m_stores == Stores::TextElseNumber;
     if (isText && chosen()) {
         store(chosen()->value);
-    } else if (m_stores != Stores::Text) {
-        store(currentIndex() + 1);
+        return true;
     }
-    return chosen();
+    if (m_stores == Stores::Text) {
+        return false;
+    }
+    store(currentIndex() + 1);
+    return true;
 }
 
 void ChoiceField::take()
 {
-    storeChoice();
+    if (storeChoice()) {
+        enableOthers();
+    }
     send();
 }

@@ -25,16 +25,15 @@ public:
         TextElseNumber,  ///< the item's value; 0
     };
 
-    /// The first item is chosen, or the one at `index`. Items that are not selectable are listed
-    /// but greyed out; only code can choose them.
+    /// The item with the value `initial` is chosen; without one the first. Items that are not
+    /// selectable are listed but greyed out; only code can choose them.
     ChoiceField(DialogDoor& door, QWidget* page, const Details& details, const Choices& choices,
-                Stores stores, int index = 0);
+                Stores stores, const QString& initial = {});
 
     void retranslate() override;
+    bool is(const QString& value) const override;
 
-    /// Whether the item with that value is chosen.
-    bool is(const QString& value) const;
-    /// Stores the choice and sends nothing. False for an index outside the list.
+    /// Stores the choice and sends nothing. False where nothing is stored.
     bool storeChoice();
 
 protected:

@@ -3,9 +3,12 @@
 #include "addfeature/record/FeatureRecord.h"
 #include "addfeature/record/RefusalGuard.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
+
+#include <algorithm>
 
 QString Caption::translated() const
 {
@@ -33,7 +36,7 @@ void Field::send(bool isAccepted)
         (m_details.sends == Sends::WhenAccepted && !isAccepted)) {
         return;
     }
-    if (m_details.message == Message::Direction) {
+    if (m_details.m_message == Message::Direction) {
         m_door.sendDirection();
     } else {
         m_door.sendRecord();
@@ -42,12 +45,34 @@ void Field::send(bool isAccepted)
 
 void Field::retranslate()
 {
+    const Caption& caption = m_details.caption;
     if (m_label) {
-        m_label->setText(m_details.caption.translated());
-    } else if (m_details.caption.kind == Caption::Kind::Spoken) {
-        widget()->setAccessibleName(m_details.caption.translated());
-        widget()->setToolTip(m_details.caption.translated());
+        m_label->setText(caption.translated());
+    } else if (caption.kind == Caption::Kind::Own) {
+        qobject_cast<QAbstractButton*>(m_control)->setText(caption.translated());
+    } else if (caption.kind == Caption::Kind::Spoken) {
+        widget()->setAccessibleName(caption.translated());
+        widget()->setToolTip(caption.translated());
     }
+}
+
+void Field::enable(Field* other, const QStringList& values)
+{
+    m_others.push_back({other, values});
+    other->setRowEnabled(isOneOf(values));
+}
+
+void Field::enableOthers()
+{
+    for (const Enabled& other : m_others) {
+        other.field->setRowEnabled(isOneOf(other.values));
+    }
+}
+
+bool Field::isOneOf(const QStringList& values) const
+{
+    return std::any_of(values.begin(), values.end(),
+                       [this](const QString& value) { return is(value); });
 }
 
 void Field::setRowEnabled(bool enabled)
@@ -71,9 +96,12 @@ void Field::addRow(QGridLayout* grid)
     }
 }
 
-void Field::connectSignal(const char* signal)
+void Field::complete(const char* signal)
 {
     m_door.connectToSlot(m_control, signal, m_details.slot);
+    if (m_details.m_choice) {
+        m_details.m_choice->enable(this, m_details.m_enabling);
+    }
 }
 
 void Field::addUnitLabel()

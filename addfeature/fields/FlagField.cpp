@@ -6,13 +6,13 @@ FlagField::FlagField(DialogDoor& door, QWidget* page, const Details& details, bo
 {
     setChecked(isOn);
     storeAs(isOn);
-    FlagField::retranslate();
-    connectSignal(SIGNAL(stateChanged(int)));
+    retranslate();
+    complete(SIGNAL(stateChanged(int)));
 }
 
-void FlagField::retranslate()
+bool FlagField::is(const QString& value) const
 {
-    setText(m_details.caption.translated());
+    return value == (isChecked() ? m_values.on : m_values.off);
 }
 
 void FlagField::storeAs(bool isOn)
@@ -23,5 +23,6 @@ void FlagField::storeAs(bool isOn)
 void FlagField::take()
 {
     storeAs(isChecked());
+    enableOthers();
     send();
 }

@@ -15,7 +15,7 @@ public:
     FlagField(DialogDoor& door, QWidget* page, const Details& details, bool isOn,
               const Values& values);
 
-    void retranslate() override;
+    bool is(const QString& value) const override;
 
     /// Stores on or off, whatever the box shows. Sends nothing.
     void storeAs(bool isOn);

@@ -1,18 +1,18 @@
 #include "addfeature/fields/LengthField.h"
 
+#include "addfeature/record/ValueChecks.h"
 #include "plugin/RecordValues.h"
 
 LengthField::LengthField(DialogDoor& door, QWidget* page, const Details& details,
-                         const QString& text, double largestInMil, Unit unit, bool isMetric)
-    : UnitField(door, page, Pattern::Decimal, details, unit, isMetric), m_largest(largestInMil)
+                         const QString& text, Unit unit)
+    : UnitField(door, page, Pattern::Decimal, details, unit)
 {
     start(text);
 }
 
-void LengthField::take()
+void LengthField::takeText(const QString& text)
 {
-    setModified(false);
-    const bool isAccepted = m_door.checkLength(text(), m_largest);
+    const bool isAccepted = m_door.checks().length(text, m_details.m_bounds.maximum);
     if (isAccepted) {
         storeLength();
     } else {

@@ -2,16 +2,13 @@
 
 #include "addfeature/fields/UnitField.h"
 
-/// A length from 0 to a bound. A refusal leaves "0" in field and record.
+/// A length within bounds, the minimum of which is 0. A refusal leaves "0" in field and record.
 class LengthField final : public UnitField {
 public:
-    /// `text` is shown at first, in metric units if `isMetric`.
+    /// `text` is shown at first, in mil or inch.
     LengthField(DialogDoor& door, QWidget* page, const Details& details, const QString& text,
-                double largestInMil, Unit unit = Unit::Mil, bool isMetric = false);
-
-protected:
-    void take() override;
+                Unit unit = Unit::Mil);
 
 private:
-    const double m_largest;
+    void takeText(const QString& text) override;
 };

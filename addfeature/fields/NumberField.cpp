@@ -1,35 +1,41 @@
 #include "addfeature/fields/NumberField.h"
 
 #include "addfeature/record/FeatureRecord.h"
-#include "addfeature/record/RefusalGuard.h"
+#include "addfeature/record/ValueChecks.h"
 
+#include <QDoubleValidator>
+#include <QIntValidator>
+#include <QLocale>
 #include <QSignalBlocker>
 
 NumberField::NumberField(DialogDoor& door, QWidget* page, const Details& details,
-                         const QString& text, Bounds bounds, Checked checked)
-    : LineField(door, page, Pattern::Decimal, details), m_bounds(bounds)
+                         const QString& text, Checked checked, Typed typed)
+    : LineField(door, page, Pattern::Decimal, details)
 {
+    if (typed == Typed::Whole) {
+        restrictTo(new QIntValidator(this));
+    } else if (typed == Typed::Decimal) {
+        restrictTo(new QDoubleValidator(this));
+    }
     setText(text);
     store(text);
     retranslate();
-    connectSignal(checked == Checked::AtEachChange ? SIGNAL(textChanged(const QString&))
-                                                   : SIGNAL(editingFinished()));
+    complete(checked == Checked::AtEachChange ? SIGNAL(textChanged(const QString&))
+                                              : SIGNAL(editingFinished()));
 }
 
-void NumberField::change(const QString& text)
+void NumberField::restrictTo(QValidator* validator)
 {
-    m_door.refusals().run(this, [&] { takeText(text); });
-}
-
-void NumberField::take()
-{
-    takeText(text());
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
+    validator->setLocale(plain);
+    setValidator(validator);
 }
 
 void NumberField::takeText(const QString& text)
 {
-    setModified(false);
-    if (!m_door.checkNumber(text.toDouble(), m_bounds.least, m_bounds.most)) {
+    const Bounds& bounds = m_details.m_bounds;
+    if (!m_door.checks().number(text.toDouble(), bounds.minimum, bounds.maximum)) {
         // This may run inside its own textChanged: restoring the text must not start over.
         const QSignalBlocker blocker(this);
         setText(m_door.record().text(m_details.key));

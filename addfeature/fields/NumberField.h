@@ -7,22 +7,14 @@
 class NumberField final : public LineField {
 public:
     enum class Checked { AtEachChange, WhenFinished };
-    struct Bounds {
-        double least;
-        double most;
-    };
+    /// What can be typed: what the host allows, or a number with a decimal point and without group
+    /// separators, whatever the user's locale.
+    enum class Typed { AsTheHostAllows, Whole, Decimal };
 
     NumberField(DialogDoor& door, QWidget* page, const Details& details, const QString& text,
-                Bounds bounds, Checked checked);
-
-    /// Stores `text`, which the field has just reported.
-    void change(const QString& text);
-
-protected:
-    void take() override;
+                Checked checked, Typed typed);
 
 private:
-    void takeText(const QString& text);
-
-    const Bounds m_bounds;
+    void takeText(const QString& text) override;
+    void restrictTo(QValidator* validator);
 };

@@ -1,20 +1,20 @@
 #include "addfeature/fields/PitchField.h"
 
+#include "addfeature/record/ValueChecks.h"
 #include "plugin/RecordValues.h"
 
-PitchField::PitchField(DialogDoor& door, QWidget* page, const Details& details, bool isMetric)
-    : UnitField(door, page, Pattern::Length, details, Unit::Mil, isMetric)
+PitchField::PitchField(DialogDoor& door, QWidget* page, const Details& details)
+    : UnitField(door, page, Pattern::Length, details, Unit::AsShown)
 {
     start(RecordValues::zero);
 }
 
-void PitchField::take()
+void PitchField::takeText(const QString& text)
 {
-    setModified(false);
-    if (text().isEmpty()) {
+    if (text.isEmpty()) {
         setText(RecordValues::zero);
     }
-    if (!m_door.checkCoordinate(text().toDouble())) {
+    if (!m_door.checks().coordinate(text.toDouble())) {
         setText(RecordValues::zero);
         return;
     }

@@ -1,7 +1,5 @@
 #include "addfeature/fields/RadioField.h"
 
-#include "plugin/RecordValues.h"
-
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -41,9 +39,9 @@ RadioField::RadioField(DialogDoor& door, QWidget* page, const Details& details, 
         addButton(button, buttons().size());
     }
     button(0)->setChecked(true);
-    store(RecordValues::one);
+    store(m_choices.front().value);
     RadioField::retranslate();
-    connectSignal(SIGNAL(buttonClicked(QAbstractButton*)));
+    complete(SIGNAL(buttonClicked(QAbstractButton*)));
 }
 
 void RadioField::retranslate()
@@ -54,6 +52,11 @@ void RadioField::retranslate()
         button(id)->setAccessibleName(spoken);
         button(id)->setToolTip(spoken);
     }
+}
+
+bool RadioField::is(const QString& value) const
+{
+    return checkedId() >= 0 && m_choices[static_cast<size_t>(checkedId())].value == value;
 }
 
 QHBoxLayout* RadioField::createRow() const
@@ -67,11 +70,12 @@ QHBoxLayout* RadioField::createRow() const
 
 void RadioField::storeChoice()
 {
-    store(checkedId() + 1);
+    store(checkedId() < 0 ? 0 : m_choices[static_cast<size_t>(checkedId())].value.toInt());
 }
 
 void RadioField::take()
 {
     storeChoice();
+    enableOthers();
     send();
 }

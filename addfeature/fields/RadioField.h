@@ -13,10 +13,11 @@ struct RadioChoice {
     const char* name;    ///< of the object
     const char* icon;    ///< file name in the resource tree
     const char* spoken;  ///< marked for translation in the context "AddFeature"
+    QString value;       ///< what the record holds while it is chosen, as text
 };
 
-/// A choice among buttons with pictures, initially the first. The record holds its number from 1:
-/// as text at first, as an integer once it is chosen.
+/// A choice among buttons with pictures, initially the first. The record holds its value, the
+/// number from 1: as text at first, as an integer once it is chosen.
 class RadioField final : public QButtonGroup, public Field {
 public:
     enum class Look { Radio, Tool };
@@ -25,6 +26,7 @@ public:
                const std::vector<RadioChoice>& choices);
 
     void retranslate() override;
+    bool is(const QString& value) const override;
 
     /// The buttons side by side. The caller owns the layout.
     QHBoxLayout* createRow() const;

@@ -1,13 +1,15 @@
 #include "addfeature/fields/TextField.h"
 
+#include <utility>
+
 TextField::TextField(DialogDoor& door, QWidget* page, const Details& details, Pattern pattern,
-                     const QString& text)
-    : LineField(door, page, pattern, details)
+                     const QString& text, Accepts accepts)
+    : LineField(door, page, pattern, details), m_accepts(std::move(accepts))
 {
     setText(text);
     store(text);
     retranslate();
-    connectSignal(SIGNAL(editingFinished()));
+    complete(SIGNAL(editingFinished()));
 }
 
 void TextField::enter(const QString& text)
@@ -16,10 +18,9 @@ void TextField::enter(const QString& text)
     storeAndSend();
 }
 
-void TextField::take()
+void TextField::takeText(const QString& text)
 {
-    setModified(false);
-    if (m_accepts && !m_accepts(text())) {
+    if (m_accepts && !m_accepts(text)) {
         clear();
         return;
     }

@@ -1,5 +1,6 @@
 #include "addfeature/fields/UnitField.h"
 
+#include "addfeature/record/HostUnits.h"
 #include "addfeature/record/Units.h"
 
 #include <QLabel>
@@ -8,23 +9,26 @@
 #include <utility>
 
 UnitField::UnitField(DialogDoor& door, QWidget* page, Pattern pattern, const Details& details,
-                     Unit unit, bool isMetric)
-    : LineField(door, page, pattern, details), m_unit(unit), m_isMetric(isMetric)
+                     Unit unit)
+    : LineField(door, page, pattern, details),
+      m_unit(unit),
+      m_isMetric(unit == Unit::AsShown && door.units().showsMetric())
 {
     addUnitLabel();
 }
 
 void UnitField::start(const QString& text)
 {
-    setText(text);
-    store(Units::toStored(text, m_isMetric));
+    const QString shown = m_isMetric ? Units::toStored(text, false) : text;
+    setText(shown);
+    store(Units::toStored(shown, m_isMetric));
     retranslate();
-    connectSignal(SIGNAL(editingFinished()));
+    complete(SIGNAL(editingFinished()));
 }
 
 void UnitField::storeLength()
 {
-    store(Units::toStored(text(), m_door.isMetric()));
+    store(Units::toStored(text(), m_door.units().wasToldMetric()));
 }
 
 void UnitField::retranslate()
@@ -37,7 +41,7 @@ void UnitField::showUnit()
 {
     unitLabel()->setText(m_unit == Unit::PlainInch
                              ? Units::largeLengthLabel(m_isMetric)
-                             : Units::lengthLabel(m_isMetric && m_unit == Unit::Mil));
+                             : Units::lengthLabel(m_isMetric && m_unit != Unit::MilByLabel));
 }
 
 void UnitField::changeUnit(bool isMetric)
@@ -61,7 +65,7 @@ void UnitField::changeUnit(bool isMetric)
 void UnitField::focusOutEvent(QFocusEvent* event)
 {
     LineField::focusOutEvent(event);
-    if (isModified() && !hasAcceptableInput() && text() == m_converted) {
+    if (isModified() && !hasAcceptableInput() && m_converted == text()) {
         Q_EMIT editingFinished();
     }
 }

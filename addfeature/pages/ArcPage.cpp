@@ -5,8 +5,6 @@
 
 ArcPage::ArcPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pArcPage", parent)
 {
-    m_pCircleCMB->setEnabled(false);
-
     auto* const firstRow = new QHBoxLayout;
     firstRow->addWidget(m_pArcAndCircleCMB);
     firstRow->addWidget(m_pClockWiseCB);
@@ -16,13 +14,4 @@ ArcPage::ArcPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pArcPage", p
     rows->addLayout(firstRow);
     rows->addWidget(m_pArcCMB);
     rows->addWidget(m_pCircleCMB);
-}
-
-void ArcPage::chooseArcOrCircle()
-{
-    if (m_pArcAndCircleCMB->storeChoice()) {
-        m_pArcCMB->setEnabled(m_pArcAndCircleCMB->is(ArcOrCircle::arc));
-        m_pCircleCMB->setEnabled(m_pArcAndCircleCMB->is(ArcOrCircle::circle));
-    }
-    m_pArcAndCircleCMB->send();
 }

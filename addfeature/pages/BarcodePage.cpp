@@ -2,19 +2,8 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 
 BarcodePage::BarcodePage(DialogDoor& door, QWidget* parent) : Page(door, "m_pBarcodePage", parent)
-{
-    m_pMatrixPB->setObjectName(QStringLiteral("m_pMatrixPB"));
-    m_door.connectToSlot(m_pMatrixPB, SIGNAL(clicked()), SLOT(on_m_pMatrixPB_clicked()));
-    m_pPositionCMB->setEnabled(false);
-    enableMatrix(false);
-    layOut();
-    BarcodePage::retranslate();
-}
-
-void BarcodePage::layOut()
 {
     auto* const height = new QHBoxLayout;
     height->addWidget(m_pHeightLE);
@@ -31,32 +20,6 @@ void BarcodePage::layOut()
     grid->addLayout(height, 2, 1);
     grid->addWidget(m_pMatrixPB, 3, 0);
     grid->addWidget(m_pMatrixLE, 3, 1);
-}
-
-void BarcodePage::retranslate()
-{
-    Page::retranslate();
-    m_pMatrixPB->setText(tr("Matrix\t:"));
-}
-
-void BarcodePage::chooseType()
-{
-    m_pUPCCMB->storeChoice();
-    enableMatrix(m_pUPCCMB->is(Symbology::ecc200));
-    m_pUPCCMB->send();
-}
-
-void BarcodePage::enableMatrix(bool enabled)
-{
-    m_pAddMarkersCB->setEnabled(enabled);
-    m_pMatrixPB->setEnabled(enabled);
-    m_pMatrixLE->setEnabled(enabled);
-}
-
-void BarcodePage::chooseString()
-{
-    m_pAddStringCB->change();
-    m_pPositionCMB->setEnabled(m_pAddStringCB->isChecked());
 }
 
 void BarcodePage::chooseBackground()

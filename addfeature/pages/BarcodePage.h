@@ -1,5 +1,6 @@
 #pragma once
 
+#include "addfeature/fields/ButtonField.h"
 #include "addfeature/fields/ChoiceField.h"
 #include "addfeature/fields/FlagField.h"
 #include "addfeature/fields/LengthField.h"
@@ -8,25 +9,17 @@
 #include "plugin/RecordKeys.h"
 
 #include <QCoreApplication>
-#include <QPushButton>
 
 /// The settings of a barcode. They are stored only: they travel with the next record that another
 /// control sends.
 class BarcodePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
-    static constexpr double largestHeight = 50000.0;  // mil
     const FlagField::Values added = {Added::yes, Added::no};
 
 public:
     explicit BarcodePage(DialogDoor& door, QWidget* parent = nullptr);
 
-    void retranslate() override;
-
-    /// Markers and matrix belong to the only code that is a matrix.
-    void chooseType();
-    /// Only a string that is added has a position.
-    void chooseString();
     /// Deliberately not the Background box itself: the one for the markers decides.
     void chooseBackground();
 
@@ -45,8 +38,10 @@ public:
          SLOT(on_AddString_CheckState_Changed(int)), Sends::Never},
         false, added);
     ChoiceField* const m_pPositionCMB = add<ChoiceField>(
-        {"m_pPositionCMB", Caption::spoken(QT_TR_NOOP("Position of the string")),
-         RecordKeys::stringPosition, SLOT(on_m_pPositionCMB_ComboBox_Changed()), Sends::Never},
+        Details{"m_pPositionCMB", Caption::spoken(QT_TR_NOOP("Position of the string")),
+                RecordKeys::stringPosition, SLOT(on_m_pPositionCMB_ComboBox_Changed()),
+                Sends::Never}
+            .enabledBy(m_pAddStringCB, {Added::yes}),
         Choices{{QT_TR_NOOP("Top"), StringPosition::top},
                 {QT_TR_NOOP("Bottom"), StringPosition::bottom}},
         ChoiceField::Stores::Text);
@@ -55,20 +50,22 @@ public:
          SLOT(on_m_pBackgroundCB_CheckState_Changed(int)), Sends::Never},
         false, added);
     FlagField* const m_pAddMarkersCB = add<FlagField>(
-        {"m_pAddMarkersCB", Caption::own(QT_TR_NOOP("Add Markers")), RecordKeys::addMarkers,
-         SLOT(on_m_pAddMarkersCB_CheckState_Changed(int)), Sends::Never},
+        Details{"m_pAddMarkersCB", Caption::own(QT_TR_NOOP("Add Markers")), RecordKeys::addMarkers,
+                SLOT(on_m_pAddMarkersCB_CheckState_Changed(int)), Sends::Never}
+            .enabledBy(m_pUPCCMB, {Symbology::ecc200}),
         false, added);
     LengthField* const m_pHeightLE = add<LengthField>(
-        {"m_pHeightLE", Caption::label(QT_TR_NOOP("Height\t:")), RecordKeys::barcodeHeight,
-         SLOT(on_m_pHeightLE_editingFinished()), Sends::Never},
-        QStringLiteral("250"), largestHeight, LengthField::Unit::MilByLabel);
-    QPushButton* const m_pMatrixPB = new QPushButton(this);
+        Details{"m_pHeightLE", Caption::label(QT_TR_NOOP("Height\t:")), RecordKeys::barcodeHeight,
+                SLOT(on_m_pHeightLE_editingFinished()), Sends::Never}
+            .within(0, 50000),
+        QStringLiteral("250"), LengthField::Unit::MilByLabel);
+    ButtonField* const m_pMatrixPB =
+        add<ButtonField>(Details{"m_pMatrixPB", Caption::own(QT_TR_NOOP("Matrix\t:")), QString(),
+                                 SLOT(on_m_pMatrixPB_clicked()), Sends::Never}
+                             .enabledBy(m_pUPCCMB, {Symbology::ecc200}));
     TextField* const m_pMatrixLE = add<TextField>(
-        {"m_pMatrixLE", Caption::spoken(QT_TR_NOOP("Matrix")), RecordKeys::barcodeMatrix,
-         SLOT(on_m_pMatrixLE_editingFinished()), Sends::Never},
+        Details{"m_pMatrixLE", Caption::spoken(QT_TR_NOOP("Matrix")), RecordKeys::barcodeMatrix,
+                SLOT(on_m_pMatrixLE_editingFinished()), Sends::Never}
+            .enabledBy(m_pUPCCMB, {Symbology::ecc200}),
         LineField::Pattern::Text, QStringLiteral("Minimal"));
-
-private:
-    void layOut();
-    void enableMatrix(bool enabled);
 };

@@ -14,8 +14,6 @@ class PlotStampPage;
 class CannedTextPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
-    static constexpr double largestHoleSize = 50000.0;  // mil
-
 public:
     /// `plotStamp` provides the zoom; it must outlive this page.
     CannedTextPage(DialogDoor& door, PlotStampPage& plotStamp, QWidget* parent = nullptr);
@@ -30,10 +28,12 @@ public:
                          Choices{{QT_TR_NOOP("5 X 7"), CannedHoleMode::fiveBySeven},
                                  {QT_TR_NOOP("6 X 7"), CannedHoleMode::sixBySeven}},
                          ChoiceField::Stores::Text);
-    LengthField* const m_pCannedHoleSizeLE = add<LengthField>(
-        {"m_pCannedHoleSizeLE", Caption::spoken(QT_TR_NOOP("Hole size")),
-         RecordKeys::cannedHoleSize, SLOT(on_m_pCannedHoleSizeLE_editingFinished()), Sends::Never},
-        QStringLiteral("20"), largestHoleSize, LengthField::Unit::MilByLabel);
+    LengthField* const m_pCannedHoleSizeLE =
+        add<LengthField>(Details{"m_pCannedHoleSizeLE", Caption::spoken(QT_TR_NOOP("Hole size")),
+                                 RecordKeys::cannedHoleSize,
+                                 SLOT(on_m_pCannedHoleSizeLE_editingFinished()), Sends::Never}
+                             .within(0, 50000),
+                         QStringLiteral("20"), LengthField::Unit::MilByLabel);
 
 private:
     PlotStampPage& m_plotStamp;

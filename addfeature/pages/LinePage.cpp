@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int fixedAngle = 5;
-
 QWidget* createGroup(const char* name, QWidget* page)
 {
     auto* const group = new QWidget(page);
@@ -30,9 +28,15 @@ void addGrid(QWidget* group, const std::initializer_list<Field*>& fields)
 
 }  // namespace
 
-LinePage::LinePage(DialogDoor& door, QWidget* parent) : Page(door, "m_pLinePage", parent)
+LinePage::LinePage(DialogDoor& door, QWidget* parent)
+    : Page(door, "m_pLinePage", parent),
+      m_pDirectionGroup(createGroup("m_pDirectionGroup", this)),
+      m_pCornerGroup(createGroup("m_pCornerGroup", this)),
+      m_pSlotGroup(createGroup("m_pSlotGroup", this))
 {
-    m_pClosedCB->setEnabled(false);
+    layOutDirection();
+    layOutCorner();
+    layOutSlot();
 
     auto* const kindRow = new QHBoxLayout;
     kindRow->addWidget(m_pLineCMB);
@@ -46,38 +50,30 @@ LinePage::LinePage(DialogDoor& door, QWidget* parent) : Page(door, "m_pLinePage"
     }
 }
 
-QWidget* LinePage::createDirectionGroup()
+void LinePage::layOutDirection()
 {
-    QWidget* const group = createGroup("m_pDirectionGroup", this);
     auto* const angleRow = new QHBoxLayout;
     angleRow->addStretch();
     angleRow->addWidget(m_pAngleLE->label());
     angleRow->addWidget(m_pAngleLE);
-    m_pAngleLE->setRowEnabled(false);
     QHBoxLayout* const directionRow = m_pDirectionBG->createRow();
     directionRow->setSpacing(0);  // six of them just fit
-    auto* const rows = static_cast<QVBoxLayout*>(group->layout());
+    auto* const rows = static_cast<QVBoxLayout*>(m_pDirectionGroup->layout());
     rows->addLayout(directionRow);
     rows->addLayout(angleRow);
-    return group;
 }
 
-QWidget* LinePage::createCornerGroup()
+void LinePage::layOutCorner()
 {
-    QWidget* const group = createGroup("m_pCornerGroup", this);
-    m_pCornerRadiusLE->setRowEnabled(false);
-    addGrid(group, {m_pCornerTypeCMB, m_pCornerRadiusLE});
-    group->hide();
-    return group;
+    addGrid(m_pCornerGroup, {m_pCornerTypeCMB, m_pCornerRadiusLE});
+    m_pCornerGroup->hide();
 }
 
-QWidget* LinePage::createSlotGroup()
+void LinePage::layOutSlot()
 {
-    QWidget* const group = createGroup("m_pSlotGroup", this);
-    addGrid(group, {m_pLengthLE, m_pSlotAngleLE, m_pSlotDecodeLE});
-    group->layout()->addWidget(m_pSlotPlatedCMB);
-    group->hide();
-    return group;
+    addGrid(m_pSlotGroup, {m_pLengthLE, m_pSlotAngleLE, m_pSlotDecodeLE});
+    m_pSlotGroup->layout()->addWidget(m_pSlotPlatedCMB);
+    m_pSlotGroup->hide();
 }
 
 void LinePage::chooseKind()
@@ -100,23 +96,8 @@ void LinePage::showKind()
     }
     m_door.hidePlacementRows();
 
-    m_pClosedCB->setEnabled(m_pLineCMB->is(LineKind::polyline));
+    m_pLineCMB->enableOthers();
     m_pDirectionGroup->setVisible(!isRectangle && !isSlot);
     m_pCornerGroup->setVisible(isRectangle);
     m_pSlotGroup->setVisible(isSlot);
-}
-
-void LinePage::chooseDirection()
-{
-    m_pDirectionBG->storeChoice();
-    m_pAngleLE->setRowEnabled(m_pDirectionBG->checkedId() == fixedAngle);
-    m_pDirectionBG->send();
-}
-
-void LinePage::chooseCorner()
-{
-    m_pCornerTypeCMB->storeChoice();
-    m_pCornerRadiusLE->setRowEnabled(m_pCornerTypeCMB->is(CornerType::round) ||
-                                     m_pCornerTypeCMB->is(CornerType::chamfer));
-    m_pCornerTypeCMB->send();
 }

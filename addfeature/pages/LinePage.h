@@ -16,17 +16,11 @@
 class LinePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 
-    static constexpr double largestLength = 50000.0;  // mil
-
 public:
     explicit LinePage(DialogDoor& door, QWidget* parent = nullptr);
 
     /// Shows the settings of the kind, here and in the rows above the page.
     void chooseKind();
-    /// The angle can be typed for the fixed direction only.
-    void chooseDirection();
-    /// The radius can be typed for round and chamfered corners only.
-    void chooseCorner();
 
     ChoiceField* const m_pLineCMB =
         add<ChoiceField>({"m_pLineCMB", Caption::spoken(QT_TR_NOOP("Kind of line")),
@@ -36,25 +30,32 @@ public:
                                  {QT_TR_NOOP("Rectangle"), LineKind::rectangle},
                                  {QT_TR_NOOP("Slot"), LineKind::slot, false}},
                          ChoiceField::Stores::Text);
-    FlagField* const m_pClosedCB =
-        add<FlagField>({"m_pClosedCB", Caption::own(QT_TR_NOOP("Closed")), RecordKeys::closed,
-                        SLOT(on_m_pClosedCB_CheckState_Changed(int)), Sends::Always},
-                       false, FlagField::Values{Closed::yes, Closed::no});
+    FlagField* const m_pClosedCB = add<FlagField>(
+        Details{"m_pClosedCB", Caption::own(QT_TR_NOOP("Closed")), RecordKeys::closed,
+                SLOT(on_m_pClosedCB_CheckState_Changed(int)), Sends::Always}
+            .enabledBy(m_pLineCMB, {LineKind::polyline}),
+        false, FlagField::Values{Closed::yes, Closed::no});
     RadioField* const m_pDirectionBG = add<RadioField>(
-        {"m_pDirectionBG", Caption::none(), RecordKeys::angleGroup,
-         SLOT(on_Line_Button_Clicked(QAbstractButton*)), Sends::Always, Message::Direction},
+        Details{"m_pDirectionBG", Caption::none(), RecordKeys::angleGroup,
+                SLOT(on_Line_Button_Clicked(QAbstractButton*)), Sends::Always}
+            .asDirection(),
         RadioField::Look::Radio,
         std::vector<RadioChoice>{
-            {"m_pFreeDirectionRB", "Free1.jpg", QT_TR_NOOP("Free direction")},
-            {"m_pVerticalRB", "Ver1.jpg", QT_TR_NOOP("Vertical")},
-            {"m_pHorizontalRB", "Hori1.jpg", QT_TR_NOOP("Horizontal")},
-            {"m_pVerticalHorizontalRB", "VH1.jpg", QT_TR_NOOP("Vertical, then horizontal")},
-            {"m_pEightDirectionsRB", "8 Dir1.jpg", QT_TR_NOOP("Eight directions")},
-            {"m_pFixedAngleRB", "Fixed1.jpg", QT_TR_NOOP("Fixed angle")}});
+            {"m_pFreeDirectionRB", "Free1.jpg", QT_TR_NOOP("Free direction"), LineDirection::free},
+            {"m_pVerticalRB", "Ver1.jpg", QT_TR_NOOP("Vertical"), LineDirection::vertical},
+            {"m_pHorizontalRB", "Hori1.jpg", QT_TR_NOOP("Horizontal"), LineDirection::horizontal},
+            {"m_pVerticalHorizontalRB", "VH1.jpg", QT_TR_NOOP("Vertical, then horizontal"),
+             LineDirection::verticalThenHorizontal},
+            {"m_pEightDirectionsRB", "8 Dir1.jpg", QT_TR_NOOP("Eight directions"),
+             LineDirection::eightDirections},
+            {"m_pFixedAngleRB", "Fixed1.jpg", QT_TR_NOOP("Fixed angle"), LineDirection::fixed}});
     NumberField* const m_pAngleLE = add<NumberField>(
-        {"m_pAngleLE", Caption::label(QT_TR_NOOP("Angle (deg)")), RecordKeys::angle,
-         SLOT(on_m_pAngleLE_editingFinished()), Sends::WhenAccepted, Message::Direction},
-        QString(), NumberField::Bounds{0.0, 360.0}, NumberField::Checked::WhenFinished);
+        Details{"m_pAngleLE", Caption::label(QT_TR_NOOP("Angle (deg)")), RecordKeys::angle,
+                SLOT(on_m_pAngleLE_editingFinished()), Sends::WhenAccepted}
+            .asDirection()
+            .within(0, 360)
+            .enabledBy(m_pDirectionBG, {LineDirection::fixed}),
+        QString(), NumberField::Checked::WhenFinished, NumberField::Typed::AsTheHostAllows);
     ChoiceField* const m_pCornerTypeCMB = add<ChoiceField>(
         {"m_pCornerTypeCMB", Caption::label(QT_TR_NOOP("Corner Type : ")), RecordKeys::cornerType,
          SLOT(on_CornerTypre_ComboBox_Changed()), Sends::Always},
@@ -63,15 +64,19 @@ public:
                 {QT_TR_NOOP("Chamfer"), CornerType::chamfer},
                 {QT_TR_NOOP("Oblong"), CornerType::oblong}},
         ChoiceField::Stores::TextThenNumber);
-    LengthField* const m_pCornerRadiusLE =
-        add<LengthField>({"m_pCornerRadiusLE", Caption::label(QT_TR_NOOP("Corner Radius : ")),
-                          RecordKeys::cornerRadius, SLOT(on_m_pCornerRadiusLE_editingFinished()),
-                          Sends::WhenAccepted, Message::Record, "^[1-9][0-9]*|0$"},
-                         RecordValues::zero, largestLength);
+    LengthField* const m_pCornerRadiusLE = add<LengthField>(
+        Details{"m_pCornerRadiusLE", Caption::label(QT_TR_NOOP("Corner Radius : ")),
+                RecordKeys::cornerRadius, SLOT(on_m_pCornerRadiusLE_editingFinished()),
+                Sends::WhenAccepted}
+            .pattern("^[1-9][0-9]*|0$")
+            .within(0, 50000)
+            .enabledBy(m_pCornerTypeCMB, {CornerType::round, CornerType::chamfer}),
+        RecordValues::zero);
     LengthField* const m_pLengthLE = add<LengthField>(
-        {"m_pLengthLE", Caption::label(QT_TR_NOOP("Length : ")), RecordKeys::slotLength,
-         SLOT(on_m_pLengthLE_editingFinished()), Sends::Never},
-        RecordValues::zero, largestLength, LengthField::Unit::PlainInch);
+        Details{"m_pLengthLE", Caption::label(QT_TR_NOOP("Length : ")), RecordKeys::slotLength,
+                SLOT(on_m_pLengthLE_editingFinished()), Sends::Never}
+            .within(0, 50000),
+        RecordValues::zero, LengthField::Unit::PlainInch);
     TextField* const m_pSlotAngleLE = add<TextField>(
         {"m_pSlotAngleLE", Caption::label(QT_TR_NOOP("Angle (deg) : ")), RecordKeys::slotAngle,
          SLOT(on_m_pSlotAngleLE_editingFinished()), Sends::Never},
@@ -88,12 +93,12 @@ public:
         ChoiceField::Stores::Text);
 
 private:
-    QWidget* createDirectionGroup();
-    QWidget* createCornerGroup();
-    QWidget* createSlotGroup();
+    void layOutDirection();
+    void layOutCorner();
+    void layOutSlot();
     void showKind();
 
-    QWidget* m_pDirectionGroup = createDirectionGroup();
-    QWidget* m_pCornerGroup = createCornerGroup();
-    QWidget* m_pSlotGroup = createSlotGroup();
+    QWidget* const m_pDirectionGroup;
+    QWidget* const m_pCornerGroup;
+    QWidget* const m_pSlotGroup;
 };

@@ -1,25 +1,10 @@
 #include "addfeature/pages/PadPage.h"
 
-#include <QDoubleValidator>
 #include <QFrame>
 #include <QGridLayout>
-#include <QIntValidator>
-#include <QLocale>
+#include <QLabel>
 
 namespace {
-
-// A lone "0" does not match, though the field itself writes it.
-constexpr char pitchPattern[] =
-    "[-]?[1-9][0-9]{0,14}|[-]?[0][.][0-9]{0,5}|[-]?[1-9][0-9]{0,}[.][0-9]{1,5}|^$";
-
-/// Numbers are read with a decimal point and without group separators, whatever the user's locale.
-void setCLocaleValidator(QLineEdit* field, QValidator* validator)
-{
-    QLocale plain = QLocale::c();
-    plain.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
-    validator->setLocale(plain);
-    field->setValidator(validator);
-}
 
 QGridLayout* createColumn(const std::initializer_list<Field*>& fields)
 {
@@ -38,8 +23,7 @@ QGridLayout* createColumn(const std::initializer_list<Field*>& fields)
 
 PadPage::PadPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pPadPage", parent)
 {
-    m_pDrilDxLE->setPattern(pitchPattern);
-    m_pDrilDyLE->setValidator(m_pDrilDxLE->validator());
+    m_pDrilDyLE->setValidator(m_pDrilDxLE->validator());  // one for both
 
     auto* const line = new QFrame(this);
     line->setObjectName(QStringLiteral("m_pPadColumnsFrame"));
@@ -50,28 +34,4 @@ PadPage::PadPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pPadPage", p
     columns->addLayout(createColumn({m_pDrilNxLE, m_pDrilDxLE, m_pDrilXsclLE}), 1);
     columns->addWidget(line);
     columns->addLayout(createColumn({m_pDrilNyLE, m_pDrilDyLE, m_pDrilYsclLE}), 1);
-}
-
-NumberField* PadPage::addCount(const Field::Details& details)
-{
-    auto* const field = addNumber(details, {0.0, 50.0});
-    setCLocaleValidator(field, new QIntValidator(field));
-    return field;
-}
-
-NumberField* PadPage::addFactor(const Field::Details& details)
-{
-    auto* const field = addNumber(details, {-100.0, 100.0});
-    setCLocaleValidator(field, new QDoubleValidator(field));
-    return field;
-}
-
-NumberField* PadPage::addNumber(const Field::Details& details, NumberField::Bounds bounds)
-{
-    return add<NumberField>(details, RecordValues::one, bounds, NumberField::Checked::AtEachChange);
-}
-
-PitchField* PadPage::addPitch(const Field::Details& details)
-{
-    return add<PitchField>(details, isShownMetric(m_door));
 }

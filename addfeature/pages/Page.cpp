@@ -1,8 +1,5 @@
 #include "addfeature/pages/Page.h"
 
-#include <cam_api.h>
-#include <ui_api.h>
-
 Page::Page(DialogDoor& door, const char* name, QWidget* parent) : QWidget(parent), m_door(door)
 {
     setObjectName(QLatin1String(name));
@@ -20,11 +17,4 @@ void Page::changeUnit(bool isMetric)
     for (Field* const field : m_fields) {
         field->changeUnit(isMetric);
     }
-}
-
-bool Page::isShownMetric(const DialogDoor& door)
-{
-    ZENTRA::API::show_param shown{};
-    ZENTRA::UIAPI::getShowPara(door.ownerContext(), shown);
-    return shown.metric;
 }

@@ -20,18 +20,17 @@ public:
     virtual void changeUnit(bool isMetric);
 
 protected:
+    using Details = Field::Details;
+
     /// A new field of the page, owned by it.
     template <class FieldType, class... Arguments>
-    FieldType* add(const Field::Details& details, Arguments&&... arguments)
+    FieldType* add(const Details& details, Arguments&&... arguments)
     {
         auto* const field =
             new FieldType(m_door, this, details, std::forward<Arguments>(arguments)...);
         m_fields.push_back(field);
         return field;
     }
-
-    /// Whether the host shows lengths in metric units.
-    static bool isShownMetric(const DialogDoor& door);
 
     DialogDoor& m_door;
 

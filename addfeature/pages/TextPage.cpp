@@ -4,7 +4,6 @@
 #include <common_widgets.h>
 
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -35,11 +34,9 @@ void present(QWidget* window)
 
 TextPage::TextPage(DialogDoor& door, QWidget* parent) : Page(door, "m_pTextPage", parent)
 {
-    m_pFontLE->setReadOnly(true);
-    m_pFontLE->acceptOnly([this](const QString& name) { return isFontOfJob(name); });
-    m_barcode->m_pUPCCMB->setEnabled(false);
+    m_pTextFormatCMB->enable(m_barcode->m_pUPCCMB, {TextKind::barcode});
     layOut();
-    TextPage::retranslate();
+    alignButtons();
 }
 
 TextPage::~TextPage()
@@ -49,18 +46,10 @@ TextPage::~TextPage()
     delete m_specialTextPopup;
 }
 
-QPushButton* TextPage::addButton(const char* name, const char* slot)
-{
-    auto* const button = new QPushButton(this);
-    button->setObjectName(QLatin1String(name));
-    m_door.connectToSlot(button, SIGNAL(clicked()), slot);
-    return button;
-}
-
 void TextPage::layOut()
 {
     auto* const formatRow = new QHBoxLayout;
-    // Side by side they cannot both be as wide as their longest items.
+    // Side by side they cannot both be as wide as their items ask.
     for (QComboBox* const combo : {m_pTextFormatCMB, m_barcode->m_pUPCCMB}) {
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         combo->setMinimumContentsLength(shownCharacters);
@@ -85,9 +74,12 @@ void TextPage::retranslate()
     for (Page* const page : m_subPages) {
         page->retranslate();
     }
-    m_pFontPB->setText(tr("Font\t\t:"));
-    m_pTextPB->setText(tr("Text\t\t:"));
-    // Separate rows, whose fields are aligned.
+    alignButtons();
+}
+
+/// Their fields, in separate rows, start at the same place.
+void TextPage::alignButtons()
+{
     const int width = qMax(m_pFontPB->sizeHint().width(), m_pTextPB->sizeHint().width());
     m_pFontPB->setMinimumWidth(width);
     m_pTextPB->setMinimumWidth(width);
@@ -102,15 +94,11 @@ void TextPage::changeUnit(bool isMetric)
 
 void TextPage::chooseFormat()
 {
-    const bool isBarcode = m_pTextFormatCMB->is(TextKind::barcode);
-    const bool isString = m_pTextFormatCMB->is(TextKind::string);
-    m_pFontPB->setEnabled(isString);
-    m_pFontLE->setEnabled(isString);
-    m_barcode->m_pUPCCMB->setEnabled(isBarcode);
+    m_pTextFormatCMB->enableOthers();
     // The barcode's page is shown before the format is stored, the others afterwards: the page that
     // gets hidden may have an entry to send.
-    if (isBarcode) {
-        m_barcode->chooseType();
+    if (m_pTextFormatCMB->is(TextKind::barcode)) {
+        m_barcode->m_pUPCCMB->change();
         showSubPage();
     }
     if (m_pTextFormatCMB->storeChoice()) {
@@ -137,8 +125,7 @@ bool TextPage::isFontOfJob(const QString& name) const
 void TextPage::openFonts()
 {
     delete m_fontPopup;
-    m_fontPopup =
-        new Widget_listpopup(fontList, m_door.job(), static_cast<QWidget*>(m_door.ownerContext()));
+    m_fontPopup = new Widget_listpopup(fontList, m_door.job(), m_door.hostWidget());
     m_door.connectToSlot(m_fontPopup, SIGNAL(on_send_Font(QString)), SLOT(get_font_name(QString)));
     present(m_fontPopup);
 }

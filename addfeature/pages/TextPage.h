@@ -1,5 +1,6 @@
 #pragma once
 
+#include "addfeature/fields/ButtonField.h"
 #include "addfeature/fields/ChoiceField.h"
 #include "addfeature/fields/TextField.h"
 #include "addfeature/pages/BarcodePage.h"
@@ -13,8 +14,6 @@
 #include <QPointer>
 
 #include <array>
-
-class QPushButton;
 
 /// The format, the font and the text to place; the settings of each format are on separate pages,
 /// one of which is shown.
@@ -47,22 +46,30 @@ public:
     BarcodePage* const m_barcode = new BarcodePage(m_door, this);
     PlotStampPage* const m_plotStamp = new PlotStampPage(m_door, this);
     CannedTextPage* const m_cannedText = new CannedTextPage(m_door, *m_plotStamp, this);
-    QPushButton* const m_pFontPB = addButton("m_pFontPB", SLOT(on_m_pFontPB_clicked()));
+    ButtonField* const m_pFontPB =
+        add<ButtonField>(Details{"m_pFontPB", Caption::own(QT_TR_NOOP("Font\t\t:")), QString(),
+                                 SLOT(on_m_pFontPB_clicked()), Sends::Never}
+                             .enabledBy(m_pTextFormatCMB, {TextKind::string}));
     TextField* const m_pFontLE = add<TextField>(
-        {"m_pFontLE", Caption::spoken(QT_TR_NOOP("Font")), RecordKeys::stringTextFont,
-         SLOT(on_m_pFontLE_editingFinished()), Sends::Always},
+        Details{"m_pFontLE", Caption::spoken(QT_TR_NOOP("Font")), RecordKeys::stringTextFont,
+                SLOT(on_m_pFontLE_editingFinished()), Sends::Always}
+            .readOnly()
+            .enabledBy(m_pTextFormatCMB, {TextKind::string}),
         LineField::Pattern::Text,
-        isFontOfJob(QStringLiteral("standard")) ? QStringLiteral("standard") : QString());
-    QPushButton* const m_pTextPB = addButton("m_pTextPB", SLOT(on_Text_clicked()));
-    TextField* const m_pTextLE =
-        add<TextField>({"m_pTextLE", Caption::spoken(QT_TR_NOOP("Text")), RecordKeys::textContains,
-                        SLOT(on_m_pTextLE_editingFinished()), Sends::Always, Message::Record,
-                        "^[A-Za-z0-9`~!@#$%^&*()\\-_=+<>,./ ]{0,}$"},
-                       LineField::Pattern::Text, QString());
+        isFontOfJob(QStringLiteral("standard")) ? QStringLiteral("standard") : QString(),
+        [this](const QString& name) { return isFontOfJob(name); });
+    ButtonField* const m_pTextPB =
+        add<ButtonField>({"m_pTextPB", Caption::own(QT_TR_NOOP("Text\t\t:")), QString(),
+                          SLOT(on_Text_clicked()), Sends::Never});
+    TextField* const m_pTextLE = add<TextField>(
+        Details{"m_pTextLE", Caption::spoken(QT_TR_NOOP("Text")), RecordKeys::textContains,
+                SLOT(on_m_pTextLE_editingFinished()), Sends::Always}
+            .pattern("^[A-Za-z0-9`~!@#$%^&*()\\-_=+<>,./ ]{0,}$"),
+        LineField::Pattern::Text, QString());
 
 private:
-    QPushButton* addButton(const char* name, const char* slot);
     void layOut();
+    void alignButtons();
     void showSubPage();
     bool isFontOfJob(const QString& name) const;
 

@@ -1,20 +1,17 @@
 #include "addfeature/record/CanvasLink.h"
 
+#include "addfeature/record/Logging.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 
 #include <QTpluginsManger4CAM.h>
 
-#include <QLoggingCategory>
-
 #include <utility>
 
 namespace Sent = MessageCodes::Sent;
 
 namespace {
-
-Q_LOGGING_CATEGORY(recordLog, "canvastoolstrip.record")
 
 PluginMetaData messageToCanvas(int code, const QMap<QString, QVariant>& payload = {})
 {

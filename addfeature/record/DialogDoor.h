@@ -8,8 +8,11 @@
 #include <string>
 
 class FeatureRecord;
+class HostUnits;
 class QObject;
+class QWidget;
 class RefusalGuard;
+class ValueChecks;
 
 /// All that fields, pages and rows see of the dialog they are in.
 class DialogDoor {
@@ -19,11 +22,11 @@ public:
     virtual FeatureRecord& record() = 0;
     virtual RefusalGuard& refusals() = 0;
 
-    /// What the dialog was last told about the unit; until then not metric. True: lengths
-    /// are typed in micrometres (the slot length in millimetres); false: in mil (inch).
-    virtual bool isMetric() const = 0;
-    /// The host widget that holds the toolbar; context of the host's unit functions. Not owned.
-    virtual void* ownerContext() const = 0;
+    virtual const HostUnits& units() const = 0;
+    virtual const ValueChecks& checks() const = 0;
+
+    /// Holds the toolbar: parent of the host's windows and context of its functions. Not owned.
+    virtual QWidget* hostWidget() const = 0;
     /// UTF-8, like the step.
     virtual const std::string& job() const = 0;
     virtual const std::string& step() const = 0;
@@ -41,15 +44,6 @@ public:
     virtual void sendDirection() = 0;
     /// The attributes by address (code 51); the canvas reads them during the call.
     virtual void sendAttributes(const std::map<std::string, std::string>& attributes) = 0;
-
-    // The checks report a refusal to the user in exactly one box before they return false.
-
-    /// A number from 0 to `boundInMil`; metric text is divided by 25.4 before it is compared.
-    virtual bool checkLength(const QString& text, double boundInMil) = 0;
-    /// A coordinate in the user's unit, at most 100000 mil or 2540000 micrometres either way.
-    virtual bool checkCoordinate(double value) = 0;
-    /// A plain number without a unit.
-    virtual bool checkNumber(double value, double minimum, double maximum) = 0;
 
     /// Shows the common controls again and tells the canvas the state of the attributes. False when
     /// a receiver of that has deleted the dialog, and the caller with it.

@@ -6,13 +6,15 @@
 #include <vector>
 
 class QObject;
+class QWidget;
 
 /// Ensures that each entry is handled exactly once, whatever boxes open meanwhile.
 ///
 /// A box takes the focus from whichever field has it, and Qt then reports that editing has
 /// finished. For the field whose handler opened the box that is the same entry again, and is
-/// ignored. For any other field it is an entry that was still pending, and Qt will not report it
-/// again: it is handled when the handler that opened the box has finished.
+/// ignored; for a line edit that nobody touched it is no entry at all. For any other field it is
+/// an entry that was still pending, and Qt will not report it again: it is handled when the handler
+/// that opened the box has finished.
 class RefusalGuard {
 public:
     using Handler = std::function<void()>;
@@ -28,6 +30,9 @@ public:
 
     /// Whether a handler of `field` is running.
     bool isHandling(const QObject* field) const;
+
+    /// Whether a box keeps the user from `field`: one of a handler, or any other modal window.
+    bool isBoxOver(const QWidget& field) const;
 
     /// Runs `action`, which may open a box about `field`; null: about no field.
     template <class Action>

@@ -1,5 +1,6 @@
 #include "addfeature/record/ValueChecks.h"
 
+#include "addfeature/record/HostUnits.h"
 #include "addfeature/record/RefusalGuard.h"
 #include "addfeature/record/Units.h"
 
@@ -22,30 +23,31 @@ bool within(double value, double minimum, double maximum)
 
 }  // namespace
 
-ValueChecks::ValueChecks(RefusalGuard& refusals, QWidget* window, void* ownerContext)
-    : m_refusals(refusals), m_window(window), m_ownerContext(ownerContext)
+ValueChecks::ValueChecks(RefusalGuard& refusals, const HostUnits& units, QWidget* window,
+                         QWidget* hostWidget)
+    : m_refusals(refusals), m_units(units), m_window(window), m_hostWidget(hostWidget)
 {
 }
 
-bool ValueChecks::length(const QString& text, double boundInMil, bool isMetric) const
+bool ValueChecks::length(const QString& text, double maximumInMil) const
 {
     bool isNumber = false;
     const double value = text.toDouble(&isNumber);
-    if (isNumber && within(isMetric ? value / Units::factor : value, 0, boundInMil)) {
+    if (isNumber &&
+        within(m_units.wasToldMetric() ? value / Units::factor : value, 0, maximumInMil)) {
         return true;
     }
     m_refusals.box([&] {
-        const double bound = ZENTRA::UIAPI::getUnitJudgeDouble(m_ownerContext, boundInMil);
         QMessageBox::information(m_window, tr("Information"),
                                  tr("The current text box can only enter a value from 0 to") +
-                                     QString::number(bound, 'f', 0));
+                                     QString::number(m_units.shownBound(maximumInMil), 'f', 0));
     });
     return false;
 }
 
-bool ValueChecks::coordinate(double value, bool isMetric) const
+bool ValueChecks::coordinate(double value) const
 {
-    const int bound = isMetric ? coordinateBoundMicrometre : coordinateBoundMil;
+    const int bound = m_units.wasToldMetric() ? coordinateBoundMicrometre : coordinateBoundMil;
     if (within(value, -bound, bound)) {
         return true;
     }
@@ -60,13 +62,13 @@ bool ValueChecks::coordinate(double value, bool isMetric) const
 bool ValueChecks::number(double value, double minimum, double maximum) const
 {
     return m_refusals.box(
-        [&] { return ZENTRA::UIAPI::isNumValueLegal(value, minimum, maximum, m_ownerContext); });
+        [&] { return ZENTRA::UIAPI::isNumValueLegal(value, minimum, maximum, m_hostWidget); });
 }
 
 bool ValueChecks::symbolSizes(const QString& name) const
 {
     return m_refusals.box([&] {
         return ZENTRA::UIAPI::isSymbolValueLegal(name, symbolSizeMinimum, symbolSizeMaximum,
-                                                 m_ownerContext);
+                                                 m_hostWidget);
     });
 }

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QString>
 
+class HostUnits;
 class QWidget;
 class RefusalGuard;
 
@@ -10,24 +11,28 @@ class RefusalGuard;
 class ValueChecks {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 public:
-    /// `window` is the parent of the boxes, `ownerContext` that of the host's unit functions.
-    ValueChecks(RefusalGuard& refusals, QWidget* window, void* ownerContext);
+    /// `window` is the parent of the boxes, `hostWidget` the context of the host's functions.
+    ValueChecks(RefusalGuard& refusals, const HostUnits& units, QWidget* window,
+                QWidget* hostWidget);
+    virtual ~ValueChecks() = default;
+    ValueChecks(const ValueChecks&) = delete;
+    ValueChecks& operator=(const ValueChecks&) = delete;
 
-    /// A number from 0 to `boundInMil`; metric text, in micrometres, is converted before it is
-    /// compared.
-    bool length(const QString& text, double boundInMil, bool isMetric) const;
+    /// A length as typed, from 0 to `maximumInMil`.
+    virtual bool length(const QString& text, double maximumInMil) const;
 
-    /// A coordinate in mil or micrometres.
-    bool coordinate(double value, bool isMetric) const;
+    /// A coordinate as typed, at most 100000 mil or 2540000 micrometres either way.
+    virtual bool coordinate(double value) const;
 
-    /// A plain number, checked by the host.
-    bool number(double value, double minimum, double maximum) const;
+    /// A plain number without a unit, checked by the host.
+    virtual bool number(double value, double minimum, double maximum) const;
 
     /// The sizes in a symbol name as typed, checked by the host.
-    bool symbolSizes(const QString& name) const;
+    virtual bool symbolSizes(const QString& name) const;
 
 private:
     RefusalGuard& m_refusals;
+    const HostUnits& m_units;
     QWidget* m_window;
-    void* m_ownerContext;
+    QWidget* m_hostWidget;
 };

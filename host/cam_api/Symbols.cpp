@@ -21,8 +21,8 @@ constexpr symbol_type types[] = {
 
 int hundredths(double mil)
 {
-    constexpr double largest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::min(std::round(mil * 100), largest));
+    constexpr double maximum = std::numeric_limits<int>::max();
+    return static_cast<int>(std::min(std::round(mil * 100), maximum));
 }
 
 bool identifyStandard(const QString& text, symbol_type& type, int& a, int& b)

@@ -11,8 +11,8 @@
 namespace CanvasHost {
 namespace {
 
-constexpr int leastDigits = 6;
-constexpr int mostDigits = 15;
+constexpr int minimumDigits = 6;
+constexpr int maximumDigits = 15;
 
 /// `value` rounded to that many significant digits, without exponent or trailing zeros.
 QString plainText(double value, int digits)
@@ -45,7 +45,7 @@ int precision(QString text)
     const auto isZero = [](QChar c) { return c == QLatin1Char('0'); };
     const auto first = std::find_if_not(text.cbegin(), text.cend(), isZero);
     const auto last = std::find_if_not(text.crbegin(), text.crend(), isZero).base();
-    return std::max(static_cast<int>(last - first), leastDigits);
+    return std::max(static_cast<int>(last - first), minimumDigits);
 }
 
 QString rounded(const QString& text, bool toMetric, int digits)
@@ -64,7 +64,7 @@ QString rounded(const QString& text, bool toMetric, int digits)
 QString counterpart(const QString& text, bool toMetric, int digitLimit)
 {
     const int ownDigits = precision(text);
-    for (int digits = leastDigits; digits <= digitLimit; ++digits) {
+    for (int digits = minimumDigits; digits <= digitLimit; ++digits) {
         QString candidate = rounded(text, toMetric, digits);
         if (rounded(candidate, !toMetric, ownDigits) == text &&
             counterpart(candidate, !toMetric, ownDigits - 1).isNull()) {
@@ -83,9 +83,9 @@ QString convertNumber(const QString& text, bool toMetric)
     if (!isNumber || !std::isfinite(value * metricFactor)) {
         return QString();
     }
-    const QString source = plainText(value, mostDigits);
-    const QString result = counterpart(source, toMetric, mostDigits);
-    return result.isNull() ? rounded(source, toMetric, mostDigits) : result;
+    const QString source = plainText(value, maximumDigits);
+    const QString result = counterpart(source, toMetric, maximumDigits);
+    return result.isNull() ? rounded(source, toMetric, maximumDigits) : result;
 }
 
 }  // namespace CanvasHost

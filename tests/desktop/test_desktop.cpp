@@ -5,10 +5,10 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "OpenWindow.h"
-#include "ToolModes.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
+#include "plugin/ToolModes.h"
 
 #include <QLabel>
 #include <QLineEdit>

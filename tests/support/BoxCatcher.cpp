@@ -18,6 +18,26 @@ BoxCatcher::~BoxCatcher()
     }
 }
 
+void BoxCatcher::closeAfter(int milliseconds)
+{
+    m_delay = milliseconds;
+    m_timer.stop();
+    qApp->installEventFilter(this);
+}
+
+bool BoxCatcher::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show && qobject_cast<QMessageBox*>(watched)) {
+        if (m_delay == atOnce) {
+            QMetaObject::invokeMethod(
+                this, [this] { answer(); }, Qt::QueuedConnection);
+        } else {
+            QTimer::singleShot(m_delay, this, [this] { answer(); });
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 void BoxCatcher::answer()
 {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

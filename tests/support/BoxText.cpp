@@ -59,10 +59,11 @@ BoxText anyCoordinate()
     return {information, coordinateStart, BoxText::Match::Start};
 }
 
-BoxText number(int least, int most)
+BoxText number(int minimum, int maximum)
 {
-    return {information,
-            QStringLiteral("%1%2 and %3.").arg(QLatin1String(numberStart)).arg(least).arg(most)};
+    return {
+        information,
+        QStringLiteral("%1%2 and %3.").arg(QLatin1String(numberStart)).arg(minimum).arg(maximum)};
 }
 
 BoxText anyNumber()

@@ -31,7 +31,7 @@ BoxText coordinate(int bound);
 /// Refuses a coordinate, whatever the bound.
 BoxText anyCoordinate();
 /// The host's own.
-BoxText number(int least, int most);
+BoxText number(int minimum, int maximum);
 BoxText anyNumber();
 /// A box of the host's, whatever it says.
 BoxText hosts();

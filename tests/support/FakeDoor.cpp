@@ -57,19 +57,30 @@ bool FakeDoor::answer(const QString& call)
     return accepts;
 }
 
-bool FakeDoor::checkLength(const QString& text, double boundInMil)
+FakeDoor::Checks::Checks(FakeDoor& door)
+    : ValueChecks(door.m_refusals, door.hostUnits, nullptr, nullptr), m_door(door)
 {
-    return answer(QStringLiteral("length %1 up to %2").arg(text).arg(boundInMil));
 }
 
-bool FakeDoor::checkCoordinate(double value)
+bool FakeDoor::Checks::length(const QString& text, double maximumInMil) const
 {
-    return answer(QStringLiteral("coordinate %1").arg(value));
+    return m_door.answer(QStringLiteral("length %1 up to %2").arg(text).arg(maximumInMil));
 }
 
-bool FakeDoor::checkNumber(double value, double minimum, double maximum)
+bool FakeDoor::Checks::coordinate(double value) const
 {
-    return answer(QStringLiteral("number %1 from %2 to %3").arg(value).arg(minimum).arg(maximum));
+    return m_door.answer(QStringLiteral("coordinate %1").arg(value));
+}
+
+bool FakeDoor::Checks::number(double value, double minimum, double maximum) const
+{
+    return m_door.answer(
+        QStringLiteral("number %1 from %2 to %3").arg(value).arg(minimum).arg(maximum));
+}
+
+bool FakeDoor::Checks::symbolSizes(const QString& name) const
+{
+    return m_door.answer(QStringLiteral("symbol %1").arg(name));
 }
 
 bool FakeDoor::restoreCommonRows()

@@ -2,7 +2,9 @@
 
 #include "addfeature/record/DialogDoor.h"
 #include "addfeature/record/FeatureRecord.h"
+#include "addfeature/record/HostUnits.h"
 #include "addfeature/record/RefusalGuard.h"
+#include "addfeature/record/ValueChecks.h"
 
 #include <QObject>
 #include <QStringList>
@@ -23,8 +25,8 @@ public:
     /// Runs `rule` instead of the field when the signal for `slot` comes.
     void route(const char* slot, std::function<void()> rule);
 
-    bool accepts = true;   ///< what every check answers
-    bool metric = false;   ///< the user's unit
+    bool accepts = true;  ///< what every check answers
+    HostUnits hostUnits{nullptr};
     bool survives = true;  ///< what restoreCommonRows() answers
     std::string jobName = "job";
     /// Called while a refusal's box would be open.
@@ -34,8 +36,9 @@ public:
 
     FeatureRecord& record() override { return m_record; }
     RefusalGuard& refusals() override { return m_refusals; }
-    bool isMetric() const override { return metric; }
-    void* ownerContext() const override { return nullptr; }
+    const HostUnits& units() const override { return hostUnits; }
+    const ValueChecks& checks() const override { return m_checks; }
+    QWidget* hostWidget() const override { return nullptr; }
     const std::string& job() const override { return jobName; }
     const std::string& step() const override { return m_step; }
     FeatureType featureType() const override { return FeatureType::Line; }
@@ -44,9 +47,6 @@ public:
     void sendRecord() override;
     void sendDirection() override;
     void sendAttributes(const std::map<std::string, std::string>& attributes) override;
-    bool checkLength(const QString& text, double boundInMil) override;
-    bool checkCoordinate(double value) override;
-    bool checkNumber(double value, double minimum, double maximum) override;
     bool restoreCommonRows() override;
     void hideAttributeRows() override;
     void hidePlacementRows() override;
@@ -58,10 +58,24 @@ private Q_SLOTS:
     void take();
 
 private:
+    /// Notes what is checked, and answers as the door is told.
+    class Checks : public ValueChecks {
+    public:
+        explicit Checks(FakeDoor& door);
+        bool length(const QString& text, double maximumInMil) const override;
+        bool coordinate(double value) const override;
+        bool number(double value, double minimum, double maximum) const override;
+        bool symbolSizes(const QString& name) const override;
+
+    private:
+        FakeDoor& m_door;
+    };
+
     bool answer(const QString& call);
 
     FeatureRecord m_record;
     RefusalGuard m_refusals;
+    Checks m_checks{*this};
     std::string m_step = "step";
     QStringList m_calls;
     QStringList m_connections;

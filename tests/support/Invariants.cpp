@@ -29,8 +29,8 @@ const QSet<QString> integerKeys = {RecordKeys::orbotechType, RecordKeys::feature
 
 struct Bound {
     QString key;
-    double least;
-    double most;
+    double minimum;
+    double maximum;
     bool isAsTyped = false;  ///< stored with each key: a part of a number ("-", "1e") counts as 0
 };
 const Bound bounds[] = {
@@ -68,7 +68,7 @@ QString Invariants::faultOf(const QVariantMap& record)
         const QString text = record.value(bound.key).toString();
         const double value = text.toDouble(&isNumber);
         isNumber = isNumber || (bound.isAsTyped && isPartOfNumber(text));
-        if (!(isNumber && value >= bound.least && value <= bound.most)) {
+        if (!(isNumber && value >= bound.minimum && value <= bound.maximum)) {
             return QStringLiteral("%1 is \"%2\"").arg(bound.key, text);
         }
     }

@@ -1,20 +1,17 @@
 #include "viewer/ToolSet.h"
 
 #include "plugin/MessageCodes.h"
+#include "plugin/ToolModes.h"
+#include "shared/CodeTexts.h"
 #include "viewer/tools/EditTools.h"
 #include "viewer/tools/SelectionTools.h"
 #include "viewer/tools/ViewTools.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
-namespace Accepted = MessageCodes::Accepted;
 namespace Sent = MessageCodes::Sent;
 
 namespace {
-
-using ToolSet::Row;
 
 using Tool = std::unique_ptr<CanvasTool>;
 
@@ -50,73 +47,59 @@ Tool plain(Canvas& canvas, qint64 /*mode*/)
 
 Tool deleting(Canvas& canvas, qint64 mode)
 {
-    return std::make_unique<ClickEditTool>(canvas,
-                                           mode == 0 ? Edits::remove : Edits::removeToIntersection);
+    return std::make_unique<ClickEditTool>(
+        canvas, mode == DeleteMode::feature ? Edits::remove : Edits::removeToIntersection);
 }
 
 Tool marking(Canvas& canvas, qint64 mode)
 {
-    return std::make_unique<MarkTool>(canvas, mode == 0);
+    return std::make_unique<MarkTool>(canvas, mode == MarkMode::orthogonal);
 }
 
-// clang-format off
-constexpr Row rows[] = {
-    {Sent::AreaZoom, 0, QT_TRANSLATE_NOOP("ToolSet", "Area zoom"), plain<AreaZoomTool>},
-    {Sent::FeatureSelection, Sent::FeatureSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Feature selection"), plain<FeatureSelectionTool>},
-    {Sent::RectangleSelection, Sent::RectangleSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Rectangle selection"), plain<RectangleSelectionTool>},
-    {Sent::PolygonSelection, Sent::PolygonSelectionOff, QT_TRANSLATE_NOOP("ToolSet", "Polygon selection"), plain<PolygonSelectionTool>},
-    {Sent::SelectPolyline, 0, QT_TRANSLATE_NOOP("ToolSet", "Select polyline"), selecting<Groups::polyline>},
-    {Sent::SelectLayerNet, 0, QT_TRANSLATE_NOOP("ToolSet", "Select layer net"), selecting<Groups::layerNet>},
-    {Sent::SelectBoardNet, 0, QT_TRANSLATE_NOOP("ToolSet", "Select board net"), selecting<Groups::boardNet>},
-    {Sent::FeatureHighLight, 0, QT_TRANSLATE_NOOP("ToolSet", "Feature highlight"), plain<HighlightTool>},
-    {Sent::AddFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Add feature"), nullptr},
-    {Sent::DeleteFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Delete feature"), deleting},
-    {Sent::MoveFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Move feature"), moving<Edits::move>},
-    {Sent::CopyFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Copy feature"), moving<Edits::copy>},
-    {Sent::ChangeLineAngle, Sent::ChangeLineAngleOff, QT_TRANSLATE_NOOP("ToolSet", "Change line angle"), lineEnd<Edits::changeAngle>},
-    {Sent::StretchLine, Sent::StretchLineOff, QT_TRANSLATE_NOOP("ToolSet", "Stretch line"), lineEnd<Edits::stretch>},
-    {Sent::RotateFeature, Sent::RotateFeatureOff, QT_TRANSLATE_NOOP("ToolSet", "Rotate feature"), clickEdit<Edits::rotate>},
-    {Sent::MirrorFeature, 0, QT_TRANSLATE_NOOP("ToolSet", "Mirror feature"), clickEdit<Edits::mirror>},
-    {Sent::InvertFeature, Sent::InvertFeatureOff, QT_TRANSLATE_NOOP("ToolSet", "Invert feature"), clickEdit<Edits::invert>},
-    {Sent::BreakLine, Sent::BreakLineOff, QT_TRANSLATE_NOOP("ToolSet", "Break line"), clickEdit<Edits::breakLine>},
-    {Sent::Mark, 0, QT_TRANSLATE_NOOP("ToolSet", "Mark"), marking},
-    {Sent::OpenPopView, 0, QT_TRANSLATE_NOOP("ToolSet", "Open a pop view"), nullptr},
-    {Sent::RoutDimension, 0, QT_TRANSLATE_NOOP("ToolSet", "Rout dimension"), nullptr},
-    {Sent::ContourEditor, 0, QT_TRANSLATE_NOOP("ToolSet", "Contour editor"), nullptr},
-    {Sent::PullLine, 0, QT_TRANSLATE_NOOP("ToolSet", "Pull line"), nullptr},
-    {Sent::MoveJunction, 0, QT_TRANSLATE_NOOP("ToolSet", "Move junction"), nullptr},
-    {Sent::MoveTriplet, Sent::MoveTripletOff, QT_TRANSLATE_NOOP("ToolSet", "Move triplet"), nullptr},
-    {Sent::RerouteTrace, Sent::RerouteTraceOff, QT_TRANSLATE_NOOP("ToolSet", "Reroute trace"), nullptr},
-    {Sent::Eq, 0, QT_TRANSLATE_NOOP("ToolSet", "EQ"), nullptr},
+struct Row {
+    int code;
+    Tool (*create)(Canvas& canvas, qint64 mode);
 };
-constexpr Row measureRow = {Accepted::Measure, 0, QT_TRANSLATE_NOOP("ToolSet", "Measure"), nullptr};
-// clang-format on
 
-const Row* findBy(int Row::*code, int wanted)
-{
-    const auto found = std::find_if(std::begin(rows), std::end(rows),
-                                    [=](const Row& row) { return row.*code == wanted; });
-    return found == std::end(rows) ? nullptr : found;
-}
+// The other tools are known by name only.
+constexpr Row rows[] = {
+    {Sent::AreaZoom, plain<AreaZoomTool>},
+    {Sent::FeatureSelection, plain<FeatureSelectionTool>},
+    {Sent::RectangleSelection, plain<RectangleSelectionTool>},
+    {Sent::PolygonSelection, plain<PolygonSelectionTool>},
+    {Sent::SelectPolyline, selecting<Groups::polyline>},
+    {Sent::SelectLayerNet, selecting<Groups::layerNet>},
+    {Sent::SelectBoardNet, selecting<Groups::boardNet>},
+    {Sent::FeatureHighLight, plain<HighlightTool>},
+    {Sent::DeleteFeature, deleting},
+    {Sent::MoveFeature, moving<Edits::move>},
+    {Sent::CopyFeature, moving<Edits::copy>},
+    {Sent::ChangeLineAngle, lineEnd<Edits::changeAngle>},
+    {Sent::StretchLine, lineEnd<Edits::stretch>},
+    {Sent::RotateFeature, clickEdit<Edits::rotate>},
+    {Sent::MirrorFeature, clickEdit<Edits::mirror>},
+    {Sent::InvertFeature, clickEdit<Edits::invert>},
+    {Sent::BreakLine, clickEdit<Edits::breakLine>},
+    {Sent::Mark, marking},
+};
 
 }  // namespace
 
-const Row* ToolSet::find(int code)
+bool ToolSet::isEnd(int code)
 {
-    return findBy(&Row::code, code);
+    return QByteArray(Sent::nameOf(code)).endsWith("Off");
 }
 
-const Row* ToolSet::ended(int code)
+std::unique_ptr<CanvasTool> ToolSet::create(int code, Canvas& canvas, qint64 mode)
 {
-    return code == 0 ? nullptr : findBy(&Row::offCode, code);
+    const Row* const row = std::find_if(std::begin(rows), std::end(rows),
+                                        [code](const Row& row) { return row.code == code; });
+    return row == std::end(rows) ? nullptr : row->create(canvas, mode);
 }
 
-const Row& ToolSet::measuring()
+QString ToolSet::text(int code)
 {
-    return measureRow;
-}
-
-QString ToolSet::text(const Row& row)
-{
-    return QCoreApplication::translate("ToolSet", row.text);
+    // The host's measure window, whose tool no message to the canvas announces, is started by a
+    // code that the strip accepts.
+    return Sent::nameOf(code) ? CodeTexts::sent(code) : CodeTexts::accepted(code);
 }

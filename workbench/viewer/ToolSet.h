@@ -7,22 +7,14 @@
 /// What the messages about tools mean to the canvas.
 namespace ToolSet {
 
-struct Row {
-    int code;          ///< the tool is the active one now
-    int offCode;       ///< ... and no longer; 0 when there is no such message
-    const char* text;  ///< to be translated in the context "ToolSet"
-    /// Null for a tool that is not used on the board. `mode` is the message's extra word.
-    std::unique_ptr<CanvasTool> (*create)(Canvas& canvas, qint64 mode);
-};
+/// Whether the message says that a tool is no longer active.
+bool isEnd(int code);
 
-/// Null for a message that is about no tool.
-const Row* find(int code);
-/// Null unless `code` is a row's offCode.
-const Row* ended(int code);
-/// The tool of the host's measure window, which no message announces.
-const Row& measuring();
+/// The tool at work that the message announces; null for one that this canvas does not have. `mode`
+/// is the message's extra word.
+std::unique_ptr<CanvasTool> create(int code, Canvas& canvas, qint64 mode);
 
-/// In the user's language.
-QString text(const Row& row);
+/// What the tool with that code is called, in the user's language.
+QString text(int code);
 
 }  // namespace ToolSet

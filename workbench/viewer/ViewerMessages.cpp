@@ -54,7 +54,7 @@ void ViewerPane::receive(const PluginMetaData& message)
             openStep(message);
             break;
         case Sent::Unset:
-            startTool(nullptr, 0);  // unknown mode: ends the previous tool, too
+            startTool(Sent::Unset, 0);  // unknown mode: ends the previous tool, too
             break;
         default:
             followTool(message);
@@ -71,7 +71,7 @@ void ViewerPane::takeRecord(const PluginMetaData& message)
     m_inspector->showRecord(message);
     m_record = message.payload;
     // The tool announces itself only once; later its record starts the drawing.
-    const bool wasOther = m_tool != ToolSet::find(Sent::AddFeature);
+    const bool wasOther = m_tool != Sent::AddFeature;
     PlaceTool* const place = m_place ? m_place : startPlacing();
     if (wasOther) {
         // The dialog was used while the strip showed another tool.
@@ -112,58 +112,58 @@ void ViewerPane::takeAttributes(const PluginMetaData& message)
 
 void ViewerPane::stripWasMade()
 {
-    startTool(ToolSet::find(Sent::AreaZoom), 0);
+    startTool(Sent::AreaZoom, 0);
     showTool();
 }
 
 void ViewerPane::overhear(int code)
 {
-    const ToolSet::Row* const adding = ToolSet::find(Sent::AddFeature);
     if (code == Accepted::ReleaseAll) {
-        startTool(nullptr, 0);
+        startTool(Sent::Unset, 0);
     } else if ((code == Accepted::AddFeatureActive || code == Sent::AddFeatureStarted) &&
-               m_tool != adding) {
-        startTool(adding, 0);
+               m_tool != Sent::AddFeature) {
+        startTool(Sent::AddFeature, 0);
     } else if (code == Accepted::UnitChanged) {
         showLengths();
     }
     showTool();
 }
 
+/// What else the tool strip sends announces a tool, known to this canvas or not, or ends one.
 void ViewerPane::followTool(const PluginMetaData& message)
 {
-    if (const ToolSet::Row* const row = ToolSet::find(message.code)) {
-        startTool(row, message.extra);
-    } else if (ToolSet::ended(message.code)) {
-        startTool(nullptr, 0);
+    if (ToolSet::isEnd(message.code)) {
+        startTool(Sent::Unset, 0);
+    } else if (Sent::nameOf(message.code)) {
+        startTool(message.code, message.extra);
     }
 }
 
 /// Cancels what the previous tool was waiting for.
-void ViewerPane::startTool(const ToolSet::Row* row, qint64 mode)
+void ViewerPane::startTool(int code, qint64 mode)
 {
-    m_tool = row;
+    m_tool = code;
     m_mode = mode;
     m_place = nullptr;
     m_canvas.say({});
-    if (!row) {
+    if (code == Sent::Unset) {
         m_canvas.setTool(nullptr);
-    } else if (row->code == Sent::AddFeature) {
+    } else if (code == Sent::AddFeature) {
         startPlacing()->setBrush(Pcb::readBrush(m_record, m_attributes));
-    } else if (row->code == Sent::OpenPopView) {
+    } else if (code == Sent::OpenPopView) {
         m_canvas.setTool(nullptr);
         openSecondView();
     } else {
-        m_canvas.setTool(row->create ? row->create(m_canvas, mode) : nullptr);
+        m_canvas.setTool(ToolSet::create(code, m_canvas, mode));
         if (!m_canvas.tool()) {
-            m_canvas.say(tr("This canvas does not support \"%1\".").arg(ToolSet::text(*row)));
+            m_canvas.say(tr("This canvas does not support \"%1\".").arg(ToolSet::text(code)));
         }
     }
 }
 
 PlaceTool* ViewerPane::startPlacing()
 {
-    m_tool = ToolSet::find(Sent::AddFeature);
+    m_tool = Sent::AddFeature;
     m_mode = 0;
     auto tool = std::make_unique<PlaceTool>(m_canvas);
     const Pcb::Board& board = m_canvas.document().board();
@@ -182,7 +182,7 @@ PlaceTool* ViewerPane::startPlacing()
 void ViewerPane::startMeasuring()
 {
     // No message says that the measure tool is active.
-    m_tool = &ToolSet::measuring();
+    m_tool = Accepted::Measure;
     m_mode = 0;
     m_place = nullptr;
     m_canvas.say({});

@@ -8,6 +8,7 @@
 #include "viewer/Inspector.h"
 #include "viewer/SnapControls.h"
 #include "viewer/ToolLine.h"
+#include "viewer/ToolSet.h"
 
 #include <CommonWidgetsStandIn.h>
 
@@ -188,8 +189,8 @@ void ViewerPane::showHovered(int feature)
 void ViewerPane::showTool()
 {
     QString tool = tr("none");
-    if (m_tool) {
-        tool = ToolSet::text(*m_tool);
+    if (m_tool != MessageCodes::Sent::Unset) {
+        tool = ToolSet::text(m_tool);
         if (m_mode != 0) {
             tool = tr("%1, mode %2").arg(tool).arg(m_mode);
         }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "board/Feature.h"
+#include "plugin/MessageCodes.h"
 #include "shared/CanvasControl.h"
 #include "shared/Retranslated.h"
 #include "viewer/CanvasController.h"
-#include "viewer/ToolSet.h"
 
 #include <PluginMetaData.h>
 
@@ -52,7 +52,7 @@ private:
     void takeDirection(const PluginMetaData& message);
     void takeAttributes(const PluginMetaData& message);
     void followTool(const PluginMetaData& message);
-    void startTool(const ToolSet::Row* row, qint64 mode);
+    void startTool(int code, qint64 mode);
     PlaceTool* startPlacing();
     void openSecondView();
     void startMeasuring();
@@ -79,7 +79,7 @@ private:
     QLabel* m_pCanvasStatusLB;
     QLabel* m_pHoveredLB;
     QPointer<QWidget> m_secondView;
-    const ToolSet::Row* m_tool = nullptr;  ///< the message that announced it; null: none
+    int m_tool = MessageCodes::Sent::Unset;  ///< the code that announced it
     qint64 m_mode = 0;
     PlaceTool* m_place = nullptr;  ///< the tool at work, when it is this one
     QMap<QString, QVariant> m_record;

@@ -210,7 +210,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("field");
-        QTest::addColumn<int>("least");
+        QTest::addColumn<int>("minimum");
         QTest::newRow("symbol") << "m_pLineTB"
                                 << "m_pSymbolTextLE" << 180;
         QTest::newRow("polarity") << "m_pLineTB"
@@ -226,12 +226,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, type);
         QFETCH(QString, field);
-        QFETCH(int, least);
+        QFETCH(int, minimum);
         DialogFixture fixture;
         fixture.click(type);
         QTest::qWait(20);
         const int width = fixture.find(field).width();
-        QVERIFY2(width >= least, qPrintable(QString::number(width)));
+        QVERIFY2(width >= minimum, qPrintable(QString::number(width)));
     }
 
 private:

@@ -1,9 +1,11 @@
 // Everything that was set on a widget, layout, button group, validator or menu of strip, dialog and
 // popup, against a list: a margin, a stretch, a flat button or an icon size changes only on
-// purpose. After such a change LOOKS_WRITE=1 rewrites the lists; review the diff.
+// purpose. After such a change LOOKS_WRITE=1 rewrites the lists; review the diff. The strip is
+// compared with tests/contract/tools.txt.
 
 #include "DialogFixture.h"
 #include "Main.h"
+#include "ToolRows.h"
 #include "dimensions/Dimensious.h"
 
 #include <QActionGroup>
@@ -151,10 +153,10 @@ QString scalarsOf(const QObject& object)
         const QMetaProperty property = meta->property(i);
         const QString value = textOf(property, property.read(&object));
         // The layout works out a window's minimum size.
-        const bool isLeastOfWindow = object.isWidgetType() &&
-                                     static_cast<const QWidget&>(object).isWindow() &&
-                                     qstrcmp(property.name(), "minimumSize") == 0;
-        if (!isLeastOfWindow && !isDerived(property.name()) &&
+        const bool isMinimumOfWindow = object.isWidgetType() &&
+                                       static_cast<const QWidget&>(object).isWindow() &&
+                                       qstrcmp(property.name(), "minimumSize") == 0;
+        if (!isMinimumOfWindow && !isDerived(property.name()) &&
             value != textOf(property, property.read(other.data()))) {
             found.append(QStringLiteral("%1=%2").arg(property.name(), value).replace('\n', "\\n"));
         }
@@ -283,16 +285,29 @@ QStringList readLines(const QString& name)
                                           : QStringList();
 }
 
-void compareWith(const QString& list, const QObject& root)
+QStringList looksOf(const QObject& root)
 {
     QStringList lines;
     describe(root, 0, &lines);
-    lines.append(QString());
     for (QString& line : lines) {
         while (line.endsWith(' ')) {
             line.chop(1);
         }
     }
+    return lines;
+}
+
+void compareLines(const QStringList& lines, const QStringList& expected)
+{
+    for (int i = 0; i < qMin(lines.size(), expected.size()); ++i) {
+        QCOMPARE(lines[i], expected[i]);
+    }
+    QCOMPARE(lines.size(), expected.size());
+}
+
+void compareWith(const QString& list, const QObject& root)
+{
+    const QStringList lines = looksOf(root) + QStringList(QString());
     const QString name = QDir(LOOKS_FOLDER).filePath(list);
     if (qEnvironmentVariableIsSet("LOOKS_WRITE")) {
         QFile file(name);
@@ -300,11 +315,43 @@ void compareWith(const QString& list, const QObject& root)
         file.write(lines.join('\n').toUtf8());
         return;
     }
-    const QStringList expected = readLines(name);
-    for (int i = 0; i < qMin(lines.size(), expected.size()); ++i) {
-        QCOMPARE(lines[i], expected[i]);
+    compareLines(lines, readLines(name));
+}
+
+constexpr int columns = 4;  // of the strip
+
+/// The strip's layout: the tools row by row.
+QString gridOf(const QVector<ToolRow>& tools)
+{
+    QStringList items;
+    for (const ToolRow& tool : tools) {
+        const int place = items.size();
+        items.append(QStringLiteral("%1@%2,%3+1,1")
+                         .arg(tool.objectName)
+                         .arg(place / columns)
+                         .arg(place % columns));
     }
-    QCOMPARE(lines.size(), expected.size());
+    const int rows = (tools.size() + columns - 1) / columns;
+    return QStringLiteral("  Canvas_Tool_Strip :  margins 11,11,11,11 spacing 6 stretch%1: %2")
+        .arg(QStringLiteral(" 0/0").repeated(columns + rows), items.join(", "));
+}
+
+QString lookOf(const ToolRow& tool, bool isChecked)
+{
+    QStringList set{"minimumSize=40x40", "maximumSize=40x40"};
+    if (!tool.isEnabled) {
+        set.prepend("enabled=false");
+    }
+    if (tool.hasMenu) {
+        set.append("contextMenuPolicy=CustomContextMenu");
+    }
+    set += {"toolTip=" + tool.tip, "accessibleName=" + tool.tip, "styleSheet=" + tool.styleSheet(),
+            "checkable=true"};
+    if (isChecked) {
+        set.append("checked=true");
+    }
+    set.append("autoRaise=true");
+    return QStringLiteral("  QToolButton %1: %2").arg(tool.objectName, set.join("; "));
 }
 
 }  // namespace
@@ -323,7 +370,12 @@ private Q_SLOTS:
     {
         QWidget panel;
         panel.setLayout(new Canvas_Tool_Strip(&panel));
-        compareWith("strip.txt", panel);
+        // The first button is the panel's child before the strip is.
+        QStringList expected{"QWidget :", lookOf(toolRows().first(), true), gridOf(toolRows())};
+        for (const ToolRow& tool : toolRows().mid(1)) {
+            expected.append(lookOf(tool, false));
+        }
+        compareLines(looksOf(panel), expected);
     }
 
     void dimensions()

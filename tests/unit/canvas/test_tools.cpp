@@ -3,8 +3,8 @@
 
 #include "CanvasFixture.h"
 #include "Main.h"
-#include "ToolModes.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ToolModes.h"
 
 #include <QRegularExpression>
 #include <QToolButton>
@@ -403,6 +403,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         const CanvasFixture fixture(cross());
         const CanvasState before = fixture.state();
+        fixture.receive(Sent::DeleteFeature, DeleteMode::feature);  // is not left active
         fixture.receive(code);
         QCOMPARE(fixture.text("m_pCanvasStatusLB"),
                  QString("This canvas does not support \"%1\".").arg(name));

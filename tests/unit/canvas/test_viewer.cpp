@@ -2,6 +2,7 @@
 
 #include "FindChild.h"
 #include "Main.h"
+#include "ToolRows.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageNames.h"
 #include "plugin/ExtraWord.h"
@@ -9,7 +10,6 @@
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 #include "viewer/BoardView.h"
-#include "viewer/ToolSet.h"
 #include "viewer/ViewerPane.h"
 
 #include <common_widgets.h>
@@ -50,23 +50,6 @@ class TestViewer : public QObject {
     }
 
 private Q_SLOTS:
-    void everyToolMessageHasItsMeaning()
-    {
-        const QSet<int> others{Sent::Unset,           Sent::AddFeatureStarted, Sent::MarkSettings,
-                               Sent::SelectSymbol,    Sent::DialogsClosed,     Sent::Record,
-                               Sent::AttributeMap,    Sent::DirectionRecord,   Sent::Fill,
-                               Sent::SelectFromEditor};
-        for (const int code : Sent::all()) {
-            const char* const name = Sent::nameOf(code);
-            const bool ends = QByteArray(name).endsWith("Off");
-            const ToolSet::Row* const tool = ToolSet::find(code);
-            QVERIFY2((tool != nullptr) == (!ends && !others.contains(code)), name);
-            QVERIFY2(!tool || ToolSet::text(*tool) == MessageNames::text(ModuleNames::viewer, code),
-                     name);
-            QVERIFY2((ToolSet::ended(code) != nullptr) == ends, name);
-        }
-    }
-
     void initTestCase()
     {
         CanvasHost::addInstance("Canvas_Tool_Strip.dll", this, [](void*, PluginMetaData) {});
@@ -106,6 +89,24 @@ private Q_SLOTS:
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
         receive(12345);
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
+    }
+
+    /// By the name that the monitor shows, whether the canvas has it or not.
+    void followsEachTool()
+    {
+        for (const ToolRow& tool : toolRows()) {
+            receive(Sent::MoveFeature);
+            if (tool.code < 0) {
+                continue;  // announced by no message
+            }
+            receive(tool.code);
+            QCOMPARE(text("m_pActiveToolLB"),
+                     "Tool: " + MessageNames::text(ModuleNames::viewer, tool.code));
+            if (tool.offCode != tool.code) {
+                receive(tool.offCode);
+                QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
+            }
+        }
     }
 
     void answersAddFeatureWithTheUnit()

@@ -129,7 +129,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isSent");
         for (const char* const checked : {"m_pLineTB", "m_pPadTB", "m_pArcTB"}) {
             QTest::addRow("%s too large", checked) << checked << "r50000.5" << false;
-            QTest::addRow("%s largest", checked) << checked << "r50000" << true;
+            QTest::addRow("%s maximum", checked) << checked << "r50000" << true;
             QTest::addRow("%s special", checked) << checked << "fiducial_cross" << true;
             QTest::addRow("%s empty", checked) << checked << "" << true;
         }

@@ -1,7 +1,9 @@
 // What each kind of field stores, refuses and sends, without a dialog around it.
 
+#include "AnyField.h"
 #include "FakeDoor.h"
 #include "Main.h"
+#include "addfeature/fields/ButtonField.h"
 #include "addfeature/fields/ChoiceField.h"
 #include "addfeature/fields/FlagField.h"
 #include "addfeature/fields/LengthField.h"
@@ -9,6 +11,8 @@
 #include "addfeature/fields/PitchField.h"
 #include "addfeature/fields/RadioField.h"
 #include "addfeature/fields/TextField.h"
+
+#include <UiApiStandIn.h>
 
 #include <QLabel>
 #include <QToolButton>
@@ -18,19 +22,6 @@ Q_DECLARE_METATYPE(ChoiceField::Stores)
 Q_DECLARE_METATYPE(UnitField::Unit)
 
 namespace {
-
-const QString key("Key");
-const char* const finishSlot = SLOT(on_m_pAnyLE_editingFinished());
-
-Field::Details line(Sends sends, Message message = Message::Record)
-{
-    return {"m_pAnyLE", Caption::label("Any : "), key, finishSlot, sends, message};
-}
-
-Field::Details other(Sends sends)
-{
-    return {"m_pOtherLE", Caption::label("Other"), "Other", finishSlot, sends};
-}
 
 /// "10" in a field for a length, and what results.
 struct TypedLength {
@@ -48,13 +39,6 @@ struct TypedLength {
     bool sent = false;
 };
 
-void type(QLineEdit& field, const QString& text)
-{
-    field.selectAll();
-    QTest::keyClick(&field, Qt::Key_Delete);
-    QTest::keyClicks(&field, text);
-}
-
 }  // namespace
 Q_DECLARE_METATYPE(TypedLength)
 
@@ -66,8 +50,8 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        const LengthField length(door, &page, line(Sends::Always), "250", 50000);
-        QCOMPARE(door.record().text(key), QString("6350"));
+        const LengthField length(door, &page, upTo50000(Sends::Always), "250");
+        QCOMPARE(door.record().text(anyKey), QString("6350"));
         QCOMPARE(door.takeCalls(), QStringList());
         QCOMPARE(door.connections(),
                  QStringList("m_pAnyLE editingFinished() on_m_pAnyLE_editingFinished()"));
@@ -96,15 +80,15 @@ private Q_SLOTS:
         QFETCH(TypedLength, row);
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(row.sends), "5", 50000);
+        LengthField field(door, &page, upTo50000(row.sends), "5");
         door.accepts = row.isAccepted;
-        door.metric = row.metric;
+        door.hostUnits.tell(row.metric);
         QString whenSent;
-        door.onSend = [&] { whenSent = door.record().text(key); };
+        door.onSend = [&] { whenSent = door.record().text(anyKey); };
         type(field, "10");
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(field.text(), row.shown);
-        QCOMPARE(door.record().text(key), row.stored);
+        QCOMPARE(door.record().text(anyKey), row.stored);
         QCOMPARE(door.takeCalls(), QStringList("length 10 up to 50000") +
                                        (row.sent ? QStringList("record") : QStringList()));
         QCOMPARE(whenSent, row.sent ? row.stored : QString());
@@ -129,7 +113,7 @@ private Q_SLOTS:
         QFETCH(QString, metric);
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(Sends::Always), "10", 50000, unit);
+        LengthField field(door, &page, upTo50000(Sends::Always), "10", unit);
         QCOMPARE(field.unitLabel()->text(), labels[0]);
         for (int twice = 0; twice < 2; ++twice) {
             field.changeUnit(true);
@@ -139,7 +123,7 @@ private Q_SLOTS:
         field.changeUnit(false);
         QCOMPARE(field.unitLabel()->text(), labels[2]);
         QCOMPARE(field.text(), QString("10"));
-        QCOMPARE(door.record().text(key), QString("254"));
+        QCOMPARE(door.record().text(anyKey), QString("254"));
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
@@ -147,7 +131,7 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        LengthField field(door, &page, line(Sends::Never), "1", 50000, UnitField::Unit::PlainInch);
+        LengthField field(door, &page, upTo50000(Sends::Never), "1", UnitField::Unit::PlainInch);
         field.changeUnit(true);
         QCOMPARE(field.text(), QString("25.4"));
         field.setText("50.8");
@@ -162,26 +146,28 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        PitchField field(door, &page, line(Sends::WhenAccepted), true);
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Micrometre);
+        PitchField field(door, &page, line(Sends::WhenAccepted));
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
         QCOMPARE(field.unitLabel()->text(), QString("my"));
-        QCOMPARE(door.record().text(key), QString("0"));
+        QCOMPARE(door.record().text(anyKey), QString("0"));
         type(field, "-10");
         QTest::keyClick(&field, Qt::Key_Return);
-        QCOMPARE(door.record().text(key), QString("-254"));
+        QCOMPARE(door.record().text(anyKey), QString("-254"));
         QCOMPARE(door.takeCalls(), (QStringList{"coordinate -10", "record"}));
 
         door.accepts = false;
         type(field, "99");
         QTest::keyClick(&field, Qt::Key_Return);
         QCOMPARE(field.text(), QString("0"));
-        QCOMPARE(door.record().text(key), QString("-254"));  // only the field falls back
+        QCOMPARE(door.record().text(anyKey), QString("-254"));  // only the field falls back
         QCOMPARE(door.takeCalls(), QStringList("coordinate 99"));
 
         door.accepts = true;
         field.clear();
         field.finish();
         QCOMPARE(field.text(), QString("0"));
-        QCOMPARE(door.record().text(key), QString("0"));
+        QCOMPARE(door.record().text(anyKey), QString("0"));
     }
 
     void number_data()
@@ -196,11 +182,11 @@ private Q_SLOTS:
         QFETCH(bool, atEachChange);
         FakeDoor door;
         QWidget page;
+        Field::Details details = line(Sends::WhenAccepted).within(-1, 50);
         NumberField field(
-            door, &page,
-            line(Sends::WhenAccepted, atEachChange ? Message::Record : Message::Direction), "1",
-            {-1, 50},
-            atEachChange ? NumberField::Checked::AtEachChange : NumberField::Checked::WhenFinished);
+            door, &page, atEachChange ? details : details.asDirection(), "1",
+            atEachChange ? NumberField::Checked::AtEachChange : NumberField::Checked::WhenFinished,
+            NumberField::Typed::AsTheHostAllows);
         const QString sent = atEachChange ? "record" : "direction";
         field.setText("7");
         if (!atEachChange) {
@@ -208,7 +194,7 @@ private Q_SLOTS:
             field.finish();
         }
         QCOMPARE(door.takeCalls(), (QStringList{"number 7 from -1 to 50", sent}));
-        QCOMPARE(door.record().text(key), QString("7"));
+        QCOMPARE(door.record().text(anyKey), QString("7"));
 
         door.accepts = false;
         field.setText("99");
@@ -217,27 +203,27 @@ private Q_SLOTS:
         }
         QCOMPARE(door.takeCalls(), QStringList("number 99 from -1 to 50"));  // once, and unsent
         QCOMPARE(field.text(), QString("7"));
-        QCOMPARE(door.record().text(key), QString("7"));
+        QCOMPARE(door.record().text(anyKey), QString("7"));
     }
 
     void text()
     {
         FakeDoor door;
         QWidget page;
-        TextField field(door, &page, line(Sends::Always), LineField::Pattern::Text, "a");
+        TextField field(door, &page, line(Sends::Always), LineField::Pattern::Text, "a",
+                        [](const QString& text) { return text != "bad"; });
         type(field, "word");
         QTest::keyClick(&field, Qt::Key_Return);
-        QCOMPARE(door.record().text(key), QString("word"));
+        QCOMPARE(door.record().text(anyKey), QString("word"));
         QCOMPARE(door.takeCalls(), QStringList("record"));
 
-        field.acceptOnly([](const QString& text) { return text == "good"; });
         field.setText("bad");
         field.finish();
         QCOMPARE(field.text(), QString());
-        QCOMPARE(door.record().text(key), QString("word"));
+        QCOMPARE(door.record().text(anyKey), QString("word"));
         QCOMPARE(door.takeCalls(), QStringList());
         field.enter("bad");  // chosen elsewhere: not asked
-        QCOMPARE(door.record().text(key), QString("bad"));
+        QCOMPARE(door.record().text(anyKey), QString("bad"));
         QCOMPARE(door.takeCalls(), QStringList("record"));
     }
 
@@ -247,7 +233,7 @@ private Q_SLOTS:
         QWidget page;
         TextField field(door, &page, line(Sends::Never), LineField::Pattern::Text, "a");
         field.enter("b");
-        QCOMPARE(door.record().text(key), QString("b"));
+        QCOMPARE(door.record().text(anyKey), QString("b"));
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
@@ -277,9 +263,9 @@ private Q_SLOTS:
         QWidget page;
         ChoiceField field(
             door, &page,
-            {"m_pAnyCMB", Caption::spoken("Any"), key, SLOT(on_Any_Changed()), Sends::Always},
+            {"m_pAnyCMB", Caption::spoken("Any"), anyKey, SLOT(on_Any_Changed()), Sends::Always},
             {{"first", "x"}, {"second", "y", false}}, stores);
-        const auto value = [&] { return door.record().map().value(key); };
+        const auto value = [&] { return door.record().map().value(anyKey); };
         QCOMPARE(value(), atFirst);
         QCOMPARE(value().type(), atFirst.type());
         QCOMPARE(field.accessibleName(), QString("Any"));
@@ -305,11 +291,11 @@ private Q_SLOTS:
         QWidget page;
         ChoiceField field(
             door, &page,
-            {"m_pAnyCMB", Caption::label("Any"), key, SLOT(on_Any_Changed()), Sends::Never},
-            {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, 1);
-        QCOMPARE(door.record().text(key), QString("y"));
+            {"m_pAnyCMB", Caption::label("Any"), anyKey, SLOT(on_Any_Changed()), Sends::Never},
+            {{"first", "x"}, {"second", "y"}}, ChoiceField::Stores::Text, "y");
+        QCOMPARE(door.record().text(anyKey), QString("y"));
         field.setCurrentText("first");
-        QCOMPARE(door.record().text(key), QString("x"));
+        QCOMPARE(door.record().text(anyKey), QString("x"));
         QCOMPARE(door.takeCalls(), QStringList());
         field.setCurrentText("second");
         field.retranslate();
@@ -323,16 +309,16 @@ private Q_SLOTS:
         QWidget page;
         FlagField field(
             door, &page,
-            {"m_pAnyCB", Caption::own("Any"), key, SLOT(on_Any_Changed(int)), Sends::Always}, true,
-            {"yes", "no"});
+            {"m_pAnyCB", Caption::own("Any"), anyKey, SLOT(on_Any_Changed(int)), Sends::Always},
+            true, {"yes", "no"});
         QCOMPARE(field.text(), QString("Any"));
         QVERIFY(field.isChecked());
-        QCOMPARE(door.record().text(key), QString("yes"));
+        QCOMPARE(door.record().text(anyKey), QString("yes"));
         field.setChecked(false);
-        QCOMPARE(door.record().text(key), QString("no"));
+        QCOMPARE(door.record().text(anyKey), QString("no"));
         QCOMPARE(door.takeCalls(), QStringList("record"));
         field.storeAs(true);
-        QCOMPARE(door.record().text(key), QString("yes"));
+        QCOMPARE(door.record().text(anyKey), QString("yes"));
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
@@ -340,145 +326,102 @@ private Q_SLOTS:
     {
         FakeDoor door;
         QWidget page;
-        RadioField field(door, &page,
-                         {"m_pAnyBG", Caption::none(), key, SLOT(on_Any_Clicked(QAbstractButton*)),
-                          Sends::Always, Message::Direction},
-                         RadioField::Look::Tool,
-                         {{"m_pOneTB", "Free1.jpg", "One"}, {"m_pTwoTB", "Ver1.jpg", "Two"}});
-        QCOMPARE(door.record().map().value(key), QVariant("1"));
+        RadioField field(
+            door, &page,
+            Field::Details{"m_pAnyBG", Caption::none(), anyKey,
+                           SLOT(on_Any_Clicked(QAbstractButton*)), Sends::Always}
+                .asDirection(),
+            RadioField::Look::Tool,
+            {{"m_pOneTB", "Free1.jpg", "One", "1"}, {"m_pTwoTB", "Ver1.jpg", "Two", "2"}});
+        QCOMPARE(door.record().map().value(anyKey), QVariant("1"));
         QCOMPARE(field.checkedId(), 0);
         QCOMPARE(field.button(1)->toolTip(), QString("Two"));
         QCOMPARE(field.button(1)->accessibleName(), QString("Two"));
         QVERIFY(qobject_cast<QToolButton*>(field.button(1))->autoRaise());
         field.button(1)->click();
-        QCOMPARE(door.record().map().value(key), QVariant(2));
+        QCOMPARE(door.record().map().value(anyKey), QVariant(2));
         QCOMPARE(door.takeCalls(), QStringList("direction"));
     }
 
-    void aRefusalIsHandledOnceAndWhatIsPendingElsewhereAfterIt()
+    /// What a choice enables is enabled whole, with its labels, from the start on.
+    void aChoiceEnablesARow()
     {
         FakeDoor door;
         QWidget page;
-        LengthField refused(door, &page, line(Sends::Never), "5", 50000);
-        TextField pending(door, &page, other(Sends::Always), LineField::Pattern::Text, "a");
-        pending.setText("b");
-        door.accepts = false;
-        door.onBox = [&] {
-            refused.finish();  // the box takes the focus
-            pending.finish();
-            pending.finish();
-            QCOMPARE(door.record().text("Other"), QString("a"));
+        ChoiceField choice(
+            door, &page,
+            {"m_pAnyCMB", Caption::spoken("Any"), "Choice", SLOT(on_Any_Changed()), Sends::Never},
+            {{"first", "x"}, {"second", "y"}, {"third", "z"}}, ChoiceField::Stores::Text);
+        const LengthField field(door, &page, upTo50000(Sends::Never).enabledBy(&choice, {"y", "z"}),
+                                "5");
+        const auto isEnabled = [&] {
+            return QList<bool>{field.isEnabled(), field.label()->isEnabled(),
+                               field.unitLabel()->isEnabled()};
         };
-        refused.setText("99");
-        refused.finish();
-        QCOMPARE(door.takeCalls(), (QStringList{"length 99 up to 50000", "record"}));
-        QCOMPARE(door.record().text(key), QString("0"));
-        QCOMPARE(door.record().text("Other"), QString("b"));
-    }
-
-    void anEntryThatIsPendingIsCheckedItself()
-    {
-        FakeDoor door;
-        QWidget page;
-        LengthField first(door, &page, line(Sends::Never), "5", 50000);
-        LengthField second(door, &page, other(Sends::Never), "5", 10000);
-        door.accepts = false;
-        bool isFirstBox = true;
-        door.onBox = [&] {
-            if (std::exchange(isFirstBox, false)) {
-                second.finish();
-            } else {
-                second.finish();  // its own box, its own report
-            }
-        };
-        first.setText("98");
-        second.setText("99");
-        first.finish();
-        QCOMPARE(door.takeCalls(), (QStringList{"length 98 up to 50000", "length 99 up to 10000"}));
-        QCOMPARE(second.text(), QString("0"));
-    }
-
-    void aHandlerThatThrowsLosesNothing()
-    {
-        FakeDoor door;
-        QWidget page;
-        TextField pending(door, &page, other(Sends::Never), LineField::Pattern::Text, "a");
-        pending.setText("b");
-        bool hasThrown = false;
-        try {
-            door.refusals().run(nullptr, [&] {
-                door.refusals().box([&] { pending.finish(); });
-                throw 7;
-            });
-        } catch (int) {
-            hasThrown = true;
+        const QList<bool> all{true, true, true};
+        const QList<bool> none{false, false, false};
+        QCOMPARE(isEnabled(), none);
+        for (const auto& [item, expected] :
+             {std::pair(1, all), std::pair(2, all), std::pair(0, none), std::pair(2, all)}) {
+            choice.setCurrentIndex(item);
+            QCOMPARE(isEnabled(), expected);
         }
-        QVERIFY(hasThrown);
-        QCOMPARE(door.record().text("Other"), QString("b"));
-        pending.setText("c");
-        pending.finish();  // and the next entry is taken at once
-        QCOMPARE(door.record().text("Other"), QString("c"));
+        // Where nothing is stored, nothing changes either.
+        choice.setCurrentIndex(-1);
+        QCOMPARE(isEnabled(), all);
+        choice.enableOthers();
+        QCOMPARE(isEnabled(), none);
     }
 
-    void anEntryThatAUnitChangeMakesUntypableIsTakenOnLeaving()
+    void flagsAndRadioButtonsEnable()
     {
         FakeDoor door;
         QWidget page;
-        Field::Details details = line(Sends::WhenAccepted);
-        details.pattern = "^[1-9][0-9]*|0$";
-        LengthField field(door, &page, details, "0", 50000);
-        type(field, "1");
-        door.metric = true;
-        field.changeUnit(true);
-        QCOMPARE(field.text(), QString("25.4"));
-        QVERIFY(!field.hasAcceptableInput());
-        QCOMPARE(door.takeCalls(), QStringList());
-
-        QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
-        QApplication::sendEvent(&field, &left);
-        QCOMPARE(door.record().text(key), QString("25.4"));
-        QCOMPARE(door.takeCalls(), (QStringList{"length 25.4 up to 50000", "record"}));
-        QApplication::sendEvent(&field, &left);  // once
-        QCOMPARE(door.takeCalls(), QStringList());
+        FlagField flag(
+            door, &page,
+            {"m_pAnyCB", Caption::own("Any"), "Flag", SLOT(on_Any_Changed(int)), Sends::Never},
+            true, {"yes", "no"});
+        RadioField radio(
+            door, &page,
+            {"m_pAnyBG", Caption::none(), "Radio", SLOT(on_Any_Clicked(QAbstractButton*)),
+             Sends::Never},
+            RadioField::Look::Radio,
+            {{"m_pOneRB", "Free1.jpg", "One", "1"}, {"m_pTwoRB", "Ver1.jpg", "Two", "2"}});
+        const ButtonField byFlag(door, &page,
+                                 Field::Details{"m_pFlagPB", Caption::own("Flag"), QString(),
+                                                SLOT(on_Flag_clicked()), Sends::Never}
+                                     .enabledBy(&flag, {"no"}));
+        const ButtonField byRadio(door, &page,
+                                  Field::Details{"m_pRadioPB", Caption::own("Radio"), QString(),
+                                                 SLOT(on_Radio_clicked()), Sends::Never}
+                                      .enabledBy(&radio, {"2"}));
+        QVERIFY(!byFlag.isEnabled() && !byRadio.isEnabled());
+        QCOMPARE(byFlag.text(), QString("Flag"));
+        flag.setChecked(false);
+        QVERIFY(byFlag.isEnabled() && !byRadio.isEnabled());
+        radio.button(1)->click();
+        QVERIFY(byRadio.isEnabled());
+        flag.setChecked(true);
+        radio.button(0)->click();
+        QVERIFY(!byFlag.isEnabled() && !byRadio.isEnabled());
+        QVERIFY(!door.record().map().contains(QString()));
     }
 
-    void anEntryThatTheUserLeftUntypableIsNotTaken()
+    /// A length that starts in the unit that the host shows.
+    void startsAsShown()
     {
-        FakeDoor door;
         QWidget page;
-        Field::Details details = line(Sends::WhenAccepted);
-        details.pattern = "[1-9]|[1-9][.][0-9]";
-        LengthField field(door, &page, details, "0", 50000);
-        type(field, "1.");
-        QVERIFY(!field.hasAcceptableInput());
-        field.changeUnit(true);
-        QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
-        QApplication::sendEvent(&field, &left);
-        QCOMPARE(door.takeCalls(), QStringList());
-        QCOMPARE(door.record().text(key), QString("0"));
-    }
-
-    void aBoxOfTheReceiversMakesNoSecondEntry()
-    {
-        FakeDoor door;
-        QWidget page;
-        LengthField field(door, &page, line(Sends::Always), "5", 50000);
-        door.onSend = [&] { field.finish(); };  // its box takes the focus
-        type(field, "10");
-        field.finish();
-        QCOMPARE(door.takeCalls(), (QStringList{"length 10 up to 50000", "record"}));
-    }
-
-    void aRowIsEnabledWhole()
-    {
-        FakeDoor door;
-        QWidget page;
-        LengthField field(door, &page, line(Sends::Never), "5", 50000);
-        field.setRowEnabled(false);
-        QVERIFY(!field.isEnabled() && !field.label()->isEnabled() &&
-                !field.unitLabel()->isEnabled());
-        field.setRowEnabled(true);
-        QVERIFY(field.isEnabled() && field.label()->isEnabled() && field.unitLabel()->isEnabled());
+        for (const bool isMetric : {false, true}) {
+            using CanvasHost::DisplayUnit;
+            CanvasHost::setDisplayUnit(isMetric ? DisplayUnit::Micrometre : DisplayUnit::Mil);
+            FakeDoor door;
+            const LengthField field(door, &page, upTo50000(Sends::Never), "24",
+                                    LengthField::Unit::AsShown);
+            QCOMPARE(field.text(), QString(isMetric ? "609.6" : "24"));
+            QCOMPARE(field.unitLabel()->text(), QString(isMetric ? "my" : "mil"));
+            QCOMPARE(door.record().text(anyKey), QString("609.6"));
+        }
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
     }
 };
 

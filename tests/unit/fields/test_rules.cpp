@@ -108,7 +108,7 @@ private Q_SLOTS:
         for (int id = directions.size() - 1; id >= 0; --id) {
             const bool isFixed = directions[id] == LineDirection::fixed;
             page.m_pDirectionBG->button(id)->setChecked(true);
-            page.chooseDirection();
+            page.m_pDirectionBG->change();
             QCOMPARE(door.record().map().value(RecordKeys::angleGroup),
                      QVariant(directions[id].toInt()));
             QCOMPARE(page.m_pAngleLE->isEnabled(), isFixed);
@@ -121,7 +121,6 @@ private Q_SLOTS:
     {
         FakeDoor door;
         LinePage page(door);
-        door.route(SLOT(on_CornerTypre_ComboBox_Changed()), [&] { page.chooseCorner(); });
         QVERIFY(!page.m_pCornerRadiusLE->isEnabled());
         const auto choose = [&](const QString& corner, const QVariant& value, bool hasRadius) {
             page.m_pCornerTypeCMB->setCurrentIndex(page.m_pCornerTypeCMB->findText(corner));
@@ -141,7 +140,6 @@ private Q_SLOTS:
     {
         FakeDoor door;
         ArcPage page(door);
-        door.route(SLOT(on_ArcAndCircle_ComboBox_Changed()), [&] { page.chooseArcOrCircle(); });
         QVERIFY(page.m_pArcCMB->isEnabled() && !page.m_pCircleCMB->isEnabled());
         page.m_pArcAndCircleCMB->setCurrentText("Circle");
         QVERIFY(!page.m_pArcCMB->isEnabled() && page.m_pCircleCMB->isEnabled());
@@ -156,7 +154,6 @@ private Q_SLOTS:
     {
         FakeDoor door;
         BarcodePage page(door);
-        door.route(SLOT(on_UPC_ComboBox_Changed()), [&] { page.chooseType(); });
         QVERIFY(!page.m_pAddMarkersCB->isEnabled());
         const auto choose = [&](const QString& type, const QString& value, bool hasMarkers) {
             page.m_pUPCCMB->setCurrentText(type);
@@ -177,7 +174,6 @@ private Q_SLOTS:
     {
         FakeDoor door;
         BarcodePage page(door);
-        door.route(SLOT(on_AddString_CheckState_Changed(int)), [&] { page.chooseString(); });
         page.m_pAddStringCB->setChecked(true);
         QVERIFY(page.m_pPositionCMB->isEnabled());
         QCOMPARE(door.record().text(RecordKeys::addString), Added::yes);

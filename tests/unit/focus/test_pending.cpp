@@ -118,7 +118,7 @@ private Q_SLOTS:
         QTest::newRow("refused, accepted")
             << QStringList{"s5", "r7"} << QStringList{"s5"} << QStringList{"r30", "r7"};
         QTest::newRow("accepted, refused")
-            << QStringList{"r7", "s5"} << QStringList{"s5"} << QStringList{"r7", "r7"};
+            << QStringList{"r7", "s5"} << QStringList{"s5"} << QStringList{"r7"};
         QTest::newRow("accepted") << QStringList{"r7"} << QStringList() << QStringList{"r7"};
     }
 

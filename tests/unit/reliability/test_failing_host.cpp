@@ -164,8 +164,8 @@ const Answer answers[] = {
     {"no number is legal",
      [] {
          // The fixture reads the record by editing the angle.
-         uiApiOverrides().isNumValueLegal = [](double, double, double most, void*) {
-             return most == 360.0;
+         uiApiOverrides().isNumValueLegal = [](double, double, double maximum, void*) {
+             return maximum == 360.0;
          };
      }},
     {"every symbol is legal",

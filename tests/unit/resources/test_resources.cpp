@@ -54,7 +54,7 @@ QVector<Pair> usableTools()
     QVector<Pair> pairs;
     for (const ToolTable::Row& row : ToolTable::rows()) {
         if (!isDisabled(row)) {
-            pairs.append(Pair{row.image, row.checkedImage});
+            pairs.append(Pair{row.pictures.released, row.pictures.checked});
         }
     }
     std::copy(std::begin(variants), std::end(variants), std::back_inserter(pairs));
@@ -67,7 +67,7 @@ QVector<const char*> disabledTools()
     QVector<const char*> files;
     for (const ToolTable::Row& row : ToolTable::rows()) {
         if (isDisabled(row)) {
-            files.append(row.image);
+            files.append(row.pictures.released);
         }
     }
     return files;

@@ -3,6 +3,7 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "StripFixture.h"
+#include "ToolRows.h"
 #include "plugin/MessageCodes.h"
 
 #include <CommonWidgetsStandIn.h>
@@ -14,83 +15,6 @@ namespace Sent = MessageCodes::Sent;
 namespace Accepted = MessageCodes::Accepted;
 
 namespace {
-
-/// A click on a tool and the message that it sends.
-class Clicked {
-public:
-    Clicked(Tool clicked, const char* itsSlot) : tool(clicked), slot(itsSlot) {}
-    Clicked& sends(int code) { return onCode = offCode = code, *this; }
-    /// The code that is sent if the tool is not checked at that moment.
-    Clicked& orElse(int code) { return offCode = code, *this; }
-    Clicked& underTheName(const QString& name) { return sender = name, *this; }
-
-    Tool tool;
-    const char* slot;
-    int onCode = Sent::Unset;
-    int offCode = Sent::Unset;
-    QString sender = ModuleNames::toolStrip;
-};
-
-// Measure and Add Feature, whose clicks open windows, have tests of their own.
-const QList<Clicked>& clickedTools()
-{
-    static const QList<Clicked> all = {
-        Clicked(Tool::AreaZoom, "On_AreaZoom_Clicked").sends(Sent::AreaZoom),
-        Clicked(Tool::OpenPopView, "On_OpenPopView_Clicked").sends(Sent::OpenPopView),
-        Clicked(Tool::FeatureHighLight, "On_FeatHighLight_Clicked")
-            .sends(Sent::FeatureHighLight)
-            .underTheName(ModuleNames::bareToolStrip),
-        Clicked(Tool::DeleteFeature, "On_DeleteFeat_Clicked").sends(Sent::DeleteFeature),
-        Clicked(Tool::MoveFeature, "On_MoveFeature_Clicked").sends(Sent::MoveFeature),
-        Clicked(Tool::CopyFeature, "On_CopyFeature_Clicked").sends(Sent::CopyFeature),
-        Clicked(Tool::ChangeLineAngle, "On_ChangeLAngle_Clicked")
-            .sends(Sent::ChangeLineAngle)
-            .orElse(Sent::ChangeLineAngleOff),
-        Clicked(Tool::StretchLine, "On_StretchLine_Clicked")
-            .sends(Sent::StretchLine)
-            .orElse(Sent::StretchLineOff),
-        Clicked(Tool::RotateFeature, "On_RotateFeature_Clicked")
-            .sends(Sent::RotateFeature)
-            .orElse(Sent::RotateFeatureOff),
-        Clicked(Tool::MirrorFeature, "On_MirrorFeature_Clicked").sends(Sent::MirrorFeature),
-        Clicked(Tool::InvertFeature, "On_InvertFeature_Clicked")
-            .sends(Sent::InvertFeature)
-            .orElse(Sent::InvertFeatureOff),
-        Clicked(Tool::BreakLine, "On_BreakLine_Clicked")
-            .sends(Sent::BreakLine)
-            .orElse(Sent::BreakLineOff),
-        Clicked(Tool::RoutDimension, "On_Dimension_Clicked").sends(Sent::RoutDimension),
-        Clicked(Tool::ContourEditor, "On_ContourEditor_Clicked").sends(Sent::ContourEditor),
-        Clicked(Tool::PullLine, "On_PullLine_Clicked").sends(Sent::PullLine),
-        Clicked(Tool::MoveJunction, "On_MoveJunction_Clicked").sends(Sent::MoveJunction),
-        Clicked(Tool::MoveTriplet, "On_MoveTriplet_Clicked")
-            .sends(Sent::MoveTriplet)
-            .orElse(Sent::MoveTripletOff),
-        Clicked(Tool::RerouteTrace, "On_RerouteTrace_Clicked")
-            .sends(Sent::RerouteTrace)
-            .orElse(Sent::RerouteTraceOff),
-        Clicked(Tool::FeatureSelection, "On_FeatureSelection_Clicked")
-            .sends(Sent::FeatureSelection)
-            .orElse(Sent::FeatureSelectionOff),
-        Clicked(Tool::RectangleSelection, "On_RectSelection_Clicked")
-            .sends(Sent::RectangleSelection)
-            .orElse(Sent::RectangleSelectionOff),
-        Clicked(Tool::PolygonSelection, "On_PolygonSelection_Clicked")
-            .sends(Sent::PolygonSelection)
-            .orElse(Sent::PolygonSelectionOff),
-        Clicked(Tool::SelectByNet, "On_SelectPolyline_Clicked").sends(Sent::SelectLayerNet),
-        Clicked(Tool::Mark, "on_mark_clicked").sends(Sent::Mark),
-        Clicked(Tool::Eq, "on_m_pEqTB_clecked").sends(Sent::Eq),
-    };
-    return all;
-}
-
-bool isGrey(Tool tool)
-{
-    return QList<Tool>{Tool::RotateFeature, Tool::MirrorFeature, Tool::RoutDimension,
-                       Tool::ContourEditor, Tool::PullLine,      Tool::MoveJunction}
-        .contains(tool);
-}
 
 QString netSheet(const char* image, const char* checkedImage, const QString& tail = {})
 {
@@ -109,15 +33,18 @@ class TestActivation : public QObject {
 private Q_SLOTS:
     void tool_data()
     {
-        QTest::addColumn<int>("row");
-        for (int row = 0; row < clickedTools().size(); ++row) {
-            QTest::newRow(clickedTools()[row].slot) << row;
+        // What opens a window has a test of its own.
+        QTest::addColumn<Tool>("tool");
+        for (const Tool tool : allTools()) {
+            if (!toolRows()[int(tool)].opensWindow) {
+                QTest::newRow(toolRows()[int(tool)].slot) << tool;
+            }
         }
     }
     void tool()
     {
-        QFETCH(int, row);
-        const Clicked& expected = clickedTools()[row];
+        QFETCH(Tool, tool);
+        const ToolRow& expected = toolRows()[int(tool)];
         StripFixture fixture;
         fixture.window.show();
         // The tool is the only checked one before its message goes out.
@@ -126,36 +53,36 @@ private Q_SLOTS:
             [&](const Recorder::Entry&) { checkedWhileSending = fixture.checked(); });
 
         for (int round = 1; round <= 2; ++round) {
-            if (isGrey(expected.tool)) {
-                QTest::mouseClick(fixture.button(expected.tool), Qt::LeftButton);
+            if (!expected.isEnabled) {
+                QTest::mouseClick(fixture.button(tool), Qt::LeftButton);
                 QCOMPARE(fixture.recorder.messages().size(), round - 1);
                 QVERIFY(QMetaObject::invokeMethod(fixture.strip, expected.slot));
             } else {
-                QTest::mouseClick(fixture.button(expected.tool), Qt::LeftButton);
+                QTest::mouseClick(fixture.button(tool), Qt::LeftButton);
             }
             QCOMPARE(fixture.recorder.messages().size(), round);
             const Recorder::Entry& sent = fixture.recorder.messages().last();
-            QCOMPARE(sent.message.code, expected.onCode);
+            QCOMPARE(sent.message.code, expected.code);
             QCOMPARE(sent.message.sender, expected.sender);
             QCOMPARE(sent.message.receiver, ModuleNames::viewer);
             QCOMPARE(sent.message.extra, qint64(0));
             QVERIFY(sent.message.payload.isEmpty());
             QCOMPARE(sent.sender, static_cast<void*>(&fixture.window));
-            QCOMPARE(checkedWhileSending, QList<Tool>{expected.tool});
-            QCOMPARE(fixture.checked(), QList<Tool>{expected.tool});
+            QCOMPARE(checkedWhileSending, QList<Tool>{tool});
+            QCOMPARE(fixture.checked(), QList<Tool>{tool});
         }
     }
 
     void offCode_data() { tool_data(); }
     void offCode()
     {
-        QFETCH(int, row);
-        const Clicked& expected = clickedTools()[row];
-        if (expected.tool == Tool::FeatureHighLight || expected.tool == Tool::SelectByNet) {
+        QFETCH(Tool, tool);
+        const ToolRow& expected = toolRows()[int(tool)];
+        if (tool == Tool::FeatureHighLight || tool == Tool::SelectByNet) {
             return;  // has its own handler, with one code
         }
         StripFixture fixture;
-        QToolButton* const button = fixture.button(expected.tool);
+        QToolButton* const button = fixture.button(tool);
         button->setChecked(false);
         connect(button, &QToolButton::toggled, button, [=] { button->setChecked(false); });
         QVERIFY(QMetaObject::invokeMethod(fixture.strip, expected.slot));
@@ -167,7 +94,7 @@ private Q_SLOTS:
         StripFixture fixture;
         fixture.window.show();
         for (const Tool tool : allTools()) {
-            if (isGrey(tool)) {
+            if (!toolRows()[int(tool)].isEnabled) {
                 continue;
             }
             QTest::mouseClick(fixture.button(tool), Qt::LeftButton);

@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "StripFixture.h"
+#include "ToolRows.h"
 
 #include <UiApiStandIn.h>
 
@@ -10,66 +11,9 @@
 
 namespace {
 
-enum class Start { Enabled, Grey };
-
-struct Expected {
-    const char* objectName;
-    const char* tip;
-    Start start;
-    const char* image;
-    const char* checkedImage;
-};
-
-const Expected expectedTools[] = {
-    {"m_pAreaZoomTB", "Area Zoom", Start::Enabled, "Area zoom2.jpg", "Area zoom3.jpg"},
-    {"m_pOpenPopViewTB", "Open a Popview", Start::Enabled, "Open a popview-1.jpg",
-     "Open a popview-2.jpg"},
-    {"m_pMeasureTB", "Measure", Start::Enabled, "ruler.jpg", "ruler1.jpg"},
-    {"m_pFeatHighLightTB", "Feature HighLight", Start::Enabled, "Feature highlight-2.jpg",
-     "Feature highlight-3.jpg"},
-    {"m_pAddFeatureTB", "Add Feature", Start::Enabled, "Add Feature.jpg", "Add Feature1.jpg"},
-    {"m_pDeleteFeatTB", "Delete Feature", Start::Enabled, "delete1-gry.jpg", "delete1-gre.jpg"},
-    {"m_pMoveFeatureTB", "Move Feature", Start::Enabled, "Move Feature-1.jpg",
-     "Move Feature-2.jpg"},
-    {"m_pCopyFeatureTB", "Copy Feature", Start::Enabled, "Copy feature-1.jpg",
-     "Copy feature-2.jpg"},
-    {"m_pChangeLAngleTB", "Change Line Angle", Start::Enabled, "Change line angle1.jpg",
-     "Change line angle2.jpg"},
-    {"m_pStretchLineTB", "Stretch Line", Start::Enabled, "Stretch line3.jpg", "Stretch line4.jpg"},
-    {"m_pRotateFeatureTB", "Rotate", Start::Grey, "Rotate feature-grey.jpg",
-     "Rotate feature-grey.jpg"},
-    {"m_pMirrorFeatureTB", "Mirror", Start::Grey, "Mirror feature-grey.jpg",
-     "Mirror feature-grey.jpg"},
-    {"m_pInvertFeatureTB", "Invert Feature", Start::Enabled, "Invert feature-3.jpg",
-     "Invert feature-4.jpg"},
-    {"m_pBreakLineTB", "Break Line", Start::Enabled, "Break line1.jpg", "Break line2.jpg"},
-    {"m_pDimensionTB", "Rout Dimension Editor", Start::Grey, "Rout dimension editor-grey.jpg",
-     "Rout dimension editor-grey.jpg"},
-    {"m_pContourEditorTB", "Contour Editor", Start::Grey, "Contour editor-grey.jpg",
-     "Contour editor-grey.jpg"},
-    {"m_pPullLineTB", "Pull Line", Start::Grey, "Pull line-grey.jpg", "Pull line-grey.jpg"},
-    {"m_pMoveJunctionTB", "Move Junction", Start::Grey, "Move junction-grey.jpg",
-     "Move junction-grey.jpg"},
-    {"m_pMoveTripletTB", "Move Triplet(Angle)", Start::Enabled, "Move triplet1.jpg",
-     "Move triplet2.jpg"},
-    {"m_pRerouteTraceTB", "Reroute Trace(Fix Point)", Start::Enabled, "ReRoute trace1.jpg",
-     "ReRoute trace2.jpg"},
-    {"m_pFeatureSelectionTB", "Feature Selection", Start::Enabled, "Feature selection1.jpg",
-     "Feature selection2.jpg"},
-    {"m_pRectSelectionTB", "Rectangle Selection", Start::Enabled, "Frame selection2.jpg",
-     "Frame selection3.jpg"},
-    {"m_pPolygonSelectionTB", "Polygon Selection", Start::Enabled, "Polygon selection2.jpg",
-     "Polygon selection3.jpg"},
-    {"m_pSelectPolylineTB", "Select By net", Start::Enabled, "Net selection2.jpg",
-     "Net selection1.jpg"},
-    {"m_pMarkTB", "Mark", Start::Enabled, "markgry.png", "markgre.png"},
-    {"m_pEqTB", "EQ", Start::Enabled, "EQ-1.jpg", "EQ-2.jpg"},
-};
-static_assert(std::size(expectedTools) == ToolTable::toolCount, "one row a tool");
-
-QString resource(const char* file)
+QString resource(const QString& file)
 {
-    return QStringLiteral(":/Canvas_Tool_Strip/Resources/") + QLatin1String(file);
+    return ":/Canvas_Tool_Strip/Resources/" + file;
 }
 
 /// How far the inside of `shown` is from `picture` drawn at (frame, frame), in colour levels on
@@ -92,11 +36,11 @@ double differenceAt(const QImage& shown, const QImage& picture, int frame)
 double difference(QToolButton* button, const QImage& picture)
 {
     const QImage shown = button->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    double least = differenceAt(shown, picture, 0);
+    double minimum = differenceAt(shown, picture, 0);
     for (int frame = 1; frame <= 3; ++frame) {
-        least = qMin(least, differenceAt(shown, picture, frame));
+        minimum = qMin(minimum, differenceAt(shown, picture, frame));
     }
-    return least;
+    return minimum;
 }
 
 }  // namespace
@@ -111,30 +55,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<Tool>("tool");
         for (const Tool tool : allTools()) {
-            QTest::newRow(expectedTools[int(tool)].objectName) << tool;
+            QTest::newRow(qPrintable(toolRows()[int(tool)].objectName)) << tool;
         }
     }
     void button()
     {
         QFETCH(Tool, tool);
         StripFixture fixture;
-        const Expected& expected = expectedTools[int(tool)];
+        const ToolRow& expected = toolRows()[int(tool)];
         QToolButton* const button = fixture.button(tool);
         QVERIFY(button);
-        QCOMPARE(button->objectName(), QString(expected.objectName));
-        QCOMPARE(button->toolTip(), QString(expected.tip));
-        QCOMPARE(button->isEnabled(), expected.start == Start::Enabled);
+        QCOMPARE(button->objectName(), expected.objectName);
+        QCOMPARE(button->toolTip(), expected.tip);
+        QCOMPARE(button->isEnabled(), expected.isEnabled);
         QVERIFY(button->isCheckable());
         QCOMPARE(button->minimumSize(), QSize(40, 40));
         QCOMPARE(button->maximumSize(), QSize(40, 40));
-        const QString property =
-            tool == Tool::Eq ? QStringLiteral("border-image") : QStringLiteral("background-image");
-        QCOMPARE(button->styleSheet(),
-                 QStringLiteral("QToolButton{%1:url(%2);}QToolButton::checked{%1:url(%3);}")
-                     .arg(property, resource(expected.image), resource(expected.checkedImage)));
-        const bool hasMenu =
-            tool == Tool::DeleteFeature || tool == Tool::SelectByNet || tool == Tool::Mark;
-        QCOMPARE(button->contextMenuPolicy() == Qt::CustomContextMenu, hasMenu);
+        QCOMPARE(button->styleSheet(), expected.styleSheet());
+        QCOMPARE(button->contextMenuPolicy() == Qt::CustomContextMenu, expected.hasMenu);
 
         int row = 0;
         int column = 0;
@@ -155,8 +93,8 @@ private Q_SLOTS:
         fixture.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&fixture.window));
         QToolButton* const button = fixture.button(tool);
-        const QImage image(resource(expectedTools[int(tool)].image));
-        const QImage checkedImage(resource(expectedTools[int(tool)].checkedImage));
+        const QImage image(resource(toolRows()[int(tool)].picture));
+        const QImage checkedImage(resource(toolRows()[int(tool)].checkedPicture));
         QVERIFY(!image.isNull() && !checkedImage.isNull());
 
         button->setChecked(false);
@@ -169,11 +107,11 @@ private Q_SLOTS:
             QVERIFY(difference(button, image) > 8);
         }
         // No other tool's picture is nearer.
-        for (const Expected& other : expectedTools) {
-            if (&other != &expectedTools[int(tool)]) {
+        for (const ToolRow& other : toolRows()) {
+            if (&other != &toolRows()[int(tool)]) {
                 button->setChecked(false);
-                QVERIFY2(difference(button, QImage(resource(other.image))) > plain,
-                         other.objectName);
+                QVERIFY2(difference(button, QImage(resource(other.picture))) > plain,
+                         qPrintable(other.objectName));
             }
         }
     }

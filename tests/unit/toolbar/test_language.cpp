@@ -2,6 +2,7 @@
 
 #include "Main.h"
 #include "StripFixture.h"
+#include "ToolRows.h"
 #include "plugin/MessageCodes.h"
 
 #include <QAction>
@@ -25,7 +26,7 @@ public:
     }
 };
 
-QString marked(const char* source, const char* note = "")
+QString marked(const QString& source, const QString& note = {})
 {
     return QStringLiteral("Canvas_Tool_Strip|%1|%2").arg(source, note);
 }
@@ -48,12 +49,10 @@ private Q_SLOTS:
         QApplication::removeTranslator(&translator);
         QCOMPARE(tipAtSignal, QString("Area Zoom"));  // the signal comes first
         QStringList expected;
-        for (const ToolTable::Row& row : ToolTable::rows()) {
-            expected.append(marked(row.tip.text, row.tip.note ? row.tip.note : ""));
+        for (const ToolRow& tool : toolRows()) {
+            const QString tip = tool.laterTip.value_or(tool.tip);
+            expected.append(tip.isEmpty() ? tool.tip : marked(tip, tool.note));
         }
-        expected[int(Tool::Measure)] = marked("Measure", "tool_edit");
-        expected[int(Tool::SelectByNet)] = marked("Select By Net");
-        expected[int(Tool::Eq)] = "EQ";
         for (const Tool tool : allTools()) {
             QCOMPARE(fixture.button(tool)->toolTip(), expected[int(tool)]);
         }

@@ -2,8 +2,8 @@
 
 #include "Main.h"
 #include "StripFixture.h"
-#include "ToolModes.h"
 #include "plugin/MessageCodes.h"
+#include "plugin/ToolModes.h"
 
 #include <QAction>
 #include <QMenu>

@@ -2,5 +2,5 @@
 
 #include <QStringList>
 
-/// The lines of a list in this folder, without notes and empty lines.
+/// The lines of a list in tests/contract/, without notes and empty lines.
 QStringList linesOf(const char* name);
