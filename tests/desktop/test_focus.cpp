@@ -179,6 +179,15 @@ class TestFocus : public QObject {
         };
     }
 
+    void closeOtherWindows() const
+    {
+        for (QWidget* const top : QApplication::topLevelWidgets()) {
+            if (top != m_window.get() && top->isVisible()) {
+                top->close();
+            }
+        }
+    }
+
     void closeTheDialog() const
     {
         Desktop::key("alt+F4");
@@ -230,7 +239,6 @@ class TestFocus : public QObject {
         const SlowHands hands;
         enter(entry);
         way.leave();
-        QTest::qWait(100);
         QTRY_VERIFY(!QApplication::activeModalWidget());
 
         openDialog();
@@ -251,21 +259,31 @@ class TestFocus : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
+    void initTestCase()
     {
         m_log = std::make_unique<MessageLog>();
         m_window = openWindow(*m_log);
-        m_dialog = nullptr;
-        openDialog();
-        m_agreement = std::make_unique<Agreement>(*m_dialog);
-        m_dialog->move(m_window->frameGeometry().right() + 10, m_window->y());
     }
 
+    void cleanupTestCase()
+    {
+        m_window.reset();
+        m_log.reset();
+    }
+
+    void init()
+    {
+        openDialog();
+        m_agreement = std::make_unique<Agreement>(*m_dialog);
+        Desktop::move(*m_dialog, {m_window->frameGeometry().right() + 10, m_window->y()});
+    }
+
+    /// The strip makes another dialog for the next row.
     void cleanup()
     {
         m_agreement.reset();
-        m_window.reset();
-        m_log.reset();
+        delete m_dialog;
+        closeOtherWindows();
     }
 
     void padEntries_data() { addRows("m_pPadTB"); }
@@ -281,8 +299,7 @@ private Q_SLOTS:
     void dialogStaysAboveTheHostsWindow()
     {
         const QRect host = m_window->frameGeometry();
-        m_dialog->move(host.center() - QPoint(m_dialog->width() / 2, host.height() / 3));
-        QTest::qWait(150);
+        Desktop::move(*m_dialog, host.center() - QPoint(m_dialog->width() / 2, host.height() / 3));
         QVERIFY(host.contains(m_dialog->frameGeometry().center()));
         for (int i = 0; i < 3; ++i) {
             clickTheBoard();
