@@ -2,7 +2,7 @@
 # Builds everything and runs the tests. Usage: ./test.sh [--full] [PRESET] [ctest options]
 # PRESET is release (the default), debug, asan or coverage. The daily run has every test of what the
 # programs do; --full adds what guards the borders: other compilers, self-contained headers,
-# packages, wrong hosts, a longer random run, every pair of ways to leave every field.
+# packages, wrong hosts, a longer random run, and the longest tables of tests with all their rows.
 set -u
 . "$(dirname "$0")/scripts/prepare.sh"
 

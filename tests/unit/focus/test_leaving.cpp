@@ -31,8 +31,7 @@ bool takeBox(BoxTextList& boxes, const BoxText& expected)
     return true;
 }
 
-/// The second of two by default, on one field of each kind; with CTS_ALL_PAIRS in the environment:
-/// each, on each field.
+/// The second of two, on one field of each kind; in a full run each, on each field.
 const QStringList secondWays = {"UnitChanged, metric", "AddFeature", "host's box",
                                 "close and open"};
 
@@ -47,13 +46,13 @@ QString kindOf(const Entry& entry, const QWidget& field)
     return words.join(", ");
 }
 
-QVector<std::pair<int, int>> pairsFor(const Entry& entry, bool isWhole)
+QVector<std::pair<int, int>> pairsFor(const Entry& entry)
 {
     QVector<std::pair<int, int>> pairs;
     const QVector<Way>& ways = allWays();
     for (int first = 0; entry.isTyped() && first < ways.size(); ++first) {
         for (int second = 0; second < ways.size(); ++second) {
-            const bool isChosen = isWhole || secondWays.contains(ways[second].name());
+            const bool isChosen = TestProgram::isFull() || secondWays.contains(ways[second].name());
             if (isChosen && ways[first].isPossibleOn(entry.type()) &&
                 ways[second].isAlwaysPossible()) {
                 pairs.append({first, second});
@@ -192,15 +191,14 @@ private Q_SLOTS:
         QTest::addColumn<int>("entry");
         QTest::addColumn<int>("first");
         QTest::addColumn<int>("second");
-        const bool isWhole = qEnvironmentVariableIsSet("CTS_ALL_PAIRS");
         QSet<QString> added;
         for (int entry = 0; entry < allEntries().size(); ++entry) {
             const Entry& entered = allEntries()[entry];
             const QString kind = kindOf(entered, m_fixture->find(entered.field()));
-            for (const auto& [first, second] : pairsFor(entered, isWhole)) {
+            for (const auto& [first, second] : pairsFor(entered)) {
                 const QString pair = QStringLiteral(", %1, %2")
                                          .arg(allWays()[first].name(), allWays()[second].name());
-                if (isWhole || !added.contains(kind + pair)) {
+                if (TestProgram::isFull() || !added.contains(kind + pair)) {
                     added.insert(kind + pair);
                     QTest::newRow(qPrintable(entered.words() + pair)) << entry << first << second;
                 }
