@@ -1,5 +1,6 @@
 // The running workbench, used as a user does.
 
+#include "Bounds.h"
 #include "BoxCatcher.h"
 #include "Desktop.h"
 #include "FindChild.h"
@@ -228,13 +229,13 @@ private Q_SLOTS:
             Refusal("m_pLineTB", "m_pSymbolTextLE").of("r").leaves("").opens(BoxTexts::symbol()),
             Refusal("m_pPadTB", "m_pSymbolTextLE").of("foo").leaves("").opens(BoxTexts::symbol()),
             Refusal("m_pPadTB", "m_pDrilDxLE")
-                .of("100001")
+                .of(Bounds::of("m_pDrilDxLE").justAbove())
                 .leaves("0")
-                .opens(BoxTexts::coordinate(100000)),
+                .opens(BoxTexts::coordinate(Bounds::of("m_pDrilDxLE").most)),
             Refusal("m_pTextTB", "m_pXSizeLE")
-                .of("10000.5")
+                .of(Bounds::of("m_pXSizeLE").justAbove())
                 .leaves("0")
-                .opens(BoxTexts::length(10000)),
+                .opens(BoxTexts::length(Bounds::of("m_pXSizeLE").most)),
         };
         for (const Refusal& refusal : refusals) {
             for (const char* const way : {"Tab", "Return", "mouse"}) {

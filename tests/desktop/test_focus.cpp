@@ -59,23 +59,23 @@ QVector<Entry> chosenEntries()
     const struct {
         const char* type;
         const char* field;
-        const char* typed;
+        bool isRefused;
     } chosen[] = {
-        {"m_pPadTB", "m_pSymbolTextLE", "s20"},   {"m_pPadTB", "m_pAngleValueSB", "45"},
-        {"m_pPadTB", "m_pDrilDxLE", "10"},        {"m_pPadTB", "m_pDrilDxLE", "100001"},
-        {"m_pLineTB", "m_pCornerRadiusLE", "10"}, {"m_pLineTB", "m_pCornerRadiusLE", "50001"},
-        {"m_pTextTB", "m_pXSizeLE", "100"},       {"m_pTextTB", "m_pXSizeLE", "10001"},
-        {"m_pTextTB", "m_pTextLE", "abc"},
+        {"m_pPadTB", "m_pSymbolTextLE", false},    {"m_pPadTB", "m_pAngleValueSB", false},
+        {"m_pPadTB", "m_pDrilDxLE", false},        {"m_pPadTB", "m_pDrilDxLE", true},
+        {"m_pLineTB", "m_pCornerRadiusLE", false}, {"m_pLineTB", "m_pCornerRadiusLE", true},
+        {"m_pTextTB", "m_pXSizeLE", false},        {"m_pTextTB", "m_pXSizeLE", true},
+        {"m_pTextTB", "m_pTextLE", false},
     };
     QVector<Entry> found;
     for (const auto& row : chosen) {
         const auto entry =
             std::find_if(allEntries().cbegin(), allEntries().cend(), [&](const Entry& known) {
                 return known.type() == row.type && known.field() == row.field &&
-                       known.typed() == row.typed;
+                       known.isRefused() == row.isRefused;
             });
         if (entry == allEntries().cend()) {
-            qFatal("there is no entry %s %s", row.field, row.typed);
+            qFatal("there is no such entry of %s", row.field);
         }
         found.append(*entry);
     }
