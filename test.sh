@@ -2,7 +2,7 @@
 # Builds everything and runs the tests. Usage: ./test.sh [--full] [PRESET] [ctest options]
 # PRESET is release (the default), debug, asan or coverage. The daily run has every test of what the
 # programs do; --full adds what guards the borders: other compilers, self-contained headers,
-# packages, a longer random run.
+# packages, a longer random run, and the longest tables of tests with all their rows.
 set -u
 . "$(dirname "$0")/scripts/prepare.sh"
 
@@ -22,6 +22,6 @@ while :; do
 done
 need_packages "${purposes[@]}"
 build "$preset" all benchmarks
-# Most tests wait for windows and timers: run two per core.
+# Two per core: those on a display mostly wait for it. Those that compute count as two.
 ctest --test-dir "build/$preset" --output-on-failure --parallel "$((2 * $(nproc)))" \
     "${chosen[@]}" "$@"

@@ -7,7 +7,6 @@ enum class Kind {
     Ratio,     ///< the project's time over the floor's
     Exponent,  ///< e in "time grows as n^e", fitted over four decades
     Bytes,     ///< heap that is held at the end but was not at the start
-    Count,     ///< calls
 };
 
 /// One figure: what is measured, and what it may be at most.
@@ -16,6 +15,7 @@ struct Figure {
     const char* what;
     Kind kind;
     double target;
+    const char* why = "";  ///< it may miss the target
 };
 
 /// All figures, in the order of the table.

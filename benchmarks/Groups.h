@@ -12,5 +12,4 @@ void addKeyFigures(Runner& runner);
 void addProcessFigures(Runner& runner);
 void addGrowthFigures(Runner& runner);
 void addMemoryFigures(Runner& runner);
-void addHostCallFigures(Runner& runner);
 void addBoardFigures(Runner& runner);

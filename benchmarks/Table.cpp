@@ -1,14 +1,10 @@
 #include "Table.h"
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QStringList>
 #include <QSysInfo>
 #include <QThread>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -35,11 +31,6 @@ QString duration(double nanoseconds)
     return {};
 }
 
-QString number(double value)
-{
-    return QString::number(value, 'f', 0);
-}
-
 /// Project, floor, value and target, as this kind of figure shows them.
 QStringList numbers(const Result& result)
 {
@@ -56,9 +47,10 @@ QStringList numbers(const Result& result)
                     "n^" + QString::number(result.value, 'f', 2),
                     "n^" + QString::number(target, 'f', 1)};
         case Kind::Bytes:
-            return {number(result.value) + " B", {}, {}, number(target) + " B"};
-        case Kind::Count:
-            return {number(result.value), {}, {}, number(target)};
+            return {QString::number(result.value, 'f', 0) + " B",
+                    {},
+                    {},
+                    QString::number(target, 'f', 0) + " B"};
     }
     return {};
 }
@@ -69,45 +61,17 @@ QString title(const Result& result)
     return result.part.empty() ? what : what + ": " + QString::fromStdString(result.part);
 }
 
-QString line(const QStringList& cells, const std::vector<int>& widths)
-{
-    QString text;
-    for (int column = 0; column < cells.size(); ++column) {
-        const int width = widths[static_cast<size_t>(column)];
-        text += column == 0 ? cells[column].leftJustified(width)
-                            : "  " + cells[column].rightJustified(width);
-    }
-    return text.trimmed() + '\n';
-}
-
-QVector<QStringList> rows(const std::vector<Result>& results)
-{
-    QVector<QStringList> all = {{"What", "Project", "Floor", "Ratio", "Target", "Holds"}};
-    for (const Result& result : results) {
-        all.append(QStringList{title(result)} + numbers(result) +
-                   QStringList{result.holds() ? "yes" : "NO"});
-    }
-    return all;
-}
-
-bool writeFile(const QString& name, const QByteArray& text)
-{
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
-        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(name), qUtf8Printable(file.errorString()));
-        return false;
-    }
-    return true;
-}
+}  // namespace
 
 QString markdownTable(const std::vector<Result>& results, const Effort& effort)
 {
-    QString table;
-    for (const QStringList& cells : rows(results)) {
+    QString table =
+        "| What | Project | Floor | Ratio | Target | Holds |\n|---|---|---|---|---|---|\n";
+    for (const Result& result : results) {
+        const QString why = *result.figure->why ? QStringLiteral(": ") + result.figure->why : "";
+        const QStringList cells = QStringList{title(result)} + numbers(result) +
+                                  QStringList{result.holds() ? "yes" : "NO" + why};
         table += "| " + cells.join(" | ") + " |\n";
-        if (table.count('\n') == 1) {
-            table += "|---|---|---|---|---|---|\n";
-        }
     }
     return table + QStringLiteral("\nRepetitions: %1. %2, Qt %3, %4, %5 processors.\n")
                        .arg(effort.repetitions)
@@ -115,51 +79,7 @@ QString markdownTable(const std::vector<Result>& results, const Effort& effort)
                        .arg(QThread::idealThreadCount());
 }
 
-}  // namespace
-
-QString resultTable(const std::vector<Result>& results)
-{
-    const QVector<QStringList> lines = rows(results);
-    std::vector<int> widths(static_cast<size_t>(lines.first().size()), 0);
-    for (const QStringList& cells : lines) {
-        for (int column = 0; column < cells.size(); ++column) {
-            int& width = widths[static_cast<size_t>(column)];
-            width = std::max(width, cells[column].size());
-        }
-    }
-    QString table;
-    for (const QStringList& cells : lines) {
-        table += line(cells, widths);
-    }
-    return table;
-}
-
-bool writeJson(const std::vector<Result>& results, const Effort& effort, const QString& file)
-{
-    static constexpr const char* kinds[] = {"ratio", "exponent", "bytes", "count"};
-    QJsonArray figures;
-    for (const Result& result : results) {
-        QJsonObject row{{"id", result.figure->id},
-                        {"what", title(result)},
-                        {"kind", kinds[static_cast<int>(result.figure->kind)]},
-                        {"value", result.value},
-                        {"target", result.figure->target},
-                        {"holds", result.holds()}};
-        if (result.figure->kind == Kind::Ratio) {
-            row["project_ns"] = result.project;
-            row["floor_ns"] = result.floor;
-            row["spread"] = result.spread;
-        } else if (result.figure->kind == Kind::Exponent) {
-            row["least_ns"] = result.floor;
-            row["most_ns"] = result.project;
-        }
-        figures.append(row);
-    }
-    const QJsonObject document{{"repetitions", effort.repetitions}, {"figures", figures}};
-    return writeFile(file, QJsonDocument(document).toJson());
-}
-
-bool writeMarkdown(const std::vector<Result>& results, const Effort& effort, const QString& file)
+bool putInto(const QString& file, const QString& table)
 {
     QFile page(file);
     page.open(QIODevice::ReadOnly);
@@ -172,7 +92,10 @@ bool writeMarkdown(const std::vector<Result>& results, const Effort& effort, con
         return false;
     }
     const int end = text.indexOf(QStringLiteral("\n## "), start);
-    text.replace(start, (end < 0 ? text.size() : end) - start,
-                 '\n' + markdownTable(results, effort));
-    return writeFile(file, text.toUtf8());
+    text.replace(start, (end < 0 ? text.size() : end) - start, '\n' + table);
+    if (!page.open(QIODevice::WriteOnly) || page.write(text.toUtf8()) < 0) {
+        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(file), qUtf8Printable(page.errorString()));
+        return false;
+    }
+    return true;
 }

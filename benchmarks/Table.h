@@ -6,13 +6,9 @@
 
 #include <vector>
 
-/// The results as one table of text.
-QString resultTable(const std::vector<Result>& results);
+/// The results as one table, in Markdown; below it, on what they were measured.
+QString markdownTable(const std::vector<Result>& results, const Effort& effort);
 
-/// Writes the results, with the minimum and maximum that went into them, as JSON. False with a
-/// message on stderr if the file cannot be written.
-bool writeJson(const std::vector<Result>& results, const Effort& effort, const QString& file);
-
-/// Replaces the section "Table" of the page `file` with the results. False as above, or if the
-/// page has no such section.
-bool writeMarkdown(const std::vector<Result>& results, const Effort& effort, const QString& file);
+/// Replaces the section "Table" of the page `file`. False with a message on stderr if there is no
+/// such section, or the file cannot be written.
+bool putInto(const QString& file, const QString& table);

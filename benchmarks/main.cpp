@@ -39,41 +39,29 @@ void startBenchmarks(char* program)
     benchmark::Initialize(&count, arguments);
 }
 
-/// Ends the program if an option is not understood.
-Effort readOptions(const QApplication& application, QString* jsonFile, QString* page)
+/// Ends the program if an option is not understood. `page` gets the table.
+Effort readOptions(const QApplication& application, QString* page)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Measures the module next to minimal code that does the same work."));
     parser.addHelpOption();
-    const QCommandLineOption json(QStringLiteral("json"),
-                                  QStringLiteral("Also write the figures to FILE."),
-                                  QStringLiteral("FILE"));
-    const QCommandLineOption markdown(QStringLiteral("markdown"),
-                                      QStringLiteral("Also write the table into the page FILE."),
-                                      QStringLiteral("FILE"));
-    const QCommandLineOption only(QStringLiteral("only"),
-                                  QStringLiteral("Measure the figures whose id contains TEXT."),
-                                  QStringLiteral("TEXT"));
-    const QCommandLineOption repetitions(
-        QStringLiteral("repetitions"), QStringLiteral("Measure each side N times."),
-        QStringLiteral("N"), QString::number(Effort().repetitions));
-    const QCommandLineOption quick(
-        QStringLiteral("quick"),
-        QStringLiteral("Measure once, briefly, to see that everything works."));
-    parser.addOptions({json, markdown, only, repetitions, quick});
+    parser.addOptions(
+        {{"markdown", "Also write the table into the page FILE.", "FILE"},
+         {"only", "Measure the figures whose id contains TEXT.", "TEXT"},
+         {"repetitions", "Measure each side N times.", "N", QString::number(Effort().repetitions)},
+         {"quick", "Measure once, briefly, to see that everything works."}});
     parser.process(application);
 
     Effort effort;
-    effort.only = parser.value(only).toStdString();
-    effort.repetitions = std::max(1, parser.value(repetitions).toInt());
-    if (parser.isSet(quick)) {
+    effort.only = parser.value("only").toStdString();
+    effort.repetitions = std::max(1, parser.value("repetitions").toInt());
+    if (parser.isSet("quick")) {
         effort.quick = true;
         effort.repetitions = 1;
         effort.seconds = effort.growthSeconds = 1e-6;
     }
-    *jsonFile = parser.value(json);
-    *page = parser.value(markdown);
+    *page = parser.value("markdown");
     return effort;
 }
 
@@ -104,9 +92,8 @@ int main(int argc, char** argv)
     Heap::keepMemory();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QString jsonFile;
     QString page;
-    const Effort effort = readOptions(application, &jsonFile, &page);
+    const Effort effort = readOptions(application, &page);
     if (!page.isEmpty() && !effort.only.empty()) {
         std::fputs("--markdown needs all figures, not just those of --only\n", stderr);
         return EXIT_FAILURE;
@@ -115,9 +102,9 @@ int main(int argc, char** argv)
     startBenchmarks(argv[0]);
 
     Runner runner(effort);
-    for (const auto add : {addStripFigures, addClickFigures, addIncomingFigures, addRecordFigures,
-                           addDialogFigures, addKeyFigures, addProcessFigures, addGrowthFigures,
-                           addMemoryFigures, addBoardFigures, addHostCallFigures}) {
+    for (const auto add :
+         {addStripFigures, addClickFigures, addIncomingFigures, addRecordFigures, addDialogFigures,
+          addKeyFigures, addProcessFigures, addGrowthFigures, addMemoryFigures, addBoardFigures}) {
         add(runner);
     }
     const std::vector<Result> results = runner.run();
@@ -125,15 +112,13 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "no figure's id contains \"%s\"\n", effort.only.c_str());
         return EXIT_FAILURE;
     }
-    std::fputs(qUtf8Printable(resultTable(results)), stdout);
-    if (!jsonFile.isEmpty() && !writeJson(results, effort, jsonFile)) {
-        return EXIT_FAILURE;
-    }
+    const QString table = markdownTable(results, effort);
+    std::fputs(qUtf8Printable(table), stdout);
     if (effort.only.empty() && !complete(results)) {
         std::fputs("a figure is missing\n", stderr);
         return EXIT_FAILURE;
     }
-    if (!page.isEmpty() && !writeMarkdown(results, effort, page)) {
+    if (!page.isEmpty() && !putInto(page, table)) {
         return EXIT_FAILURE;
     }
     return untimedHold(results) ? EXIT_SUCCESS : EXIT_FAILURE;

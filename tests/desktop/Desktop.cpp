@@ -1,28 +1,49 @@
 #include "Desktop.h"
 
-#include <QProcess>
+#include <QApplication>
+#include <QPointer>
 #include <QTest>
 #include <QWidget>
 
+#include <cstdio>
+
 namespace {
 
-constexpr int settleTime = 60;  // ms for the window manager and the program to respond
+// In ms: for the window manager to respond, and for keys to arrive, unless it keeps them.
+constexpr int settleTime = 60;
+constexpr int longestTime = 500;
 
-void act(const QStringList& arguments)
+/// Counts the events of some types that reach the program's windows.
+class Arrivals : public QObject {
+public:
+    explicit Arrivals(const QVector<QEvent::Type>& types) : m_types(types)
+    {
+        qApp->installEventFilter(this);
+    }
+    int count() const { return m_count; }
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override
+    {
+        m_count += receiver->isWindowType() && m_types.contains(event->type()) ? 1 : 0;
+        return false;
+    }
+
+private:
+    QVector<QEvent::Type> m_types;
+    int m_count = 0;
+};
+
+/// Has xdotool, which runs as long as the test, execute the command. Returns when that many
+/// releases have arrived and been handled; the window manager may keep one for itself.
+void act(const QString& command, int releases)
 {
-    QProcess tool;
-    QEventLoop loop;
-    QObject::connect(&tool, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), &loop,
-                     &QEventLoop::quit);
-    tool.start("xdotool", arguments);
-    if (!tool.waitForStarted()) {
-        qFatal("xdotool cannot be started");
-    }
-    loop.exec();
-    if (tool.exitCode() != 0) {
-        qFatal("xdotool: %s", tool.readAllStandardError().constData());
-    }
-    QTest::qWait(settleTime);
+    static std::FILE* const tool = popen("xdotool -", "w");
+    const Arrivals released({QEvent::KeyRelease, QEvent::MouseButtonRelease});
+    std::fputs(qPrintable(command + '\n'), tool);
+    std::fflush(tool);
+    QTest::qWaitFor([&] { return released.count() >= releases; }, longestTime);
+    QApplication::processEvents();
 }
 
 }  // namespace
@@ -39,6 +60,13 @@ void Desktop::waitForWindow(QWidget* window)
     QTest::qWait(settleTime);
 }
 
+void Desktop::move(QWidget& window, const QPoint& place)
+{
+    const Arrivals moved({QEvent::Move});
+    window.move(place);
+    QTest::qWaitFor([&] { return moved.count() > 0; }, settleTime);
+}
+
 void Desktop::click(const QWidget& widget, int button, QPoint place)
 {
     if (!widget.isVisible()) {
@@ -49,16 +77,29 @@ void Desktop::click(const QWidget& widget, int button, QPoint place)
 
 void Desktop::clickAt(const QPoint& globalPlace, int button)
 {
-    act({"mousemove", QString::number(globalPlace.x()), QString::number(globalPlace.y()), "click",
-         QString::number(button)});
+    const QWidget* const clicked = QApplication::widgetAt(globalPlace);
+    const QPointer<QWidget> window = clicked ? clicked->window() : nullptr;
+    const QPointer<QWidget> before = QApplication::activeWindow();
+    act(QStringLiteral("mousemove %1 %2 click --delay 1 %3")
+            .arg(globalPlace.x())
+            .arg(globalPlace.y())
+            .arg(button),
+        1);
+    // The window manager makes it the active one, unless the click has opened another.
+    QTest::qWaitFor(
+        [&] {
+            const QWidget* const active = QApplication::activeWindow();
+            return !window || active == window || (active && active != before);
+        },
+        settleTime);
 }
 
 void Desktop::type(const QString& text)
 {
-    act({"type", "--delay", "5", text});
+    act("type --delay 5 " + text, text.size());
 }
 
 void Desktop::key(const QString& name)
 {
-    act({"key", name});
+    act("key --delay 4 " + name, name.count('+') + 1);
 }

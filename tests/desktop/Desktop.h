@@ -11,6 +11,9 @@ namespace Desktop {
 /// Waits until `window` is the window manager's active one.
 void waitForWindow(QWidget* window);
 
+/// Moves the window, and waits until it is there.
+void move(QWidget& window, const QPoint& place);
+
 /// Clicks the middle of the widget (or `place` in it, if given). Returns when the program has
 /// handled the click and is idle again, or is in a menu or box that the click has opened.
 void click(const QWidget& widget, int button = 1, QPoint place = {-1, -1});

@@ -1,5 +1,6 @@
 // The running workbench, used as a user does.
 
+#include "Bounds.h"
 #include "BoxCatcher.h"
 #include "Desktop.h"
 #include "FindChild.h"
@@ -228,13 +229,13 @@ private Q_SLOTS:
             Refusal("m_pLineTB", "m_pSymbolTextLE").of("r").leaves("").opens(BoxTexts::symbol()),
             Refusal("m_pPadTB", "m_pSymbolTextLE").of("foo").leaves("").opens(BoxTexts::symbol()),
             Refusal("m_pPadTB", "m_pDrilDxLE")
-                .of("100001")
+                .of(Bounds::of("m_pDrilDxLE").justAbove())
                 .leaves("0")
-                .opens(BoxTexts::coordinate(100000)),
+                .opens(BoxTexts::coordinate(Bounds::of("m_pDrilDxLE").maximum)),
             Refusal("m_pTextTB", "m_pXSizeLE")
-                .of("10000.5")
+                .of(Bounds::of("m_pXSizeLE").justAbove())
                 .leaves("0")
-                .opens(BoxTexts::length(10000)),
+                .opens(BoxTexts::length(Bounds::of("m_pXSizeLE").maximum)),
         };
         for (const Refusal& refusal : refusals) {
             for (const char* const way : {"Tab", "Return", "mouse"}) {
@@ -285,7 +286,7 @@ private Q_SLOTS:
         Desktop::click(findNamed(dialog, "m_pSelectFromEditorPB"));
         QCOMPARE(sent(), QVector<int>{Sent::SelectSymbol});
         const auto& board = findNamed(*m_window, "m_pBoardView");
-        dialog.move(m_window->x(), m_window->frameGeometry().bottom() + 10);
+        Desktop::move(dialog, {m_window->x(), m_window->frameGeometry().bottom() + 10});
         Desktop::clickAt(bigPad(board));
         QTRY_VERIFY(!symbol.text().isEmpty());
         QVERIFY(symbol.text().startsWith('r'));
@@ -303,9 +304,8 @@ private Q_SLOTS:
         Desktop::waitForWindow(&values);
         // Behind the host's window, which comes to the front when it is clicked.
         values.resize(420, 160);
-        values.move(m_window->x(), m_window->frameGeometry().bottom() + 10);
-        dialog.move(values.x() + 460, values.y());
-        QTest::qWait(100);
+        Desktop::move(values, {m_window->x(), m_window->frameGeometry().bottom() + 10});
+        Desktop::move(dialog, {values.x() + 460, values.y()});
         m_log->clear();
         Desktop::click(findNamed(values, "m_pFromEditorPB"));
         Desktop::clickAt(bigPad(findNamed(*m_window, "m_pBoardView")));
@@ -351,8 +351,7 @@ private Q_SLOTS:
     {
         QWidget& dialog = openDialog("m_pSurfaceTB");
         const auto& board = findNamed(*m_window, "m_pBoardView");
-        dialog.move(m_window->x(), m_window->frameGeometry().bottom() + 10);
-        QTest::qWait(100);
+        Desktop::move(dialog, {m_window->x(), m_window->frameGeometry().bottom() + 10});
         Desktop::clickAt(bigPad(board));
         Desktop::clickAt(bigPad(board) + QPoint(30, 30));
         const auto undo = [&] { return tool("m_pUndoTB").toolTip(); };

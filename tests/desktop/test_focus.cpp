@@ -59,23 +59,23 @@ QVector<Entry> chosenEntries()
     const struct {
         const char* type;
         const char* field;
-        const char* typed;
+        bool isRefused;
     } chosen[] = {
-        {"m_pPadTB", "m_pSymbolTextLE", "s20"},   {"m_pPadTB", "m_pAngleValueSB", "45"},
-        {"m_pPadTB", "m_pDrilDxLE", "10"},        {"m_pPadTB", "m_pDrilDxLE", "100001"},
-        {"m_pLineTB", "m_pCornerRadiusLE", "10"}, {"m_pLineTB", "m_pCornerRadiusLE", "50001"},
-        {"m_pTextTB", "m_pXSizeLE", "100"},       {"m_pTextTB", "m_pXSizeLE", "10001"},
-        {"m_pTextTB", "m_pTextLE", "abc"},
+        {"m_pPadTB", "m_pSymbolTextLE", false},    {"m_pPadTB", "m_pAngleValueSB", false},
+        {"m_pPadTB", "m_pDrilDxLE", false},        {"m_pPadTB", "m_pDrilDxLE", true},
+        {"m_pLineTB", "m_pCornerRadiusLE", false}, {"m_pLineTB", "m_pCornerRadiusLE", true},
+        {"m_pTextTB", "m_pXSizeLE", false},        {"m_pTextTB", "m_pXSizeLE", true},
+        {"m_pTextTB", "m_pTextLE", false},
     };
     QVector<Entry> found;
     for (const auto& row : chosen) {
         const auto entry =
             std::find_if(allEntries().cbegin(), allEntries().cend(), [&](const Entry& known) {
                 return known.type() == row.type && known.field() == row.field &&
-                       known.typed() == row.typed;
+                       known.isRefused() == row.isRefused;
             });
         if (entry == allEntries().cend()) {
-            qFatal("there is no entry %s %s", row.field, row.typed);
+            qFatal("there is no such entry of %s", row.field);
         }
         found.append(*entry);
     }
@@ -179,6 +179,15 @@ class TestFocus : public QObject {
         };
     }
 
+    void closeOtherWindows() const
+    {
+        for (QWidget* const top : QApplication::topLevelWidgets()) {
+            if (top != m_window.get() && top->isVisible()) {
+                top->close();
+            }
+        }
+    }
+
     void closeTheDialog() const
     {
         Desktop::key("alt+F4");
@@ -230,7 +239,6 @@ class TestFocus : public QObject {
         const SlowHands hands;
         enter(entry);
         way.leave();
-        QTest::qWait(100);
         QTRY_VERIFY(!QApplication::activeModalWidget());
 
         openDialog();
@@ -251,21 +259,31 @@ class TestFocus : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
+    void initTestCase()
     {
         m_log = std::make_unique<MessageLog>();
         m_window = openWindow(*m_log);
-        m_dialog = nullptr;
-        openDialog();
-        m_agreement = std::make_unique<Agreement>(*m_dialog);
-        m_dialog->move(m_window->frameGeometry().right() + 10, m_window->y());
     }
 
+    void cleanupTestCase()
+    {
+        m_window.reset();
+        m_log.reset();
+    }
+
+    void init()
+    {
+        openDialog();
+        m_agreement = std::make_unique<Agreement>(*m_dialog);
+        Desktop::move(*m_dialog, {m_window->frameGeometry().right() + 10, m_window->y()});
+    }
+
+    /// The strip makes another dialog for the next row.
     void cleanup()
     {
         m_agreement.reset();
-        m_window.reset();
-        m_log.reset();
+        delete m_dialog;
+        closeOtherWindows();
     }
 
     void padEntries_data() { addRows("m_pPadTB"); }
@@ -281,8 +299,7 @@ private Q_SLOTS:
     void dialogStaysAboveTheHostsWindow()
     {
         const QRect host = m_window->frameGeometry();
-        m_dialog->move(host.center() - QPoint(m_dialog->width() / 2, host.height() / 3));
-        QTest::qWait(150);
+        Desktop::move(*m_dialog, host.center() - QPoint(m_dialog->width() / 2, host.height() / 3));
         QVERIFY(host.contains(m_dialog->frameGeometry().center()));
         for (int i = 0; i < 3; ++i) {
             clickTheBoard();

@@ -1,5 +1,7 @@
 #include "Refusals.h"
 
+#include "Bounds.h"
+
 #include <QRegularExpression>
 #include <QToolButton>
 
@@ -7,31 +9,6 @@
 #include <iterator>
 
 namespace {
-
-enum class Kind { Length, Coordinate, Number };
-
-struct Field {
-    const char* name;
-    Kind kind;
-    double least;
-    double most;
-};
-const Field fields[] = {
-    {"m_pCornerRadiusLE", Kind::Length, 0, 50000},
-    {"m_pLengthLE", Kind::Length, 0, 50000},
-    {"m_pHeightLE", Kind::Length, 0, 50000},
-    {"m_pCannedHoleSizeLE", Kind::Length, 0, 50000},
-    {"m_pXSizeLE", Kind::Length, 0, 10000},
-    {"m_pYSizeLE", Kind::Length, 0, 10000},
-    {"m_pLineWidthLE", Kind::Length, 0, 10000},
-    {"m_pDrilDxLE", Kind::Coordinate, -100000, 100000},
-    {"m_pDrilDyLE", Kind::Coordinate, -100000, 100000},
-    {"m_pDrilNxLE", Kind::Number, 0, 50},
-    {"m_pDrilNyLE", Kind::Number, 0, 50},
-    {"m_pDrilXsclLE", Kind::Number, -100, 100},
-    {"m_pDrilYsclLE", Kind::Number, -100, 100},
-    {"m_pAngleLE", Kind::Number, 0, 360},
-};
 
 bool matches(const char* pattern, const QString& text)
 {
@@ -56,19 +33,18 @@ bool Refusals::isSurelyLegal(const QString& field, const QString& text, const QS
     if (field == QLatin1String("m_pSymbolTextLE")) {
         return isLegalSymbol(text, type);
     }
-    const auto* const found = std::find_if(std::begin(fields), std::end(fields),
-                                           [&](const Field& known) { return field == known.name; });
-    if (found == std::end(fields)) {
+    const FieldBound* const bound = Bounds::find(field);
+    if (!bound) {
         return true;  // a plain text
     }
     bool isNumber = false;
     double value = text.toDouble(&isNumber);
-    if (isMetric && found->kind != Kind::Number) {
+    if (isMetric && bound->kind != FieldBound::Kind::Number) {
         value /= 25.4;
     }
     // An empty pitch counts as 0. Leave some room at the bounds for rounding.
-    return (text.isEmpty() && found->kind == Kind::Coordinate) ||
-           (isNumber && value >= found->least * 0.999 && value <= found->most * 0.999);
+    return (text.isEmpty() && bound->kind == FieldBound::Kind::Coordinate) ||
+           (isNumber && value >= bound->minimum * 0.999 && value <= bound->maximum * 0.999);
 }
 
 QString Refusals::chosenType(const QWidget& dialog)

@@ -19,9 +19,9 @@ const QString symbolField = QStringLiteral("m_pSymbolTextLE");
 Agreement::Agreement(QWidget& dialog)
     : m_dialog(dialog),
       m_symbol(&findNamed<QLineEdit>(dialog, symbolField)),
-      m_unit(&findNamed<QLabel>(dialog, "m_pCornerRadiusUnitLB")),
-      m_background(Added::no)
+      m_unit(&findNamed<QLabel>(dialog, "m_pCornerRadiusUnitLB"))
 {
+    startAgain();
     for (const AgreementTable::Field& field : AgreementTable::fields()) {
         m_widgets.append(&findNamed(dialog, field.names.first()));
         if (auto* const edit = qobject_cast<QLineEdit*>(m_widgets.last())) {
@@ -31,6 +31,18 @@ Agreement::Agreement(QWidget& dialog)
     watchSymbol();
     watchOthers();
     dialog.installEventFilter(this);
+}
+
+void Agreement::startAgain()
+{
+    m_pending.clear();
+    m_leftUnreported.clear();
+    m_suffixes.clear();
+    noteSuffixes(m_symbol->text());
+    m_background = Added::no;
+    m_isTyping = false;
+    m_isEmptiedByProgram = false;
+    m_isPendingSinceClose = false;
 }
 
 void Agreement::watchEdit(QLineEdit* edit)
@@ -49,7 +61,6 @@ void Agreement::watchEdit(QLineEdit* edit)
 
 void Agreement::watchSymbol()
 {
-    noteSuffixes(m_symbol->text());
     connect(m_symbol, &QLineEdit::textEdited, this, [this] {
         m_isTyping = true;
         m_isPendingSinceClose = false;

@@ -30,6 +30,9 @@ public:
 
     explicit Agreement(QWidget& dialog);
 
+    /// Forgets what has been done with the dialog, which is to be as it was at first.
+    void startAgain();
+
     /// One finding for each field.
     QVector<Finding> look(const QVariantMap& record) const;
     /// What is wrong with the first field that disagrees; empty: all agree.
@@ -56,7 +59,7 @@ private:
     QSet<QString> m_leftUnreported;
     QSet<qint64> m_suffixes;
     QString m_background;
-    bool m_isTyping = false;
-    bool m_isEmptiedByProgram = false;
-    bool m_isPendingSinceClose = false;
+    bool m_isTyping;
+    bool m_isEmptiedByProgram;
+    bool m_isPendingSinceClose;
 };

@@ -1,4 +1,7 @@
 #include "Invariants.h"
+
+#include "AgreementTable.h"
+#include "Bounds.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
@@ -27,26 +30,22 @@ const QSet<QString> integerKeys = {RecordKeys::orbotechType, RecordKeys::feature
                                    RecordKeys::barcodeMode,  RecordKeys::orbotechFontSize,
                                    RecordKeys::orbotechZoom};
 
-struct Bound {
-    QString key;
-    double minimum;
-    double maximum;
-    bool isAsTyped = false;  ///< stored with each key: a part of a number ("-", "1e") counts as 0
-};
-const Bound bounds[] = {
-    {RecordKeys::cornerRadius, 0, 1270000},  {RecordKeys::slotLength, 0, 1270000},
-    {RecordKeys::padDx, -2540000, 2540000},  {RecordKeys::padDy, -2540000, 2540000},
-    {RecordKeys::padNx, 0, 50, true},        {RecordKeys::padNy, 0, 50, true},
-    {RecordKeys::padXscl, -100, 100, true},  {RecordKeys::padYscl, -100, 100, true},
-    {RecordKeys::angle, 0, 360, true},       {RecordKeys::stringXSize, 0, 254000},
-    {RecordKeys::stringYSize, 0, 254000},    {RecordKeys::stringLineWidth, 0, 254000},
-    {RecordKeys::barcodeHeight, 0, 1270000}, {RecordKeys::cannedHoleSize, 0, 1270000},
-};
-
 bool isPartOfNumber(const QString& text)
 {
     static const QRegularExpression part("\\A[-+]?[0-9]*\\.?[0-9]*([eE][-+]?[0-9]*)?\\z");
     return part.match(text).hasMatch();
+}
+
+/// Lengths are stored in micrometres. A number that is typed is stored with each key: a part of one
+/// ("-", "1e") counts as 0.
+bool isWithin(const FieldBound& bound, const QString& stored)
+{
+    const bool isPlain = bound.kind == FieldBound::Kind::Number;
+    const double scale = isPlain ? 1 : 25.4;
+    bool isNumber = false;
+    const double value = stored.toDouble(&isNumber);
+    isNumber = isNumber || (isPlain && isPartOfNumber(stored));
+    return isNumber && value >= bound.minimum * scale && value <= bound.maximum * scale;
 }
 
 }  // namespace
@@ -63,13 +62,11 @@ QString Invariants::faultOf(const QVariantMap& record)
             return entry.key() + " is a " + entry->typeName();
         }
     }
-    for (const Bound& bound : bounds) {
-        bool isNumber = false;
-        const QString text = record.value(bound.key).toString();
-        const double value = text.toDouble(&isNumber);
-        isNumber = isNumber || (bound.isAsTyped && isPartOfNumber(text));
-        if (!(isNumber && value >= bound.minimum && value <= bound.maximum)) {
-            return QStringLiteral("%1 is \"%2\"").arg(bound.key, text);
+    for (const AgreementTable::Field& field : AgreementTable::fields()) {
+        const FieldBound* const bound = Bounds::find(field.names.first());
+        const QString text = record.value(field.key).toString();
+        if (bound && !isWithin(*bound, text)) {
+            return QStringLiteral("%1 is \"%2\"").arg(field.key, text);
         }
     }
     return {};

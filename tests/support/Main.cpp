@@ -37,6 +37,11 @@ bool TestProgram::add(const char* sourceFile, Run run)
     return true;
 }
 
+bool TestProgram::isFull()
+{
+    return qEnvironmentVariableIsSet("CTS_FULL");
+}
+
 int main(int argc, char** argv)
 {
     const auto chosen = classes().constFind(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString());

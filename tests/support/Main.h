@@ -12,6 +12,10 @@ using Run = int (*)(int argc, char** argv);
 /// The class in that source file: the argument "frame" selects test_frame.cpp.
 bool add(const char* sourceFile, Run run);
 
+/// Whether every row is wanted, at its largest: with CTS_FULL in the environment, as --full sets
+/// it.
+bool isFull();
+
 }  // namespace TestProgram
 
 /// Makes `Class` one of the program's test classes.

@@ -30,6 +30,7 @@ public:
     {
         return isAlwaysPossible() || m_type == typeButton;
     }
+    bool closes() const { return m_closes; }
     /// Whether a symbol that is being entered is replaced, or dropped with the window.
     bool endsASymbol() const { return m_closes || m_putsSymbol; }
     void act(DialogFixture& fixture) const { m_act(fixture); }

@@ -19,8 +19,6 @@ class LengthField {
 public:
     LengthField(const QString& field, const QString& key) : m_field(field), m_key(key) {}
     LengthField& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
-    /// The bound in mil: 50000 or 10000.
-    LengthField& upTo(int mil) { return m_bound = mil, *this; }
     LengthField& sends(Sends sends) { return m_sends = sends, *this; }
 
     /// At, inside and outside its bounds, and texts that are not numbers; in both units.
@@ -33,7 +31,6 @@ private:
     QString m_field;
     QString m_key;
     Steps m_reach;
-    int m_bound = 0;
     Sends m_sends = Sends::Never;
 };
 
@@ -67,7 +64,9 @@ class Refusal {
 public:
     explicit Refusal(const QString& field = {}) : m_field(field) {}
     Refusal& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
-    Refusal& of(const QString& typed) { return m_typed = typed, *this; }
+    /// What the field's bound just refuses is typed.
+    Refusal& above() { return m_typed = Bounds::of(m_field).justAbove(), *this; }
+    Refusal& below() { return m_typed = Bounds::of(m_field).justBelow(), *this; }
     Refusal& leaves(const QString& shown) { return m_shown = shown, *this; }
     /// What the mouse goes to.
     Refusal& beside(const QString& neighbour) { return m_neighbour = neighbour, *this; }

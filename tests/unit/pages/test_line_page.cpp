@@ -239,12 +239,10 @@ private Q_SLOTS:
     {
         addCases(PageCases::LengthField("m_pCornerRadiusLE", RecordKeys::cornerRadius)
                      .reachedBy(roundCorner)
-                     .upTo(50000)
                      .sends(Sends::WhenAccepted)
                      .cases() +
                  PageCases::LengthField("m_pLengthLE", RecordKeys::slotLength)
                      .reachedBy(slot)
-                     .upTo(50000)
                      .sends(Sends::Never)
                      .cases());
     }
@@ -341,15 +339,15 @@ private Q_SLOTS:
     {
         using PageCases::Refusal;
         PageCases::addRefusalRows(
-            {Refusal("m_pAngleLE").reachedBy(fixedAngle).of("400").leaves("").beside("m_pLineCMB"),
+            {Refusal("m_pAngleLE").reachedBy(fixedAngle).above().leaves("").beside("m_pLineCMB"),
              Refusal("m_pCornerRadiusLE")
                  .reachedBy(roundCorner)
-                 .of("50001")
+                 .above()
                  .leaves("0")
                  .beside("m_pCornerTypeCMB"),
              Refusal("m_pLengthLE")
                  .reachedBy(slot)
-                 .of("50000.5")
+                 .above()
                  .leaves("0")
                  .beside("m_pSlotPlatedCMB")});
     }

@@ -180,12 +180,8 @@ private Q_SLOTS:
     {
         using PageCases::Refusal;
         PageCases::addRefusalRows(
-            {Refusal("m_pDrilDxLE").reachedBy(pad).of("100001").leaves("0").beside("m_pMirrorCMB"),
-             Refusal("m_pDrilDyLE")
-                 .reachedBy(pad)
-                 .of("-100001")
-                 .leaves("0")
-                 .beside("m_pMirrorCMB")});
+            {Refusal("m_pDrilDxLE").reachedBy(pad).above().leaves("0").beside("m_pMirrorCMB"),
+             Refusal("m_pDrilDyLE").reachedBy(pad).below().leaves("0").beside("m_pMirrorCMB")});
     }
     void refusals() { PageCases::refuseOnce(); }
 
@@ -193,7 +189,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.chooseType("m_pPadTB");
-        fixture.enter("m_pDrilDxLE", "100001");
+        fixture.enter("m_pDrilDxLE", Bounds::of("m_pDrilDxLE").justAbove());
         const auto boxes = fixture.boxes.take();
         QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].icon, QMessageBox::Warning);

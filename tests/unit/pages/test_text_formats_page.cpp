@@ -203,12 +203,10 @@ private Q_SLOTS:
         using PageCases::LengthField;
         addCases(LengthField("m_pHeightLE", RecordKeys::barcodeHeight)
                      .reachedBy(barcode)
-                     .upTo(50000)
                      .sends(Sends::Never)
                      .cases() +
                  LengthField("m_pCannedHoleSizeLE", RecordKeys::cannedHoleSize)
                      .reachedBy(cannedText)
-                     .upTo(50000)
                      .sends(Sends::Never)
                      .cases());
     }
@@ -338,16 +336,13 @@ private Q_SLOTS:
     void refusals_data()
     {
         using PageCases::Refusal;
-        PageCases::addRefusalRows({Refusal("m_pHeightLE")
-                                       .reachedBy(barcode)
-                                       .of("50001")
-                                       .leaves("0")
-                                       .beside("m_pMirrorCMB"),
-                                   Refusal("m_pCannedHoleSizeLE")
-                                       .reachedBy(cannedText)
-                                       .of("50001")
-                                       .leaves("0")
-                                       .beside("m_pMirrorCMB")});
+        PageCases::addRefusalRows(
+            {Refusal("m_pHeightLE").reachedBy(barcode).above().leaves("0").beside("m_pMirrorCMB"),
+             Refusal("m_pCannedHoleSizeLE")
+                 .reachedBy(cannedText)
+                 .above()
+                 .leaves("0")
+                 .beside("m_pMirrorCMB")});
     }
     void refusals() { PageCases::refuseOnce(); }
 

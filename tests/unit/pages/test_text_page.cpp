@@ -136,11 +136,7 @@ private Q_SLOTS:
     void sizes_data()
     {
         const auto size = [](const QString& field, const QString& key) {
-            return PageCases::LengthField(field, key)
-                .reachedBy(text)
-                .upTo(10000)
-                .sends(Sends::Always)
-                .cases();
+            return PageCases::LengthField(field, key).reachedBy(text).sends(Sends::Always).cases();
         };
         addCases(size("m_pXSizeLE", RecordKeys::stringXSize) +
                  size("m_pYSizeLE", RecordKeys::stringYSize) +
@@ -296,7 +292,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.chooseType("m_pTextTB");
-        fixture.enter("m_pXSizeLE", "10001");
+        fixture.enter("m_pXSizeLE", Bounds::of("m_pXSizeLE").justAbove());
         const auto boxes = fixture.boxes.take();
         QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].icon, QMessageBox::Information);
@@ -337,12 +333,12 @@ private Q_SLOTS:
 
     void refusals_data()
     {
-        const auto refusal = [](const QString& field, const QString& typed) {
-            return PageCases::Refusal(field).reachedBy(text).of(typed).leaves("0").beside(
-                "m_pMirrorCMB");
-        };
-        PageCases::addRefusalRows({refusal("m_pXSizeLE", "10000.5"), refusal("m_pYSizeLE", "99999"),
-                                   refusal("m_pLineWidthLE", "10001")});
+        QList<PageCases::Refusal> rows;
+        for (const char* const field : {"m_pXSizeLE", "m_pYSizeLE", "m_pLineWidthLE"}) {
+            rows.append(PageCases::Refusal(field).reachedBy(text).above().leaves("0").beside(
+                "m_pMirrorCMB"));
+        }
+        PageCases::addRefusalRows(rows);
     }
     void refusals() { PageCases::refuseOnce(); }
 

@@ -47,7 +47,7 @@ class TestHostileMessages : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Otherwise the record is logged a hundred thousand times.
+    // Otherwise each record is logged.
     void initTestCase() { QLoggingCategory::setFilterRules("canvastoolstrip.*=false"); }
 
     void unknownCodes()
@@ -167,13 +167,14 @@ private Q_SLOTS:
             sent += entry.message.code == Sent::Record;
             fixture.recorder.clear();
         });
+        const int count = TestProgram::isFull() ? many : 2000;
         std::map<int, std::string> symbols;
-        for (int i = 1; i <= many; ++i) {
+        for (int i = 1; i <= count; ++i) {
             symbols[i - 2] = "r" + std::to_string(i % 1000 + 1);
         }
         fixture.receive(Accepted::SymbolsPicked, {}, ExtraWord::pointingAt(symbols));
         fixture.recorder.setOnMessage({});
-        QCOMPARE(sent, many);
+        QCOMPARE(sent, count);
         QCOMPARE(fixture.symbol().text(), QString("r1"));
         QCOMPARE(fixture.record().value(RecordKeys::symbolText), QVariant("r1"));
     }
