@@ -1,8 +1,8 @@
 // The running workbench, used as a user does.
 
-#include "Bounds.h"
 #include "BoxCatcher.h"
 #include "Desktop.h"
+#include "FieldBounds.h"
 #include "FindChild.h"
 #include "Main.h"
 #include "OpenWindow.h"
@@ -229,13 +229,13 @@ private Q_SLOTS:
             Refusal("m_pLineTB", "m_pSymbolTextLE").of("r").leaves("").opens(BoxTexts::symbol()),
             Refusal("m_pPadTB", "m_pSymbolTextLE").of("foo").leaves("").opens(BoxTexts::symbol()),
             Refusal("m_pPadTB", "m_pDrilDxLE")
-                .of(Bounds::of("m_pDrilDxLE").justAbove())
+                .of(FieldBounds::of("m_pDrilDxLE").justAbove())
                 .leaves("0")
-                .opens(BoxTexts::coordinate(Bounds::of("m_pDrilDxLE").maximum)),
+                .opens(BoxTexts::coordinate(FieldBounds::of("m_pDrilDxLE").maximum)),
             Refusal("m_pTextTB", "m_pXSizeLE")
-                .of(Bounds::of("m_pXSizeLE").justAbove())
+                .of(FieldBounds::of("m_pXSizeLE").justAbove())
                 .leaves("0")
-                .opens(BoxTexts::length(Bounds::of("m_pXSizeLE").maximum)),
+                .opens(BoxTexts::length(FieldBounds::of("m_pXSizeLE").maximum)),
         };
         for (const Refusal& refusal : refusals) {
             for (const char* const way : {"Tab", "Return", "mouse"}) {

@@ -1,6 +1,6 @@
 #include "Refusals.h"
 
-#include "Bounds.h"
+#include "FieldBounds.h"
 
 #include <QRegularExpression>
 #include <QToolButton>
@@ -33,7 +33,7 @@ bool Refusals::isSurelyLegal(const QString& field, const QString& text, const QS
     if (field == QLatin1String("m_pSymbolTextLE")) {
         return isLegalSymbol(text, type);
     }
-    const FieldBound* const bound = Bounds::find(field);
+    const FieldBound* const bound = FieldBounds::find(field);
     if (!bound) {
         return true;  // a plain text
     }

@@ -1,7 +1,7 @@
 #include "Invariants.h"
 
 #include "AgreementTable.h"
-#include "Bounds.h"
+#include "FieldBounds.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
@@ -63,7 +63,7 @@ QString Invariants::faultOf(const QVariantMap& record)
         }
     }
     for (const AgreementTable::Field& field : AgreementTable::fields()) {
-        const FieldBound* const bound = Bounds::find(field.names.first());
+        const FieldBound* const bound = FieldBounds::find(field.names.first());
         const QString text = record.value(field.key).toString();
         if (bound && !isWithin(*bound, text)) {
             return QStringLiteral("%1 is \"%2\"").arg(field.key, text);

@@ -89,7 +89,7 @@ Case LengthField::accepted(const QString& text, const QString& stored) const
 
 Case LengthField::refused(const QString& text, Unit unit) const
 {
-    const int bound = Bounds::of(m_field).maximum;
+    const int bound = FieldBounds::of(m_field).maximum;
     Case row(QStringLiteral("%1 \"%2\"").arg(m_field, text));
     row.given(m_reach).when(Enter(m_field, text));
     row.then(Expect::record(m_key, "0"), Expect::text(m_field, "0"),
@@ -112,7 +112,7 @@ Cases LengthField::cases() const
         }
     };
     for (const BoundTexts& texts : boundTexts) {
-        if (texts.bound == Bounds::of(m_field).maximum) {
+        if (texts.bound == FieldBounds::of(m_field).maximum) {
             add(texts.accepted, texts.refused);
         }
     }

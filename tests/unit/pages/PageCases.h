@@ -65,8 +65,8 @@ public:
     explicit Refusal(const QString& field = {}) : m_field(field) {}
     Refusal& reachedBy(const Steps& steps) { return m_reach = steps, *this; }
     /// What the field's bound just refuses is typed.
-    Refusal& above() { return m_typed = Bounds::of(m_field).justAbove(), *this; }
-    Refusal& below() { return m_typed = Bounds::of(m_field).justBelow(), *this; }
+    Refusal& above() { return m_typed = FieldBounds::of(m_field).justAbove(), *this; }
+    Refusal& below() { return m_typed = FieldBounds::of(m_field).justBelow(), *this; }
     Refusal& leaves(const QString& shown) { return m_shown = shown, *this; }
     /// What the mouse goes to.
     Refusal& beside(const QString& neighbour) { return m_neighbour = neighbour, *this; }

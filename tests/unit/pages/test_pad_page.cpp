@@ -189,7 +189,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.chooseType("m_pPadTB");
-        fixture.enter("m_pDrilDxLE", Bounds::of("m_pDrilDxLE").justAbove());
+        fixture.enter("m_pDrilDxLE", FieldBounds::of("m_pDrilDxLE").justAbove());
         const auto boxes = fixture.boxes.take();
         QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].icon, QMessageBox::Warning);

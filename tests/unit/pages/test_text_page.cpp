@@ -292,7 +292,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture;
         fixture.chooseType("m_pTextTB");
-        fixture.enter("m_pXSizeLE", Bounds::of("m_pXSizeLE").justAbove());
+        fixture.enter("m_pXSizeLE", FieldBounds::of("m_pXSizeLE").justAbove());
         const auto boxes = fixture.boxes.take();
         QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].icon, QMessageBox::Information);

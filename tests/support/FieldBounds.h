@@ -17,11 +17,11 @@ struct FieldBound {
     QString justBelow() const { return QString::number(minimum - 1); }
 };
 
-namespace Bounds {
+namespace FieldBounds {
 
 /// Null: the field has no bounds.
 const FieldBound* find(const QString& field);
 /// Ends the test if the field has none.
 const FieldBound& of(const QString& field);
 
-}  // namespace Bounds
+}  // namespace FieldBounds

@@ -1,4 +1,4 @@
-#include "Bounds.h"
+#include "FieldBounds.h"
 
 #include <algorithm>
 #include <iterator>
@@ -37,7 +37,7 @@ BoxText FieldBound::box() const
     Q_UNREACHABLE();
 }
 
-const FieldBound* Bounds::find(const QString& field)
+const FieldBound* FieldBounds::find(const QString& field)
 {
     const auto* const found =
         std::find_if(std::begin(fieldBounds), std::end(fieldBounds),
@@ -45,7 +45,7 @@ const FieldBound* Bounds::find(const QString& field)
     return found == std::end(fieldBounds) ? nullptr : found;
 }
 
-const FieldBound& Bounds::of(const QString& field)
+const FieldBound& FieldBounds::of(const QString& field)
 {
     if (const FieldBound* const found = find(field)) {
         return *found;
