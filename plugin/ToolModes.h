@@ -1,6 +1,6 @@
 #pragma once
 
-/// What the extra word says with the code of a tool that has modes.
+// What the extra word says with the code of a tool that has modes.
 
 /// With Sent::DeleteFeature.
 namespace DeleteMode {

@@ -193,6 +193,29 @@ private Q_SLOTS:
         }
     }
 
+    /// So it is when the focus has moved on while the box was open.
+    void movedWhileTheBoxWasOpen()
+    {
+        DialogFixture fixture(Unit::Mil, Opened::ByTheStrip);
+        fixture.focus("m_pSymbolTextLE");
+        fixture.type("m_pSymbolTextLE", "r");
+        fixture.recorder.clear();
+        fixture.boxes.setOnBox([&] {
+            letHostWork();
+            fixture.find("m_pPolarityCMB").setFocus();
+            // As where a window becomes active within the call.
+            QApplication::setActiveWindow(fixture.dialog);
+            QCoreApplication::sendPostedEvents();
+        });
+        failAsText();
+        QTest::keyClicks(&fixture.symbol(), "5");
+        QVERIFY(fixture.recorder.messages().isEmpty());
+        settle();
+        QCOMPARE(fixture.boxes.takeTexts(), BoxTextList{noUnit});
+        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "r5")});
+    }
+
     /// So it is when another window becomes the active one.
     void hostsWindowAfterAFailure()
     {
