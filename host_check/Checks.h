@@ -21,8 +21,6 @@ struct Situation {
     Canvas_Tool_Strip* strip = nullptr;  ///< null: the host let none be made
 };
 
-constexpr double factor = 25.4;  ///< mil to micrometre
-
 void checkManager(Report& report);
 /// Symbols, special symbols and fonts of the job, conversions of names.
 void checkNames(Report& report, const Situation& situation);

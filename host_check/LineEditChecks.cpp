@@ -1,4 +1,5 @@
 #include "Checks.h"
+#include "Numbers.h"
 #include "RandomNumbers.h"
 #include "Report.h"
 
@@ -9,7 +10,6 @@
 #include <QRegExpValidator>
 #include <QTest>
 
-#include <cmath>
 #include <memory>
 
 using ZENTRA::UIAPI::ZTERegExp;
@@ -21,7 +21,6 @@ namespace {
 enum Pattern { Length = 1, Decimal = 3, Text = 6 };
 
 constexpr Pattern numeric[] = {Length, Decimal};
-constexpr double sixDigits = 5.5e-6;  // of a number that was rounded to six digits
 
 /// A line edit in a page, as the module uses it, and how often it has reported.
 struct Field {
@@ -125,7 +124,7 @@ void checkEntries(Report& report, const Situation& situation)
 bool isNumber(const QString& text, double value)
 {
     const bool isPlain = !text.isEmpty() && !text.contains('e', Qt::CaseInsensitive);
-    return isPlain && std::abs(text.toDouble() - value) <= std::abs(value) * sixDigits;
+    return isPlain && isSameToSixDigits(text.toDouble(), value);
 }
 
 void checkConversion(Report& report, const Situation& situation, Pattern pattern,

@@ -1,4 +1,5 @@
 #include "Checks.h"
+#include "Numbers.h"
 #include "RandomNumbers.h"
 #include "Report.h"
 
@@ -14,8 +15,6 @@ using ZENTRA::UIAPI::setSymbolUIData;
 namespace {
 
 enum Direction { TypedToStored, StoredToMetric };
-
-constexpr double sixDigits = 5.5e-6;  // of a number that was rounded to six digits
 
 void expectSymbol(Report& report, Row row, const char* name, bool arc, bool expected)
 {
@@ -91,8 +90,7 @@ void checkConversion(Report& report, Row row, Direction direction)
             const double size = sizeIn(given, given[0]);
             const double expected = direction == StoredToMetric ? size * factor : size / factor;
             const QString came = setSymbolUIData(given, direction);
-            report.judge(row, given,
-                         std::abs(sizeIn(came, given[0]) - expected) <= expected * sixDigits,
+            report.judge(row, given, isSameToSixDigits(sizeIn(came, given[0]), expected),
                          given[0] + QString::number(expected, 'g', 12), came);
         });
     }

@@ -1,5 +1,6 @@
 #include "BoxCounter.h"
 #include "Checks.h"
+#include "Numbers.h"
 #include "Report.h"
 
 #include <cam_api.h>

@@ -1,16 +1,12 @@
 #include "Dialog.h"
 
+#include "Numbers.h"
 #include "plugin/RecordKeys.h"
 
 #include <QLineEdit>
 #include <QTest>
 
-#include <cmath>
-
 namespace {
-
-constexpr double factor = 25.4;       // mil to micrometre
-constexpr double sixDigits = 5.5e-6;  // of a number that was rounded to six digits
 
 /// What differs, entry by entry.
 QString difference(const RecordLog::Record& record, const RecordLog::Record& from)
@@ -251,7 +247,7 @@ void Dialog::tryUnitSwitch(bool isMetric, const std::function<void()>& change)
     const double expected = isMetric ? before.toDouble() * factor : before.toDouble() / factor;
     const QString after = lengthShown();
     m_driver.report().judge(Row::PairUnitSwitch, what + QStringLiteral(": a length is shown"),
-                            std::abs(after.toDouble() - expected) <= expected * sixDigits,
+                            isSameToSixDigits(after.toDouble(), expected),
                             QString::number(expected, 'g', 12), after);
     m_driver.log().takeRecords();
     m_driver.step(what + QStringLiteral("; then the record is sent"), [this] { sendRecord(); });

@@ -1,6 +1,7 @@
 #include "Strip.h"
 
 #include "Dialog.h"
+#include "Numbers.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
@@ -15,20 +16,12 @@
 #include <QTest>
 #include <QToolButton>
 
-#include <cmath>
-
 namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
 constexpr int settlingTime = 50;  // milliseconds in which what was left behind would run
-constexpr double factor = 25.4;   // mil to micrometre
 constexpr const char* aPicture = ":/Canvas_Tool_Strip/Resources/add_fea.jpg";
-
-bool isNear(double value, double expected)
-{
-    return std::abs(value - expected) < 1e-3 * expected;
-}
 
 }  // namespace
 
@@ -202,8 +195,9 @@ void Strip::tryUnits(Dialog& dialog)
 void Strip::judgeChooser(const QString& symbol, const QString& inOtherUnit)
 {
     const double ratio = inOtherUnit.mid(1).toDouble() / symbol.mid(1).toDouble();
-    const bool isConverted = isNear(ratio, factor) || isNear(ratio, 1 / factor);
-    if (isConverted || isNear(ratio, 1)) {
+    const bool isConverted =
+        isSameToSixDigits(ratio, factor) || isSameToSixDigits(ratio, 1 / factor);
+    if (isConverted || isSameToSixDigits(ratio, 1)) {
         m_driver.report().expect(Row::ChooserUnit,
                                  QStringLiteral("the first symbol is chosen in the other unit"),
                                  symbol, inOtherUnit);

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <cstdlib>
+
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);

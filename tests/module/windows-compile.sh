@@ -48,4 +48,4 @@ compile() {
         "$tool-g++-posix" "${options[@]}" "${own[@]}" -fsyntax-only FILE
 }
 compile -DCANVAS_TOOL_STRIP_BUILD -- "${files[@]}" &&
-    compile -DHOST_LIBRARIES='""' -I"$check" -- "$check"/*.cpp "$check"/pair/*.cpp
+    compile -DHOST_LIBRARIES='""' -DQT_GUI_LIB -DQT_WIDGETS_LIB -I"$check" -- "$check"/*.cpp "$check"/pair/*.cpp

@@ -9,6 +9,8 @@
 #include <QRegExpValidator>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace {
 
 constexpr double factor = 25.4;

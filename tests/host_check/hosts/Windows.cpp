@@ -4,6 +4,7 @@
 #include <common_widgets.h>
 #include <ui_api.h>
 
+#include <QCoreApplication>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
