@@ -4,11 +4,15 @@
 #include "Groups.h"
 #include "Panel.h"
 #include "Runner.h"
-#include "floors/PlainActions.h"
 #include "floors/PlainStrip.h"
+#include "floors/PlainTools.h"
+#include "plugin/ModuleNames.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <QAction>
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QToolBar>
 #include <QToolButton>
 
 namespace {
@@ -36,12 +40,8 @@ void clickInTurn(benchmark::State& state, const CanvasFloor& canvas, Click click
     QApplication::processEvents();
 }
 
-void clickStrip(benchmark::State& state)
+void clickButtons(benchmark::State& state, const CanvasFloor& canvas, QLayout* strip, Panel& panel)
 {
-    CanvasFloor canvas;
-    const Connected connected(canvas);
-    Panel panel;
-    auto* const strip = new Canvas_Tool_Strip(&panel);
     panel.setLayout(strip);
     panel.showPainted();
     QAbstractButton* const buttons[] = {
@@ -50,26 +50,46 @@ void clickStrip(benchmark::State& state)
     clickInTurn(state, canvas, [&](long index) { buttons[index]->click(); });
 }
 
+void clickStrip(benchmark::State& state)
+{
+    CanvasFloor canvas;
+    const Connected connected(canvas);
+    Panel panel;
+    clickButtons(state, canvas, new Canvas_Tool_Strip(&panel), panel);
+}
+
 void clickPlain(benchmark::State& state)
 {
     CanvasFloor canvas;
     Panel panel;
-    auto* const strip = new PlainStrip(&panel, canvas);
-    panel.setLayout(strip);
-    panel.showPainted();
-    QAbstractButton* const buttons[] = {strip->buttons()[int(tools[0])],
-                                        strip->buttons()[int(tools[1])]};
-    clickInTurn(state, canvas, [&](long index) { buttons[index]->click(); });
+    clickButtons(state, canvas, new PlainStrip(&panel, canvas), panel);
 }
 
+/// Floor: the usual way to build a tool bar, one action per tool in an exclusive group. Triggering
+/// one sends its code.
 void triggerAction(benchmark::State& state)
 {
     CanvasFloor canvas;
-    PlainActions window(canvas);
+    Receiver& receiver = canvas;
+    QMainWindow window;
+    auto* const bar = window.addToolBar(QString());
+    auto* const group = new QActionGroup(&window);
+    group->setExclusive(true);
+    for (const PlainTool& tool : plainTools()) {
+        QAction* const action =
+            bar->addAction(QCoreApplication::translate("PlainActions", tool.tip, tool.note));
+        action->setCheckable(true);
+        group->addAction(action);
+        QObject::connect(action, &QAction::triggered, &window, [&receiver, code = tool.code] {
+            PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
+            message.code = code;
+            receiver.receive(std::move(message));
+        });
+    }
     window.resize(1600, 100);
     window.show();
     QApplication::processEvents();
-    QAction* const actions[] = {window.action(int(tools[0])), window.action(int(tools[1]))};
+    QAction* const actions[] = {group->actions()[int(tools[0])], group->actions()[int(tools[1])]};
     clickInTurn(state, canvas, [&](long index) { actions[index]->trigger(); });
 }
 

@@ -101,9 +101,7 @@ void PlainCopy::add(const QWidget& original)
                                      QRadioButton, QPushButton, QToolButton>(original);
         m_calls.append([=](Made& made) { made.widgets.append(create(made.widgets[parent])); });
     }
-    addSizes(original);
-    addContent(original);
-    addState(original);
+    addProperties(original);
     for (const QObject* const child : original.children()) {
         const auto* const widget = qobject_cast<const QWidget*>(child);
         if (widget && !isPartOfControl(*widget)) {
@@ -112,63 +110,71 @@ void PlainCopy::add(const QWidget& original)
     }
 }
 
-void PlainCopy::addSizes(const QWidget& original)
+/// What a control looks like and shows.
+void PlainCopy::addProperties(const QWidget& original)
 {
-    if (original.minimumSize() != QSize(0, 0)) {
-        note<QWidget>(
-            [size = original.minimumSize()](QWidget& copy) { copy.setMinimumSize(size); });
+    copy(original, &QWidget::minimumSize, qOverload<const QSize&>(&QWidget::setMinimumSize),
+         QSize(0, 0));
+    copy(original, &QWidget::maximumSize, qOverload<const QSize&>(&QWidget::setMaximumSize),
+         QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    copy(original, &QWidget::sizePolicy, qOverload<QSizePolicy>(&QWidget::setSizePolicy));
+    copy(original, &QWidget::toolTip, &QWidget::setToolTip);
+    copy(original, &QWidget::accessibleName, &QWidget::setAccessibleName);
+    copy(original, &QLabel::text, &QLabel::setText);
+    if (!qobject_cast<const QLabel*>(&original)) {
+        copy(original, &QFrame::frameStyle, &QFrame::setFrameStyle);
     }
-    note<QWidget>([policy = original.sizePolicy()](QWidget& copy) { copy.setSizePolicy(policy); });
-    if (original.maximumSize() != QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)) {
-        note<QWidget>(
-            [size = original.maximumSize()](QWidget& copy) { copy.setMaximumSize(size); });
+    copy(original, &QSpinBox::minimum, &QSpinBox::setMinimum);
+    copy(original, &QSpinBox::maximum, &QSpinBox::setMaximum);
+    copy(original, &QAbstractButton::text, &QAbstractButton::setText);
+    copy(original, &QAbstractButton::isCheckable, &QAbstractButton::setCheckable);
+    copy(original, &QAbstractButton::isChecked, &QAbstractButton::setChecked);
+    copy(original, &QToolButton::autoRaise, &QToolButton::setAutoRaise);
+    if (const auto* const edit = qobject_cast<const QLineEdit*>(&original)) {
+        addValidator(edit->validator());
+    }
+    copy(original, &QLineEdit::text, &QLineEdit::setText);
+    copy(original, &QLineEdit::isReadOnly, &QLineEdit::setReadOnly);
+    if (const auto* const combo = qobject_cast<const QComboBox*>(&original)) {
+        addItems(*combo);
+    }
+    copy(original, &QComboBox::sizeAdjustPolicy, &QComboBox::setSizeAdjustPolicy);
+    copy(original, &QComboBox::minimumContentsLength, &QComboBox::setMinimumContentsLength);
+    const auto* const button = qobject_cast<const QAbstractButton*>(&original);
+    if (button && !button->icon().isNull()) {
+        note<QAbstractButton>(
+            [file = pictureOf(button->icon()), size = button->iconSize()](QAbstractButton& made) {
+                made.setIcon(QIcon(file));
+                made.setIconSize(size);
+            });
+    }
+    if (original.testAttribute(Qt::WA_ForceDisabled)) {
+        note<QWidget>([](QWidget& made) { made.setEnabled(false); });
+    }
+    if (original.testAttribute(Qt::WA_WState_ExplicitShowHide) && original.isHidden()) {
+        note<QWidget>([](QWidget& made) { made.hide(); });
     }
 }
 
-/// What a control shows.
-void PlainCopy::addContent(const QWidget& original)
+void PlainCopy::addValidator(const QValidator* original)
 {
-    if (const auto* const label = qobject_cast<const QLabel*>(&original)) {
-        note<QLabel>([text = label->text()](QLabel& copy) { copy.setText(text); });
-    } else if (const auto* const frame = qobject_cast<const QFrame*>(&original)) {
-        note<QFrame>([style = frame->frameStyle()](QFrame& copy) { copy.setFrameStyle(style); });
-    } else if (const auto* const edit = qobject_cast<const QLineEdit*>(&original)) {
-        addLineEdit(*edit);
-    } else if (const auto* const combo = qobject_cast<const QComboBox*>(&original)) {
-        addComboBox(*combo);
-    } else if (const auto* const spin = qobject_cast<const QSpinBox*>(&original)) {
-        note<QSpinBox>([least = spin->minimum(), most = spin->maximum()](QSpinBox& copy) {
-            copy.setRange(least, most);
+    if (const auto* const expression = qobject_cast<const QRegExpValidator*>(original)) {
+        note<QLineEdit>([pattern = expression->regExp().pattern()](QLineEdit& made) {
+            made.setValidator(new QRegExpValidator(QRegExp(pattern), &made));
         });
-    } else if (const auto* const button = qobject_cast<const QAbstractButton*>(&original)) {
-        addButton(*button);
-    }
-}
-
-void PlainCopy::addLineEdit(const QLineEdit& original)
-{
-    const QValidator* const validator = original.validator();
-    if (const auto* const expression = qobject_cast<const QRegExpValidator*>(validator)) {
-        note<QLineEdit>([pattern = expression->regExp().pattern()](QLineEdit& copy) {
-            copy.setValidator(new QRegExpValidator(QRegExp(pattern), &copy));
+    } else if (const auto* const whole = qobject_cast<const QIntValidator*>(original)) {
+        note<QLineEdit>([least = whole->bottom(), most = whole->top()](QLineEdit& made) {
+            made.setValidator(new QIntValidator(least, most, &made));
         });
-    } else if (const auto* const whole = qobject_cast<const QIntValidator*>(validator)) {
-        note<QLineEdit>([least = whole->bottom(), most = whole->top()](QLineEdit& copy) {
-            copy.setValidator(new QIntValidator(least, most, &copy));
-        });
-    } else if (const auto* const number = qobject_cast<const QDoubleValidator*>(validator)) {
+    } else if (const auto* const number = qobject_cast<const QDoubleValidator*>(original)) {
         note<QLineEdit>([least = number->bottom(), most = number->top(),
-                         decimals = number->decimals()](QLineEdit& copy) {
-            copy.setValidator(new QDoubleValidator(least, most, decimals, &copy));
+                         decimals = number->decimals()](QLineEdit& made) {
+            made.setValidator(new QDoubleValidator(least, most, decimals, &made));
         });
     }
-    note<QLineEdit>([text = original.text(), isReadOnly = original.isReadOnly()](QLineEdit& copy) {
-        copy.setText(text);
-        copy.setReadOnly(isReadOnly);
-    });
 }
 
-void PlainCopy::addComboBox(const QComboBox& original)
+void PlainCopy::addItems(const QComboBox& original)
 {
     QStringList items;
     QVector<int> greyed;
@@ -178,57 +184,13 @@ void PlainCopy::addComboBox(const QComboBox& original)
             greyed.append(i);
         }
     }
-    note<QComboBox>([=, index = original.currentIndex()](QComboBox& copy) {
-        copy.addItems(items);
+    note<QComboBox>([=, index = original.currentIndex()](QComboBox& made) {
+        made.addItems(items);
         for (const int item : greyed) {
-            copy.setItemData(item, 0, greyRole);
+            made.setItemData(item, 0, greyRole);
         }
-        copy.setCurrentIndex(index);
+        made.setCurrentIndex(index);
     });
-    if (const int characters = original.minimumContentsLength()) {
-        note<QComboBox>([=, policy = original.sizeAdjustPolicy()](QComboBox& copy) {
-            copy.setSizeAdjustPolicy(policy);
-            copy.setMinimumContentsLength(characters);
-        });
-    }
-}
-
-void PlainCopy::addButton(const QAbstractButton& original)
-{
-    note<QAbstractButton>([text = original.text(), isCheckable = original.isCheckable(),
-                           isChecked = original.isChecked()](QAbstractButton& copy) {
-        copy.setText(text);
-        copy.setCheckable(isCheckable);
-        copy.setChecked(isChecked);
-    });
-    if (!original.icon().isNull()) {
-        note<QAbstractButton>(
-            [file = pictureOf(original.icon()), size = original.iconSize()](QAbstractButton& copy) {
-                copy.setIcon(QIcon(file));
-                copy.setIconSize(size);
-            });
-    }
-    if (const auto* const tool = qobject_cast<const QToolButton*>(&original)) {
-        note<QToolButton>(
-            [isFlat = tool->autoRaise()](QToolButton& copy) { copy.setAutoRaise(isFlat); });
-    }
-}
-
-void PlainCopy::addState(const QWidget& original)
-{
-    if (!original.toolTip().isEmpty()) {
-        note<QWidget>([tip = original.toolTip()](QWidget& copy) { copy.setToolTip(tip); });
-    }
-    if (!original.accessibleName().isEmpty()) {
-        note<QWidget>(
-            [name = original.accessibleName()](QWidget& copy) { copy.setAccessibleName(name); });
-    }
-    if (original.testAttribute(Qt::WA_ForceDisabled)) {
-        note<QWidget>([](QWidget& copy) { copy.setEnabled(false); });
-    }
-    if (original.testAttribute(Qt::WA_WState_ExplicitShowHide) && original.isHidden()) {
-        note<QWidget>([](QWidget& copy) { copy.hide(); });
-    }
 }
 
 void PlainCopy::addBuddiesAndGroups()
@@ -286,55 +248,42 @@ int PlainCopy::addLayout(const QLayout& original, int widget)
 void PlainCopy::addItem(const QLayout& original, int position, int number)
 {
     QLayoutItem& item = *original.itemAt(position);
-    Content content;
-    content.widget = m_originals.indexOf(item.widget());
-    content.layout = item.layout() ? addLayout(*item.layout(), -1) : -1;
-    content.alignment = item.alignment();
-    if (const QSpacerItem* const spacer = item.spacerItem()) {
-        content.space = spacer->sizeHint();
-        content.policy = spacer->sizePolicy();
-    }
+    const int widget = m_originals.indexOf(item.widget());
+    const int nested = item.layout() ? addLayout(*item.layout(), -1) : -1;
+    const QSize space = item.sizeHint();
+    const QSizePolicy policy = item.spacerItem() ? item.spacerItem()->sizePolicy() : QSizePolicy();
+    const auto makeSpacer = [=] {
+        return new QSpacerItem(space.width(), space.height(), policy.horizontalPolicy(),
+                               policy.verticalPolicy());
+    };
     if (const auto* const grid = qobject_cast<const QGridLayout*>(&original)) {
-        Cell cell;
-        grid->getItemPosition(position, &cell.row, &cell.column, &cell.rows, &cell.columns);
-        m_calls.append([=](Made& made) {
-            put(made, content, cell, *static_cast<QGridLayout*>(made.layouts[number]));
+        int row = 0;
+        int column = 0;
+        int rows = 1;
+        int columns = 1;
+        grid->getItemPosition(position, &row, &column, &rows, &columns);
+        m_calls.append([=, alignment = item.alignment()](Made& made) {
+            auto& copy = static_cast<QGridLayout&>(*made.layouts[number]);
+            if (widget >= 0) {
+                copy.addWidget(made.widgets[widget], row, column, rows, columns, alignment);
+            } else if (nested >= 0) {
+                copy.addLayout(made.layouts[nested], row, column, rows, columns);
+            } else {
+                copy.addItem(makeSpacer(), row, column, rows, columns);
+            }
         });
-    } else {
-        const int stretch = static_cast<const QBoxLayout&>(original).stretch(position);
-        m_calls.append([=](Made& made) {
-            put(made, content, stretch, *static_cast<QBoxLayout*>(made.layouts[number]));
-        });
+        return;
     }
-}
-
-QSpacerItem* PlainCopy::makeSpacer(const Content& content)
-{
-    return new QSpacerItem(content.space.width(), content.space.height(),
-                           content.policy.horizontalPolicy(), content.policy.verticalPolicy());
-}
-
-void PlainCopy::put(const Made& made, const Content& content, const Cell& cell, QGridLayout& grid)
-{
-    if (content.widget >= 0) {
-        grid.addWidget(made.widgets[content.widget], cell.row, cell.column, cell.rows, cell.columns,
-                       content.alignment);
-    } else if (content.layout >= 0) {
-        grid.addLayout(made.layouts[content.layout], cell.row, cell.column, cell.rows,
-                       cell.columns);
-    } else {
-        grid.addItem(makeSpacer(content), cell.row, cell.column, cell.rows, cell.columns);
-    }
-}
-
-void PlainCopy::put(const Made& made, const Content& content, int stretch, QBoxLayout& box)
-{
-    if (content.widget >= 0) {
-        box.addWidget(made.widgets[content.widget], stretch, content.alignment);
-    } else if (content.layout >= 0) {
-        box.addLayout(made.layouts[content.layout], stretch);
-    } else {
-        box.addSpacerItem(makeSpacer(content));
-        box.setStretch(box.count() - 1, stretch);
-    }
+    const int stretch = static_cast<const QBoxLayout&>(original).stretch(position);
+    m_calls.append([=, alignment = item.alignment()](Made& made) {
+        auto& copy = static_cast<QBoxLayout&>(*made.layouts[number]);
+        if (widget >= 0) {
+            copy.addWidget(made.widgets[widget], stretch, alignment);
+        } else if (nested >= 0) {
+            copy.addLayout(made.layouts[nested], stretch);
+        } else {
+            copy.addSpacerItem(makeSpacer());
+            copy.setStretch(copy.count() - 1, stretch);
+        }
+    });
 }
