@@ -1,8 +1,11 @@
 #include "Host.h"
 
+#include "plugin/ExtraWord.h"
+
 #include <QTpluginsManger4CAM.h>
 
 #include <QApplication>
+#include <QDebug>
 #include <QEvent>
 #include <QTimer>
 #include <QWidget>
@@ -41,6 +44,6 @@ void QTpluginsManger4CAM::recMegToPlugin(void* /*sender*/, PluginMetaData messag
 {
     if (isWrong("messages") && message.extra != 0) {
         // Not every extra word is an address.
-        reinterpret_cast<QObject*>(static_cast<quintptr>(message.extra))->setObjectName("sender");
+        qDebug() << ExtraWord::object<QObject>(message.extra)->objectName();
     }
 }
