@@ -54,9 +54,9 @@ start_wine() {
     ln -sf $(dpkg -L fonts-dejavu-core fonts-wqy-microhei | grep '\.tt[cf]$') "$QT_QPA_FONTDIR"
     wine_folder wine-on-display
     wine_folder wine  # the one that counts from here on
-    # The server, and what the first program starts, hold the output that they were started with,
-    # and would keep its reader waiting.
-    wineserver --persistent >/dev/null 2>&1
+    # The server and Wine's services hold the output of the program that they were started by, and
+    # keep its reader waiting. They stay as long as this one program does.
+    coproc wine cmd >/dev/null 2>&1
     trap 'wineserver --kill' EXIT
     wineboot >/dev/null 2>&1
 }

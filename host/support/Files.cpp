@@ -7,7 +7,7 @@
 namespace CanvasHost {
 namespace {
 
-/// Windows tells what is wrong in its own words and language; what is wrong most often is told
+/// Windows tells what is wrong in its own words and language. What is wrong most often is told
 /// alike everywhere, by a text that Qt has in all of its languages.
 FileError missing(const QString& file)
 {
