@@ -2,10 +2,9 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QProcess>
 #include <QTest>
 #include <QWidget>
-
-#include <cstdio>
 
 namespace {
 
@@ -34,14 +33,29 @@ private:
     int m_count = 0;
 };
 
-/// Has xdotool, which runs as long as the test, execute the command. Returns when that many
-/// releases have arrived and been handled; the window manager may keep one for itself.
+/// Starts xdotool, which runs as long as the test and executes the lines that are written to it.
+QProcess* startTool()
+{
+    static QPointer<QProcess> tool = new QProcess(qApp);
+    tool->start("xdotool", {"-"});
+    if (!tool->waitForStarted()) {
+        qFatal("xdotool cannot be started");
+    }
+    qAddPostRoutine([] {
+        tool->closeWriteChannel();
+        tool->waitForFinished();
+    });
+    return tool;
+}
+
+/// Has xdotool execute the command. Returns when that many releases have arrived and been handled;
+/// the window manager may keep one for itself.
 void act(const QString& command, int releases)
 {
-    static std::FILE* const tool = popen("xdotool -", "w");
+    static QProcess* const tool = startTool();
     const Arrivals released({QEvent::KeyRelease, QEvent::MouseButtonRelease});
-    std::fputs(qPrintable(command + '\n'), tool);
-    std::fflush(tool);
+    tool->write(qPrintable(command + '\n'));
+    tool->waitForBytesWritten();
     QTest::qWaitFor([&] { return released.count() >= releases; }, longestTime);
     QApplication::processEvents();
 }

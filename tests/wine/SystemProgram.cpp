@@ -54,29 +54,31 @@ void handOn(const std::string& file, FILE* output)
     DeleteFileA(file.c_str());
 }
 
-}  // namespace
-
-int main(int argc, char** argv)
+std::string temporaryFile()
 {
-    using Spawn = int(__cdecl*)(char* const* arguments, int wait);
-    const auto spawn = wineFunction<Spawn>(L"ntdll", "__wine_unix_spawnvp");
     char folder[MAX_PATH];
     char file[MAX_PATH];
     GetTempPathA(MAX_PATH, folder);
     GetTempFileNameA(folder, "out", 0, file);
-    const std::string printed = file;
-    const std::string complained = printed + ".err";
+    return file;
+}
 
-    std::vector<std::string> command{"sh",
-                                     "-c",
-                                     "out=$1 err=$2; shift 2; exec \"$@\" >\"$out\" 2>\"$err\"",
-                                     "sh",
-                                     systemName(printed),
-                                     systemName(complained),
-                                     nameOf(argv[0])};
-    for (int i = 1; i < argc; ++i) {
-        command.push_back(argumentOf(argv[i]));
-    }
+/// Runs the program with that input; returns its status.
+int run(const std::vector<std::string>& program, const std::string& input)
+{
+    using Spawn = int(__cdecl*)(char* const* arguments, int wait);
+    static const auto spawn = wineFunction<Spawn>(L"ntdll", "__wine_unix_spawnvp");
+    const std::string printed = temporaryFile();
+    const std::string complained = temporaryFile();
+    std::vector<std::string> command{
+        "sh",
+        "-c",
+        "in=$1 out=$2 err=$3; shift 3; printf %s \"$in\" | \"$@\" >\"$out\" 2>\"$err\"",
+        "sh",
+        input,
+        systemName(printed),
+        systemName(complained)};
+    command.insert(command.end(), program.begin(), program.end());
     std::vector<char*> arguments;
     for (std::string& argument : command) {
         arguments.push_back(&argument[0]);
@@ -85,5 +87,25 @@ int main(int argc, char** argv)
     const int status = spawn(arguments.data(), TRUE);
     handOn(printed, stdout);
     handOn(complained, stderr);
+    return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    std::vector<std::string> program{nameOf(argv[0])};
+    for (int i = 1; i < argc; ++i) {
+        program.push_back(argumentOf(argv[i]));
+    }
+    if (program.back() != "-") {
+        return run(program, {});
+    }
+    // Each line of the input is a command of its own.
+    int status = 0;
+    char line[1024];
+    while (status == 0 && std::fgets(line, sizeof line, stdin)) {
+        status = run(program, line);
+    }
     return status;
 }
