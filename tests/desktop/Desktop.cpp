@@ -33,6 +33,14 @@ private:
     int m_count = 0;
 };
 
+/// Returns without a word when the time is over: what a step must bring about is for the test to
+/// see.
+template <class Condition>
+void waitAtMost(int milliseconds, Condition isMet)
+{
+    static_cast<void>(QTest::qWaitFor(isMet, milliseconds));
+}
+
 /// Starts xdotool, which runs as long as the test and executes the lines that are written to it.
 QProcess* startTool()
 {
@@ -56,7 +64,7 @@ void act(const QString& command, int releases)
     const Arrivals released({QEvent::KeyRelease, QEvent::MouseButtonRelease});
     tool->write(qPrintable(command + '\n'));
     tool->waitForBytesWritten();
-    QTest::qWaitFor([&] { return released.count() >= releases; }, longestTime);
+    waitAtMost(longestTime, [&] { return released.count() >= releases; });
     QApplication::processEvents();
 }
 
@@ -78,7 +86,7 @@ void Desktop::move(QWidget& window, const QPoint& place)
 {
     const Arrivals moved({QEvent::Move});
     window.move(place);
-    QTest::qWaitFor([&] { return moved.count() > 0; }, settleTime);
+    waitAtMost(settleTime, [&] { return moved.count() > 0; });
 }
 
 void Desktop::click(const QWidget& widget, int button, QPoint place)
@@ -100,12 +108,10 @@ void Desktop::clickAt(const QPoint& globalPlace, int button)
             .arg(button),
         1);
     // The window manager makes it the active one, unless the click has opened another.
-    QTest::qWaitFor(
-        [&] {
-            const QWidget* const active = QApplication::activeWindow();
-            return !window || active == window || (active && active != before);
-        },
-        settleTime);
+    waitAtMost(settleTime, [&] {
+        const QWidget* const active = QApplication::activeWindow();
+        return !window || active == window || (active && active != before);
+    });
 }
 
 void Desktop::type(const QString& text)

@@ -93,7 +93,7 @@ bool ToolSet::isEnd(int code)
 std::unique_ptr<CanvasTool> ToolSet::create(int code, Canvas& canvas, qint64 mode)
 {
     const Row* const row = std::find_if(std::begin(rows), std::end(rows),
-                                        [code](const Row& row) { return row.code == code; });
+                                        [code](const Row& known) { return known.code == code; });
     return row == std::end(rows) ? nullptr : row->create(canvas, mode);
 }
 
