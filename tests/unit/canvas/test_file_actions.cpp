@@ -104,6 +104,9 @@ private:
             dialog->reject();
             return;
         }
+        // The list may select what is offered after the name was entered, when the folder is read,
+        // and what it selects counts more. Only a text that changes takes that back.
+        name.clear();
         name.setText(file);
         QTest::keyClick(&name, Qt::Key_Return);
     }
