@@ -98,6 +98,22 @@ private Q_SLOTS:
         QCOMPARE(door.takeCalls(), QStringList());
     }
 
+    void anEntryThatAUnitChangeConvertsStaysAnEntry()
+    {
+        FakeDoor door;
+        QWidget page;
+        LengthField field(door, &page, upTo50000(Sends::WhenAccepted), "0");
+        type(field, "10");
+        door.hostUnits.tell(true);
+        field.changeUnit(true);
+        QCOMPARE(field.text(), QString("254"));
+        door.refusals().run(nullptr, [&] {
+            door.refusals().box([&] { field.finish(); });  // what is no entry is no report here
+            QCOMPARE(door.record().text(anyKey), QString("0"));
+        });
+        QCOMPARE(door.record().text(anyKey), QString("254"));
+    }
+
     void anEntryThatTheUserLeftUntypableIsNotTaken()
     {
         FakeDoor door;
