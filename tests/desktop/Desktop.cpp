@@ -10,7 +10,7 @@ namespace {
 
 // In ms: for the window manager to respond, and for keys to arrive, unless it keeps them.
 constexpr int settleTime = 60;
-constexpr int longestTime = 500;
+constexpr int longestTime = 3000;
 
 /// Counts the events of some types that reach the program's windows.
 class Arrivals : public QObject {
