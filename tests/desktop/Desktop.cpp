@@ -6,9 +6,11 @@
 #include <QTest>
 #include <QWidget>
 
+#include <functional>
+
 namespace {
 
-// In ms: for the window manager to respond, and for keys to arrive, unless it keeps them.
+// In ms: for the window manager to respond, and for keys and clicks to arrive.
 constexpr int settleTime = 60;
 constexpr int longestTime = 3000;
 
@@ -35,8 +37,7 @@ private:
 
 /// Returns without a word when the time is over: what a step must bring about is for the test to
 /// see.
-template <class Condition>
-void waitAtMost(int milliseconds, Condition isMet)
+void waitAtMost(int milliseconds, const std::function<bool()>& isMet)
 {
     static_cast<void>(QTest::qWaitFor(isMet, milliseconds));
 }
@@ -56,16 +57,22 @@ QProcess* startTool()
     return tool;
 }
 
-/// Has xdotool execute the command. Returns when that many releases have arrived and been handled;
-/// the window manager may keep one for itself.
-void act(const QString& command, int releases)
+/// Has xdotool execute the command. Returns when its effect is there and has been handled.
+void act(const QString& command, const std::function<bool()>& isDone)
 {
     static QProcess* const tool = startTool();
-    const Arrivals released({QEvent::KeyRelease, QEvent::MouseButtonRelease});
     tool->write(qPrintable(command + '\n'));
     tool->waitForBytesWritten();
-    waitAtMost(longestTime, [&] { return released.count() >= releases; });
+    waitAtMost(longestTime, isDone);
     QApplication::processEvents();
+}
+
+/// A modal window that opens in between keeps the releases from the others.
+void actUntilReleased(const QString& command, int releases)
+{
+    const Arrivals released({QEvent::KeyRelease, QEvent::MouseButtonRelease});
+    const Arrivals blocked({QEvent::WindowBlocked});
+    act(command, [&] { return released.count() >= releases || blocked.count() > 0; });
 }
 
 }  // namespace
@@ -102,11 +109,11 @@ void Desktop::clickAt(const QPoint& globalPlace, int button)
     const QWidget* const clicked = QApplication::widgetAt(globalPlace);
     const QPointer<QWidget> window = clicked ? clicked->window() : nullptr;
     const QPointer<QWidget> before = QApplication::activeWindow();
-    act(QStringLiteral("mousemove %1 %2 click --delay 1 %3")
-            .arg(globalPlace.x())
-            .arg(globalPlace.y())
-            .arg(button),
-        1);
+    actUntilReleased(QStringLiteral("mousemove %1 %2 click --delay 1 %3")
+                         .arg(globalPlace.x())
+                         .arg(globalPlace.y())
+                         .arg(button),
+                     1);
     // The window manager makes it the active one, unless the click has opened another.
     waitAtMost(settleTime, [&] {
         const QWidget* const active = QApplication::activeWindow();
@@ -116,10 +123,16 @@ void Desktop::clickAt(const QPoint& globalPlace, int button)
 
 void Desktop::type(const QString& text)
 {
-    act("type --delay 5 " + text, text.size());
+    actUntilReleased("type --delay 5 " + text, text.size());
 }
 
 void Desktop::key(const QString& name)
 {
-    act("key --delay 4 " + name, name.count('+') + 1);
+    actUntilReleased("key --delay 4 " + name, name.count('+') + 1);
+}
+
+void Desktop::closeByKeys(const QWidget& window)
+{
+    act("key --delay 4 alt+F4",
+        [&] { return !window.isVisible() || QApplication::activeModalWidget(); });
 }

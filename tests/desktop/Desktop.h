@@ -23,4 +23,7 @@ void clickAt(const QPoint& globalPlace, int button = 1);
 void type(const QString& text);
 void key(const QString& name);
 
+/// Closes the active window by the window manager's keys. Returns when it is closed, or asks first.
+void closeByKeys(const QWidget& window);
+
 }  // namespace Desktop

@@ -340,7 +340,7 @@ private Q_SLOTS:
         QWidget& dialog = openDialog("m_pLineTB");
         Desktop::click(findNamed(dialog, "m_pSymbolTextLE"));
         Desktop::type("r");
-        Desktop::key("alt+F4");
+        Desktop::closeByKeys(dialog);
         QTRY_VERIFY(!dialog.isVisible());
         QTest::qWait(100);
         QVERIFY(boxes.takeTexts().isEmpty());

@@ -190,7 +190,7 @@ class TestFocus : public QObject {
 
     void closeTheDialog() const
     {
-        Desktop::key("alt+F4");
+        Desktop::closeByKeys(*m_dialog);
         QTRY_VERIFY(!m_dialog->isVisible());
     }
 
