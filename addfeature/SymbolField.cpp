@@ -33,11 +33,13 @@ SymbolField::SymbolField(DialogDoor& door, QWidget* row)
     door.connectToSlot(this, SIGNAL(textChanged(QString)),
                        SLOT(on_m_pSymbolTextLE_textChanged(QString)));
     door.connectToSlot(this, SIGNAL(returnPressed()), SLOT(on_m_pSymbolTextLE_returnPressed()));
-    // Queued: by then Qt has reported what it reports by itself.
-    connect(qApp, &QApplication::focusChanged, this, &SymbolField::takeLeftEntry,
-            Qt::QueuedConnection);
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, &SymbolField::takeLeftEntry,
-            Qt::QueuedConnection);
+    // Later: by then Qt has reported what it reports by itself. A queued connection would register
+    // the types of these signals with functions of this library, beyond its life.
+    const auto takeLater = [this] {
+        QMetaObject::invokeMethod(this, &SymbolField::takeLeftEntry, Qt::QueuedConnection);
+    };
+    connect(qApp, &QApplication::focusChanged, this, takeLater);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, takeLater);
 }
 
 void SymbolField::applyFeatureType()

@@ -56,6 +56,22 @@ private Q_SLOTS:
     // Otherwise the record is logged a thousand times.
     void initTestCase() { QLoggingCategory::setFilterRules("canvastoolstrip.*=false"); }
 
+    /// Qt keeps the functions of a type that it has once come to know: those of a library that is
+    /// gone are a crash.
+    void leavesNoTypesBehind()
+    {
+        {
+            const LoadedStrip host;
+            use(host);
+        }
+        QVERIFY(CanvasHost::unloadModule(ModuleNames::toolStrip));
+        QVERIFY(!isInMemory());
+        QVERIFY(QMetaType::isRegistered(QMetaType::User));
+        for (int type = QMetaType::User; QMetaType::isRegistered(type); ++type) {
+            QMetaType::destroy(type, QMetaType::create(type));
+        }
+    }
+
     void thousandLives()
     {
         constexpr int lives = 1000;
