@@ -2,6 +2,8 @@
 
 #include "session/SentMessages.h"
 
+#include <FileError.h>
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>

@@ -4,6 +4,7 @@
 #include "DialogFixture.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QMetaProperty>
 
 namespace {
