@@ -133,6 +133,10 @@ void Desktop::key(const QString& name)
 
 void Desktop::closeByKeys(const QWidget& window)
 {
-    act("key --delay 4 alt+F4",
+    act("keydown alt key --delay 4 F4",
         [&] { return !window.isVisible() || QApplication::activeModalWidget(); });
+    // Released when another window has the keyboard: what a window that is gone was to be told is
+    // told to none, and the key would seem to stay down.
+    QTest::qWait(settleTime);
+    actUntilReleased("keyup alt", 1);
 }
