@@ -10,6 +10,7 @@
 #include "addfeature/pages/PadPage.h"
 #include "addfeature/pages/SurfacePage.h"
 #include "addfeature/pages/TextPage.h"
+#include "plugin/Guard.h"
 #include "plugin/RecordKeys.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
@@ -268,11 +269,17 @@ void AddFeature::storeRotation()
     getChangeCurrentTool();
 }
 
+void AddFeature::on_m_pSymbolTextLE_textChanged(QString text)
+{
+    m_symbol->m_pSymbolTextLE->noteText(
+        text, {"AddFeature", QT_TR_NOOP("Information"), "AddFeature.cpp", __LINE__});
+}
+
 void AddFeature::on_m_pSymbolTextLE_editingFinished()
 {
     if (m_closing) {
-        m_symbol->m_pSymbolTextLE
-            ->dropEntry();  // closing the window takes the focus: not an entry by the user
+        // Closing the window takes the focus: that is not an entry by the user.
+        m_symbol->m_pSymbolTextLE->dropEntry();
     } else {
         m_symbol->m_pSymbolTextLE->finish();
     }

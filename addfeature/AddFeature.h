@@ -26,7 +26,6 @@ class Page;
 class QAbstractButton;
 class QSpinBox;
 class QVBoxLayout;
-class QWindow;
 class RadioField;
 class SurfacePage;
 class SymbolEntry;

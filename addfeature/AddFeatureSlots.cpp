@@ -83,7 +83,6 @@ void AddFeature::on_m_pLineWidthLE_editingFinished() { m_text->m_strings->m_pLin
 void AddFeature::on_m_pHeightLE_editingFinished() { m_text->m_barcode->m_pHeightLE->finish(); }
 void AddFeature::on_m_pMatrixLE_editingFinished() { m_text->m_barcode->m_pMatrixLE->finish(); }
 void AddFeature::on_m_pCannedHoleSizeLE_editingFinished() { m_text->m_cannedText->m_pCannedHoleSizeLE->finish(); }
-void AddFeature::on_m_pSymbolTextLE_textChanged(QString text) { m_symbol->m_pSymbolTextLE->noteText(text); }
 void AddFeature::on_m_pSymbolTextLE_returnPressed() { m_symbol->m_pSymbolTextLE->cutAtCursor(); }
 
 // Fill, attributes, pick from the board

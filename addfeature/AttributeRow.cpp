@@ -43,6 +43,7 @@ void AttributeRow::retranslate()
     }
 }
 
+/// "Fill..." as well: what a slot has hidden would otherwise stay hidden.
 void AttributeRow::restore()
 {
     setShown(m_pAttributesCB, true);

@@ -184,17 +184,16 @@ void SymbolField::cutAtCursor()
     });
 }
 
-void SymbolField::noteText(const QString& text)
+void SymbolField::noteText(const QString& text, const GuardPosition& guard)
 {
     RefusalGuard& refusals = m_door.refusals();
     const QPointer<SymbolField> self(this);
     refusals.run(this, [&] {
         refusals.box([&] {
-            const bool isKept =
-                guarded({"AddFeature", QT_TR_NOOP("Information"), "AddFeature.cpp", __LINE__}, [&] {
-                    qCDebug(dialogLog).noquote().nospace() << "text is " << text;
-                    m_symbol.keep(text);
-                });
+            const bool isKept = guarded(guard, [&] {
+                qCDebug(dialogLog).noquote().nospace() << "text is " << text;
+                m_symbol.keep(text);
+            });
             if (!isKept && self) {
                 // Whatever closing the box has done to the focus is looked at once it is closed.
                 QMetaObject::invokeMethod(this, &SymbolField::takeLeftEntry, Qt::QueuedConnection);

@@ -7,6 +7,7 @@
 #include <QMap>
 
 class QValidator;
+struct GuardPosition;
 
 /// The field for the symbol's name. It turns what is typed or chosen into the record's symbol and
 /// rotation.
@@ -33,8 +34,9 @@ public:
     void enterText();
     /// Leaves a pending entry where it is; it is not handled later either.
     void dropEntry();
-    /// Remembers the text of the field for a change of the unit; guarded.
-    void noteText(const QString& text);
+    /// Remembers the text of the field for a change of the unit. What the host throws is reported
+    /// as `guard` says.
+    void noteText(const QString& text, const GuardPosition& guard);
     /// Cuts the entry at the cursor, stores and sends it.
     void cutAtCursor();
 

@@ -12,7 +12,7 @@ inline const QString toolStrip(QLatin1String("Canvas_Tool_Strip.dll"));  ///< th
 inline const QString viewer(QLatin1String("Canvas_Viewer.dll"));         ///< the canvas
 inline const QString jobTree(QLatin1String("Canvas_JobTree.dll"));       ///< told of Add Feature
 inline const QString ruleMenu(QLatin1String("Canvas_RuleMenu.dll"));     ///< see SelectFromEditor
-/// The sender of FeatureHighLight: deliberately without ".dll", which is how the canvas knows it.
+/// The sender of FeatureHighLight: deliberately without ".dll": part of the interface.
 inline const QString bareToolStrip(QLatin1String("Canvas_Tool_Strip"));
 
 }  // namespace ModuleNames

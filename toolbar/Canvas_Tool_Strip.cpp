@@ -1,13 +1,9 @@
 #include "toolbar/Canvas_Tool_Strip.h"
 
-#include "addfeature/AddFeature.h"
 #include "plugin/Guard.h"
 
-#include <common_widgets.h>
 #include <ui_api.h>
 
-#include <QAction>
-#include <QMenu>
 #include <QToolButton>
 
 namespace {

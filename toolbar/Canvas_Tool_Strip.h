@@ -18,7 +18,6 @@
 
 class AddFeature;
 class Grc_Tbe_measurepopup;
-class QAction;
 class QMenu;
 class QPoint;
 class QToolButton;

@@ -9,7 +9,7 @@
 /// One item of a combo box.
 struct Choice {
     const char* text;  ///< marked for translation in the context "AddFeature"
-    QString value;     ///< what the record holds while it is chosen
+    QString value;     ///< its name in the code; for some choices also what the record holds
     bool isSelectable = true;
 };
 using Choices = std::vector<Choice>;

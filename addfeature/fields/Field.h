@@ -12,7 +12,8 @@ class QGridLayout;
 class QLabel;
 class QWidget;
 
-/// When a change is sent to the canvas. What is not sent travels with the next record.
+/// When a change is sent to the canvas. What is not sent travels with the next record that another
+/// control sends.
 enum class Sends { Never, WhenAccepted, Always };
 
 /// How it is sent: as the record, which the symbol's check may hold back, or as a change of

@@ -25,5 +25,4 @@ BarcodePage::BarcodePage(DialogDoor& door, QWidget* parent) : Page(door, "m_pBar
 void BarcodePage::chooseBackground()
 {
     m_pBackgroundCB->storeAs(m_pAddMarkersCB->isChecked());
-    m_pBackgroundCB->send();
 }

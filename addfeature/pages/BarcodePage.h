@@ -10,8 +10,7 @@
 
 #include <QCoreApplication>
 
-/// The settings of a barcode. They are stored only: they travel with the next record that another
-/// control sends.
+/// The settings of a barcode. They are stored only, as Sends::Never says.
 class BarcodePage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 

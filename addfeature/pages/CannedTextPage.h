@@ -9,8 +9,7 @@
 
 class PlotStampPage;
 
-/// The settings of text drilled as dots. They are stored only: they travel with the next record
-/// that another control sends.
+/// The settings of text drilled as dots. They are stored only, as Sends::Never says.
 class CannedTextPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 

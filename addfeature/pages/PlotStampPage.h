@@ -6,8 +6,7 @@
 
 #include <QCoreApplication>
 
-/// The settings of a plot stamp. They are stored only: they travel with the next record that
-/// another control sends.
+/// The settings of a plot stamp. They are stored only, as Sends::Never says.
 class PlotStampPage final : public Page {
     Q_DECLARE_TR_FUNCTIONS(AddFeature)
 

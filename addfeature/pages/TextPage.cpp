@@ -104,7 +104,6 @@ void TextPage::chooseFormat()
     if (m_pTextFormatCMB->storeChoice()) {
         showSubPage();
     }
-    m_pTextFormatCMB->send();
 }
 
 void TextPage::showSubPage()

@@ -52,7 +52,7 @@ public:
                              .enabledBy(m_pTextFormatCMB, {TextKind::string}));
     TextField* const m_pFontLE = add<TextField>(
         Details{"m_pFontLE", Caption::spoken(QT_TR_NOOP("Font")), RecordKeys::stringTextFont,
-                SLOT(on_m_pFontLE_editingFinished()), Sends::Always}
+                SLOT(on_m_pFontLE_editingFinished()), Sends::WhenAccepted}
             .readOnly()
             .enabledBy(m_pTextFormatCMB, {TextKind::string}),
         LineField::Pattern::Text,

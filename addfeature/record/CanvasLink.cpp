@@ -64,7 +64,7 @@ void CanvasLink::sendFill() const
 
 void CanvasLink::sendSelectFromEditor() const
 {
-    // Deliberately under the rule menu's name: the canvas answers that module's request.
+    // Deliberately under the rule menu's name: part of the interface.
     PluginMetaData message(ModuleNames::ruleMenu, ModuleNames::viewer);
     message.code = Sent::SelectFromEditor;
     send(m_sender, std::move(message));
