@@ -26,14 +26,14 @@ ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
 FOLDERS = ("plugin", "toolbar", "addfeature", "dimensions")
 # The fast tests of the module, quickest first; the order changes as tests prove useful.
-TESTS = """contract.contract contract.protocol fields.fields fields.rules toolbar.entry
+TESTS = """contract.contract contract.protocol fields.fields fields.reports fields.rules toolbar.entry
 toolbar.language dimensions.dimensions toolbar.menus toolbar.incoming dialog.attributes
 pages.fonts_and_special_texts_page toolbar.activation dialog.frame dialog.symbol_units
 dialog.symbol_pick toolbar.construction dialog.sending language.translations
 accessibility.accessibility accessibility.layout accessibility.looks resources.resources
 pages.pad_page pages.text_formats_page pages.line_page pages.surface_and_arc_page pages.text_page
 pages.rows dimensions.element_area language.guard_title focus.agreement focus.type_change
-focus.refused_symbol focus.pending dialog.symbol_entry reliability.failing_construction
+focus.refused_symbol focus.pending focus.boxes dialog.symbol_entry reliability.failing_construction
 reliability.reentrancy random_use
 """.split()
 ENVIRONMENT = dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
@@ -128,8 +128,8 @@ class Copy:
 
     @staticmethod
     def readers(path):
-        """The tests to rebuild: they read the protocol's headers themselves."""
-        return ["tests_contract"] if re.fullmatch(r"plugin/.*\.h", path) else []
+        """The tests to rebuild: they read the protocol themselves."""
+        return ["tests_contract"] if re.fullmatch(r"plugin/(.*\.h|MessageCodes\.cpp)", path) else []
 
     def order(self, path):
         """The tests that caught other mutants of the file first."""
