@@ -3,12 +3,18 @@
 #include "FindChild.h"
 #include "Main.h"
 #include "StartWorkbench.h"
+#include "messages/HostState.h"
+#include "plugin/ModuleNames.h"
 #include "shared/CanvasControl.h"
+#include "shared/FileQuestion.h"
 #include "shared/Settings.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QDir>
 #include <QDropEvent>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -18,8 +24,32 @@
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include <memory>
+
+namespace {
+
+/// Answers every box, and keeps what it said.
+class Boxes {
+public:
+    explicit Boxes(QMessageBox::StandardButton answer)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this, answer] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                told.append(box->windowTitle() + "|" + box->text());
+                box->button(answer)->click();
+            }
+        });
+        m_timer.start(10);
+    }
+    QStringList told;
+
+private:
+    QTimer m_timer;
+};
+
+}  // namespace
 
 class TestWindow : public QObject {
     Q_OBJECT
@@ -41,6 +71,44 @@ private:
     }
     QAction& action(const char* name) const { return *m_window->findChild<QAction*>(name); }
 
+    void drop(const QString& file) const
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        auto& board = *findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView").viewport();
+        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&board, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&board, &drop);
+    }
+    /// Answers the file dialog that comes next.
+    static void chooseFile(const QString& file)
+    {
+        QTimer::singleShot(100, [file] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog) {
+                auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
+                name.setText(file);
+                QTest::keyClick(&name, Qt::Key_Return);
+            }
+        });
+    }
+    QString write(const char* name, const QByteArray& text) const
+    {
+        QFile file(m_directory.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
+            qFatal("%s", qPrintable(file.errorString()));
+        }
+        return file.fileName();
+    }
+    /// A job with the one step "first".
+    QString writeJob(const QByteArray& name) const
+    {
+        return write("job.json", R"({"format":1,"jobs":[{"name":")" + name +
+                                     R"(","steps":["first"],"fonts":[],"specialSymbols":[],
+                                     "userSymbols":[],"specialTexts":[],"attributes":[]}]})");
+    }
     QString writeBoard(const QTemporaryDir& directory) const
     {
         const QString file = directory.filePath("dropped.json");
@@ -75,7 +143,7 @@ private Q_SLOTS:
         }
         QCOMPARE(titles, QStringList({"&File", "&Edit", "&View", "&Send", "&Help"}));
         QCOMPARE(entries("m_pFileMenu"),
-                 QStringList({"m_pNewBoardAct", "m_pOpenBoardAct", "m_pRecentMenu",
+                 QStringList({"m_pNewBoardAct", "m_pOpenBoardAct", "m_pOpenJobAct", "m_pRecentMenu",
                               "m_pSaveBoardAct", "m_pSaveBoardAsAct", "m_pExportBoardAct", "-",
                               "m_pSaveTraceAct", "m_pSavePictureAct", "-", "m_pQuitAct"}));
         QCOMPARE(entries("m_pEditMenu"),
@@ -116,31 +184,84 @@ private Q_SLOTS:
         const QTemporaryDir directory;
         const QString file = writeBoard(directory);
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(file)});
-        auto& board = *findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView").viewport();
-        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&board, &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&board, &drop);
+        drop(file);
         QCOMPARE(m_window->windowTitle(), QString("dropped.json[*] - demo / pcb - Workbench"));
         QVERIFY(!m_window->isWindowModified());
         action("m_pSelectAllAct").trigger();
         QVERIFY(!m_window->isWindowModified());
     }
 
-    void aFileThatIsNoBoardIsTold()
+    void aDroppedJobIsOpened()
     {
-        QString told;
-        QTimer::singleShot(50, [&] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                told = box->text();
-                box->accept();
-            }
-        });
+        drop(writeJob("mine"));
+        QCOMPARE(m_window->windowTitle(), QString("mine / first[*] - Workbench"));
+        const auto& jobs = findNamed<QComboBox>(*m_window, "m_pHostJobCMB");
+        QCOMPARE(jobs.count(), 1);
+        const auto& tree = findNamed<QTreeWidget>(*m_window, "m_pJobTreeTW");
+        QCOMPARE(tree.topLevelItemCount(), 1);
+        QCOMPARE(tree.topLevelItem(0)->text(0), QString("mine"));
+    }
+
+    void aJobIsOpenedFromTheMenu()
+    {
+        const QString file = writeJob("mine");
+        const Boxes boxes(QMessageBox::Ok);
+        chooseFile(file);
+        action("m_pOpenJobAct").trigger();
+        QCOMPARE(m_window->windowTitle(), QString("mine / first[*] - Workbench"));
+        QCOMPARE(LastFolder::path(), m_directory.path());
+        QVERIFY(boxes.told.isEmpty());
+    }
+
+    void anotherJobAsksForTheChangesOfThisOne()
+    {
+        action("m_pSelectAllAct").trigger();
+        action("m_pDeleteAct").trigger();
+        const QString file = writeJob("demo");
+        {
+            const Boxes boxes(QMessageBox::Cancel);
+            drop(file);
+            QCOMPARE(boxes.told.size(), 1);
+            QVERIFY(m_window->windowTitle().startsWith("demo / pcb"));
+        }
+        const Boxes boxes(QMessageBox::Discard);
+        drop(file);
+        QCOMPARE(m_window->windowTitle(), QString("demo / first[*] - Workbench"));
+        QVERIFY(!m_window->isWindowModified());
+        // The board of a step with the same name is not that of the job before.
+        m_window->host()->openStep("demo", "pcb");
+        QVERIFY(!action("m_pUndoAct").isEnabled());
+        QVERIFY(m_window->canvas()->files().mayClose());
+        QCOMPARE(boxes.told.size(), 1);
+    }
+
+    void theStripIsToldOfAJobOfTheSameName()
+    {
+        drop(writeJob("demo"));
+        QStringList told;
+        for (const MessageRecord& message : m_log->messages()) {
+            told.append(message.receiver + " " + QString::number(message.code));
+        }
+        QCOMPARE(told.count(ModuleNames::toolStrip + " 20002003"), 2);
+    }
+
+    void aFileOfAnotherKindIsToldAsWhatItIs()
+    {
+        const Boxes boxes(QMessageBox::Ok);
         m_window->canvas()->files().open(JOB_FILE);
-        QVERIFY2(told.startsWith(JOB_FILE ":"), qPrintable(told));
+        const QString file = write("a.session", "# words\nclick m_pMarkTB\n");
+        drop(file);
+        chooseFile(writeBoard(m_directory));
+        action("m_pOpenJobAct").trigger();
+        QCOMPARE(boxes.told.size(), 3);
+        QVERIFY2(
+            boxes.told[0].startsWith("Cannot open the board|This is a job file, not a board\n\n"),
+            qPrintable(boxes.told[0]));
+        QCOMPARE(boxes.told[1], "Cannot open the board|This is a session, not a board\n\n" +
+                                    QDir::toNativeSeparators(file));
+        QVERIFY2(
+            boxes.told[2].startsWith("Cannot open the job|This is a board, not a job file\n\n"),
+            qPrintable(boxes.told[2]));
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
     }
 

@@ -91,6 +91,12 @@ void HostState::openStep(const QString& job, const QString& step)
     Q_EMIT stepOpened(m_job, m_step);
 }
 
+void HostState::closeJob()
+{
+    m_job.clear();
+    m_step.clear();
+}
+
 void HostState::announceJob()
 {
     const HostMessage opened{Accepted::JobOpened, jobPayload(m_job, PayloadKeys::stepName, m_step),

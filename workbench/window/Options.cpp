@@ -157,6 +157,9 @@ Options Options::parse(const QStringList& arguments)
         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")});
     parser.addOption(
         {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")});
+    parser.addPositionalArgument(QStringLiteral("file"),
+                                 QStringLiteral("A board or a job to open, whichever it is."),
+                                 QStringLiteral("[file]"));
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
         // Qt ends some of its texts with a full stop.
@@ -166,9 +169,8 @@ Options Options::parse(const QStringList& arguments)
         options.answer = parser.helpText();
     } else if (parser.isSet(QStringLiteral("version"))) {
         options.answer = QStringLiteral("workbench " WORKBENCH_VERSION "\n");
-    } else if (!parser.positionalArguments().isEmpty()) {
-        refuse(QStringLiteral("unexpected argument \"%1\"")
-                   .arg(parser.positionalArguments().constFirst()));
+    } else if (parser.positionalArguments().size() > 1) {
+        refuse(QStringLiteral("unexpected argument \"%1\"").arg(parser.positionalArguments()[1]));
     } else {
         options.take(parser);
     }
@@ -187,6 +189,7 @@ void Options::take(const QCommandLineParser& parser)
             this->*row.flag = true;
         }
     }
+    file = parser.positionalArguments().value(0);
     choose("language", language, languageChoices(), &LanguageChoice::code);
     if (parser.isSet(QStringLiteral("unit"))) {
         unit = choose("unit", parser.value(QStringLiteral("unit")), CanvasHost::lengthUnits(),

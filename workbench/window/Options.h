@@ -18,6 +18,7 @@ const std::vector<LanguageChoice>& languageChoices();
 /// What the command line asks for.
 struct Options {
     QString moduleDirectory;
+    QString file;  ///< a board or a job; empty: none
     QString jobFile;
     QString traceFile;       ///< empty: no trace
     QString screenshotFile;  ///< empty: no picture

@@ -12,13 +12,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QDockWidget>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QTextBrowser>
 
 namespace {
@@ -26,12 +23,6 @@ namespace {
 QMenu* createMenu(QMenuBar* bar, const char* name)
 {
     return named(bar->addMenu(QString()), name);
-}
-
-QString droppedFile(const QMimeData* data)
-{
-    const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
 }
 
 }  // namespace
@@ -98,6 +89,9 @@ void WorkbenchWindow::addCanvasEntries()
     using Group = CanvasControl::Group;
     QAction* const trace = m_fileMenu->actions().constFirst();
     m_fileMenu->insertActions(trace, canvas()->actions(Group::NewAndOpen));
+    QAction* const openJob = addEntry(m_fileMenu, "m_pOpenJobAct", QT_TR_NOOP("Open &Job..."));
+    connect(openJob, &QAction::triggered, this, &WorkbenchWindow::chooseAndOpenJob);
+    m_fileMenu->insertAction(trace, openJob);
     m_recentMenu = named(new QMenu(m_fileMenu), "m_pRecentMenu");
     connect(m_fileMenu, &QMenu::aboutToShow, this, &WorkbenchWindow::listRecentFiles);
     m_fileMenu->insertMenu(trace, m_recentMenu);
@@ -110,17 +104,6 @@ void WorkbenchWindow::addCanvasEntries()
     m_viewMenu->insertActions(docks, canvas()->actions(Group::View));
     m_viewMenu->insertSeparator(docks);
     canvas()->files().setChanged([this] { showTitle(); });
-}
-
-void WorkbenchWindow::listRecentFiles()
-{
-    m_recentMenu->clear();
-    const QStringList files = canvas()->files().recent();
-    for (const QString& file : files) {
-        QAction* const action = m_recentMenu->addAction(QDir::toNativeSeparators(file));
-        connect(action, &QAction::triggered, this, [this, file] { canvas()->files().open(file); });
-    }
-    m_recentMenu->setEnabled(!files.isEmpty());
 }
 
 void WorkbenchWindow::showTitle()
@@ -163,19 +146,6 @@ void WorkbenchWindow::showAbout()
                     QMessageBox::Ok, this);
     box.setObjectName(QStringLiteral("m_pAboutBox"));
     box.exec();
-}
-
-void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!droppedFile(event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
-    }
-}
-
-void WorkbenchWindow::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    canvas()->files().open(droppedFile(event->mimeData()));
 }
 
 void WorkbenchWindow::retranslateMenus()

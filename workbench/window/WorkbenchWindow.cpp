@@ -4,11 +4,11 @@
 #include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageMonitor.h"
-#include "messages/WindowPicture.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
 #include "shared/CanvasControl.h"
+#include "shared/ErrorBox.h"
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
@@ -20,9 +20,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QPixmap>
 #include <QSignalBlocker>
 
 namespace Accepted = MessageCodes::Accepted;
@@ -69,9 +66,7 @@ void WorkbenchWindow::start()
     }
     addCanvasEntries();
     retranslateMenus();
-    if (const CanvasHost::Job* const job = CanvasHost::currentJob()) {
-        m_host->openStep(QString::fromStdString(job->name));
-    }
+    openFirstJob();
     m_layout->restore();
 }
 
@@ -131,7 +126,7 @@ void WorkbenchWindow::showEq(bool visible)
         m_strip->fill(m_options.moduleDirectory);
         m_host->announceJob();
     } catch (const CanvasHost::FileError& error) {
-        QMessageBox::warning(this, tr("Modules"), error.text());
+        showError(this, tr("Cannot load the edit tools"), error);
     }
 }
 
@@ -148,16 +143,6 @@ CanvasControl* WorkbenchWindow::canvas() const
     return m_viewer ? qobject_cast<CanvasControl*>(m_viewer->instance()) : nullptr;
 }
 
-void WorkbenchWindow::savePicture()
-{
-    const QPixmap picture = pictureOf(this);
-    const QString file = QFileDialog::getSaveFileName(
-        this, tr("Save Picture"), QStringLiteral("workbench.png"), tr("Pictures (*.png)"));
-    if (!file.isEmpty() && !picture.save(file)) {
-        QMessageBox::warning(this, tr("Save Picture"), tr("%1 was not saved.").arg(file));
-    }
-}
-
 void WorkbenchWindow::openDimensions()
 {
     try {
@@ -168,7 +153,7 @@ void WorkbenchWindow::openDimensions()
         m_dimensions->show();
         m_dimensions->raise();
     } catch (const CanvasHost::FileError& error) {
-        QMessageBox::warning(this, tr("Modules"), error.text());
+        showError(this, tr("Cannot load Dimensions"), error);
     }
 }
 

@@ -71,6 +71,14 @@ private:
     QAction* addEntry(QMenu* menu, const char* name, const char* text);
     void connectControls();
 
+    void chooseAndOpenJob();
+    void openJob(const QString& file);
+    void openFirstJob();
+    void listJobs();
+    void openFile(const QString& file);
+    /// Where file dialogs begin; empty: as FileQuestion says.
+    QString folder() const;
+
     void showStep(const QString& job, const QString& step);
     void changeLanguage(int index);
     void showEq(bool visible);

@@ -13,6 +13,8 @@
 
 #include <CamApiStandIn.h>
 #include <FileError.h>
+#include <FileKind.h>
+#include <Files.h>
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -45,10 +47,23 @@ struct Inputs {
     MessageTrace trace;
 };
 
+/// Takes the file that was named without an option for what it is.
+void sortFile(Options* options)
+{
+    if (options->file.isEmpty()) {
+        return;
+    }
+    const QByteArray content = CanvasHost::readWhole(options->file);
+    const bool isJob = CanvasHost::kindOf(content) == CanvasHost::FileKind::Job;
+    QString& place = isJob ? options->jobFile : options->boardFile;
+    place = options->file;
+}
+
 /// Reads everything that may be wrong before a window is made.
 void readInputs(int argc, char* argv[], Inputs* inputs)
 {
     inputs->options = Options::ofProgram(argc, argv);
+    sortFile(&inputs->options);
     const Options& options = inputs->options;
     CanvasHost::loadJobs(options.jobFile);
     if (!options.sessionFile.isEmpty()) {
