@@ -103,6 +103,7 @@ void HostState::announceJob()
                              0};
     send(opened);
     sendTo(ModuleNames::viewer, opened);
+    sendTo(ModuleNames::jobTree, opened);
 }
 
 void HostState::setUnit(CanvasHost::DisplayUnit unit)

@@ -24,7 +24,7 @@ public:
     /// Forgets the open job: the next one is another, whatever its name.
     void closeJob();
     void setUnit(CanvasHost::DisplayUnit unit);
-    /// Tells tool strip and canvas of job and step, which a new one does not know.
+    /// Tells tool strip, canvas and job tree of job and step, which a new one does not know.
     void announceJob();
     /// Sends a message to the tool strip.
     void send(const HostMessage& message);

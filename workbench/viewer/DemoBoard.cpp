@@ -122,6 +122,10 @@ void addTexts(Features& features)
             code(Pcb::BarcodeType::Code39, 3000, true));
     addText(features, {18500, 14500}, TextFormat::Barcode, "0815",
             code(Pcb::BarcodeType::Code128C, 2500, false));
+    addText(features, {28000, 10500}, TextFormat::Barcode, "s7",
+            code(Pcb::BarcodeType::Code39Ascii, 2000, false));
+    addText(features, {29000, 6000}, TextFormat::Barcode, "b-7",
+            code(Pcb::BarcodeType::Code128B, 2500, false));
     addText(features, {29500, 14000}, TextFormat::Barcode, "SENSOR 7",
             code(Pcb::BarcodeType::Matrix, 5500, false));
     addText(features, {12500, 18500}, TextFormat::PlotStamp, "TOP",
@@ -138,6 +142,14 @@ Board sensorBoard()
     addPads(all);
     addTexts(all);
     return {{}, {}, QPolygonF(QRectF(0, 0, 37000, 22000)), all};
+}
+
+void addEdge(Features& features, const QPolygonF& corners)
+{
+    for (int i = 0; i < corners.size(); ++i) {
+        features.push_back(
+            Feature(Pcb::lineGeometry("r6", corners[i], corners[(i + 1) % corners.size()])));
+    }
 }
 
 /// The board, again and again within a frame that has holes, fiducials and a name.
@@ -169,6 +181,7 @@ Board Repetition::of(const Board& board, const QString& name) const
             }
             all.push_back(Feature(copy));
         }
+        addEdge(all, board.outline.translated(place));
     }
     addRim(all, size, name);
     return {{}, {}, QPolygonF(QRectF(QPointF(), size)), all};
