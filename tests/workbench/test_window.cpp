@@ -4,6 +4,7 @@
 #include "Main.h"
 #include "StartWorkbench.h"
 #include "messages/HostState.h"
+#include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "shared/CanvasControl.h"
 #include "shared/FileQuestion.h"
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -24,7 +26,9 @@
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 
 #include <memory>
 
@@ -189,6 +193,86 @@ private Q_SLOTS:
         QVERIFY(!m_window->isWindowModified());
         action("m_pSelectAllAct").trigger();
         QVERIFY(!m_window->isWindowModified());
+    }
+
+    void theJobTreeMarksTheOpenStep()
+    {
+        const auto& tree = findNamed<QTreeWidget>(*m_window, "m_pJobTreeTW");
+        const auto marked = [this] {
+            QStringList steps;
+            for (QTreeWidgetItemIterator item(&findNamed<QTreeWidget>(*m_window, "m_pJobTreeTW"));
+                 *item; ++item) {
+                if ((*item)->font(0).bold()) {
+                    steps.append((*item)->parent()->text(0) + "/" + (*item)->text(0));
+                }
+            }
+            return steps.join(' ');
+        };
+        QCOMPARE(marked(), QString("demo/pcb"));
+        QCOMPARE(tree.currentItem()->text(0), QString("pcb"));
+        findNamed<QComboBox>(*m_window, "m_pHostStepCMB").setCurrentText("panel");
+        QCOMPARE(marked(), QString("demo/panel"));
+        findNamed<QComboBox>(*m_window, "m_pHostJobCMB").setCurrentText("sensor_board");
+        QCOMPARE(marked(), QString("sensor_board/pcb"));
+        Q_EMIT findNamed<QTreeWidget>(*m_window, "m_pJobTreeTW")
+            .itemDoubleClicked(tree.topLevelItem(0)->child(1), 0);
+        QCOMPARE(marked(), QString("demo/array"));
+        QCOMPARE(m_window->windowTitle(), QString("demo / array[*] - Workbench"));
+    }
+
+    void pluralsArePlurals_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("counts");
+        QTest::addColumn<QStringList>("selected");
+        QTest::newRow("English") << "English"
+                                 << QStringList{"0 messages", "1 message", "2 messages",
+                                                "0 of 2 messages"}
+                                 << QStringList{"1 feature selected.", "2 features selected."};
+        QTest::newRow("Chinese")
+            << QString::fromUtf8("\u7b80\u4f53\u4e2d\u6587")
+            << QStringList{QString::fromUtf8("0 \u6761\u6d88\u606f"),
+                           QString::fromUtf8("1 \u6761\u6d88\u606f"),
+                           QString::fromUtf8("2 \u6761\u6d88\u606f"),
+                           QString::fromUtf8("0 / 2 \u6761\u6d88\u606f")}
+            << QStringList{QString::fromUtf8("\u5df2\u9009\u62e9 1 \u4e2a\u56fe\u5143\u3002"),
+                           QString::fromUtf8("\u5df2\u9009\u62e9 2 \u4e2a\u56fe\u5143\u3002")};
+    }
+
+    void pluralsArePlurals()
+    {
+        QFETCH(QString, language);
+        QFETCH(QStringList, counts);
+        QFETCH(QStringList, selected);
+        findNamed<QComboBox>(*m_window, "m_pHostLanguageCMB").setCurrentText(language);
+        auto& filter = findNamed<QLineEdit>(*m_window, "m_pMonitorFilterLE");
+        const auto& count = findNamed<QLabel>(*m_window, "m_pMonitorCountLB");
+        QStringList counted;
+        m_log->clear();
+        for (int sent = 0; sent < 3; ++sent) {
+            counted.append(count.text());
+            m_window->host()->sendSample(MessageCodes::Accepted::JobName);
+        }
+        m_log->clear();
+        m_window->host()->sendSample(MessageCodes::Accepted::JobName);
+        m_window->host()->sendSample(MessageCodes::Accepted::JobName);
+        filter.setText("nothing has this");
+        counted.append(count.text());
+        QCOMPARE(counted, counts);
+        const auto& status = findNamed<QLabel>(*m_window, "m_pCanvasStatusLB");
+        findNamed<QToolButton>(*m_window, "m_pFeatureSelectionTB").click();
+        auto& board = findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView");
+        QStringList said;
+        const std::pair<double, Qt::KeyboardModifiers> clicks[] = {{17500, Qt::NoModifier},
+                                                                   {3700, Qt::ControlModifier}};
+        for (const auto& [x, modifiers] : clicks) {
+            QPoint place;
+            QMetaObject::invokeMethod(&board, "viewPoint", Q_RETURN_ARG(QPoint, place),
+                                      Q_ARG(double, x), Q_ARG(double, x > 9000 ? 5400 : 3400));
+            QTest::mouseClick(board.viewport(), Qt::LeftButton, modifiers, place);
+            said.append(status.text());
+        }
+        QCOMPARE(said, selected);
     }
 
     void aDroppedJobIsOpened()

@@ -153,7 +153,7 @@ void MessageMonitor::showCount()
     const int all = m_model->rowCount();
     const int shown = m_filtered->rowCount();
     m_pMonitorCountLB->setText(shown == all ? tr("%n message(s)", "", all)
-                                            : tr("%1 of %2 messages").arg(shown).arg(all));
+                                            : tr("%1 of %n message(s)", "", all).arg(shown));
 }
 
 void MessageMonitor::showSelected()

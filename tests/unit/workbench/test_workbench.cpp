@@ -91,9 +91,9 @@ private Q_SLOTS:
             return all;
         };
         const QMap<QString, QString> english = texts();
-        QCOMPARE(english["AddFeatureStarted"], QString("Add feature started"));
-        QCOMPARE(english["DirectionRecord"], QString("Feature record (direction)"));
-        QCOMPARE(english["accepted AddFeatureActive"], QString("Add feature is active"));
+        QCOMPARE(english["AddFeatureStarted"], QString("Add Feature Started"));
+        QCOMPARE(english["DirectionRecord"], QString("Feature Record (Direction)"));
+        QCOMPARE(english["accepted AddFeatureActive"], QString("Add Feature Is Active"));
         QTranslator translator;
         QVERIFY(translator.load("workbench_zh_CN", TRANSLATION_DIR));
         QCoreApplication::installTranslator(&translator);
