@@ -1,11 +1,14 @@
 // The host's window: its menus, its title, and what is dropped on it.
 
+#include "ErrorOf.h"
 #include "FindChild.h"
 #include "Main.h"
 #include "StartWorkbench.h"
 #include "messages/HostState.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "session/SessionParser.h"
+#include "session/SessionPlayer.h"
 #include "shared/CanvasControl.h"
 #include "shared/FileQuestion.h"
 #include "shared/Settings.h"
@@ -98,6 +101,23 @@ private:
             }
         });
     }
+    void restart(const Options& options)
+    {
+        m_window.reset();
+        m_log = std::make_unique<MessageLog>();
+        m_window = startWorkbench(*m_log, options);
+        m_window->show();
+    }
+    void play(const QByteArray& steps) const
+    {
+        SessionPlayer player(SessionParser::read(steps, "test"), m_window->host(), m_window.get(),
+                             m_log.get());
+        QSignalSpy finished(&player, &SessionPlayer::finished);
+        QSignalSpy failed(&player, &SessionPlayer::failed);
+        player.start();
+        QVERIFY(finished.wait(10000));
+        QVERIFY(failed.isEmpty());
+    }
     QString write(const char* name, const QByteArray& text) const
     {
         QFile file(m_directory.filePath(name));
@@ -125,13 +145,7 @@ private:
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        m_window.reset();
-        m_log = std::make_unique<MessageLog>();
-        m_window = startWorkbench(*m_log);
-        m_window->show();
-    }
+    void init() { restart({}); }
     void cleanup()
     {
         Settings::keepIn({});
@@ -149,7 +163,7 @@ private Q_SLOTS:
         QCOMPARE(entries("m_pFileMenu"),
                  QStringList({"m_pNewBoardAct", "m_pOpenBoardAct", "m_pOpenJobAct", "m_pRecentMenu",
                               "m_pSaveBoardAct", "m_pSaveBoardAsAct", "m_pExportBoardAct", "-",
-                              "m_pSaveTraceAct", "m_pSavePictureAct", "-", "m_pQuitAct"}));
+                              "m_pSaveTraceAct", "m_pSavePictureAct", "m_pRecordAct", "-", "m_pQuitAct"}));
         QCOMPARE(entries("m_pEditMenu"),
                  QStringList({"m_pUndoAct", "m_pRedoAct", "-", "m_pSelectAllAct", "m_pDeselectAct",
                               "m_pDeleteAct"}));
@@ -273,6 +287,74 @@ private Q_SLOTS:
             said.append(status.text());
         }
         QCOMPARE(said, selected);
+    }
+
+    void recordingIsStartedAndStoppedFromTheMenu()
+    {
+        const QString file = m_directory.filePath("mine.session");
+        findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").setCurrentText("millimetre");
+        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
+        chooseFile(file);
+        action("m_pRecordAct").trigger();
+        QCOMPARE(action("m_pRecordAct").text(), QString("Stop &Recording"));
+        play("click m_pMoveFeatureTB\nmenu m_pFileMenu m_pRecordAct\nclick m_pMarkTB\n");
+        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
+        QFile recorded(file);
+        QVERIFY(recorded.open(QIODevice::ReadOnly));
+        QCOMPARE(recorded.readAll(),
+                 QByteArray("# Recorded by hand.\n"
+                            "# It begins with --unit mm --language en, in demo / pcb.\n"
+                            "click m_pMoveFeatureTB\n"));
+    }
+
+    void aRecordingThatCannotBeWrittenIsTold()
+    {
+        const auto failing = [this] { m_window->record(m_directory.filePath("no/a.session")); };
+        QVERIFY(!errorOf(failing).isEmpty());
+        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
+    }
+
+    void choicesAreRemembered()
+    {
+        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        init();
+        findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").setCurrentIndex(3);
+        findNamed<QComboBox>(*m_window, "m_pHostLanguageCMB").setCurrentIndex(1);
+        action("m_pSnapAct").trigger();
+        auto& grid = findNamed<QLineEdit>(*m_window, "m_pGridStepLE");
+        grid.setFocus();
+        grid.clear();
+        QTest::keyClicks(&grid, "0.25");
+        QTest::keyClick(&grid, Qt::Key_Return);
+        Options options;
+        options.recall();
+        restart(options);
+        QCOMPARE(findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").currentIndex(), 3);
+        QCOMPARE(findNamed<QComboBox>(*m_window, "m_pHostLanguageCMB").currentIndex(), 1);
+        QVERIFY(action("m_pSnapAct").isChecked());
+        QCOMPARE(findNamed<QLineEdit>(*m_window, "m_pGridStepLE").text(), QString("0.250 mm"));
+        QVERIFY(action("m_pQuitAct").text() != "&Quit");
+    }
+
+    void optionsComeBeforeWhatIsRemembered()
+    {
+        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        Settings::choose("unit", "mm");
+        Settings::choose("language", "zh_CN");
+        Options options = Options::parse({"workbench", "--unit", "inch"});
+        options.recall();
+        QCOMPARE(options.unit, CanvasHost::DisplayUnit::Inch);
+        QCOMPARE(options.language, QString("zh_CN"));
+        options = Options::parse({"workbench", "--language", "en"});
+        options.recall();
+        QCOMPARE(options.unit, CanvasHost::DisplayUnit::Millimetre);
+        QCOMPARE(options.language, QString("en"));
+        Settings::choose("unit", "foot");
+        Settings::choose("language", "fr");
+        options = Options::parse({"workbench"});
+        options.recall();
+        QCOMPARE(options.unit, CanvasHost::DisplayUnit::Mil);
+        QCOMPARE(options.language, QString("en"));
     }
 
     void aDroppedJobIsOpened()

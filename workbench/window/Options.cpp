@@ -1,5 +1,7 @@
 #include "window/Options.h"
 
+#include "shared/Settings.h"
+
 #include <FileError.h>
 
 #include <QCommandLineParser>
@@ -120,6 +122,10 @@ int fontSize(const QString& points)
 
 }  // namespace
 
+// They are called as the options are.
+const QString Options::unitChoice = QStringLiteral("unit");
+const QString Options::languageChoice = QStringLiteral("language");
+
 const std::vector<LanguageChoice>& languageChoices()
 {
     static const std::vector<LanguageChoice> choices{{"en", "English"},
@@ -191,13 +197,31 @@ void Options::take(const QCommandLineParser& parser)
     }
     file = parser.positionalArguments().value(0);
     choose("language", language, languageChoices(), &LanguageChoice::code);
-    if (parser.isSet(QStringLiteral("unit"))) {
-        unit = choose("unit", parser.value(QStringLiteral("unit")), CanvasHost::lengthUnits(),
+    isLanguageGiven = parser.isSet(languageChoice);
+    isUnitGiven = parser.isSet(unitChoice);
+    if (isUnitGiven) {
+        unit = choose("unit", parser.value(unitChoice), CanvasHost::lengthUnits(),
                       &CanvasHost::LengthUnit::name)
                    .unit;
     }
     if (parser.isSet(QStringLiteral("font-size"))) {
         fontSize = ::fontSize(parser.value(QStringLiteral("font-size")));
+    }
+}
+
+void Options::recall()
+{
+    const QString unitName = Settings::choice(unitChoice).toString();
+    const QString code = Settings::choice(languageChoice).toString();
+    for (const CanvasHost::LengthUnit& known : CanvasHost::lengthUnits()) {
+        if (!isUnitGiven && unitName == QLatin1String(known.name)) {
+            unit = known.unit;
+        }
+    }
+    for (const LanguageChoice& known : languageChoices()) {
+        if (!isLanguageGiven && code == QLatin1String(known.code)) {
+            language = code;
+        }
     }
 }
 

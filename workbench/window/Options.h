@@ -30,7 +30,9 @@ struct Options {
     bool exit = false;       ///< leave after playing, or after the first paint
     bool log = false;        ///< debug lines go to the terminal
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
+    bool isUnitGiven = false;
     QString language = QStringLiteral("en");
+    bool isLanguageGiven = false;
     bool isDark = false;
     int fontSize = 0;     ///< in points; 0: as the desktop has it
     QString answer = {};  ///< help or version, to be shown; empty when neither is asked for
@@ -42,6 +44,12 @@ struct Options {
     /// The same from `arguments` (the program's name first). The options of Qt itself ("-platform
     /// offscreen") are skipped.
     static Options parse(const QStringList& arguments);
+    /// What the command line leaves open is as the user chose it last; needs the application object.
+    void recall();
+
+    /// The names under which the settings keep what the user chose.
+    static const QString unitChoice;
+    static const QString languageChoice;
 
 private:
     static QStringList withoutQts(const QStringList& arguments);

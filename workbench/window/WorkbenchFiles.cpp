@@ -3,6 +3,7 @@
 
 #include "messages/HostState.h"
 #include "messages/WindowPicture.h"
+#include "session/SessionRecorder.h"
 #include "shared/CanvasControl.h"
 #include "shared/ErrorBox.h"
 #include "shared/FileQuestion.h"
@@ -139,6 +140,50 @@ void WorkbenchWindow::savePicture()
             this, tr("Cannot save the picture"),
             {file, 0, QCoreApplication::translate("FileErrors", "the picture cannot be written")});
     }
+}
+
+void WorkbenchWindow::record(const QString& file)
+{
+    // A session starts as the program does without options, which is perhaps not how it is now.
+    const CanvasHost::LengthUnit& unit =
+        CanvasHost::lengthUnits().at(size_t(m_pHostUnitCMB->currentIndex()));
+    const LanguageChoice& language =
+        languageChoices().at(size_t(m_pHostLanguageCMB->currentIndex()));
+    m_recorder->start(file, QStringLiteral("It begins with --unit %1 --language %2, in %3 / %4.")
+                                .arg(QLatin1String(unit.name), QLatin1String(language.code),
+                                     m_host->job(), m_host->step()));
+    showRecording();
+}
+
+void WorkbenchWindow::startOrStopRecording()
+{
+    if (m_recorder->isRecording()) {
+        // The step that stops it would start another one.
+        m_recorder->stop({QStringLiteral("menu"), m_fileMenu->objectName(), m_record->objectName()});
+        showRecording();
+        return;
+    }
+    const FileQuestion question{FileQuestion::For::Saving,
+                                tr("Record Session"),
+                                {tr("Sessions (*.session)")},
+                                QStringLiteral("recorded.session"),
+                                folder()};
+    const QString file = question.ask(this);
+    if (file.isEmpty()) {
+        return;
+    }
+    try {
+        record(file);
+        LastFolder::remember(file);
+    } catch (const FileError& error) {
+        showError(this, tr("Cannot record the session"), error);
+    }
+}
+
+void WorkbenchWindow::showRecording()
+{
+    m_record->setText(m_recorder->isRecording() ? tr("Stop &Recording")
+                                                : tr("&Record Session..."));
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)

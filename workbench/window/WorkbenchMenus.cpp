@@ -46,6 +46,8 @@ void WorkbenchWindow::createMenus()
             &QAction::triggered, m_monitor, &MessageMonitor::saveTrace);
     connect(addEntry(m_fileMenu, "m_pSavePictureAct", QT_TR_NOOP("Save &Picture...")),
             &QAction::triggered, this, &WorkbenchWindow::savePicture);
+    m_record = named(m_fileMenu->addAction(QString()), "m_pRecordAct");
+    connect(m_record, &QAction::triggered, this, &WorkbenchWindow::startOrStopRecording);
     m_fileMenu->addSeparator();
     QAction* const quit = addEntry(m_fileMenu, "m_pQuitAct", QT_TR_NOOP("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
@@ -158,6 +160,7 @@ void WorkbenchWindow::retranslateMenus()
     if (m_recentMenu) {
         m_recentMenu->setTitle(tr("Open &Recent"));
     }
+    showRecording();
     for (const Entry& entry : m_entries) {
         entry.action->setText(tr(entry.text));
     }

@@ -7,8 +7,10 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
+#include "session/SessionRecorder.h"
 #include "shared/CanvasControl.h"
 #include "shared/ErrorBox.h"
+#include "shared/Settings.h"
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
@@ -25,7 +27,8 @@
 namespace Accepted = MessageCodes::Accepted;
 
 WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
-    : m_options(options), m_language(options.moduleDirectory), m_host(new HostState(this))
+    : m_options(options), m_language(options.moduleDirectory), m_host(new HostState(this)),
+      m_recorder(new SessionRecorder(this, this))
 {
     setObjectName(QStringLiteral("m_pWorkbench"));
     CanvasHost::setDisplayUnit(options.unit);
@@ -89,7 +92,9 @@ void WorkbenchWindow::connectControls()
     connect(m_pHostStepCMB, changed, this,
             [this] { m_host->openStep(m_host->job(), m_pHostStepCMB->currentText()); });
     connect(m_pHostUnitCMB, changed, this, [this](int index) {
-        m_host->setUnit(CanvasHost::lengthUnits().at(size_t(index)).unit);
+        const CanvasHost::LengthUnit& chosen = CanvasHost::lengthUnits().at(size_t(index));
+        Settings::choose(Options::unitChoice, QString::fromLatin1(chosen.name));
+        m_host->setUnit(chosen.unit);
     });
     connect(m_pHostLanguageCMB, changed, this, &WorkbenchWindow::changeLanguage);
     connect(m_monitor, &MessageMonitor::composeAsked, this, &WorkbenchWindow::compose);
@@ -113,7 +118,9 @@ void WorkbenchWindow::showStep(const QString& job, const QString& step)
 
 void WorkbenchWindow::changeLanguage(int index)
 {
-    m_language.set(QLatin1String(languageChoices().at(size_t(index)).code));
+    const QString code = QLatin1String(languageChoices().at(size_t(index)).code);
+    Settings::choose(Options::languageChoice, code);
+    m_language.set(code);
     m_host->sendSample(Accepted::LanguageChanged);
 }
 

@@ -26,6 +26,7 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 class QTextBrowser;
+class SessionRecorder;
 
 /// The host's window: the modules, the message monitor, and the host's own settings.
 class WorkbenchWindow : public Retranslated<QMainWindow> {
@@ -40,6 +41,9 @@ public:
     /// Loads the modules, opens the first job, and takes the place on the screen. Throws a
     /// FileError.
     void start();
+
+    /// Records what the user does from now on. Throws a FileError.
+    void record(const QString& file);
 
     HostState* host() const { return m_host; }
     /// Null before the modules are loaded, and after they have gone.
@@ -84,6 +88,8 @@ private:
     void showEq(bool visible);
     void tellCanvas(const MessageRecord& message);
     void savePicture();
+    void startOrStopRecording();
+    void showRecording();
     void openDimensions();
     void compose();
     void showDocumentation();
@@ -96,6 +102,7 @@ private:
     Options m_options;
     Language m_language;
     HostState* m_host;
+    SessionRecorder* m_recorder;
     QComboBox* m_pHostJobCMB;
     QComboBox* m_pHostStepCMB;
     QComboBox* m_pHostUnitCMB;
@@ -111,6 +118,7 @@ private:
     QDockWidget* m_monitorDock;
     QMenu* m_fileMenu;
     QMenu* m_recentMenu = nullptr;
+    QAction* m_record;
     QMenu* m_editMenu;
     QMenu* m_viewMenu;
     QMenu* m_sendMenu;

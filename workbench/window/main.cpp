@@ -3,7 +3,6 @@
 #include "messages/WindowPicture.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
-#include "session/SessionRecorder.h"
 #include "shared/CanvasControl.h"
 #include "shared/Settings.h"
 #include "window/Display.h"
@@ -143,6 +142,10 @@ int run(int argc, char* argv[])
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
     const QTemporaryDir ownSettings;
     Settings::keepIn(settingsFile(inputs.options, ownSettings));
+    if (!inputs.options.sessionFile.isEmpty() || !inputs.options.recordFile.isEmpty()) {
+        Settings::ignoreChoices();
+    }
+    inputs.options.recall();
     Look::dress(inputs.options);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
@@ -152,9 +155,8 @@ int run(int argc, char* argv[])
     if (!inputs.options.boardFile.isEmpty()) {
         window.canvas()->files().openAtOnce(inputs.options.boardFile);
     }
-    SessionRecorder recorder(&window);
     if (!inputs.options.recordFile.isEmpty()) {
-        recorder.start(inputs.options.recordFile);
+        window.record(inputs.options.recordFile);
     }
     SessionPlayer player(inputs.session, window.host(), &window, &log);
     QObject::connect(&player, &SessionPlayer::noted, application.get(), complain);
