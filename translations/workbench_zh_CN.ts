@@ -179,6 +179,25 @@
     </message>
 </context>
 <context>
+    <name>Documentation</name>
+    <message>
+        <source>Documentation</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目录</translation>
+    </message>
+</context>
+<context>
     <name>EditTools</name>
     <message>
         <source>No feature here.</source>
@@ -1521,10 +1540,6 @@ Qt %2</translation>
         <translation>恢复布局(&amp;L)</translation>
     </message>
     <message>
-        <source>Documentation</source>
-        <translation>文档</translation>
-    </message>
-    <message>
         <source>Open Job</source>
         <translation>打开料号</translation>
     </message>
@@ -1551,6 +1566,26 @@ Qt %2</translation>
     <message>
         <source>Cannot load Dimensions</source>
         <translation>无法加载标注</translation>
+    </message>
+    <message>
+        <source>Record Session</source>
+        <translation>录制会话</translation>
+    </message>
+    <message>
+        <source>Sessions (*.session)</source>
+        <translation>会话 (*.session)</translation>
+    </message>
+    <message>
+        <source>Cannot record the session</source>
+        <translation>无法录制会话</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>停止录制(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Record Session...</source>
+        <translation>录制会话(&amp;R)...</translation>
     </message>
 </context>
 </TS>

@@ -1,148 +1,41 @@
-// The host's window: its menus, its title, and what is dropped on it.
+// The host's window: its menus, its texts, and what it remembers.
 
-#include "ErrorOf.h"
-#include "FindChild.h"
 #include "Main.h"
-#include "StartWorkbench.h"
-#include "messages/HostState.h"
+#include "WindowFixture.h"
 #include "plugin/MessageCodes.h"
-#include "plugin/ModuleNames.h"
-#include "session/SessionParser.h"
-#include "session/SessionPlayer.h"
 #include "shared/CanvasControl.h"
-#include "shared/FileQuestion.h"
-#include "shared/Settings.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
-#include <QDir>
-#include <QDropEvent>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QMimeData>
 #include <QScreen>
-#include <QSignalSpy>
-#include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
-#include <memory>
-
 namespace {
 
-/// Answers every box, and keeps what it said.
-class Boxes {
-public:
-    explicit Boxes(QMessageBox::StandardButton answer)
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, [this, answer] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                told.append(box->windowTitle() + "|" + box->text());
-                box->button(answer)->click();
+QList<QUrl> linksOf(const QTextBrowser& browser)
+{
+    QList<QUrl> links;
+    for (QTextBlock block = browser.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (format.isAnchor()) {
+                links.append(browser.source().resolved(QUrl(format.anchorHref())));
             }
-        });
-        m_timer.start(10);
+        }
     }
-    QStringList told;
-
-private:
-    QTimer m_timer;
-};
+    return links;
+}
 
 }  // namespace
 
-class TestWindow : public QObject {
+class TestWindow : public QObject, private WindowFixture {
     Q_OBJECT
-
-private:
-    QTemporaryDir m_directory;
-    std::unique_ptr<MessageLog> m_log;
-    std::unique_ptr<WorkbenchWindow> m_window;
-
-    QStringList entries(const char* menu) const
-    {
-        QStringList names;
-        for (const QAction* const action : findNamed<QMenu>(*m_window, menu).actions()) {
-            names.append(action->isSeparator() ? QString("-")
-                         : action->menu()      ? action->menu()->objectName()
-                                               : action->objectName());
-        }
-        return names;
-    }
-    QAction& action(const char* name) const { return *m_window->findChild<QAction*>(name); }
-
-    void drop(const QString& file) const
-    {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(file)});
-        auto& board = *findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView").viewport();
-        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&board, &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&board, &drop);
-    }
-    /// Answers the file dialog that comes next.
-    static void chooseFile(const QString& file)
-    {
-        QTimer::singleShot(100, [file] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (dialog) {
-                auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
-                name.setText(file);
-                QTest::keyClick(&name, Qt::Key_Return);
-            }
-        });
-    }
-    void restart(const Options& options)
-    {
-        m_window.reset();
-        m_log = std::make_unique<MessageLog>();
-        m_window = startWorkbench(*m_log, options);
-        m_window->show();
-    }
-    void play(const QByteArray& steps) const
-    {
-        SessionPlayer player(SessionParser::read(steps, "test"), m_window->host(), m_window.get(),
-                             m_log.get());
-        QSignalSpy finished(&player, &SessionPlayer::finished);
-        QSignalSpy failed(&player, &SessionPlayer::failed);
-        player.start();
-        QVERIFY(finished.wait(10000));
-        QVERIFY(failed.isEmpty());
-    }
-    QString write(const char* name, const QByteArray& text) const
-    {
-        QFile file(m_directory.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
-            qFatal("%s", qPrintable(file.errorString()));
-        }
-        return file.fileName();
-    }
-    /// A job with the one step "first".
-    QString writeJob(const QByteArray& name) const
-    {
-        return write("job.json", R"({"format":1,"jobs":[{"name":")" + name +
-                                     R"(","steps":["first"],"fonts":[],"specialSymbols":[],
-                                     "userSymbols":[],"specialTexts":[],"attributes":[]}]})");
-    }
-    QString writeBoard(const QTemporaryDir& directory) const
-    {
-        const QString file = directory.filePath("dropped.json");
-        QFile board(file);
-        if (!board.open(QIODevice::WriteOnly)) {
-            qFatal("%s", qPrintable(board.errorString()));
-        }
-        board.write(R"({"format":1,"job":"a","step":"b","outline":[],"features":[]})");
-        return file;
-    }
 
 private Q_SLOTS:
     void init() { restart({}); }
@@ -163,7 +56,8 @@ private Q_SLOTS:
         QCOMPARE(entries("m_pFileMenu"),
                  QStringList({"m_pNewBoardAct", "m_pOpenBoardAct", "m_pOpenJobAct", "m_pRecentMenu",
                               "m_pSaveBoardAct", "m_pSaveBoardAsAct", "m_pExportBoardAct", "-",
-                              "m_pSaveTraceAct", "m_pSavePictureAct", "m_pRecordAct", "-", "m_pQuitAct"}));
+                              "m_pSaveTraceAct", "m_pSavePictureAct", "m_pRecordAct", "-",
+                              "m_pQuitAct"}));
         QCOMPARE(entries("m_pEditMenu"),
                  QStringList({"m_pUndoAct", "m_pRedoAct", "-", "m_pSelectAllAct", "m_pDeselectAct",
                               "m_pDeleteAct"}));
@@ -195,18 +89,6 @@ private Q_SLOTS:
         action("m_pUndoAct").trigger();
         QCOMPARE(action("m_pRedoAct").text(), QString("&Redo Delete"));
         QCOMPARE(action("m_pUndoAct").iconText(), QString("Undo"));
-    }
-
-    void titleAndDroppedFile()
-    {
-        const QTemporaryDir directory;
-        const QString file = writeBoard(directory);
-        QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
-        drop(file);
-        QCOMPARE(m_window->windowTitle(), QString("dropped.json[*] - demo / pcb - Workbench"));
-        QVERIFY(!m_window->isWindowModified());
-        action("m_pSelectAllAct").trigger();
-        QVERIFY(!m_window->isWindowModified());
     }
 
     void theJobTreeMarksTheOpenStep()
@@ -289,31 +171,6 @@ private Q_SLOTS:
         QCOMPARE(said, selected);
     }
 
-    void recordingIsStartedAndStoppedFromTheMenu()
-    {
-        const QString file = m_directory.filePath("mine.session");
-        findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").setCurrentText("millimetre");
-        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
-        chooseFile(file);
-        action("m_pRecordAct").trigger();
-        QCOMPARE(action("m_pRecordAct").text(), QString("Stop &Recording"));
-        play("click m_pMoveFeatureTB\nmenu m_pFileMenu m_pRecordAct\nclick m_pMarkTB\n");
-        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
-        QFile recorded(file);
-        QVERIFY(recorded.open(QIODevice::ReadOnly));
-        QCOMPARE(recorded.readAll(),
-                 QByteArray("# Recorded by hand.\n"
-                            "# It begins with --unit mm --language en, in demo / pcb.\n"
-                            "click m_pMoveFeatureTB\n"));
-    }
-
-    void aRecordingThatCannotBeWrittenIsTold()
-    {
-        const auto failing = [this] { m_window->record(m_directory.filePath("no/a.session")); };
-        QVERIFY(!errorOf(failing).isEmpty());
-        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
-    }
-
     void choicesAreRemembered()
     {
         Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
@@ -332,7 +189,8 @@ private Q_SLOTS:
         QCOMPARE(findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").currentIndex(), 3);
         QCOMPARE(findNamed<QComboBox>(*m_window, "m_pHostLanguageCMB").currentIndex(), 1);
         QVERIFY(action("m_pSnapAct").isChecked());
-        QCOMPARE(findNamed<QLineEdit>(*m_window, "m_pGridStepLE").text(), QString("0.250 mm"));
+        const QString step = findNamed<QLineEdit>(*m_window, "m_pGridStepLE").text();
+        QVERIFY2(step.startsWith("0.2500 "), qPrintable(step));
         QVERIFY(action("m_pQuitAct").text() != "&Quit");
     }
 
@@ -355,80 +213,6 @@ private Q_SLOTS:
         options.recall();
         QCOMPARE(options.unit, CanvasHost::DisplayUnit::Mil);
         QCOMPARE(options.language, QString("en"));
-    }
-
-    void aDroppedJobIsOpened()
-    {
-        drop(writeJob("mine"));
-        QCOMPARE(m_window->windowTitle(), QString("mine / first[*] - Workbench"));
-        const auto& jobs = findNamed<QComboBox>(*m_window, "m_pHostJobCMB");
-        QCOMPARE(jobs.count(), 1);
-        const auto& tree = findNamed<QTreeWidget>(*m_window, "m_pJobTreeTW");
-        QCOMPARE(tree.topLevelItemCount(), 1);
-        QCOMPARE(tree.topLevelItem(0)->text(0), QString("mine"));
-    }
-
-    void aJobIsOpenedFromTheMenu()
-    {
-        const QString file = writeJob("mine");
-        const Boxes boxes(QMessageBox::Ok);
-        chooseFile(file);
-        action("m_pOpenJobAct").trigger();
-        QCOMPARE(m_window->windowTitle(), QString("mine / first[*] - Workbench"));
-        QCOMPARE(LastFolder::path(), m_directory.path());
-        QVERIFY(boxes.told.isEmpty());
-    }
-
-    void anotherJobAsksForTheChangesOfThisOne()
-    {
-        action("m_pSelectAllAct").trigger();
-        action("m_pDeleteAct").trigger();
-        const QString file = writeJob("demo");
-        {
-            const Boxes boxes(QMessageBox::Cancel);
-            drop(file);
-            QCOMPARE(boxes.told.size(), 1);
-            QVERIFY(m_window->windowTitle().startsWith("demo / pcb"));
-        }
-        const Boxes boxes(QMessageBox::Discard);
-        drop(file);
-        QCOMPARE(m_window->windowTitle(), QString("demo / first[*] - Workbench"));
-        QVERIFY(!m_window->isWindowModified());
-        // The board of a step with the same name is not that of the job before.
-        m_window->host()->openStep("demo", "pcb");
-        QVERIFY(!action("m_pUndoAct").isEnabled());
-        QVERIFY(m_window->canvas()->files().mayClose());
-        QCOMPARE(boxes.told.size(), 1);
-    }
-
-    void theStripIsToldOfAJobOfTheSameName()
-    {
-        drop(writeJob("demo"));
-        QStringList told;
-        for (const MessageRecord& message : m_log->messages()) {
-            told.append(message.receiver + " " + QString::number(message.code));
-        }
-        QCOMPARE(told.count(ModuleNames::toolStrip + " 20002003"), 2);
-    }
-
-    void aFileOfAnotherKindIsToldAsWhatItIs()
-    {
-        const Boxes boxes(QMessageBox::Ok);
-        m_window->canvas()->files().open(JOB_FILE);
-        const QString file = write("a.session", "# words\nclick m_pMarkTB\n");
-        drop(file);
-        chooseFile(writeBoard(m_directory));
-        action("m_pOpenJobAct").trigger();
-        QCOMPARE(boxes.told.size(), 3);
-        QVERIFY2(
-            boxes.told[0].startsWith("Cannot open the board|This is a job file, not a board\n\n"),
-            qPrintable(boxes.told[0]));
-        QCOMPARE(boxes.told[1], "Cannot open the board|This is a session, not a board\n\n" +
-                                    QDir::toNativeSeparators(file));
-        QVERIFY2(
-            boxes.told[2].startsWith("Cannot open the job|This is a board, not a job file\n\n"),
-            qPrintable(boxes.told[2]));
-        QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
     }
 
     void closingAsks()
@@ -486,24 +270,6 @@ private Q_SLOTS:
         QVERIFY(Settings::value("window/geometry").isValid());
     }
 
-    void recentFiles()
-    {
-        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
-        const auto list = [this] {
-            Q_EMIT findNamed<QMenu>(*m_window, "m_pFileMenu").aboutToShow();
-            return findNamed<QMenu>(*m_window, "m_pRecentMenu").actions();
-        };
-        QVERIFY(list().isEmpty());
-        const QString file = writeBoard(m_directory);
-        m_window->canvas()->files().open(file);
-        action("m_pNewBoardAct").trigger();
-        QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
-        QCOMPARE(list().size(), 1);
-        QCOMPARE(list()[0]->text(), QDir::toNativeSeparators(file));
-        list()[0]->trigger();
-        QVERIFY(m_window->windowTitle().startsWith("dropped.json"));
-    }
-
     void withoutSettingsNothingIsKept()
     {
         const QSize first = m_window->size();
@@ -513,13 +279,51 @@ private Q_SLOTS:
         QCOMPARE(m_window->size(), first);
     }
 
-    void documentation()
+    void documentationIsForWhoSitsThere()
     {
         action("m_pDocumentationAct").trigger();
-        const auto& pages = findNamed<QTextBrowser>(*m_window, "m_pDocumentation");
-        QVERIFY(pages.isVisible() && pages.isWindow());
-        QVERIFY2(pages.toPlainText().startsWith("The canvas of the workbench"),
-                 qPrintable(pages.toPlainText().left(80)));
+        const auto& window = findNamed<QWidget>(*m_window, "m_pDocumentation");
+        QVERIFY(window.isVisible() && window.isWindow());
+        auto& browser = findNamed<QTextBrowser>(window, "m_pPagesTE");
+        QStringList pages;
+        QList<QUrl> open{browser.source()};
+        while (!open.isEmpty()) {
+            const QString page = open.takeFirst().adjusted(QUrl::RemoveFragment).toLocalFile();
+            if (pages.contains(page)) {
+                continue;
+            }
+            pages.append(page);
+            browser.setSource(QUrl::fromLocalFile(page));
+            const QString text = browser.toPlainText();
+            QVERIFY2(text.size() > 1000, qPrintable(page));
+            // What developers read stays in the folder.
+            for (const char* const word : {"workbench/", "CanvasHost", ".cpp", ".h ", "QPoint"}) {
+                QVERIFY2(!text.contains(word), qPrintable(page + ": " + word));
+            }
+            open += linksOf(browser);
+        }
+        QStringList names;
+        for (const QString& page : pages) {
+            names.append(QFileInfo(page).fileName());
+        }
+        names.sort();
+        QCOMPARE(names, (QStringList{"files.md", "sessions.md", "using.md"}));
+    }
+
+    void documentationGoesBack()
+    {
+        action("m_pDocumentationAct").trigger();
+        auto& browser = findNamed<QTextBrowser>(*m_window, "m_pPagesTE");
+        QVERIFY(browser.toPlainText().startsWith("Using the workbench"));
+        QVERIFY(!action("m_pPageBackAct").isEnabled());
+        browser.setSource(QUrl("sessions.md"));
+        QVERIFY(browser.toPlainText().startsWith("Session files"));
+        action("m_pPageBackAct").trigger();
+        QVERIFY(browser.toPlainText().startsWith("Using the workbench"));
+        action("m_pPageForwardAct").trigger();
+        QVERIFY(browser.toPlainText().startsWith("Session files"));
+        action("m_pPageContentsAct").trigger();
+        QVERIFY(browser.toPlainText().startsWith("Using the workbench"));
     }
 };
 

@@ -44,7 +44,8 @@ struct Options {
     /// The same from `arguments` (the program's name first). The options of Qt itself ("-platform
     /// offscreen") are skipped.
     static Options parse(const QStringList& arguments);
-    /// What the command line leaves open is as the user chose it last; needs the application object.
+    /// What the command line leaves open is as the user chose it last; needs the application
+    /// object.
     void recall();
 
     /// The names under which the settings keep what the user chose.

@@ -159,7 +159,8 @@ void WorkbenchWindow::startOrStopRecording()
 {
     if (m_recorder->isRecording()) {
         // The step that stops it would start another one.
-        m_recorder->stop({QStringLiteral("menu"), m_fileMenu->objectName(), m_record->objectName()});
+        m_recorder->stop(
+            {QStringLiteral("menu"), m_fileMenu->objectName(), m_record->objectName()});
         showRecording();
         return;
     }
@@ -182,8 +183,7 @@ void WorkbenchWindow::startOrStopRecording()
 
 void WorkbenchWindow::showRecording()
 {
-    m_record->setText(m_recorder->isRecording() ? tr("Stop &Recording")
-                                                : tr("&Record Session..."));
+    m_record->setText(m_recorder->isRecording() ? tr("Stop &Recording") : tr("&Record Session..."));
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)

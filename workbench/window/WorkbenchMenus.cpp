@@ -6,17 +6,15 @@
 #include "plugin/ModuleNames.h"
 #include "shared/CanvasControl.h"
 #include "shared/Named.h"
+#include "window/Documentation.h"
 #include "window/WorkbenchWindow.h"
 
 #include <QAction>
-#include <QCoreApplication>
-#include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QTextBrowser>
 
 namespace {
 
@@ -127,15 +125,8 @@ void WorkbenchWindow::showTitle()
 void WorkbenchWindow::showDocumentation()
 {
     if (!m_pDocumentation) {
-        m_pDocumentation = named(new QTextBrowser(this), "m_pDocumentation");
-        m_pDocumentation->setWindowFlag(Qt::Window);
-        m_pDocumentation->setOpenExternalLinks(true);
-        m_pDocumentation->resize(760, 560);
+        m_pDocumentation = new Documentation(this);
     }
-    const QDir pages(QCoreApplication::applicationDirPath() +
-                     QStringLiteral("/../" WORKBENCH_DOCS_DIRECTORY "/workbench/docs"));
-    m_pDocumentation->setWindowTitle(tr("Documentation"));
-    m_pDocumentation->setSource(QUrl::fromLocalFile(QDir::cleanPath(pages.filePath("canvas.md"))));
     m_pDocumentation->show();
     m_pDocumentation->raise();
 }

@@ -27,7 +27,9 @@
 namespace Accepted = MessageCodes::Accepted;
 
 WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
-    : m_options(options), m_language(options.moduleDirectory), m_host(new HostState(this)),
+    : m_options(options),
+      m_language(options.moduleDirectory),
+      m_host(new HostState(this)),
       m_recorder(new SessionRecorder(this, this))
 {
     setObjectName(QStringLiteral("m_pWorkbench"));

@@ -15,6 +15,7 @@
 
 class CanvasControl;
 class ComposeDialog;
+class Documentation;
 class HostState;
 class MessageLog;
 class MessageMonitor;
@@ -25,7 +26,6 @@ class QComboBox;
 class QDockWidget;
 class QLabel;
 class QMenu;
-class QTextBrowser;
 class SessionRecorder;
 
 /// The host's window: the modules, the message monitor, and the host's own settings.
@@ -125,8 +125,8 @@ private:
     QMenu* m_helpMenu;
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
-    ComposeDialog* m_compose = nullptr;        // made when it is first asked for
-    QTextBrowser* m_pDocumentation = nullptr;  // likewise
+    ComposeDialog* m_compose = nullptr;         // made when it is first asked for
+    Documentation* m_pDocumentation = nullptr;  // likewise
     QPointer<QWidget> m_dimensions;  // a window of its own, made when it is first asked for
     std::unique_ptr<WindowLayout> m_layout;
     std::unique_ptr<ModulePlace> m_strip;
