@@ -529,14 +529,6 @@
 <context>
     <name>FileNames</name>
     <message>
-        <source>Open board</source>
-        <translation>打开板</translation>
-    </message>
-    <message>
-        <source>Export board</source>
-        <translation>导出板</translation>
-    </message>
-    <message>
         <source>Gerber (*.gbr)</source>
         <translation>Gerber (*.gbr)</translation>
     </message>
@@ -553,8 +545,16 @@
         <translation>板 (*.json)</translation>
     </message>
     <message>
-        <source>Save board</source>
+        <source>Open Board</source>
+        <translation>打开板</translation>
+    </message>
+    <message>
+        <source>Save Board</source>
         <translation>保存板</translation>
+    </message>
+    <message>
+        <source>Export Board</source>
+        <translation>导出板</translation>
     </message>
 </context>
 <context>

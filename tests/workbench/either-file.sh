@@ -17,6 +17,18 @@ opened() {
     SOURCE_DATE_EPOCH=0 "$workbench" --modules "$modules" "$1" --play title.session \
         --export "$1.gbr" --exit 2>err || { cat err; exit 1; }
 }
+mkdir folder
+cp job.json folder
+# File dialogs begin beside the job, or beside the board that is opened later.
+cat >folder.session <<END
+menu m_pFileMenu m_pOpenBoardAct
+expect state lookInCombo current=$dir/folder
+key fileNameEdit Escape
+END
+"$workbench" --modules "$modules" folder/job.json --play folder.session --exit 2>err || {
+    cat err
+    exit 1
+}
 opened job.json "mine / first - Workbench"
 opened board.json "board.json - demo / pcb - Workbench"
 sed -E 's/(canvas-workbench),[0-9.]+/\1,VERSION/' board.json.gbr | diff - <(cat <<'END'

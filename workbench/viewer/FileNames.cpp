@@ -20,13 +20,13 @@ QString titleOf(FileNames::Purpose purpose)
 {
     switch (purpose) {
         case FileNames::Purpose::Open:
-            return text(QT_TRANSLATE_NOOP("FileNames", "Open board"));
+            return text(QT_TRANSLATE_NOOP("FileNames", "Open Board"));
         case FileNames::Purpose::Save:
-            return text(QT_TRANSLATE_NOOP("FileNames", "Save board"));
+            return text(QT_TRANSLATE_NOOP("FileNames", "Save Board"));
         case FileNames::Purpose::Export:
             break;
     }
-    return text(QT_TRANSLATE_NOOP("FileNames", "Export board"));
+    return text(QT_TRANSLATE_NOOP("FileNames", "Export Board"));
 }
 
 QStringList kindsOf(FileNames::Purpose purpose)

@@ -195,6 +195,7 @@ void Options::take(const QCommandLineParser& parser)
             this->*row.flag = true;
         }
     }
+    isJobGiven = parser.isSet(QStringLiteral("job"));
     file = parser.positionalArguments().value(0);
     choose("language", language, languageChoices(), &LanguageChoice::code);
     isLanguageGiven = parser.isSet(languageChoice);

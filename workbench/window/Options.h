@@ -20,6 +20,7 @@ struct Options {
     QString moduleDirectory;
     QString file;  ///< a board or a job; empty: none
     QString jobFile;
+    bool isJobGiven = false;
     QString traceFile;       ///< empty: no trace
     QString screenshotFile;  ///< empty: no picture
     QString sessionFile;     ///< empty: nothing is played

@@ -4,6 +4,7 @@
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
 #include "shared/CanvasControl.h"
+#include "shared/FileQuestion.h"
 #include "shared/Settings.h"
 #include "window/Display.h"
 #include "window/Look.h"
@@ -54,8 +55,13 @@ void sortFile(Options* options)
     }
     const QByteArray content = CanvasHost::readWhole(options->file);
     const bool isJob = CanvasHost::kindOf(content) == CanvasHost::FileKind::Job;
+    if (isJob ? options->isJobGiven : !options->boardFile.isEmpty()) {
+        throw FileError{options->file, 0,
+                        QStringLiteral("another one is named by an option already")};
+    }
     QString& place = isJob ? options->jobFile : options->boardFile;
     place = options->file;
+    options->isJobGiven = options->isJobGiven || isJob;
 }
 
 /// Reads everything that may be wrong before a window is made.
@@ -146,6 +152,9 @@ int run(int argc, char* argv[])
         Settings::ignoreChoices();
     }
     inputs.options.recall();
+    if (inputs.options.isJobGiven) {
+        LastFolder::remember(inputs.options.jobFile);
+    }
     Look::dress(inputs.options);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
