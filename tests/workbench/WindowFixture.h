@@ -7,6 +7,10 @@
 #include "session/SessionPlayer.h"
 #include "shared/Settings.h"
 
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAction>
+#include <QApplication>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QLineEdit>
