@@ -20,5 +20,5 @@ END
     cat err
     exit 1
 }
-sed -n '/\[choices\]/,/^$/p' settings.ini | sort | diff - <(printf '%s\n' \
+sed -n '/\[choices\]/,/^$/p' settings.ini | tr -d '\r' | sort | diff - <(printf '%s\n' \
     '[choices]' grid=250 language=zh_CN snap=true unit=mm)

@@ -9,7 +9,9 @@ cd "$dir" || exit 1
 
 empty='"fonts":[],"specialSymbols":[],"userSymbols":[],"specialTexts":[],"attributes":[]'
 echo "{\"format\":1,\"jobs\":[{\"name\":\"mine\",\"steps\":[\"first\"],$empty}]}" >job.json
-echo '{"format":1,"job":"a*b","step":"c","outline":[],"features":[]}' >board.json
+mkdir folder
+cp job.json folder
+echo '{"format":1,"job":"a*b","step":"c","outline":[],"features":[]}' >folder/board.json
 
 # opened FILE TITLE
 opened() {
@@ -17,19 +19,19 @@ opened() {
     SOURCE_DATE_EPOCH=0 "$workbench" --modules "$modules" "$1" --play title.session \
         --export "$1.gbr" --exit 2>err || { cat err; exit 1; }
 }
-mkdir folder
-cp job.json folder
 # File dialogs begin beside the job, or beside the board that is opened later.
-cat >folder.session <<END
+cat >folder.session <<'END'
 menu m_pFileMenu m_pOpenBoardAct
-expect state lookInCombo current=$dir/folder
-key fileNameEdit Escape
+type fileNameEdit board.json
+key fileNameEdit Enter
+expect state m_pWorkbench "title=board.json - mine / first - Workbench"
 END
 "$workbench" --modules "$modules" folder/job.json --play folder.session --exit 2>err || {
     cat err
     exit 1
 }
 opened job.json "mine / first - Workbench"
+cp folder/board.json .
 opened board.json "board.json - demo / pcb - Workbench"
 sed -E 's/(canvas-workbench),[0-9.]+/\1,VERSION/' board.json.gbr | diff - <(cat <<'END'
 G04 #@! TF.GenerationSoftware,Canvas Tool Strip,canvas-workbench,VERSION*
