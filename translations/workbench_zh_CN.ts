@@ -179,6 +179,25 @@
     </message>
 </context>
 <context>
+    <name>Documentation</name>
+    <message>
+        <source>Documentation</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目录</translation>
+    </message>
+</context>
+<context>
     <name>EditTools</name>
     <message>
         <source>No feature here.</source>
@@ -332,10 +351,6 @@
         <translation>“%1”已更改。是否保存更改？</translation>
     </message>
     <message>
-        <source>Board</source>
-        <translation>板</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>打开</translation>
     </message>
@@ -347,6 +362,18 @@
         <source>Export</source>
         <translation>导出</translation>
     </message>
+    <message>
+        <source>Cannot open the board</source>
+        <translation>无法打开板</translation>
+    </message>
+    <message>
+        <source>Cannot export the board</source>
+        <translation>无法导出板</translation>
+    </message>
+    <message>
+        <source>Cannot save the board</source>
+        <translation>无法保存板</translation>
+    </message>
 </context>
 <context>
     <name>FileErrors</name>
@@ -355,24 +382,12 @@
         <translation>不能为 0</translation>
     </message>
     <message>
-        <source>must have %1 points or more, not %2</source>
-        <translation>必须有 %1 个或更多点，而不是 %2 个</translation>
-    </message>
-    <message>
-        <source>must have %1 points, not %2</source>
-        <translation>必须有 %1 个点，而不是 %2 个</translation>
-    </message>
-    <message>
         <source>must be a pair of numbers</source>
         <translation>必须是一对数字</translation>
     </message>
     <message>
         <source>a coordinate is ten metres or farther from 0</source>
         <translation>有坐标距 0 达十米或更远</translation>
-    </message>
-    <message>
-        <source>the board is empty</source>
-        <translation>板为空</translation>
     </message>
     <message>
         <source>must be more than 0</source>
@@ -474,17 +489,45 @@
         <source>is not a canvas for this window</source>
         <translation>不是此窗口的画布</translation>
     </message>
+    <message>
+        <source>a board</source>
+        <translation>板文件</translation>
+    </message>
+    <message>
+        <source>a job file</source>
+        <translation>料号文件</translation>
+    </message>
+    <message>
+        <source>a message trace</source>
+        <translation>消息记录</translation>
+    </message>
+    <message>
+        <source>a session</source>
+        <translation>会话文件</translation>
+    </message>
+    <message>
+        <source>a Gerber file</source>
+        <translation>Gerber 文件</translation>
+    </message>
+    <message>
+        <source>a picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>this is %1, not %2</source>
+        <translation>这是%1，不是%2</translation>
+    </message>
+    <message>
+        <source>must be at least %1 in number, not %2</source>
+        <translation>至少应为 %1 个，而不是 %2 个</translation>
+    </message>
+    <message>
+        <source>must be %1 in number, not %2</source>
+        <translation>应为 %1 个，而不是 %2 个</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
-    <message>
-        <source>Open board</source>
-        <translation>打开板</translation>
-    </message>
-    <message>
-        <source>Export board</source>
-        <translation>导出板</translation>
-    </message>
     <message>
         <source>Gerber (*.gbr)</source>
         <translation>Gerber (*.gbr)</translation>
@@ -502,8 +545,16 @@
         <translation>板 (*.json)</translation>
     </message>
     <message>
-        <source>Save board</source>
+        <source>Open Board</source>
+        <translation>打开板</translation>
+    </message>
+    <message>
+        <source>Save Board</source>
         <translation>保存板</translation>
+    </message>
+    <message>
+        <source>Export Board</source>
+        <translation>导出板</translation>
     </message>
 </context>
 <context>
@@ -528,14 +579,8 @@
         <translation>双击打开一个步骤。</translation>
     </message>
     <message>
-        <source>Add Feature has not been started yet.</source>
-        <translation>尚未启动添加图元。</translation>
-    </message>
-    <message numerus="yes">
-        <source>Add Feature has been started %n time(s).</source>
-        <translation>
-            <numerusform>添加图元已启动 %n 次。</numerusform>
-        </translation>
+        <source>%1 (open)</source>
+        <translation>%1（已打开）</translation>
     </message>
 </context>
 <context>
@@ -711,24 +756,12 @@
         </translation>
     </message>
     <message>
-        <source>%1 of %2 messages</source>
-        <translation>%1 / %2 条消息</translation>
-    </message>
-    <message>
         <source>Select a message to see it in full.</source>
         <translation>选择一条消息以查看全部内容。</translation>
     </message>
     <message>
         <source>Save Trace</source>
         <translation>保存消息记录</translation>
-    </message>
-    <message>
-        <source>Message traces (*.jsonl);;All files (*)</source>
-        <translation>消息记录 (*.jsonl);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>%1 was not saved: %2</source>
-        <translation>%1 未能保存: %2</translation>
     </message>
     <message>
         <source>Filter: any text of a message</source>
@@ -746,252 +779,270 @@
         <source>Compose...</source>
         <translation>编写...</translation>
     </message>
+    <message>
+        <source>Message traces (*.jsonl)</source>
+        <translation>消息记录 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Cannot save the trace</source>
+        <translation>无法保存消息记录</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n message(s)</source>
+        <translation>
+            <numerusform>%1 / %n 条消息</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MessageNames</name>
     <message>
-        <source>Job and step opened</source>
-        <translation>料号和步骤已打开</translation>
-    </message>
-    <message>
-        <source>Job and step</source>
-        <translation>料号和步骤</translation>
-    </message>
-    <message>
-        <source>Job name</source>
-        <translation>料号名</translation>
-    </message>
-    <message>
-        <source>Unit changed</source>
-        <translation>单位已改变</translation>
-    </message>
-    <message>
-        <source>Language changed</source>
-        <translation>语言已改变</translation>
-    </message>
-    <message>
-        <source>Symbols picked</source>
-        <translation>已选取符号</translation>
-    </message>
-    <message>
-        <source>Attributes picked</source>
-        <translation>已选取属性</translation>
-    </message>
-    <message>
-        <source>User symbols changed</source>
-        <translation>用户符号已改变</translation>
-    </message>
-    <message>
-        <source>Release all tools</source>
-        <translation>释放所有工具</translation>
-    </message>
-    <message>
-        <source>Area zoom</source>
-        <translation>区域缩放</translation>
-    </message>
-    <message>
-        <source>Feature selection</source>
-        <translation>选择图元</translation>
-    </message>
-    <message>
-        <source>Rectangle selection</source>
-        <translation>矩形框选</translation>
-    </message>
-    <message>
-        <source>Polygon selection</source>
-        <translation>多边形框选</translation>
-    </message>
-    <message>
-        <source>Select polyline</source>
-        <translation>选择折线</translation>
-    </message>
-    <message>
-        <source>Select layer net</source>
-        <translation>选择层网络</translation>
-    </message>
-    <message>
-        <source>Select board net</source>
-        <translation>选择板网络</translation>
-    </message>
-    <message>
-        <source>Check and measure</source>
-        <translation>选中并测量</translation>
-    </message>
-    <message>
         <source>Measure</source>
         <translation>测量</translation>
-    </message>
-    <message>
-        <source>Add feature is active</source>
-        <translation>添加图元已激活</translation>
-    </message>
-    <message>
-        <source>Add feature</source>
-        <translation>添加图元</translation>
-    </message>
-    <message>
-        <source>Delete feature</source>
-        <translation>删除图元</translation>
-    </message>
-    <message>
-        <source>Move feature</source>
-        <translation>移动图元</translation>
-    </message>
-    <message>
-        <source>Close dialogs</source>
-        <translation>关闭对话框</translation>
-    </message>
-    <message>
-        <source>No code</source>
-        <translation>无代码</translation>
-    </message>
-    <message>
-        <source>Feature selection off</source>
-        <translation>选择图元 关</translation>
-    </message>
-    <message>
-        <source>Rectangle selection off</source>
-        <translation>矩形框选 关</translation>
-    </message>
-    <message>
-        <source>Copy feature</source>
-        <translation>复制图元</translation>
-    </message>
-    <message>
-        <source>Change line angle</source>
-        <translation>改变线角度</translation>
-    </message>
-    <message>
-        <source>Stretch line</source>
-        <translation>拉伸线</translation>
-    </message>
-    <message>
-        <source>Rotate feature</source>
-        <translation>旋转图元</translation>
-    </message>
-    <message>
-        <source>Mirror feature</source>
-        <translation>镜像图元</translation>
-    </message>
-    <message>
-        <source>Invert feature</source>
-        <translation>反转图元极性</translation>
-    </message>
-    <message>
-        <source>Break line</source>
-        <translation>打断线</translation>
-    </message>
-    <message>
-        <source>Rout dimension</source>
-        <translation>锣带尺寸编辑</translation>
-    </message>
-    <message>
-        <source>Contour editor</source>
-        <translation>轮廓编辑</translation>
-    </message>
-    <message>
-        <source>Pull line</source>
-        <translation>拉线</translation>
-    </message>
-    <message>
-        <source>Move junction</source>
-        <translation>移动连接点</translation>
-    </message>
-    <message>
-        <source>Move triplet</source>
-        <translation>移动三段线</translation>
-    </message>
-    <message>
-        <source>Reroute trace</source>
-        <translation>重新布线</translation>
-    </message>
-    <message>
-        <source>Open a pop view</source>
-        <translation>打开弹出视图</translation>
-    </message>
-    <message>
-        <source>Feature highlight</source>
-        <translation>高亮图元</translation>
-    </message>
-    <message>
-        <source>Polygon selection off</source>
-        <translation>多边形框选 关</translation>
-    </message>
-    <message>
-        <source>Invert feature off</source>
-        <translation>反转图元极性 关</translation>
-    </message>
-    <message>
-        <source>Break line off</source>
-        <translation>打断线 关</translation>
-    </message>
-    <message>
-        <source>Change line angle off</source>
-        <translation>改变线角度 关</translation>
-    </message>
-    <message>
-        <source>Stretch line off</source>
-        <translation>拉伸线 关</translation>
-    </message>
-    <message>
-        <source>Rotate feature off</source>
-        <translation>旋转图元 关</translation>
-    </message>
-    <message>
-        <source>Add feature started</source>
-        <translation>添加图元已启动</translation>
-    </message>
-    <message>
-        <source>Move triplet off</source>
-        <translation>移动三段线 关</translation>
-    </message>
-    <message>
-        <source>Reroute trace off</source>
-        <translation>重新布线 关</translation>
     </message>
     <message>
         <source>Mark</source>
         <translation>标记</translation>
     </message>
     <message>
-        <source>Mark settings</source>
-        <translation>标记设置</translation>
-    </message>
-    <message>
-        <source>Select a symbol on the board</source>
-        <translation>在板上选取符号</translation>
-    </message>
-    <message>
-        <source>Dialogs closed</source>
-        <translation>对话框已关闭</translation>
-    </message>
-    <message>
         <source>EQ</source>
         <translation>EQ</translation>
-    </message>
-    <message>
-        <source>Feature record</source>
-        <translation>图元记录</translation>
     </message>
     <message>
         <source>Attributes</source>
         <translation>属性</translation>
     </message>
     <message>
-        <source>Feature record (direction)</source>
-        <translation>图元记录 (方向)</translation>
-    </message>
-    <message>
         <source>Fill</source>
         <translation>填充</translation>
     </message>
     <message>
-        <source>Select attributes on the board</source>
+        <source>Open Job and Step</source>
+        <translation>打开料号和步骤</translation>
+    </message>
+    <message>
+        <source>Job and Step Opened</source>
+        <translation>料号和步骤已打开</translation>
+    </message>
+    <message>
+        <source>Job and Step</source>
+        <translation>料号和步骤</translation>
+    </message>
+    <message>
+        <source>Check and Measure</source>
+        <translation>选中并测量</translation>
+    </message>
+    <message>
+        <source>Release All Tools</source>
+        <translation>释放所有工具</translation>
+    </message>
+    <message>
+        <source>Add Feature Is Active</source>
+        <translation>添加图元已激活</translation>
+    </message>
+    <message>
+        <source>No Code</source>
+        <translation>无代码</translation>
+    </message>
+    <message>
+        <source>Open a Popview</source>
+        <translation>打开弹出视图</translation>
+    </message>
+    <message>
+        <source>Feature HighLight</source>
+        <translation>高亮图元</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>Rout Dimension Editor</source>
+        <translation>锣带尺寸编辑</translation>
+    </message>
+    <message>
+        <source>Move Triplet(Angle)</source>
+        <translation>移动三段线(保持角度)</translation>
+    </message>
+    <message>
+        <source>Reroute Trace(Fix Point)</source>
+        <translation>重新布线(固定点)</translation>
+    </message>
+    <message>
+        <source>Select a Symbol on the Board</source>
+        <translation>在板上选取符号</translation>
+    </message>
+    <message>
+        <source>Feature Record</source>
+        <translation>图元记录</translation>
+    </message>
+    <message>
+        <source>Feature Record (Direction)</source>
+        <translation>图元记录 (方向)</translation>
+    </message>
+    <message>
+        <source>Select Attributes on the Board</source>
         <translation>在板上选取属性</translation>
     </message>
     <message>
-        <source>Open job and step</source>
-        <translation>打开料号和步骤</translation>
+        <source>Area Zoom</source>
+        <translation>区域缩放</translation>
+    </message>
+    <message>
+        <source>Feature Selection</source>
+        <translation>选择图元</translation>
+    </message>
+    <message>
+        <source>Rectangle Selection</source>
+        <translation>矩形框选</translation>
+    </message>
+    <message>
+        <source>Feature Selection Off</source>
+        <translation>选择图元 关</translation>
+    </message>
+    <message>
+        <source>Rectangle Selection Off</source>
+        <translation>矩形框选 关</translation>
+    </message>
+    <message>
+        <source>Delete Feature</source>
+        <translation>删除图元</translation>
+    </message>
+    <message>
+        <source>Move Feature</source>
+        <translation>移动图元</translation>
+    </message>
+    <message>
+        <source>Copy Feature</source>
+        <translation>复制图元</translation>
+    </message>
+    <message>
+        <source>Change Line Angle</source>
+        <translation>改变线角度</translation>
+    </message>
+    <message>
+        <source>Stretch Line</source>
+        <translation>拉伸线</translation>
+    </message>
+    <message>
+        <source>Invert Feature</source>
+        <translation>反转图元极性</translation>
+    </message>
+    <message>
+        <source>Break Line</source>
+        <translation>打断线</translation>
+    </message>
+    <message>
+        <source>Contour Editor</source>
+        <translation>轮廓编辑</translation>
+    </message>
+    <message>
+        <source>Pull Line</source>
+        <translation>拉线</translation>
+    </message>
+    <message>
+        <source>Move Junction</source>
+        <translation>移动连接点</translation>
+    </message>
+    <message>
+        <source>Polygon Selection</source>
+        <translation>多边形框选</translation>
+    </message>
+    <message>
+        <source>Polygon Selection Off</source>
+        <translation>多边形框选 关</translation>
+    </message>
+    <message>
+        <source>Invert Feature Off</source>
+        <translation>反转图元极性 关</translation>
+    </message>
+    <message>
+        <source>Break Line Off</source>
+        <translation>打断线 关</translation>
+    </message>
+    <message>
+        <source>Change Line Angle Off</source>
+        <translation>改变线角度 关</translation>
+    </message>
+    <message>
+        <source>Stretch Line Off</source>
+        <translation>拉伸线 关</translation>
+    </message>
+    <message>
+        <source>Rotate Feature Off</source>
+        <translation>旋转图元 关</translation>
+    </message>
+    <message>
+        <source>Add Feature</source>
+        <translation>添加图元</translation>
+    </message>
+    <message>
+        <source>Select Polyline</source>
+        <translation>选择折线</translation>
+    </message>
+    <message>
+        <source>Select Layer Net</source>
+        <translation>选择层网络</translation>
+    </message>
+    <message>
+        <source>Select Board Net</source>
+        <translation>选择板网络</translation>
+    </message>
+    <message>
+        <source>Add Feature Started</source>
+        <translation>添加图元已启动</translation>
+    </message>
+    <message>
+        <source>Move Triplet Off</source>
+        <translation>移动三段线 关</translation>
+    </message>
+    <message>
+        <source>Reroute Trace Off</source>
+        <translation>重新布线 关</translation>
+    </message>
+    <message>
+        <source>Mark Settings</source>
+        <translation>标记设置</translation>
+    </message>
+    <message>
+        <source>Dialogs Closed</source>
+        <translation>对话框已关闭</translation>
+    </message>
+    <message>
+        <source>Attributes Picked</source>
+        <translation>已选取属性</translation>
+    </message>
+    <message>
+        <source>Symbols Picked</source>
+        <translation>已选取符号</translation>
+    </message>
+    <message>
+        <source>User Symbols Changed</source>
+        <translation>用户符号已改变</translation>
+    </message>
+    <message>
+        <source>Job Name</source>
+        <translation>料号名</translation>
+    </message>
+    <message>
+        <source>Unit Changed</source>
+        <translation>单位已改变</translation>
+    </message>
+    <message>
+        <source>Language Changed</source>
+        <translation>语言已改变</translation>
+    </message>
+    <message>
+        <source>Close Dialogs</source>
+        <translation>关闭对话框</translation>
     </message>
 </context>
 <context>
@@ -1028,10 +1079,6 @@
         <translation>过滤</translation>
     </message>
     <message>
-        <source>Ok</source>
-        <translation>确定</translation>
-    </message>
-    <message>
         <source>Fonts</source>
         <translation>字体</translation>
     </message>
@@ -1042,6 +1089,10 @@
     <message>
         <source>Symbols</source>
         <translation>符号</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
     </message>
 </context>
 <context>
@@ -1356,12 +1407,12 @@
         <translation>板</translation>
     </message>
     <message>
-        <source>Second view</source>
-        <translation>第二视图</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a position (two numbers, and mil, inch, um or mm).</source>
         <translation>“%1”不是位置（两个数，以及 mil、inch、um 或 mm）。</translation>
+    </message>
+    <message>
+        <source>Popview</source>
+        <translation>弹出视图</translation>
     </message>
 </context>
 <context>
@@ -1435,20 +1486,12 @@
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Modules</source>
-        <translation>模块</translation>
-    </message>
-    <message>
         <source>Save Picture</source>
         <translation>保存图片</translation>
     </message>
     <message>
         <source>Pictures (*.png)</source>
         <translation>图片 (*.png)</translation>
-    </message>
-    <message>
-        <source>%1 was not saved.</source>
-        <translation>%1 未能保存。</translation>
     </message>
     <message>
         <source>&amp;Documentation</source>
@@ -1497,8 +1540,52 @@ Qt %2</translation>
         <translation>恢复布局(&amp;L)</translation>
     </message>
     <message>
-        <source>Documentation</source>
-        <translation>文档</translation>
+        <source>Open Job</source>
+        <translation>打开料号</translation>
+    </message>
+    <message>
+        <source>Jobs (*.json)</source>
+        <translation>料号 (*.json)</translation>
+    </message>
+    <message>
+        <source>Cannot open the job</source>
+        <translation>无法打开料号</translation>
+    </message>
+    <message>
+        <source>Cannot save the picture</source>
+        <translation>无法保存图片</translation>
+    </message>
+    <message>
+        <source>Open &amp;Job...</source>
+        <translation>打开料号(&amp;J)...</translation>
+    </message>
+    <message>
+        <source>Cannot load the edit tools</source>
+        <translation>无法加载编辑工具</translation>
+    </message>
+    <message>
+        <source>Cannot load Dimensions</source>
+        <translation>无法加载标注</translation>
+    </message>
+    <message>
+        <source>Record Session</source>
+        <translation>录制会话</translation>
+    </message>
+    <message>
+        <source>Sessions (*.session)</source>
+        <translation>会话 (*.session)</translation>
+    </message>
+    <message>
+        <source>Cannot record the session</source>
+        <translation>无法录制会话</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>停止录制(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Record Session...</source>
+        <translation>录制会话(&amp;R)...</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "JobFile.h"
 
+#include <FileKind.h>
 #include <Files.h>
 #include <Json.h>
 
@@ -79,11 +80,9 @@ Job readJob(const JsonNode& node)
     return job;
 }
 
-}  // namespace
-
-std::vector<Job> readJobFile(const QString& file)
+std::vector<Job> jobsFromJson(const QByteArray& text, const QString& file)
 {
-    const JsonDocument document(readWhole(file), file);
+    const JsonDocument document(text, file);
     const JsonNode root = document.root();
     root.requireObject({QStringLiteral("format"), QStringLiteral("jobs")});
     root.member(QStringLiteral("format")).integer(supportedFormat, supportedFormat);
@@ -92,6 +91,14 @@ std::vector<Job> readJobFile(const QString& file)
                       QStringLiteral("specialSymbols"), QStringLiteral("userSymbols"),
                       QStringLiteral("specialTexts"), QStringLiteral("attributes")},
                      readJob);
+}
+
+}  // namespace
+
+std::vector<Job> readJobFile(const QString& file)
+{
+    const QByteArray text = readWhole(file);
+    return readAs(FileKind::Job, text, [&] { return jobsFromJson(text, file); });
 }
 
 }  // namespace CanvasHost

@@ -104,5 +104,5 @@ void NameList::retranslate()
     m_filter->setPlaceholderText(tr("Filter"));
     m_filter->setAccessibleName(tr("Filter"));
     m_list->setAccessibleName(tr(m_title));
-    m_ok->setText(tr("Ok"));
+    m_ok->setText(tr("OK"));
 }

@@ -10,14 +10,17 @@ struct FileError {
     int line = 0;  ///< from 1; 0: no line
     QString reason;
 
+    /// "<file>:<line>", without parts that are not set.
+    QString place() const
+    {
+        const QString number = line > 0 ? QString::number(line) : QString();
+        return file.isEmpty() || line == 0 ? file + number : file + QStringLiteral(":") + number;
+    }
+
     /// "<file>:<line>: <reason>", without parts that are not set.
     QString text() const
     {
-        QString place = file;
-        if (line > 0) {
-            place += (file.isEmpty() ? QString() : QStringLiteral(":")) + QString::number(line);
-        }
-        return place.isEmpty() ? reason : place + QStringLiteral(": ") + reason;
+        return place().isEmpty() ? reason : place() + QStringLiteral(": ") + reason;
     }
 };
 

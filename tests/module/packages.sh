@@ -24,7 +24,8 @@ holds "$module" $private/modules/Canvas_Tool_Strip.so \
     $private/translations/Canvas_Tool_Strip_zh_CN.qm
 holds "$workbench" usr/bin/canvas-workbench $private/modules/Canvas_Viewer.so \
     $private/modules/Canvas_JobTree.so $private/modules/Canvas_Dimensions.so \
-    $private/translations/workbench_zh_CN.qm $private/host/libCanvasHostPluginManager.so.2 \
+    $private/translations/workbench_zh_CN.qm $private/translations/workbench_en.qm \
+    $private/host/libCanvasHostPluginManager.so.2 \
     usr/share/canvas-tool-strip/samples/board.json \
     usr/share/canvas-tool-strip/samples/sessions/unit.session \
     usr/share/applications/canvas-workbench.desktop \

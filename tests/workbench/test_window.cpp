@@ -1,65 +1,44 @@
-// The host's window: its menus, its title, and what is dropped on it.
+// The host's window: its menus, its texts, and what it remembers.
 
-#include "FindChild.h"
 #include "Main.h"
-#include "StartWorkbench.h"
+#include "WindowFixture.h"
+#include "plugin/MessageCodes.h"
 #include "shared/CanvasControl.h"
-#include "shared/Settings.h"
 
 #include <QAbstractButton>
-#include <QDir>
-#include <QDropEvent>
-#include <QMenu>
+#include <QComboBox>
+#include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QMimeData>
 #include <QScreen>
-#include <QSignalSpy>
-#include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTextBrowser>
-#include <QTimer>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 
-#include <memory>
+namespace {
 
-class TestWindow : public QObject {
+QList<QUrl> linksOf(const QTextBrowser& browser)
+{
+    QList<QUrl> links;
+    for (QTextBlock block = browser.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (format.isAnchor()) {
+                links.append(browser.source().resolved(QUrl(format.anchorHref())));
+            }
+        }
+    }
+    return links;
+}
+
+}  // namespace
+
+class TestWindow : public QObject, private WindowFixture {
     Q_OBJECT
 
-private:
-    QTemporaryDir m_directory;
-    std::unique_ptr<MessageLog> m_log;
-    std::unique_ptr<WorkbenchWindow> m_window;
-
-    QStringList entries(const char* menu) const
-    {
-        QStringList names;
-        for (const QAction* const action : findNamed<QMenu>(*m_window, menu).actions()) {
-            names.append(action->isSeparator() ? QString("-")
-                         : action->menu()      ? action->menu()->objectName()
-                                               : action->objectName());
-        }
-        return names;
-    }
-    QAction& action(const char* name) const { return *m_window->findChild<QAction*>(name); }
-
-    QString writeBoard(const QTemporaryDir& directory) const
-    {
-        const QString file = directory.filePath("dropped.json");
-        QFile board(file);
-        if (!board.open(QIODevice::WriteOnly)) {
-            qFatal("%s", qPrintable(board.errorString()));
-        }
-        board.write(R"({"format":1,"job":"a","step":"b","outline":[],"features":[]})");
-        return file;
-    }
-
 private Q_SLOTS:
-    void init()
-    {
-        m_window.reset();
-        m_log = std::make_unique<MessageLog>();
-        m_window = startWorkbench(*m_log);
-        m_window->show();
-    }
+    void init() { restart({}); }
     void cleanup()
     {
         Settings::keepIn({});
@@ -75,9 +54,10 @@ private Q_SLOTS:
         }
         QCOMPARE(titles, QStringList({"&File", "&Edit", "&View", "&Send", "&Help"}));
         QCOMPARE(entries("m_pFileMenu"),
-                 QStringList({"m_pNewBoardAct", "m_pOpenBoardAct", "m_pRecentMenu",
+                 QStringList({"m_pNewBoardAct", "m_pOpenBoardAct", "m_pOpenJobAct", "m_pRecentMenu",
                               "m_pSaveBoardAct", "m_pSaveBoardAsAct", "m_pExportBoardAct", "-",
-                              "m_pSaveTraceAct", "m_pSavePictureAct", "-", "m_pQuitAct"}));
+                              "m_pSaveTraceAct", "m_pSavePictureAct", "m_pRecordAct", "-",
+                              "m_pQuitAct"}));
         QCOMPARE(entries("m_pEditMenu"),
                  QStringList({"m_pUndoAct", "m_pRedoAct", "-", "m_pSelectAllAct", "m_pDeselectAct",
                               "m_pDeleteAct"}));
@@ -111,37 +91,128 @@ private Q_SLOTS:
         QCOMPARE(action("m_pUndoAct").iconText(), QString("Undo"));
     }
 
-    void titleAndDroppedFile()
+    void theJobTreeMarksTheOpenStep()
     {
-        const QTemporaryDir directory;
-        const QString file = writeBoard(directory);
-        QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(file)});
-        auto& board = *findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView").viewport();
-        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&board, &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&board, &drop);
-        QCOMPARE(m_window->windowTitle(), QString("dropped.json[*] - demo / pcb - Workbench"));
-        QVERIFY(!m_window->isWindowModified());
-        action("m_pSelectAllAct").trigger();
-        QVERIFY(!m_window->isWindowModified());
+        const auto& tree = findNamed<QTreeWidget>(*m_window, "m_pJobTreeTW");
+        const auto marked = [this] {
+            QStringList steps;
+            for (QTreeWidgetItemIterator item(&findNamed<QTreeWidget>(*m_window, "m_pJobTreeTW"));
+                 *item; ++item) {
+                if ((*item)->font(0).bold()) {
+                    steps.append((*item)->parent()->text(0) + "/" + (*item)->text(0));
+                }
+            }
+            return steps.join(' ');
+        };
+        QCOMPARE(marked(), QString("demo/pcb"));
+        QCOMPARE(tree.currentItem()->text(0), QString("pcb"));
+        findNamed<QComboBox>(*m_window, "m_pHostStepCMB").setCurrentText("panel");
+        QCOMPARE(marked(), QString("demo/panel"));
+        findNamed<QComboBox>(*m_window, "m_pHostJobCMB").setCurrentText("sensor_board");
+        QCOMPARE(marked(), QString("sensor_board/pcb"));
+        Q_EMIT findNamed<QTreeWidget>(*m_window, "m_pJobTreeTW")
+            .itemDoubleClicked(tree.topLevelItem(0)->child(1), 0);
+        QCOMPARE(marked(), QString("demo/array"));
+        QCOMPARE(m_window->windowTitle(), QString("demo / array[*] - Workbench"));
     }
 
-    void aFileThatIsNoBoardIsTold()
+    void pluralsArePlurals_data()
     {
-        QString told;
-        QTimer::singleShot(50, [&] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                told = box->text();
-                box->accept();
-            }
-        });
-        m_window->canvas()->files().open(JOB_FILE);
-        QVERIFY2(told.startsWith(JOB_FILE ":"), qPrintable(told));
-        QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("counts");
+        QTest::addColumn<QStringList>("selected");
+        QTest::newRow("English") << "English"
+                                 << QStringList{"0 messages", "1 message", "2 messages",
+                                                "0 of 2 messages"}
+                                 << QStringList{"1 feature selected.", "2 features selected."};
+        QTest::newRow("Chinese")
+            << QString::fromUtf8("\u7b80\u4f53\u4e2d\u6587")
+            << QStringList{QString::fromUtf8("0 \u6761\u6d88\u606f"),
+                           QString::fromUtf8("1 \u6761\u6d88\u606f"),
+                           QString::fromUtf8("2 \u6761\u6d88\u606f"),
+                           QString::fromUtf8("0 / 2 \u6761\u6d88\u606f")}
+            << QStringList{QString::fromUtf8("\u5df2\u9009\u62e9 1 \u4e2a\u56fe\u5143\u3002"),
+                           QString::fromUtf8("\u5df2\u9009\u62e9 2 \u4e2a\u56fe\u5143\u3002")};
+    }
+
+    void pluralsArePlurals()
+    {
+        QFETCH(QString, language);
+        QFETCH(QStringList, counts);
+        QFETCH(QStringList, selected);
+        findNamed<QComboBox>(*m_window, "m_pHostLanguageCMB").setCurrentText(language);
+        auto& filter = findNamed<QLineEdit>(*m_window, "m_pMonitorFilterLE");
+        const auto& count = findNamed<QLabel>(*m_window, "m_pMonitorCountLB");
+        QStringList counted;
+        m_log->clear();
+        for (int sent = 0; sent < 3; ++sent) {
+            counted.append(count.text());
+            m_window->host()->sendSample(MessageCodes::Accepted::JobName);
+        }
+        m_log->clear();
+        m_window->host()->sendSample(MessageCodes::Accepted::JobName);
+        m_window->host()->sendSample(MessageCodes::Accepted::JobName);
+        filter.setText("nothing has this");
+        counted.append(count.text());
+        QCOMPARE(counted, counts);
+        const auto& status = findNamed<QLabel>(*m_window, "m_pCanvasStatusLB");
+        findNamed<QToolButton>(*m_window, "m_pFeatureSelectionTB").click();
+        auto& board = findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView");
+        QStringList said;
+        const std::pair<double, Qt::KeyboardModifiers> clicks[] = {{17500, Qt::NoModifier},
+                                                                   {3700, Qt::ControlModifier}};
+        for (const auto& [x, modifiers] : clicks) {
+            QPoint place;
+            QMetaObject::invokeMethod(&board, "viewPoint", Q_RETURN_ARG(QPoint, place),
+                                      Q_ARG(double, x), Q_ARG(double, x > 9000 ? 5400 : 3400));
+            QTest::mouseClick(board.viewport(), Qt::LeftButton, modifiers, place);
+            said.append(status.text());
+        }
+        QCOMPARE(said, selected);
+    }
+
+    void choicesAreRemembered()
+    {
+        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        init();
+        findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").setCurrentIndex(3);
+        findNamed<QComboBox>(*m_window, "m_pHostLanguageCMB").setCurrentIndex(1);
+        action("m_pSnapAct").trigger();
+        auto& grid = findNamed<QLineEdit>(*m_window, "m_pGridStepLE");
+        grid.setFocus();
+        grid.clear();
+        QTest::keyClicks(&grid, "0.25");
+        QTest::keyClick(&grid, Qt::Key_Return);
+        Options options;
+        options.recall();
+        restart(options);
+        QCOMPARE(findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").currentIndex(), 3);
+        QCOMPARE(findNamed<QComboBox>(*m_window, "m_pHostLanguageCMB").currentIndex(), 1);
+        QVERIFY(action("m_pSnapAct").isChecked());
+        const QString step = findNamed<QLineEdit>(*m_window, "m_pGridStepLE").text();
+        QVERIFY2(step.startsWith("0.2500 "), qPrintable(step));
+        QVERIFY(action("m_pQuitAct").text() != "&Quit");
+    }
+
+    void optionsComeBeforeWhatIsRemembered()
+    {
+        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        Settings::choose("unit", "mm");
+        Settings::choose("language", "zh_CN");
+        Options options = Options::parse({"workbench", "--unit", "inch"});
+        options.recall();
+        QCOMPARE(options.unit, CanvasHost::DisplayUnit::Inch);
+        QCOMPARE(options.language, QString("zh_CN"));
+        options = Options::parse({"workbench", "--language", "en"});
+        options.recall();
+        QCOMPARE(options.unit, CanvasHost::DisplayUnit::Millimetre);
+        QCOMPARE(options.language, QString("en"));
+        Settings::choose("unit", "foot");
+        Settings::choose("language", "fr");
+        options = Options::parse({"workbench"});
+        options.recall();
+        QCOMPARE(options.unit, CanvasHost::DisplayUnit::Mil);
+        QCOMPARE(options.language, QString("en"));
     }
 
     void closingAsks()
@@ -199,24 +270,6 @@ private Q_SLOTS:
         QVERIFY(Settings::value("window/geometry").isValid());
     }
 
-    void recentFiles()
-    {
-        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
-        const auto list = [this] {
-            Q_EMIT findNamed<QMenu>(*m_window, "m_pFileMenu").aboutToShow();
-            return findNamed<QMenu>(*m_window, "m_pRecentMenu").actions();
-        };
-        QVERIFY(list().isEmpty());
-        const QString file = writeBoard(m_directory);
-        m_window->canvas()->files().open(file);
-        action("m_pNewBoardAct").trigger();
-        QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
-        QCOMPARE(list().size(), 1);
-        QCOMPARE(list()[0]->text(), QDir::toNativeSeparators(file));
-        list()[0]->trigger();
-        QVERIFY(m_window->windowTitle().startsWith("dropped.json"));
-    }
-
     void withoutSettingsNothingIsKept()
     {
         const QSize first = m_window->size();
@@ -226,13 +279,51 @@ private Q_SLOTS:
         QCOMPARE(m_window->size(), first);
     }
 
-    void documentation()
+    void documentationIsForWhoSitsThere()
     {
         action("m_pDocumentationAct").trigger();
-        const auto& pages = findNamed<QTextBrowser>(*m_window, "m_pDocumentation");
-        QVERIFY(pages.isVisible() && pages.isWindow());
-        QVERIFY2(pages.toPlainText().startsWith("The canvas of the workbench"),
-                 qPrintable(pages.toPlainText().left(80)));
+        const auto& window = findNamed<QWidget>(*m_window, "m_pDocumentation");
+        QVERIFY(window.isVisible() && window.isWindow());
+        auto& browser = findNamed<QTextBrowser>(window, "m_pPagesTE");
+        QStringList pages;
+        QList<QUrl> open{browser.source()};
+        while (!open.isEmpty()) {
+            const QString page = open.takeFirst().adjusted(QUrl::RemoveFragment).toLocalFile();
+            if (pages.contains(page)) {
+                continue;
+            }
+            pages.append(page);
+            browser.setSource(QUrl::fromLocalFile(page));
+            const QString text = browser.toPlainText();
+            QVERIFY2(text.size() > 1000, qPrintable(page));
+            // What developers read stays in the folder.
+            for (const char* const word : {"workbench/", "CanvasHost", ".cpp", ".h ", "QPoint"}) {
+                QVERIFY2(!text.contains(word), qPrintable(page + ": " + word));
+            }
+            open += linksOf(browser);
+        }
+        QStringList names;
+        for (const QString& page : pages) {
+            names.append(QFileInfo(page).fileName());
+        }
+        names.sort();
+        QCOMPARE(names, (QStringList{"files.md", "sessions.md", "using.md"}));
+    }
+
+    void documentationGoesBack()
+    {
+        action("m_pDocumentationAct").trigger();
+        auto& browser = findNamed<QTextBrowser>(*m_window, "m_pPagesTE");
+        QVERIFY(browser.toPlainText().startsWith("Using the workbench"));
+        QVERIFY(!action("m_pPageBackAct").isEnabled());
+        browser.setSource(QUrl("sessions.md"));
+        QVERIFY(browser.toPlainText().startsWith("Session files"));
+        action("m_pPageBackAct").trigger();
+        QVERIFY(browser.toPlainText().startsWith("Using the workbench"));
+        action("m_pPageForwardAct").trigger();
+        QVERIFY(browser.toPlainText().startsWith("Session files"));
+        action("m_pPageContentsAct").trigger();
+        QVERIFY(browser.toPlainText().startsWith("Using the workbench"));
     }
 };
 

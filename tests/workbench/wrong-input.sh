@@ -44,7 +44,12 @@ cp "$modules/Canvas_JobTree.$suffix" "$dir/swapped/Canvas_Viewer.$suffix"
 
 expect 2 "Unknown option 'bogus'; see --help" --bogus
 expect 2 "Unknown option 'bogus'" -bogus
-expect 2 "unexpected argument \"$dir\"" "$dir"
+expect 2 "$dir: " "$dir"
+expect 2 "unexpected argument \"more\"" "$dir/open.json" more
+expect 2 "$dir/open.json:3: " "$dir/open.json"
+expect 2 "$dir/state.session: this is a session, not a board" "$dir/state.session"
+expect 2 "$dir/open.json: another one is named" "$dir/open.json" --job "$dir/name.json"
+expect 2 "$dir/open.json: this is a job file, not a session" --play "$dir/open.json"
 expect 2 "foot" --unit foot
 expect 2 "$dir/absent.json" --job "$dir/absent.json"
 chinese=$(printf '\346\235\277')

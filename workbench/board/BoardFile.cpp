@@ -4,6 +4,7 @@
 #include "board/GerberExport.h"
 #include "board/PictureExport.h"
 
+#include <FileKind.h>
 #include <Files.h>
 #include <Json.h>
 
@@ -56,7 +57,9 @@ Board fromJson(const QByteArray& text, const QString& file)
 
 Board readBoardFile(const QString& file)
 {
-    return fromJson(CanvasHost::readWhole(file), file);
+    const QByteArray text = CanvasHost::readWhole(file);
+    return CanvasHost::readAs(CanvasHost::FileKind::Board, text,
+                              [&] { return fromJson(text, file); });
 }
 
 void writeBoardFile(const Board& board, const QString& file)

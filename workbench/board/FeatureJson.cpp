@@ -82,8 +82,8 @@ void readPoints(const JsonNode& node, Geometry& geometry)
     const bool mayHaveMore = geometry.kind == Kind::Surface && !geometry.round;
     if (geometry.points.size() < least || (geometry.points.size() > least && !mayHaveMore)) {
         const char* const reason =
-            mayHaveMore ? QT_TRANSLATE_NOOP("FileErrors", "must have %1 points or more, not %2")
-                        : QT_TRANSLATE_NOOP("FileErrors", "must have %1 points, not %2");
+            mayHaveMore ? QT_TRANSLATE_NOOP("FileErrors", "must be at least %1 in number, not %2")
+                        : QT_TRANSLATE_NOOP("FileErrors", "must be %1 in number, not %2");
         node.fail(QCoreApplication::translate("FileErrors", reason)
                       .arg(least)
                       .arg(geometry.points.size()));

@@ -7,6 +7,7 @@
 #include <Files.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 
 #include <cmath>
 
@@ -117,11 +118,35 @@ void writeFeature(GerberWriter& writer, const Feature& feature)
     }
 }
 
+QString creationDate()
+{
+    bool isFixed = false;
+    const qint64 fixed = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isFixed);
+    const QDateTime date =
+        isFixed ? QDateTime::fromSecsSinceEpoch(fixed, Qt::UTC) : QDateTime::currentDateTimeUtc();
+    return date.toString(Qt::ISODate);
+}
+
+/// "#@!" marks an attribute of Gerber X2 in a comment, which older readers skip.
+void writeOrigin(GerberWriter& writer, const Board& board)
+{
+    writer.comment(QStringLiteral(
+        "#@! TF.GenerationSoftware,Canvas Tool Strip,canvas-workbench," WORKBENCH_VERSION));
+    writer.comment(QStringLiteral("#@! TF.CreationDate,") + creationDate());
+    if (!board.job.isEmpty()) {
+        writer.comment(QStringLiteral("Job: ") + board.job);
+    }
+    if (!board.step.isEmpty()) {
+        writer.comment(QStringLiteral("Step: ") + board.step);
+    }
+}
+
 }  // namespace
 
 QByteArray toGerber(const Board& board, const QString& file)
 {
     GerberWriter writer;
+    writeOrigin(writer, board);
     for (const Feature& feature : board.features) {
         writeFeature(writer, feature);
     }

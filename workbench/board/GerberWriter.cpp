@@ -102,6 +102,19 @@ void GerberWriter::flash(const QByteArray& aperture, const QPointF& place)
     m_body += coordinates(place) + "D03*\n";
 }
 
+void GerberWriter::comment(const QString& words)
+{
+    m_comments += "G04 ";
+    for (const QChar character : words) {
+        const ushort code = character.unicode();
+        const bool isPlain = code >= ' ' && code <= '~' && code != '*' && code != '%';
+        m_comments += isPlain
+                          ? QByteArray(1, char(code))
+                          : "\\u" + QByteArray::number(code, 16).toUpper().rightJustified(4, '0');
+    }
+    m_comments += "*\n";
+}
+
 void GerberWriter::draw(double width, const QPolygonF& points)
 {
     const QPolygonF corners = onGrid(points);
@@ -157,8 +170,8 @@ QByteArray GerberWriter::file() const
 {
     // Readers take a file without any aperture for the older format.
     const QByteArray apertures = m_apertures.isEmpty() ? "%ADD10C,0.010000*%\n" : m_apertures;
-    return "%FSLAX46Y46*%\n%MOMM*%\n" + m_macros + apertures + "%LPD*%\nG75*\nG01*\n" + m_body +
-           "M02*\n";
+    return m_comments + "%FSLAX46Y46*%\n%MOMM*%\n" + m_macros + apertures + "%LPD*%\nG75*\nG01*\n" +
+           m_body + "M02*\n";
 }
 
 }  // namespace Pcb

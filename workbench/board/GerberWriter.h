@@ -14,6 +14,9 @@ public:
     /// What defines a standard aperture: C with a diameter, R or O with width and height.
     static QByteArray aperture(char kind, double width, double height = 0);
 
+    /// Words for people and programs, at the beginning of the file; they draw nothing.
+    void comment(const QString& words);
+
     /// What defines an aperture of closed outlines around the place where it is flashed.
     QByteArray macro(const QVector<QPolygonF>& outlines);
 
@@ -34,6 +37,7 @@ private:
     QByteArray coordinates(const QPointF& point);
     QByteArray number(char axis, double micrometres);
 
+    QByteArray m_comments;
     QByteArray m_macros;
     QByteArray m_apertures;
     QByteArray m_body;

@@ -14,13 +14,20 @@ namespace {
 
 constexpr int largestPicture = 20000;  // pixels of a side
 constexpr double margin = 0.05;
+constexpr double leastMargin = 5000;  // micrometres, around a board without extent
 
-/// What is shown: the board and a margin; invalid for an empty board.
-QRectF shownArea(const Board& board)
+/// The board; without any extent, a little around where it is.
+QRectF areaOf(const Board& board)
 {
     const QRectF bounds = boundsOf(board);
-    const double more = std::max(bounds.width(), bounds.height()) * margin;
-    return bounds.isEmpty() ? QRectF() : bounds.adjusted(-more, -more, more, more);
+    return bounds.isEmpty() ? bounds.adjusted(-leastMargin, -leastMargin, leastMargin, leastMargin)
+                            : bounds;
+}
+
+QRectF withMargin(const QRectF& area)
+{
+    const double more = std::max(area.width(), area.height()) * margin;
+    return area.adjusted(-more, -more, more, more);
 }
 
 QSize sizeOf(const QRectF& area, int longerSide)
@@ -28,14 +35,6 @@ QSize sizeOf(const QRectF& area, int longerSide)
     const double scale =
         qBound(1, longerSide, largestPicture) / std::max(area.width(), area.height());
     return {std::max(1, qRound(area.width() * scale)), std::max(1, qRound(area.height() * scale))};
-}
-
-void requireArea(const QRectF& area, const QString& file)
-{
-    if (area.isEmpty()) {
-        throw CanvasHost::FileError{
-            file, 0, QCoreApplication::translate("FileErrors", "the board is empty")};
-    }
 }
 
 }  // namespace
@@ -65,10 +64,7 @@ void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const
 
 QImage toImage(const Board& board, int pixels, const PictureColours& colours)
 {
-    const QRectF area = shownArea(board);
-    if (area.isEmpty()) {
-        return {};
-    }
+    const QRectF area = withMargin(areaOf(board));
     QImage image(sizeOf(area, pixels), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
@@ -79,7 +75,6 @@ QImage toImage(const Board& board, int pixels, const PictureColours& colours)
 
 void writePng(const Board& board, const QString& file, int pixels)
 {
-    requireArea(boundsOf(board), file);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     toImage(board, pixels).save(&buffer, "PNG");
@@ -88,8 +83,7 @@ void writePng(const Board& board, const QString& file, int pixels)
 
 void writeSvg(const Board& board, const QString& file)
 {
-    const QRectF area = boundsOf(board);
-    requireArea(area, file);
+    const QRectF area = areaOf(board);
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);

@@ -9,7 +9,6 @@
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
-#include <QLabel>
 #include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -17,19 +16,15 @@
 JobTreePane::JobTreePane(QWidget* parent)
     : Retranslated(parent),
       m_parent(parent),
-      m_pJobTreeTW(named(new QTreeWidget(this), "m_pJobTreeTW")),
-      m_pAddFeatureLB(named(new QLabel(this), "m_pAddFeatureLB"))
+      m_pJobTreeTW(named(new QTreeWidget(this), "m_pJobTreeTW"))
 {
     setObjectName(QStringLiteral("m_pJobTree"));
     m_pJobTreeTW->setHeaderHidden(true);
     m_pJobTreeTW->setExpandsOnDoubleClick(false);
-    m_pAddFeatureLB->setWordWrap(true);
-    m_pAddFeatureLB->setMargin(6);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_pJobTreeTW);
-    layout->addWidget(m_pAddFeatureLB);
     fill();
     retranslate();
     connect(m_pJobTreeTW, &QTreeWidget::itemDoubleClicked, this,
@@ -65,16 +60,34 @@ void JobTreePane::open(const QTreeWidgetItem* item)
 
 void JobTreePane::receive(const PluginMetaData& message)
 {
-    if (message.code == MessageCodes::Sent::AddFeatureStarted) {
-        ++m_started;
-        retranslate();
+    if (message.code == MessageCodes::Accepted::JobOpened) {
+        m_job = message.payload.value(PayloadKeys::jobName).toString();
+        m_step = message.payload.value(PayloadKeys::stepName).toString();
+        markOpenStep();
+    }
+}
+
+void JobTreePane::markOpenStep()
+{
+    for (int i = 0; i < m_pJobTreeTW->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* const parent = m_pJobTreeTW->topLevelItem(i);
+        for (int j = 0; j < parent->childCount(); ++j) {
+            QTreeWidgetItem* const item = parent->child(j);
+            const bool isOpen = parent->text(0) == m_job && item->text(0) == m_step;
+            QFont font = item->font(0);
+            font.setBold(isOpen);
+            item->setFont(0, font);
+            item->setData(0, Qt::AccessibleTextRole,
+                          isOpen ? tr("%1 (open)").arg(m_step) : item->text(0));
+            if (isOpen) {
+                m_pJobTreeTW->setCurrentItem(item);
+            }
+        }
     }
 }
 
 void JobTreePane::retranslate()
 {
     m_pJobTreeTW->setToolTip(tr("Double-click a step to open it."));
-    m_pAddFeatureLB->setText(m_started == 0
-                                 ? tr("Add Feature has not been started yet.")
-                                 : tr("Add Feature has been started %n time(s).", "", m_started));
+    markOpenStep();
 }

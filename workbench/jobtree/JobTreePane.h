@@ -6,11 +6,11 @@
 
 #include <QWidget>
 
-class QLabel;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// The tree of jobs and their steps. A double click on a step asks the host to open it.
+/// The tree of jobs and their steps; the open step is bold. A double click on a step asks the host
+/// to open it.
 class JobTreePane : public Retranslated<QWidget> {
     Q_OBJECT
 
@@ -22,11 +22,12 @@ public:
 
 private:
     void fill();
+    void markOpenStep();
     void open(const QTreeWidgetItem* item);
     void retranslate() override;
 
     QWidget* m_parent;
     QTreeWidget* m_pJobTreeTW;
-    QLabel* m_pAddFeatureLB;
-    int m_started = 0;  ///< how often Add Feature was started
+    QString m_job;
+    QString m_step;
 };

@@ -91,12 +91,19 @@ void HostState::openStep(const QString& job, const QString& step)
     Q_EMIT stepOpened(m_job, m_step);
 }
 
+void HostState::closeJob()
+{
+    m_job.clear();
+    m_step.clear();
+}
+
 void HostState::announceJob()
 {
     const HostMessage opened{Accepted::JobOpened, jobPayload(m_job, PayloadKeys::stepName, m_step),
                              0};
     send(opened);
     sendTo(ModuleNames::viewer, opened);
+    sendTo(ModuleNames::jobTree, opened);
 }
 
 void HostState::setUnit(CanvasHost::DisplayUnit unit)

@@ -21,8 +21,10 @@ public:
     /// Opens a step, and its job if that is not open yet. An empty step means the job's first one.
     /// Does nothing for an unknown job.
     void openStep(const QString& job, const QString& step = {});
+    /// Forgets the open job: the next one is another, whatever its name.
+    void closeJob();
     void setUnit(CanvasHost::DisplayUnit unit);
-    /// Tells tool strip and canvas of job and step, which a new one does not know.
+    /// Tells tool strip, canvas and job tree of job and step, which a new one does not know.
     void announceJob();
     /// Sends a message to the tool strip.
     void send(const HostMessage& message);

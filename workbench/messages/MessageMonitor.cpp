@@ -5,14 +5,14 @@
 #include "messages/MessageLog.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageNames.h"
+#include "shared/ErrorBox.h"
+#include "shared/FileQuestion.h"
 #include "shared/Named.h"
 
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSortFilterProxyModel>
@@ -153,7 +153,7 @@ void MessageMonitor::showCount()
     const int all = m_model->rowCount();
     const int shown = m_filtered->rowCount();
     m_pMonitorCountLB->setText(shown == all ? tr("%n message(s)", "", all)
-                                            : tr("%1 of %2 messages").arg(shown).arg(all));
+                                            : tr("%1 of %n message(s)", "", all).arg(shown));
 }
 
 void MessageMonitor::showSelected()
@@ -181,17 +181,19 @@ void MessageMonitor::showWhole(const QModelIndex& index)
 
 void MessageMonitor::saveTrace()
 {
-    const QString file =
-        QFileDialog::getSaveFileName(this, tr("Save Trace"), QStringLiteral("messages.jsonl"),
-                                     tr("Message traces (*.jsonl);;All files (*)"));
+    const FileQuestion question{FileQuestion::For::Saving,
+                                tr("Save Trace"),
+                                {tr("Message traces (*.jsonl)"), tr("All files (*)")},
+                                QStringLiteral("messages.jsonl")};
+    const QString file = question.ask(this);
     if (file.isEmpty()) {
         return;
     }
     try {
         m_log->save(file);
+        LastFolder::remember(file);
     } catch (const CanvasHost::FileError& error) {
-        QMessageBox::warning(this, tr("Save Trace"),
-                             tr("%1 was not saved: %2").arg(file, error.reason));
+        showError(this, tr("Cannot save the trace"), error);
     }
 }
 

@@ -15,12 +15,12 @@ namespace Accepted = MessageCodes::Accepted;
 namespace MessageNames {
 namespace {
 
-/// The canvas is told of the open step as the tool strip is; a sibling may also ask the host to
-/// open it.
+/// Canvas and job tree are told of the open step as the tool strip is; a sibling may also ask the
+/// host to open it.
 bool isAccepted(const QString& receiver, int code)
 {
-    return receiver == ModuleNames::toolStrip ||
-           (receiver == ModuleNames::viewer && code == Accepted::JobOpened);
+    const bool isSibling = receiver == ModuleNames::viewer || receiver == ModuleNames::jobTree;
+    return receiver == ModuleNames::toolStrip || (isSibling && code == Accepted::JobOpened);
 }
 
 }  // namespace
@@ -50,7 +50,7 @@ QString text(const QString& receiver, int code)
 {
     if (receiver == CanvasHost::hostName) {
         return code == Accepted::JobOpened
-                   ? QCoreApplication::translate("MessageNames", "Open job and step")
+                   ? QCoreApplication::translate("MessageNames", "Open Job and Step")
                    : QString();
     }
     return isAccepted(receiver, code) ? CodeTexts::accepted(code) : CodeTexts::sent(code);

@@ -33,6 +33,12 @@ void SessionFile::open(const QString& file)
     }
 }
 
+void SessionFile::close()
+{
+    m_file.close();
+    m_last.clear();
+}
+
 void SessionFile::append(const QStringList& words)
 {
     m_lastBegin = m_file.pos();

@@ -10,6 +10,9 @@ public:
     /// Empties `file`, or creates it. Throws a CanvasHost::FileError when it cannot be written.
     void open(const QString& file);
 
+    bool isOpen() const { return m_file.isOpen(); }
+    void close();
+
     void append(const QStringList& words);
     /// A line that players skip.
     void comment(const QString& text);

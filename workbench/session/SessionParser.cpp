@@ -2,6 +2,7 @@
 
 #include "session/Steps.h"
 
+#include <FileKind.h>
 #include <Files.h>
 
 #include <QTextCodec>
@@ -124,5 +125,7 @@ Session SessionParser::read(const QByteArray& bytes, const QString& file)
 
 Session SessionParser::readFile(const QString& file)
 {
-    return read(CanvasHost::readWhole(file), file);
+    const QByteArray text = CanvasHost::readWhole(file);
+    return CanvasHost::readAs(CanvasHost::FileKind::Session, text,
+                              [&] { return read(text, file); });
 }

@@ -109,14 +109,28 @@ SessionRecorder::SessionRecorder(QWidget* window, QObject* parent)
 {
 }
 
-void SessionRecorder::start(const QString& file)
+void SessionRecorder::start(const QString& file, const QString& remark)
 {
     m_file.open(file);
     m_file.comment(QStringLiteral("Recorded by hand."));
+    if (!remark.isEmpty()) {
+        m_file.comment(remark);
+    }
     qApp->installEventFilter(this);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget*, QWidget* focus) { watchText(focus); });
+    m_focus = connect(qApp, &QApplication::focusChanged, this,
+                      [this](QWidget*, QWidget* focus) { watchText(focus); });
     watchText(QApplication::focusWidget());
+}
+
+void SessionRecorder::stop(const QStringList& last)
+{
+    qApp->removeEventFilter(this);
+    disconnect(m_focus);
+    disconnect(m_text);
+    if (m_file.last() == last) {
+        m_file.drop();
+    }
+    m_file.close();
 }
 
 bool SessionRecorder::eventFilter(QObject* watched, QEvent* event)

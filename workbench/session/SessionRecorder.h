@@ -23,9 +23,12 @@ public:
     /// `window` is the host's; closing it is not a step. Not owned.
     explicit SessionRecorder(QWidget* window, QObject* parent = nullptr);
 
-    /// Records to `file` from now on, its old content is lost. Throws a CanvasHost::FileError when
-    /// it cannot be written.
-    void start(const QString& file);
+    /// Records to `file` from now on, its old content is lost; `remark` becomes a comment. Throws a
+    /// CanvasHost::FileError when it cannot be written.
+    void start(const QString& file, const QString& remark = {});
+    /// A last step of these words is not kept.
+    void stop(const QStringList& last);
+    bool isRecording() const { return m_file.isOpen(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -63,4 +66,5 @@ private:
     bool m_held = false;     ///< that button is held
     bool m_dragged = false;  ///< ... and the mouse was moved since
     QMetaObject::Connection m_text;
+    QMetaObject::Connection m_focus;
 };

@@ -22,6 +22,8 @@ public:
     virtual bool open(const QString& file) = 0;
     /// False: the user wants to keep a board that is not saved, or it could not be saved.
     virtual bool mayClose() = 0;
+    /// Every board goes, with its changes: the job is another.
+    virtual void closeAll() = 0;
     /// Whether a user is there to be asked; otherwise changes are discarded.
     virtual void setMayAsk(std::function<bool()> mayAsk) = 0;
 

@@ -10,35 +10,41 @@ namespace Accepted = MessageCodes::Accepted;
 
 namespace {
 
-/// Texts that differ from the name of the code in words. For those that do not, the build makes a
-/// list for the translations, see translations/CMakeLists.txt.
+/// Texts that differ from the name of the code in words; a tool is called as in the tool strip. For
+/// those that do not, the build makes a list for the translations, see translations/CMakeLists.txt.
 using Texts = QHash<int, const char*>;
 
 const Texts acceptedTexts{
-    {Accepted::JobOpened, QT_TRANSLATE_NOOP("MessageNames", "Job and step opened")},
-    {Accepted::ReleaseAll, QT_TRANSLATE_NOOP("MessageNames", "Release all tools")},
-    {Accepted::AddFeatureActive, QT_TRANSLATE_NOOP("MessageNames", "Add feature is active")},
+    {Accepted::JobOpened, QT_TRANSLATE_NOOP("MessageNames", "Job and Step Opened")},
+    {Accepted::JobAndStep, QT_TRANSLATE_NOOP("MessageNames", "Job and Step")},
+    {Accepted::CheckAndMeasure, QT_TRANSLATE_NOOP("MessageNames", "Check and Measure")},
+    {Accepted::ReleaseAll, QT_TRANSLATE_NOOP("MessageNames", "Release All Tools")},
+    {Accepted::AddFeatureActive, QT_TRANSLATE_NOOP("MessageNames", "Add Feature Is Active")},
 };
 
 const Texts sentTexts{
-    {Sent::Unset, QT_TRANSLATE_NOOP("MessageNames", "No code")},
-    {Sent::OpenPopView, QT_TRANSLATE_NOOP("MessageNames", "Open a pop view")},
-    {Sent::FeatureHighLight, QT_TRANSLATE_NOOP("MessageNames", "Feature highlight")},
-    {Sent::SelectSymbol, QT_TRANSLATE_NOOP("MessageNames", "Select a symbol on the board")},
+    {Sent::Unset, QT_TRANSLATE_NOOP("MessageNames", "No Code")},
+    {Sent::OpenPopView, QT_TRANSLATE_NOOP("MessageNames", "Open a Popview")},
+    {Sent::FeatureHighLight, QT_TRANSLATE_NOOP("MessageNames", "Feature HighLight")},
+    {Sent::RotateFeature, QT_TRANSLATE_NOOP("MessageNames", "Rotate")},
+    {Sent::MirrorFeature, QT_TRANSLATE_NOOP("MessageNames", "Mirror")},
+    {Sent::RoutDimension, QT_TRANSLATE_NOOP("MessageNames", "Rout Dimension Editor")},
+    {Sent::MoveTriplet, QT_TRANSLATE_NOOP("MessageNames", "Move Triplet(Angle)")},
+    {Sent::RerouteTrace, QT_TRANSLATE_NOOP("MessageNames", "Reroute Trace(Fix Point)")},
+    {Sent::SelectSymbol, QT_TRANSLATE_NOOP("MessageNames", "Select a Symbol on the Board")},
     {Sent::Eq, QT_TRANSLATE_NOOP("MessageNames", "EQ")},
-    {Sent::Record, QT_TRANSLATE_NOOP("MessageNames", "Feature record")},
+    {Sent::Record, QT_TRANSLATE_NOOP("MessageNames", "Feature Record")},
     {Sent::AttributeMap, QT_TRANSLATE_NOOP("MessageNames", "Attributes")},
-    {Sent::DirectionRecord, QT_TRANSLATE_NOOP("MessageNames", "Feature record (direction)")},
-    {Sent::SelectFromEditor, QT_TRANSLATE_NOOP("MessageNames", "Select attributes on the board")},
+    {Sent::DirectionRecord, QT_TRANSLATE_NOOP("MessageNames", "Feature Record (Direction)")},
+    {Sent::SelectFromEditor, QT_TRANSLATE_NOOP("MessageNames", "Select Attributes on the Board")},
 };
 
-/// "Add feature started" for "AddFeatureStarted".
+/// "Add Feature Started" for "AddFeatureStarted".
 QByteArray inWords(const QByteArray& name)
 {
     QByteArray words = name.left(1);
     for (const char letter : name.mid(1)) {
-        words += letter >= 'A' && letter <= 'Z' ? QByteArray(" ") + char(letter + 'a' - 'A')
-                                                : QByteArray(1, letter);
+        words += letter >= 'A' && letter <= 'Z' ? QByteArray(" ") + letter : QByteArray(1, letter);
     }
     return words;
 }

@@ -7,6 +7,17 @@ namespace {
 
 // The modules that remember something have this code each, and the application object in common.
 constexpr const char* fileProperty = "settingsFile";
+constexpr const char* ignoringProperty = "ignoresChoices";
+
+QString keyOf(const QString& choice)
+{
+    return QStringLiteral("choices/") + choice;
+}
+
+bool ignoresChoices()
+{
+    return qApp->property(ignoringProperty).toBool();
+}
 
 }  // namespace
 
@@ -30,4 +41,21 @@ void Settings::set(const QString& key, const QVariant& value)
     if (!file().isEmpty()) {
         QSettings(file(), QSettings::IniFormat).setValue(key, value);
     }
+}
+
+QVariant Settings::choice(const QString& name)
+{
+    return ignoresChoices() ? QVariant() : value(keyOf(name));
+}
+
+void Settings::choose(const QString& name, const QVariant& value)
+{
+    if (!ignoresChoices()) {
+        set(keyOf(name), value);
+    }
+}
+
+void Settings::ignoreChoices()
+{
+    qApp->setProperty(ignoringProperty, true);
 }

@@ -15,4 +15,11 @@ QString file();
 QVariant value(const QString& key);
 void set(const QString& key, const QVariant& value);
 
+/// What the user chose with a control that shows how something is done: invalid while choices are
+/// not remembered.
+QVariant choice(const QString& name);
+void choose(const QString& name, const QVariant& value);
+/// From now on choices are neither read nor kept: a session does the same for everybody.
+void ignoreChoices();
+
 }  // namespace Settings

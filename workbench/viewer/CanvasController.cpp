@@ -61,6 +61,13 @@ void CanvasController::openStep(const QString& job, const QString& step)
     Q_EMIT documentOpened();
 }
 
+void CanvasController::closeAll()
+{
+    // They go when another one is shown.
+    const auto closed = std::exchange(m_steps, {});
+    openStep({}, {});
+}
+
 void CanvasController::connectView(BoardView* view)
 {
     m_view = m_view ? m_view.data() : view;

@@ -25,6 +25,8 @@ public:
 
     /// Each step has a document of its own, which it keeps.
     void openStep(const QString& job, const QString& step);
+    /// Forgets the documents of all steps; what is shown is that of no step.
+    void closeAll();
     QUndoGroup& histories() { return m_histories; }
     BoardScene& scene() { return m_scene; }
 

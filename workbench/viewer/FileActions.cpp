@@ -1,6 +1,8 @@
 #include "viewer/FileActions.h"
 
 #include "board/BoardFile.h"
+#include "shared/ErrorBox.h"
+#include "shared/FileQuestion.h"
 #include "shared/Named.h"
 #include "viewer/FileNames.h"
 
@@ -105,7 +107,7 @@ bool FileActions::open(const QString& file)
 
 bool FileActions::tryToOpen(const QString& file)
 {
-    const bool opened = attempt([&] { openAtOnce(file); });
+    const bool opened = attempt(tr("Cannot open the board"), [&] { openAtOnce(file); });
     if (opened) {
         m_canvas.say(tr("Opened %1.").arg(file));
     }
@@ -128,9 +130,9 @@ void FileActions::chooseAndOpen()
 {
     // Before the file is chosen, so that the choice is not in vain.
     if (mayReplace(m_canvas.document())) {
-        const QString file = FileNames::ask(FileNames::Purpose::Open, {}, m_pane);
-        if (!file.isEmpty()) {
-            tryToOpen(file);
+        const QString chosen = FileNames::ask(FileNames::Purpose::Open, file(), {}, m_pane);
+        if (!chosen.isEmpty()) {
+            tryToOpen(chosen);
         }
     }
 }
@@ -149,9 +151,10 @@ void FileActions::chooseAndExport()
 {
     const Document& document = m_canvas.document();
     const QString name = QFileInfo(nameOf(document)).completeBaseName();
-    const QString file = FileNames::ask(FileNames::Purpose::Export, name, m_pane);
-    if (!file.isEmpty() && attempt([&] { exportTo(file); })) {
-        m_canvas.say(tr("Wrote %1.").arg(file));
+    const QString chosen = FileNames::ask(FileNames::Purpose::Export, file(), name, m_pane);
+    if (!chosen.isEmpty() && attempt(tr("Cannot export the board"), [&] { exportTo(chosen); })) {
+        LastFolder::remember(chosen);
+        m_canvas.say(tr("Wrote %1.").arg(chosen));
     }
 }
 
@@ -159,6 +162,13 @@ bool FileActions::mayClose()
 {
     return std::all_of(m_documents.begin(), m_documents.end(),
                        [this](Document* document) { return mayReplace(*document); });
+}
+
+void FileActions::closeAll()
+{
+    m_documents.clear();
+    m_files.clear();
+    m_canvas.closeAll();
 }
 
 bool FileActions::mayReplace(Document& document)
@@ -185,13 +195,17 @@ bool FileActions::save(Document& document)
 
 bool FileActions::saveAs(Document& document)
 {
-    const QString file = FileNames::ask(FileNames::Purpose::Save, nameOf(document), m_pane);
+    const auto known = m_files.find(&document);
+    const QString file =
+        FileNames::ask(FileNames::Purpose::Save, known == m_files.end() ? QString() : known->second,
+                       nameOf(document), m_pane);
     return !file.isEmpty() && write(document, file);
 }
 
 bool FileActions::write(Document& document, const QString& file)
 {
-    if (!attempt([&] { Pcb::writeBoardFile(document.board(), file); })) {
+    if (!attempt(tr("Cannot save the board"),
+                 [&] { Pcb::writeBoardFile(document.board(), file); })) {
         return false;
     }
     document.setSaved();
@@ -218,13 +232,13 @@ QString FileActions::nameOf(const Document& document) const
                                : QStringLiteral("%1-%2.json").arg(board.job, board.step);
 }
 
-bool FileActions::attempt(const std::function<void()>& work)
+bool FileActions::attempt(const QString& failure, const std::function<void()>& work)
 {
     try {
         work();
         return true;
     } catch (const CanvasHost::FileError& error) {
-        QMessageBox::warning(m_pane, tr("Board"), error.text());
+        showError(m_pane, failure, error);
         return false;
     }
 }

@@ -32,6 +32,7 @@ public:
     void exportTo(const QString& file) override;
     bool open(const QString& file) override;
     bool mayClose() override;
+    void closeAll() override;
     void setMayAsk(std::function<bool()> mayAsk) override { m_mayAsk = std::move(mayAsk); }
     QString file() const override;
     bool isModified() const override;
@@ -60,8 +61,9 @@ private:
     bool write(Document& document, const QString& file);
     void setFile(Document& document, const QString& file);
     QString nameOf(const Document& document) const;
-    /// Does `work`; false if it threw a FileError, which the user was shown.
-    bool attempt(const std::function<void()>& work);
+    /// Does `work`; false if it threw a FileError, which the user was shown as the reason for
+    /// `failure`.
+    bool attempt(const QString& failure, const std::function<void()>& work);
 
     CanvasController& m_canvas;
     QWidget* m_pane;

@@ -1,15 +1,14 @@
 #include "viewer/FileNames.h"
 
+#include "shared/FileQuestion.h"
 #include "shared/Settings.h"
 
 #include <QCoreApplication>
-#include <QFileDialog>
 #include <QFileInfo>
 
 namespace {
 
 constexpr int mostRecent = 8;
-const QString folderKey = QStringLiteral("files/folder");
 const QString recentKey = QStringLiteral("files/recent");
 
 QString text(const char* source)
@@ -17,49 +16,39 @@ QString text(const char* source)
     return QCoreApplication::translate("FileNames", source);
 }
 
-/// "gbr" of "Gerber (*.gbr)".
-QString suffixOf(const QString& filter)
+QString titleOf(FileNames::Purpose purpose)
 {
-    return filter.section(QStringLiteral("*."), 1).section(QLatin1Char(')'), 0, 0);
+    switch (purpose) {
+        case FileNames::Purpose::Open:
+            return text(QT_TRANSLATE_NOOP("FileNames", "Open Board"));
+        case FileNames::Purpose::Save:
+            return text(QT_TRANSLATE_NOOP("FileNames", "Save Board"));
+        case FileNames::Purpose::Export:
+            break;
+    }
+    return text(QT_TRANSLATE_NOOP("FileNames", "Export Board"));
+}
+
+QStringList kindsOf(FileNames::Purpose purpose)
+{
+    if (purpose == FileNames::Purpose::Export) {
+        return {text(QT_TRANSLATE_NOOP("FileNames", "Gerber (*.gbr)")),
+                text(QT_TRANSLATE_NOOP("FileNames", "Picture (*.png)")),
+                text(QT_TRANSLATE_NOOP("FileNames", "Drawing (*.svg)"))};
+    }
+    return {text(QT_TRANSLATE_NOOP("FileNames", "Board (*.json)"))};
 }
 
 }  // namespace
 
-QString FileNames::ask(Purpose purpose, const QString& offered, QWidget* parent)
+QString FileNames::ask(Purpose purpose, const QString& shown, const QString& offered,
+                       QWidget* parent)
 {
-    QFileDialog dialog(parent);
-    dialog.setObjectName(QStringLiteral("m_pFileDialog"));
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setDirectory(Settings::value(folderKey).toString());
-    if (purpose == Purpose::Open) {
-        dialog.setWindowTitle(text(QT_TRANSLATE_NOOP("FileNames", "Open board")));
-        dialog.setFileMode(QFileDialog::ExistingFile);
-    } else {
-        dialog.setAcceptMode(QFileDialog::AcceptSave);
-    }
-    if (purpose == Purpose::Export) {
-        dialog.setWindowTitle(text(QT_TRANSLATE_NOOP("FileNames", "Export board")));
-        dialog.setNameFilters({text(QT_TRANSLATE_NOOP("FileNames", "Gerber (*.gbr)")),
-                               text(QT_TRANSLATE_NOOP("FileNames", "Picture (*.png)")),
-                               text(QT_TRANSLATE_NOOP("FileNames", "Drawing (*.svg)"))});
-    } else {
-        dialog.setNameFilter(text(QT_TRANSLATE_NOOP("FileNames", "Board (*.json)")));
-    }
-    if (purpose == Purpose::Save) {
-        dialog.setWindowTitle(text(QT_TRANSLATE_NOOP("FileNames", "Save board")));
-    }
-    const auto takeSuffix = [&](const QString& filter) {
-        dialog.setDefaultSuffix(suffixOf(filter));
-    };
-    QObject::connect(&dialog, &QFileDialog::filterSelected, takeSuffix);
-    takeSuffix(dialog.selectedNameFilter());
-    dialog.selectFile(offered);
-    if (dialog.exec() != QDialog::Accepted) {
-        return {};
-    }
-    const QString file = dialog.selectedFiles().value(0);
-    Settings::set(folderKey, QFileInfo(file).path());
-    return file;
+    const FileQuestion question{
+        purpose == Purpose::Open ? FileQuestion::For::Opening : FileQuestion::For::Saving,
+        titleOf(purpose), kindsOf(purpose), offered,
+        shown.isEmpty() ? QString() : QFileInfo(shown).absolutePath()};
+    return question.ask(parent);
 }
 
 void FileNames::remember(const QString& file)
@@ -69,6 +58,7 @@ void FileNames::remember(const QString& file)
     files.removeAll(path);
     files.prepend(path);
     Settings::set(recentKey, QStringList(files.mid(0, mostRecent)));
+    LastFolder::remember(path);
 }
 
 QStringList FileNames::recent()

@@ -9,12 +9,11 @@ namespace FileNames {
 
 enum class Purpose { Open, Save, Export };
 
-/// The file that the user chooses, beginning in the folder of the last one; `offered` is the
-/// suggested name. The suffix of the chosen kind is added to a name without one.
-/// Empty: the user cancelled.
-QString ask(Purpose purpose, const QString& offered, QWidget* parent);
+/// The file that the user chooses, beginning in the folder of the file that is `shown`, or without
+/// one in that of the last file; `offered` is the suggested name. Empty: the user cancelled.
+QString ask(Purpose purpose, const QString& shown, const QString& offered, QWidget* parent);
 
-/// Puts the file first among the recent ones.
+/// Puts the file first among the recent ones, and its folder before other folders.
 void remember(const QString& file);
 QStringList recent();
 

@@ -1,6 +1,7 @@
 #include "viewer/SnapControls.h"
 
 #include "shared/Named.h"
+#include "shared/Settings.h"
 #include "viewer/CanvasController.h"
 #include "viewer/TypedPlace.h"
 
@@ -15,6 +16,14 @@ namespace {
 
 constexpr double leastStep = 1;  // micrometres
 constexpr double greatestStep = 1e5;
+
+const QString snapChoice = QStringLiteral("snap");
+const QString gridChoice = QStringLiteral("grid");  // micrometres
+
+bool isGridStep(double step)
+{
+    return step >= leastStep && step <= greatestStep;
+}
 
 }  // namespace
 
@@ -36,13 +45,25 @@ SnapControls::SnapControls(CanvasController& canvas, QToolBar* bar)
     named(bar->widgetForAction(m_snap), "m_pSnapTB");
     bar->addWidget(m_label);
     bar->addWidget(m_step);
+    recall();
     connect(m_snap, &QAction::toggled, this, [this](bool snaps) {
         m_canvas.setSnapping(snaps);
+        Settings::choose(snapChoice, snaps);
         m_canvas.say(snaps ? tr("Points snap.") : tr("Points do not snap."));
     });
     connect(m_step, &QLineEdit::editingFinished, this, &SnapControls::takeStep);
     connect(m_step, &QLineEdit::returnPressed, this, &SnapControls::finished);
     retranslate();
+}
+
+void SnapControls::recall()
+{
+    m_snap->setChecked(Settings::choice(snapChoice).toBool());
+    m_canvas.setSnapping(m_snap->isChecked());
+    const double step = Settings::choice(gridChoice).toDouble();
+    if (isGridStep(step)) {
+        m_canvas.setGridStep(step);
+    }
 }
 
 void SnapControls::retranslate()
@@ -67,8 +88,9 @@ void SnapControls::takeStep()
         return;
     }
     const auto step = TypedPlace::readLength(m_step->text());
-    if (step && *step >= leastStep && *step <= greatestStep) {
+    if (step && isGridStep(*step)) {
         m_canvas.setGridStep(*step);
+        Settings::choose(gridChoice, *step);
     } else {
         m_canvas.say(tr("\"%1\" is not a grid step (%2 to %3).")
                          .arg(m_step->text(), CanvasHost::lengthText(leastStep),

@@ -8,7 +8,7 @@ class QLabel;
 class QLineEdit;
 class QToolBar;
 
-/// In the canvas's bar: whether points snap, and the step of the grid.
+/// In the canvas's bar: whether points snap, and the step of the grid. Both are remembered.
 class SnapControls : public QObject {
     Q_OBJECT
 
@@ -25,6 +25,8 @@ Q_SIGNALS:
     void finished();
 
 private:
+    /// As the user left them.
+    void recall();
     void takeStep();
 
     CanvasController& m_canvas;

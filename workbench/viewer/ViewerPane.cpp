@@ -210,8 +210,8 @@ void ViewerPane::retranslate()
     m_canvas.refresh();  // the hint
     m_view->setAccessibleName(tr("Board"));
     if (m_secondView) {
-        m_secondView->setWindowTitle(tr("Second view"));
-        m_secondView->setAccessibleName(tr("Second view"));
+        m_secondView->setWindowTitle(tr("Popview"));
+        m_secondView->setAccessibleName(tr("Popview"));
     }
 }
 

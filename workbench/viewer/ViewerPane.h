@@ -75,7 +75,7 @@ private:
     SnapControls* m_snapping;
     CanvasKeys* m_keys;
     Inspector* m_inspector;
-    std::vector<ToolLine*> m_lines;  ///< that of the pane, and that of the second view
+    std::vector<ToolLine*> m_lines;  ///< that of the pane, and that of the popview
     QLabel* m_pCanvasStatusLB;
     QLabel* m_pHoveredLB;
     QPointer<QWidget> m_secondView;

@@ -4,6 +4,7 @@
 #include <QTranslator>
 
 /// The language of the program: the translations of Qt, of the module and of the workbench itself.
+/// For English the workbench has one of its plurals.
 class Language {
 public:
     /// Translations are searched for in "translations" beside and in `moduleDirectory`.

@@ -1,5 +1,7 @@
 #include "window/Options.h"
 
+#include "shared/Settings.h"
+
 #include <FileError.h>
 
 #include <QCommandLineParser>
@@ -120,6 +122,10 @@ int fontSize(const QString& points)
 
 }  // namespace
 
+// They are called as the options are.
+const QString Options::unitChoice = QStringLiteral("unit");
+const QString Options::languageChoice = QStringLiteral("language");
+
 const std::vector<LanguageChoice>& languageChoices()
 {
     static const std::vector<LanguageChoice> choices{{"en", "English"},
@@ -157,6 +163,9 @@ Options Options::parse(const QStringList& arguments)
         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")});
     parser.addOption(
         {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")});
+    parser.addPositionalArgument(QStringLiteral("file"),
+                                 QStringLiteral("A board or a job to open, whichever it is."),
+                                 QStringLiteral("[file]"));
     Options options;
     if (!parser.parse(withoutQts(arguments))) {
         // Qt ends some of its texts with a full stop.
@@ -166,9 +175,8 @@ Options Options::parse(const QStringList& arguments)
         options.answer = parser.helpText();
     } else if (parser.isSet(QStringLiteral("version"))) {
         options.answer = QStringLiteral("workbench " WORKBENCH_VERSION "\n");
-    } else if (!parser.positionalArguments().isEmpty()) {
-        refuse(QStringLiteral("unexpected argument \"%1\"")
-                   .arg(parser.positionalArguments().constFirst()));
+    } else if (parser.positionalArguments().size() > 1) {
+        refuse(QStringLiteral("unexpected argument \"%1\"").arg(parser.positionalArguments()[1]));
     } else {
         options.take(parser);
     }
@@ -187,14 +195,34 @@ void Options::take(const QCommandLineParser& parser)
             this->*row.flag = true;
         }
     }
+    isJobGiven = parser.isSet(QStringLiteral("job"));
+    file = parser.positionalArguments().value(0);
     choose("language", language, languageChoices(), &LanguageChoice::code);
-    if (parser.isSet(QStringLiteral("unit"))) {
-        unit = choose("unit", parser.value(QStringLiteral("unit")), CanvasHost::lengthUnits(),
+    isLanguageGiven = parser.isSet(languageChoice);
+    isUnitGiven = parser.isSet(unitChoice);
+    if (isUnitGiven) {
+        unit = choose("unit", parser.value(unitChoice), CanvasHost::lengthUnits(),
                       &CanvasHost::LengthUnit::name)
                    .unit;
     }
     if (parser.isSet(QStringLiteral("font-size"))) {
         fontSize = ::fontSize(parser.value(QStringLiteral("font-size")));
+    }
+}
+
+void Options::recall()
+{
+    const QString unitName = Settings::choice(unitChoice).toString();
+    const QString code = Settings::choice(languageChoice).toString();
+    for (const CanvasHost::LengthUnit& known : CanvasHost::lengthUnits()) {
+        if (!isUnitGiven && unitName == QLatin1String(known.name)) {
+            unit = known.unit;
+        }
+    }
+    for (const LanguageChoice& known : languageChoices()) {
+        if (!isLanguageGiven && code == QLatin1String(known.code)) {
+            language = code;
+        }
     }
 }
 

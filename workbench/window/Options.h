@@ -18,7 +18,9 @@ const std::vector<LanguageChoice>& languageChoices();
 /// What the command line asks for.
 struct Options {
     QString moduleDirectory;
+    QString file;  ///< a board or a job; empty: none
     QString jobFile;
+    bool isJobGiven = false;
     QString traceFile;       ///< empty: no trace
     QString screenshotFile;  ///< empty: no picture
     QString sessionFile;     ///< empty: nothing is played
@@ -29,7 +31,9 @@ struct Options {
     bool exit = false;       ///< leave after playing, or after the first paint
     bool log = false;        ///< debug lines go to the terminal
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;
+    bool isUnitGiven = false;
     QString language = QStringLiteral("en");
+    bool isLanguageGiven = false;
     bool isDark = false;
     int fontSize = 0;     ///< in points; 0: as the desktop has it
     QString answer = {};  ///< help or version, to be shown; empty when neither is asked for
@@ -41,6 +45,13 @@ struct Options {
     /// The same from `arguments` (the program's name first). The options of Qt itself ("-platform
     /// offscreen") are skipped.
     static Options parse(const QStringList& arguments);
+    /// What the command line leaves open is as the user chose it last; needs the application
+    /// object.
+    void recall();
+
+    /// The names under which the settings keep what the user chose.
+    static const QString unitChoice;
+    static const QString languageChoice;
 
 private:
     static QStringList withoutQts(const QStringList& arguments);

@@ -6,32 +6,21 @@
 #include "plugin/ModuleNames.h"
 #include "shared/CanvasControl.h"
 #include "shared/Named.h"
+#include "window/Documentation.h"
 #include "window/WorkbenchWindow.h"
 
 #include <QAction>
-#include <QCoreApplication>
-#include <QDir>
 #include <QDockWidget>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
-#include <QTextBrowser>
 
 namespace {
 
 QMenu* createMenu(QMenuBar* bar, const char* name)
 {
     return named(bar->addMenu(QString()), name);
-}
-
-QString droppedFile(const QMimeData* data)
-{
-    const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
 }
 
 }  // namespace
@@ -55,6 +44,8 @@ void WorkbenchWindow::createMenus()
             &QAction::triggered, m_monitor, &MessageMonitor::saveTrace);
     connect(addEntry(m_fileMenu, "m_pSavePictureAct", QT_TR_NOOP("Save &Picture...")),
             &QAction::triggered, this, &WorkbenchWindow::savePicture);
+    m_record = named(m_fileMenu->addAction(QString()), "m_pRecordAct");
+    connect(m_record, &QAction::triggered, this, &WorkbenchWindow::startOrStopRecording);
     m_fileMenu->addSeparator();
     QAction* const quit = addEntry(m_fileMenu, "m_pQuitAct", QT_TR_NOOP("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
@@ -98,6 +89,9 @@ void WorkbenchWindow::addCanvasEntries()
     using Group = CanvasControl::Group;
     QAction* const trace = m_fileMenu->actions().constFirst();
     m_fileMenu->insertActions(trace, canvas()->actions(Group::NewAndOpen));
+    QAction* const openJob = addEntry(m_fileMenu, "m_pOpenJobAct", QT_TR_NOOP("Open &Job..."));
+    connect(openJob, &QAction::triggered, this, &WorkbenchWindow::chooseAndOpenJob);
+    m_fileMenu->insertAction(trace, openJob);
     m_recentMenu = named(new QMenu(m_fileMenu), "m_pRecentMenu");
     connect(m_fileMenu, &QMenu::aboutToShow, this, &WorkbenchWindow::listRecentFiles);
     m_fileMenu->insertMenu(trace, m_recentMenu);
@@ -110,17 +104,6 @@ void WorkbenchWindow::addCanvasEntries()
     m_viewMenu->insertActions(docks, canvas()->actions(Group::View));
     m_viewMenu->insertSeparator(docks);
     canvas()->files().setChanged([this] { showTitle(); });
-}
-
-void WorkbenchWindow::listRecentFiles()
-{
-    m_recentMenu->clear();
-    const QStringList files = canvas()->files().recent();
-    for (const QString& file : files) {
-        QAction* const action = m_recentMenu->addAction(QDir::toNativeSeparators(file));
-        connect(action, &QAction::triggered, this, [this, file] { canvas()->files().open(file); });
-    }
-    m_recentMenu->setEnabled(!files.isEmpty());
 }
 
 void WorkbenchWindow::showTitle()
@@ -142,15 +125,8 @@ void WorkbenchWindow::showTitle()
 void WorkbenchWindow::showDocumentation()
 {
     if (!m_pDocumentation) {
-        m_pDocumentation = named(new QTextBrowser(this), "m_pDocumentation");
-        m_pDocumentation->setWindowFlag(Qt::Window);
-        m_pDocumentation->setOpenExternalLinks(true);
-        m_pDocumentation->resize(760, 560);
+        m_pDocumentation = new Documentation(this);
     }
-    const QDir pages(QCoreApplication::applicationDirPath() +
-                     QStringLiteral("/../" WORKBENCH_DOCS_DIRECTORY "/workbench/docs"));
-    m_pDocumentation->setWindowTitle(tr("Documentation"));
-    m_pDocumentation->setSource(QUrl::fromLocalFile(QDir::cleanPath(pages.filePath("canvas.md"))));
     m_pDocumentation->show();
     m_pDocumentation->raise();
 }
@@ -165,19 +141,6 @@ void WorkbenchWindow::showAbout()
     box.exec();
 }
 
-void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!droppedFile(event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
-    }
-}
-
-void WorkbenchWindow::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    canvas()->files().open(droppedFile(event->mimeData()));
-}
-
 void WorkbenchWindow::retranslateMenus()
 {
     m_fileMenu->setTitle(tr("&File"));
@@ -188,6 +151,7 @@ void WorkbenchWindow::retranslateMenus()
     if (m_recentMenu) {
         m_recentMenu->setTitle(tr("Open &Recent"));
     }
+    showRecording();
     for (const Entry& entry : m_entries) {
         entry.action->setText(tr(entry.text));
     }

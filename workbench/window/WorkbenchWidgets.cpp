@@ -56,9 +56,7 @@ void WorkbenchWindow::createControls()
     m_pHostStepCMB = addCombo(m_pHostStepLB, "m_pHostStepLB", "m_pHostStepCMB");
     m_pHostUnitCMB = addCombo(m_pHostUnitLB, "m_pHostUnitLB", "m_pHostUnitCMB");
     m_pHostLanguageCMB = addCombo(m_pHostLanguageLB, "m_pHostLanguageLB", "m_pHostLanguageCMB");
-    for (const CanvasHost::Job& job : CanvasHost::jobs()) {
-        m_pHostJobCMB->addItem(QString::fromStdString(job.name));
-    }
+    listJobs();
     for (const CanvasHost::LengthUnit& unit : CanvasHost::lengthUnits()) {
         m_pHostUnitCMB->addItem(QString());
         if (unit.unit == m_options.unit) {

@@ -4,11 +4,13 @@
 #include "messages/HostState.h"
 #include "messages/MessageLog.h"
 #include "messages/MessageMonitor.h"
-#include "messages/WindowPicture.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
+#include "session/SessionRecorder.h"
 #include "shared/CanvasControl.h"
+#include "shared/ErrorBox.h"
+#include "shared/Settings.h"
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
@@ -20,15 +22,15 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QPixmap>
 #include <QSignalBlocker>
 
 namespace Accepted = MessageCodes::Accepted;
 
 WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
-    : m_options(options), m_language(options.moduleDirectory), m_host(new HostState(this))
+    : m_options(options),
+      m_language(options.moduleDirectory),
+      m_host(new HostState(this)),
+      m_recorder(new SessionRecorder(this, this))
 {
     setObjectName(QStringLiteral("m_pWorkbench"));
     CanvasHost::setDisplayUnit(options.unit);
@@ -69,9 +71,7 @@ void WorkbenchWindow::start()
     }
     addCanvasEntries();
     retranslateMenus();
-    if (const CanvasHost::Job* const job = CanvasHost::currentJob()) {
-        m_host->openStep(QString::fromStdString(job->name));
-    }
+    openFirstJob();
     m_layout->restore();
 }
 
@@ -94,7 +94,9 @@ void WorkbenchWindow::connectControls()
     connect(m_pHostStepCMB, changed, this,
             [this] { m_host->openStep(m_host->job(), m_pHostStepCMB->currentText()); });
     connect(m_pHostUnitCMB, changed, this, [this](int index) {
-        m_host->setUnit(CanvasHost::lengthUnits().at(size_t(index)).unit);
+        const CanvasHost::LengthUnit& chosen = CanvasHost::lengthUnits().at(size_t(index));
+        Settings::choose(Options::unitChoice, QString::fromLatin1(chosen.name));
+        m_host->setUnit(chosen.unit);
     });
     connect(m_pHostLanguageCMB, changed, this, &WorkbenchWindow::changeLanguage);
     connect(m_monitor, &MessageMonitor::composeAsked, this, &WorkbenchWindow::compose);
@@ -118,7 +120,9 @@ void WorkbenchWindow::showStep(const QString& job, const QString& step)
 
 void WorkbenchWindow::changeLanguage(int index)
 {
-    m_language.set(QLatin1String(languageChoices().at(size_t(index)).code));
+    const QString code = QLatin1String(languageChoices().at(size_t(index)).code);
+    Settings::choose(Options::languageChoice, code);
+    m_language.set(code);
     m_host->sendSample(Accepted::LanguageChanged);
 }
 
@@ -131,7 +135,7 @@ void WorkbenchWindow::showEq(bool visible)
         m_strip->fill(m_options.moduleDirectory);
         m_host->announceJob();
     } catch (const CanvasHost::FileError& error) {
-        QMessageBox::warning(this, tr("Modules"), error.text());
+        showError(this, tr("Cannot load the edit tools"), error);
     }
 }
 
@@ -148,16 +152,6 @@ CanvasControl* WorkbenchWindow::canvas() const
     return m_viewer ? qobject_cast<CanvasControl*>(m_viewer->instance()) : nullptr;
 }
 
-void WorkbenchWindow::savePicture()
-{
-    const QPixmap picture = pictureOf(this);
-    const QString file = QFileDialog::getSaveFileName(
-        this, tr("Save Picture"), QStringLiteral("workbench.png"), tr("Pictures (*.png)"));
-    if (!file.isEmpty() && !picture.save(file)) {
-        QMessageBox::warning(this, tr("Save Picture"), tr("%1 was not saved.").arg(file));
-    }
-}
-
 void WorkbenchWindow::openDimensions()
 {
     try {
@@ -168,7 +162,7 @@ void WorkbenchWindow::openDimensions()
         m_dimensions->show();
         m_dimensions->raise();
     } catch (const CanvasHost::FileError& error) {
-        QMessageBox::warning(this, tr("Modules"), error.text());
+        showError(this, tr("Cannot load Dimensions"), error);
     }
 }
 

@@ -15,6 +15,7 @@
 
 class CanvasControl;
 class ComposeDialog;
+class Documentation;
 class HostState;
 class MessageLog;
 class MessageMonitor;
@@ -25,7 +26,7 @@ class QComboBox;
 class QDockWidget;
 class QLabel;
 class QMenu;
-class QTextBrowser;
+class SessionRecorder;
 
 /// The host's window: the modules, the message monitor, and the host's own settings.
 class WorkbenchWindow : public Retranslated<QMainWindow> {
@@ -40,6 +41,9 @@ public:
     /// Loads the modules, opens the first job, and takes the place on the screen. Throws a
     /// FileError.
     void start();
+
+    /// Records what the user does from now on. Throws a FileError.
+    void record(const QString& file);
 
     HostState* host() const { return m_host; }
     /// Null before the modules are loaded, and after they have gone.
@@ -71,11 +75,21 @@ private:
     QAction* addEntry(QMenu* menu, const char* name, const char* text);
     void connectControls();
 
+    void chooseAndOpenJob();
+    void openJob(const QString& file);
+    void openFirstJob();
+    void listJobs();
+    void openFile(const QString& file);
+    /// Where file dialogs begin; empty: as FileQuestion says.
+    QString folder() const;
+
     void showStep(const QString& job, const QString& step);
     void changeLanguage(int index);
     void showEq(bool visible);
     void tellCanvas(const MessageRecord& message);
     void savePicture();
+    void startOrStopRecording();
+    void showRecording();
     void openDimensions();
     void compose();
     void showDocumentation();
@@ -88,6 +102,7 @@ private:
     Options m_options;
     Language m_language;
     HostState* m_host;
+    SessionRecorder* m_recorder;
     QComboBox* m_pHostJobCMB;
     QComboBox* m_pHostStepCMB;
     QComboBox* m_pHostUnitCMB;
@@ -103,14 +118,15 @@ private:
     QDockWidget* m_monitorDock;
     QMenu* m_fileMenu;
     QMenu* m_recentMenu = nullptr;
+    QAction* m_record;
     QMenu* m_editMenu;
     QMenu* m_viewMenu;
     QMenu* m_sendMenu;
     QMenu* m_helpMenu;
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
-    ComposeDialog* m_compose = nullptr;        // made when it is first asked for
-    QTextBrowser* m_pDocumentation = nullptr;  // likewise
+    ComposeDialog* m_compose = nullptr;         // made when it is first asked for
+    Documentation* m_pDocumentation = nullptr;  // likewise
     QPointer<QWidget> m_dimensions;  // a window of its own, made when it is first asked for
     std::unique_ptr<WindowLayout> m_layout;
     std::unique_ptr<ModulePlace> m_strip;

@@ -3,8 +3,8 @@
 #include "messages/WindowPicture.h"
 #include "session/SessionParser.h"
 #include "session/SessionPlayer.h"
-#include "session/SessionRecorder.h"
 #include "shared/CanvasControl.h"
+#include "shared/FileQuestion.h"
 #include "shared/Settings.h"
 #include "window/Display.h"
 #include "window/Look.h"
@@ -13,6 +13,8 @@
 
 #include <CamApiStandIn.h>
 #include <FileError.h>
+#include <FileKind.h>
+#include <Files.h>
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -45,10 +47,28 @@ struct Inputs {
     MessageTrace trace;
 };
 
+/// Takes the file that was named without an option for what it is.
+void sortFile(Options* options)
+{
+    if (options->file.isEmpty()) {
+        return;
+    }
+    const QByteArray content = CanvasHost::readWhole(options->file);
+    const bool isJob = CanvasHost::kindOf(content) == CanvasHost::FileKind::Job;
+    if (isJob ? options->isJobGiven : !options->boardFile.isEmpty()) {
+        throw FileError{options->file, 0,
+                        QStringLiteral("another one is named by an option already")};
+    }
+    QString& place = isJob ? options->jobFile : options->boardFile;
+    place = options->file;
+    options->isJobGiven = options->isJobGiven || isJob;
+}
+
 /// Reads everything that may be wrong before a window is made.
 void readInputs(int argc, char* argv[], Inputs* inputs)
 {
     inputs->options = Options::ofProgram(argc, argv);
+    sortFile(&inputs->options);
     const Options& options = inputs->options;
     CanvasHost::loadJobs(options.jobFile);
     if (!options.sessionFile.isEmpty()) {
@@ -128,6 +148,13 @@ int run(int argc, char* argv[])
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
     const QTemporaryDir ownSettings;
     Settings::keepIn(settingsFile(inputs.options, ownSettings));
+    if (!inputs.options.sessionFile.isEmpty() || !inputs.options.recordFile.isEmpty()) {
+        Settings::ignoreChoices();
+    }
+    inputs.options.recall();
+    if (inputs.options.isJobGiven) {
+        LastFolder::remember(inputs.options.jobFile);
+    }
     Look::dress(inputs.options);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
@@ -137,9 +164,8 @@ int run(int argc, char* argv[])
     if (!inputs.options.boardFile.isEmpty()) {
         window.canvas()->files().openAtOnce(inputs.options.boardFile);
     }
-    SessionRecorder recorder(&window);
     if (!inputs.options.recordFile.isEmpty()) {
-        recorder.start(inputs.options.recordFile);
+        window.record(inputs.options.recordFile);
     }
     SessionPlayer player(inputs.session, window.host(), &window, &log);
     QObject::connect(&player, &SessionPlayer::noted, application.get(), complain);

@@ -116,7 +116,7 @@ private Q_SLOTS:
             "7: \"clockwise\" does not belong to an entry of \"features\"");
         row("no symbol", replaced("\"r10\"", "\"\""), "7: \"symbol\" must not be empty");
         row("points", replaced("[[0,0],[1000,0.5]]", "[[0,0]]"),
-            "7: \"points\" must have 2 points, not 1");
+            "7: \"points\" must be 2 in number, not 1");
         row("pair", replaced("[1000,0.5]", "[1000]"),
             "7: an entry of \"points\" must be a pair of numbers");
         row("far", replaced("1000", "1e8"),

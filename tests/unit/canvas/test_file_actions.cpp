@@ -3,6 +3,7 @@
 #include "CanvasFixture.h"
 #include "Main.h"
 #include "board/BoardFile.h"
+#include "shared/FileQuestion.h"
 #include "shared/Settings.h"
 #include "viewer/FileActions.h"
 
@@ -122,7 +123,11 @@ class TestFileActions : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { Settings::keepIn({}); }
+    void cleanup()
+    {
+        Settings::keepIn({});
+        LastFolder::remember(QDir::home().filePath("board.json"));
+    }
 
     void onlyTheBoardCountsAsChanged()
     {
@@ -280,6 +285,66 @@ private Q_SLOTS:
             QCOMPARE(chosen.offered, QString("job-step"));
             QVERIFY2(QFileInfo::exists(fixture.path("drawn") + "." + suffix), qPrintable(suffix));
         }
+    }
+
+    void anErrorSaysWhatFailedAndWhy()
+    {
+        const FileFixture fixture;
+        const Answer box(QMessageBox::Ok);
+        QVERIFY(!fixture.files().open(fixture.path("absent.json")));
+        QCOMPARE(box.texts, QStringList("Cannot open the board|No such file or directory\n\n" +
+                                        QDir::toNativeSeparators(fixture.path("absent.json"))));
+    }
+
+    void dialogsBeginBesideTheFileThatIsShown()
+    {
+        const FileFixture fixture;
+        Settings::keepIn(fixture.path("settings.ini"));
+        QVERIFY(fixture.save("mine/two.json"));
+        LastFolder::remember(fixture.path("other.json"));
+        for (const char* const name :
+             {"m_pOpenBoardAct", "m_pSaveBoardAsAct", "m_pExportBoardAct"}) {
+            const Chosen chosen;
+            fixture.action(name).trigger();
+            QCOMPARE(chosen.folder, fixture.path("mine"));
+        }
+    }
+
+    void dialogsBeginAtHomeWhenThereIsNoFolder()
+    {
+        const FileFixture fixture;
+        QVERIFY(QDir(fixture.directory.path()).mkdir("gone"));
+        LastFolder::remember(fixture.path("gone/two.json"));
+        {
+            const Chosen chosen;
+            fixture.action("m_pOpenBoardAct").trigger();
+            QCOMPARE(chosen.folder, fixture.path("gone"));
+        }
+        QVERIFY(QDir(fixture.path("gone")).removeRecursively());
+        const Chosen chosen;
+        fixture.action("m_pOpenBoardAct").trigger();
+        QCOMPARE(chosen.folder, QDir::homePath());
+    }
+
+    void aFailedExportIsNotRemembered()
+    {
+        const FileFixture fixture;
+        QVERIFY(QDir(fixture.directory.path()).mkdir("full"));
+        LastFolder::remember(fixture.path("two.json"));
+        Pcb::Board far = fixture.document().board();
+        far.features = {Pcb::Feature(Pcb::padGeometry("r60", {2e7, 0}))};
+        fixture.document().replace(far);
+        {
+            const Chosen chosen(fixture.path("full/far.gbr"));
+            const Answer box(QMessageBox::Ok);
+            fixture.action("m_pExportBoardAct").trigger();
+            QCOMPARE(box.texts.size(), 1);
+            QVERIFY(box.texts[0].startsWith("Cannot export the board|A coordinate is ten metres"));
+        }
+        QCOMPARE(LastFolder::path(), fixture.directory.path());
+        const Chosen chosen(fixture.path("full/far.svg"), 2);
+        fixture.action("m_pExportBoardAct").trigger();
+        QCOMPARE(LastFolder::path(), fixture.path("full"));
     }
 
     void folderAndRecentFilesAreRemembered()

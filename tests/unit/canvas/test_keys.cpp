@@ -55,7 +55,7 @@ class TestKeys : public QObject {
                 return *window;
             }
         }
-        qFatal("there is no second view");
+        qFatal("there is no popview");
     }
     /// Undo, redo both ways, select all, delete, and Escape.
     static void compareKeys(const CanvasFixture& fixture, QWidget& focus)
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QWidget& second = secondView(fixture);
         const auto text = [&](const char* name) { return findNamed<QLabel>(second, name).text(); };
         fixture.receive(Sent::MoveFeature);
-        QCOMPARE(text("m_pSecondToolLB"), QString("Tool: Move feature"));
+        QCOMPARE(text("m_pSecondToolLB"), QString("Tool: Move Feature"));
         QCOMPARE(text("m_pSecondHintLB"), fixture.text("m_pPickHintLB"));
         const auto& view = findNamed<BoardView>(second, "m_pSecondBoardView");
         QTest::mouseMove(view.viewport(), view.viewPoint(5000, 5000));

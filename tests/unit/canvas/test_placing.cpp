@@ -6,9 +6,12 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/PayloadKeys.h"
 #include "plugin/RecordKeys.h"
+#include "viewer/DemoBoard.h"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
+#include <set>
 
 namespace Sent = MessageCodes::Sent;
 namespace Accepted = MessageCodes::Accepted;
@@ -211,6 +214,75 @@ private Q_SLOTS:
         QCOMPARE(fixture.document().board().step, QString("panel"));
         open("demo", "pcb");
         QVERIFY(fixture.features().empty());
+    }
+
+    void aPanelIsAPanelAndAnArrayAnArray_data()
+    {
+        QTest::addColumn<QString>("job");
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<QString>("repeated");
+        QTest::addColumn<int>("times");
+        QTest::newRow("array") << "demo"
+                               << "array"
+                               << "pcb" << 6;
+        QTest::newRow("panel of arrays") << "demo"
+                                         << "panel"
+                                         << "array" << 6;
+        QTest::newRow("panel of boards") << "sensor_board"
+                                         << "panel"
+                                         << "pcb" << 12;
+    }
+
+    void aPanelIsAPanelAndAnArrayAnArray()
+    {
+        QFETCH(QString, job);
+        QFETCH(QString, step);
+        QFETCH(QString, repeated);
+        QFETCH(int, times);
+        const Pcb::Board one = demoBoard(job, repeated);
+        const Pcb::Board all = demoBoard(job, step);
+        QCOMPARE(all.step, step);
+        const auto countOf = [](const Pcb::Board& board, const QString& symbol) {
+            return int(std::count_if(
+                board.features.begin(), board.features.end(),
+                [&](const Pcb::Feature& feature) { return feature.symbol() == symbol; }));
+        };
+        const QString symbol = job == "demo" ? "oval80x40" : "diamond50x60";
+        QVERIFY(countOf(one, symbol) > 0);
+        QCOMPARE(countOf(all, symbol), times * countOf(one, symbol));
+        const QRectF board = all.outline.boundingRect();
+        QVERIFY(board.width() > 2 * one.outline.boundingRect().width());
+        for (const Pcb::Feature& feature : all.features) {
+            QVERIFY2(board.contains(feature.bounds()), qPrintable(feature.symbol()));
+        }
+    }
+
+    void oneStepHasEveryKindOfFeature()
+    {
+        const Pcb::Board board = demoBoard("sensor_board", "pcb");
+        QVERIFY(!(demoBoard("demo", "pcb").features == board.features));
+        std::set<Pcb::Kind> kinds;
+        std::set<Pcb::TextFormat> texts;
+        std::set<Pcb::BarcodeType> codes;
+        bool cuts = false;
+        for (const Pcb::Feature& feature : board.features) {
+            QVERIFY(!feature.area().isEmpty());
+            QVERIFY(board.outline.boundingRect().contains(feature.bounds()));
+            kinds.insert(feature.kind());
+            cuts = cuts || !feature.isPositive();
+            const Pcb::TextSpec& text = feature.geometry().text;
+            if (feature.kind() == Pcb::Kind::Text) {
+                QCOMPARE(Pcb::leftOut(text), QString());
+                texts.insert(text.format);
+                if (text.format == Pcb::TextFormat::Barcode) {
+                    codes.insert(text.barcode);
+                }
+            }
+        }
+        QCOMPARE(int(kinds.size()), 5);
+        QCOMPARE(int(texts.size()), 4);
+        QCOMPARE(int(codes.size()), 5);
+        QVERIFY(cuts);
     }
 
     void aMissingSymbolIsSaid_data()

@@ -389,12 +389,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("name");
-        QTest::newRow("dimension") << int(Sent::RoutDimension) << "Rout dimension";
-        QTest::newRow("contour") << int(Sent::ContourEditor) << "Contour editor";
-        QTest::newRow("pull") << int(Sent::PullLine) << "Pull line";
-        QTest::newRow("junction") << int(Sent::MoveJunction) << "Move junction";
-        QTest::newRow("triplet") << int(Sent::MoveTriplet) << "Move triplet";
-        QTest::newRow("reroute") << int(Sent::RerouteTrace) << "Reroute trace";
+        QTest::newRow("dimension") << int(Sent::RoutDimension) << "Rout Dimension Editor";
+        QTest::newRow("contour") << int(Sent::ContourEditor) << "Contour Editor";
+        QTest::newRow("pull") << int(Sent::PullLine) << "Pull Line";
+        QTest::newRow("junction") << int(Sent::MoveJunction) << "Move Junction";
+        QTest::newRow("triplet") << int(Sent::MoveTriplet) << "Move Triplet(Angle)";
+        QTest::newRow("reroute") << int(Sent::RerouteTrace) << "Reroute Trace(Fix Point)";
         QTest::newRow("EQ") << int(Sent::Eq) << "EQ";
     }
     void saysWhatItDoesNotDo()

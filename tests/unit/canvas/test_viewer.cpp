@@ -73,17 +73,17 @@ private Q_SLOTS:
 
     void namesTheTool()
     {
-        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Area zoom"));  // as the strip starts
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Area Zoom"));  // as the strip starts
         receive(Sent::MoveFeature);
-        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Move feature"));
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Move Feature"));
         receive(Sent::DeleteFeature, 1);
-        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Delete feature, mode 1"));
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Delete Feature, mode 1"));
         receive(Sent::AddFeature);
-        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add feature"));
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add Feature"));
         receive(Sent::FeatureSelection);
         // The dialog was open: it is not announced again.
         receive(Sent::Record, 0, {{RecordKeys::features, FeatureKind::line.toInt()}});
-        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add feature"));
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Add Feature"));
         receive(Sent::BreakLine);
         receive(Sent::BreakLineOff);  // the same tool's second code
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(text("m_pActiveToolLB"), QString("Tool: none"));
     }
 
-    /// By the name that the monitor shows, whether the canvas has it or not.
+    /// By the name that strip and monitor show, whether the canvas has it or not.
     void followsEachTool()
     {
         for (const ToolRow& tool : toolRows()) {
@@ -100,6 +100,10 @@ private Q_SLOTS:
                 continue;  // announced by no message
             }
             receive(tool.code);
+            // The button of the nets is called after all of its variants.
+            const bool isNet = tool.code == Sent::SelectLayerNet;
+            QCOMPARE(text("m_pActiveToolLB"),
+                     "Tool: " + (isNet ? QString("Select Layer Net") : tool.tip));
             QCOMPARE(text("m_pActiveToolLB"),
                      "Tool: " + MessageNames::text(ModuleNames::viewer, tool.code));
             if (tool.offCode != tool.code) {
@@ -187,7 +191,7 @@ private Q_SLOTS:
         QCOMPARE(text("m_pPickHintLB"), first);
         QVERIFY(m_log->messages().empty());
         receive(Sent::CopyFeature);
-        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Copy feature"));
+        QCOMPARE(text("m_pActiveToolLB"), QString("Tool: Copy Feature"));
         QCOMPARE(text("m_pPickHintLB"), QString("Click a feature to copy it."));
     }
 

@@ -15,7 +15,10 @@ for file in "${files[@]}"; do
     # Collects the texts into a copy; none may be new, unfinished or gone.
     copy=$dir/${file##*/}
     cp "$file" "$copy"
-    "$lupdate" -silent -locations none -I . -I workbench "$@" \
+    # English has its texts in the sources, all but the plurals.
+    kind=()
+    [[ $file == *_en.ts ]] && kind=(-pluralonly)
+    "$lupdate" "${kind[@]}" -silent -locations none -I . -I workbench "$@" \
         -ts "$copy" >/dev/null 2>&1
     if grep -B3 -E 'type="(unfinished|vanished|obsolete)"' "$copy" | grep '<source>'; then
         echo "$file: not translated, or gone from the sources"

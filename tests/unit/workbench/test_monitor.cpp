@@ -165,7 +165,7 @@ private Q_SLOTS:
         const auto text = [&](const char* name) { return findNamed<QLabel>(*dialog, name).text(); };
         QCOMPARE(text("m_pMessageFromLB"), QString("Canvas_Tool_Strip.dll"));
         QCOMPARE(text("m_pMessageToLB"), ModuleNames::viewer);
-        QCOMPARE(text("m_pMessageCodeLB"), QString("50 Record (Feature record)"));
+        QCOMPARE(text("m_pMessageCodeLB"), QString("50 Record (Feature Record)"));
         QCOMPARE(text("m_pMessageExtraLB"), QString("0"));
         QVERIFY(
             dialog->text().endsWith("Features\t2\tinteger\nOn\ttrue\ttruth\n"

@@ -168,7 +168,7 @@ private Q_SLOTS:
         QTest::mouseMove(board().viewport(), position);
         const QPointF before = place();
         QTest::mousePress(board().viewport(), Qt::LeftButton, {}, position);
-        QTest::qWait(20);  // "1 feature(s) selected." is shown meanwhile
+        QTest::qWait(20);  // "1 feature selected." is shown meanwhile
         QCOMPARE(place(), before);
         QTest::mouseRelease(board().viewport(), Qt::LeftButton, {}, position);
         QTest::qWait(20);

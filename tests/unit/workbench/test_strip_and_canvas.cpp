@@ -23,17 +23,17 @@ namespace {
 const QMap<QString, QString>& toolNames()
 {
     static const QMap<QString, QString> names{
-        {"m_pAreaZoomTB", "Area zoom"},
-        {"m_pFeatHighLightTB", "Feature highlight"},
-        {"m_pAddFeatureTB", "Add feature"},
-        {"m_pDeleteFeatTB", "Delete feature"},
-        {"m_pMoveFeatureTB", "Move feature"},
-        {"m_pBreakLineTB", "Break line"},
-        {"m_pFeatureSelectionTB", "Feature selection"},
-        {"m_pRectSelectionTB", "Rectangle selection"},
-        {"m_pPolygonSelectionTB", "Polygon selection"},
+        {"m_pAreaZoomTB", "Area Zoom"},
+        {"m_pFeatHighLightTB", "Feature HighLight"},
+        {"m_pAddFeatureTB", "Add Feature"},
+        {"m_pDeleteFeatTB", "Delete Feature"},
+        {"m_pMoveFeatureTB", "Move Feature"},
+        {"m_pBreakLineTB", "Break Line"},
+        {"m_pFeatureSelectionTB", "Feature Selection"},
+        {"m_pRectSelectionTB", "Rectangle Selection"},
+        {"m_pPolygonSelectionTB", "Polygon Selection"},
         {"m_pMeasureTB", "Measure"},
-        {"m_pSelectPolylineTB", "Select layer net"},
+        {"m_pSelectPolylineTB", "Select Layer Net"},
     };
     return names;
 }
@@ -98,16 +98,16 @@ private Q_SLOTS:
     void theyStartAlike()
     {
         QVERIFY(tool("m_pAreaZoomTB").isChecked());
-        QCOMPARE(canvasTool(), QString("Area zoom"));
+        QCOMPARE(canvasTool(), QString("Area Zoom"));
     }
 
     void aStripMadeAnew()
     {
         tool("m_pDeleteFeatTB").click();
-        QCOMPARE(canvasTool(), QString("Delete feature"));
+        QCOMPARE(canvasTool(), QString("Delete Feature"));
         findNamed<QCheckBox>(*m_window, "m_pHostEqCB").click();
         QVERIFY(tool("m_pAreaZoomTB").isChecked());
-        QCOMPARE(canvasTool(), QString("Area zoom"));
+        QCOMPARE(canvasTool(), QString("Area Zoom"));
         QCOMPARE(afterAClick(), QString("Undo: "));
     }
 
@@ -126,7 +126,7 @@ private Q_SLOTS:
         m_log->clear();
         tell(Accepted::AddFeatureActive);
         QVERIFY(tool("m_pAddFeatureTB").isChecked());
-        QCOMPARE(canvasTool(), QString("Add feature"));
+        QCOMPARE(canvasTool(), QString("Add Feature"));
         QCOMPARE(int(m_log->messages().size()), 1);  // nobody answers what was not a question
         QVERIFY(afterAClick() != QString("Undo: Delete feature"));
     }
@@ -147,10 +147,10 @@ private Q_SLOTS:
     {
         openDialog();
         tool("m_pDeleteFeatTB").click();
-        QCOMPARE(canvasTool(), QString("Delete feature"));
+        QCOMPARE(canvasTool(), QString("Delete Feature"));
         findNamed<QAbstractButton>(*m_window, "m_pLineTB").click();
-        QCOMPARE(canvasTool(), QString("Add feature"));
-        QCOMPARE(stripTool(), QString("Add feature"));
+        QCOMPARE(canvasTool(), QString("Add Feature"));
+        QCOMPARE(stripTool(), QString("Add Feature"));
     }
 
     void noModeOfSelectByNet()

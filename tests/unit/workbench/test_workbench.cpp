@@ -91,9 +91,9 @@ private Q_SLOTS:
             return all;
         };
         const QMap<QString, QString> english = texts();
-        QCOMPARE(english["AddFeatureStarted"], QString("Add feature started"));
-        QCOMPARE(english["DirectionRecord"], QString("Feature record (direction)"));
-        QCOMPARE(english["accepted AddFeatureActive"], QString("Add feature is active"));
+        QCOMPARE(english["AddFeatureStarted"], QString("Add Feature Started"));
+        QCOMPARE(english["DirectionRecord"], QString("Feature Record (Direction)"));
+        QCOMPARE(english["accepted AddFeatureActive"], QString("Add Feature Is Active"));
         QTranslator translator;
         QVERIFY(translator.load("workbench_zh_CN", TRANSLATION_DIR));
         QCoreApplication::installTranslator(&translator);
@@ -142,6 +142,8 @@ private Q_SLOTS:
         QCOMPARE(options.screenshotFile, QString("s.png"));
         QCOMPARE(options.sessionFile, QString("p"));
         QVERIFY(options.exit);
+        QCOMPARE(options.file, QString());
+        QCOMPARE(parsed({"--exit", "a.json"}).file, QString("a.json"));
         QCOMPARE(options.unit, CanvasHost::DisplayUnit::Millimetre);
         QCOMPARE(options.language, QString("zh_CN"));
         const QString help = parsed({"--help"}).answer;
@@ -186,7 +188,7 @@ private Q_SLOTS:
         QTest::newRow("unit") << QStringList{"--unit", "foot"} << "foot";
         QTest::newRow("language") << QStringList{"--language", "fr"} << "fr";
         QTest::newRow("font size") << QStringList{"--font-size", "3"} << "3";
-        QTest::newRow("extra") << QStringList("extra") << "extra";
+        QTest::newRow("extra") << QStringList{"board.json", "extra"} << "extra";
     }
 
     void wrongOptions()

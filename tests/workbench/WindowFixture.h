@@ -1,0 +1,130 @@
+#pragma once
+
+#include "FindChild.h"
+#include "StartWorkbench.h"
+#include "messages/HostState.h"
+#include "session/SessionParser.h"
+#include "session/SessionPlayer.h"
+#include "shared/Settings.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+/// Answers every box, and keeps what it said.
+class Boxes {
+public:
+    explicit Boxes(QMessageBox::StandardButton answer)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this, answer] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                told.append(box->windowTitle() + "|" + box->text());
+                box->button(answer)->click();
+            }
+        });
+        m_timer.start(10);
+    }
+    QStringList told;
+
+private:
+    QTimer m_timer;
+};
+
+/// The window, and what a user does with its files and menus.
+class WindowFixture {
+protected:
+    QTemporaryDir m_directory;
+    std::unique_ptr<MessageLog> m_log;
+    std::unique_ptr<WorkbenchWindow> m_window;
+
+    QStringList entries(const char* menu) const
+    {
+        QStringList names;
+        for (const QAction* const action : findNamed<QMenu>(*m_window, menu).actions()) {
+            names.append(action->isSeparator() ? QString("-")
+                         : action->menu()      ? action->menu()->objectName()
+                                               : action->objectName());
+        }
+        return names;
+    }
+    QAction& action(const char* name) const { return *m_window->findChild<QAction*>(name); }
+
+    void drop(const QString& file) const
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        auto& board = *findNamed<QAbstractScrollArea>(*m_window, "m_pBoardView").viewport();
+        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&board, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&board, &drop);
+    }
+    /// Answers the file dialog that comes next.
+    static void chooseFile(const QString& file)
+    {
+        QTimer::singleShot(100, [file] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog) {
+                auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
+                name.setText(file);
+                QTest::keyClick(&name, Qt::Key_Return);
+            }
+        });
+    }
+    void restart(const Options& options)
+    {
+        m_window.reset();
+        m_log = std::make_unique<MessageLog>();
+        m_window = startWorkbench(*m_log, options);
+        m_window->show();
+    }
+    void play(const QByteArray& steps) const
+    {
+        SessionPlayer player(SessionParser::read(steps, "test"), m_window->host(), m_window.get(),
+                             m_log.get());
+        QSignalSpy finished(&player, &SessionPlayer::finished);
+        QSignalSpy failed(&player, &SessionPlayer::failed);
+        player.start();
+        QVERIFY(finished.wait(10000));
+        QVERIFY(failed.isEmpty());
+    }
+    QString write(const char* name, const QByteArray& text) const
+    {
+        QFile file(m_directory.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
+            qFatal("%s", qPrintable(file.errorString()));
+        }
+        return file.fileName();
+    }
+    /// A job with the one step "first".
+    QString writeJob(const QByteArray& name) const
+    {
+        return write("job.json", R"({"format":1,"jobs":[{"name":")" + name +
+                                     R"(","steps":["first"],"fonts":[],"specialSymbols":[],
+                                     "userSymbols":[],"specialTexts":[],"attributes":[]}]})");
+    }
+    QString writeBoard(const QTemporaryDir& directory) const
+    {
+        const QString file = directory.filePath("dropped.json");
+        QFile board(file);
+        if (!board.open(QIODevice::WriteOnly)) {
+            qFatal("%s", qPrintable(board.errorString()));
+        }
+        board.write(R"({"format":1,"job":"a","step":"b","outline":[],"features":[]})");
+        return file;
+    }
+};

@@ -1,0 +1,31 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>MessageMonitor</name>
+    <message numerus="yes">
+        <source>%n message(s)</source>
+        <translation>
+            <numerusform>%n message</numerusform>
+            <numerusform>%n messages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n message(s)</source>
+        <translation>
+            <numerusform>%1 of %n message</numerusform>
+            <numerusform>%1 of %n messages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SelectionTools</name>
+    <message numerus="yes">
+        <source>%n feature(s) selected.</source>
+        <translation>
+            <numerusform>%n feature selected.</numerusform>
+            <numerusform>%n features selected.</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
