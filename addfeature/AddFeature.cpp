@@ -225,7 +225,7 @@ void AddFeature::onFeatureButtonClicked(QAbstractButton* /*button*/)
     const FeatureType type = featureType();
     const int id = static_cast<int>(type);
     m_pFeatureBG->storeChoice();
-    if (id >= 0 && id < m_pages.size()) {
+    if (id >= 0) {
         const bool isPlaced = type == FeatureType::Pad || type == FeatureType::Text;
         m_symbol->m_pSymbolTextLE->applyFeatureType();
         m_symbol->setControlsVisible(hasSymbol());

@@ -3,6 +3,7 @@
 #include "DialogFixture.h"
 #include "Expect.h"
 #include "Main.h"
+#include "RaiseCounter.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -25,18 +26,6 @@ const QStringList pages = {"m_pLinePage", "m_pPadPage", "m_pSurfacePage", "m_pAr
                            "m_pTextPage"};
 const QStringList symbolControls = {"m_pSymbolPB", "m_pSymbolTextLE", "m_pSelectFromEditorPB"};
 const QStringList placementControls = {"m_pMirrorCMB", "m_pAngleValueSB"};
-
-/// How often a window was raised.
-class RaiseCounter : public QObject {
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        count += event->type() == QEvent::ZOrderChange ? 1 : 0;
-        return QObject::eventFilter(watched, event);
-    }
-
-    int count = 0;
-};
 
 QImage picture(const QIcon& icon)
 {
@@ -89,6 +78,14 @@ private Q_SLOTS:
             const QIcon expected(QString(":/Canvas_Tool_Strip/Resources/") + type.icon);
             QVERIFY(!picture(expected).isNull());
             QCOMPARE(picture(button.icon()), picture(expected));
+        }
+    }
+
+    void startsWithALine()
+    {
+        DialogFixture fixture;
+        for (const QString& page : pages) {
+            QCOMPARE(fixture.isShown(page), page == "m_pLinePage");
         }
     }
 
@@ -200,6 +197,22 @@ private Q_SLOTS:
         fixture.click(button);
         QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
         QCOMPARE(featureAtAttributes, QVariant(kind.toInt()));
+    }
+
+    /// Only a program can leave no type chosen. The page stays.
+    void withoutATypeTheRecordIsSent()
+    {
+        DialogFixture fixture;
+        fixture.click("m_pPadTB");
+        fixture.recorder.clear();
+        auto& pad = fixture.find<QToolButton>("m_pPadTB");
+        pad.group()->setExclusive(false);
+        pad.setChecked(false);
+        fixture.dialog->onFeatureButtonClicked(nullptr);
+        QCOMPARE(fixture.recorder.codes(), (QVector<int>{Sent::AttributeMap, Sent::Record}));
+        Expect::holds(fixture, {Expect::record(RecordKeys::features, 0),
+                                Expect::shown("m_pPadPage"), Expect::hidden("m_pMirrorCMB"),
+                                Expect::hidden("m_pAngleValueSB"), Expect::shown("m_pSymbolPB")});
     }
 
     void keepsTheOtherPagesKeys()

@@ -439,6 +439,21 @@ private Q_SLOTS:
         QTest::qWait(20);
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
     }
+
+    /// Closing the window takes the focus, and is no entry; nor is leaving the field later.
+    void closingForgetsAPendingEntry()
+    {
+        DialogFixture fixture(Unit::Mil, DialogFixture::Opened::ByTheStrip);
+        fixture.type("m_pSymbolTextLE", "s5");
+        fixture.dialog->close();
+        fixture.open();
+        fixture.symbol().setFocus();
+        fixture.recorder.clear();
+        fixture.leave();
+        QCOMPARE(fixture.recorder.codes(), QVector<int>());
+        Expect::holds(fixture, {Expect::record(RecordKeys::symbolText, "")});
+        QCOMPARE(fixture.symbol().text(), QString("s5"));
+    }
 };
 
 CTS_TEST(TestSymbolEntry);

@@ -4,6 +4,7 @@
 #include "DialogFixture.h"
 #include "Expect.h"
 #include "Main.h"
+#include "RaiseCounter.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
@@ -121,6 +122,10 @@ private Q_SLOTS:
             QCOMPARE(openWindows().size(), 1);
             QCOMPARE(openWindows().at(0), popup);
             QVERIFY(popup->isVisible());
+            RaiseCounter counter;
+            popup->installEventFilter(&counter);
+            fixture.click("m_pTextPB");
+            QCOMPARE(counter.count, 1);  // it may have been behind another window
 
             fixture.find<QLineEdit>("m_pTextLE").setText("before");
             auto& list = findNamed<QListWidget>(*popup, "m_pTextLW");

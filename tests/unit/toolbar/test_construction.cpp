@@ -51,6 +51,14 @@ class TestConstruction : public QObject {
 private Q_SLOTS:
     void cleanup() { CanvasHost::setEQVisible(true); }
 
+    void theHostsWidgetTakesNoFocus()
+    {
+        QWidget host;
+        host.setFocusPolicy(Qt::StrongFocus);
+        const Canvas_Tool_Strip strip(&host);
+        QCOMPARE(host.focusPolicy(), Qt::NoFocus);
+    }
+
     void button_data()
     {
         QTest::addColumn<Tool>("tool");
