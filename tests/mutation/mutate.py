@@ -26,8 +26,8 @@ ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
 FOLDERS = ("plugin", "toolbar", "addfeature", "dimensions")
 # The fast tests of the module, quickest first; the order changes as tests prove useful.
-TESTS = """contract.contract contract.protocol fields.fields fields.reports fields.rules toolbar.entry
-toolbar.language dimensions.dimensions toolbar.menus toolbar.incoming dialog.attributes
+TESTS = """contract.contract contract.protocol host.plugin_manager fields.fields fields.reports fields.rules
+toolbar.entry toolbar.language dimensions.dimensions toolbar.menus toolbar.incoming dialog.attributes
 pages.fonts_and_special_texts_page toolbar.activation dialog.frame dialog.symbol_units
 dialog.symbol_pick toolbar.construction dialog.sending language.translations
 accessibility.accessibility accessibility.layout accessibility.looks resources.resources
@@ -129,7 +129,8 @@ class Copy:
     @staticmethod
     def readers(path):
         """The tests to rebuild: they read the protocol themselves."""
-        return ["tests_contract"] if re.fullmatch(r"plugin/(.*\.h|MessageCodes\.cpp)", path) else []
+        readers = ["tests_contract", "tests_host"]
+        return readers if re.fullmatch(r"plugin/(.*\.h|MessageCodes\.cpp)", path) else []
 
     def order(self, path):
         """The tests that caught other mutants of the file first."""
