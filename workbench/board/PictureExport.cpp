@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QScopeGuard>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -53,6 +54,7 @@ void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const
                 const PictureColours& colours, const Progress& progress)
 {
     painter.save();
+    const auto restore = qScopeGuard([&painter] { painter.restore(); });
     painter.setClipRect(target);
     painter.fillRect(target, colours.background);
     painter.translate(target.left(), target.bottom());
@@ -71,7 +73,6 @@ void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const
     if (colours.outline.alpha() > 0) {
         painter.drawPolygon(board.outline);
     }
-    painter.restore();
 }
 
 QImage toImage(const Board& board, int pixels, const PictureColours& colours,

@@ -84,17 +84,23 @@ void readInputs(int argc, char* argv[], Inputs* inputs)
     }
 }
 
+/// Whether a user is at work.
+bool isByHand(const Options& options)
+{
+    return !options.exit && options.sessionFile.isEmpty() && options.recordFile.isEmpty() &&
+           options.screenshotFile.isEmpty();
+}
+
 /// The file of the settings: the user's where a user is at work, otherwise a new one in `own`.
 QString settingsFile(const Options& options, const QTemporaryDir& own)
 {
     if (!options.settingsFile.isEmpty()) {
         return options.settingsFile;
     }
-    const bool byHand = !options.exit && options.sessionFile.isEmpty() &&
-                        options.recordFile.isEmpty() && options.screenshotFile.isEmpty();
-    return byHand ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                        QStringLiteral("/canvas-tool-strip/workbench.ini")
-                  : own.filePath(QStringLiteral("workbench.ini"));
+    return isByHand(options)
+               ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                     QStringLiteral("/canvas-tool-strip/workbench.ini")
+               : own.filePath(QStringLiteral("workbench.ini"));
 }
 
 /// Calls `then` when `window` has been on the screen for a moment.
@@ -179,7 +185,12 @@ int run(int argc, char* argv[])
     window.canvas()->files().setMayAsk(
         [&] { return player.isOver() ? !inputs.options.exit : player.expectsBox(); });
     window.show();
-    whenPainted(&window, [&] { player.start(); });
+    whenPainted(&window, [&] {
+        if (isByHand(inputs.options) || inputs.options.recovery) {
+            window.canvas()->files().keepForRecovery();
+        }
+        player.start();
+    });
     return QApplication::exec();
 }
 
