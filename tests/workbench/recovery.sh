@@ -30,14 +30,14 @@ play() {
 }
 fail() { echo "$1: $2"; cat "$1.log"; exit 1; }
 pads() { grep -c '"symbol":"r10"' "$1"; }
-edits() { grep -c '^canvas click' "$1" 2>/dev/null; }
+edits() { cat "$1" 2>/dev/null | grep -c '^canvas click'; }
 
 # once NAME: a kill at a random moment, and the recovery.
 once() {
     local name=$1 pid sure done
     play "$name" --play edits.session --record "$name.recorded" --exit &
     pid=$!
-    until [ "$(edits "$name.recorded")" ]; do
+    until [ "$(edits "$name.recorded")" -gt 1 ]; do
         kill -0 "$pid" || fail "$name" "it has ended"
         sleep 0.05
     done

@@ -126,17 +126,12 @@ bool FileActions::open(const QString& file)
 
 bool FileActions::tryToOpen(const QString& file)
 {
-<<<<<<< HEAD
-    const bool opened = attempt(tr("Cannot open the board"), [&] { openAtOnce(file); });
-    if (opened) {
-=======
     Pcb::Board board;
     const bool isRead =
-        attempt(tr("Opening %1...").arg(QFileInfo(file).fileName()),
+        attempt(tr("Cannot open the board"), tr("Opening %1...").arg(QFileInfo(file).fileName()),
                 [&](const Pcb::Progress& progress) { board = Pcb::readBoardFile(file, progress); });
     if (isRead) {
         show(board, file);
->>>>>>> 3633c40 (Workbench: a crash costs no more than two seconds of edits)
         m_canvas.say(tr("Opened %1.").arg(file));
     }
     return isRead;
@@ -156,17 +151,10 @@ void FileActions::startNew()
 void FileActions::chooseAndOpen()
 {
     // Before the file is chosen, so that the choice is not in vain.
-<<<<<<< HEAD
-    if (mayReplace(m_canvas.document())) {
+    if (mayReplace(shown())) {
         const QString chosen = FileNames::ask(FileNames::Purpose::Open, file(), {}, m_pane);
         if (!chosen.isEmpty()) {
             tryToOpen(chosen);
-=======
-    if (mayReplace(shown())) {
-        const QString file = FileNames::ask(FileNames::Purpose::Open, {}, m_pane);
-        if (!file.isEmpty()) {
-            tryToOpen(file);
->>>>>>> 3633c40 (Workbench: a crash costs no more than two seconds of edits)
         }
     }
 }
@@ -183,24 +171,17 @@ void FileActions::saveShownAs()
 
 void FileActions::chooseAndExport()
 {
-<<<<<<< HEAD
-    const Document& document = m_canvas.document();
-    const QString name = QFileInfo(nameOf(document)).completeBaseName();
-    const QString chosen = FileNames::ask(FileNames::Purpose::Export, file(), name, m_pane);
-    if (!chosen.isEmpty() && attempt(tr("Cannot export the board"), [&] { exportTo(chosen); })) {
-        LastFolder::remember(chosen);
-        m_canvas.say(tr("Wrote %1.").arg(chosen));
-=======
     const QString name = QFileInfo(offeredName(shown())).completeBaseName();
-    const QString file = FileNames::ask(FileNames::Purpose::Export, name, m_pane);
-    if (file.isEmpty()) {
+    const QString chosen = FileNames::ask(FileNames::Purpose::Export, file(), name, m_pane);
+    if (chosen.isEmpty()) {
         return;
     }
     const Pcb::Board board = shown().document->board();
-    if (attempt(tr("Exporting %1...").arg(QFileInfo(file).fileName()),
-                [&](const Pcb::Progress& progress) { exportBoard(board, file, progress); })) {
-        m_canvas.say(tr("Wrote %1.").arg(file));
->>>>>>> 3633c40 (Workbench: a crash costs no more than two seconds of edits)
+    if (attempt(tr("Cannot export the board"),
+                tr("Exporting %1...").arg(QFileInfo(chosen).fileName()),
+                [&](const Pcb::Progress& progress) { exportBoard(board, chosen, progress); })) {
+        LastFolder::remember(chosen);
+        m_canvas.say(tr("Wrote %1.").arg(chosen));
     }
 }
 
@@ -216,18 +197,16 @@ bool FileActions::mayClose()
                               : changed.empty() || mayReplace(*changed.front());
 }
 
-<<<<<<< HEAD
 void FileActions::closeAll()
 {
-    m_documents.clear();
-    m_files.clear();
+    m_steps.clear();
+    if (m_recovery) {
+        m_recovery->forgetAll();
+    }
     m_canvas.closeAll();
 }
 
-bool FileActions::mayReplace(Document& document)
-=======
 bool FileActions::mayReplace(OpenStep& step)
->>>>>>> 3633c40 (Workbench: a crash costs no more than two seconds of edits)
 {
     if (!step.document->isModified() || !m_mayAsk()) {
         return true;
@@ -250,33 +229,21 @@ bool FileActions::mayCloseAll(const std::vector<OpenStep*>& changed)
 
 bool FileActions::save(OpenStep& step)
 {
-<<<<<<< HEAD
-    const auto known = m_files.find(&document);
-    const QString file =
-        FileNames::ask(FileNames::Purpose::Save, known == m_files.end() ? QString() : known->second,
-                       nameOf(document), m_pane);
-    return !file.isEmpty() && write(document, file);
-=======
     return step.file.isEmpty() ? saveAs(step) : write(step, step.file);
->>>>>>> 3633c40 (Workbench: a crash costs no more than two seconds of edits)
 }
 
 bool FileActions::saveAs(OpenStep& step)
 {
-<<<<<<< HEAD
-    if (!attempt(tr("Cannot save the board"),
-                 [&] { Pcb::writeBoardFile(document.board(), file); })) {
-=======
-    const QString file = FileNames::ask(FileNames::Purpose::Save, offeredName(step), m_pane);
+    const QString file =
+        FileNames::ask(FileNames::Purpose::Save, step.file, offeredName(step), m_pane);
     return !file.isEmpty() && write(step, file);
 }
 
 bool FileActions::write(OpenStep& step, const QString& file)
 {
     const Pcb::Board board = step.document->board();
-    if (!attempt(tr("Saving %1...").arg(QFileInfo(file).fileName()),
+    if (!attempt(tr("Cannot save the board"), tr("Saving %1...").arg(QFileInfo(file).fileName()),
                  [&](const Pcb::Progress& progress) { writeBoardFile(board, file, progress); })) {
->>>>>>> 3633c40 (Workbench: a crash costs no more than two seconds of edits)
         return false;
     }
     step.document->setSaved();
@@ -302,11 +269,7 @@ QString FileActions::offeredName(const OpenStep& step)
                                : QStringLiteral("%1-%2.json").arg(board.job, board.step);
 }
 
-<<<<<<< HEAD
-bool FileActions::attempt(const QString& failure, const std::function<void()>& work)
-=======
-bool FileActions::attempt(const QString& text, const LongWork::Work& work)
->>>>>>> 3633c40 (Workbench: a crash costs no more than two seconds of edits)
+bool FileActions::attempt(const QString& failure, const QString& text, const LongWork::Work& work)
 {
     try {
         const bool isDone = LongWork::run(m_pane->window(), text, work);
@@ -347,7 +310,8 @@ bool FileActions::recover(const KeptStep& kept)
     const auto read = [&](const Pcb::Progress& progress) {
         board = RecoveryFolder::read(kept.path, progress);
     };
-    if (!isShown() || isModified() || !attempt(tr("Recovering changes..."), read)) {
+    if (!isShown() || isModified() ||
+        !attempt(tr("Cannot recover the changes"), tr("Recovering changes..."), read)) {
         return false;
     }
     OpenStep& step = shown();

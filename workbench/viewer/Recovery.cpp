@@ -82,16 +82,31 @@ void Recovery::update()
     for (size_t index = 0; index < m_steps.size(); ++index) {
         const Document& document = *m_steps[index].document;
         if (!document.isModified() && m_kept[index] >= 0) {
-            m_kept[index] = -1;
-            QMetaObject::invokeMethod(
-                m_writer, [writer = m_writer, path = m_folder->path(static_cast<int>(index))] {
-                    writer->remove(path);
-                });
+            removeKept(index);
         } else if (document.isModified() && m_kept[index] != document.revision() && !m_isWriting &&
                    !m_timer.isActive()) {
             m_timer.start();
         }
     }
+}
+
+void Recovery::removeKept(size_t index)
+{
+    m_kept[index] = -1;
+    QMetaObject::invokeMethod(m_writer,
+                              [writer = m_writer, path = m_folder->path(static_cast<int>(index))] {
+                                  writer->remove(path);
+                              });
+}
+
+void Recovery::forgetAll()
+{
+    for (size_t index = 0; index < m_kept.size(); ++index) {
+        if (m_kept[index] >= 0) {
+            removeKept(index);
+        }
+    }
+    m_kept.clear();
 }
 
 bool Recovery::hasFolder()

@@ -34,6 +34,8 @@ public:
 
     /// One of the steps has changed, or has been saved.
     void update();
+    /// The steps have been closed: none of them is kept.
+    void forgetAll();
     /// The kept step has become the `index`th of the steps: its file is taken over.
     void takeOver(const KeptStep& kept, size_t index);
 
@@ -43,6 +45,7 @@ Q_SIGNALS:
 
 private:
     bool hasFolder();
+    void removeKept(size_t index);
     void write();
     void finish(const QString& reason);
 
