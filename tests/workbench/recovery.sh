@@ -48,6 +48,7 @@ once() {
     kill -9 "$pid"
     wait "$pid" 2>/dev/null
     done=$(edits "$name.recorded")
+    [ "$name" != kill0 ] || cp -r "$name.ini.recovery" hand.ini.recovery
     (play "$name" --play recover.session --export "$name.json" --exit) || fail "$name" "status $?"
     [ ! -e "$name.ini.recovery" ] || fail "$name" "files are left"
     kept=$(($(pads "$name.json") - $(cat pads)))
@@ -71,4 +72,18 @@ status=0
 for lane in "${running[@]}"; do
     wait "$lane" || status=1
 done
+
+# Where no session is played the offer waits for the user, and so does a second program's start.
+"$workbench" --modules "$modules" --job "$jobs" --settings hand.ini >hand.log 2>&1 &
+pid=$!
+for _ in $(seq 100); do
+    [ ! -e hand.ini.recovery/0.lock ] || break
+    sleep 0.1
+done
+sleep 0.5
+[ -e hand.ini.recovery/0.lock ] || fail hand "nothing is offered"
+! grep -q 'answered the box' hand.log || fail hand "the offer was answered"
+[ -e hand.ini.recovery/0/0.kept ] || [ -e hand.ini.recovery/0/1.kept ] || fail hand "it is gone"
+kill "$pid"
+wait "$pid" 2>/dev/null
 exit $status

@@ -179,15 +179,26 @@ int run(int argc, char* argv[])
         complain(text);
         QCoreApplication::exit(StepFailed);
     });
-    QObject::connect(&player, &SessionPlayer::finished, &window,
-                     [&] { end(inputs.options, &window); });
+    const bool isPlayed = !inputs.options.sessionFile.isEmpty();
+    const auto keepForRecovery = [&] {
+        if (isByHand(inputs.options) || inputs.options.recovery) {
+            window.canvas()->files().keepForRecovery();
+        }
+    };
+    QObject::connect(&player, &SessionPlayer::finished, &window, [&] {
+        end(inputs.options, &window);
+        if (!isPlayed) {
+            keepForRecovery();
+        }
+    });
     QObject::connect(&window, &WorkbenchWindow::closed, application.get(), &QCoreApplication::quit);
     window.canvas()->files().setMayAsk(
         [&] { return player.isOver() ? !inputs.options.exit : player.expectsBox(); });
     window.show();
     whenPainted(&window, [&] {
-        if (isByHand(inputs.options) || inputs.options.recovery) {
-            window.canvas()->files().keepForRecovery();
+        // A session answers the offer itself; who sits there is asked when nothing is played.
+        if (isPlayed) {
+            keepForRecovery();
         }
         player.start();
     });
