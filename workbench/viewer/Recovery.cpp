@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int delay = 400;  // milliseconds, in which further changes are waited for
+constexpr int delay = 250;  // milliseconds, in which further changes are waited for
 
 }  // namespace
 

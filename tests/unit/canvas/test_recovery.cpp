@@ -3,6 +3,7 @@
 #include "CanvasFixture.h"
 #include "Main.h"
 #include "board/BoardFile.h"
+#include "plugin/PayloadKeys.h"
 #include "shared/Settings.h"
 #include "viewer/FileActions.h"
 #include "viewer/RecoveryFolder.h"
@@ -42,7 +43,7 @@ public:
     {
         CanvasHost::addInstance(CanvasHost::hostName, pane,
                                 [](void* asked, PluginMetaData message) {
-                                    if (message.payload["JobName"] == "demo") {
+                                    if (message.payload[PayloadKeys::jobName] == "demo") {
                                         static_cast<ViewerPane*>(asked)->receive(message);
                                     }
                                 });
@@ -293,7 +294,7 @@ private Q_SLOTS:
             program.removeFirst();
             QElapsedTimer sinceEdit;
             sinceEdit.start();
-            QTest::qWait(200);  // it is painted
+            QTest::qWait(100);  // it is painted
             QCOMPARE(written.count(), attempt - 1);
             qint64 longest = 0;
             QElapsedTimer since;
