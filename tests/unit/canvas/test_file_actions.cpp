@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -388,6 +389,35 @@ private Q_SLOTS:
         const Chosen chosen(fixture.path("full/far.svg"), 2);
         fixture.action("m_pExportBoardAct").trigger();
         QCOMPARE(LastFolder::path(), fixture.path("full"));
+    }
+
+    void whatIsCancelledLeavesNoFile()
+    {
+        const FileFixture fixture;
+        Pcb::Board board = fixture.document().board();
+        for (int i = 0; i < 100000; ++i) {
+            board.features.push_back(
+                Pcb::Feature(Pcb::padGeometry("oval18x10", {i % 300 * 60.0, i / 300 * 40.0})));
+        }
+        fixture.document().replace(board);
+        QStringList shown;
+        QTimer cancels;
+        connect(&cancels, &QTimer::timeout, [&] {
+            if (auto* const dialog =
+                    qobject_cast<QProgressDialog*>(QApplication::activeModalWidget())) {
+                for (const QWidget* const window : QApplication::topLevelWidgets()) {
+                    QVERIFY(!window->isVisible() || !qobject_cast<const QFileDialog*>(window));
+                }
+                shown.append(dialog->labelText());
+                findNamed<QAbstractButton>(*dialog, "m_pProgressCancelPB").click();
+            }
+        });
+        cancels.start(20);
+        const Chosen chosen(fixture.path("drawn"), 2);
+        fixture.action("m_pExportBoardAct").trigger();
+        QCOMPARE(shown.value(0), QString("Exporting drawn.svg..."));
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("Cancelled."));
+        QCOMPARE(QDir(fixture.directory.path()).entryList(QDir::Files), QStringList());
     }
 
     void folderAndRecentFilesAreRemembered()
