@@ -28,7 +28,7 @@ play() {
     exec "$workbench" --modules "$modules" --job "$jobs" --settings "$name.ini" --recovery "$@" \
         >>"$name.log" 2>&1
 }
-fail() { echo "$1: $2"; cat "$1.log"; exit 1; }
+fail() { echo "$1: $2"; grep -vE '^(QStandardPaths|This plugin)' "$1.log"; exit 1; }
 pads() { grep -c '"symbol":"r10"' "$1"; }
 edits() { cat "$1" 2>/dev/null | grep -c '^canvas click'; }
 
@@ -48,6 +48,7 @@ once() {
     kill -9 "$pid"
     wait "$pid" 2>/dev/null
     done=$(edits "$name.recorded")
+    [ -d "$name.ini.recovery" ] || fail "$name" "nothing was kept"
     [ "$name" != kill0 ] || cp -r "$name.ini.recovery" hand.ini.recovery
     (play "$name" --play recover.session --export "$name.json" --exit) || fail "$name" "status $?"
     [ ! -e "$name.ini.recovery" ] || fail "$name" "files are left"

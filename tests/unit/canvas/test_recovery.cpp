@@ -16,6 +16,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <numeric>
+
 namespace {
 
 constexpr int twoSeconds = 2000;
@@ -286,12 +288,16 @@ private Q_SLOTS:
 
     void noEventWaitsForALargeBoard()
     {
-        const KeepingProgram program(padsOf(TestProgram::isFull() ? 100000 : 20000));
+        const KeepingProgram program(padsOf(TestProgram::isFull() ? 100000 : 40000));
         QSignalSpy written(&program.files(), &FileActions::recoveryTroubled);
         qint64 shortest = 1000;
         // Another program may take the processor once, but not each time.
         for (int attempt = 1; attempt <= 3; ++attempt) {
-            program.removeFirst();
+            // Nothing is as it was written last.
+            const Pcb::Board& board = program.document().board();
+            Pcb::Indexes all(board.features.size());
+            std::iota(all.begin(), all.end(), 0);
+            program.document().applyBoard("move", Pcb::withMoved(board, all, {10, 0}));
             QElapsedTimer sinceEdit;
             sinceEdit.start();
             QTest::qWait(100);  // it is painted
@@ -307,7 +313,7 @@ private Q_SLOTS:
             qInfo("the longest event took %lld ms; kept after %lld ms", longest,
                   sinceEdit.elapsed());
         }
-        QCOMPARE(int(keptBoard("0/0.kept").features.size()), int(program.features().size()));
+        QVERIFY(keptBoard("0/0.kept") == program.document().board());
         QVERIFY2(shortest < 100, qPrintable(QString::number(shortest)));
     }
 };
