@@ -290,9 +290,8 @@ private Q_SLOTS:
     {
         const KeepingProgram program(padsOf(TestProgram::isFull() ? 100000 : 40000));
         QSignalSpy written(&program.files(), &FileActions::recoveryTroubled);
-        qint64 shortest = 1000;
-        // Another program may take the processor once, but not each time.
-        for (int attempt = 1; attempt <= 3; ++attempt) {
+        bool isQuick = false;
+        for (int attempt = 1; attempt <= 3 && !isQuick; ++attempt) {
             // Nothing is as it was written last.
             const Pcb::Board& board = program.document().board();
             Pcb::Indexes all(board.features.size());
@@ -309,12 +308,14 @@ private Q_SLOTS:
                 QCoreApplication::processEvents();
                 longest = qMax(longest, since.elapsed());
             }
-            shortest = qMin(shortest, longest);
             qInfo("the longest event took %lld ms; kept after %lld ms", longest,
                   sinceEdit.elapsed());
+            // Where other programs have the processor all of it takes longer, but what is written
+            // takes most of the time.
+            isQuick = longest < qMax(qint64(100), sinceEdit.elapsed() / 8);
         }
         QVERIFY(keptBoard("0/0.kept") == program.document().board());
-        QVERIFY2(shortest < 100, qPrintable(QString::number(shortest)));
+        QVERIFY(isQuick);
     }
 };
 
