@@ -141,6 +141,13 @@ void end(const Options& options, WorkbenchWindow* window)
     }
 }
 
+void keepForRecovery(const Options& options, const WorkbenchWindow& window)
+{
+    if (isByHand(options) || options.recovery) {
+        window.canvas()->files().keepForRecovery();
+    }
+}
+
 int run(int argc, char* argv[])
 {
     Inputs inputs;
@@ -180,15 +187,10 @@ int run(int argc, char* argv[])
         QCoreApplication::exit(StepFailed);
     });
     const bool isPlayed = !inputs.options.sessionFile.isEmpty();
-    const auto keepForRecovery = [&] {
-        if (isByHand(inputs.options) || inputs.options.recovery) {
-            window.canvas()->files().keepForRecovery();
-        }
-    };
     QObject::connect(&player, &SessionPlayer::finished, &window, [&] {
         end(inputs.options, &window);
         if (!isPlayed) {
-            keepForRecovery();
+            keepForRecovery(inputs.options, window);
         }
     });
     QObject::connect(&window, &WorkbenchWindow::closed, application.get(), &QCoreApplication::quit);
@@ -198,7 +200,7 @@ int run(int argc, char* argv[])
     whenPainted(&window, [&] {
         // A session answers the offer itself; who sits there is asked when nothing is played.
         if (isPlayed) {
-            keepForRecovery();
+            keepForRecovery(inputs.options, window);
         }
         player.start();
     });

@@ -143,6 +143,18 @@ private Q_SLOTS:
         QTRY_COMPARE(kept().size(), 0);
     }
 
+    void whatIsClosedIsNotKept()
+    {
+        const KeepingProgram program;
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        program.files().closeAll();
+        QTRY_COMPARE(kept().size(), 0);
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QVERIFY(keptBoard("0/0.kept") == program.document().board());
+    }
+
     void whoEndsInOrderLeavesNothing()
     {
         {
