@@ -148,7 +148,7 @@ private Q_SLOTS:
         afterAClick();
         eq.click();
         QVERIFY(asked.last().endsWith("What has been begun on the board is lost."));
-        QCOMPARE(canvasTool(), QString("Add feature"));
+        QCOMPARE(canvasTool(), QString("Add Feature"));
 
         button = "m_pNewStripPB";
         eq.click();
