@@ -343,14 +343,6 @@
         <translation>已写入 %1。</translation>
     </message>
     <message>
-        <source>Unsaved Changes</source>
-        <translation>未保存的更改</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been changed. Save the changes?</source>
-        <translation>“%1”已更改。是否保存更改？</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>打开</translation>
     </message>
@@ -373,6 +365,30 @@
     <message>
         <source>Cannot save the board</source>
         <translation>无法保存板</translation>
+    </message>
+    <message>
+        <source>Opening %1...</source>
+        <translation>正在打开 %1…</translation>
+    </message>
+    <message>
+        <source>Exporting %1...</source>
+        <translation>正在导出 %1…</translation>
+    </message>
+    <message>
+        <source>Saving %1...</source>
+        <translation>正在保存 %1…</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
+        <source>Cannot recover the changes</source>
+        <translation>无法恢复更改</translation>
+    </message>
+    <message>
+        <source>Recovering changes...</source>
+        <translation>正在恢复更改…</translation>
     </message>
 </context>
 <context>
@@ -525,6 +541,10 @@
         <source>must be %1 in number, not %2</source>
         <translation>应为 %1 个，而不是 %2 个</translation>
     </message>
+    <message>
+        <source>no file can be written there</source>
+        <translation>无法在该处写入文件</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -632,6 +652,21 @@
     <message>
         <source>%1, %2 mm</source>
         <translation>%1, %2 毫米</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Please Wait</source>
+        <translation>请稍候</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>正在取消…</translation>
     </message>
 </context>
 <context>
@@ -1196,6 +1231,59 @@
     </message>
 </context>
 <context>
+    <name>RecoveryOffer</name>
+    <message>
+        <source>Recover Changes</source>
+        <translation>恢复更改</translation>
+    </message>
+    <message>
+        <source>The workbench ended without saving these changes:
+%1</source>
+        <translation>工作台退出时未保存以下更改：
+%1</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>恢复(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>稍后(&amp;L)</translation>
+    </message>
+    <message>
+        <source>a board without a job</source>
+        <translation>不属于任何料号的电路板</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1, of %2</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>%1 (%3), of %2</source>
+        <translation>%1（%3），%2</translation>
+    </message>
+    <message>
+        <source>Recovered: %1.</source>
+        <translation>已恢复：%1。</translation>
+    </message>
+    <message>
+        <source>Left for the next start: %1.</source>
+        <translation>留待下次启动：%1。</translation>
+    </message>
+    <message>
+        <source>The changes have been discarded.</source>
+        <translation>更改已放弃。</translation>
+    </message>
+</context>
+<context>
     <name>SelectionTools</name>
     <message numerus="yes">
         <source>%n feature(s) selected.</source>
@@ -1314,6 +1402,41 @@
     </message>
 </context>
 <context>
+    <name>UnsavedBox</name>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>未保存的更改</translation>
+    </message>
+    <message>
+        <source>&amp;Save All</source>
+        <translation>全部保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>全部放弃(&amp;D)</translation>
+    </message>
+    <message>
+        <source>%1 has been changed and is in no file yet. Save the changes?</source>
+        <translation>%1 已更改，尚未保存到文件。是否保存更改？</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed. Save the changes?</source>
+        <translation>“%1”已更改。是否保存更改？</translation>
+    </message>
+    <message>
+        <source>in no file yet</source>
+        <translation>尚未保存到文件</translation>
+    </message>
+    <message>
+        <source>These boards have been changed:
+%1
+Save the changes?</source>
+        <translation>以下电路板已更改：
+%1
+是否保存更改？</translation>
+    </message>
+</context>
+<context>
     <name>ViewTools</name>
     <message>
         <source>Click the opposite corner.</source>
@@ -1413,6 +1536,30 @@
     <message>
         <source>Popview</source>
         <translation>弹出视图</translation>
+    </message>
+    <message>
+        <source>The entries in Add Feature are lost.</source>
+        <translation>“添加图元”中的输入将丢失。</translation>
+    </message>
+    <message>
+        <source>What has been begun on the board is lost.</source>
+        <translation>电路板上尚未完成的操作将丢失。</translation>
+    </message>
+    <message>
+        <source>The tool strip is made anew.</source>
+        <translation>工具条将重新创建。</translation>
+    </message>
+    <message>
+        <source>EQ Tool</source>
+        <translation>EQ 工具</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>继续(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Changes cannot be kept for recovery</source>
+        <translation>无法保留更改以备恢复</translation>
     </message>
 </context>
 <context>

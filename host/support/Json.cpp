@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace CanvasHost {
 
@@ -36,11 +37,18 @@ namespace {
 /// Walks a text that Qt has parsed without an error.
 class Scanner {
 public:
-    explicit Scanner(const QByteArray& text) : m_text(text) {}
+    Scanner(const QByteArray& text, const std::function<void(double)>& progress)
+        : m_text(text), m_progress(progress)
+    {
+    }
 
     JsonPlace value()
     {
         skipTo("{[\"-0123456789tfn");
+        constexpr int interval = 1024;
+        if (m_progress && ++m_values % interval == 0) {
+            m_progress(double(m_position) / m_text.size());
+        }
         JsonPlace place;
         place.line = m_line;
         switch (current()) {
@@ -72,8 +80,7 @@ private:
 
     void skipTo(const char* wanted)
     {
-        const QByteArray set(wanted);
-        while (m_position < m_text.size() && !set.contains(current())) {
+        while (m_position < m_text.size() && !std::strchr(wanted, current())) {
             advance();
         }
     }
@@ -118,6 +125,8 @@ private:
     static constexpr const char* beginOfEntry = "]{[\"-0123456789tfn";
 
     const QByteArray& m_text;
+    const std::function<void(double)>& m_progress;
+    int m_values = 0;
     int m_position = 0;
     int m_line = 1;
 };
@@ -130,7 +139,8 @@ int lineOfOffset(const QByteArray& text, int offset)
 
 }  // namespace
 
-JsonDocument::JsonDocument(const QByteArray& text, const QString& file)
+JsonDocument::JsonDocument(const QByteArray& text, const QString& file,
+                           const std::function<void(double)>& progress)
 {
     QJsonParseError parsed;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsed);
@@ -139,7 +149,7 @@ JsonDocument::JsonDocument(const QByteArray& text, const QString& file)
     }
     const QJsonValue value =
         document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
-    m_source.reset(new JsonNode::Source{file, value, Scanner(text).value()});
+    m_source.reset(new JsonNode::Source{file, value, Scanner(text, progress).value()});
 }
 
 JsonDocument::~JsonDocument() = default;

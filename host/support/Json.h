@@ -6,6 +6,7 @@
 #include <QJsonValue>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -61,8 +62,10 @@ private:
 /// A parsed JSON text; its nodes must not outlive it.
 class JsonDocument {
 public:
-    /// Throws a FileError for a text that is not JSON. `file` is what errors name.
-    explicit JsonDocument(const QByteArray& text, const QString& file = {});
+    /// Throws a FileError for a text that is not JSON. `file` is what errors name. `progress` is
+    /// told from time to time how much has been read, from 0 to 1.
+    explicit JsonDocument(const QByteArray& text, const QString& file = {},
+                          const std::function<void(double)>& progress = {});
     ~JsonDocument();
     JsonDocument(const JsonDocument&) = delete;
     JsonDocument& operator=(const JsonDocument&) = delete;

@@ -1,5 +1,6 @@
 #include "board/BoardFile.h"
 
+#include "board/BoardText.h"
 #include "board/FeatureJson.h"
 #include "board/GerberExport.h"
 #include "board/PictureExport.h"
@@ -14,18 +15,18 @@
 namespace Pcb {
 namespace {
 
-constexpr int supportedFormat = 1;
-
-Board boardFromJson(const CanvasHost::JsonNode& root)
+Board boardFromJson(const CanvasHost::JsonNode& root, const Progress& progress)
 {
     root.requireObject({QStringLiteral("format"), QStringLiteral("job"), QStringLiteral("step"),
                         QStringLiteral("outline"), QStringLiteral("features")});
-    root.member(QStringLiteral("format")).integer(supportedFormat, supportedFormat);
+    root.member(QStringLiteral("format")).integer(boardFormat, boardFormat);
     Board board;
     board.job = root.member(QStringLiteral("job")).text();
     board.step = root.member(QStringLiteral("step")).text();
     board.outline = QPolygonF(pointsFromJson(root.member(QStringLiteral("outline"))));
-    for (const CanvasHost::JsonNode& node : root.member(QStringLiteral("features")).entries()) {
+    const auto nodes = root.member(QStringLiteral("features")).entries();
+    for (const CanvasHost::JsonNode& node : nodes) {
+        progress.at(board.features.size(), nodes.size());
         board.features.push_back(featureFromJson(node));
     }
     return board;
@@ -33,52 +34,43 @@ Board boardFromJson(const CanvasHost::JsonNode& root)
 
 }  // namespace
 
-QByteArray toJson(const Board& board)
+QByteArray toJson(const Board& board, const Progress& progress)
 {
-    // One line per feature, so that errors have a useful line number and diffs are readable.
-    QByteArray text = "{\n  \"format\": " + QByteArray::number(supportedFormat);
-    text += ",\n  \"job\": " + CanvasHost::compactJson(board.job);
-    text += ",\n  \"step\": " + CanvasHost::compactJson(board.step);
-    text += ",\n  \"outline\": " + CanvasHost::compactJson(toJsonPoints(board.outline));
-    text += ",\n  \"features\": [";
-    const char* separator = "\n    ";
-    for (const Feature& feature : board.features) {
-        text += separator + CanvasHost::compactJson(toJsonFeature(feature));
-        separator = ",\n    ";
-    }
-    return text + (board.features.empty() ? "]\n}\n" : "\n  ]\n}\n");
+    return BoardText().of(board, progress);
 }
 
-Board fromJson(const QByteArray& text, const QString& file)
+Board fromJson(const QByteArray& text, const QString& file, const Progress& progress)
 {
-    const CanvasHost::JsonDocument document(text, file);
-    return boardFromJson(document.root());
+    constexpr double parsed = 0.4;
+    const Progress parsing = progress.part(0, parsed);
+    const CanvasHost::JsonDocument document(text, file, [&](double share) { parsing.tell(share); });
+    return boardFromJson(document.root(), progress.part(parsed, 1));
 }
 
-Board readBoardFile(const QString& file)
+Board readBoardFile(const QString& file, const Progress& progress)
 {
     const QByteArray text = CanvasHost::readWhole(file);
     return CanvasHost::readAs(CanvasHost::FileKind::Board, text,
-                              [&] { return fromJson(text, file); });
+                              [&] { return fromJson(text, file, progress); });
 }
 
-void writeBoardFile(const Board& board, const QString& file)
+void writeBoardFile(const Board& board, const QString& file, const Progress& progress)
 {
-    CanvasHost::writeWhole(file, toJson(board));
+    CanvasHost::writeWhole(file, toJson(board, progress));
 }
 
-void exportBoard(const Board& board, const QString& file)
+void exportBoard(const Board& board, const QString& file, const Progress& progress)
 {
     constexpr int pictureSize = 2000;  // pixels
     const QString suffix = QFileInfo(file).suffix().toLower();
     if (suffix == QLatin1String("json")) {
-        writeBoardFile(board, file);
+        writeBoardFile(board, file, progress);
     } else if (suffix == QLatin1String("gbr")) {
-        writeGerber(board, file);
+        writeGerber(board, file, progress);
     } else if (suffix == QLatin1String("png")) {
-        writePng(board, file, pictureSize);
+        writePng(board, file, pictureSize, progress);
     } else if (suffix == QLatin1String("svg")) {
-        writeSvg(board, file);
+        writeSvg(board, file, progress);
     } else {
         throw CanvasHost::FileError{
             file, 0,

@@ -65,6 +65,9 @@ public:
     const QPainterPath& area() const { return m_data->area; }
     const QRectF& bounds() const { return m_data->bounds; }
 
+    /// The same for all copies of a feature, and for no other one that lives.
+    const void* identity() const { return m_data.get(); }
+
     bool operator==(const Feature& other) const
     {
         return m_data == other.m_data || geometry() == other.geometry();

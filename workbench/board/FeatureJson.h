@@ -9,6 +9,9 @@
 
 namespace Pcb {
 
+/// The format of board files.
+constexpr int boardFormat = 1;
+
 /// The farthest that a coordinate or size of a board file may be from 0, in micrometres.
 constexpr double farthest = 1e7;
 

@@ -143,11 +143,13 @@ void writeOrigin(GerberWriter& writer, const Board& board)
 
 }  // namespace
 
-QByteArray toGerber(const Board& board, const QString& file)
+QByteArray toGerber(const Board& board, const QString& file, const Progress& progress)
 {
     GerberWriter writer;
     writeOrigin(writer, board);
+    size_t done = 0;
     for (const Feature& feature : board.features) {
+        progress.at(done++, board.features.size());
         writeFeature(writer, feature);
     }
     if (!writer.isInRange()) {
@@ -159,9 +161,9 @@ QByteArray toGerber(const Board& board, const QString& file)
     return writer.file();
 }
 
-void writeGerber(const Board& board, const QString& file)
+void writeGerber(const Board& board, const QString& file, const Progress& progress)
 {
-    CanvasHost::writeWhole(file, toGerber(board, file));
+    CanvasHost::writeWhole(file, toGerber(board, file, progress));
 }
 
 }  // namespace Pcb

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "board/Board.h"
+#include "board/Progress.h"
 
 #include <QByteArray>
 #include <QString>
@@ -12,9 +13,9 @@ namespace Pcb {
 /// polarity by %LPD*% and %LPC*%. Comments name program, date (that
 /// of SOURCE_DATE_EPOCH, where it is set), job and step. Throws a FileError that names `file` for
 /// coordinates of ten metres and more.
-QByteArray toGerber(const Board& board, const QString& file = {});
+QByteArray toGerber(const Board& board, const QString& file = {}, const Progress& progress = {});
 
 /// As writeBoardFile(): all or nothing.
-void writeGerber(const Board& board, const QString& file);
+void writeGerber(const Board& board, const QString& file, const Progress& progress = {});
 
 }  // namespace Pcb

@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QScopeGuard>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -37,19 +38,32 @@ QSize sizeOf(const QRectF& area, int longerSide)
     return {std::max(1, qRound(area.width() * scale)), std::max(1, qRound(area.height() * scale))};
 }
 
+/// Painting stores in a path what it has computed of it, and a canvas may be painted with the same
+/// one at the same time.
+QPainterPath copyOf(const QPainterPath& path)
+{
+    QPainterPath copy;
+    copy.addPath(path);
+    copy.setFillRule(path.fillRule());
+    return copy;
+}
+
 }  // namespace
 
 void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const QRectF& target,
-                const PictureColours& colours)
+                const PictureColours& colours, const Progress& progress)
 {
     painter.save();
+    const auto restore = qScopeGuard([&painter] { painter.restore(); });
     painter.setClipRect(target);
     painter.fillRect(target, colours.background);
     painter.translate(target.left(), target.bottom());
     painter.scale(target.width() / area.width(), -target.height() / area.height());
     painter.translate(-area.left(), -area.top());
+    size_t done = 0;
     for (const Feature& feature : board.features) {
-        painter.fillPath(feature.area(),
+        progress.at(done++, board.features.size());
+        painter.fillPath(copyOf(feature.area()),
                          feature.isPositive() ? colours.positive : colours.background);
     }
     QPen pen(colours.outline);
@@ -59,29 +73,29 @@ void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const
     if (colours.outline.alpha() > 0) {
         painter.drawPolygon(board.outline);
     }
-    painter.restore();
 }
 
-QImage toImage(const Board& board, int pixels, const PictureColours& colours)
+QImage toImage(const Board& board, int pixels, const PictureColours& colours,
+               const Progress& progress)
 {
     const QRectF area = withMargin(areaOf(board));
     QImage image(sizeOf(area, pixels), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintBoard(painter, board, area, QRectF(image.rect()), colours);
+    paintBoard(painter, board, area, QRectF(image.rect()), colours, progress);
     return image;
 }
 
-void writePng(const Board& board, const QString& file, int pixels)
+void writePng(const Board& board, const QString& file, int pixels, const Progress& progress)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    toImage(board, pixels).save(&buffer, "PNG");
+    toImage(board, pixels, {}, progress).save(&buffer, "PNG");
     CanvasHost::writeWhole(file, buffer.data());
 }
 
-void writeSvg(const Board& board, const QString& file)
+void writeSvg(const Board& board, const QString& file, const Progress& progress)
 {
     const QRectF area = areaOf(board);
     QBuffer buffer;
@@ -93,7 +107,7 @@ void writeSvg(const Board& board, const QString& file)
     generator.setViewBox(QRectF(QPointF(), area.size()));
     generator.setTitle((board.job + QLatin1Char(' ') + board.step).trimmed());
     QPainter painter(&generator);
-    paintBoard(painter, board, area, QRectF(QPointF(), area.size()));
+    paintBoard(painter, board, area, QRectF(QPointF(), area.size()), {}, progress);
     painter.end();
     CanvasHost::writeWhole(file, buffer.data());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "board/Board.h"
+#include "board/Progress.h"
 
 #include <QColor>
 #include <QImage>
@@ -18,14 +19,15 @@ struct PictureColours {
 /// Paints the part `area` (micrometres) of the board over the whole of `target`. Negative features
 /// are painted in the background's colour.
 void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const QRectF& target,
-                const PictureColours& colours = {});
+                const PictureColours& colours = {}, const Progress& progress = {});
 
 /// The board, with a margin of a twentieth, its longer side `pixels` long.
-QImage toImage(const Board& board, int pixels, const PictureColours& colours = {});
+QImage toImage(const Board& board, int pixels, const PictureColours& colours = {},
+               const Progress& progress = {});
 
 /// All or nothing, as writeBoardFile(). An empty board is an error. An SVG is as large as the
 /// board and has no margin.
-void writePng(const Board& board, const QString& file, int pixels);
-void writeSvg(const Board& board, const QString& file);
+void writePng(const Board& board, const QString& file, int pixels, const Progress& progress = {});
+void writeSvg(const Board& board, const QString& file, const Progress& progress = {});
 
 }  // namespace Pcb

@@ -24,6 +24,9 @@ public:
     virtual bool mayClose() = 0;
     /// Every board goes, with its changes: the job is another.
     virtual void closeAll() = 0;
+    /// From now on changed boards are kept beside the settings until they are saved or the program
+    /// ends in order. Those that a crash has left are offered to the user.
+    virtual void keepForRecovery() = 0;
     /// Whether a user is there to be asked; otherwise changes are discarded.
     virtual void setMayAsk(std::function<bool()> mayAsk) = 0;
 
@@ -52,6 +55,9 @@ public:
     /// What only the host knows: the tool strip was recreated, or there was a message to or from it
     /// that did not come to the canvas. The canvas's tool is the one that the strip shows.
     virtual void stripWasMade() = 0;
+    /// Before it is recreated: asks if entries or something begun would be lost. False: the user
+    /// wants to keep them.
+    virtual bool mayMakeStrip() = 0;
     virtual void overhear(int code) = 0;
 };
 Q_DECLARE_INTERFACE(CanvasControl, "CanvasControl/1")

@@ -31,6 +31,11 @@ QString Settings::file()
     return qApp->property(fileProperty).toString();
 }
 
+QString Settings::beside(const QString& suffix)
+{
+    return file().isEmpty() ? QString() : file() + suffix;
+}
+
 QVariant Settings::value(const QString& key)
 {
     return file().isEmpty() ? QVariant() : QSettings(file(), QSettings::IniFormat).value(key);

@@ -10,6 +10,8 @@ namespace Settings {
 void keepIn(const QString& file);
 /// The file; empty when there is none.
 QString file();
+/// The path beside it whose name is that of the file with `suffix`; empty when there is no file.
+QString beside(const QString& suffix);
 
 /// Invalid for what was not set.
 QVariant value(const QString& key);

@@ -49,6 +49,7 @@ void CanvasController::openStep(const QString& job, const QString& step)
         disconnect(m_document, nullptr, this, nullptr);
     }
     m_document = document.get();
+    m_open = {job, step};
     m_histories.setActiveStack(&m_document->history());
     m_scene.setDocument(m_document);
     // What was started refers to features that may be others now.

@@ -27,6 +27,8 @@ public:
     void openStep(const QString& job, const QString& step);
     /// Forgets the documents of all steps; what is shown is that of no step.
     void closeAll();
+    QString job() const { return m_open.first; }
+    QString step() const { return m_open.second; }
     QUndoGroup& histories() { return m_histories; }
     BoardScene& scene() { return m_scene; }
 
@@ -83,6 +85,7 @@ private:
     BoardScene m_scene;
     QUndoGroup m_histories;
     std::map<std::pair<QString, QString>, std::unique_ptr<Document>> m_steps;
+    std::pair<QString, QString> m_open;  ///< job and step
     Document* m_document = nullptr;
     std::vector<QPointer<BoardView>> m_views;
     QPointer<BoardView> m_view;

@@ -52,6 +52,9 @@ public:
     virtual void finish() { cancel(); }  ///< a right click
     virtual void cancel() {}
 
+    /// Whether something has been begun that would be a loss.
+    virtual bool isBegun() const { return false; }
+
     virtual Overlay overlay() const { return {}; }
     /// What the user is to do next.
     virtual QString hint() const = 0;

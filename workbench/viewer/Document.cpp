@@ -212,6 +212,7 @@ std::vector<QRectF> Document::exchange(const DocumentStep& step)
             areas.push_back(bounds);
         }
     }
+    m_revision += step.features.empty() ? 0 : 1;
     substitute(step.features, features);
     substitute(step.ids, m_ids);
     if (!step.ids.empty()) {
@@ -246,6 +247,12 @@ void Document::replace(const Pcb::Board& board)
     Q_EMIT changed();
 }
 
+void Document::replaceUnsaved(const Pcb::Board& board)
+{
+    replace(board);
+    m_history.resetClean();
+}
+
 bool Document::isModified() const
 {
     const int saved = m_history.cleanIndex();
@@ -259,6 +266,7 @@ bool Document::isModified() const
 
 void Document::setBoard(const Pcb::Board& board)
 {
+    ++m_revision;
     m_state = {board, {}, {}, {}};
     m_boxes = {};
     m_bounds = board.outline.boundingRect();

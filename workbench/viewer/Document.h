@@ -50,6 +50,8 @@ public:
     /// or highlighted is not saved and does not count.
     bool isModified() const;
     void setSaved() { m_history.setClean(); }
+    /// Another one for each board that the document has had.
+    int revision() const { return m_revision; }
 
     // Each is one entry of the history named `text`, and does nothing if nothing changes.
 
@@ -63,6 +65,8 @@ public:
 
     /// Another board from outside: starts a new history.
     void replace(const Pcb::Board& board);
+    /// The same, and the board counts as changed: it is in no file.
+    void replaceUnsaved(const Pcb::Board& board);
 
     /// The features whose bounds intersect the area.
     Pcb::Indexes featuresIn(const QRectF& area) const;
@@ -106,5 +110,6 @@ private:
     std::vector<Pcb::Sketch> m_sketches;  ///< by id
     Pcb::BoxIndex m_boxes;                ///< by id
     QRectF m_bounds;
+    int m_revision = 0;
     QUndoStack m_history;
 };

@@ -4,7 +4,10 @@
 #include "shared/ErrorBox.h"
 #include "shared/FileQuestion.h"
 #include "shared/Named.h"
+#include "shared/Settings.h"
 #include "viewer/FileNames.h"
+#include "viewer/RecoveryOffer.h"
+#include "viewer/UnsavedBox.h"
 
 #include <FileError.h>
 
@@ -56,13 +59,26 @@ void FileActions::retranslate()
 void FileActions::watch()
 {
     Document* const document = &m_canvas.document();
-    if (std::find(m_documents.begin(), m_documents.end(), document) == m_documents.end()) {
-        m_documents.push_back(document);
+    const auto isIt = [document](const OpenStep& step) { return step.document == document; };
+    if (std::none_of(m_steps.begin(), m_steps.end(), isIt)) {
+        m_steps.push_back({document, m_canvas.job(), m_canvas.step(), {}});
         const QUndoStack& history = document->history();
         connect(&history, &QUndoStack::indexChanged, this, &FileActions::changed);
         connect(&history, &QUndoStack::cleanChanged, this, &FileActions::changed);
     }
     Q_EMIT changed();
+}
+
+OpenStep& FileActions::shown()
+{
+    return *std::find_if(m_steps.begin(), m_steps.end(), [this](const OpenStep& step) {
+        return step.document == &m_canvas.document();
+    });
+}
+
+const OpenStep& FileActions::shown() const
+{
+    return const_cast<FileActions*>(this)->shown();
 }
 
 bool FileActions::isModified() const
@@ -82,15 +98,18 @@ QStringList FileActions::recent() const
 
 QString FileActions::file() const
 {
-    const auto found = m_files.find(&m_canvas.document());
-    return found == m_files.end() ? QString() : found->second;
+    return shown().file;
 }
 
 void FileActions::openAtOnce(const QString& file)
 {
-    Document& document = m_canvas.document();
-    document.replace(Pcb::readBoardFile(file));
-    setFile(document, file);
+    show(Pcb::readBoardFile(file), file);
+}
+
+void FileActions::show(const Pcb::Board& board, const QString& file)
+{
+    shown().document->replace(board);
+    setFile(shown(), file);
     FileNames::remember(file);
     Q_EMIT opened();
 }
@@ -102,26 +121,29 @@ void FileActions::exportTo(const QString& file)
 
 bool FileActions::open(const QString& file)
 {
-    return mayReplace(m_canvas.document()) && tryToOpen(file);
+    return mayReplace(shown()) && tryToOpen(file);
 }
 
 bool FileActions::tryToOpen(const QString& file)
 {
-    const bool opened = attempt(tr("Cannot open the board"), [&] { openAtOnce(file); });
-    if (opened) {
+    Pcb::Board board;
+    const bool isRead =
+        attempt(tr("Cannot open the board"), tr("Opening %1...").arg(QFileInfo(file).fileName()),
+                [&](const Pcb::Progress& progress) { board = Pcb::readBoardFile(file, progress); });
+    if (isRead) {
+        show(board, file);
         m_canvas.say(tr("Opened %1.").arg(file));
     }
-    return opened;
+    return isRead;
 }
 
 void FileActions::startNew()
 {
-    Document& document = m_canvas.document();
-    if (mayReplace(document)) {
-        Pcb::Board empty = document.board();
+    if (mayReplace(shown())) {
+        Pcb::Board empty = shown().document->board();
         empty.features.clear();
-        document.replace(empty);
-        setFile(document, {});
+        shown().document->replace(empty);
+        setFile(shown(), {});
         Q_EMIT opened();
     }
 }
@@ -129,7 +151,7 @@ void FileActions::startNew()
 void FileActions::chooseAndOpen()
 {
     // Before the file is chosen, so that the choice is not in vain.
-    if (mayReplace(m_canvas.document())) {
+    if (mayReplace(shown())) {
         const QString chosen = FileNames::ask(FileNames::Purpose::Open, file(), {}, m_pane);
         if (!chosen.isEmpty()) {
             tryToOpen(chosen);
@@ -139,20 +161,25 @@ void FileActions::chooseAndOpen()
 
 void FileActions::saveShown()
 {
-    save(m_canvas.document());
+    save(shown());
 }
 
 void FileActions::saveShownAs()
 {
-    saveAs(m_canvas.document());
+    saveAs(shown());
 }
 
 void FileActions::chooseAndExport()
 {
-    const Document& document = m_canvas.document();
-    const QString name = QFileInfo(nameOf(document)).completeBaseName();
+    const QString name = QFileInfo(offeredName(shown())).completeBaseName();
     const QString chosen = FileNames::ask(FileNames::Purpose::Export, file(), name, m_pane);
-    if (!chosen.isEmpty() && attempt(tr("Cannot export the board"), [&] { exportTo(chosen); })) {
+    if (chosen.isEmpty()) {
+        return;
+    }
+    const Pcb::Board board = shown().document->board();
+    if (attempt(tr("Cannot export the board"),
+                tr("Exporting %1...").arg(QFileInfo(chosen).fileName()),
+                [&](const Pcb::Progress& progress) { exportBoard(board, chosen, progress); })) {
         LastFolder::remember(chosen);
         m_canvas.say(tr("Wrote %1.").arg(chosen));
     }
@@ -160,85 +187,137 @@ void FileActions::chooseAndExport()
 
 bool FileActions::mayClose()
 {
-    return std::all_of(m_documents.begin(), m_documents.end(),
-                       [this](Document* document) { return mayReplace(*document); });
+    std::vector<OpenStep*> changed;
+    for (OpenStep& step : m_steps) {
+        if (step.document->isModified()) {
+            changed.push_back(&step);
+        }
+    }
+    return changed.size() > 1 ? mayCloseAll(changed)
+                              : changed.empty() || mayReplace(*changed.front());
 }
 
 void FileActions::closeAll()
 {
-    m_documents.clear();
-    m_files.clear();
+    m_steps.clear();
+    if (m_recovery) {
+        m_recovery->forgetAll();
+    }
     m_canvas.closeAll();
 }
 
-bool FileActions::mayReplace(Document& document)
+bool FileActions::mayReplace(OpenStep& step)
 {
-    if (!document.isModified() || !m_mayAsk()) {
+    if (!step.document->isModified() || !m_mayAsk()) {
         return true;
     }
-    QMessageBox box(QMessageBox::Warning, tr("Unsaved Changes"),
-                    tr("\"%1\" has been changed. Save the changes?").arg(nameOf(document)),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
-                    m_pane->window());
-    box.setObjectName(QStringLiteral("m_pUnsavedBox"));
-    box.setDefaultButton(QMessageBox::Save);
-    const int answer = box.exec();
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save(document));
+    const int answer = UnsavedBox::ask(step, m_pane->window());
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save(step));
 }
 
-bool FileActions::save(Document& document)
+bool FileActions::mayCloseAll(const std::vector<OpenStep*>& changed)
 {
-    const auto known = m_files.find(&document);
-    return known == m_files.end() || known->second.isEmpty() ? saveAs(document)
-                                                             : write(document, known->second);
+    if (!m_mayAsk()) {
+        return true;
+    }
+    const int answer = UnsavedBox::ask(changed, m_pane->window());
+    return answer == QMessageBox::Discard ||
+           (answer == QMessageBox::SaveAll &&
+            std::all_of(changed.begin(), changed.end(),
+                        [this](OpenStep* step) { return save(*step); }));
 }
 
-bool FileActions::saveAs(Document& document)
+bool FileActions::save(OpenStep& step)
 {
-    const auto known = m_files.find(&document);
+    return step.file.isEmpty() ? saveAs(step) : write(step, step.file);
+}
+
+bool FileActions::saveAs(OpenStep& step)
+{
     const QString file =
-        FileNames::ask(FileNames::Purpose::Save, known == m_files.end() ? QString() : known->second,
-                       nameOf(document), m_pane);
-    return !file.isEmpty() && write(document, file);
+        FileNames::ask(FileNames::Purpose::Save, step.file, offeredName(step), m_pane);
+    return !file.isEmpty() && write(step, file);
 }
 
-bool FileActions::write(Document& document, const QString& file)
+bool FileActions::write(OpenStep& step, const QString& file)
 {
-    if (!attempt(tr("Cannot save the board"),
-                 [&] { Pcb::writeBoardFile(document.board(), file); })) {
+    const Pcb::Board board = step.document->board();
+    if (!attempt(tr("Cannot save the board"), tr("Saving %1...").arg(QFileInfo(file).fileName()),
+                 [&](const Pcb::Progress& progress) { writeBoardFile(board, file, progress); })) {
         return false;
     }
-    document.setSaved();
-    setFile(document, file);
+    step.document->setSaved();
+    setFile(step, file);
     FileNames::remember(file);
     m_canvas.say(tr("Wrote %1.").arg(file));
     return true;
 }
 
-void FileActions::setFile(Document& document, const QString& file)
+void FileActions::setFile(OpenStep& step, const QString& file)
 {
-    m_files[&document] = file;
+    step.file = file;
     Q_EMIT changed();
 }
 
-QString FileActions::nameOf(const Document& document) const
+QString FileActions::offeredName(const OpenStep& step)
 {
-    const auto known = m_files.find(&document);
-    if (known != m_files.end() && !known->second.isEmpty()) {
-        return QFileInfo(known->second).fileName();
+    if (!step.file.isEmpty()) {
+        return QFileInfo(step.file).fileName();
     }
-    const Pcb::Board& board = document.board();
+    const Pcb::Board& board = step.document->board();
     return board.job.isEmpty() ? QStringLiteral("board.json")
                                : QStringLiteral("%1-%2.json").arg(board.job, board.step);
 }
 
-bool FileActions::attempt(const QString& failure, const std::function<void()>& work)
+bool FileActions::attempt(const QString& failure, const QString& text, const LongWork::Work& work)
 {
     try {
-        work();
-        return true;
+        const bool isDone = LongWork::run(m_pane->window(), text, work);
+        if (!isDone) {
+            m_canvas.say(tr("Cancelled."));
+        }
+        return isDone;
     } catch (const CanvasHost::FileError& error) {
         showError(m_pane, failure, error);
         return false;
     }
+}
+
+void FileActions::keepForRecovery()
+{
+    if (Settings::file().isEmpty()) {
+        return;
+    }
+    auto abandoned = RecoveryFolder::abandoned();
+    m_recovery = std::make_unique<Recovery>(m_steps);
+    connect(this, &FileActions::changed, m_recovery.get(), &Recovery::update);
+    connect(m_recovery.get(), &Recovery::troubled, this, &FileActions::recoveryTroubled);
+    if (!abandoned.empty()) {
+        const auto take = [this](const KeptStep& kept) { return recover(kept); };
+        auto* const offer = new RecoveryOffer(std::move(abandoned), take, m_pane);
+        connect(offer, &RecoveryOffer::answered, this,
+                [this](const QString& text) { m_canvas.say(text); });
+    }
+}
+
+bool FileActions::recover(const KeptStep& kept)
+{
+    const auto isShown = [&] { return m_canvas.job() == kept.job && m_canvas.step() == kept.step; };
+    if (!isShown()) {
+        Q_EMIT stepWanted(kept.job, kept.step);
+    }
+    Pcb::Board board;
+    const auto read = [&](const Pcb::Progress& progress) {
+        board = RecoveryFolder::read(kept.path, progress);
+    };
+    if (!isShown() || isModified() ||
+        !attempt(tr("Cannot recover the changes"), tr("Recovering changes..."), read)) {
+        return false;
+    }
+    OpenStep& step = shown();
+    step.document->replaceUnsaved(board);
+    setFile(step, kept.boardFile);
+    m_recovery->takeOver(kept, static_cast<size_t>(&step - m_steps.data()));
+    Q_EMIT opened();
+    return true;
 }

@@ -2,11 +2,13 @@
 
 #include "shared/CanvasControl.h"
 #include "viewer/CanvasController.h"
+#include "viewer/LongWork.h"
+#include "viewer/Recovery.h"
 
 #include <QObject>
 
 #include <functional>
-#include <map>
+#include <memory>
 #include <vector>
 
 class QAction;
@@ -33,6 +35,8 @@ public:
     bool open(const QString& file) override;
     bool mayClose() override;
     void closeAll() override;
+    void keepForRecovery() override;
+    bool mayAsk() const { return m_mayAsk(); }
     void setMayAsk(std::function<bool()> mayAsk) override { m_mayAsk = std::move(mayAsk); }
     QString file() const override;
     bool isModified() const override;
@@ -44,31 +48,40 @@ Q_SIGNALS:
     void changed();
     /// Another board is shown.
     void opened();
+    /// The step is to be opened, if there is such a step.
+    void stepWanted(const QString& job, const QString& step);
+    /// Changes cannot be kept for recovery, and why; empty: now they can.
+    void recoveryTroubled(const QString& reason);
 
 private:
     QAction* add(const char* name, const QKeySequence& shortcut, void (FileActions::*slot)());
     void watch();
     void startNew();
     bool tryToOpen(const QString& file);
+    void show(const Pcb::Board& board, const QString& file);
     void chooseAndOpen();
     void saveShown();
     void saveShownAs();
     void chooseAndExport();
 
-    bool mayReplace(Document& document);
-    bool save(Document& document);
-    bool saveAs(Document& document);
-    bool write(Document& document, const QString& file);
-    void setFile(Document& document, const QString& file);
-    QString nameOf(const Document& document) const;
-    /// Does `work`; false if it threw a FileError, which the user was shown as the reason for
-    /// `failure`.
-    bool attempt(const QString& failure, const std::function<void()>& work);
+    OpenStep& shown();
+    const OpenStep& shown() const;
+    bool mayReplace(OpenStep& step);
+    bool mayCloseAll(const std::vector<OpenStep*>& changed);
+    bool save(OpenStep& step);
+    bool saveAs(OpenStep& step);
+    bool write(OpenStep& step, const QString& file);
+    void setFile(OpenStep& step, const QString& file);
+    bool recover(const KeptStep& kept);
+    static QString offeredName(const OpenStep& step);
+    /// Does `work`, which `text` names; false if it threw a FileError, which the user was shown as
+    /// the reason for `failure`, or if the user has cancelled it.
+    bool attempt(const QString& failure, const QString& text, const LongWork::Work& work);
 
     CanvasController& m_canvas;
     QWidget* m_pane;
-    std::vector<Document*> m_documents;  ///< those that were shown, in that order
-    std::map<const Document*, QString> m_files;
+    std::vector<OpenStep> m_steps;  ///< those that were shown, in that order
+    std::unique_ptr<Recovery> m_recovery;
     std::function<bool()> m_mayAsk = [] { return true; };
     QAction* m_new;
     QAction* m_open;

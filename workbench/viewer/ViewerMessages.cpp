@@ -5,6 +5,8 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
+#include "shared/Named.h"
+#include "viewer/FileActions.h"
 #include "viewer/Inspector.h"
 #include "viewer/ToolSet.h"
 #include "viewer/ViewerPane.h"
@@ -12,9 +14,12 @@
 #include "viewer/tools/ViewTools.h"
 
 #include <CommonWidgetsStandIn.h>
+#include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
 
 #include <QDateTime>
+#include <QMessageBox>
+#include <QPushButton>
 
 namespace Sent = MessageCodes::Sent;
 namespace Accepted = MessageCodes::Accepted;
@@ -110,8 +115,34 @@ void ViewerPane::takeAttributes(const PluginMetaData& message)
     }
 }
 
+bool ViewerPane::mayMakeStrip()
+{
+    QStringList losses;
+    if (!m_record.isEmpty()) {
+        losses.append(tr("The entries in Add Feature are lost."));
+    }
+    if (m_canvas.tool() && m_canvas.tool()->isBegun()) {
+        losses.append(tr("What has been begun on the board is lost."));
+    }
+    if (losses.isEmpty() || !m_files->mayAsk()) {
+        return true;
+    }
+    losses.prepend(tr("The tool strip is made anew."));
+    QMessageBox box(QMessageBox::Warning, tr("EQ Tool"), losses.join(QLatin1Char('\n')),
+                    QMessageBox::Cancel, window());
+    box.setObjectName(QStringLiteral("m_pNewStripBox"));
+    QPushButton* const goOn =
+        named(box.addButton(tr("C&ontinue"), QMessageBox::AcceptRole), "m_pNewStripPB");
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == goOn;
+}
+
 void ViewerPane::stripWasMade()
 {
+    // A new dialog begins with entries of its own.
+    m_record.clear();
+    m_attributes.clear();
     startTool(Sent::AreaZoom, 0);
     showTool();
 }
@@ -230,6 +261,14 @@ void ViewerPane::send(int code, qint64 extra)
     PluginMetaData message(ModuleNames::viewer, ModuleNames::toolStrip);
     message.code = code;
     message.extra = extra;
+    QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, message);
+}
+
+void ViewerPane::askForStep(const QString& job, const QString& step)
+{
+    PluginMetaData message(ModuleNames::viewer, CanvasHost::hostName);
+    message.code = Accepted::JobOpened;
+    message.payload = {{PayloadKeys::jobName, job}, {PayloadKeys::stepName, step}};
     QTpluginsManger4CAM::instance()->recMegToPlugin(m_parent, message);
 }
 

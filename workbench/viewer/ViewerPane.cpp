@@ -1,6 +1,7 @@
 #include "viewer/ViewerPane.h"
 
 #include "plugin/ModuleNames.h"
+#include "shared/Named.h"
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
 #include "viewer/CanvasKeys.h"
@@ -75,6 +76,9 @@ QLayout* ViewerPane::createFoot()
     foot->setContentsMargins(8, 3, 8, 3);
     makeSteady(foot, m_pCanvasStatusLB);
     foot->addWidget(m_pCanvasStatusLB, 1);
+    m_pRecoveryLB = named(new QLabel(this), "m_pRecoveryLB");
+    m_pRecoveryLB->hide();
+    foot->addWidget(m_pRecoveryLB);
     foot->addWidget(m_pHoveredLB, 1);
     return foot;
 }
@@ -88,6 +92,11 @@ void ViewerPane::connectCanvas()
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
     connect(m_files, &FileActions::opened, m_view, &BoardView::fit);
+    connect(m_files, &FileActions::stepWanted, this, &ViewerPane::askForStep);
+    connect(m_files, &FileActions::recoveryTroubled, this, [this](const QString& reason) {
+        m_pRecoveryLB->setToolTip(reason);
+        m_pRecoveryLB->setVisible(!reason.isEmpty());
+    });
     auto* const cancel = new QAction(this);
     cancel->setObjectName(QStringLiteral("m_pCancelAct"));
     cancel->setShortcut(Qt::Key_Escape);
@@ -206,6 +215,7 @@ void ViewerPane::retranslate()
     m_files->retranslate();
     m_bar->retranslate();
     m_snapping->retranslate();
+    m_pRecoveryLB->setText(tr("Changes cannot be kept for recovery"));
     showTool();
     m_canvas.refresh();  // the hint
     m_view->setAccessibleName(tr("Board"));

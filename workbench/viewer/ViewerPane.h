@@ -40,6 +40,7 @@ public:
     BoardFiles& files() override;
     QList<QAction*> actions(Group group) const override;
     void stripWasMade() override;
+    bool mayMakeStrip() override;
     void overhear(int code) override;
 
 private:
@@ -61,6 +62,7 @@ private:
     void sendAttributes(int feature);
     void send(int code, qint64 extra = 0);
     void openStep(const PluginMetaData& message);
+    void askForStep(const QString& job, const QString& step);
 
     void showHovered(int feature);
     void showTool();
@@ -77,6 +79,7 @@ private:
     Inspector* m_inspector;
     std::vector<ToolLine*> m_lines;  ///< that of the pane, and that of the popview
     QLabel* m_pCanvasStatusLB;
+    QLabel* m_pRecoveryLB;  ///< hidden unless changes cannot be kept
     QLabel* m_pHoveredLB;
     QPointer<QWidget> m_secondView;
     int m_tool = MessageCodes::Sent::Unset;  ///< the code that announced it

@@ -50,6 +50,10 @@ constexpr Row rows[] = {
      "Keep the settings in <file>. Otherwise sessions, pictures and other unattended runs start "
      "without settings and keep none.",
      "file", &Options::settingsFile},
+    {"recovery",
+     "Keep changed boards for recovery after a crash, and offer those that a crash has left, in "
+     "sessions and other unattended runs as well. Needs --settings there.",
+     nullptr, nullptr, &Options::recovery},
     {"exit", "Exit after playing, or after the first paint.", nullptr, nullptr, &Options::exit},
     {"unit", "Start in <unit>: mil, inch, um or mm.", "unit"},
     {"language", "Start in <language>: %1.", "language", &Options::language},

@@ -28,6 +28,7 @@ struct Options {
     QString boardFile;       ///< empty: the canvas starts with its own
     QString exportFile;      ///< empty: nothing is exported
     QString settingsFile;    ///< empty: the user's, or none in unattended runs
+    bool recovery = false;   ///< of changed boards in unattended runs as well
     bool exit = false;       ///< leave after playing, or after the first paint
     bool log = false;        ///< debug lines go to the terminal
     CanvasHost::DisplayUnit unit = CanvasHost::DisplayUnit::Mil;

@@ -128,6 +128,11 @@ void WorkbenchWindow::changeLanguage(int index)
 
 void WorkbenchWindow::showEq(bool visible)
 {
+    if (!canvas()->mayMakeStrip()) {
+        const QSignalBlocker unasked(m_pHostEqCB);
+        m_pHostEqCB->setChecked(!visible);
+        return;
+    }
     // The strip asks only while it is created, so the host creates a new one.
     CanvasHost::setEQVisible(visible);
     canvas()->stripWasMade();

@@ -84,17 +84,23 @@ void readInputs(int argc, char* argv[], Inputs* inputs)
     }
 }
 
+/// Whether a user is at work.
+bool isByHand(const Options& options)
+{
+    return !options.exit && options.sessionFile.isEmpty() && options.recordFile.isEmpty() &&
+           options.screenshotFile.isEmpty();
+}
+
 /// The file of the settings: the user's where a user is at work, otherwise a new one in `own`.
 QString settingsFile(const Options& options, const QTemporaryDir& own)
 {
     if (!options.settingsFile.isEmpty()) {
         return options.settingsFile;
     }
-    const bool byHand = !options.exit && options.sessionFile.isEmpty() &&
-                        options.recordFile.isEmpty() && options.screenshotFile.isEmpty();
-    return byHand ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                        QStringLiteral("/canvas-tool-strip/workbench.ini")
-                  : own.filePath(QStringLiteral("workbench.ini"));
+    return isByHand(options)
+               ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                     QStringLiteral("/canvas-tool-strip/workbench.ini")
+               : own.filePath(QStringLiteral("workbench.ini"));
 }
 
 /// Calls `then` when `window` has been on the screen for a moment.
@@ -132,6 +138,13 @@ void end(const Options& options, WorkbenchWindow* window)
     } catch (const FileError& error) {
         complain(error.text());
         QCoreApplication::exit(BadInput);
+    }
+}
+
+void keepForRecovery(const Options& options, const WorkbenchWindow& window)
+{
+    if (isByHand(options) || options.recovery) {
+        window.canvas()->files().keepForRecovery();
     }
 }
 
@@ -173,13 +186,24 @@ int run(int argc, char* argv[])
         complain(text);
         QCoreApplication::exit(StepFailed);
     });
-    QObject::connect(&player, &SessionPlayer::finished, &window,
-                     [&] { end(inputs.options, &window); });
+    const bool isPlayed = !inputs.options.sessionFile.isEmpty();
+    QObject::connect(&player, &SessionPlayer::finished, &window, [&] {
+        end(inputs.options, &window);
+        if (!isPlayed) {
+            keepForRecovery(inputs.options, window);
+        }
+    });
     QObject::connect(&window, &WorkbenchWindow::closed, application.get(), &QCoreApplication::quit);
     window.canvas()->files().setMayAsk(
         [&] { return player.isOver() ? !inputs.options.exit : player.expectsBox(); });
     window.show();
-    whenPainted(&window, [&] { player.start(); });
+    whenPainted(&window, [&] {
+        // A session answers the offer itself; who sits there is asked when nothing is played.
+        if (isPlayed) {
+            keepForRecovery(inputs.options, window);
+        }
+        player.start();
+    });
     return QApplication::exec();
 }
 

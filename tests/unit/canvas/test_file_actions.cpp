@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -220,13 +221,56 @@ private Q_SLOTS:
         fixture.deleteAll();
         const Answer discard(QMessageBox::Discard);
         QVERIFY(fixture.files().mayClose());
-        QCOMPARE(discard.texts.size(), 2);
-        QVERIFY(discard.texts[0].contains("\"two.json\""));
-        QVERIFY(discard.texts[1].contains("\"demo-pcb.json\""));
+        QCOMPARE(discard.texts, QStringList("Unsaved Changes|These boards have been changed:\n"
+                                            "a board without a job (two.json)\n"
+                                            "demo / pcb (in no file yet)\nSave the changes?"));
         canvas.openStep({}, {});
         QCOMPARE(fixture.files().file(), fixture.path("two.json"));
         QVERIFY(fixture.features().empty());
         QVERIFY(fixture.files().isModified());
+    }
+
+    void allChangedStepsAreSavedByOneAnswer()
+    {
+        const FileFixture fixture;
+        QVERIFY(fixture.save("two.json"));
+        fixture.deleteAll();
+        fixture.pane->canvas().openStep("demo", "panel");  // has not changed
+        fixture.pane->canvas().openStep("demo", "pcb");
+        fixture.deleteAll();
+        {
+            const Answer cancel(QMessageBox::Cancel);
+            QVERIFY(!fixture.files().mayClose());
+            QCOMPARE(cancel.texts.size(), 1);
+        }
+        const Answer saveAll(QMessageBox::SaveAll);
+        {
+            const Chosen none;
+            QVERIFY(!fixture.files().mayClose());  // one of them has no file
+            QVERIFY(fixture.files().isModified());
+        }
+        fixture.pane->canvas().openStep({}, {});
+        QVERIFY(!fixture.files().isModified());
+        fixture.document().history().undo();
+        const Chosen chosen(fixture.path("pcb.json"));
+        QVERIFY(fixture.files().mayClose());
+        QCOMPARE(chosen.offered, QString("demo-pcb.json"));
+        QCOMPARE(saveAll.texts.size(), 2);
+        QVERIFY(fixture.files().mayClose());  // nothing has changed any more
+        QCOMPARE(saveAll.texts.size(), 2);
+        QVERIFY(!fixture.saved("pcb.json").isEmpty());
+    }
+
+    void aBoardInNoFileIsNamedByItsStep()
+    {
+        const FileFixture fixture;
+        fixture.pane->canvas().openStep("demo", "pcb");
+        fixture.deleteAll();
+        const Answer cancel(QMessageBox::Cancel);
+        QVERIFY(!fixture.files().mayClose());
+        QCOMPARE(cancel.texts,
+                 QStringList("Unsaved Changes|demo / pcb has been changed and is in no file yet. "
+                             "Save the changes?"));
     }
 
     void whatIsNotSavedKeepsTheWindowOpen()
@@ -345,6 +389,35 @@ private Q_SLOTS:
         const Chosen chosen(fixture.path("full/far.svg"), 2);
         fixture.action("m_pExportBoardAct").trigger();
         QCOMPARE(LastFolder::path(), fixture.path("full"));
+    }
+
+    void whatIsCancelledLeavesNoFile()
+    {
+        const FileFixture fixture;
+        Pcb::Board board = fixture.document().board();
+        for (int i = 0; i < 100000; ++i) {
+            board.features.push_back(
+                Pcb::Feature(Pcb::padGeometry("oval18x10", {i % 300 * 60.0, i / 300 * 40.0})));
+        }
+        fixture.document().replace(board);
+        QStringList shown;
+        QTimer cancels;
+        connect(&cancels, &QTimer::timeout, [&] {
+            if (auto* const dialog =
+                    qobject_cast<QProgressDialog*>(QApplication::activeModalWidget())) {
+                for (const QWidget* const window : QApplication::topLevelWidgets()) {
+                    QVERIFY(!window->isVisible() || !qobject_cast<const QFileDialog*>(window));
+                }
+                shown.append(dialog->labelText());
+                findNamed<QAbstractButton>(*dialog, "m_pProgressCancelPB").click();
+            }
+        });
+        cancels.start(20);
+        const Chosen chosen(fixture.path("drawn"), 2);
+        fixture.action("m_pExportBoardAct").trigger();
+        QCOMPARE(shown.value(0), QString("Exporting drawn.svg..."));
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("Cancelled."));
+        QCOMPARE(QDir(fixture.directory.path()).entryList(QDir::Files), QStringList());
     }
 
     void folderAndRecentFilesAreRemembered()

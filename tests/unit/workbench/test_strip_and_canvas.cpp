@@ -5,11 +5,14 @@
 #include "StartWorkbench.h"
 #include "messages/HostState.h"
 #include "plugin/MessageCodes.h"
+#include "shared/CanvasControl.h"
 
 #include <QAbstractScrollArea>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLayout>
+#include <QMessageBox>
+#include <QTimer>
 #include <QToolButton>
 
 #include <random>
@@ -111,6 +114,51 @@ private Q_SLOTS:
         QCOMPARE(afterAClick(), QString("Undo: "));
     }
 
+    void aStripMadeAnewAsksWhenSomethingWouldBeLost()
+    {
+        auto& eq = findNamed<QCheckBox>(*m_window, "m_pHostEqCB");
+        QStringList asked;
+        const char* button = "m_pNewStripPB";
+        QTimer answers;
+        connect(&answers, &QTimer::timeout, [&] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                asked.append(box->text());
+                if (auto* const named = box->findChild<QAbstractButton*>(button)) {
+                    named->click();
+                } else {
+                    box->reject();
+                }
+            }
+        });
+        answers.start(10);
+        const bool first = eq.isChecked();
+        tool("m_pAddFeatureTB").click();
+        eq.click();
+        QCOMPARE(eq.isChecked(), !first);
+        QCOMPARE(asked, QStringList());  // nothing was entered
+
+        openDialog();
+        button = "none";
+        eq.click();
+        QCOMPARE(asked, QStringList("The tool strip is made anew.\n"
+                                    "The entries in Add Feature are lost."));
+        QCOMPARE(eq.isChecked(), !first);
+        QVERIFY(findNamed(*m_window, "AddFeature").isVisible());
+        findNamed<QAbstractButton>(*m_window, "m_pLineTB").click();
+        afterAClick();
+        eq.click();
+        QVERIFY(asked.last().endsWith("What has been begun on the board is lost."));
+        QCOMPARE(canvasTool(), QString("Add Feature"));
+
+        button = "m_pNewStripPB";
+        eq.click();
+        QCOMPARE(eq.isChecked(), first);
+        QVERIFY(!m_window->findChild<QWidget*>("AddFeature"));
+        QCOMPARE(asked.size(), 3);
+        eq.click();
+        QCOMPARE(asked.size(), 3);
+    }
+
     void toldToReleaseAll()
     {
         tool("m_pDeleteFeatTB").click();
@@ -163,6 +211,7 @@ private Q_SLOTS:
 
     void whateverIsDone()
     {
+        m_window->canvas()->files().setMayAsk([] { return false; });
         std::mt19937 random(7);
         const QStringList buttons = toolNames().keys();
         const QVector<int> codes{

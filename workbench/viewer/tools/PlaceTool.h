@@ -23,6 +23,7 @@ public:
     void move(const QPointF& point) override { m_placement.move(point); }
     void finish() override;
     void cancel() override { m_placement.cancel(); }
+    bool isBegun() const override { return m_placement.isActive(); }
     Overlay overlay() const override;
     QString hint() const override;
 

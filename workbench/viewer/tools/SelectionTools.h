@@ -78,6 +78,7 @@ public:
     void move(const QPointF& point) override { m_cursor = point; }
     void finish() override;
     void cancel() override { m_corners.clear(); }
+    bool isBegun() const override { return !m_corners.isEmpty(); }
     Overlay overlay() const override;
     QString hint() const override;
 

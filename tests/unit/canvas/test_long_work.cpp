@@ -1,0 +1,190 @@
+// What takes long shows how far it has come, and can be cancelled.
+
+#include "CanvasFixture.h"
+#include "Main.h"
+#include "board/BoardFile.h"
+#include "viewer/FileActions.h"
+#include "viewer/LongWork.h"
+
+#include <FileError.h>
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QTemporaryDir>
+#include <QTimer>
+
+namespace {
+
+/// Takes the time, and tells its progress.
+void takeTime(const Pcb::Progress& progress, int milliseconds)
+{
+    QElapsedTimer since;
+    since.start();
+    while (since.elapsed() < milliseconds) {
+        progress.tell(double(since.elapsed()) / milliseconds);
+        QThread::msleep(1);
+    }
+}
+
+/// What the progress dialog looks like while it is shown; may cancel it.
+class ProgressWatcher {
+public:
+    explicit ProgressWatcher(bool cancels = false)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this, cancels] {
+            auto* const dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+            const QCursor* const cursor = QGuiApplication::overrideCursor();
+            wasBusy = wasBusy || (cursor && cursor->shape() == Qt::BusyCursor);
+            if (dialog) {
+                texts.append(dialog->labelText());
+                values.append(findNamed<QProgressBar>(*dialog, "m_pProgressBar").value());
+                if (cancels) {
+                    findNamed<QAbstractButton>(*dialog, "m_pProgressCancelPB").click();
+                }
+            }
+        });
+        m_timer.start(20);
+    }
+    QStringList texts;
+    QVector<int> values;
+    bool wasBusy = false;
+
+private:
+    QTimer m_timer;
+};
+
+Pcb::Board boardOfPads(int count)
+{
+    Pcb::Board board;
+    board.outline = QVector<QPointF>{{0, 0}, {20000, 0}, {20000, 14000}, {0, 14000}};
+    for (int i = 0; i < count; ++i) {
+        board.features.push_back(Pcb::Feature(
+            Pcb::padGeometry("r20", {double(i % 400) * 1000, double(int(i / 400)) * 1000})));
+    }
+    return board;
+}
+
+}  // namespace
+
+class TestLongWork : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QVERIFY(!QGuiApplication::overrideCursor()); }
+
+    void whatIsShortShowsNothing()
+    {
+        const ProgressWatcher watcher;
+        QVERIFY(LongWork::run(nullptr, "work", [](const Pcb::Progress&) {}));
+        QTest::qWait(50);
+        QVERIFY(!watcher.wasBusy);
+        QVERIFY(watcher.texts.isEmpty());
+    }
+
+    void whatTakesLongShowsHowFarItHasCome()
+    {
+        QWidget window;
+        const ProgressWatcher watcher;
+        QVERIFY(LongWork::run(&window, "work",
+                              [](const Pcb::Progress& progress) { takeTime(progress, 1000); }));
+        QVERIFY(watcher.wasBusy);
+        QVERIFY(watcher.texts.size() > 3);
+        QCOMPARE(watcher.texts.last(), QString("work"));
+        QVERIFY(watcher.values.last() > watcher.values.first());
+        QVERIFY(watcher.values.last() > 700 && watcher.values.last() <= 1000);
+    }
+
+    void itCanBeCancelled()
+    {
+        QWidget window;
+        const ProgressWatcher watcher(true);
+        QElapsedTimer since;
+        since.start();
+        QVERIFY(!LongWork::run(&window, "work",
+                               [](const Pcb::Progress& progress) { takeTime(progress, 60000); }));
+        QVERIFY(since.elapsed() < 30000);
+        QVERIFY(since.elapsed() >= 500);
+    }
+
+    void whatGoesWrongIsThrown()
+    {
+        const auto fail = [](const Pcb::Progress&) {
+            throw CanvasHost::FileError{"file", 3, "is wrong"};
+        };
+        try {
+            LongWork::run(nullptr, "work", fail);
+            QFAIL("nothing was thrown");
+        } catch (const CanvasHost::FileError& error) {
+            QCOMPARE(error.text(), QString("file:3: is wrong"));
+        }
+    }
+
+    /// Everything that is done with a file, cancelled at its first, middle and last report.
+    void nothingIsWrittenByWhatIsCancelled()
+    {
+        const QTemporaryDir folder;
+        const Pcb::Board board = boardOfPads(1000);
+        Pcb::writeBoardFile(board, folder.filePath("whole.json"));
+        for (const QString suffix : {"json", "gbr", "png", "svg"}) {
+            const QString file = folder.filePath("half." + suffix);
+            QVector<double> reports;
+            Pcb::exportBoard(board, file,
+                             Pcb::Progress([&](double share) { reports.append(share); }));
+            QVERIFY(reports.size() > 10);
+            QVERIFY(std::is_sorted(reports.begin(), reports.end()));
+            QFile(file).remove();
+            for (const int last : {0, reports.size() / 2, reports.size() - 1}) {
+                int count = 0;
+                const auto cancel = [&](double) {
+                    if (count++ == last) {
+                        throw Pcb::Cancelled();
+                    }
+                };
+                QVERIFY_EXCEPTION_THROWN(Pcb::exportBoard(board, file, Pcb::Progress(cancel)),
+                                         Pcb::Cancelled);
+                QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("whole.json"));
+            }
+        }
+    }
+
+    void openingIsCancelledAtEachOfItsReports()
+    {
+        const QByteArray text = Pcb::toJson(boardOfPads(1000));
+        int all = 0;
+        Pcb::fromJson(text, {}, Pcb::Progress([&](double) { ++all; }));
+        QVERIFY(all > 10);
+        for (int last = 0; last < all; ++last) {
+            int count = 0;
+            const auto cancel = [&](double) {
+                if (count++ == last) {
+                    throw Pcb::Cancelled();
+                }
+            };
+            QVERIFY_EXCEPTION_THROWN(Pcb::fromJson(text, {}, Pcb::Progress(cancel)),
+                                     Pcb::Cancelled);
+        }
+    }
+
+    void aLargeBoardThatIsCancelledIsNotOpened()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("large.json");
+        Pcb::writeBoardFile(boardOfPads(100000), file);
+        const CanvasFixture fixture({Pcb::Feature(Pcb::padGeometry("r60", {5000, 5000}))});
+        auto& files = *fixture.pane->findChild<FileActions*>();
+        {
+            const ProgressWatcher watcher(true);
+            QVERIFY(!files.open(file));
+            QCOMPARE(watcher.texts.value(0), QString("Opening large.json..."));
+        }
+        QCOMPARE(int(fixture.features().size()), 1);
+        QCOMPARE(files.file(), QString());
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("Cancelled."));
+    }
+};
+
+CTS_TEST(TestLongWork);
+#include "test_long_work.moc"

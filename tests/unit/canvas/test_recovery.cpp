@@ -1,0 +1,336 @@
+// What a crash leaves of changed boards, and what becomes of it at the next start.
+
+#include "CanvasFixture.h"
+#include "Main.h"
+#include "board/BoardFile.h"
+#include "plugin/PayloadKeys.h"
+#include "shared/Settings.h"
+#include "viewer/FileActions.h"
+#include "viewer/RecoveryFolder.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <numeric>
+
+namespace {
+
+constexpr int twoSeconds = 2000;
+
+Pcb::Feature keptPad(double x)
+{
+    return Pcb::Feature(Pcb::padGeometry("r60", {x, 5000}));
+}
+
+Pcb::Features padsOf(int count)
+{
+    Pcb::Features pads;
+    for (int i = 0; i < count; ++i) {
+        pads.push_back(Pcb::Feature(
+            Pcb::padGeometry("r20", {double(i % 400) * 1000, double(int(i / 400)) * 1000})));
+    }
+    return pads;
+}
+
+/// A program with changed boards; the host opens the steps of the job "demo".
+class KeepingProgram : public CanvasFixture {
+public:
+    explicit KeepingProgram(const Pcb::Features& features = {keptPad(5000), keptPad(9000)})
+        : CanvasFixture(features)
+    {
+        CanvasHost::addInstance(CanvasHost::hostName, pane,
+                                [](void* asked, PluginMetaData message) {
+                                    if (message.payload[PayloadKeys::jobName] == "demo") {
+                                        static_cast<ViewerPane*>(asked)->receive(message);
+                                    }
+                                });
+        files().keepForRecovery();
+    }
+    ~KeepingProgram() { CanvasHost::removeInstance(pane); }
+
+    FileActions& files() const { return *pane->findChild<FileActions*>(); }
+    void removeFirst() const
+    {
+        document().applyBoard("remove", Pcb::without(document().board(), {0}));
+    }
+    QMessageBox* offer() const { return window.findChild<QMessageBox*>("m_pRecoveryBox"); }
+    void answer(const char* button) const
+    {
+        findNamed<QAbstractButton>(*offer(), button).click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    bool isTroubled() const { return findNamed<QLabel>(*pane, "m_pRecoveryLB").isVisible(); }
+};
+
+}  // namespace
+
+class TestRecovery : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+
+    QString place() const { return Settings::beside(".recovery"); }
+    QStringList kept(const char* folder = "0") const
+    {
+        return QDir(place() + "/" + folder).entryList({"*.kept"}, QDir::Files);
+    }
+    Pcb::Board keptBoard(const QString& path) const
+    {
+        return RecoveryFolder::read(place() + "/" + path, {});
+    }
+    /// As a crash leaves it.
+    void leave(const char* path, const QString& job, const QString& step, const QString& file,
+               const Pcb::Board& board) const
+    {
+        const QString name = place() + "/" + path;
+        QDir().mkpath(QFileInfo(name).path());
+        QFile device(name);
+        QVERIFY(device.open(QIODevice::WriteOnly));
+        device.write(RecoveryFolder::text({job, step, file, {}, {}}, Pcb::toJson(board)));
+    }
+    Pcb::Board onePad() const { return {"other", "layer", {}, {keptPad(1234)}}; }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_directory = std::make_unique<QTemporaryDir>();
+        Settings::keepIn(m_directory->filePath("settings.ini"));
+    }
+    void cleanup() { Settings::keepIn({}); }
+
+    void eachChangedStepIsKeptWithinTwoSeconds()
+    {
+        const KeepingProgram program;
+        QVERIFY(kept().isEmpty());
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept(), QStringList("0.kept"), twoSeconds);
+        QVERIFY(keptBoard("0/0.kept") == program.document().board());
+        program.removeFirst();
+        QTRY_VERIFY_WITH_TIMEOUT(keptBoard("0/0.kept").features.empty(), twoSeconds);
+        program.pane->canvas().openStep("demo", "pcb");
+        program.pane->canvas().openStep("demo", "panel");
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept(), QStringList({"0.kept", "2.kept"}), twoSeconds);
+        QVERIFY(keptBoard("0/2.kept") == program.document().board());
+    }
+
+    void onlyWhatHasChangedIsWritten()
+    {
+        const KeepingProgram program;
+        QSignalSpy written(&program.files(), &FileActions::recoveryTroubled);
+        program.removeFirst();
+        QVERIFY(written.wait(twoSeconds));
+        program.document().select("select", {0});
+        program.pane->canvas().openStep("demo", "pcb");
+        QVERIFY(!written.wait(1000));
+    }
+
+    void whatIsSavedOrUndoneIsNotKept()
+    {
+        const KeepingProgram program;
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        program.document().history().undo();
+        QTRY_COMPARE(kept().size(), 0);
+        program.document().history().redo();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        program.document().setSaved();
+        QTRY_COMPARE(kept().size(), 0);
+    }
+
+    void whatIsClosedIsNotKept()
+    {
+        const KeepingProgram program;
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        program.files().closeAll();
+        QTRY_COMPARE(kept().size(), 0);
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QVERIFY(keptBoard("0/0.kept") == program.document().board());
+    }
+
+    void whoEndsInOrderLeavesNothing()
+    {
+        {
+            const KeepingProgram program;
+            program.removeFirst();
+            QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        }
+        QVERIFY(!QFileInfo::exists(place()));
+        const KeepingProgram next;
+        QVERIFY(!next.offer());
+    }
+
+    void whatACrashHasLeftIsRecovered()
+    {
+        leave("0/4.kept", "demo", "panel", "/home/me/panel.json", onePad());
+        const KeepingProgram program;
+        QVERIFY(program.offer());
+        const QString text = program.offer()->text();
+        QVERIFY2(text.contains("demo / panel (panel.json), of 20"), qPrintable(text));
+        QVERIFY(program.features().size() == 2);
+        program.answer("m_pRecoverPB");
+        QVERIFY(program.document().board() == onePad());
+        QCOMPARE(program.pane->canvas().step(), QString("panel"));
+        QVERIFY(program.files().isModified());
+        QCOMPARE(program.files().file(), QString("/home/me/panel.json"));
+        QCOMPARE(program.text("m_pCanvasStatusLB"), QString("Recovered: demo / panel."));
+        // It is in a file all the time: that of the program that has it now.
+        QCOMPARE(kept("0"), QStringList());
+        QCOMPARE(kept("1"), QStringList("1.kept"));
+        program.removeFirst();
+        QTRY_VERIFY_WITH_TIMEOUT(keptBoard("1/1.kept").features.empty(), twoSeconds);
+    }
+
+    void whatIsDiscardedIsGone()
+    {
+        leave("0/0.kept", "demo", "pcb", {}, onePad());
+        leave("3/0.kept", "demo", "panel", {}, onePad());
+        const KeepingProgram program;
+        QVERIFY(program.offer()->text().contains("demo / pcb, of 20"));
+        program.answer("m_pDiscardKeptPB");
+        QCOMPARE(kept("0") + kept("3"), QStringList());
+        QVERIFY(!program.files().isModified());
+    }
+
+    void whatIsLeftForLaterIsOfferedAgain()
+    {
+        leave("0/0.kept", "demo", "pcb", {}, onePad());
+        {
+            const KeepingProgram program;
+            program.answer("m_pKeepForLaterPB");
+            program.removeFirst();
+            QTRY_COMPARE_WITH_TIMEOUT(kept("1").size(), 1, twoSeconds);
+        }
+        QCOMPARE(kept("0").size(), 1);
+        const KeepingProgram next;
+        QVERIFY(next.offer());
+    }
+
+    void aProgramThatRunsKeepsItsOwn()
+    {
+        const KeepingProgram first;
+        first.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept("0").size(), 1, twoSeconds);
+        const KeepingProgram second;
+        QVERIFY(!second.offer());
+        second.removeFirst();
+        second.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept("1").size(), 1, twoSeconds);
+        QCOMPARE(int(keptBoard("0/0.kept").features.size()), 1);
+    }
+
+    void aStepThatIsNotThereIsLeft()
+    {
+        leave("0/0.kept", "gone", "pcb", {}, onePad());
+        leave("0/1.kept", "demo", "pcb", {}, onePad());
+        const KeepingProgram program;
+        program.answer("m_pRecoverPB");
+        QCOMPARE(kept("0"), QStringList("0.kept"));
+        QCOMPARE(program.text("m_pCanvasStatusLB"),
+                 QString("Recovered: demo / pcb. Left for the next start: gone / pcb."));
+    }
+
+    void ofTwoThatAreTheSameStepTheLaterIsRecovered()
+    {
+        leave("0/0.kept", "demo", "pcb", {}, {});
+        leave("1/0.kept", "demo", "pcb", {}, onePad());
+        QFile older(place() + "/0/0.kept");
+        QVERIFY(older.open(QIODevice::ReadWrite));
+        QVERIFY(older.setFileTime(QDateTime::currentDateTime().addSecs(-60),
+                                  QFileDevice::FileModificationTime));
+        older.close();
+        const KeepingProgram program;
+        program.answer("m_pRecoverPB");
+        QVERIFY(program.document().board() == onePad());
+        QCOMPARE(kept("0").size(), 1);
+    }
+
+    void whatIsNoBoardIsToldAndLeft()
+    {
+        leave("0/0.kept", "demo", "pcb", {}, onePad());
+        QFile file(place() + "/0/0.kept");
+        QVERIFY(file.resize(file.size() - 4));
+        const KeepingProgram program;
+        QString told;
+        QTimer::singleShot(0, [&] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            told = box->text();
+            box->accept();
+        });
+        program.answer("m_pRecoverPB");
+        QVERIFY2(told.contains("0.kept:"), qPrintable(told));
+        QCOMPARE(kept("0").size(), 1);
+        QVERIFY(!program.files().isModified());
+    }
+
+    void thatNothingCanBeKeptIsSaidAndDisturbsNobody()
+    {
+        const KeepingProgram program;
+        QSignalSpy tries(&program.files(), &FileActions::recoveryTroubled);
+        QFile wall(place() + "/0");
+        QVERIFY(!program.isTroubled());
+        program.removeFirst();
+        QVERIFY(tries.wait(twoSeconds));
+        QVERIFY(QDir(wall.fileName()).removeRecursively());
+        QVERIFY(wall.open(QIODevice::WriteOnly));
+        for (int i = 0; i < 2; ++i) {
+            program.document().history().push(new QUndoCommand);
+            program.document().applyBoard(
+                "add", Pcb::withAdded(program.document().board(), {keptPad(3000 + i)}));
+            QVERIFY(tries.wait(twoSeconds));
+            QVERIFY(program.isTroubled());
+            QVERIFY(!QApplication::activeModalWidget());
+        }
+        const QString reason = findNamed<QLabel>(*program.pane, "m_pRecoveryLB").toolTip();
+        QVERIFY2(reason.startsWith(place()), qPrintable(reason));
+        wall.close();
+        QVERIFY(wall.remove());
+        program.removeFirst();
+        QVERIFY(tries.wait(twoSeconds));
+        QVERIFY(!program.isTroubled());
+        QCOMPARE(kept().size(), 1);
+    }
+
+    void noEventWaitsForALargeBoard()
+    {
+        const KeepingProgram program(padsOf(TestProgram::isFull() ? 100000 : 40000));
+        QSignalSpy written(&program.files(), &FileActions::recoveryTroubled);
+        bool isQuick = false;
+        for (int attempt = 1; attempt <= 3 && !isQuick; ++attempt) {
+            // Nothing is as it was written last.
+            const Pcb::Board& board = program.document().board();
+            Pcb::Indexes all(board.features.size());
+            std::iota(all.begin(), all.end(), 0);
+            program.document().applyBoard("move", Pcb::withMoved(board, all, {10, 0}));
+            QElapsedTimer sinceEdit;
+            sinceEdit.start();
+            QTest::qWait(100);  // it is painted
+            QCOMPARE(written.count(), attempt - 1);
+            qint64 longest = 0;
+            QElapsedTimer sinceBeat;
+            QTimer beats;
+            connect(&beats, &QTimer::timeout,
+                    [&] { longest = qMax(longest, sinceBeat.restart()); });
+            sinceBeat.start();
+            beats.start(2);
+            QTRY_COMPARE_WITH_TIMEOUT(written.count(), attempt, 60000);
+            qInfo("an event waited %lld ms at most; kept after %lld ms", longest,
+                  sinceEdit.elapsed());
+            // Where other programs have the processor all of it takes longer, but what is written
+            // takes most of the time.
+            isQuick = longest < qMax(qint64(100), sinceEdit.elapsed() / 8);
+        }
+        QVERIFY(keptBoard("0/0.kept") == program.document().board());
+        QVERIFY(isQuick);
+    }
+};
+
+CTS_TEST(TestRecovery);
+#include "test_recovery.moc"
