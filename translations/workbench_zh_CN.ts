@@ -374,6 +374,10 @@
         <source>Cannot save the board</source>
         <translation>无法保存板</translation>
     </message>
+    <message>
+        <source>Unknown Shapes</source>
+        <translation>未知形状</translation>
+    </message>
 </context>
 <context>
     <name>FileErrors</name>
@@ -1311,6 +1315,25 @@
     <message>
         <source>Information</source>
         <translation>提示</translation>
+    </message>
+</context>
+<context>
+    <name>UnknownTexts</name>
+    <message>
+        <source>Symbols: %1.</source>
+        <translation>符号：%1。</translation>
+    </message>
+    <message>
+        <source>Letters: %1.</source>
+        <translation>字符：%1。</translation>
+    </message>
+    <message>
+        <source>Features of unknown shape, as outlines: %1.</source>
+        <translation>形状未知、仅显示轮廓的图元：%1 个。</translation>
+    </message>
+    <message>
+        <source>Features of unknown shape, left out of the file: %1.</source>
+        <translation>形状未知、未写入文件的图元：%1 个。</translation>
     </message>
 </context>
 <context>

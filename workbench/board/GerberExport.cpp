@@ -3,6 +3,7 @@
 #include "board/Areas.h"
 #include "board/GerberWriter.h"
 #include "board/Symbol.h"
+#include "board/Unknowns.h"
 
 #include <Files.h>
 
@@ -147,6 +148,9 @@ QByteArray toGerber(const Board& board, const QString& file)
 {
     GerberWriter writer;
     writeOrigin(writer, board);
+    for (const QString& line : wordsInFile(unknownsOf(board))) {
+        writer.comment(line);
+    }
     for (const Feature& feature : board.features) {
         writeFeature(writer, feature);
     }

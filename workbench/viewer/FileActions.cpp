@@ -5,6 +5,7 @@
 #include "shared/FileQuestion.h"
 #include "shared/Named.h"
 #include "viewer/FileNames.h"
+#include "viewer/UnknownTexts.h"
 
 #include <FileError.h>
 
@@ -93,6 +94,8 @@ void FileActions::openAtOnce(const QString& file)
     setFile(document, file);
     FileNames::remember(file);
     Q_EMIT opened();
+    const QString unknown = UnknownTexts::drawn(Pcb::unknownsOf(document.board()));
+    m_canvas.say((unknown + QLatin1Char(' ') + tr("Opened %1.").arg(file)).trimmed());
 }
 
 void FileActions::exportTo(const QString& file)
@@ -109,7 +112,7 @@ bool FileActions::tryToOpen(const QString& file)
 {
     const bool opened = attempt(tr("Cannot open the board"), [&] { openAtOnce(file); });
     if (opened) {
-        m_canvas.say(tr("Opened %1.").arg(file));
+        tell(UnknownTexts::drawn(Pcb::unknownsOf(m_canvas.document().board())));
     }
     return opened;
 }
@@ -155,6 +158,18 @@ void FileActions::chooseAndExport()
     if (!chosen.isEmpty() && attempt(tr("Cannot export the board"), [&] { exportTo(chosen); })) {
         LastFolder::remember(chosen);
         m_canvas.say(tr("Wrote %1.").arg(chosen));
+        tell(UnknownTexts::leftOut(Pcb::unknownsOf(document.board())));
+    }
+}
+
+void FileActions::tell(const QString& words)
+{
+    if (!words.isEmpty() && m_mayAsk()) {
+        QMessageBox box(QMessageBox::Warning, tr("Unknown Shapes"), words, QMessageBox::Ok,
+                        m_pane->window());
+        box.setObjectName(QStringLiteral("m_pUnknownBox"));
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
     }
 }
 

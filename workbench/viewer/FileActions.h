@@ -61,6 +61,8 @@ private:
     bool write(Document& document, const QString& file);
     void setFile(Document& document, const QString& file);
     QString nameOf(const Document& document) const;
+    /// In a box; nothing where there are no words, or no user.
+    void tell(const QString& words);
     /// Does `work`; false if it threw a FileError, which the user was shown as the reason for
     /// `failure`.
     bool attempt(const QString& failure, const std::function<void()>& work);

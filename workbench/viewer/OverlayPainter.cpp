@@ -89,6 +89,10 @@ void paintOverlay(QPainter& painter, const QTransform& toView, const Overlay& ov
         painter.drawPath(feature.area());
     }
     painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(CanvasColours::hovered, 0));
+    for (const Pcb::Feature& feature : overlay.preview) {
+        painter.drawPath(feature.unknown());
+    }
     painter.setPen(QPen(CanvasColours::rubber, 0, Qt::DashLine));
     painter.drawPath(overlay.rubber);
 
