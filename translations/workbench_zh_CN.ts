@@ -114,6 +114,14 @@
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
     </message>
+    <message>
+        <source>Undone: %1.</source>
+        <translation>已撤销：%1。</translation>
+    </message>
+    <message>
+        <source>Redone: %1.</source>
+        <translation>已重做：%1。</translation>
+    </message>
 </context>
 <context>
     <name>ComposeDialog</name>

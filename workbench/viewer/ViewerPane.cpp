@@ -9,6 +9,7 @@
 #include "viewer/SnapControls.h"
 #include "viewer/ToolLine.h"
 #include "viewer/ToolSet.h"
+#include "viewer/UserActions.h"
 
 #include <CommonWidgetsStandIn.h>
 
@@ -84,6 +85,8 @@ void ViewerPane::connectCanvas()
     m_canvas.connectView(m_view);
     connect(&m_canvas, &CanvasController::said, this,
             [this](const QString& text) { showSteadily(m_pCanvasStatusLB, text); });
+    // The line speaks of the last action only.
+    connect(new UserActions(this), &UserActions::begun, this, [this] { m_canvas.say({}); });
     connect(m_snapping, &SnapControls::finished, m_view, qOverload<>(&QWidget::setFocus));
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
