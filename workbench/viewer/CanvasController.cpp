@@ -49,6 +49,7 @@ void CanvasController::openStep(const QString& job, const QString& step)
         disconnect(m_document, nullptr, this, nullptr);
     }
     m_document = document.get();
+    m_lastPoint.reset();
     m_histories.setActiveStack(&m_document->history());
     m_scene.setDocument(m_document);
     // What was started refers to features that may be others now.
@@ -58,6 +59,7 @@ void CanvasController::openStep(const QString& job, const QString& step)
         }
         hover(m_cursor);
     });
+    connect(m_document, &Document::replaced, this, [this] { m_lastPoint.reset(); });
     Q_EMIT documentOpened();
 }
 
@@ -155,7 +157,11 @@ void CanvasController::atWork(Work work)
 
 void CanvasController::press(const QPointF& point, bool extends)
 {
-    atWork([&](CanvasTool& tool) { tool.press(aim(point), extends); });
+    atWork([&](CanvasTool& tool) {
+        const QPointF place = aim(point);
+        m_lastPoint = tool.taken(place);
+        tool.press(place, extends);
+    });
     aim(point);
     refresh();
 }

@@ -46,6 +46,8 @@ public:
 
     /// Whether the next press gives a place, which may snap, rather than picks a feature.
     virtual bool takesPlace() const { return false; }
+    /// The point that a press at `place` gives, where it is not that place itself.
+    virtual QPointF taken(const QPointF& place) const { return place; }
     virtual void press(const QPointF& point, bool extends) = 0;  ///< `extends`: with Ctrl
     virtual void move(const QPointF& point) { Q_UNUSED(point) }
     virtual void release(const QPointF& point) { Q_UNUSED(point) }

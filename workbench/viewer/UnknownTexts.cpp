@@ -4,12 +4,11 @@
 
 namespace {
 
-QString text(const char* source)
-{
-    return QCoreApplication::translate("UnknownTexts", source);
-}
+struct UnknownWords {
+    Q_DECLARE_TR_FUNCTIONS(UnknownTexts)
+};
 
-QString with(const QString& first, const Pcb::Unknowns& unknowns)
+QString sentencesOn(const Pcb::Unknowns& unknowns, const QString& first)
 {
     constexpr int mostNames = 10;
     if (unknowns.isEmpty()) {
@@ -18,12 +17,11 @@ QString with(const QString& first, const Pcb::Unknowns& unknowns)
     QStringList sentences{first.arg(unknowns.features)};
     if (!unknowns.symbols.isEmpty()) {
         const QString names = Pcb::quoted(unknowns.symbols.mid(0, mostNames));
-        sentences.append(text(QT_TRANSLATE_NOOP("UnknownTexts", "Symbols: %1."))
+        sentences.append(UnknownWords::tr("Symbols: %1.")
                              .arg(unknowns.symbols.size() > mostNames ? names + ", ..." : names));
     }
     if (!unknowns.letters.isEmpty()) {
-        sentences.append(
-            text(QT_TRANSLATE_NOOP("UnknownTexts", "Letters: %1.")).arg(unknowns.letters));
+        sentences.append(UnknownWords::tr("Letters: %1.").arg(unknowns.letters));
     }
     return sentences.join(QLatin1Char(' '));
 }
@@ -32,14 +30,11 @@ QString with(const QString& first, const Pcb::Unknowns& unknowns)
 
 QString UnknownTexts::drawn(const Pcb::Unknowns& unknowns)
 {
-    return with(
-        text(QT_TRANSLATE_NOOP("UnknownTexts", "Features of unknown shape, as outlines: %1.")),
-        unknowns);
+    return sentencesOn(unknowns, UnknownWords::tr("Features of unknown shape, as outlines: %1."));
 }
 
 QString UnknownTexts::leftOut(const Pcb::Unknowns& unknowns)
 {
-    return with(text(QT_TRANSLATE_NOOP("UnknownTexts",
-                                       "Features of unknown shape, left out of the file: %1.")),
-                unknowns);
+    return sentencesOn(unknowns,
+                       UnknownWords::tr("Features of unknown shape, left out of the file: %1."));
 }

@@ -105,12 +105,29 @@ void ViewerPane::connectLine(ToolLine* line, BoardView* view)
             [this, line] { line->showHint(m_canvas.hint()); });
     connect(&m_canvas, &CanvasController::moved, line,
             [line](const QPointF& point) { line->showPosition(point); });
-    connect(line, &ToolLine::placeTyped, &m_canvas, &CanvasController::clickAt);
+    connect(line, &ToolLine::placeTyped, this, &ViewerPane::clickAt);
     connect(line, &ToolLine::noPlaceTyped, this, [this](const QString& text) {
         m_canvas.say(
-            tr("\"%1\" is not a position (two numbers, and mil, inch, um or mm).").arg(text));
+            tr("\"%1\" is not a position (two numbers, and mil, inch, um or mm; after @: from the "
+               "last point).")
+                .arg(text));
     });
     connect(line, &ToolLine::finished, view, qOverload<>(&QWidget::setFocus));
+}
+
+void ViewerPane::clickAt(const TypedPlace::Place& place)
+{
+    const std::optional<QPointF> last = m_canvas.lastPoint();
+    if (place.isRelative && !last) {
+        m_canvas.say(tr("There is no last point yet from which @ could count."));
+        return;
+    }
+    const QPointF point = place.isRelative ? *last + place.point : place.point;
+    if (TypedPlace::isOnBoard(point)) {
+        m_canvas.clickAt(point);
+    } else {
+        m_canvas.say(tr("A position is less than ten metres from 0."));
+    }
 }
 
 BoardFiles& ViewerPane::files()
@@ -224,5 +241,5 @@ void ViewerPane::showLengths()
     for (ToolLine* const line : m_lines) {
         line->showPosition();
     }
-    m_canvas.scene().update();  // marks have lengths as well
+    m_canvas.refresh();  // marks and hints have lengths as well
 }

@@ -8,6 +8,10 @@
 #include "plugin/RecordKeys.h"
 #include "viewer/DemoBoard.h"
 
+#include <UiApiStandIn.h>
+
+#include <QtMath>
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -27,6 +31,20 @@ class TestPlacing : public QObject {
                 {RecordKeys::line, kind},
                 {RecordKeys::symbolText, "r20"},
                 {RecordKeys::polarity, Polarity::positive}};
+    }
+
+    /// Of the line from one place to another, as far as pixels can hit them.
+    static QString measures(const CanvasFixture& fixture, const QPointF& from, const QPointF& to)
+    {
+        const QPointF first = fixture.view().boardPoint(fixture.at(from.x(), from.y()));
+        const QPointF second = fixture.view().boardPoint(fixture.at(to.x(), to.y()));
+        const QLineF line(first, second);
+        // QLineF counts with y downwards.
+        const QString angle =
+            QString::number(std::fmod(360 - line.angle(), 360), 'f', 1) + QChar(0xb0);
+        return QString("%1 at %2, dx dy %3")
+            .arg(CanvasHost::lengthText(line.length()), angle,
+                 CanvasHost::lengthText(second - first));
     }
 
 private Q_SLOTS:
@@ -140,15 +158,19 @@ private Q_SLOTS:
                              {RecordKeys::textContains, content}});
         };
         receive("8 \u00b5m");
-        QCOMPARE(fixture.text("m_pPickHintLB"),
-                 QString("Click where the feature begins; its code cannot carry \"\u00b5\"."));
+        QCOMPARE(
+            fixture.text("m_pPickHintLB"),
+            QString("Click the lower left corner of the text; its code cannot carry \"\u00b5\"."));
         fixture.click(4000, 5000);
         QCOMPARE(fixture.features().size(), size_t(1));
         receive("\u00b5");
         fixture.click(14000, 5000);
         QCOMPARE(fixture.features().size(), size_t(1));
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 QString("There is no text that could be drawn: clicks do nothing."));
         receive("8 um");
-        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click where the feature begins."));
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 QString("Click the lower left corner of the text."));
     }
 
     void pickingLetsTheDrawingGoOn()
@@ -285,31 +307,174 @@ private Q_SLOTS:
         QVERIFY(cuts);
     }
 
-    void aMissingSymbolIsSaid_data()
+    void eachPointIsAskedForByName_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<bool>("isSaid");
-        QTest::newRow("line") << FeatureKind::line.toInt() << true;
-        QTest::newRow("pad") << FeatureKind::pad.toInt() << true;
-        QTest::newRow("surface") << FeatureKind::surface.toInt() << false;
-        QTest::newRow("arc") << FeatureKind::arc.toInt() << true;
-        QTest::newRow("text") << FeatureKind::text.toInt() << false;
+        QTest::addColumn<Record>("record");
+        QTest::addColumn<QStringList>("hints");  // before each click, and after the last one
+        const auto row = [](const char* name, const QString& kind, Record record,
+                            const QStringList& hints) {
+            record[RecordKeys::features] = kind.toInt();
+            record[RecordKeys::symbolText] = "r20";
+            QTest::newRow(name) << record << hints;
+        };
+        const QString& line = FeatureKind::line;
+        row("line", line, {{RecordKeys::line, LineKind::single}},
+            {"Click the start.", "Click the end; %1; a right click cancels.", "Click the start."});
+        row("polyline", line, {{RecordKeys::line, LineKind::polyline}},
+            {"Click the start.", "Click the next corner; %1; a right click ends it.",
+             "Click the next corner; %1; a right click ends it.",
+             "Click the next corner; %1; a right click ends it."});
+        row("rectangle", line, {{RecordKeys::line, LineKind::rectangle}},
+            {"Click a corner.", "Click the opposite corner; a right click cancels.",
+             "Click a corner."});
+        row("slot", line, {{RecordKeys::line, LineKind::slot}, {RecordKeys::slotLength, "1"}},
+            {"Click the centre of the slot.", "Click the centre of the slot."});
+        row("pad", FeatureKind::pad, {},
+            {"Click the centre of the pad.", "Click the centre of the pad."});
+        row("pads", FeatureKind::pad, {{RecordKeys::padNy, "2"}, {RecordKeys::padDy, "2000"}},
+            {"Click the centre of the first pad."});
+        const QString& surface = FeatureKind::surface;
+        row("surface", surface, {{RecordKeys::surfaceShape, SurfaceKind::rectangle}},
+            {"Click a corner.", "Click the opposite corner; a right click cancels.",
+             "Click a corner."});
+        row("polygon", surface, {{RecordKeys::surfaceShape, SurfaceKind::polygon}},
+            {"Click a corner.", "Click the next corner; a right click ends it.",
+             "Click the next corner; a right click ends it."});
+        row("disc", surface, {{RecordKeys::surfaceShape, SurfaceKind::circle}},
+            {"Click the centre.", "Click a point of the circle; a right click cancels.",
+             "Click the centre."});
+        row("text", FeatureKind::text,
+            {{RecordKeys::textContains, "x"}, {RecordKeys::textFormat, TextKind::string}},
+            {"Click the lower left corner of the text."});
+        const auto arc = [&row](const char* name, const QString& mode, const char* second,
+                                const char* third) {
+            row(name, FeatureKind::arc,
+                {{RecordKeys::arcAndCircle, ArcOrCircle::arc}, {RecordKeys::arcMode, mode}},
+                {"Click the start.", QString(second) + "; a right click cancels.",
+                 QString(third) + "; a right click cancels.", "Click the start."});
+        };
+        arc("arc 1", "1", "Click the centre", "Click the direction of the end");
+        arc("arc 2", "2", "Click the end", "Click a point of the arc between");
+        arc("arc 3", "3", "Click the end", "Click the centre");
+        arc("arc 4", "4", "Click the centre", "Click the direction that gives the angle");
+        arc("arc 5", "5", "Click the centre", "Click as far from the start as the arc is long");
+        arc("arc 6", "6", "Click the end",
+            "Click so that the angle at the start, to the end, is half the arc's");
+        arc("arc 7", "7", "Click the end", "Click as far from the end as the radius is long");
+        const auto circle = [&row](const char* name, const QString& mode,
+                                   const QStringList& hints) {
+            row(name, FeatureKind::arc,
+                {{RecordKeys::arcAndCircle, ArcOrCircle::circle}, {RecordKeys::circleMode, mode}},
+                hints);
+        };
+        const QStringList fromCentre{"Click the centre.",
+                                     "Click a point of the circle; a right click cancels.",
+                                     "Click the centre."};
+        circle("circle 1", "1", fromCentre);
+        circle("circle 2", "2", fromCentre);
+        circle("circle 3", "3",
+               {"Click a point of the circle.", "Click the centre; a right click cancels.",
+                "Click a point of the circle."});
+        circle("circle 4", "4",
+               {"Click a point of the circle.",
+                "Click the second point of the circle; a right click cancels.",
+                "Click the third point of the circle; a right click cancels.",
+                "Click a point of the circle."});
     }
-    void aMissingSymbolIsSaid()
+    void eachPointIsAskedForByName()
     {
-        QFETCH(int, kind);
-        QFETCH(bool, isSaid);
+        QFETCH(Record, record);
+        QFETCH(QStringList, hints);
         const CanvasFixture fixture;
-        Record record{{RecordKeys::features, kind}, {RecordKeys::symbolText, ""}};
         fixture.receive(Sent::AddFeature);
         fixture.receive(Sent::Record, 0, record);
-        QCOMPARE(fixture.text("m_pPickHintLB"),
-                 isSaid
-                     ? QString("Click where the feature begins; no symbol is named, r10 is drawn.")
-                     : QString("Click where the feature begins."));
-        record[RecordKeys::symbolText] = "r20";
+        const QPointF places[] = {{5000, 5000}, {9000, 6000}, {7500, 8000}, {6000, 9000}};
+        for (int i = 0; i < hints.size(); ++i) {
+            fixture.move(places[i].x(), places[i].y());
+            const QString measured =
+                i == 0 ? QString() : measures(fixture, places[i - 1], places[i]);
+            const QString expected = hints[i].contains("%1") ? hints[i].arg(measured) : hints[i];
+            QCOMPARE(fixture.text("m_pPickHintLB"), expected);
+            fixture.click(places[i].x(), places[i].y());
+        }
+    }
+
+    void aLineIsMeasuredInTheUnitShown()
+    {
+        const CanvasFixture fixture;
+        fixture.receive(Sent::Record, 0, lineRecord(LineKind::single));
+        fixture.pane->canvas().clickAt({2000, 2000});
+        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click the end; a right click cancels."));
+        fixture.pane->canvas().clickAt({2000, 2000});  // is ignored
+        fixture.move(9000, 9000);
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Millimetre);
+        fixture.pane->overhear(Accepted::UnitChanged);
+        const QPointF cursor = fixture.view().boardPoint(fixture.at(9000, 9000));
+        const QString hint = fixture.text("m_pPickHintLB");
+        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
+        const QPointF way = cursor - QPointF(2000, 2000);
+        QCOMPARE(hint, QString("Click the end; %1 mm at %2\u00b0, dx dy %3, %4 mm; a right click "
+                               "cancels.")
+                           .arg(std::hypot(way.x(), way.y()) / 1000, 0, 'f', 4)
+                           .arg(qRadiansToDegrees(std::atan2(way.y(), way.x())), 0, 'f', 1)
+                           .arg(way.x() / 1000, 0, 'f', 4)
+                           .arg(way.y() / 1000, 0, 'f', 4));
+    }
+
+    void aConstrainedLineIsMeasuredAsItIsDrawn()
+    {
+        const CanvasFixture fixture;
+        Record record = lineRecord(LineKind::single);
+        record[RecordKeys::angleGroup] = LineDirection::vertical.toInt();
         fixture.receive(Sent::Record, 0, record);
-        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click where the feature begins."));
+        fixture.pane->canvas().clickAt({5080, 5080});
+        fixture.move(9000, 2540);
+        const QString hint = fixture.text("m_pPickHintLB");
+        QVERIFY2(hint.contains(" mil at 270.0\u00b0, dx dy 0.00, -"), qPrintable(hint));
+    }
+
+    void whatIsDoubtfulIsSaidBeforeTheFirstClick_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("symbol");
+        QTest::addColumn<QString>("hint");
+        const auto row = [](const char* name, const QString& kind, const char* symbol,
+                            const char* hint) {
+            QTest::newRow(name) << kind.toInt() << symbol << hint;
+        };
+        row("line", FeatureKind::line, "", "Click the start; no symbol is named, r10 is drawn.");
+        row("pad", FeatureKind::pad, "",
+            "Click the centre of the pad; no symbol is named, r10 is drawn.");
+        row("arc", FeatureKind::arc, "", "Click the start; no symbol is named, r10 is drawn.");
+        row("surface", FeatureKind::surface, "", "Click a corner.");
+        row("unknown", FeatureKind::pad, "logo",
+            "Click the centre of the pad; the shape of \"logo\" is not known, an outline is "
+            "drawn.");
+        row("known", FeatureKind::pad, "r20", "Click the centre of the pad.");
+        row("no text", FeatureKind::text, "",
+            "There is no text that could be drawn: clicks do nothing.");
+    }
+    void whatIsDoubtfulIsSaidBeforeTheFirstClick()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, symbol);
+        QFETCH(QString, hint);
+        const CanvasFixture fixture;
+        fixture.receive(Sent::AddFeature);
+        fixture.receive(Sent::Record, 0,
+                        {{RecordKeys::features, kind}, {RecordKeys::symbolText, symbol}});
+        QCOMPARE(fixture.text("m_pPickHintLB"), hint);
+    }
+
+    void lettersThatTheFontLacksAreSaid()
+    {
+        const CanvasFixture fixture;
+        fixture.receive(Sent::Record, 0,
+                        {{RecordKeys::features, FeatureKind::text.toInt()},
+                         {RecordKeys::textFormat, TextKind::string},
+                         {RecordKeys::textContains, "Gr\u00fcn"}});
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 QString("Click the lower left corner of the text; the font lacks \"\u00fc\"."));
     }
 
     void whatIsSaidIsDrawn()
