@@ -1229,10 +1229,6 @@
         <translation>单击文字的左下角</translation>
     </message>
     <message>
-        <source>%1 at %2, dx dy %3</source>
-        <translation>%1，%2，dx dy %3</translation>
-    </message>
-    <message>
         <source>its code cannot carry &quot;%1&quot;</source>
         <translation>其条码无法包含“%1”</translation>
     </message>
@@ -1267,6 +1263,10 @@
     <message>
         <source>.</source>
         <translation>。</translation>
+    </message>
+    <message>
+        <source>%1, %2, dx dy %3</source>
+        <translation>%1，%2，dx dy %3</translation>
     </message>
 </context>
 <context>
@@ -1424,8 +1424,8 @@
         <translation>第二视图已打开；选择工具后可在任一视图中操作。</translation>
     </message>
     <message>
-        <source>This canvas does not support &quot;%1&quot;: clicks do nothing.</source>
-        <translation>此画布不支持“%1”：单击无效。</translation>
+        <source>&quot;%1&quot; does nothing on this canvas.</source>
+        <translation>“%1”在此画布上不起作用。</translation>
     </message>
 </context>
 <context>
@@ -1548,8 +1548,8 @@
         <translation>板</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a position (two numbers, and mil, inch, um or mm; after @: from the last point).</source>
-        <translation>“%1”不是位置（两个数字，可带 mil、inch、um 或 mm；前加 @：从上一点起）。</translation>
+        <source>Popview</source>
+        <translation>弹出视图</translation>
     </message>
     <message>
         <source>There is no last point yet from which @ could count.</source>
@@ -1560,8 +1560,8 @@
         <translation>位置到 0 的距离必须小于十米。</translation>
     </message>
     <message>
-        <source>Popview</source>
-        <translation>弹出视图</translation>
+        <source>&quot;%1&quot; is not a position, such as 12.5 40 or @5mm 0.</source>
+        <translation>“%1”不是位置，正确示例：12.5 40 或 @5mm 0。</translation>
     </message>
 </context>
 <context>

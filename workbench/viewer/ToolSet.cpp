@@ -74,8 +74,7 @@ public:
             case Sent::OpenPopView:
                 return tr("The second view is open; choose a tool to work in either.");
             default:
-                return tr("This canvas does not support \"%1\": clicks do nothing.")
-                    .arg(ToolSet::text(m_code));
+                return tr("\"%1\" does nothing on this canvas.").arg(ToolSet::text(m_code));
         }
     }
 

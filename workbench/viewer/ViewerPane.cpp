@@ -107,10 +107,7 @@ void ViewerPane::connectLine(ToolLine* line, BoardView* view)
             [line](const QPointF& point) { line->showPosition(point); });
     connect(line, &ToolLine::placeTyped, this, &ViewerPane::clickAt);
     connect(line, &ToolLine::noPlaceTyped, this, [this](const QString& text) {
-        m_canvas.say(
-            tr("\"%1\" is not a position (two numbers, and mil, inch, um or mm; after @: from the "
-               "last point).")
-                .arg(text));
+        m_canvas.say(tr("\"%1\" is not a position, such as 12.5 40 or @5mm 0.").arg(text));
     });
     connect(line, &ToolLine::finished, view, qOverload<>(&QWidget::setFocus));
 }

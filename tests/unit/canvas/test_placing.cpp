@@ -42,7 +42,7 @@ class TestPlacing : public QObject {
         // QLineF counts with y downwards.
         const QString angle =
             QString::number(std::fmod(360 - line.angle(), 360), 'f', 1) + QChar(0xb0);
-        return QString("%1 at %2, dx dy %3")
+        return QString("%1, %2, dx dy %3")
             .arg(CanvasHost::lengthText(line.length()), angle,
                  CanvasHost::lengthText(second - first));
     }
@@ -413,7 +413,7 @@ private Q_SLOTS:
         const QString hint = fixture.text("m_pPickHintLB");
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
         const QPointF way = cursor - QPointF(2000, 2000);
-        QCOMPARE(hint, QString("Click the end; %1 mm at %2\u00b0, dx dy %3, %4 mm; a right click "
+        QCOMPARE(hint, QString("Click the end; %1 mm, %2\u00b0, dx dy %3, %4 mm; a right click "
                                "cancels.")
                            .arg(std::hypot(way.x(), way.y()) / 1000, 0, 'f', 4)
                            .arg(qRadiansToDegrees(std::atan2(way.y(), way.x())), 0, 'f', 1)
@@ -430,7 +430,7 @@ private Q_SLOTS:
         fixture.pane->canvas().clickAt({5080, 5080});
         fixture.move(9000, 2540);
         const QString hint = fixture.text("m_pPickHintLB");
-        QVERIFY2(hint.contains(" mil at 270.0\u00b0, dx dy 0.00, -"), qPrintable(hint));
+        QVERIFY2(hint.contains(" mil, 270.0\u00b0, dx dy 0.00, -"), qPrintable(hint));
     }
 
     void whatIsDoubtfulIsSaidBeforeTheFirstClick_data()

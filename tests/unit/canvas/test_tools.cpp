@@ -405,8 +405,7 @@ private Q_SLOTS:
         const CanvasState before = fixture.state();
         fixture.receive(Sent::DeleteFeature, DeleteMode::feature);  // is not left active
         fixture.receive(code);
-        const QString hint =
-            QString("This canvas does not support \"%1\": clicks do nothing.").arg(name);
+        const QString hint = QString("\"%1\" does nothing on this canvas.").arg(name);
         QCOMPARE(fixture.text("m_pPickHintLB"), hint);
         fixture.click(16000, 10000);
         QVERIFY(fixture.state() == before);

@@ -142,7 +142,7 @@ QString angleText(double degrees)
 /// The length of a line that is being drawn, its direction, and its way along both axes.
 QString measured(const QLineF& line)
 {
-    return PlaceWords::tr("%1 at %2, dx dy %3")
+    return PlaceWords::tr("%1, %2, dx dy %3")
         .arg(CanvasHost::lengthText(line.length()), angleText(Pcb::angleOf(line.p1(), line.p2())),
              CanvasHost::lengthText(line.p2() - line.p1()));
 }
