@@ -1265,8 +1265,12 @@
         <translation>。</translation>
     </message>
     <message>
-        <source>%1, %2, dx dy %3</source>
-        <translation>%1，%2，dx dy %3</translation>
+        <source>%1, %2
+dx %3
+dy %4</source>
+        <translation>%1，%2
+dx %3
+dy %4</translation>
     </message>
 </context>
 <context>

@@ -317,5 +317,6 @@ void BoardView::drawForeground(QPainter* painter, const QRectF& /*area*/)
         painter->drawPath(hovered.area());
         painter->drawPath(hovered.unknown());
     }
-    paintOverlay(*painter, viewportTransform(), m_scene->overlay(), document.state().marks);
+    paintOverlay(*painter, viewportTransform(), m_scene->overlay(), document.state().marks,
+                 viewport()->rect());
 }

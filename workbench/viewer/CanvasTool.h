@@ -11,11 +11,18 @@
 
 #include <optional>
 
+/// Words beside a place.
+struct Note {
+    QPointF place;
+    QString text;
+};
+
 /// What a tool draws over the board while it is at work.
 struct Overlay {
     Pcb::Features preview;  ///< as they would be
     QPainterPath rubber;    ///< guide lines
     std::vector<Mark> marks;
+    std::optional<Note> note = {};
     std::optional<Snapping::Place> snap = {};  ///< where the next click goes
 };
 

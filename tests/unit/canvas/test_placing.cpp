@@ -33,18 +33,11 @@ class TestPlacing : public QObject {
                 {RecordKeys::polarity, Polarity::positive}};
     }
 
-    /// Of the line from one place to another, as far as pixels can hit them.
-    static QString measures(const CanvasFixture& fixture, const QPointF& from, const QPointF& to)
+    /// The words beside the place of the next click; empty for none.
+    static QString noteOf(const CanvasFixture& fixture)
     {
-        const QPointF first = fixture.view().boardPoint(fixture.at(from.x(), from.y()));
-        const QPointF second = fixture.view().boardPoint(fixture.at(to.x(), to.y()));
-        const QLineF line(first, second);
-        // QLineF counts with y downwards.
-        const QString angle =
-            QString::number(std::fmod(360 - line.angle(), 360), 'f', 1) + QChar(0xb0);
-        return QString("%1, %2, dx dy %3")
-            .arg(CanvasHost::lengthText(line.length()), angle,
-                 CanvasHost::lengthText(second - first));
+        const std::optional<Note> note = fixture.pane->canvas().scene().overlay().note;
+        return note ? note->text : QString();
     }
 
 private Q_SLOTS:
@@ -319,11 +312,11 @@ private Q_SLOTS:
         };
         const QString& line = FeatureKind::line;
         row("line", line, {{RecordKeys::line, LineKind::single}},
-            {"Click the start.", "Click the end; %1; a right click cancels.", "Click the start."});
+            {"Click the start.", "Click the end; a right click cancels.", "Click the start."});
         row("polyline", line, {{RecordKeys::line, LineKind::polyline}},
-            {"Click the start.", "Click the next corner; %1; a right click ends it.",
-             "Click the next corner; %1; a right click ends it.",
-             "Click the next corner; %1; a right click ends it."});
+            {"Click the start.", "Click the next corner; a right click ends it.",
+             "Click the next corner; a right click ends it.",
+             "Click the next corner; a right click ends it."});
         row("rectangle", line, {{RecordKeys::line, LineKind::rectangle}},
             {"Click a corner.", "Click the opposite corner; a right click cancels.",
              "Click a corner."});
@@ -391,34 +384,39 @@ private Q_SLOTS:
         const QPointF places[] = {{5000, 5000}, {9000, 6000}, {7500, 8000}, {6000, 9000}};
         for (int i = 0; i < hints.size(); ++i) {
             fixture.move(places[i].x(), places[i].y());
-            const QString measured =
-                i == 0 ? QString() : measures(fixture, places[i - 1], places[i]);
-            const QString expected = hints[i].contains("%1") ? hints[i].arg(measured) : hints[i];
-            QCOMPARE(fixture.text("m_pPickHintLB"), expected);
+            QCOMPARE(fixture.text("m_pPickHintLB"), hints[i]);
             fixture.click(places[i].x(), places[i].y());
         }
     }
 
-    void aLineIsMeasuredInTheUnitShown()
+    void aLineIsMeasuredWhileItIsDrawn()
     {
         const CanvasFixture fixture;
-        fixture.receive(Sent::Record, 0, lineRecord(LineKind::single));
-        fixture.pane->canvas().clickAt({2000, 2000});
-        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click the end; a right click cancels."));
-        fixture.pane->canvas().clickAt({2000, 2000});  // is ignored
+        fixture.receive(Sent::Record, 0, lineRecord(LineKind::polyline));
+        fixture.move(3000, 3000);
+        QCOMPARE(noteOf(fixture), QString());
+        CanvasController& canvas = fixture.pane->canvas();
+        canvas.clickAt({2540, 2540});
+        QCOMPARE(noteOf(fixture), QString());  // it has no length yet
+        canvas.clickAt({5080, 5080});
         fixture.move(9000, 9000);
+        const QPointF way = fixture.view().boardPoint(fixture.at(9000, 9000)) - QPointF(5080, 5080);
+        const auto expected = [&way](const char* unit, double micrometres, int digits) {
+            return QString("%1 %5, %2\u00b0\ndx %3 %5\ndy %4 %5")
+                .arg(std::hypot(way.x(), way.y()) / micrometres, 0, 'f', digits)
+                .arg(qRadiansToDegrees(std::atan2(way.y(), way.x())), 0, 'f', 1)
+                .arg(way.x() / micrometres, 0, 'f', digits)
+                .arg(way.y() / micrometres, 0, 'f', digits)
+                .arg(unit);
+        };
+        QCOMPARE(noteOf(fixture), expected("mil", 25.4, 2));
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Millimetre);
         fixture.pane->overhear(Accepted::UnitChanged);
-        const QPointF cursor = fixture.view().boardPoint(fixture.at(9000, 9000));
-        const QString hint = fixture.text("m_pPickHintLB");
+        const QString shown = noteOf(fixture);
         CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
-        const QPointF way = cursor - QPointF(2000, 2000);
-        QCOMPARE(hint, QString("Click the end; %1 mm, %2\u00b0, dx dy %3, %4 mm; a right click "
-                               "cancels.")
-                           .arg(std::hypot(way.x(), way.y()) / 1000, 0, 'f', 4)
-                           .arg(qRadiansToDegrees(std::atan2(way.y(), way.x())), 0, 'f', 1)
-                           .arg(way.x() / 1000, 0, 'f', 4)
-                           .arg(way.y() / 1000, 0, 'f', 4));
+        QCOMPARE(shown, expected("mm", 1000, 4));
+        fixture.rightClick(9000, 9000);
+        QCOMPARE(noteOf(fixture), QString());
     }
 
     void aConstrainedLineIsMeasuredAsItIsDrawn()
@@ -429,8 +427,51 @@ private Q_SLOTS:
         fixture.receive(Sent::Record, 0, record);
         fixture.pane->canvas().clickAt({5080, 5080});
         fixture.move(9000, 2540);
-        const QString hint = fixture.text("m_pPickHintLB");
-        QVERIFY2(hint.contains(" mil, 270.0\u00b0, dx dy 0.00, -"), qPrintable(hint));
+        const QString note = noteOf(fixture);
+        QVERIFY2(note.contains(" mil, 270.0\u00b0\ndx 0.00 mil\ndy -"), qPrintable(note));
+    }
+
+    void onlyLinesAreMeasured()
+    {
+        const CanvasFixture fixture;
+        fixture.receive(Sent::Record, 0, lineRecord(LineKind::rectangle));
+        fixture.click(2000, 2000);
+        fixture.move(6000, 5000);
+        QCOMPARE(noteOf(fixture), QString());
+    }
+
+    /// Its words are white, and lie on a dark ground wherever the line ends.
+    void theMeasureIsSeenBesideTheEnd_data()
+    {
+        QTest::addColumn<QPointF>("end");
+        QTest::newRow("middle") << QPointF(9000, 7000);
+        QTest::newRow("lower right corner of the view") << QPointF(-1, -1);
+    }
+    void theMeasureIsSeenBesideTheEnd()
+    {
+        QFETCH(QPointF, end);
+        const CanvasFixture fixture;
+        BoardView& view = fixture.view();
+        if (end.x() < 0) {
+            end = view.boardPoint(view.viewport()->rect().bottomRight() - QPoint(3, 3));
+        }
+        fixture.receive(Sent::Record, 0, lineRecord(LineKind::single));
+        const auto countWhite = [&view] {
+            const QImage image = view.grab().toImage();
+            int count = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    count += qGray(image.pixel(x, y)) > 230;
+                }
+            }
+            return count;
+        };
+        fixture.move(end.x(), end.y());
+        QCOMPARE(countWhite(), 0);
+        fixture.click(2000, 2000);
+        fixture.move(end.x(), end.y());
+        const int seen = countWhite();
+        QVERIFY2(seen > 100, qPrintable(QString::number(seen)));
     }
 
     void whatIsDoubtfulIsSaidBeforeTheFirstClick_data()

@@ -139,14 +139,6 @@ QString angleText(double degrees)
     return QString::number(tenths / 10, 'f', 1) + QChar(0xb0);
 }
 
-/// The length of a line that is being drawn, its direction, and its way along both axes.
-QString measured(const QLineF& line)
-{
-    return PlaceWords::tr("%1, %2, dx dy %3")
-        .arg(CanvasHost::lengthText(line.length()), angleText(Pcb::angleOf(line.p1(), line.p2())),
-             CanvasHost::lengthText(line.p2() - line.p1()));
-}
-
 /// What is drawn is perhaps not what is meant.
 QStringList doubts(const Pcb::Placement& placement)
 {
@@ -168,20 +160,14 @@ QStringList doubts(const Pcb::Placement& placement)
     return all;
 }
 
-QStringList begun(const Pcb::Placement& placement)
+QString begun(const Pcb::Placement& placement)
 {
     const Brush& brush = placement.brush();
-    QStringList all;
-    const auto line = placement.begunLine();
-    if (line && line->length() > 0) {
-        all.append(measured(*line));
-    }
     const bool goesOn =
         (brush.kind == Kind::Line && brush.line == Pcb::LineMode::Polyline) ||
         (brush.kind == Kind::Surface && brush.surface == Pcb::SurfaceShape::Polygon);
-    all.append(goesOn ? PlaceWords::tr("a right click ends it")
-                      : PlaceWords::tr("a right click cancels"));
-    return all;
+    return goesOn ? PlaceWords::tr("a right click ends it")
+                  : PlaceWords::tr("a right click cancels");
 }
 
 }  // namespace
@@ -193,6 +179,14 @@ QString PlaceHints::of(const Pcb::Placement& placement)
     }
     const Clicks clicks = clicksOf(placement.brush());
     QStringList clauses{PlaceWords::tr(clicks.at(qMin(placement.clicks(), clicks.size() - 1)))};
-    clauses += placement.isActive() ? begun(placement) : doubts(placement);
+    clauses += placement.isActive() ? QStringList(begun(placement)) : doubts(placement);
     return clauses.join(PlaceWords::tr("; ")) + PlaceWords::tr(".");
+}
+
+QString PlaceHints::measured(const QLineF& line)
+{
+    const QPointF way = line.p2() - line.p1();
+    return PlaceWords::tr("%1, %2\ndx %3\ndy %4")
+        .arg(CanvasHost::lengthText(line.length()), angleText(Pcb::angleOf(line.p1(), line.p2())),
+             CanvasHost::lengthText(way.x()), CanvasHost::lengthText(way.y()));
 }

@@ -37,7 +37,12 @@ void PlaceTool::add(const Pcb::Features& features)
 
 Overlay PlaceTool::overlay() const
 {
-    return {m_placement.preview(), {}, {}};
+    Overlay overlay{m_placement.preview(), {}, {}};
+    const std::optional<QLineF> line = m_placement.begunLine();
+    if (line && line->length() > 0) {
+        overlay.note = {line->p2(), PlaceHints::measured(*line)};
+    }
+    return overlay;
 }
 
 QString PlaceTool::hint() const
