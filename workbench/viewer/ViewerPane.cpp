@@ -1,6 +1,7 @@
 #include "viewer/ViewerPane.h"
 
 #include "plugin/ModuleNames.h"
+#include "viewer/ActionWatch.h"
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
 #include "viewer/CanvasKeys.h"
@@ -9,7 +10,6 @@
 #include "viewer/SnapControls.h"
 #include "viewer/ToolLine.h"
 #include "viewer/ToolSet.h"
-#include "viewer/UserActions.h"
 
 #include <CommonWidgetsStandIn.h>
 
@@ -86,7 +86,7 @@ void ViewerPane::connectCanvas()
     connect(&m_canvas, &CanvasController::said, this,
             [this](const QString& text) { showSteadily(m_pCanvasStatusLB, text); });
     // The line speaks of the last action only.
-    connect(new UserActions(this), &UserActions::begun, this, [this] { m_canvas.say({}); });
+    connect(new ActionWatch(this), &ActionWatch::begun, this, [this] { m_canvas.say({}); });
     connect(m_snapping, &SnapControls::finished, m_view, qOverload<>(&QWidget::setFocus));
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);

@@ -1,4 +1,4 @@
-#include "viewer/UserActions.h"
+#include "viewer/ActionWatch.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -26,12 +26,12 @@ bool begins(const QEvent* event)
 
 }  // namespace
 
-UserActions::UserActions(QObject* parent) : QObject(parent)
+ActionWatch::ActionWatch(QObject* parent) : QObject(parent)
 {
     qApp->installEventFilter(this);
 }
 
-bool UserActions::eventFilter(QObject* watched, QEvent* event)
+bool ActionWatch::eventFilter(QObject* watched, QEvent* event)
 {
     if (begins(event) && watched->isWidgetType()) {
         Q_EMIT begun();
