@@ -1424,8 +1424,8 @@ dy %4</translation>
         <translation>没有激活的工具：单击无效。</translation>
     </message>
     <message>
-        <source>The second view is open; choose a tool to work in either.</source>
-        <translation>第二视图已打开；选择工具后可在任一视图中操作。</translation>
+        <source>The popview is open; choose a tool to work in either.</source>
+        <translation>弹出视图已打开；选择工具后可在任一视图中操作。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does nothing on this canvas.</source>

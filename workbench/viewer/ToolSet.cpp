@@ -72,7 +72,7 @@ public:
             case Sent::Unset:
                 return tr("No tool is active: clicks do nothing.");
             case Sent::OpenPopView:
-                return tr("The second view is open; choose a tool to work in either.");
+                return tr("The popview is open; choose a tool to work in either.");
             default:
                 return tr("\"%1\" does nothing on this canvas.").arg(ToolSet::text(m_code));
         }

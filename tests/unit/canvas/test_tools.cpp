@@ -424,7 +424,7 @@ private Q_SLOTS:
         QVERIFY(fixture.state() == before);
         fixture.receive(Sent::OpenPopView);
         QCOMPARE(fixture.text("m_pPickHintLB"),
-                 QString("The second view is open; choose a tool to work in either."));
+                 QString("The popview is open; choose a tool to work in either."));
     }
 };
 
