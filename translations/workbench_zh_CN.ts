@@ -114,6 +114,14 @@
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
     </message>
+    <message>
+        <source>Undone: %1.</source>
+        <translation>已撤销：%1。</translation>
+    </message>
+    <message>
+        <source>Redone: %1.</source>
+        <translation>已重做：%1。</translation>
+    </message>
 </context>
 <context>
     <name>ComposeDialog</name>
@@ -389,6 +397,10 @@
     <message>
         <source>Recovering changes...</source>
         <translation>正在恢复更改…</translation>
+    </message>
+    <message>
+        <source>Unknown Shapes</source>
+        <translation>未知形状</translation>
     </message>
 </context>
 <context>
@@ -677,7 +689,7 @@
     </message>
     <message>
         <source>Click two points on the canvas.</source>
-        <translation>请在画布上点击两个点。</translation>
+        <translation>请在画布上单击两个点。</translation>
     </message>
     <message>
         <source>No distance yet</source>
@@ -1174,30 +1186,133 @@
     </message>
 </context>
 <context>
+    <name>PlaceHints</name>
+    <message>
+        <source>Click the centre</source>
+        <translation>单击中心</translation>
+    </message>
+    <message>
+        <source>Click the start</source>
+        <translation>单击起点</translation>
+    </message>
+    <message>
+        <source>Click the end</source>
+        <translation>单击终点</translation>
+    </message>
+    <message>
+        <source>Click a corner</source>
+        <translation>单击一个角点</translation>
+    </message>
+    <message>
+        <source>Click the opposite corner</source>
+        <translation>单击对角点</translation>
+    </message>
+    <message>
+        <source>Click the next corner</source>
+        <translation>单击下一个角点</translation>
+    </message>
+    <message>
+        <source>Click a point of the circle</source>
+        <translation>单击圆上一点</translation>
+    </message>
+    <message>
+        <source>Click the centre of the slot</source>
+        <translation>单击槽的中心</translation>
+    </message>
+    <message>
+        <source>Click the centre of the first pad</source>
+        <translation>单击第一个焊盘的中心</translation>
+    </message>
+    <message>
+        <source>Click the centre of the pad</source>
+        <translation>单击焊盘的中心</translation>
+    </message>
+    <message>
+        <source>Click the second point of the circle</source>
+        <translation>单击圆上第二点</translation>
+    </message>
+    <message>
+        <source>Click the third point of the circle</source>
+        <translation>单击圆上第三点</translation>
+    </message>
+    <message>
+        <source>Click the direction of the end</source>
+        <translation>单击终点的方向</translation>
+    </message>
+    <message>
+        <source>Click a point of the arc between</source>
+        <translation>单击圆弧中间的一点</translation>
+    </message>
+    <message>
+        <source>Click the direction that gives the angle</source>
+        <translation>单击给出角度的方向</translation>
+    </message>
+    <message>
+        <source>Click as far from the start as the arc is long</source>
+        <translation>单击一点，其到起点的距离为弧长</translation>
+    </message>
+    <message>
+        <source>Click so that the angle at the start, to the end, is half the arc&apos;s</source>
+        <translation>单击一点，其在起点处与终点的夹角为圆弧角度的一半</translation>
+    </message>
+    <message>
+        <source>Click as far from the end as the radius is long</source>
+        <translation>单击一点，其到终点的距离为半径</translation>
+    </message>
+    <message>
+        <source>Click the lower left corner of the text</source>
+        <translation>单击文字的左下角</translation>
+    </message>
+    <message>
+        <source>its code cannot carry &quot;%1&quot;</source>
+        <translation>其条码无法包含“%1”</translation>
+    </message>
+    <message>
+        <source>the font lacks &quot;%1&quot;</source>
+        <translation>字体缺少“%1”</translation>
+    </message>
+    <message>
+        <source>no symbol is named, %1 is drawn</source>
+        <translation>未指定符号，将绘制 %1</translation>
+    </message>
+    <message>
+        <source>the shape of &quot;%1&quot; is not known, an outline is drawn</source>
+        <translation>“%1”的形状未知，只画轮廓</translation>
+    </message>
+    <message>
+        <source>a right click ends it</source>
+        <translation>右键单击结束</translation>
+    </message>
+    <message>
+        <source>a right click cancels</source>
+        <translation>右键单击取消</translation>
+    </message>
+    <message>
+        <source>There is no text that could be drawn: clicks do nothing.</source>
+        <translation>没有可绘制的文字：单击无效。</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>。</translation>
+    </message>
+    <message>
+        <source>%1, %2
+dx %3
+dy %4</source>
+        <translation>%1，%2
+dx %3
+dy %4</translation>
+    </message>
+</context>
+<context>
     <name>PlaceTool</name>
     <message>
         <source>Add feature</source>
         <translation>添加图元</translation>
-    </message>
-    <message>
-        <source>Click the next point; a right click ends it.</source>
-        <translation>单击下一点；右键单击结束。</translation>
-    </message>
-    <message>
-        <source>Click the next point; a right click cancels.</source>
-        <translation>单击下一点；右键单击取消。</translation>
-    </message>
-    <message>
-        <source>Click where the feature begins.</source>
-        <translation>单击图元的起点。</translation>
-    </message>
-    <message>
-        <source>Click where the feature begins; no symbol is named, %1 is drawn.</source>
-        <translation>单击图元的起点；未指定符号，将绘制 %1。</translation>
-    </message>
-    <message>
-        <source>Click where the feature begins; its code cannot carry &quot;%1&quot;.</source>
-        <translation>单击图元的起点；其条码无法包含“%1”。</translation>
     </message>
 </context>
 <context>
@@ -1386,8 +1501,23 @@
         <translation>x y</translation>
     </message>
     <message>
-        <source>The position of the mouse. Type another, such as 12.5 40 or 1mm 40mil: Enter clicks there.</source>
-        <translation>鼠标的位置。输入另一个位置，如 12.5 40 或 1mm 40mil，按回车键即在该处单击。</translation>
+        <source>The position of the mouse. Type another, such as 12.5 40 or 1mm 40mil: Enter clicks there. @5 0 is 5 to the right of the last point.</source>
+        <translation>鼠标位置。可输入其他位置，例如 12.5 40 或 1mm 40mil：按回车键即在该处单击。@5 0 为上一点右侧 5 处。</translation>
+    </message>
+</context>
+<context>
+    <name>ToolSet</name>
+    <message>
+        <source>No tool is active: clicks do nothing.</source>
+        <translation>没有激活的工具：单击无效。</translation>
+    </message>
+    <message>
+        <source>The popview is open; choose a tool to work in either.</source>
+        <translation>弹出视图已打开；选择工具后可在任一视图中操作。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does nothing on this canvas.</source>
+        <translation>“%1”在此画布上不起作用。</translation>
     </message>
 </context>
 <context>
@@ -1434,6 +1564,25 @@ Save the changes?</source>
         <translation>以下电路板已更改：
 %1
 是否保存更改？</translation>
+    </message>
+</context>
+<context>
+    <name>UnknownTexts</name>
+    <message>
+        <source>Symbols: %1.</source>
+        <translation>符号：%1。</translation>
+    </message>
+    <message>
+        <source>Letters: %1.</source>
+        <translation>字符：%1。</translation>
+    </message>
+    <message>
+        <source>Features of unknown shape, as outlines: %1.</source>
+        <translation>形状未知、仅显示轮廓的图元：%1 个。</translation>
+    </message>
+    <message>
+        <source>Features of unknown shape, left out of the file: %1.</source>
+        <translation>形状未知、未写入文件的图元：%1 个。</translation>
     </message>
 </context>
 <context>
@@ -1507,19 +1656,15 @@ Save the changes?</source>
     </message>
     <message>
         <source>Click a feature to take its symbol.</source>
-        <translation>点击图元以取得其符号。</translation>
+        <translation>单击图元以取得其符号。</translation>
     </message>
     <message>
         <source>Click a feature to take its attributes.</source>
-        <translation>点击图元以取得其属性。</translation>
+        <translation>单击图元以取得其属性。</translation>
     </message>
     <message>
         <source>This canvas has no settings for marks.</source>
         <translation>此画布没有标记设置。</translation>
-    </message>
-    <message>
-        <source>This canvas does not support &quot;%1&quot;.</source>
-        <translation>此画布不支持“%1”。</translation>
     </message>
     <message>
         <source>negative</source>
@@ -1528,10 +1673,6 @@ Save the changes?</source>
     <message>
         <source>Board</source>
         <translation>板</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a position (two numbers, and mil, inch, um or mm).</source>
-        <translation>“%1”不是位置（两个数，以及 mil、inch、um 或 mm）。</translation>
     </message>
     <message>
         <source>Popview</source>
@@ -1560,6 +1701,18 @@ Save the changes?</source>
     <message>
         <source>Changes cannot be kept for recovery</source>
         <translation>无法保留更改以备恢复</translation>
+    </message>
+    <message>
+        <source>There is no last point yet from which @ could count.</source>
+        <translation>还没有可供 @ 计算的上一点。</translation>
+    </message>
+    <message>
+        <source>A position is less than ten metres from 0.</source>
+        <translation>位置到 0 的距离必须小于十米。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a position, such as 12.5 40 or @5mm 0.</source>
+        <translation>“%1”不是位置，正确示例：12.5 40 或 @5mm 0。</translation>
     </message>
 </context>
 <context>

@@ -51,8 +51,7 @@ bool conducts(const Feature& a, const Feature& b)
 
 bool hasDrawnEnds(const Feature& feature)
 {
-    return (feature.kind() == Kind::Line || feature.kind() == Kind::Arc) &&
-           !feature.area().isEmpty();
+    return (feature.kind() == Kind::Line || feature.kind() == Kind::Arc) && !feature.isEmpty();
 }
 
 bool shareAnEnd(const Feature& a, const Feature& b, double tolerance)
@@ -75,7 +74,7 @@ Indexes chosen(const Board& board, IsInside isInside)
 {
     Indexes found;
     for (int index = 0; exists(board, index); ++index) {
-        if (!at(board, index).area().isEmpty() && isInside(at(board, index))) {
+        if (!at(board, index).isEmpty() && isInside(at(board, index))) {
             found.push_back(index);
         }
     }
@@ -126,7 +125,9 @@ QRectF boundsOf(const Board& board)
 int featureAt(const Board& board, const Indexes& candidates, const QPointF& point, double tolerance)
 {
     const auto found = std::find_if(candidates.rbegin(), candidates.rend(), [&](int index) {
-        return isNear(at(board, index).area(), point, tolerance);
+        const Feature& feature = at(board, index);
+        return isNear(feature.area(), point, tolerance) ||
+               isNear(feature.unknown(), point, tolerance);
     });
     return found == candidates.rend() ? -1 : *found;
 }
@@ -187,7 +188,9 @@ Indexes insidePolygon(const Board& board, const QPolygonF& polygon)
     path.addPolygon(polygon);
     path.closeSubpath();
     return chosen(board, [&](const Feature& feature) {
-        return path.boundingRect().contains(feature.bounds()) && path.contains(feature.area());
+        return path.boundingRect().contains(feature.bounds()) &&
+               (feature.area().isEmpty() || path.contains(feature.area())) &&
+               (feature.unknown().isEmpty() || path.contains(feature.unknown()));
     });
 }
 

@@ -139,7 +139,7 @@ Parts crossings(const Board& board, int index)
     Parts parts;
     for (size_t i = 0; i < board.features.size(); ++i) {
         const Feature& other = board.features[i];
-        if (static_cast<int>(i) == index || !other.isPositive() || other.area().isEmpty() ||
+        if (static_cast<int>(i) == index || !other.isPositive() || other.isEmpty() ||
             !other.bounds().intersects(line.bounds())) {
             continue;
         }

@@ -40,9 +40,13 @@ QPainterPath swept(const QPainterPath& shape, const QPointF& from, const QPointF
     return path;
 }
 
-QPainterPath lineArea(const Geometry& line)
+double penWidth(const Symbol& symbol)
 {
-    const Symbol symbol = parseSymbol(line.symbol);
+    return std::min(symbol.width, symbol.height);
+}
+
+QPainterPath lineArea(const Geometry& line, const Symbol& symbol)
+{
     if (symbol.shape == SymbolShape::Round) {
         return roundStroke(middleOf(line), symbol.width);
     }
@@ -71,10 +75,10 @@ QPainterPath arcStrip(const ArcPlace& arc, double pen)
     return path;
 }
 
-QPainterPath arcArea(const Geometry& geometry)
+QPainterPath arcArea(const Geometry& geometry, const Symbol& symbol)
 {
     const ArcPlace arc = arcPlace(geometry);
-    const double pen = arcPenWidth(geometry.symbol) / 2;
+    const double pen = penWidth(symbol) / 2;
     const bool isCircle = std::abs(arc.sweep) >= 360;
     if (!isCircle) {
         return arcStrip(arc, pen);
@@ -99,25 +103,37 @@ QPainterPath surfaceArea(const Geometry& surface)
     return path;
 }
 
-QPainterPath areaOf(const Geometry& geometry)
+/// What a feature is drawn as.
+struct Drawn {
+    QPainterPath area;
+    QPainterPath unknown;
+};
+
+Drawn drawnWithSymbol(const Geometry& geometry)
+{
+    const Symbol symbol = parseSymbol(geometry.symbol);
+    const QPainterPath path = geometry.kind == Kind::Line ? lineArea(geometry, symbol)
+                              : geometry.kind == Kind::Arc
+                                  ? arcArea(geometry, symbol)
+                                  : placeOf(geometry).map(symbolShape(symbol));
+    return symbol.shape == SymbolShape::Special ? Drawn{{}, path} : Drawn{path, {}};
+}
+
+Drawn drawn(const Geometry& geometry)
 {
     if (geometry.points.size() < leastPoints(geometry) ||
         !std::all_of(geometry.points.begin(), geometry.points.end(), isFinite)) {
         return {};
     }
-    switch (geometry.kind) {
-        case Kind::Line:
-            return lineArea(geometry);
-        case Kind::Arc:
-            return arcArea(geometry);
-        case Kind::Surface:
-            return surfaceArea(geometry);
-        case Kind::Pad:
-            return placeOf(geometry).map(symbolShape(geometry.symbol));
-        case Kind::Text:
-            break;
+    if (geometry.kind == Kind::Surface) {
+        return {surfaceArea(geometry), {}};
     }
-    return placeOf(geometry).map(coveredBy(drawText(geometry.text)));
+    if (geometry.kind == Kind::Text) {
+        const TextDrawing drawing = drawText(geometry.text);
+        const QTransform place = placeOf(geometry);
+        return {place.map(coveredBy(drawing)), place.map(drawing.unknown)};
+    }
+    return drawnWithSymbol(geometry);
 }
 
 }  // namespace
@@ -149,8 +165,9 @@ Feature::Feature()
 
 Feature::Feature(Geometry geometry)
 {
-    const QPainterPath area = areaOf(geometry);
-    m_data = std::make_shared<const Data>(Data{area.boundingRect(), std::move(geometry), area});
+    const auto [area, unknown] = drawn(geometry);
+    m_data = std::make_shared<const Data>(
+        Data{area.boundingRect() | unknown.boundingRect(), std::move(geometry), area, unknown});
 }
 
 QString Feature::net() const
@@ -160,8 +177,7 @@ QString Feature::net() const
 
 double arcPenWidth(const QString& symbol)
 {
-    const Symbol pen = parseSymbol(symbol);
-    return std::min(pen.width, pen.height);
+    return penWidth(parseSymbol(symbol));
 }
 
 QPainterPath middleOf(const Geometry& geometry)

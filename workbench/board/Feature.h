@@ -63,6 +63,11 @@ public:
     /// What it covers, whatever its polarity, by the path's fill rule. Empty for a geometry with
     /// too few points.
     const QPainterPath& area() const { return m_data->area; }
+    /// What stands for parts whose shape is not known, and is no part of the area: for the feature
+    /// when its symbol is special, and for letters that the font lacks. Shown as thin outlines.
+    const QPainterPath& unknown() const { return m_data->unknown; }
+    bool isEmpty() const { return area().isEmpty() && unknown().isEmpty(); }
+    /// Of both.
     const QRectF& bounds() const { return m_data->bounds; }
 
     /// The same for all copies of a feature, and for no other one that lives.
@@ -78,6 +83,7 @@ private:
         QRectF bounds;
         Geometry geometry;
         QPainterPath area;
+        QPainterPath unknown;
     };
 
     std::shared_ptr<const Data> m_data;

@@ -3,6 +3,7 @@
 #include "board/Areas.h"
 #include "board/GerberWriter.h"
 #include "board/Symbol.h"
+#include "board/Unknowns.h"
 
 #include <Files.h>
 
@@ -147,6 +148,9 @@ QByteArray toGerber(const Board& board, const QString& file, const Progress& pro
 {
     GerberWriter writer;
     writeOrigin(writer, board);
+    for (const QString& line : wordsInFile(unknownsOf(board))) {
+        writer.comment(line);
+    }
     size_t done = 0;
     for (const Feature& feature : board.features) {
         progress.at(done++, board.features.size());

@@ -1,5 +1,7 @@
 #include "board/PictureExport.h"
 
+#include "board/Unknowns.h"
+
 #include <Files.h>
 #include <LengthUnits.h>
 
@@ -105,7 +107,10 @@ void writeSvg(const Board& board, const QString& file, const Progress& progress)
     generator.setResolution(qRound(1000 * CanvasHost::micrometresOfMil));
     generator.setSize(area.size().toSize().expandedTo({1, 1}));
     generator.setViewBox(QRectF(QPointF(), area.size()));
-    generator.setTitle((board.job + QLatin1Char(' ') + board.step).trimmed());
+    // Qt writes both as they are.
+    generator.setTitle((board.job + QLatin1Char(' ') + board.step).trimmed().toHtmlEscaped());
+    generator.setDescription(
+        wordsInFile(unknownsOf(board)).join(QLatin1Char('\n')).toHtmlEscaped());
     QPainter painter(&generator);
     paintBoard(painter, board, area, QRectF(QPointF(), area.size()), {}, progress);
     painter.end();

@@ -180,14 +180,12 @@ Geometries ofArc(const Brush& brush, const Points& points)
     return arc ? Geometries{*arc} : Geometries();
 }
 
-Geometries ofText(const Brush& brush, const QPointF& corner, const QMap<QString, QString>& values)
+Geometry ofText(const Brush& brush, const QPointF& corner, const TextSpec& spec)
 {
-    Geometry text = textGeometry(brush.text, corner);
-    text.text.content = resolveSpecialText(brush.text.content, values);
+    Geometry text = textGeometry(spec, corner);
     text.rotation = brush.rotation;
     text.mirror = brush.mirror;
-    const bool isNothing = leftOut(text.text).size() >= text.text.content.left(longestText).size();
-    return isNothing ? Geometries() : Geometries{text};
+    return text;
 }
 
 }  // namespace
@@ -198,6 +196,7 @@ void Placement::setBrush(const Brush& brush)
         cancel();
     }
     m_brush = brush;
+    readText();
 }
 
 void Placement::setDirection(Direction direction, double fixedAngle)
@@ -206,11 +205,32 @@ void Placement::setDirection(Direction direction, double fixedAngle)
     m_brush.fixedAngle = fixedAngle;
 }
 
-QString Placement::leftOut() const
+TextSpec Placement::text() const
 {
     TextSpec text = m_brush.text;
     text.content = resolveSpecialText(text.content, m_specialTexts);
-    return m_brush.kind == Kind::Text ? Pcb::leftOut(text) : QString();
+    return text;
+}
+
+void Placement::readText()
+{
+    const bool isText = m_brush.kind == Kind::Text;
+    const TextSpec spec = text();
+    m_leftOut = isText ? Pcb::leftOut(spec) : QString();
+    m_lacking = isText ? drawText(spec).lacking : QString();
+    m_isNothing = isText && m_leftOut.size() >= spec.content.left(longestText).size();
+}
+
+void Placement::setSpecialTexts(const QMap<QString, QString>& values)
+{
+    m_specialTexts = values;
+    readText();
+}
+
+std::optional<QLineF> Placement::begunLine() const
+{
+    const bool isBegun = isActive() && m_hasCursor && hasDirection(m_brush);
+    return isBegun ? std::optional<QLineF>({m_points.last(), constrained(m_cursor)}) : std::nullopt;
 }
 
 QPointF Placement::constrained(const QPointF& point) const
@@ -273,7 +293,9 @@ Features Placement::build(const QVector<QPointF>& points, bool isEnd) const
             geometries = ofArc(m_brush, points);
             break;
         case Kind::Text:
-            geometries = ofText(m_brush, points.first(), m_specialTexts);
+            if (!isNothing()) {
+                geometries = {ofText(m_brush, points.first(), text())};
+            }
             break;
     }
     const bool isSlot = m_brush.kind == Kind::Line && m_brush.line == LineMode::Slot;

@@ -3,9 +3,12 @@
 #include "board/Brush.h"
 #include "board/Feature.h"
 
+#include <QLineF>
 #include <QMap>
 #include <QPointF>
 #include <QVector>
+
+#include <optional>
 
 namespace Pcb {
 
@@ -44,9 +47,12 @@ public:
     void setDirection(Direction direction, double fixedAngle);
 
     /// What "$$NAME" stands for in texts.
-    void setSpecialTexts(const QMap<QString, QString>& values) { m_specialTexts = values; }
-    /// The characters of the text to be placed that its code cannot carry.
-    QString leftOut() const;
+    void setSpecialTexts(const QMap<QString, QString>& values);
+    /// The characters of the text to be placed that its code cannot carry, or that the font lacks.
+    const QString& leftOut() const { return m_leftOut; }
+    const QString& lacking() const { return m_lacking; }
+    /// Whether it is a text of which nothing would be drawn.
+    bool isNothing() const { return m_isNothing; }
 
     /// A click; gives the features that it completed, bottom first.
     Features press(const QPointF& point);
@@ -59,15 +65,22 @@ public:
     void cancel();
 
     bool isActive() const { return !m_points.isEmpty(); }
+    int clicks() const { return m_clicks; }
     const QVector<QPointF>& points() const { return m_points; }
     /// Where a click at the cursor would set its point, the direction constraint applied.
     QPointF constrained(const QPointF& point) const;
+
+    /// From the last point to where a click at the cursor would set the next one, while a line or a
+    /// polyline is drawn.
+    std::optional<QLineF> begunLine() const;
 
     /// What a click at the cursor would add, and what it would add to. If that is not yet a whole
     /// feature, the line from the last point to the cursor.
     Features preview() const;
 
 private:
+    TextSpec text() const;
+    void readText();
     QVector<QPointF> with(const QPointF& point) const;
     Features build(const QVector<QPointF>& points, bool isEnd) const;
 
@@ -77,6 +90,9 @@ private:
     QPointF m_cursor;
     bool m_hasCursor = false;
     QMap<QString, QString> m_specialTexts;
+    QString m_leftOut;
+    QString m_lacking;
+    bool m_isNothing = false;
 };
 
 }  // namespace Pcb

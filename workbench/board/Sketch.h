@@ -13,10 +13,14 @@ struct Sketch {
     QLineF line;  ///< of a line: from, to
     Kind kind = Kind::Line;
     bool positive = true;
+    bool isKnown = true;  ///< it covers an area, though perhaps not all of it is known
 
     Sketch() = default;
     explicit Sketch(const Feature& feature)
-        : bounds(feature.bounds()), kind(feature.kind()), positive(feature.isPositive())
+        : bounds(feature.bounds()),
+          kind(feature.kind()),
+          positive(feature.isPositive()),
+          isKnown(!feature.area().isEmpty())
     {
         if (kind == Kind::Line) {
             line = {feature.geometry().points.value(0), feature.geometry().points.value(1)};

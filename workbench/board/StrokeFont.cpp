@@ -113,9 +113,7 @@ constexpr const char* unknownGlyph = "0040460600";
 
 const char* glyphOf(QChar character)
 {
-    const int index = character.unicode() - firstGlyph;
-    const int count = static_cast<int>(std::size(glyphs));
-    return index >= 0 && index < count ? glyphs[index] : unknownGlyph;
+    return hasGlyph(character) ? glyphs[character.unicode() - firstGlyph] : unknownGlyph;
 }
 
 /// The grid points that lie nearest to the way from `a` to `b`.
@@ -131,6 +129,12 @@ QVector<QPoint> pointsBetween(const QPoint& a, const QPoint& b)
 }
 
 }  // namespace
+
+bool hasGlyph(QChar character)
+{
+    const int index = character.unicode() - firstGlyph;
+    return index >= 0 && index < static_cast<int>(std::size(glyphs));
+}
 
 QVector<QVector<QPoint>> glyphStrokes(QChar character)
 {

@@ -10,8 +10,11 @@ namespace Pcb {
 constexpr int glyphColumns = 5;
 constexpr int glyphRows = 7;
 
-/// The strokes of a character: x 0 to 4, y 0 to 6 upwards; a stroke of one point is a dot.
-/// Characters that are not printable ASCII are drawn as an empty box.
+/// Whether the font has the character: it has those of printable ASCII.
+bool hasGlyph(QChar character);
+
+/// The strokes of a character: x 0 to 4, y 0 to 6 upwards; a stroke of one point is a dot. An empty
+/// box stands for one that the font lacks.
 QVector<QVector<QPoint>> glyphStrokes(QChar character);
 
 /// The dots of a character on a matrix of `columns` by seven points, each once: the grid points

@@ -153,7 +153,7 @@ std::vector<double> micrometres(const QStringList& sizes)
 {
     std::vector<double> read;
     for (const QString& size : sizes) {
-        read.push_back(std::min(size.toDouble(), largestSymbolSize) * micrometresOfMil);
+        read.push_back(size.toDouble() * micrometresOfMil);
     }
     return read;
 }
@@ -167,7 +167,8 @@ Symbol parseSymbol(const QString& name)
         return special();
     }
     const std::vector<double> sizes = micrometres(parsed->sizes);
-    if (*std::min_element(sizes.begin(), sizes.end()) <= 0) {
+    const auto [least, most] = std::minmax_element(sizes.begin(), sizes.end());
+    if (*least <= 0 || *most > largestSymbolSize * micrometresOfMil) {
         return special();
     }
     Symbol symbol;
@@ -181,10 +182,10 @@ Symbol parseSymbol(const QString& name)
             return special();
         }
     } else {
-        const double most = symbol.shape == SymbolShape::Hexagon
-                                ? symbol.width / 2
-                                : std::min(symbol.width, symbol.height) / 2;
-        symbol.detail = std::min(sizes.size() > 2 ? sizes[2] : regularCut(symbol), most);
+        const double deepest = symbol.shape == SymbolShape::Hexagon
+                                   ? symbol.width / 2
+                                   : std::min(symbol.width, symbol.height) / 2;
+        symbol.detail = std::min(sizes.size() > 2 ? sizes[2] : regularCut(symbol), deepest);
     }
     symbol.rotation = std::fmod(parsed->rotation.mid(1).toDouble(), 360);
     return symbol;

@@ -11,7 +11,8 @@ namespace Pcb {
 
 using CanvasHost::SymbolShape;
 
-/// What the name of a symbol says. A special one is drawn as a placeholder.
+/// What the name of a symbol says. Of a special one the shape is not known; a placeholder stands
+/// for it.
 struct Symbol {
     SymbolShape shape = SymbolShape::Special;
     double width = 0;     ///< micrometres
@@ -20,11 +21,11 @@ struct Symbol {
     double rotation = 0;  ///< degrees counterclockwise, of a name that ends in "_45"
 };
 
-/// The largest size that a name may ask for, in mil; larger ones are drawn as this.
+/// The largest size that a name may ask for, in mil.
 constexpr double largestSymbolSize = 50000;
 
-/// Parses a symbol name; its sizes are mil. A name that is not standard, or asks for a size of 0 or
-/// a ring whose hole is not smaller than the ring, is a special symbol.
+/// Parses a symbol name; its sizes are mil. A name that is not standard, or asks for a size of 0,
+/// one above the largest, or a ring whose hole is not smaller than the ring, is a special symbol.
 Symbol parseSymbol(const QString& name);
 
 /// The covered area in micrometres, centred at the origin, filled by the odd-even rule.

@@ -25,6 +25,19 @@ struct CharacterSize {
     double height;
 };
 
+/// The letters that the font lacks, each once. One may be a pair of characters.
+QString lackingIn(const QString& text)
+{
+    QString letters;
+    for (const uint code : text.toUcs4()) {
+        const QString letter = QString::fromUcs4(&code, 1);
+        if (!hasGlyph(letter.front()) && !letters.contains(letter)) {
+            letters += letter;
+        }
+    }
+    return letters;
+}
+
 void appendString(TextDrawing& drawing, const QString& text, const QPointF& corner,
                   const CharacterSize& size)
 {
@@ -37,10 +50,15 @@ void appendString(TextDrawing& drawing, const QString& text, const QPointF& corn
             for (const QPoint& point : stroke) {
                 placed.append(origin + QPointF(point.x() * column, point.y() * row));
             }
-            drawing.strokes.append(placed);
+            if (hasGlyph(character)) {
+                drawing.strokes.append(placed);
+            } else {
+                drawing.unknown.addPolygon(placed);
+            }
         }
         origin.rx() += column * columnsOfAdvance;
     }
+    drawing.lacking = lackingIn(text);
 }
 
 double widthOfString(const QString& text, const CharacterSize& size)
@@ -173,11 +191,13 @@ TextDrawing drawCanned(const TextSpec& text)
     TextDrawing drawing;
     QPointF origin = half;
     for (const QChar character : text.content) {
+        QPainterPath& path = hasGlyph(character) ? drawing.areas : drawing.unknown;
         for (const QPoint& dot : glyphDots(character, text.cannedColumns)) {
-            drawing.areas.addPath(circlePath(origin + QPointF(dot) * pitch, text.holeSize / 2));
+            path.addPath(circlePath(origin + QPointF(dot) * pitch, text.holeSize / 2));
         }
         origin.rx() += pitch * (text.cannedColumns + 1);
     }
+    drawing.lacking = lackingIn(text.content);
     return drawing;
 }
 

@@ -43,7 +43,9 @@ struct TextSpec {
 struct TextDrawing {
     QVector<QPolygonF> strokes;  ///< drawn with a round pen of `lineWidth`
     double lineWidth = 0;
-    QPainterPath areas;  ///< what is filled: bars, modules, dots
+    QPainterPath areas;    ///< what is filled: bars, modules, dots
+    QPainterPath unknown;  ///< outlines in place of letters that the font lacks
+    QString lacking;       ///< those letters, each once
 };
 
 /// The longest text that is drawn; the rest is left out.
@@ -54,7 +56,7 @@ TextDrawing drawText(const TextSpec& text);
 /// The characters that the text's code cannot carry; empty for a text that is not a code.
 QString leftOut(const TextSpec& text);
 
-/// The area of a drawing: its strokes and its areas.
+/// The area of a drawing: its strokes and its areas, not what is unknown.
 QPainterPath coveredBy(const TextDrawing& drawing);
 
 /// What is drawn for "$$NAME": the value of NAME, or NAME itself if it has none. Other text is

@@ -313,7 +313,10 @@ void BoardView::drawForeground(QPainter* painter, const QRectF& /*area*/)
     if (m_scene->hovered() >= 0) {
         painter->setPen(QPen(CanvasColours::hovered, 0));
         painter->setBrush(Qt::NoBrush);
-        painter->drawPath(document.board().features[size_t(m_scene->hovered())].area());
+        const Pcb::Feature& hovered = document.board().features[size_t(m_scene->hovered())];
+        painter->drawPath(hovered.area());
+        painter->drawPath(hovered.unknown());
     }
-    paintOverlay(*painter, viewportTransform(), m_scene->overlay(), document.state().marks);
+    paintOverlay(*painter, viewportTransform(), m_scene->overlay(), document.state().marks,
+                 viewport()->rect());
 }

@@ -70,9 +70,17 @@ void CanvasBar::connectHistory()
 {
     m_undo->setShortcut(QKeySequence::Undo);
     m_redo->setShortcuts({QStringLiteral("Ctrl+Shift+Z"), QStringLiteral("Ctrl+Y")});
-    const QUndoGroup& histories = m_canvas.histories();
-    connect(m_undo, &QAction::triggered, &histories, &QUndoGroup::undo);
-    connect(m_redo, &QAction::triggered, &histories, &QUndoGroup::redo);
+    QUndoGroup& histories = m_canvas.histories();
+    connect(m_undo, &QAction::triggered, this, [this, &histories] {
+        const QString what = histories.undoText();
+        histories.undo();
+        m_canvas.say(tr("Undone: %1.").arg(what));
+    });
+    connect(m_redo, &QAction::triggered, this, [this, &histories] {
+        const QString what = histories.redoText();
+        histories.redo();
+        m_canvas.say(tr("Redone: %1.").arg(what));
+    });
     connect(&histories, &QUndoGroup::indexChanged, this, &CanvasBar::nameHistory);
     connect(&histories, &QUndoGroup::activeStackChanged, this, &CanvasBar::nameHistory);
 }

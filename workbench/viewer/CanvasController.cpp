@@ -50,6 +50,7 @@ void CanvasController::openStep(const QString& job, const QString& step)
     }
     m_document = document.get();
     m_open = {job, step};
+    m_lastPoint.reset();
     m_histories.setActiveStack(&m_document->history());
     m_scene.setDocument(m_document);
     // What was started refers to features that may be others now.
@@ -59,6 +60,7 @@ void CanvasController::openStep(const QString& job, const QString& step)
         }
         hover(m_cursor);
     });
+    connect(m_document, &Document::replaced, this, [this] { m_lastPoint.reset(); });
     Q_EMIT documentOpened();
 }
 
@@ -156,7 +158,11 @@ void CanvasController::atWork(Work work)
 
 void CanvasController::press(const QPointF& point, bool extends)
 {
-    atWork([&](CanvasTool& tool) { tool.press(aim(point), extends); });
+    atWork([&](CanvasTool& tool) {
+        const QPointF place = aim(point);
+        m_lastPoint = tool.taken(place);
+        tool.press(place, extends);
+    });
     aim(point);
     refresh();
 }

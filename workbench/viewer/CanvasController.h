@@ -42,6 +42,8 @@ public:
     double gridStep() const { return m_gridStep; }
     /// As a click exactly there.
     void clickAt(const QPointF& place);
+    /// What the last click gave, on the board that is shown.
+    const std::optional<QPointF>& lastPoint() const { return m_lastPoint; }
 
     /// Null: clicks do nothing.
     void setTool(std::unique_ptr<CanvasTool> tool);
@@ -91,6 +93,7 @@ private:
     QPointer<BoardView> m_view;
     std::unique_ptr<CanvasTool> m_tool;
     std::optional<QPointF> m_cursor;
+    std::optional<QPointF> m_lastPoint;
     bool m_isAtWork = false;
     bool m_snaps = false;
     double m_gridStep;

@@ -11,11 +11,18 @@
 
 #include <optional>
 
+/// Words beside a place.
+struct Note {
+    QPointF place;
+    QString text;
+};
+
 /// What a tool draws over the board while it is at work.
 struct Overlay {
     Pcb::Features preview;  ///< as they would be
     QPainterPath rubber;    ///< guide lines
     std::vector<Mark> marks;
+    std::optional<Note> note = {};
     std::optional<Snapping::Place> snap = {};  ///< where the next click goes
 };
 
@@ -46,6 +53,8 @@ public:
 
     /// Whether the next press gives a place, which may snap, rather than picks a feature.
     virtual bool takesPlace() const { return false; }
+    /// The point that a press at `place` gives, where it is not that place itself.
+    virtual QPointF taken(const QPointF& place) const { return place; }
     virtual void press(const QPointF& point, bool extends) = 0;  ///< `extends`: with Ctrl
     virtual void move(const QPointF& point) { Q_UNUSED(point) }
     virtual void release(const QPointF& point) { Q_UNUSED(point) }

@@ -33,6 +33,24 @@ const QColor& colourOf(Pcb::Kind kind)
     return CanvasColours::line;
 }
 
+struct Colours {
+    const QColor& area;
+    const QColor& unknown;  ///< of the outlines of what is not known
+};
+
+Colours coloursOf(const Pcb::Sketch& sketch, const CanvasState& state, int index)
+{
+    if (Pcb::contains(state.selected, index)) {
+        return {CanvasColours::selected, CanvasColours::selected};
+    }
+    if (Pcb::contains(state.highlighted, index)) {
+        return {CanvasColours::highlighted, CanvasColours::highlighted};
+    }
+    // A negative feature cuts holes into those below it: the background shows.
+    return {sketch.positive ? colourOf(sketch.kind) : CanvasColours::boardGround,
+            CanvasColours::unknown};
+}
+
 /// Draws features by a painter whose state it changes only where necessary.
 class FeatureBrush {
 public:
@@ -43,20 +61,33 @@ public:
     }
 
     /// Draws it simplified; false if it is too large for that.
-    bool draw(const Pcb::Sketch& sketch, const QColor& colour)
+    bool draw(const Pcb::Sketch& sketch, const Colours& colours)
     {
         const double size = std::max(sketch.bounds.width(), sketch.bounds.height()) / m_pixel;
-        if (size <= dot) {
-            drawDot(sketch.bounds, colour);
-        } else if (size <= dash && isHair(sketch)) {
-            drawDash(sketch.line, colour);
+        if (size <= dot && sketch.isKnown) {
+            drawDot(sketch.bounds, colours.area);
+        } else if (size <= dot) {
+            QPainterPath box;
+            box.addRect(sketch.bounds);
+            drawOutline(box, colours.unknown);
+        } else if (size <= dash && sketch.isKnown && isHair(sketch)) {
+            drawDash(sketch.line, colours.area);
         } else {
             return false;
         }
         return true;
     }
 
-    void draw(const QPainterPath& area, const QColor& colour, bool hasEdge)
+    void draw(const Pcb::Feature& feature, const Colours& colours, bool hasEdge)
+    {
+        drawArea(feature.area(), colours.area, hasEdge);
+        if (!feature.unknown().isEmpty()) {
+            drawOutline(feature.unknown(), colours.unknown);
+        }
+    }
+
+private:
+    void drawArea(const QPainterPath& area, const QColor& colour, bool hasEdge)
     {
         m_painter.setRenderHint(QPainter::Antialiasing);
         m_painter.setPen(hasEdge ? QPen(CanvasColours::rubber, 0) : QPen(Qt::NoPen));
@@ -66,7 +97,16 @@ public:
         m_dashColour = nullptr;
     }
 
-private:
+    void drawOutline(const QPainterPath& path, const QColor& colour)
+    {
+        m_painter.setRenderHint(QPainter::Antialiasing);
+        m_painter.setPen(QPen(colour, 0));
+        m_painter.setBrush(Qt::NoBrush);
+        m_painter.drawPath(path);
+        m_painter.setRenderHint(QPainter::Antialiasing, false);
+        m_dashColour = nullptr;
+    }
+
     bool isHair(const Pcb::Sketch& sketch) const
     {
         const double width = sketch.bounds.width() - std::abs(sketch.line.dx());
@@ -104,15 +144,10 @@ void paintFeatures(QPainter& painter, const Document& document, const QRectF& ar
     const bool isLarge = state.board.features.size() > many;
     for (const int index : document.featuresIn(area)) {
         const Pcb::Sketch& sketch = document.sketch(index);
-        const bool isSelected = Pcb::contains(state.selected, index);
-        // A negative feature cuts holes into those below it: the background shows.
-        const QColor& colour = isSelected ? CanvasColours::selected
-                               : Pcb::contains(state.highlighted, index)
-                                   ? CanvasColours::highlighted
-                               : sketch.positive ? colourOf(sketch.kind)
-                                                 : CanvasColours::boardGround;
-        if (!isLarge || !brush.draw(sketch, colour)) {
-            brush.draw(state.board.features[static_cast<size_t>(index)].area(), colour, isSelected);
+        const Colours colours = coloursOf(sketch, state, index);
+        if (!isLarge || !brush.draw(sketch, colours)) {
+            brush.draw(state.board.features[static_cast<size_t>(index)], colours,
+                       Pcb::contains(state.selected, index));
         }
     }
 }

@@ -7,6 +7,7 @@
 #include "shared/Settings.h"
 #include "viewer/FileNames.h"
 #include "viewer/RecoveryOffer.h"
+#include "viewer/UnknownTexts.h"
 #include "viewer/UnsavedBox.h"
 
 #include <FileError.h>
@@ -112,6 +113,8 @@ void FileActions::show(const Pcb::Board& board, const QString& file)
     setFile(shown(), file);
     FileNames::remember(file);
     Q_EMIT opened();
+    const QString unknown = UnknownTexts::drawn(Pcb::unknownsOf(board));
+    m_canvas.say((unknown + QLatin1Char(' ') + tr("Opened %1.").arg(file)).trimmed());
 }
 
 void FileActions::exportTo(const QString& file)
@@ -132,7 +135,7 @@ bool FileActions::tryToOpen(const QString& file)
                 [&](const Pcb::Progress& progress) { board = Pcb::readBoardFile(file, progress); });
     if (isRead) {
         show(board, file);
-        m_canvas.say(tr("Opened %1.").arg(file));
+        tell(UnknownTexts::drawn(Pcb::unknownsOf(board)));
     }
     return isRead;
 }
@@ -182,6 +185,18 @@ void FileActions::chooseAndExport()
                 [&](const Pcb::Progress& progress) { exportBoard(board, chosen, progress); })) {
         LastFolder::remember(chosen);
         m_canvas.say(tr("Wrote %1.").arg(chosen));
+        tell(UnknownTexts::leftOut(Pcb::unknownsOf(board)));
+    }
+}
+
+void FileActions::tell(const QString& words)
+{
+    if (!words.isEmpty() && m_mayAsk()) {
+        QMessageBox box(QMessageBox::Warning, tr("Unknown Shapes"), words, QMessageBox::Ok,
+                        m_pane->window());
+        box.setObjectName(QStringLiteral("m_pUnknownBox"));
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
     }
 }
 

@@ -74,6 +74,8 @@ private:
     void setFile(OpenStep& step, const QString& file);
     bool recover(const KeptStep& kept);
     static QString offeredName(const OpenStep& step);
+    /// In a box; nothing where there are no words, or no user.
+    void tell(const QString& words);
     /// Does `work`, which `text` names; false if it threw a FileError, which the user was shown as
     /// the reason for `failure`, or if the user has cancelled it.
     bool attempt(const QString& failure, const QString& text, const LongWork::Work& work);

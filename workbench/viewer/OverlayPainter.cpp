@@ -10,16 +10,32 @@ namespace {
 
 constexpr double textGap = 4;  // pixels
 
-void label(QPainter& painter, const QPointF& middle, const QString& text)
+/// As large as the text needs, at the origin.
+QRectF boxOf(const QPainter& painter, const QString& text)
 {
-    QRectF box = painter.fontMetrics().boundingRect(text);
-    box.adjust(-textGap, -textGap / 2, textGap, textGap / 2);
-    box.moveCenter(middle);
+    const QRectF box = painter.fontMetrics().boundingRect({}, Qt::AlignLeft, text);
+    return {0, 0, box.width() + 2 * textGap, box.height() + textGap};
+}
+
+void label(QPainter& painter, const QRectF& box, const QString& text, const QColor& colour)
+{
     painter.setPen(Qt::NoPen);
     painter.setBrush(CanvasColours::ground);
     painter.drawRoundedRect(box, textGap / 2, textGap / 2);
-    painter.setPen(CanvasColours::mark);
+    painter.setPen(colour);
     painter.drawText(box, Qt::AlignCenter, text);
+}
+
+/// To the lower right of its place; on the other side of it where there is no room.
+void paintNote(QPainter& painter, const QRectF& room, const QPointF& place, const QString& text)
+{
+    constexpr double away = 16;  // pixels
+    QRectF box = boxOf(painter, text);
+    const bool isRight = place.x() + away + box.width() <= room.right();
+    const bool isBelow = place.y() + away + box.height() <= room.bottom();
+    box.moveLeft(isRight ? place.x() + away : place.x() - away - box.width());
+    box.moveTop(isBelow ? place.y() + away : place.y() - away - box.height());
+    label(painter, box, text, CanvasColours::rubber);
 }
 
 /// A leg of a mark, its length in its middle. `line` is in pixels, `length` in micrometres.
@@ -30,7 +46,10 @@ void leg(QPainter& painter, const QLineF& line, double length)
     }
     painter.setPen(QPen(CanvasColours::mark, 1.5));
     painter.drawLine(line);
-    label(painter, line.center(), CanvasHost::lengthText(length));
+    const QString text = CanvasHost::lengthText(length);
+    QRectF box = boxOf(painter, text);
+    box.moveCenter(line.center());
+    label(painter, box, text, CanvasColours::mark);
 }
 
 void paintMark(QPainter& painter, const QTransform& toView, const Mark& mark)
@@ -81,7 +100,7 @@ void paintSnap(QPainter& painter, const QPointF& point, Snapping::Kind kind)
 }  // namespace
 
 void paintOverlay(QPainter& painter, const QTransform& toView, const Overlay& overlay,
-                  const std::vector<Mark>& marks)
+                  const std::vector<Mark>& marks, const QRectF& room)
 {
     painter.setPen(Qt::NoPen);
     painter.setBrush(CanvasColours::preview);
@@ -89,6 +108,10 @@ void paintOverlay(QPainter& painter, const QTransform& toView, const Overlay& ov
         painter.drawPath(feature.area());
     }
     painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(CanvasColours::hovered, 0));
+    for (const Pcb::Feature& feature : overlay.preview) {
+        painter.drawPath(feature.unknown());
+    }
     painter.setPen(QPen(CanvasColours::rubber, 0, Qt::DashLine));
     painter.drawPath(overlay.rubber);
 
@@ -99,6 +122,9 @@ void paintOverlay(QPainter& painter, const QTransform& toView, const Overlay& ov
     }
     for (const Mark& mark : overlay.marks) {
         paintMark(painter, toView, mark);
+    }
+    if (overlay.note) {
+        paintNote(painter, room, toView.map(overlay.note->place), overlay.note->text);
     }
     if (overlay.snap) {
         paintSnap(painter, toView.map(overlay.snap->point), overlay.snap->kind);

@@ -1,7 +1,5 @@
 #include "viewer/ToolLine.h"
 
-#include "viewer/TypedPlace.h"
-
 #include <UiApiStandIn.h>
 
 #include <QHBoxLayout>
@@ -123,6 +121,6 @@ void ToolLine::retranslate()
     m_position->setPlaceholderText(tr("x y"));
     m_position->setToolTip(
         tr("The position of the mouse. Type another, such as 12.5 40 or 1mm 40mil: Enter clicks "
-           "there."));
+           "there. @5 0 is 5 to the right of the last point."));
     showPosition();
 }

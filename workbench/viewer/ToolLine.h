@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shared/Retranslated.h"
+#include "viewer/TypedPlace.h"
 
 #include <QPointF>
 #include <QWidget>
@@ -39,7 +40,7 @@ public:
     void showPosition();
 
 Q_SIGNALS:
-    void placeTyped(const QPointF& place);
+    void placeTyped(const TypedPlace::Place& place);
     void noPlaceTyped(const QString& text);
     /// Typing has ended: the keyboard is the board's again.
     void finished();

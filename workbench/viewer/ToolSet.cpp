@@ -7,6 +7,8 @@
 #include "viewer/tools/SelectionTools.h"
 #include "viewer/tools/ViewTools.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace Sent = MessageCodes::Sent;
@@ -56,6 +58,30 @@ Tool marking(Canvas& canvas, qint64 mode)
     return std::make_unique<MarkTool>(canvas, mode == MarkMode::orthogonal);
 }
 
+/// Stands for what does nothing on the board.
+class IdleTool : public CanvasTool {
+    Q_DECLARE_TR_FUNCTIONS(ToolSet)
+
+public:
+    IdleTool(Canvas& canvas, int code) : CanvasTool(canvas), m_code(code) {}
+
+    void press(const QPointF& /*point*/, bool /*extends*/) override {}
+    QString hint() const override
+    {
+        switch (m_code) {
+            case Sent::Unset:
+                return tr("No tool is active: clicks do nothing.");
+            case Sent::OpenPopView:
+                return tr("The popview is open; choose a tool to work in either.");
+            default:
+                return tr("\"%1\" does nothing on this canvas.").arg(ToolSet::text(m_code));
+        }
+    }
+
+private:
+    int m_code;
+};
+
 struct Row {
     int code;
     Tool (*create)(Canvas& canvas, qint64 mode);
@@ -94,7 +120,8 @@ std::unique_ptr<CanvasTool> ToolSet::create(int code, Canvas& canvas, qint64 mod
 {
     const Row* const row = std::find_if(std::begin(rows), std::end(rows),
                                         [code](const Row& known) { return known.code == code; });
-    return row == std::end(rows) ? nullptr : row->create(canvas, mode);
+    return row == std::end(rows) ? std::make_unique<IdleTool>(canvas, code)
+                                 : row->create(canvas, mode);
 }
 
 QString ToolSet::text(int code)

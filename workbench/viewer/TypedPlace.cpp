@@ -48,17 +48,23 @@ std::optional<double> TypedPlace::readLength(const QString& text)
     return match.hasMatch() ? lengthOf(match.captured(1), match.captured(2)) : std::nullopt;
 }
 
-std::optional<QPointF> TypedPlace::readPlace(const QString& text)
+std::optional<TypedPlace::Place> TypedPlace::readPlace(const QString& text)
 {
-    static const QRegularExpression pattern('^' + number + "(?:\\s*[,;\uff0c]\\s*|\\s+)" + number +
-                                            '$');
+    static const QRegularExpression pattern("^(@?)\\s*" + number + "(?:\\s*[,;\uff0c]\\s*|\\s+)" +
+                                            number + '$');
     const auto match = pattern.match(text.trimmed());
-    if (!match.hasMatch()) {
+    const bool isRelative = !match.captured(1).isEmpty();
+    if (!match.hasMatch() || (!isRelative && text.contains(QLatin1Char('+')))) {
         return {};
     }
-    const QString xUnit = match.captured(2);
-    const QString yUnit = match.captured(4);
-    const auto x = lengthOf(match.captured(1), xUnit.isEmpty() ? yUnit : xUnit);
-    const auto y = lengthOf(match.captured(3), yUnit.isEmpty() ? xUnit : yUnit);
-    return x && y ? std::optional<QPointF>({*x, *y}) : std::nullopt;
+    const QString xUnit = match.captured(3);
+    const QString yUnit = match.captured(5);
+    const auto x = lengthOf(match.captured(2), xUnit.isEmpty() ? yUnit : xUnit);
+    const auto y = lengthOf(match.captured(4), yUnit.isEmpty() ? xUnit : yUnit);
+    return x && y ? std::optional<Place>({{*x, *y}, isRelative}) : std::nullopt;
+}
+
+bool TypedPlace::isOnBoard(const QPointF& point)
+{
+    return std::abs(point.x()) < farthest && std::abs(point.y()) < farthest;
 }

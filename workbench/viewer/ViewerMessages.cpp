@@ -177,18 +177,13 @@ void ViewerPane::startTool(int code, qint64 mode)
     m_mode = mode;
     m_place = nullptr;
     m_canvas.say({});
-    if (code == Sent::Unset) {
-        m_canvas.setTool(nullptr);
-    } else if (code == Sent::AddFeature) {
+    if (code == Sent::AddFeature) {
         startPlacing()->setBrush(Pcb::readBrush(m_record, m_attributes));
-    } else if (code == Sent::OpenPopView) {
-        m_canvas.setTool(nullptr);
-        openSecondView();
     } else {
         m_canvas.setTool(ToolSet::create(code, m_canvas, mode));
-        if (!m_canvas.tool()) {
-            m_canvas.say(tr("This canvas does not support \"%1\".").arg(ToolSet::text(code)));
-        }
+    }
+    if (code == Sent::OpenPopView) {
+        openSecondView();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "plugin/ModuleNames.h"
 #include "shared/Named.h"
+#include "viewer/ActionWatch.h"
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
 #include "viewer/CanvasKeys.h"
@@ -88,6 +89,8 @@ void ViewerPane::connectCanvas()
     m_canvas.connectView(m_view);
     connect(&m_canvas, &CanvasController::said, this,
             [this](const QString& text) { showSteadily(m_pCanvasStatusLB, text); });
+    // The line speaks of the last action only.
+    connect(new ActionWatch(this), &ActionWatch::begun, this, [this] { m_canvas.say({}); });
     connect(m_snapping, &SnapControls::finished, m_view, qOverload<>(&QWidget::setFocus));
     connect(&m_canvas, &CanvasController::hovered, this, &ViewerPane::showHovered);
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
@@ -111,12 +114,26 @@ void ViewerPane::connectLine(ToolLine* line, BoardView* view)
             [this, line] { line->showHint(m_canvas.hint()); });
     connect(&m_canvas, &CanvasController::moved, line,
             [line](const QPointF& point) { line->showPosition(point); });
-    connect(line, &ToolLine::placeTyped, &m_canvas, &CanvasController::clickAt);
+    connect(line, &ToolLine::placeTyped, this, &ViewerPane::clickAt);
     connect(line, &ToolLine::noPlaceTyped, this, [this](const QString& text) {
-        m_canvas.say(
-            tr("\"%1\" is not a position (two numbers, and mil, inch, um or mm).").arg(text));
+        m_canvas.say(tr("\"%1\" is not a position, such as 12.5 40 or @5mm 0.").arg(text));
     });
     connect(line, &ToolLine::finished, view, qOverload<>(&QWidget::setFocus));
+}
+
+void ViewerPane::clickAt(const TypedPlace::Place& place)
+{
+    const std::optional<QPointF> last = m_canvas.lastPoint();
+    if (place.isRelative && !last) {
+        m_canvas.say(tr("There is no last point yet from which @ could count."));
+        return;
+    }
+    const QPointF point = place.isRelative ? *last + place.point : place.point;
+    if (TypedPlace::isOnBoard(point)) {
+        m_canvas.clickAt(point);
+    } else {
+        m_canvas.say(tr("A position is less than ten metres from 0."));
+    }
 }
 
 BoardFiles& ViewerPane::files()
@@ -231,5 +248,5 @@ void ViewerPane::showLengths()
     for (ToolLine* const line : m_lines) {
         line->showPosition();
     }
-    m_canvas.scene().update();  // marks have lengths as well
+    m_canvas.refresh();  // marks and hints have lengths as well
 }

@@ -5,6 +5,7 @@
 #include "shared/CanvasControl.h"
 #include "shared/Retranslated.h"
 #include "viewer/CanvasController.h"
+#include "viewer/TypedPlace.h"
 
 #include <PluginMetaData.h>
 
@@ -47,6 +48,7 @@ private:
     QLayout* createFoot();
     void connectCanvas();
     void connectLine(ToolLine* line, BoardView* view);
+    void clickAt(const TypedPlace::Place& place);
     void createSecondView();
 
     void takeRecord(const PluginMetaData& message);

@@ -69,6 +69,10 @@ private Q_SLOTS:
         }
         QVERIFY(glyphStrokes(QLatin1Char(' ')).isEmpty());
         QCOMPARE(glyphStrokes(QChar(0x20ac)), glyphStrokes(QChar(7)));
+        for (const int code : {0x1f, 0x7f, 0xe4, 0x20ac}) {
+            QVERIFY(!hasGlyph(QChar(code)));
+        }
+        QVERIFY(hasGlyph(QLatin1Char(' ')) && hasGlyph(QLatin1Char('~')));
         QCOMPARE(glyphStrokes(QLatin1Char('L')),
                  QVector<QVector<QPoint>>({{{0, 6}, {0, 0}, {4, 0}}}));
     }

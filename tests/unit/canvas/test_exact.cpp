@@ -113,8 +113,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("isPlace");
         QTest::addColumn<QPointF>("place");
-        const auto row = [](const char* text, QPointF place) {
-            QTest::newRow(text) << text << true << place;
+        QTest::addColumn<bool>("isRelative");
+        const auto row = [](const char* text, QPointF place, bool isRelative = false) {
+            QTest::newRow(text) << text << true << place << isRelative;
         };
         row("12.5 40", {12500, 40000});
         row(" -1.5,2 ", {-1500, 2000});
@@ -129,9 +130,14 @@ private Q_SLOTS:
         row("100\u00b5m 200\u00b5m", {100, 200});
         row("12.5000, 40.0000 mm", {12500, 40000});
         row("1 mil 2 mil", {25.4, 50.8});
-        for (const char* const text : {"", "12", "12,5 40", "a b", "1 2 3", "1ft 2ft", "1e3 2",
-                                       "nan 1", "99999999 1", "1 2mm x", "--1 2", ". ."}) {
-            QTest::newRow(*text ? text : "empty") << text << false << QPointF();
+        row("@5 5", {5000, 5000}, true);
+        row(" @ -5, 10mil", {-127, 254}, true);
+        row("@+5 +5", {5000, 5000}, true);
+        for (const char* const text :
+             {"",       "12",         "12,5 40", "a b",   "1 2 3", "1ft 2ft", "1e3 2",
+              "nan 1",  "99999999 1", "1 2mm x", "--1 2", ". .",   "+5 +5",   "5 +5",
+              "+5mm 5", "@",          "@5",      "5 @5",  "@5 @5", "@@5 5",   "5 5@"}) {
+            QTest::newRow(*text ? text : "empty") << text << false << QPointF() << false;
         }
     }
     void typedPlaces()
@@ -143,7 +149,8 @@ private Q_SLOTS:
         const auto read = TypedPlace::readPlace(text);
         CanvasHost::setDisplayUnit(DisplayUnit::Mil);
         QCOMPARE(read.has_value(), isPlace);
-        QVERIFY(!isPlace || isNear(*read, place, 1e-6));
+        QFETCH(bool, isRelative);
+        QVERIFY(!isPlace || (isNear(read->point, place, 1e-6) && read->isRelative == isRelative));
     }
 
     /// What is shown in the user's language can be typed back.
@@ -161,7 +168,7 @@ private Q_SLOTS:
                 const QString shown = CanvasHost::lengthText(point);
                 CanvasHost::setDisplayUnit(DisplayUnit::Mil);  // not the one shown
                 const auto read = TypedPlace::readPlace(shown);
-                QVERIFY2(read && isNear(*read, point, 1e-6), qPrintable(shown));
+                QVERIFY2(read && isNear(read->point, point, 1e-6), qPrintable(shown));
             }
         }
         QCoreApplication::removeTranslator(&chinese);
@@ -316,9 +323,85 @@ private Q_SLOTS:
     {
         const Fixture fixture;
         fixture.describeLine();
-        fixture.typePlace("1 2 3");
-        QVERIFY(fixture.text("m_pCanvasStatusLB").startsWith("\"1 2 3\" is not a position"));
-        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click where the feature begins."));
+        for (const QString text : {"1 2 3", "+5 +5"}) {
+            fixture.typePlace(text);
+            QVERIFY(
+                fixture.text("m_pCanvasStatusLB").startsWith('"' + text + "\" is not a position"));
+            QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click the start."));
+        }
+    }
+
+    void relativePlacesStartAtTheLastPoint()
+    {
+        const Fixture fixture;
+        fixture.describeLine();
+        fixture.typePlace("@5mm 5mm");
+        QVERIFY(fixture.text("m_pCanvasStatusLB").startsWith("There is no last point yet"));
+        fixture.typePlace("2mm 3mm");
+        fixture.typePlace("@5mm -1mm");
+        QVERIFY(isNear(fixture.pointsOf(3)[1], {7000, 2000}, 1e-6));
+        fixture.typePlace("@0 1mm");  // from the end of the line
+        fixture.typePlace("@100 0");
+        QVERIFY(isNear(fixture.pointsOf(4)[0], {7000, 3000}, 1e-6));
+        QVERIFY(isNear(fixture.pointsOf(4)[1], {9540, 3000}, 1e-6));
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString());
+    }
+
+    void relativePlacesStartWhereAClickSnapped()
+    {
+        const Fixture fixture;
+        fixture.snap();
+        fixture.describeLine();
+        fixture.click(7080, 8060);
+        fixture.typePlace("@1mm 0");
+        QVERIFY(isNear(fixture.pointsOf(3)[0], {7000, 8000}, 1e-6));
+        QVERIFY(isNear(fixture.pointsOf(3)[1], {8000, 8000}, 1e-6));
+        fixture.receive(Sent::MoveFeature);
+        fixture.click(16100, 4100);  // the pad's centre
+        fixture.typePlace("@1mm 0");
+        QVERIFY(isNear(fixture.pointsOf(1)[0], {17003, 4007}, 1e-6));
+    }
+
+    void relativePlacesStartWhereALineWasLedTo()
+    {
+        const Fixture fixture;
+        QMap<QString, QVariant> record{{RecordKeys::features, FeatureKind::line.toInt()},
+                                       {RecordKeys::line, LineKind::polyline},
+                                       {RecordKeys::angleGroup, LineDirection::horizontal.toInt()},
+                                       {RecordKeys::symbolText, QString("r10")}};
+        fixture.receive(Sent::Record, 0, record);
+        fixture.typePlace("2mm 3mm");
+        fixture.typePlace("6mm 9mm");  // is led to 6 3
+        record[RecordKeys::angleGroup] = LineDirection::free.toInt();
+        fixture.receive(Sent::DirectionRecord, 0, record);
+        fixture.typePlace("@0 1mm");
+        fixture.rightClick(1000, 13000);
+        QVERIFY(isNear(fixture.pointsOf(4)[0], {6000, 3000}, 1e-6));
+        QVERIFY(isNear(fixture.pointsOf(4)[1], {6000, 4000}, 1e-6));
+    }
+
+    void anEndIsPulledFromWhereItIs()
+    {
+        const Fixture fixture;
+        fixture.receive(Sent::StretchLine);
+        fixture.click(12080, 5060);
+        fixture.typePlace("@1mm 2mm");
+        QVERIFY(isNear(fixture.pointsOf(0)[1], {13030, 7020}, 1e-6));
+    }
+
+    void theLastPointIsThatOfTheBoard()
+    {
+        const Fixture fixture;
+        fixture.describeLine();
+        fixture.typePlace("2mm 3mm");
+        fixture.document().replace({"job", "step", {}, board()});
+        fixture.typePlace("@1mm 0");
+        QVERIFY(fixture.text("m_pCanvasStatusLB").startsWith("There is no last point yet"));
+        fixture.typePlace("9000mm 0");
+        fixture.typePlace("@2000mm 0");
+        QCOMPARE(fixture.text("m_pCanvasStatusLB"),
+                 QString("A position is less than ten metres from 0."));
+        QCOMPARE(fixture.features().size(), size_t(3));
     }
 
     void whatIsBeingTypedStays()

@@ -140,15 +140,19 @@ private Q_SLOTS:
                              {RecordKeys::textContains, content}});
         };
         receive("8 \u00b5m");
-        QCOMPARE(fixture.text("m_pPickHintLB"),
-                 QString("Click where the feature begins; its code cannot carry \"\u00b5\"."));
+        QCOMPARE(
+            fixture.text("m_pPickHintLB"),
+            QString("Click the lower left corner of the text; its code cannot carry \"\u00b5\"."));
         fixture.click(4000, 5000);
         QCOMPARE(fixture.features().size(), size_t(1));
         receive("\u00b5");
         fixture.click(14000, 5000);
         QCOMPARE(fixture.features().size(), size_t(1));
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 QString("There is no text that could be drawn: clicks do nothing."));
         receive("8 um");
-        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click where the feature begins."));
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 QString("Click the lower left corner of the text."));
     }
 
     void pickingLetsTheDrawingGoOn()
@@ -283,33 +287,6 @@ private Q_SLOTS:
         QCOMPARE(int(texts.size()), 4);
         QCOMPARE(int(codes.size()), 5);
         QVERIFY(cuts);
-    }
-
-    void aMissingSymbolIsSaid_data()
-    {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<bool>("isSaid");
-        QTest::newRow("line") << FeatureKind::line.toInt() << true;
-        QTest::newRow("pad") << FeatureKind::pad.toInt() << true;
-        QTest::newRow("surface") << FeatureKind::surface.toInt() << false;
-        QTest::newRow("arc") << FeatureKind::arc.toInt() << true;
-        QTest::newRow("text") << FeatureKind::text.toInt() << false;
-    }
-    void aMissingSymbolIsSaid()
-    {
-        QFETCH(int, kind);
-        QFETCH(bool, isSaid);
-        const CanvasFixture fixture;
-        Record record{{RecordKeys::features, kind}, {RecordKeys::symbolText, ""}};
-        fixture.receive(Sent::AddFeature);
-        fixture.receive(Sent::Record, 0, record);
-        QCOMPARE(fixture.text("m_pPickHintLB"),
-                 isSaid
-                     ? QString("Click where the feature begins; no symbol is named, r10 is drawn.")
-                     : QString("Click where the feature begins."));
-        record[RecordKeys::symbolText] = "r20";
-        fixture.receive(Sent::Record, 0, record);
-        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click where the feature begins."));
     }
 
     void whatIsSaidIsDrawn()

@@ -405,12 +405,26 @@ private Q_SLOTS:
         const CanvasState before = fixture.state();
         fixture.receive(Sent::DeleteFeature, DeleteMode::feature);  // is not left active
         fixture.receive(code);
-        QCOMPARE(fixture.text("m_pCanvasStatusLB"),
-                 QString("This canvas does not support \"%1\".").arg(name));
+        const QString hint = QString("\"%1\" does nothing on this canvas.").arg(name);
+        QCOMPARE(fixture.text("m_pPickHintLB"), hint);
         fixture.click(16000, 10000);
         QVERIFY(fixture.state() == before);
+        QCOMPARE(fixture.text("m_pPickHintLB"), hint);  // also after the click
         fixture.receive(Sent::MoveFeature);
-        QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString());
+        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click a feature to move it."));
+    }
+
+    void saysThatThereIsNoTool()
+    {
+        const CanvasFixture fixture(cross());
+        const CanvasState before = fixture.state();
+        fixture.receive(Sent::BreakLineOff);
+        QCOMPARE(fixture.text("m_pPickHintLB"), QString("No tool is active: clicks do nothing."));
+        fixture.click(16000, 10000);
+        QVERIFY(fixture.state() == before);
+        fixture.receive(Sent::OpenPopView);
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 QString("The popview is open; choose a tool to work in either."));
     }
 };
 

@@ -131,6 +131,11 @@ void ClickEditTool::press(const QPointF& point, bool /*extends*/)
     }
 }
 
+QPointF MoveTool::taken(const QPointF& place) const
+{
+    return m_grabbed.empty() ? canvas().snapped(place) : place;
+}
+
 void MoveTool::press(const QPointF& point, bool /*extends*/)
 {
     if (!m_grabbed.empty()) {
@@ -181,6 +186,18 @@ QString MoveTool::hint() const
 {
     return m_grabbed.empty() ? tr(m_edit.hint)
                              : tr("Click the new position; a right click cancels.");
+}
+
+/// The end itself, not where it was clicked.
+QPointF LineEndTool::taken(const QPointF& place) const
+{
+    const int feature = m_feature < 0 ? canvas().featureAt(place) : -1;
+    if (feature < 0 || !m_edit.edited(featureOf(board(), feature), Pcb::End::First, place)) {
+        return place;
+    }
+    const Pcb::Feature& line = featureOf(board(), feature);
+    const bool isFirst = Pcb::nearerEnd(line, place) == Pcb::End::First;
+    return line.geometry().points.value(isFirst ? 0 : 1, place);
 }
 
 void LineEndTool::press(const QPointF& point, bool /*extends*/)

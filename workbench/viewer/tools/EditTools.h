@@ -76,6 +76,7 @@ public:
     MoveTool(Canvas& canvas, const MoveEdit& edit) : CanvasTool(canvas), m_edit(edit) {}
 
     bool takesPlace() const override { return !m_grabbed.empty(); }
+    QPointF taken(const QPointF& place) const override;
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
     void release(const QPointF& point) override;
@@ -100,6 +101,7 @@ public:
     LineEndTool(Canvas& canvas, const LineEndEdit& edit) : CanvasTool(canvas), m_edit(edit) {}
 
     bool takesPlace() const override { return m_feature >= 0; }
+    QPointF taken(const QPointF& place) const override;
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_cursor = point; }
     void cancel() override { m_feature = -1; }

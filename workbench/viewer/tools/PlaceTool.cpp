@@ -1,8 +1,7 @@
 #include "viewer/tools/PlaceTool.h"
 
 #include "board/EditOps.h"
-
-#include <QCoreApplication>
+#include "viewer/tools/PlaceHints.h"
 
 void PlaceTool::setDirection(const Pcb::Brush& brush)
 {
@@ -38,29 +37,15 @@ void PlaceTool::add(const Pcb::Features& features)
 
 Overlay PlaceTool::overlay() const
 {
-    return {m_placement.preview(), {}, {}};
+    Overlay overlay{m_placement.preview(), {}, {}};
+    const std::optional<QLineF> line = m_placement.begunLine();
+    if (line && line->length() > 0) {
+        overlay.note = {line->p2(), PlaceHints::measured(*line)};
+    }
+    return overlay;
 }
 
 QString PlaceTool::hint() const
 {
-    using Pcb::Kind;
-    const Pcb::Brush& brush = m_placement.brush();
-    const bool goesOn =
-        (brush.kind == Kind::Line && brush.line == Pcb::LineMode::Polyline) ||
-        (brush.kind == Kind::Surface && brush.surface == Pcb::SurfaceShape::Polygon);
-    if (goesOn && m_placement.isActive()) {
-        return tr("Click the next point; a right click ends it.");
-    }
-    const QString leftOut = m_placement.leftOut();
-    if (!leftOut.isEmpty()) {
-        return tr("Click where the feature begins; its code cannot carry \"%1\".").arg(leftOut);
-    }
-    if (m_placement.isActive()) {
-        return tr("Click the next point; a right click cancels.");
-    }
-    const bool hasSymbol = brush.kind != Kind::Surface && brush.kind != Kind::Text;
-    return hasSymbol && !brush.symbolNamed
-               ? tr("Click where the feature begins; no symbol is named, %1 is drawn.")
-                     .arg(brush.symbol)
-               : tr("Click where the feature begins.");
+    return PlaceHints::of(m_placement);
 }

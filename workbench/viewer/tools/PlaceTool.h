@@ -19,6 +19,7 @@ public:
     void fill();
 
     bool takesPlace() const override { return true; }
+    QPointF taken(const QPointF& place) const override { return m_placement.constrained(place); }
     void press(const QPointF& point, bool extends) override;
     void move(const QPointF& point) override { m_placement.move(point); }
     void finish() override;

@@ -1,0 +1,40 @@
+#include "viewer/UnknownTexts.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct UnknownWords {
+    Q_DECLARE_TR_FUNCTIONS(UnknownTexts)
+};
+
+QString sentencesOn(const Pcb::Unknowns& unknowns, const QString& first)
+{
+    constexpr int mostNames = 10;
+    if (unknowns.isEmpty()) {
+        return {};
+    }
+    QStringList sentences{first.arg(unknowns.features)};
+    if (!unknowns.symbols.isEmpty()) {
+        const QString names = Pcb::quoted(unknowns.symbols.mid(0, mostNames));
+        sentences.append(UnknownWords::tr("Symbols: %1.")
+                             .arg(unknowns.symbols.size() > mostNames ? names + ", ..." : names));
+    }
+    if (!unknowns.letters.isEmpty()) {
+        sentences.append(UnknownWords::tr("Letters: %1.").arg(unknowns.letters));
+    }
+    return sentences.join(QLatin1Char(' '));
+}
+
+}  // namespace
+
+QString UnknownTexts::drawn(const Pcb::Unknowns& unknowns)
+{
+    return sentencesOn(unknowns, UnknownWords::tr("Features of unknown shape, as outlines: %1."));
+}
+
+QString UnknownTexts::leftOut(const Pcb::Unknowns& unknowns)
+{
+    return sentencesOn(unknowns,
+                       UnknownWords::tr("Features of unknown shape, left out of the file: %1."));
+}
