@@ -114,6 +114,18 @@
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
     </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>没有选中任何图元。</translation>
+    </message>
+    <message>
+        <source>Deleted one feature.</source>
+        <translation>已删除 1 个图元。</translation>
+    </message>
+    <message>
+        <source>Deleted %1 features.</source>
+        <translation>已删除 %1 个图元。</translation>
+    </message>
 </context>
 <context>
     <name>ComposeDialog</name>
@@ -1093,6 +1105,10 @@
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>

@@ -39,6 +39,8 @@ public:
     // CanvasControl
     BoardFiles& files() override;
     QList<QAction*> actions(Group group) const override;
+    QWidget* board() const override;
+    QWidget* positionField() const override;
     void stripWasMade() override;
     void overhear(int code) override;
 
