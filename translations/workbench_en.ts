@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CanvasBar</name>
+    <message numerus="yes">
+        <source>Deleted %n feature(s).</source>
+        <translation>
+            <numerusform>Deleted %n feature.</numerusform>
+            <numerusform>Deleted %n features.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MessageMonitor</name>
     <message numerus="yes">
         <source>%n message(s)</source>

@@ -122,6 +122,16 @@
         <source>Redone: %1.</source>
         <translation>已重做：%1。</translation>
     </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>没有选中任何图元。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deleted %n feature(s).</source>
+        <translation>
+            <numerusform>已删除 %n 个图元。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ComposeDialog</name>
@@ -1140,6 +1150,10 @@
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,8 @@
 #include <map>
 #include <string>
 
+class QWidget;
+
 namespace CanvasHost {
 
 /// Called when a measure window starts measuring; a canvas sets it to begin taking points.
@@ -18,6 +20,9 @@ CANVAS_HOST_EXPORT void setMeasureStarted(std::function<void()> started);
 
 /// Shows the distance between two points (micrometre) in every measure window.
 CANVAS_HOST_EXPORT void reportMeasurement(const QPointF& from, const QPointF& to);
+
+/// Escape closes `window`, whatever in it has the keyboard.
+CANVAS_HOST_EXPORT void closeByEscape(QWidget* window);
 
 /// Functions that replace operations of common_widgets.h if they are set.
 struct CommonWidgetsOverrides {

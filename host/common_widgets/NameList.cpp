@@ -1,6 +1,9 @@
 #include "NameList.h"
 
+#include "CommonWidgetsStandIn.h"
+
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -12,7 +15,8 @@ NameList::NameList(const QString& listName, const char* title, QWidget* window)
       m_title(title),
       m_filter(new QLineEdit(this)),
       m_list(new QListWidget(this)),
-      m_ok(new QPushButton(this))
+      m_ok(new QPushButton(this)),
+      m_cancel(new QPushButton(this))
 {
     setObjectName(listName + QStringLiteral("Pane"));
     m_filter->setObjectName(QStringLiteral("m_pFilterLE"));
@@ -21,20 +25,27 @@ NameList::NameList(const QString& listName, const char* title, QWidget* window)
     m_list->setObjectName(listName);
     m_list->setUniformItemSizes(true);
     m_ok->setObjectName(QStringLiteral("m_pOkPB"));
+    m_cancel->setObjectName(QStringLiteral("m_pCancelPB"));
 
+    auto* const buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_ok);
+    buttons->addWidget(m_cancel);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(m_filter);
     layout->addWidget(m_list);
-    layout->addWidget(m_ok, 0, Qt::AlignRight);
+    layout->addLayout(buttons);
     auto* const around = new QVBoxLayout(window);
     around->setContentsMargins(0, 0, 0, 0);
     around->addWidget(this);
     window->resize(260, 360);
+    CanvasHost::closeByEscape(window);
     retranslate();
 
     connect(m_filter, &QLineEdit::textChanged, this, &NameList::applyFilter);
     connect(m_list, &QListWidget::itemActivated, this, &NameList::take);
     connect(m_ok, &QPushButton::clicked, this, &NameList::take);
+    connect(m_cancel, &QPushButton::clicked, window, &QWidget::close);
     connect(m_list, &QListWidget::currentRowChanged, this,
             [this](int row) { m_ok->setEnabled(row >= 0); });
     m_ok->setEnabled(false);
@@ -105,4 +116,5 @@ void NameList::retranslate()
     m_filter->setAccessibleName(tr("Filter"));
     m_list->setAccessibleName(tr(m_title));
     m_ok->setText(tr("OK"));
+    m_cancel->setText(tr("Cancel"));
 }

@@ -8,7 +8,8 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 
-/// The contents of a window from which one name is chosen: a filter, the list, an Ok button.
+/// The contents of a window from which one name is chosen: a filter, the list, Ok and
+/// Cancel.
 class NameList : public QWidget {
     Q_OBJECT
 public:
@@ -35,4 +36,5 @@ private:
     QLineEdit* m_filter;
     QListWidget* m_list;
     QPushButton* m_ok;
+    QPushButton* m_cancel;
 };

@@ -2,6 +2,7 @@
 #include "CommonWidgetsStandIn.h"
 #include "common_widgets.h"
 
+#include <QAction>
 #include <QVBoxLayout>
 
 namespace CanvasHost {
@@ -10,6 +11,15 @@ CommonWidgetsOverrides& commonWidgetsOverrides()
 {
     static CommonWidgetsOverrides overrides;
     return overrides;
+}
+
+void closeByEscape(QWidget* window)
+{
+    auto* const close = new QAction(window);
+    close->setObjectName(QStringLiteral("m_pCloseAct"));
+    close->setShortcut(Qt::Key_Escape);
+    QObject::connect(close, &QAction::triggered, window, &QWidget::close);
+    window->addAction(close);
 }
 
 }  // namespace CanvasHost
@@ -28,6 +38,7 @@ Widget_Attributes::Widget_Attributes(QWidget* owner) : QWidget(owner, Qt::Dialog
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(d->pane);
     resize(420, 360);
+    CanvasHost::closeByEscape(this);
     connect(d->pane, &AttributePane::changed, this, [this] {
         const bool isColoured = !d->pane->values().empty();
         if (isColoured != d->isColoured) {

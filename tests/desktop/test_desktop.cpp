@@ -14,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QRegularExpression>
 #include <QTimer>
 #include <QToolButton>
 
@@ -320,10 +319,6 @@ private Q_SLOTS:
     {
         QAction* const action = m_window->findChild<QAction*>("m_pDimensionsAct");
         QVERIFY(action);
-        for (int slot = 0; slot < 7; ++slot) {
-            // The form's slots are connected by name before the objects in those names exist.
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("connectSlotsByName"));
-        }
         action->trigger();
         auto& popup = findNamed<QWidget>(*m_window, "m_pDimensions");
         QTRY_VERIFY(popup.isVisible());

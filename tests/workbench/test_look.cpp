@@ -11,6 +11,7 @@
 #include <Files.h>
 #include <Json.h>
 
+#include <QAction>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -21,6 +22,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTableView>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -118,6 +120,67 @@ private Q_SLOTS:
                  QString("/no/such.file: No such file or directory"));
     }
 
+    /// What a bar has no room for goes behind an arrow, and a text field is not even there.
+    static void verifyBarsShowAll(const QWidget& window)
+    {
+        int looked = 0;
+        for (const QToolBar* const bar : window.findChildren<QToolBar*>()) {
+            for (QAction* const action : bar->actions()) {
+                const QWidget* const shown = bar->widgetForAction(action);
+                QVERIFY2(shown->isVisible() && bar->rect().contains(shown->geometry()),
+                         qPrintable(bar->objectName() + ' ' + shown->objectName()));
+                ++looked;
+            }
+        }
+        QVERIFY(looked > 15);
+    }
+
+    void barsWrapAndUnwrap()
+    {
+        Options options;
+        options.fontSize = 14;
+        Look::dress(options);
+        MessageLog log;
+        const auto window = startWorkbench(log, options);
+        window->show();
+        const auto top = [&](const char* name) {
+            auto& part = findNamed(*window, name);
+            return part.mapTo(window.get(), QPoint()).y();
+        };
+        const auto verify = [&](int width, bool areInOneLine) {
+            window->resize(width, 800);
+            QTRY_COMPARE(top("m_pHostTB") == top("m_pSettingsTB"), areInOneLine);
+            QTRY_COMPARE(top("m_pCanvasBar") == top("m_pSnapBar"), areInOneLine);
+            verifyBarsShowAll(*window);
+        };
+        verify(1400, true);
+        verify(window->minimumSizeHint().width(), false);
+        verify(1400, true);
+    }
+
+    void theRecordGivesWayBeforeTheBoard()
+    {
+        Options options;
+        options.fontSize = 10;
+        Look::dress(options);
+        MessageLog log;
+        const auto window = startWorkbench(log, options);
+        window->resize(1366, 740);
+        window->show();
+        const QWidget& board = findNamed(*window, "m_pBoardView");
+        const QWidget& record = findNamed(*window, "m_pInspectorSplitter");
+        QTRY_VERIFY(board.width() > 500);
+        const int wide = record.width();
+        window->resize(window->minimumSizeHint());
+        QTRY_VERIFY(record.width() < wide);
+        QVERIFY2(
+            board.width() >= 420 && board.width() > 2 * record.width() && board.height() >= 180,
+            qPrintable(QString("%1 x %2, record %3")
+                           .arg(board.width())
+                           .arg(board.height())
+                           .arg(record.width())));
+    }
+
     void nothingIsCutInLargeFonts_data()
     {
         QTest::addColumn<QString>("language");
@@ -138,6 +201,7 @@ private Q_SLOTS:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         int looked = 0;
+        verifyBarsShowAll(window);
         for (const QWidget* const widget : window.findChildren<QWidget*>()) {
             const auto* const label = qobject_cast<const QLabel*>(widget);
             const bool isButton = qobject_cast<const QPushButton*>(widget) ||

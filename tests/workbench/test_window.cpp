@@ -4,9 +4,11 @@
 #include "WindowFixture.h"
 #include "plugin/MessageCodes.h"
 #include "shared/CanvasControl.h"
+#include "window/FormWarnings.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QFont>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
@@ -17,6 +19,30 @@
 #include <QTreeWidgetItemIterator>
 
 namespace {
+
+/// Collects what is said to Qt's message handler, instead of showing it.
+class HeardMessages {
+public:
+    HeardMessages()
+    {
+        all().clear();
+        m_before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext&, const QString& text) { all().append(text); });
+    }
+    ~HeardMessages() { qInstallMessageHandler(m_before); }
+    QStringList texts() const { return all(); }
+
+private:
+    Q_DISABLE_COPY(HeardMessages)
+
+    static QStringList& all()
+    {
+        static QStringList texts;
+        return texts;
+    }
+
+    QtMessageHandler m_before;
+};
 
 QList<QUrl> linksOf(const QTextBrowser& browser)
 {
@@ -38,6 +64,14 @@ class TestWindow : public QObject, private WindowFixture {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        // The screen is small here, and layouts need room to be changed.
+        QFont font = QApplication::font();
+        font.setPointSize(7);
+        QApplication::setFont(font);
+    }
+
     void init() { restart({}); }
     void cleanup()
     {
@@ -243,11 +277,11 @@ private Q_SLOTS:
         auto& monitor = findNamed(*m_window, "m_pMonitorDock");
         QVERIFY(monitor.isVisible());
         monitor.hide();
-        m_window->resize(first - QSize(20, 30));
+        m_window->resize(first - QSize(10, 30));
         m_window->move(17, 39);
         m_window->close();
         init();
-        QCOMPARE(m_window->size(), first - QSize(20, 30));
+        QCOMPARE(m_window->size(), first - QSize(10, 30));
         QCOMPARE(m_window->pos(), QPoint(17, 39));
         QVERIFY(!findNamed(*m_window, "m_pMonitorDock").isVisible());
         action("m_pRestoreLayoutAct").trigger();
@@ -273,10 +307,38 @@ private Q_SLOTS:
     void withoutSettingsNothingIsKept()
     {
         const QSize first = m_window->size();
-        m_window->resize(first - QSize(20, 30));
+        m_window->resize(first - QSize(10, 30));
         m_window->close();
         init();
         QCOMPARE(m_window->size(), first);
+    }
+
+    void dimensionsOpensWithoutAWordOfQts()
+    {
+        const HeardMessages heard;
+        action("m_pDimensionsAct").trigger();
+        QVERIFY(findNamed<QWidget>(*m_window, "m_pDimensions").isVisible());
+        QCOMPARE(heard.texts().filter("QMetaObject"), QStringList());
+    }
+
+    void everyOtherWarningIsShown()
+    {
+        const HeardMessages heard;
+        const QString known =
+            "QMetaObject::connectSlotsByName: No matching signal for on_pushButton_clicked()";
+        const QString more = known + " const";
+        const QString other =
+            "QMetaObject::connectSlotsByName: No matching signal for on_m_pOther_clicked()";
+        {
+            const FormWarnings leftOut;
+            for (const QString& text : {known, more, other}) {
+                qWarning("%s", qPrintable(text));
+            }
+            qInfo("%s", qPrintable(known));
+        }
+        QCOMPARE(heard.texts(), QStringList({more, other, known}));
+        qWarning("%s", qPrintable(known));  // nothing is open: not expected now
+        QCOMPARE(heard.texts().size(), 4);
     }
 
     void documentationIsForWhoSitsThere()

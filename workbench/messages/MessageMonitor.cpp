@@ -26,6 +26,7 @@ void prepareTable(QTableView* table)
 {
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setTabKeyNavigation(false);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setAlternatingRowColors(true);
     table->setShowGrid(false);
@@ -107,7 +108,7 @@ QWidget* MessageMonitor::createDetail()
     layout->setContentsMargins(6, 0, 0, 0);
     layout->addWidget(m_pMessageLB);
     layout->addWidget(m_pMessageTW);
-    side->setMinimumWidth(260);
+    side->setMinimumWidth(200);
     return side;
 }
 

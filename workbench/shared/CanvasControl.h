@@ -7,6 +7,7 @@
 #include <functional>
 
 class QAction;
+class QWidget;
 
 /// The boards of the canvas as files.
 class BoardFiles {
@@ -51,6 +52,10 @@ public:
     /// Actions that stand together in the window's menus, in their order.
     enum class Group { NewAndOpen, Save, History, Selection, View };
     virtual QList<QAction*> actions(Group group) const = 0;
+
+    /// Parts of it in the window.
+    virtual QWidget* board() const = 0;
+    virtual QWidget* positionField() const = 0;
 
     /// What only the host knows: the tool strip was recreated, or there was a message to or from it
     /// that did not come to the canvas. The canvas's tool is the one that the strip shows.

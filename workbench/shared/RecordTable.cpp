@@ -7,6 +7,7 @@
 RecordTable::RecordTable(const char* name, QWidget* parent) : QTableWidget(0, 3, parent)
 {
     setObjectName(QLatin1String(name));
+    setTabKeyNavigation(false);  // the arrows walk the rows
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setAlternatingRowColors(true);

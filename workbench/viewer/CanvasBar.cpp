@@ -97,11 +97,18 @@ void CanvasBar::connectSelection()
     });
     connect(m_deselect, &QAction::triggered, this,
             [this] { m_canvas.document().select(tr("Deselect"), {}); });
-    connect(m_delete, &QAction::triggered, this, [this] {
-        Document& document = m_canvas.document();
-        document.applyBoard(tr("Delete"),
-                            Pcb::without(document.board(), document.state().selected));
-    });
+    connect(m_delete, &QAction::triggered, this, &CanvasBar::deleteSelected);
+}
+
+void CanvasBar::deleteSelected()
+{
+    Document& document = m_canvas.document();
+    const Pcb::Indexes selected = document.state().selected;
+    document.applyBoard(tr("Delete"), Pcb::without(document.board(), selected));
+    // The key may have been pressed in another window, which shows nothing of it.
+    m_canvas.say(selected.empty()
+                     ? tr("Nothing is selected.")
+                     : tr("Deleted %n feature(s).", "", static_cast<int>(selected.size())));
 }
 
 void CanvasBar::retranslate()

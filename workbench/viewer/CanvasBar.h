@@ -29,6 +29,7 @@ private:
     void addButton(QAction* action, const char* buttonName);
     void connectHistory();
     void connectSelection();
+    void deleteSelected();
     void nameHistory();
 
     CanvasController& m_canvas;

@@ -8,7 +8,18 @@
 #include <QDialog>
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace {
+
+/// Whether Escape does something else in this window, whatever has the focus there.
+bool hasOwnEscape(const QWidget* window)
+{
+    const QList<QAction*> actions = window->actions();
+    return std::any_of(actions.begin(), actions.end(), [&](const QAction* action) {
+        return action->parent() == window && action->shortcut() == Qt::Key_Escape;
+    });
+}
 
 /// Keys that act on the text or the rows of the focused widget.
 bool isKept(const QWidget* focus, const QKeyEvent* event)
@@ -20,7 +31,8 @@ bool isKept(const QWidget* focus, const QKeyEvent* event)
     }
     return takesText(focus) &&
            (meansItems || event->matches(QKeySequence::Undo) ||
-            event->matches(QKeySequence::Redo) || event->matches(QKeySequence::Cancel) ||
+            event->matches(QKeySequence::Redo) ||
+            (event->matches(QKeySequence::Cancel) && !hasOwnEscape(focus->window())) ||
             (event->key() == Qt::Key_Y && event->modifiers() == Qt::ControlModifier));
 }
 

@@ -11,9 +11,9 @@ Inspector::Inspector(QWidget* parent) : QSplitter(Qt::Vertical, parent)
     setChildrenCollapsible(false);
     m_record = addTable(m_pRecordLB, "m_pRecordLB", "m_pRecordTW");
     m_attributes = addTable(m_pAttributesLB, "m_pAttributesLB", "m_pAttributesTW");
-    setStretchFactor(0, 3);
+    setStretchFactor(0, 2);
     setStretchFactor(1, 1);
-    setMinimumWidth(300);
+    setMinimumWidth(140);
     retranslate();
 }
 
@@ -25,7 +25,9 @@ RecordTable* Inspector::addTable(QLabel*& label, const char* labelName, const ch
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
+    label->setMinimumWidth(1);
     auto* const table = new RecordTable(tableName, box);
+    table->setMinimumHeight(table->fontMetrics().height());  // where the board needs the room
     auto* const layout = new QVBoxLayout(box);
     layout->setContentsMargins(6, 2, 6, 4);
     layout->addWidget(label);

@@ -60,6 +60,11 @@ ToolLine::ToolLine(const Names& names, QWidget* parent)
     retranslate();
 }
 
+QWidget* ToolLine::positionField() const
+{
+    return m_position;
+}
+
 void ToolLine::showTool(const QString& text)
 {
     m_tool->setText(text);

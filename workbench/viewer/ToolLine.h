@@ -34,6 +34,7 @@ public:
 
     void showTool(const QString& text);
     void showHint(const QString& text);
+    QWidget* positionField() const;
     /// What is being typed stays.
     void showPosition(const QPointF& point);
     /// The last one again, in the unit that the user has chosen.

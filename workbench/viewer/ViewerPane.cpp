@@ -3,6 +3,7 @@
 #include "plugin/ModuleNames.h"
 #include "shared/Named.h"
 #include "viewer/ActionWatch.h"
+#include "viewer/BarPair.h"
 #include "viewer/BoardView.h"
 #include "viewer/CanvasBar.h"
 #include "viewer/CanvasKeys.h"
@@ -18,11 +19,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSplitter>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr QSize secondViewSize(800, 560);
+constexpr QSize leastBoard(420, 180);  // the record beside it gives way first
 
 }  // namespace
 
@@ -30,14 +33,17 @@ ViewerPane::ViewerPane(QWidget* parent) : Retranslated(parent), m_parent(parent)
 {
     setObjectName(QStringLiteral("m_pViewer"));
     m_view = new BoardView(&m_canvas.scene(), this);
+    m_view->setMinimumSize(leastBoard);
     // Dropped files go to the window, which opens them.
     m_view->viewport()->setAcceptDrops(false);
-    m_files = new FileActions(m_canvas, this);
-    m_bar = new CanvasBar(m_canvas, *m_view, *m_files, this);
-    m_snapping = new SnapControls(m_canvas, m_bar);
-    m_inspector = new Inspector(this);
+    // In the order in which Tab walks them.
     auto* const toolLine =
         new ToolLine({"m_pActiveToolLB", "m_pPickHintLB", "m_pPositionLE"}, this);
+    m_files = new FileActions(m_canvas, this);
+    m_bar = new CanvasBar(m_canvas, *m_view, *m_files, this);
+    auto* const snapBar = named(new QToolBar(this), "m_pSnapBar");
+    m_snapping = new SnapControls(m_canvas, snapBar);
+    m_inspector = new Inspector(this);
 
     auto* const splitter = new QSplitter(this);
     splitter->setObjectName(QStringLiteral("m_pViewerSplitter"));
@@ -49,7 +55,7 @@ ViewerPane::ViewerPane(QWidget* parent) : Retranslated(parent), m_parent(parent)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_bar);
+    layout->addWidget(new BarPair(m_bar, snapBar, this));
     layout->addWidget(toolLine);
     layout->addWidget(splitter, 1);
     layout->addLayout(createFoot());
@@ -158,6 +164,16 @@ QList<QAction*> ViewerPane::actions(Group group) const
     return m_bar->zoomActions() << m_snapping->snapAction();
 }
 
+QWidget* ViewerPane::board() const
+{
+    return m_view;
+}
+
+QWidget* ViewerPane::positionField() const
+{
+    return m_lines.front()->positionField();
+}
+
 void ViewerPane::openSecondView()
 {
     if (!m_secondView) {
@@ -166,6 +182,7 @@ void ViewerPane::openSecondView()
     }
     m_secondView->show();
     m_secondView->raise();
+    m_secondView->activateWindow();
 }
 
 void ViewerPane::createSecondView()

@@ -40,6 +40,8 @@ public:
     // CanvasControl
     BoardFiles& files() override;
     QList<QAction*> actions(Group group) const override;
+    QWidget* board() const override;
+    QWidget* positionField() const override;
     void stripWasMade() override;
     bool mayMakeStrip() override;
     void overhear(int code) override;

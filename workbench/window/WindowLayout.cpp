@@ -15,18 +15,17 @@ const QString geometryKey = QStringLiteral("window/geometry");
 const QString docksKey = QStringLiteral("window/docks");
 
 constexpr QSize roomy(1200, 860);
-constexpr QSize smallest(940, 500);  // shows every control of the bars; no desktop has less
-constexpr int shortScreen = 640;     // less height: strip and job tree share tabs
+constexpr int shortScreen = 640;  // less height: strip and job tree share tabs
 constexpr QPoint corner(20, 40);
 constexpr QPoint instanceOffset(36, 36);
 constexpr int mostInstances = 6;
-// The window's frame is not known before it is shown.
-constexpr QSize frame(8, 34);
+// The window's frame is not known before it is shown: as wide and high as they come.
+constexpr QSize frame(12, 40);
 
 /// As much of `wanted` as the screen has room for, and inside it.
 QRect inside(const QRect& screen, const QPoint& position, const QSize& wanted)
 {
-    const QSize size = wanted.boundedTo(screen.size() - frame).expandedTo(smallest);
+    const QSize size = wanted.boundedTo(screen.size() - frame);
     const QPoint last = screen.bottomRight() - QPoint(size.width() + frame.width() - 1,
                                                       size.height() + frame.height() - 1);
     return {QPoint(qMax(screen.left(), qMin(position.x(), last.x())),
@@ -92,7 +91,7 @@ void WindowLayout::place()
 
 void WindowLayout::save() const
 {
-    if (m_instance == 0) {
+    if (isRemembered()) {
         Settings::set(geometryKey, m_window->saveGeometry());
         Settings::set(docksKey, m_window->saveState());
     }

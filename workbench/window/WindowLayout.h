@@ -27,6 +27,7 @@ public:
     void restore();
     void restoreFirst();
     /// The first program that runs is the one that is remembered.
+    bool isRemembered() const { return m_instance == 0; }
     void save() const;
 
 private:

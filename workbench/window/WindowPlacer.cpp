@@ -1,19 +1,48 @@
 #include "window/WindowPlacer.h"
 
+#include "shared/Settings.h"
+#include "window/FreePlace.h"
+
 #include <QApplication>
 #include <QEvent>
+#include <QMainWindow>
+#include <QScopedValueRollback>
 #include <QScreen>
+#include <QTimer>
+#include <QVariantMap>
 #include <QWidget>
 
 namespace {
 
+const QString placesKey = QStringLiteral("window/places");
+
 constexpr int gap = 8;
-constexpr int stagger = 36;
 constexpr int titleHeight = 32;
+constexpr int settleTime = 500;  // in ms, until a window manager has told where a window is
+constexpr int leastShare = 40;   // percent of a window's size, where the screen is small
+
+/// Neither a menu, a tool tip, a panel, nor another host.
+bool isToolWindow(const QWidget* window)
+{
+    const Qt::WindowType type = window->windowType();
+    return (type == Qt::Window || type == Qt::Dialog) && !window->isModal() &&
+           !qobject_cast<const QMainWindow*>(window);
+}
+
+QRect globalPlace(const QWidget* part)
+{
+    return part->isWindow() ? part->frameGeometry()
+                            : QRect(part->mapToGlobal(QPoint()), part->size());
+}
+
+QVariantMap rememberedPlaces()
+{
+    return Settings::value(placesKey).toMap();
+}
 
 }  // namespace
 
-WindowPlacer::WindowPlacer(QWidget* host) : QObject(host), m_host(host)
+WindowPlacer::WindowPlacer(const Host& host) : QObject(host.window), m_host(host)
 {
     qApp->installEventFilter(this);
 }
@@ -21,48 +50,187 @@ WindowPlacer::WindowPlacer(QWidget* host) : QObject(host), m_host(host)
 bool WindowPlacer::eventFilter(QObject* watched, QEvent* event)
 {
     auto* const window = qobject_cast<QWidget*>(watched);
-    if (event->type() == QEvent::Show && !event->spontaneous() && window && isOurs(window)) {
-        place(window);
-    } else if (event->type() == QEvent::Resize && window && m_placed.contains(window) &&
-               QGuiApplication::mouseButtons() == Qt::NoButton) {
-        // It may grow with what it shows.
-        window->move(inside(window->pos(), window->frameGeometry().size()));
+    if (window && !event->spontaneous() && !m_isAtWork) {
+        const QScopedValueRollback<bool> atWork(m_isAtWork, true);
+        if (event->type() == QEvent::Show && isOurs(window)) {
+            open(window);
+        } else if (event->type() == QEvent::Resize && window->isVisible() &&
+                   m_places.contains(window)) {
+            takeGrowth(window);
+        } else if (event->type() == QEvent::Hide && m_places.contains(window)) {
+            remember(window);
+        }
     }
     return QObject::eventFilter(watched, event);
 }
 
+/// A window that has placed itself is left where it is.
 bool WindowPlacer::isOurs(const QWidget* window) const
 {
-    const Qt::WindowType type = window->windowType();
-    return (type == Qt::Window || type == Qt::Dialog) && !window->isModal() &&
-           !window->testAttribute(Qt::WA_Moved) && window->parentWidget() &&
-           (window->parentWidget() == m_host || m_host->isAncestorOf(window->parentWidget()));
-}
-
-void WindowPlacer::place(QWidget* window)
-{
-    const QRect host = m_host->frameGeometry();
-    const QRect screen = m_host->screen()->availableGeometry();
-    // It will have the same frame as the host's window.
-    const QSize frame = host.size() - m_host->size();
-    const QSize room = screen.size() - frame - QSize(gap, titleHeight);
-    window->resize(window->size().expandedTo(window->sizeHint()).boundedTo(room));
-    const QSize size = window->size() + frame;
-    const int offset = stagger * (m_placed.size() % 6);
-    QPoint position(host.right() + gap, host.top() + offset);
-    if (position.x() + size.width() > screen.right()) {
-        // No room beside: over the right of the canvas.
-        position = QPoint(host.right() - size.width() - gap, host.top() + 3 * titleHeight + offset);
+    const QWidget* owner = window;
+    while (owner->parentWidget()) {
+        owner = owner->parentWidget();
     }
-    window->move(inside(position, size));
-    m_placed.append(window);
+    return isToolWindow(window) && !window->isMaximized() && !window->isFullScreen() &&
+           (m_places.contains(window) || !window->testAttribute(Qt::WA_Moved)) &&
+           (owner == window || owner == m_host.window);
 }
 
-/// The place nearest to `position` at which all of a window of that size is on the screen, or its
-/// upper left where the screen is too small.
-QPoint WindowPlacer::inside(const QPoint& position, const QSize& size) const
+void WindowPlacer::open(QWidget* window)
 {
-    const QRect screen = m_host->screen()->availableGeometry();
-    return {qMax(screen.left(), qMin(position.x(), screen.right() - size.width() + 1)),
-            qMax(screen.top(), qMin(position.y(), screen.bottom() - size.height() + 1))};
+    if (!m_places.contains(window)) {
+        connect(window, &QObject::destroyed, this, [this, window] { m_places.remove(window); });
+        window->resize(window->size().expandedTo(window->sizeHint()));
+    }
+    Place& place = m_places[window];
+    noteMove(window);
+    const QVariant remembered = rememberedPlaces().value(window->objectName());
+    if (!place.corner && remembered.isValid()) {
+        moveTo(window, remembered.toPoint());
+        place.isUsers = true;
+    }
+    putWhereFree(window);
+    // Not every window manager does this by itself.
+    QTimer::singleShot(0, window, [window] {
+        window->raise();
+        window->activateWindow();
+        if (window->focusPolicy() != Qt::NoFocus) {
+            window->setFocus();  // Qt looks for a part to give the focus to, not at the whole
+        }
+    });
+}
+
+/// A window may grow with what it shows.
+void WindowPlacer::takeGrowth(QWidget* window)
+{
+    noteMove(window);
+    if (m_places[window].isUsers) {
+        const FreePlace screen(window->screen()->availableGeometry(), {});
+        moveTo(window, screen.nearest(window->size() + frame(), *m_places[window].corner));
+    } else {
+        putWhereFree(window);
+    }
+}
+
+void WindowPlacer::putWhereFree(QWidget* window)
+{
+    Place& place = m_places[window];
+    const FreePlace free = placeFor(window);
+    if (place.corner && free.isFree({*place.corner, window->size() + frame()})) {
+        return;
+    }
+    const QRect host = m_host.window->frameGeometry();
+    const QPoint wanted = place.corner ? *place.corner : QPoint(host.right() + gap, host.top());
+    window->resize(shrunk(window, free, wanted));
+    moveTo(window, free.nearest(window->size() + frame(), wanted));
+}
+
+/// Its size, or less of it where only that has room.
+QSize WindowPlacer::shrunk(const QWidget* window, const FreePlace& place,
+                           const QPoint& wanted) const
+{
+    const QSize least = window->minimumSizeHint().expandedTo(window->minimumSize());
+    const QSize room = m_host.window->screen()->availableGeometry().size() - frame();
+    const QSize whole = window->size().boundedTo(room).expandedTo(least);
+    for (int share = 100; share >= leastShare; share -= 10) {
+        const QSize size = (whole * share / 100).expandedTo(least);
+        if (place.isFree({place.nearest(size + frame(), wanted), size + frame()})) {
+            return size;
+        }
+    }
+    return whole;
+}
+
+/// All windows have the same frame as the host's. To ask Qt for that of a window that has just been
+/// shown would tell it for good that there is none.
+QSize WindowPlacer::frame() const
+{
+    return m_host.window->frameGeometry().size() - m_host.window->size();
+}
+
+QPoint WindowPlacer::frameCorner() const
+{
+    return m_host.window->geometry().topLeft() - m_host.window->frameGeometry().topLeft();
+}
+
+QPoint WindowPlacer::cornerOf(const QWidget* window) const
+{
+    return window->geometry().topLeft() - frameCorner();
+}
+
+void WindowPlacer::moveTo(QWidget* window, const QPoint& corner)
+{
+    window->setGeometry({corner + frameCorner(), window->size()});
+    m_places[window].corner = corner;
+    m_places[window].sincePut.start();
+}
+
+/// What the user covers is the user's choice, but not another window that is open now.
+FreePlace WindowPlacer::placeFor(const QWidget* window)
+{
+    const Place place = m_places.value(window);
+    QVector<QRect> taken;
+    for (const QWidget* const other : QApplication::topLevelWidgets()) {
+        if (other != window && other->isVisible() && isToolWindow(other)) {
+            noteMove(other);
+            const QPoint corner = m_places.value(other).corner.value_or(cornerOf(other));
+            taken.append({corner, other->size() + frame()});
+        }
+    }
+    QRect spared;
+    if (!place.isUsers) {
+        for (const QPointer<QWidget>& part : m_host.kept) {
+            if (part && part->isVisible()) {
+                taken.append(globalPlace(part));
+            }
+        }
+        spared = m_host.board ? globalPlace(m_host.board) : QRect();
+    }
+    const QScreen* const chosen = place.corner ? QGuiApplication::screenAt(*place.corner) : nullptr;
+    const QScreen* const screen = chosen ? chosen : m_host.window->screen();
+    return {screen->availableGeometry(), taken, spared};
+}
+
+void WindowPlacer::noteMove(const QWidget* window)
+{
+    const auto place = m_places.find(window);
+    // A window manager may put it a little aside.
+    if (place != m_places.end() && place->corner && place->sincePut.hasExpired(settleTime) &&
+        (cornerOf(window) - *place->corner).manhattanLength() > titleHeight) {
+        place->corner = cornerOf(window);
+        place->isUsers = true;
+    }
+}
+
+void WindowPlacer::remember(const QWidget* window)
+{
+    noteMove(window);
+    if (m_host.remembers && m_places[window].isUsers && !window->isMaximized() &&
+        !window->isFullScreen()) {
+        QVariantMap places = rememberedPlaces();
+        places[window->objectName()] = *m_places[window].corner;
+        Settings::set(placesKey, places);
+    }
+}
+
+void WindowPlacer::rememberAll()
+{
+    for (const QWidget* const window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && m_places.contains(window)) {
+            remember(window);
+        }
+    }
+}
+
+void WindowPlacer::forgetAll()
+{
+    Settings::set(placesKey, QVariantMap());
+    for (Place& place : m_places) {
+        place = {};
+    }
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && m_places.contains(window)) {
+            putWhereFree(window);
+        }
+    }
 }

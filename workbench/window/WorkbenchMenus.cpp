@@ -7,7 +7,10 @@
 #include "shared/CanvasControl.h"
 #include "shared/Named.h"
 #include "window/Documentation.h"
+#include "window/WindowPlacer.h"
 #include "window/WorkbenchWindow.h"
+
+#include <CommonWidgetsStandIn.h>
 
 #include <QAction>
 #include <QDockWidget>
@@ -58,7 +61,10 @@ void WorkbenchWindow::createMenus()
     connect(addEntry(m_viewMenu, "m_pDimensionsAct", QT_TR_NOOP("&Dimensions Popup")),
             &QAction::triggered, this, &WorkbenchWindow::openDimensions);
     connect(addEntry(m_viewMenu, "m_pRestoreLayoutAct", QT_TR_NOOP("Restore &Layout")),
-            &QAction::triggered, this, [this] { m_layout->restoreFirst(); });
+            &QAction::triggered, this, [this] {
+                m_layout->restoreFirst();
+                m_placer->forgetAll();
+            });
 
     createSendEntries();
     connect(addEntry(m_helpMenu, "m_pDocumentationAct", QT_TR_NOOP("&Documentation")),
@@ -126,9 +132,11 @@ void WorkbenchWindow::showDocumentation()
 {
     if (!m_pDocumentation) {
         m_pDocumentation = new Documentation(this);
+        CanvasHost::closeByEscape(m_pDocumentation);
     }
     m_pDocumentation->show();
     m_pDocumentation->raise();
+    m_pDocumentation->activateWindow();
 }
 
 void WorkbenchWindow::showAbout()

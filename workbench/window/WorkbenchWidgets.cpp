@@ -13,14 +13,34 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <algorithm>
+#include <initializer_list>
+#include <utility>
 
 namespace {
+
+/// The wheel chooses only while it has the keyboard: not by the way.
+class SteadyCombo : public QComboBox {
+public:
+    explicit SteadyCombo(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override
+    {
+        if (hasFocus()) {
+            QComboBox::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
 
 /// A widget that keeps a module's panel with `margin` around it.
 QWidget* createHolder(const char* name, int margin)
@@ -35,16 +55,15 @@ QWidget* createHolder(const char* name, int margin)
 
 void WorkbenchWindow::createControls()
 {
-    auto* const bar = named(new QToolBar(this), "m_pHostTB");
-    bar->setMovable(false);
-    bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    // Each by itself: what a narrow window has no room for goes behind the bar's arrow.
-    const auto addCombo = [&](QLabel*& label, const char* labelName, const char* comboName) {
+    m_hostBar = createBar("m_pHostTB");
+    m_settingsBar = createBar("m_pSettingsTB");
+    const auto addCombo = [](QToolBar* bar, QLabel*& label, const char* labelName,
+                             const char* comboName) {
         auto* const box = new QWidget(bar);
         auto* const layout = new QHBoxLayout(box);
         layout->setContentsMargins(8, 4, 6, 4);
         label = named(new QLabel(box), labelName);
-        auto* const combo = named(new QComboBox(box), comboName);
+        auto* const combo = named<QComboBox>(new SteadyCombo(box), comboName);
         combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         label->setBuddy(combo);
         layout->addWidget(label);
@@ -52,10 +71,11 @@ void WorkbenchWindow::createControls()
         bar->addWidget(box);
         return combo;
     };
-    m_pHostJobCMB = addCombo(m_pHostJobLB, "m_pHostJobLB", "m_pHostJobCMB");
-    m_pHostStepCMB = addCombo(m_pHostStepLB, "m_pHostStepLB", "m_pHostStepCMB");
-    m_pHostUnitCMB = addCombo(m_pHostUnitLB, "m_pHostUnitLB", "m_pHostUnitCMB");
-    m_pHostLanguageCMB = addCombo(m_pHostLanguageLB, "m_pHostLanguageLB", "m_pHostLanguageCMB");
+    m_pHostJobCMB = addCombo(m_hostBar, m_pHostJobLB, "m_pHostJobLB", "m_pHostJobCMB");
+    m_pHostStepCMB = addCombo(m_hostBar, m_pHostStepLB, "m_pHostStepLB", "m_pHostStepCMB");
+    m_pHostUnitCMB = addCombo(m_settingsBar, m_pHostUnitLB, "m_pHostUnitLB", "m_pHostUnitCMB");
+    m_pHostLanguageCMB =
+        addCombo(m_settingsBar, m_pHostLanguageLB, "m_pHostLanguageLB", "m_pHostLanguageCMB");
     listJobs();
     for (const CanvasHost::LengthUnit& unit : CanvasHost::lengthUnits()) {
         m_pHostUnitCMB->addItem(QString());
@@ -69,10 +89,34 @@ void WorkbenchWindow::createControls()
             m_pHostLanguageCMB->setCurrentIndex(m_pHostLanguageCMB->count() - 1);
         }
     }
-    m_pHostEqCB = named(new QCheckBox(bar), "m_pHostEqCB");
+    m_pHostEqCB = named(new QCheckBox(m_settingsBar), "m_pHostEqCB");
     m_pHostEqCB->setChecked(ZENTRA::UIAPI::getEQVisible());
-    bar->addWidget(m_pHostEqCB);
+    m_settingsBar->addWidget(m_pHostEqCB);
+}
+
+QToolBar* WorkbenchWindow::createBar(const char* name)
+{
+    auto* const bar = named(new QToolBar(this), name);
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
     addToolBar(bar);
+    return bar;
+}
+
+bool WorkbenchWindow::event(QEvent* event)
+{
+    const bool isHandled = Retranslated::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+        // One bar below the other where the window is too narrow for both: nothing drops out.
+        const int wanted = m_hostBar->sizeHint().width() + m_settingsBar->sizeHint().width();
+        const bool isNarrow = wanted > width();
+        if (isNarrow && !toolBarBreak(m_settingsBar)) {
+            insertToolBarBreak(m_settingsBar);
+        } else if (!isNarrow && toolBarBreak(m_settingsBar)) {
+            removeToolBarBreak(m_settingsBar);
+        }
+    }
+    return isHandled;
 }
 
 QDockWidget* WorkbenchWindow::createDock(const char* name, QWidget* content)
@@ -97,6 +141,28 @@ void WorkbenchWindow::createDocks(MessageLog* log)
     m_strip = std::make_unique<ModulePlace>(ModuleNames::toolStrip, strip);
     m_jobTree = std::make_unique<ModulePlace>(ModuleNames::jobTree, jobTree);
     m_viewer = std::make_unique<ModulePlace>(ModuleNames::viewer, viewer);
+}
+
+/// Tab walks the parts in the order in which they are used, and each part in its own order.
+void WorkbenchWindow::orderStops()
+{
+    QList<QWidget*> stops;
+    for (QWidget* stop = nextInFocusChain(); stop != this; stop = stop->nextInFocusChain()) {
+        if ((stop->focusPolicy() & Qt::TabFocus) && stop->window() == this) {
+            stops.append(stop);
+        }
+    }
+    QWidget* last = m_hostBar;
+    for (const QWidget* const part :
+         std::initializer_list<QWidget*>{m_hostBar, m_settingsBar, m_stripDock, centralWidget(),
+                                         m_monitorDock, m_jobTreeDock}) {
+        for (QWidget* const stop : std::as_const(stops)) {
+            if (part->isAncestorOf(stop)) {
+                setTabOrder(last, stop);
+                last = stop;
+            }
+        }
+    }
 }
 
 void WorkbenchWindow::retranslate()

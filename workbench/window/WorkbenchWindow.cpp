@@ -11,9 +11,11 @@
 #include "shared/CanvasControl.h"
 #include "shared/ErrorBox.h"
 #include "shared/Settings.h"
+#include "window/FormWarnings.h"
 #include "window/WindowPlacer.h"
 
 #include <CamApiStandIn.h>
+#include <CommonWidgetsStandIn.h>
 #include <FileError.h>
 #include <PluginManagerStandIn.h>
 #include <ui_api.h>
@@ -22,6 +24,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDockWidget>
 #include <QSignalBlocker>
 
 namespace Accepted = MessageCodes::Accepted;
@@ -42,7 +45,6 @@ WorkbenchWindow::WorkbenchWindow(const Options& options, MessageLog* log)
     connectControls();
     connect(log, &MessageLog::appended, this, &WorkbenchWindow::tellCanvas);
     CanvasHost::addInstance(CanvasHost::hostName, this, &WorkbenchWindow::receive, this);
-    new WindowPlacer(this);
     setAcceptDrops(true);
 }
 
@@ -73,6 +75,12 @@ void WorkbenchWindow::start()
     retranslateMenus();
     openFirstJob();
     m_layout->restore();
+    m_placer = new WindowPlacer({this,
+                                 {m_stripDock, canvas()->positionField()},
+                                 canvas()->board(),
+                                 m_layout->isRemembered()});
+    orderStops();
+    canvas()->board()->setFocus();
 }
 
 void WorkbenchWindow::receive(void* window, PluginMetaData message)
@@ -138,6 +146,7 @@ void WorkbenchWindow::showEq(bool visible)
     canvas()->stripWasMade();
     try {
         m_strip->fill(m_options.moduleDirectory);
+        orderStops();
         m_host->announceJob();
     } catch (const CanvasHost::FileError& error) {
         showError(this, tr("Cannot load the edit tools"), error);
@@ -161,11 +170,14 @@ void WorkbenchWindow::openDimensions()
 {
     try {
         if (!m_dimensions) {
+            const FormWarnings leftOut;
             m_dimensions = static_cast<QWidget*>(static_cast<QObject*>(CanvasHost::loadModule(
                 QStringLiteral("Canvas_Dimensions.dll"), m_options.moduleDirectory, this)));
+            CanvasHost::closeByEscape(m_dimensions);
         }
         m_dimensions->show();
         m_dimensions->raise();
+        m_dimensions->activateWindow();
     } catch (const CanvasHost::FileError& error) {
         showError(this, tr("Cannot load Dimensions"), error);
     }
@@ -186,6 +198,7 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(canvas()->files().mayClose());
     if (event->isAccepted()) {
         m_layout->save();
+        m_placer->rememberAll();
         Q_EMIT closed();
     }
 }

@@ -27,6 +27,8 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 class SessionRecorder;
+class QToolBar;
+class WindowPlacer;
 
 /// The host's window: the modules, the message monitor, and the host's own settings.
 class WorkbenchWindow : public Retranslated<QMainWindow> {
@@ -53,6 +55,7 @@ Q_SIGNALS:
     void closed();
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -67,6 +70,7 @@ private:
     static void receive(void* window, PluginMetaData message);
 
     void createControls();
+    QToolBar* createBar(const char* name);
     void createDocks(MessageLog* log);
     QDockWidget* createDock(const char* name, QWidget* content);
     void createMenus();
@@ -74,6 +78,7 @@ private:
     void addCanvasEntries();
     QAction* addEntry(QMenu* menu, const char* name, const char* text);
     void connectControls();
+    void orderStops();
 
     void chooseAndOpenJob();
     void openJob(const QString& file);
@@ -103,6 +108,8 @@ private:
     Language m_language;
     HostState* m_host;
     SessionRecorder* m_recorder;
+    QToolBar* m_hostBar = nullptr;
+    QToolBar* m_settingsBar = nullptr;
     QComboBox* m_pHostJobCMB;
     QComboBox* m_pHostStepCMB;
     QComboBox* m_pHostUnitCMB;
@@ -129,6 +136,7 @@ private:
     Documentation* m_pDocumentation = nullptr;  // likewise
     QPointer<QWidget> m_dimensions;  // a window of its own, made when it is first asked for
     std::unique_ptr<WindowLayout> m_layout;
+    WindowPlacer* m_placer = nullptr;  // made when the canvas is there
     std::unique_ptr<ModulePlace> m_strip;
     std::unique_ptr<ModulePlace> m_viewer;
     std::unique_ptr<ModulePlace> m_jobTree;

@@ -1,0 +1,276 @@
+// The windows stand beside each other, the last one in front, and are where the user has left them.
+
+#include "Desktop.h"
+#include "FindChild.h"
+#include "Main.h"
+#include "StartWorkbench.h"
+#include "shared/Settings.h"
+#include "window/Look.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFont>
+#include <QImage>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+/// A window, and how a user opens it while Add Feature is open.
+struct Opening {
+    const char* window;
+    const char* page;     ///< of Add Feature
+    const char* control;  ///< what is clicked, or an action of the menus
+};
+
+const Opening openings[] = {
+    {"Grc_Tbe_measurepopup", "m_pLineTB", "m_pMeasureTB"},
+    {"m_pSecondView", "m_pLineTB", "m_pOpenPopViewTB"},
+    {"Widget_SymbolSelection", "m_pPadTB", "m_pSymbolPB"},
+    {"Widget_Attributes", "m_pLineTB", "m_pValuesPB"},
+    {"Widget_listpopup", "m_pTextTB", "m_pFontPB"},
+    {"m_pDimensions", "m_pLineTB", "m_pDimensionsAct"},
+    {"m_pDocumentation", "m_pLineTB", "m_pDocumentationAct"},
+    {"m_pComposeDialog", "m_pLineTB", "m_pMonitorComposePB"},
+};
+
+QRect place(const QWidget& part)
+{
+    return part.isWindow() ? part.frameGeometry() : QRect(part.mapToGlobal(QPoint()), part.size());
+}
+
+QString words(const QWidget& part)
+{
+    return QString("%1: %2,%3 to %4,%5")
+        .arg(part.objectName())
+        .arg(place(part).left())
+        .arg(place(part).top())
+        .arg(place(part).right())
+        .arg(place(part).bottom());
+}
+
+}  // namespace
+
+class TestWindows : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<MessageLog> m_log;
+    std::unique_ptr<WorkbenchWindow> m_window;
+
+    void start()
+    {
+        m_window.reset();
+        m_log = std::make_unique<MessageLog>();
+        m_window = startWorkbench(*m_log);
+        m_window->show();
+        Desktop::waitForWindow(m_window.get());
+    }
+
+    /// Of the host's window or of another; null when there is none.
+    static QWidget* find(const char* name)
+    {
+        for (QWidget* const widget : QApplication::allWidgets()) {
+            if (widget->objectName() == name && widget->isVisible()) {
+                return widget;
+            }
+        }
+        return nullptr;
+    }
+
+    QWidget& open(const char* window, const char* control)
+    {
+        if (auto* const action = m_window->findChild<QAction*>(control)) {
+            action->trigger();
+        } else {
+            QTest::mouseClick(find(control), Qt::LeftButton);
+        }
+        QWidget* const opened = find(window);
+        if (!opened) {
+            qFatal("%s does not open %s", control, window);
+        }
+        Desktop::waitForWindow(opened);
+        return *opened;
+    }
+
+    QWidget& openAddFeature() { return open("AddFeature", "m_pAddFeatureTB"); }
+
+    /// Wholly on the screen, and over neither strip, position field nor `others`. A window manager
+    /// needs a moment.
+    void verifyFree(const QWidget& window, QList<const QWidget*> others) const
+    {
+        others << &findNamed(*m_window, "m_pStripDock") << &findNamed(*m_window, "m_pPositionLE");
+        QTRY_VERIFY2(window.screen()->availableGeometry().contains(window.frameGeometry()),
+                     qPrintable(words(window)));
+        for (const QWidget* const other : others) {
+            QTRY_VERIFY2(!window.frameGeometry().intersects(place(*other)),
+                         qPrintable(words(window) + " over " + words(*other)));
+        }
+    }
+
+    /// Nothing is seen on the screen but this, and it gets what is typed.
+    static void verifyInFront(const QWidget& window)
+    {
+        QTRY_VERIFY(window.isActiveWindow());
+        const QWidget* const focus = QApplication::focusWidget();
+        QVERIFY2(focus ? focus->window() == &window : !hasStops(window), qPrintable(words(window)));
+        QTRY_VERIFY2(isSeen(window), qPrintable(words(window)));
+    }
+
+    static bool hasStops(const QWidget& window)
+    {
+        const auto children = window.findChildren<QWidget*>();
+        return std::any_of(children.begin(), children.end(), [](const QWidget* child) {
+            return child->isVisible() && (child->focusPolicy() & Qt::TabFocus);
+        });
+    }
+
+    /// A cursor may blink.
+    static bool isSeen(const QWidget& window)
+    {
+        const QImage wanted = const_cast<QWidget&>(window).grab().toImage();
+        const QPoint corner = window.mapToGlobal(QPoint());
+        const QImage seen =
+            window.screen()
+                ->grabWindow(0, corner.x(), corner.y(), window.width(), window.height())
+                .toImage()
+                .convertToFormat(wanted.format());
+        int different = 0;
+        for (int y = 0; y < qMin(seen.height(), wanted.height()); ++y) {
+            for (int x = 0; x < qMin(seen.width(), wanted.width()); ++x) {
+                different += seen.pixel(x, y) != wanted.pixel(x, y);
+            }
+        }
+        return seen.size() == wanted.size() && different * 100 < seen.width() * seen.height();
+    }
+
+private Q_SLOTS:
+    void init() { start(); }
+    void cleanup()
+    {
+        m_window.reset();
+        m_log.reset();
+        Settings::keepIn({});
+    }
+
+    void theFirstSizeFitsTheScreen_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<int>("points");
+        for (const char* const language : {"en", "zh_CN"}) {
+            for (const int points : {10, 20}) {
+                QTest::addRow("%s, %d points", language, points) << language << points;
+            }
+        }
+    }
+    void theFirstSizeFitsTheScreen()
+    {
+        QFETCH(QString, language);
+        QFETCH(int, points);
+        m_window.reset();
+        const QFont font = QApplication::font();
+        Options options;
+        options.language = language;
+        options.fontSize = points;
+        Look::dress(options);
+        m_window = startWorkbench(*m_log, options);
+        m_window->show();
+        Desktop::waitForWindow(m_window.get());
+        QTest::qWait(100);
+        const QRect frame = m_window->frameGeometry();
+        QApplication::setFont(font);
+        QVERIFY2(m_window->screen()->availableGeometry().contains(frame),
+                 qPrintable(words(*m_window)));
+    }
+
+    void oneBesideAddFeature_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int index = 0; index < int(std::size(openings)); ++index) {
+            QTest::newRow(openings[index].window) << index;
+        }
+    }
+    void oneBesideAddFeature()
+    {
+        QFETCH(int, index);
+        const Opening& opening = openings[index];
+        QWidget& dialog = openAddFeature();
+        QTest::mouseClick(&findNamed(dialog, opening.page), Qt::LeftButton);
+        findNamed<QCheckBox>(dialog, "m_pAttributesCB").setChecked(true);
+        verifyFree(dialog, {});
+        const QWidget& window = open(opening.window, opening.control);
+        verifyFree(window, {&dialog});
+        verifyInFront(window);
+    }
+
+    void theLastIsInFrontAndHasTheKeyboard()
+    {
+        QWidget& dialog = openAddFeature();
+        QWidget& measure = open("Grc_Tbe_measurepopup", "m_pMeasureTB");
+        Desktop::move(measure, dialog.pos() + QPoint(20, 20));
+        const QWidget& chooser = open("Widget_SymbolSelection", "m_pSymbolPB");
+        verifyInFront(chooser);
+        Desktop::type("r20");
+        QCOMPARE(findNamed<QLineEdit>(chooser, "m_pFilterLE").text(), QString("r20"));
+        // Documentation is open already, and is asked for again.
+        QWidget& pages = open("m_pDocumentation", "m_pDocumentationAct");
+        Desktop::move(dialog, pages.pos() + QPoint(30, 30));
+        dialog.raise();
+        dialog.activateWindow();
+        Desktop::waitForWindow(&dialog);
+        open("m_pDocumentation", "m_pDocumentationAct");
+        verifyInFront(pages);
+    }
+
+    void aDialogThatGrowsCoversNothing()
+    {
+        QWidget& dialog = openAddFeature();
+        const QWidget& measure = open("Grc_Tbe_measurepopup", "m_pMeasureTB");
+        const int height = dialog.height();
+        QTest::mouseClick(&findNamed(dialog, "m_pTextTB"), Qt::LeftButton);
+        QTRY_VERIFY(dialog.height() > height + 50);
+        verifyFree(dialog, {&measure});
+    }
+
+    /// It is closed, another takes its place, and it is opened again.
+    void whatIsOpenedAgainCoversNothing()
+    {
+        QWidget& dialog = openAddFeature();
+        dialog.hide();
+        QWidget& measure = open("Grc_Tbe_measurepopup", "m_pMeasureTB");
+        const QWidget& again = openAddFeature();
+        QCOMPARE(&again, &dialog);
+        verifyFree(again, {&measure});
+        verifyFree(measure, {&again});
+    }
+
+    /// Places without the frame, of which Qt may hear late.
+    void whereTheUserHasMovedItIsRemembered()
+    {
+        Settings::keepIn(m_folder.filePath(QTest::currentTestFunction()));
+        start();
+        QWidget& dialog = openAddFeature();
+        QTest::qWait(700);  // a window manager has the last word
+        const QPoint first = dialog.geometry().topLeft();
+        Desktop::move(dialog, m_window->pos() + QPoint(300, 90));
+        QTest::qWait(700);
+        const QPoint chosen = dialog.geometry().topLeft();
+        QVERIFY((chosen - first).manhattanLength() > 100);
+        m_window->close();
+        start();
+        QTRY_COMPARE(openAddFeature().geometry().topLeft(), chosen);
+        m_window->close();
+        start();
+        m_window->findChild<QAction*>("m_pRestoreLayoutAct")->trigger();
+        QTRY_COMPARE(openAddFeature().geometry().topLeft(), first);
+    }
+};
+
+CTS_TEST(TestWindows);
+#include "test_windows.moc"

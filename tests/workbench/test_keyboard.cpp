@@ -1,0 +1,248 @@
+// The window used by keyboard: where Tab goes, what Escape closes, and what the wheel leaves alone.
+
+#include "FindChild.h"
+#include "Main.h"
+#include "StartWorkbench.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QTableView>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <memory>
+
+class TestKeyboard : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<MessageLog> m_log;
+    std::unique_ptr<WorkbenchWindow> m_window;
+
+    QWidget& the(const char* name) const { return findNamed(*m_window, QLatin1String(name)); }
+
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+
+    /// The names of all that Tab reaches until it is back.
+    static QStringList walk(Qt::Key key)
+    {
+        const QWidget* const first = QApplication::focusWidget();
+        QStringList names;
+        do {
+            names.append(QApplication::focusWidget()->objectName());
+            press(key);
+        } while (QApplication::focusWidget() != first && names.size() < 200);
+        return names;
+    }
+
+    /// In the order of `names`, with others in between.
+    static bool areInOrder(const QStringList& walked, const QStringList& names)
+    {
+        int last = -1;
+        for (const QString& name : names) {
+            const int index = walked.indexOf(name);
+            if (index <= last) {
+                return false;
+            }
+            last = index;
+        }
+        return true;
+    }
+
+    /// A visible window of that name, active; null when there is none.
+    static QWidget* shown(const char* name)
+    {
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == name && window->isVisible()) {
+                window->activateWindow();
+                QApplication::processEvents();
+                return window;
+            }
+        }
+        return nullptr;
+    }
+
+    QWidget& openDialog(const char* page)
+    {
+        QTest::mouseClick(&the("m_pAddFeatureTB"), Qt::LeftButton);
+        QWidget& dialog = the("AddFeature");
+        QTest::mouseClick(&findNamed(dialog, QLatin1String(page)), Qt::LeftButton);
+        findNamed<QCheckBox>(dialog, "m_pAttributesCB").setChecked(true);
+        return dialog;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window.reset();
+        m_log = std::make_unique<MessageLog>();
+        m_window = startWorkbench(*m_log);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        m_log.reset();
+    }
+
+    void theCanvasHasTheFocusAtTheStart() { QVERIFY(the("m_pBoardView").hasFocus()); }
+
+    void tabWalksTheWholeWindow_data()
+    {
+        QTest::addColumn<bool>("isMadeAnew");
+        QTest::newRow("as it starts") << false;
+        QTest::newRow("after the strip was made anew") << true;
+    }
+    void tabWalksTheWholeWindow()
+    {
+        QFETCH(bool, isMadeAnew);
+        if (isMadeAnew) {
+            auto& eq = findNamed<QCheckBox>(*m_window, "m_pHostEqCB");
+            eq.click();
+            eq.click();
+        }
+        the("m_pHostJobCMB").setFocus();
+        const QStringList walked = walk(Qt::Key_Tab);
+        QVERIFY2(areInOrder(walked, {"m_pHostJobCMB", "m_pHostEqCB", "m_pAreaZoomTB",
+                                     "m_pAddFeatureTB", "m_pEqTB", "m_pBoardView", "m_pPositionLE",
+                                     "m_pGridStepLE", "m_pRecordTW", "m_pAttributesTW",
+                                     "m_pMonitorFilterLE", "m_pMonitorTV", "m_pMessageTW"}),
+                 qPrintable(walked.join(' ')));
+        for (const QWidget* const widget : m_window->findChildren<QWidget*>()) {
+            const bool isStop = (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() &&
+                                widget->isVisible() && widget->window() == m_window.get();
+            QVERIFY2(!isStop || walked.contains(widget->objectName()),
+                     qPrintable(widget->objectName()));
+        }
+        QStringList back = walk(Qt::Key_Backtab);
+        back.append(back.takeFirst());
+        std::reverse(back.begin(), back.end());
+        QCOMPARE(back, walked);
+    }
+
+    void arrowsWalkTheRowsOfATable()
+    {
+        auto& messages = findNamed<QTableView>(*m_window, "m_pMonitorTV");
+        messages.setFocus();
+        messages.selectRow(0);
+        press(Qt::Key_Down);
+        QCOMPARE(messages.currentIndex().row(), 1);
+        press(Qt::Key_Tab);
+        QCOMPARE(messages.currentIndex().row(), 1);
+        QVERIFY(!messages.hasFocus());
+    }
+
+    void theWheelTurnsOnlyWhatHasTheFocus()
+    {
+        for (const char* const name :
+             {"m_pHostJobCMB", "m_pHostStepCMB", "m_pHostUnitCMB", "m_pHostLanguageCMB"}) {
+            auto& combo = findNamed<QComboBox>(*m_window, name);
+            const QString before = combo.currentText();
+            const auto turn = [&] {
+                const QPoint centre = combo.rect().center();
+                QWheelEvent event(centre, combo.mapToGlobal(centre), {}, {0, -120}, Qt::NoButton,
+                                  {}, Qt::NoScrollPhase, false);
+                QApplication::sendEvent(&combo, &event);
+            };
+            the("m_pBoardView").setFocus();
+            turn();
+            QCOMPARE(combo.currentText(), before);
+            QVERIFY(the("m_pBoardView").hasFocus());
+            combo.setFocus();
+            turn();
+            QVERIFY2(combo.currentText() != before, name);
+        }
+    }
+
+    void escapeCloses_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("opener");
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<QString>("focus");
+        const auto row = [](const char* window, const char* focus, const char* page,
+                            const char* opener) {
+            QTest::addRow("%s, the focus in %s", window, focus)
+                << page << opener << window << focus;
+        };
+        row("Widget_SymbolSelection", "m_pFilterLE", "m_pPadTB", "m_pSymbolPB");
+        row("Widget_SymbolSelection", "m_pSymbolLW", "m_pPadTB", "m_pSymbolPB");
+        row("Widget_listpopup", "m_pFilterLE", "m_pTextTB", "m_pFontPB");
+        row("Widget_listpopup", "m_pCancelPB", "m_pTextTB", "m_pFontPB");
+        row("Widget_Attributes", "m_pAttributesTable", "m_pPadTB", "m_pValuesPB");
+        row("Widget_Attributes", "m_pValueEditor1", "m_pPadTB", "m_pValuesPB");
+        row("m_pDocumentation", "m_pPagesTE", "m_pPadTB", "m_pDocumentationAct");
+        row("m_pDimensions", "m_pFilterCMB", "m_pPadTB", "m_pDimensionsAct");
+        row("m_pDimensions", "m_pAddReferencePB", "m_pPadTB", "m_pDimensionsAct");
+    }
+    void escapeCloses()
+    {
+        QFETCH(QString, page);
+        QFETCH(QString, opener);
+        QFETCH(QString, window);
+        QFETCH(QString, focus);
+        const QWidget& dialog = openDialog(qPrintable(page));
+        if (auto* const action = m_window->findChild<QAction*>(opener)) {
+            action->trigger();
+        } else {
+            QTest::mouseClick(&findNamed(dialog, opener), Qt::LeftButton);
+        }
+        QWidget* const opened = shown(qPrintable(window));
+        QVERIFY(opened);
+        (opened->objectName() == focus ? opened : &findNamed(*opened, focus))->setFocus();
+        QCOMPARE(QApplication::focusWidget()->objectName(), focus);
+        press(Qt::Key_Escape);
+        QVERIFY(!opened->isVisible());
+        QVERIFY(dialog.isVisible());
+    }
+
+    void cancelChoosesNothing()
+    {
+        const QWidget& dialog = openDialog("m_pPadTB");
+        QTest::mouseClick(&findNamed(dialog, "m_pSymbolPB"), Qt::LeftButton);
+        QWidget* const chooser = shown("Widget_SymbolSelection");
+        QTest::keyClicks(&findNamed(*chooser, "m_pFilterLE"), "r20");
+        QTest::mouseClick(&findNamed(*chooser, "m_pCancelPB"), Qt::LeftButton);
+        QVERIFY(!chooser->isVisible());
+        QCOMPARE(findNamed<QLineEdit>(dialog, "m_pSymbolTextLE").text(), QString());
+    }
+
+    void escapeInTheDialogIsTheCanvass()
+    {
+        const QWidget& dialog = openDialog("m_pPadTB");
+        QVERIFY(shown("AddFeature"));
+        for (const char* const name : {"m_pSymbolTextLE", "m_pPadTB"}) {
+            findNamed(dialog, name).setFocus();
+            press(Qt::Key_Escape);
+            QVERIFY(dialog.isVisible());
+        }
+    }
+
+    void deleteSaysWhatItDeletedInTheDialogAsWell()
+    {
+        const QWidget& dialog = openDialog("m_pPadTB");
+        QVERIFY(shown("AddFeature"));
+        findNamed(dialog, "m_pPadTB").setFocus();
+        const auto said = [this] {
+            return findNamed<QLabel>(*m_window, "m_pCanvasStatusLB").text();
+        };
+        press(Qt::Key_Delete);
+        QCOMPARE(said(), QString("Nothing is selected."));
+        press(Qt::Key_A, Qt::ControlModifier);
+        press(Qt::Key_Delete);
+        QVERIFY2(QRegularExpression("^Deleted \\d+ features\\.$").match(said()).hasMatch(),
+                 qPrintable(said()));
+    }
+};
+
+CTS_TEST(TestKeyboard);
+#include "test_keyboard.moc"
