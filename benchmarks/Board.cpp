@@ -111,33 +111,23 @@ void hover(benchmark::State& state, int count)
     }
 }
 
-/// Each deletion is undone again, unmeasured; and the other way round.
+/// Each deletion is undone again; only one of the two is measured.
 void edit(benchmark::State& state, int count, bool undoes)
 {
     OpenedBoard board(count);
     Document& document = board.canvas.document();
-    const auto remove = [&] {
-        document.applyBoard(QStringLiteral("Delete"), Pcb::without(document.board(), {count / 2}));
+    const auto perform = [&](bool isMeasured, const std::function<void()>& act) {
+        isMeasured ? void() : state.PauseTiming();
+        act();
         QApplication::processEvents();
-    };
-    const auto undo = [&] {
-        document.history().undo();
-        QApplication::processEvents();
+        isMeasured ? void() : state.ResumeTiming();
     };
     for (auto _ : state) {
-        if (!undoes) {
-            remove();
-        }
-        state.PauseTiming();
-        if (undoes) {
-            remove();
-        } else {
-            undo();
-        }
-        state.ResumeTiming();
-        if (undoes) {
-            undo();
-        }
+        perform(!undoes, [&] {
+            document.applyBoard(QStringLiteral("Delete"),
+                                Pcb::without(document.board(), {count / 2}));
+        });
+        perform(undoes, [&] { document.history().undo(); });
     }
 }
 
@@ -145,20 +135,21 @@ void edit(benchmark::State& state, int count, bool undoes)
 
 void addBoardFigures(Runner& runner)
 {
-    using Body = void (*)(benchmark::State&, int count);
-    const std::pair<const char*, Body> figures[] = {
-        {"board-wheel", turnWheel},
-        {"board-pan", pan},
-        {"board-hover", hover},
-        {"board-delete", [](benchmark::State& state, int count) { edit(state, count, false); }},
-        {"board-undo", [](benchmark::State& state, int count) { edit(state, count, true); }},
-    };
     const int few = runner.effort().quick ? 100 : 1000;
     const int many = 100 * few;
-    for (const auto& [id, body] : figures) {
-        runner.addPair(
-            id, std::to_string(many) + " features, floor " + std::to_string(few),
-            [body = body, many](benchmark::State& state) { body(state, many); },
-            [body = body, few](benchmark::State& state) { body(state, few); });
-    }
+    const std::string sizes =
+        ": " + std::to_string(many) + " features, floor " + std::to_string(few);
+    const auto add = [&](const char* id, const char* what, double target,
+                         const std::function<void(benchmark::State&, int)>& body) {
+        runner.add(
+            {id, what + sizes, target}, [=](benchmark::State& state) { body(state, many); },
+            [=](benchmark::State& state) { body(state, few); });
+    };
+    add("board-wheel", "board: a notch of the wheel, painted", 100, turnWheel);
+    add("board-pan", "board: a step of a pan, painted", 100, pan);
+    add("board-hover", "board: the mouse over another feature", 3, hover);
+    add("board-delete", "board: one feature deleted, painted", 3,
+        [](benchmark::State& state, int count) { edit(state, count, false); });
+    add("board-undo", "board: the same undone", 3,
+        [](benchmark::State& state, int count) { edit(state, count, true); });
 }

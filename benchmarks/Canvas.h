@@ -2,6 +2,9 @@
 
 #include <PluginMetaData.h>
 
+#include <QApplication>
+#include <QWidget>
+
 #include <utility>
 
 /// Receives the messages of a floor, by value and through a virtual call.
@@ -34,3 +37,21 @@ private:
     long m_count = 0;
     PluginMetaData m_last{{}, {}};
 };
+
+/// Shows the window and returns when it and its children have been painted.
+inline void showPainted(QWidget& window)
+{
+    struct Watch : QObject {
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            isPainted = isPainted || event->type() == QEvent::Paint;
+            return false;
+        }
+        bool isPainted = false;
+    } watch;
+    window.installEventFilter(&watch);
+    window.show();
+    while (!watch.isPainted) {
+        QApplication::processEvents();
+    }
+}

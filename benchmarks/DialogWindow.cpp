@@ -1,18 +1,26 @@
 #include "DialogWindow.h"
 
 #include "addfeature/AddFeature.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/MessageCodes.h"
+#include "plugin/ModuleNames.h"
 #include "toolbar/Canvas_Tool_Strip.h"
 
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
 
 #include <QLineEdit>
-#include <QToolButton>
+
+namespace {
+
+const std::string benchmarkJob = "job";
+
+}  // namespace
 
 void openBenchmarkJob(int specialSymbols)
 {
     CanvasHost::Job job;
-    job.name = "job";
+    job.name = benchmarkJob;
     job.steps = {"step"};
     job.fonts = {"simple", "standard"};
     for (int i = 0; i < specialSymbols; ++i) {
@@ -23,17 +31,24 @@ void openBenchmarkJob(int specialSymbols)
     CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Mil);
 }
 
+PluginMetaData messageFromCanvas(int code, qint64 extra)
+{
+    PluginMetaData message(ModuleNames::viewer, ModuleNames::toolStrip);
+    message.code = code;
+    message.extra = extra;
+    return message;
+}
+
 DialogWindow::DialogWindow(bool canvasKeeps)
     : canvas(canvasKeeps), connected(canvas), strip(new Canvas_Tool_Strip(&panel))
 {
     openBenchmarkJob();
     panel.setLayout(strip);
-    panel.showPainted();
-    dialog = new AddFeature(&panel, "job", "step", &panel);
-    dialog->setToolStrip(strip);
-    strip->SetAllButtonchecked(
-        false, qobject_cast<QToolButton*>(strip->itemAt(int(Tool::AddFeature))->widget()));
-    dialog->show();
+    showPainted(panel);
+    strip->recMsgFromManager(
+        messageFromCanvas(MessageCodes::Accepted::JobName, ExtraWord::pointingAt(benchmarkJob)));
+    strip->On_AddFeature_Clicked();
+    dialog = panel.findChild<AddFeature*>();
     dialog->findChild<QLineEdit*>(QStringLiteral("m_pSymbolTextLE"))->setText("r10");
     QApplication::processEvents();
     dialog->getChangeCurrentTool();

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "Connected.h"
-#include "Panel.h"
+
+#include <QWidget>
 
 class AddFeature;
 class Canvas_Tool_Strip;
@@ -9,14 +10,17 @@ class Canvas_Tool_Strip;
 /// Makes a job with two special symbols the only one; the unit is mil.
 void openBenchmarkJob(int specialSymbols = 2);
 
-/// A shown strip with Add Feature as its tool, and the shown dialog with the symbol r10. Messages
-/// go to the canvas.
+/// A message from the canvas; an object that it points at must outlive it.
+PluginMetaData messageFromCanvas(int code, qint64 extra = 0);
+
+/// A shown strip and the dialog that a click on Add Feature has opened, with the symbol r10.
+/// Messages go to the canvas.
 struct DialogWindow {
     explicit DialogWindow(bool canvasKeeps = true);
 
     CanvasFloor canvas;
     Connected connected;
-    Panel panel;
+    QWidget panel;
     Canvas_Tool_Strip* strip;
     AddFeature* dialog;
 };

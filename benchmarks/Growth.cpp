@@ -1,9 +1,7 @@
 // How times grow with the amount that comes in at once.
 
-#include "Connected.h"
 #include "DialogWindow.h"
 #include "Groups.h"
-#include "Panel.h"
 #include "Runner.h"
 #include "addfeature/AddFeature.h"
 #include "plugin/ExtraWord.h"
@@ -16,102 +14,72 @@
 
 #include <deque>
 #include <map>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace {
 
+namespace Accepted = MessageCodes::Accepted;
 using Attributes = std::vector<std::pair<std::string, std::string>>;
 
 /// Ordered by name, as a map hands them over.
-Attributes attributes(long count)
+Attributes attributes(int count)
 {
     Attributes list;
-    for (long i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i) {
         list.emplace_back(".attribute of the board " + std::to_string(count + i),
                           "value " + std::to_string(i));
     }
     return list;
 }
 
-template <class T>
-PluginMetaData message(int code, const T& object)
+void sendAttributes(benchmark::State& state, int count)
 {
-    PluginMetaData built(QStringLiteral("Canvas_Viewer.dll"),
-                         QStringLiteral("Canvas_Tool_Strip.dll"));
-    built.code = code;
-    built.extra = ExtraWord::pointingAt(object);
-    return built;
-}
-
-/// A strip that has opened its dialog, as by a click on Add Feature.
-struct OpenedDialog {
-    OpenedDialog() : connected(canvas), strip(new Canvas_Tool_Strip(&panel))
-    {
-        openBenchmarkJob();
-        panel.setLayout(strip);
-        panel.showPainted();
-        strip->On_AddFeature_Clicked();
-        dialog = panel.findChild<AddFeature*>();
-        QApplication::processEvents();
-    }
-
-    CanvasFloor canvas;
-    Connected connected;
-    Panel panel;
-    Canvas_Tool_Strip* strip;
-    AddFeature* dialog;
-};
-
-void sendAttributes(benchmark::State& state)
-{
-    const OpenedDialog window;
+    const DialogWindow window;
     window.dialog->findChild<QCheckBox*>(QStringLiteral("m_pAttributesCB"))->setChecked(true);
-    const Attributes list = attributes(state.range(0));
+    const Attributes list = attributes(count);
     for (auto _ : state) {
         window.dialog->get_attribute_list(list);
     }
 }
 
-void receiveAttributes(benchmark::State& state)
+void receiveAttributes(benchmark::State& state, int count)
 {
-    const OpenedDialog window;
+    const DialogWindow window;
     size_t heard = 0;
     QObject::connect(window.dialog, &AddFeature::send_attributeinfo_list, window.dialog,
                      [&heard](const Attributes& list) { heard += list.size(); });
-    const Attributes list = attributes(state.range(0));
+    const Attributes list = attributes(count);
     const std::map<std::string, std::string> picked(list.begin(), list.end());
-    const PluginMetaData prepared = message(MessageCodes::Accepted::AttributesPicked, picked);
+    const auto message =
+        messageFromCanvas(Accepted::AttributesPicked, ExtraWord::pointingAt(picked));
     for (auto _ : state) {
-        recMsgFromManager(window.strip, prepared);
+        recMsgFromManager(window.strip, message);
     }
     if (heard != picked.size() * size_t(state.iterations())) {
         state.SkipWithError("not every attribute was handed on");
     }
 }
 
-void receiveSymbols(benchmark::State& state)
+void receiveSymbols(benchmark::State& state, int count)
 {
-    const OpenedDialog window;
+    const DialogWindow window;
     std::map<int, std::string> symbols;
-    for (int i = 0; i < int(state.range(0)); ++i) {
+    for (int i = 0; i < count; ++i) {
         symbols.emplace(i, "r" + std::to_string(1 + i % 1000));
     }
-    const PluginMetaData prepared = message(MessageCodes::Accepted::SymbolsPicked, symbols);
+    const auto message = messageFromCanvas(Accepted::SymbolsPicked, ExtraWord::pointingAt(symbols));
     const long before = window.canvas.count();
     for (auto _ : state) {
-        recMsgFromManager(window.strip, prepared);
+        recMsgFromManager(window.strip, message);
     }
-    if (window.canvas.count() - before != state.range(0) * long(state.iterations())) {
+    if (window.canvas.count() - before != count * long(state.iterations())) {
         state.SkipWithError("not every symbol was sent");
     }
 }
 
-void sendWithSpecialSymbols(benchmark::State& state)
+void sendWithSpecialSymbols(benchmark::State& state, int count)
 {
     const DialogWindow window;
-    openBenchmarkJob(int(state.range(0)));
+    openBenchmarkJob(count);
     for (auto _ : state) {
         window.dialog->getChangeCurrentTool();
     }
@@ -119,16 +87,16 @@ void sendWithSpecialSymbols(benchmark::State& state)
 }
 
 /// All strips live at once; each is shown and clicked.
-void useStrips(benchmark::State& state)
+void useStrips(benchmark::State& state, int count)
 {
     CanvasFloor canvas;
     const Connected connected(canvas);
     for (auto _ : state) {
-        std::deque<Panel> panels(size_t(state.range(0)));
-        for (Panel& panel : panels) {
+        std::deque<QWidget> panels(static_cast<size_t>(count));
+        for (QWidget& panel : panels) {
             auto* const strip = new Canvas_Tool_Strip(&panel);
             panel.setLayout(strip);
-            panel.showPainted();
+            showPainted(panel);
             qobject_cast<QToolButton*>(strip->itemAt(int(Tool::MoveFeature))->widget())->click();
         }
     }
@@ -138,11 +106,15 @@ void useStrips(benchmark::State& state)
 
 void addGrowthFigures(Runner& runner)
 {
-    const bool quick = runner.effort().quick;
-    const long most = quick ? 100 : 100000;
-    runner.addGrowth("grow-51", 10, most, sendAttributes);
-    runner.addGrowth("grow-20001807", 10, most, receiveAttributes);
-    runner.addGrowth("grow-20001811", 10, most, receiveSymbols);
-    runner.addGrowth("grow-special", 10, most, sendWithSpecialSymbols);
-    runner.addGrowth("grow-strips", 1, quick ? 10 : 100, useStrips);
+    const int most = runner.effort().quick ? 100 : 100000;
+    const int least = most / 100;
+    runner.addGrowth({"grow-51", "attributes in one 51", 1.1}, least, most, sendAttributes);
+    runner.addGrowth({"grow-20001807", "attributes in one 20001807", 1.1}, least, most,
+                     receiveAttributes);
+    runner.addGrowth({"grow-20001811", "symbols in one 20001811", 1.1}, least, most,
+                     receiveSymbols);
+    runner.addGrowth({"grow-special", "special symbols of the job at send", 1.1}, least, most,
+                     sendWithSpecialSymbols);
+    runner.addGrowth({"grow-strips", "strips in one process", 1.1}, 1,
+                     runner.effort().quick ? 10 : 100, useStrips);
 }

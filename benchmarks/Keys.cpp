@@ -7,9 +7,6 @@
 #include "floors/PlainRecord.h"
 #include "plugin/RecordKeys.h"
 
-#include <cam_api.h>
-#include <ui_api.h>
-
 #include <QAbstractButton>
 #include <QIntValidator>
 #include <QKeyEvent>
@@ -19,99 +16,18 @@
 
 namespace {
 
-constexpr char lineSymbol[] = "^[rs]?|[rs][0-9]+(\\.[0-9]+)?$";
-const QString noRotation = QStringLiteral("0");
-
-/// As deep in its window as a field of the dialog: an unused key is passed up from there.
-QLineEdit* addField(QWidget* window, const QString& text)
-{
-    auto* const row = new QWidget(window);
-    auto* const field = new QLineEdit(text, row);
-    (new QVBoxLayout(row))->addWidget(field);
-    if (!window->layout()) {
-        new QVBoxLayout(window);
-    }
-    window->layout()->addWidget(row);
-    return field;
-}
-
-/// Floor of a symbol field: Return stores, checks and sends the symbol, and once more when Qt says
-/// that editing has finished.
-class PlainSymbolWindow : public Panel {
-public:
-    PlainSymbolWindow(PlainRecord& record, const QString& symbol)
-        : m_record(record), m_field(addField(this, symbol))
-    {
-        m_field->setValidator(new QRegExpValidator(QRegExp(QLatin1String(lineSymbol)), m_field));
-        connect(m_field, &QLineEdit::returnPressed, this, &PlainSymbolWindow::returnPressed);
-        connect(m_field, &QLineEdit::editingFinished, this, &PlainSymbolWindow::editingFinished);
-    }
-    /// A window that is deleted takes the focus from its field, which reports that.
-    ~PlainSymbolWindow() override { m_field->disconnect(); }
-    QLineEdit* field() const { return m_field; }
-
-private:
-    QString stored(const QString& name)
-    {
-        return ZENTRA::UIAPI::getUnit(this) != 0 ? ZENTRA::UIAPI::setSymbolUIData(name, 0) : name;
-    }
-
-    void returnPressed()
-    {
-        const QString typed = m_field->text().left(m_field->cursorPosition());
-        m_field->setText(typed);
-        m_record.insert(RecordKeys::symbolText, stored(typed));
-        m_record.send(typed);
-    }
-
-    void editingFinished()
-    {
-        m_record.insert(RecordKeys::mirrorRotate, noRotation);
-        const QString name = m_field->text();
-        ZENTRA::API::symbol_type type{};
-        int a = 0;
-        int b = 0;
-        if (ZENTRA::API::identify_symbol(name.toStdString(), type, a, b, false)) {
-            m_record.insert(RecordKeys::symbolText, stored(name));
-            m_record.send(name);
-        }
-    }
-
-    PlainRecord& m_record;
-    QLineEdit* m_field;
-};
-
-/// Floor of a count field beside a symbol: each change is checked, stored and sent.
-class PlainCountWindow : public Panel {
-public:
-    PlainCountWindow(PlainRecord& record, const QString& symbol)
-        : m_record(record),
-          m_symbol(addField(this, symbol)),
-          m_field(addField(this, QStringLiteral("1")))
-    {
-        m_field->setValidator(new QIntValidator(m_field));
-        connect(m_field, &QLineEdit::textChanged, this, &PlainCountWindow::textChanged);
-    }
-    QLineEdit* field() const { return m_field; }
-
-private:
-    void textChanged(const QString& text)
-    {
-        if (ZENTRA::UIAPI::isNumValueLegal(text.toDouble(), 0, 50, this)) {
-            m_record.insert(RecordKeys::padNx, text);
-            m_record.send(m_symbol->text());
-        }
-    }
-
-    PlainRecord& m_record;
-    QLineEdit* m_symbol;
-    QLineEdit* m_field;
-};
-
 struct Key {
     int code;
     QString text;
 };
+
+const QVector<Key> returnKey = {{Qt::Key_Return, QStringLiteral("\r")}};
+// A digit is typed and removed, so that each press changes the text.
+const QVector<Key> digitKeys = {{Qt::Key_2, QStringLiteral("2")},
+                                {Qt::Key_Backspace, QStringLiteral("\b")}};
+
+// Return sends at once, and again when Qt says that editing has finished.
+constexpr long returnMessages = 2;
 
 /// Presses the keys in turn; each must send `messages` messages.
 void pressInTurn(benchmark::State& state, const CanvasFloor& canvas, QLineEdit* field,
@@ -131,28 +47,11 @@ void pressInTurn(benchmark::State& state, const CanvasFloor& canvas, QLineEdit* 
     QApplication::processEvents();
 }
 
-const QVector<Key>& returnKey()
-{
-    static const QVector<Key> keys = {{Qt::Key_Return, QStringLiteral("\r")}};
-    return keys;
-}
-
-/// A digit is typed and removed, so that each press changes the text.
-const QVector<Key>& digitKeys()
-{
-    static const QVector<Key> keys = {{Qt::Key_2, QStringLiteral("2")},
-                                      {Qt::Key_Backspace, QStringLiteral("\b")}};
-    return keys;
-}
-
-// Return sends at once, and again when Qt says that editing has finished.
-constexpr long returnMessages = 2;
-
 void pressInSymbol(benchmark::State& state)
 {
     const DialogWindow window;
     auto* const field = window.dialog->findChild<QLineEdit*>(QStringLiteral("m_pSymbolTextLE"));
-    pressInTurn(state, window.canvas, field, returnKey(), returnMessages);
+    pressInTurn(state, window.canvas, field, returnKey, returnMessages);
 }
 
 void pressInCount(benchmark::State& state)
@@ -161,29 +60,85 @@ void pressInCount(benchmark::State& state)
     window.dialog->findChild<QAbstractButton*>(QStringLiteral("m_pPadTB"))->click();
     auto* const field = window.dialog->findChild<QLineEdit*>(QStringLiteral("m_pDrilNxLE"));
     QApplication::processEvents();
-    pressInTurn(state, window.canvas, field, digitKeys(), 1);
+    pressInTurn(state, window.canvas, field, digitKeys, 1);
 }
 
-template <class Window>
-void pressInPlain(benchmark::State& state, const QVector<Key>& keys, long messages)
-{
-    // The entries of the module's own record: the same keys and values.
-    const DialogWindow dialog;
+/// A plain window with a record, whose entries are those of the module's own.
+struct PlainWindow {
+    /// As deep in the window as a field of the dialog: an unused key is passed up from there.
+    QLineEdit* addField(const QString& text)
+    {
+        auto* const row = new QWidget(&window);
+        auto* const field = new QLineEdit(text, row);
+        (new QVBoxLayout(row))->addWidget(field);
+        rows.addWidget(row);
+        return field;
+    }
+
     CanvasFloor canvas;
-    PlainRecord record(dialog.canvas.last().payload, "job", nullptr, canvas);
-    Window window(record, QStringLiteral("r10"));
-    window.showPainted();
-    pressInTurn(state, canvas, window.field(), keys, messages);
+    PlainRecord record{DialogWindow().canvas.last().payload, canvas};
+    QWidget window;
+    QVBoxLayout rows{&window};
+};
+
+/// Floor of a symbol field: Return stores, checks and sends the symbol, and once more when Qt says
+/// that editing has finished.
+void pressInPlainSymbol(benchmark::State& state)
+{
+    PlainWindow plain;
+    PlainRecord& record = plain.record;
+    QLineEdit* const field = plain.addField(QStringLiteral("r10"));
+    field->setValidator(
+        new QRegExpValidator(QRegExp(QStringLiteral("^[rs]?|[rs][0-9]+(\\.[0-9]+)?$")), field));
+    const auto storeAndSend = [&](const QString& name) {
+        record.insert(RecordKeys::symbolText, ZENTRA::UIAPI::getUnit(field) != 0
+                                                  ? ZENTRA::UIAPI::setSymbolUIData(name, 0)
+                                                  : name);
+        record.send(name);
+    };
+    QObject::connect(field, &QLineEdit::returnPressed, [&] {
+        const QString typed = field->text().left(field->cursorPosition());
+        field->setText(typed);
+        storeAndSend(typed);
+    });
+    QObject::connect(field, &QLineEdit::editingFinished, [&] {
+        record.insert(RecordKeys::mirrorRotate, QStringLiteral("0"));
+        const QString name = field->text();
+        ZENTRA::API::symbol_type type{};
+        int a = 0;
+        int b = 0;
+        if (ZENTRA::API::identify_symbol(name.toStdString(), type, a, b, false)) {
+            storeAndSend(name);
+        }
+    });
+    showPainted(plain.window);
+    pressInTurn(state, plain.canvas, field, returnKey, returnMessages);
+    field->disconnect();  // as its window is deleted, it loses the focus and reports that
+}
+
+/// Floor of a count field beside a symbol: each change is checked, stored and sent.
+void pressInPlainCount(benchmark::State& state)
+{
+    PlainWindow plain;
+    const QLineEdit* const symbol = plain.addField(QStringLiteral("r10"));
+    QLineEdit* const field = plain.addField(QStringLiteral("1"));
+    field->setValidator(new QIntValidator(field));
+    QObject::connect(field, &QLineEdit::textChanged, [&](const QString& text) {
+        if (ZENTRA::UIAPI::isNumValueLegal(text.toDouble(), 0, 50, &plain.window)) {
+            plain.record.insert(RecordKeys::padNx, text);
+            plain.record.send(symbol->text());
+        }
+    });
+    showPainted(plain.window);
+    pressInTurn(state, plain.canvas, field, digitKeys, 1);
 }
 
 }  // namespace
 
 void addKeyFigures(Runner& runner)
 {
-    runner.addPair("key-symbol", {}, pressInSymbol, [](benchmark::State& state) {
-        pressInPlain<PlainSymbolWindow>(state, returnKey(), returnMessages);
-    });
-    runner.addPair("key-count", {}, pressInCount, [](benchmark::State& state) {
-        pressInPlain<PlainCountWindow>(state, digitKeys(), 1);
-    });
+    runner.add({"key-symbol", "Return in the symbol field to message received", 1.20},
+               pressInSymbol, pressInPlainSymbol);
+    runner.add({"key-count", "key in a pad count field to message received", 1.20}, pressInCount,
+               pressInPlainCount);
 }

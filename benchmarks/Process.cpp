@@ -1,4 +1,4 @@
-// Figure for a process that opens the library for the first time.
+// Figures for a process that opens the library for the first time.
 
 #include "Groups.h"
 #include "Runner.h"
@@ -7,34 +7,36 @@
 
 namespace {
 
-/// Starts a process that opens the library named last; the time is the one that it prints.
-void startProcess(benchmark::State& state, const QStringList& arguments)
+/// A side that starts a process which opens the library; the time is the one that it prints.
+Runner::Body starting(const char* library, bool hasLog)
 {
-    for (auto _ : state) {
-        QProcess process;
-        process.start(QStringLiteral(FRESH_PROCESS), arguments);
-        bool isNumber = false;
-        const bool ended = process.waitForFinished();
-        const double nanoseconds = process.readAllStandardOutput().trimmed().toDouble(&isNumber);
-        if (!ended || process.exitCode() != 0 || !isNumber) {
-            state.SkipWithError(process.readAllStandardError() + process.errorString().toUtf8());
-            return;
+    const auto arguments = (hasLog ? QStringList("log") : QStringList()) << library;
+    return [arguments](benchmark::State& state) {
+        for (auto _ : state) {
+            QProcess process;
+            process.start(QStringLiteral(FRESH_PROCESS), arguments);
+            bool isNumber = false;
+            const bool ended = process.waitForFinished();
+            const double nanoseconds =
+                process.readAllStandardOutput().trimmed().toDouble(&isNumber);
+            if (!ended || process.exitCode() != 0 || !isNumber) {
+                state.SkipWithError(process.readAllStandardError() +
+                                    process.errorString().toUtf8());
+                return;
+            }
+            state.SetIterationTime(nanoseconds / 1e9);
         }
-        state.SetIterationTime(nanoseconds / 1e9);
-    }
+    };
 }
 
 }  // namespace
 
 void addProcessFigures(Runner& runner)
 {
-    for (const bool hasLog : {true, false}) {
-        const QStringList log = hasLog ? QStringList{QStringLiteral("log")} : QStringList{};
-        const QStringList project = log + QStringList{QStringLiteral(MODULE_LIBRARY)};
-        const QStringList floor = log + QStringList{QStringLiteral(MINIMAL_LIBRARY)};
-        runner.addTimedPair(
-            "process", hasLog ? "host has its log" : "host without log",
-            [=](benchmark::State& state) { startProcess(state, project); },
-            [=](benchmark::State& state) { startProcess(state, floor); });
-    }
+    const std::string what = "fresh process: library opened, strip constructed: ";
+    runner.add({"process", what + "host has its log", 1.10, "", 1, true},
+               starting(MODULE_LIBRARY, true), starting(MINIMAL_LIBRARY, true));
+    runner.add(
+        {"process", what + "host without log", 1.10, "the log's library is loaded along", 1, true},
+        starting(MODULE_LIBRARY, false), starting(MINIMAL_LIBRARY, false));
 }

@@ -1,11 +1,8 @@
-#include "Table.h"
+#include "Runner.h"
 
-#include <QFile>
 #include <QStringList>
 #include <QSysInfo>
 #include <QThread>
-
-#include <cstdio>
 
 namespace {
 
@@ -17,85 +14,45 @@ constexpr char compiler[] = "GCC " __VERSION__;
 
 QString duration(double nanoseconds)
 {
-    struct Unit {
-        double size;
-        const char* name;
-    };
-    static constexpr Unit units[] = {{1e9, "s"}, {1e6, "ms"}, {1e3, "\u00b5s"}, {1, "ns"}};
-    for (const Unit& unit : units) {
-        if (nanoseconds >= unit.size || unit.size == 1) {
-            return QString::number(nanoseconds / unit.size, 'g', 4) + ' ' +
-                   QString::fromUtf8(unit.name);
-        }
+    static constexpr std::pair<double, const char*> units[] = {
+        {1e9, "s"}, {1e6, "ms"}, {1e3, "\u00b5s"}, {0, "ns"}};
+    const auto* unit = std::begin(units);
+    while (nanoseconds < unit->first) {
+        ++unit;
     }
-    return {};
+    return QString::number(nanoseconds / qMax(unit->first, 1.), 'g', 4) + ' ' +
+           QString::fromUtf8(unit->second);
 }
 
-/// Project, floor, value and target, as this kind of figure shows them.
-QStringList numbers(const Result& result)
+QStringList cells(const Result& result)
 {
-    const double target = result.figure->target;
-    switch (result.figure->kind) {
-        case Kind::Ratio:
-            return {duration(result.project), duration(result.floor),
-                    QString::number(result.value, 'f', 2) +
-                        QStringLiteral(" +-%1").arg(result.spread, 0, 'f', 2),
-                    QString::number(target, 'f', 2)};
-        case Kind::Exponent:
-            return {duration(result.project),
-                    {},
-                    "n^" + QString::number(result.value, 'f', 2),
-                    "n^" + QString::number(target, 'f', 1)};
-        case Kind::Bytes:
-            return {QString::number(result.value, 'f', 0) + " B",
-                    {},
-                    {},
-                    QString::number(target, 'f', 0) + " B"};
-    }
-    return {};
-}
-
-QString title(const Result& result)
-{
-    const QString what = QString::fromUtf8(result.figure->what);
-    return result.part.empty() ? what : what + ": " + QString::fromStdString(result.part);
+    const Figure& figure = result.figure;
+    const bool grows = figure.timesAsMuch > 1;
+    const QString ratio = QString::number(result.ratio, 'f', 2);
+    const QString target = QString::number(figure.target, 'f', 2);
+    const QString why = *figure.why ? QStringLiteral(": ") + figure.why : "";
+    return {
+        QString::fromStdString(figure.what),
+        duration(result.project),
+        duration(result.floor),
+        grows ? "n^" + ratio : QStringLiteral("%1 +-%2").arg(ratio).arg(result.spread, 0, 'f', 2),
+        grows ? "n^" + target : target,
+        result.holds() ? "yes" : "NO" + why};
 }
 
 }  // namespace
 
-QString markdownTable(const std::vector<Result>& results, const Effort& effort)
+std::string markdownTable(const std::vector<Result>& results, const Effort& effort)
 {
     QString table =
         "| What | Project | Floor | Ratio | Target | Holds |\n|---|---|---|---|---|---|\n";
     for (const Result& result : results) {
-        const QString why = *result.figure->why ? QStringLiteral(": ") + result.figure->why : "";
-        const QStringList cells = QStringList{title(result)} + numbers(result) +
-                                  QStringList{result.holds() ? "yes" : "NO" + why};
-        table += "| " + cells.join(" | ") + " |\n";
+        table += "| " + cells(result).join(" | ") + " |\n";
     }
-    return table + QStringLiteral("\nRepetitions: %1. %2, Qt %3, %4, %5 processors.\n")
-                       .arg(effort.repetitions)
-                       .arg(QSysInfo::prettyProductName(), qVersion(), compiler)
-                       .arg(QThread::idealThreadCount());
-}
-
-bool putInto(const QString& file, const QString& table)
-{
-    QFile page(file);
-    page.open(QIODevice::ReadOnly);
-    QString text = QString::fromUtf8(page.readAll());
-    page.close();
-    const QString heading = QStringLiteral("\n## Table\n");
-    const int start = text.indexOf(heading) + heading.size();
-    if (start < heading.size()) {
-        std::fprintf(stderr, "%s: no section \"Table\"\n", qUtf8Printable(file));
-        return false;
-    }
-    const int end = text.indexOf(QStringLiteral("\n## "), start);
-    text.replace(start, (end < 0 ? text.size() : end) - start, '\n' + table);
-    if (!page.open(QIODevice::WriteOnly) || page.write(text.toUtf8()) < 0) {
-        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(file), qUtf8Printable(page.errorString()));
-        return false;
-    }
-    return true;
+    return QStringLiteral("%1\nRepetitions: %2. %3, Qt %4, %5, %6 processors.\n")
+        .arg(table)
+        .arg(effort.repetitions)
+        .arg(QSysInfo::prettyProductName(), qVersion(), compiler)
+        .arg(QThread::idealThreadCount())
+        .toStdString();
 }

@@ -2,30 +2,36 @@
 
 #include "PlainRecord.h"
 #include "PlainStrip.h"
+#include "plugin/ExtraWord.h"
+#include "plugin/PayloadKeys.h"
 
-#include <PluginMetaData.h>
+#include <common_widgets.h>
+
+#include <QLineEdit>
 
 #include <map>
-#include <string>
-#include <utility>
-#include <vector>
 
-class Grc_Tbe_measurepopup;
-class QLineEdit;
-
-/// Floor of the incoming messages: a plain strip, and one switch over the codes behind a function
-/// pointer.
+/// Floor of the incoming messages: a plain strip, what its Add Feature opens, and one switch over
+/// the codes behind a function pointer.
 class PlainSwitch : public QObject {
     Q_OBJECT
 public:
-    PlainSwitch(QWidget* panel, Receiver& receiver);
-
-    PlainStrip* strip() const { return m_strip; }
-    /// What Add Feature opens, checks and resends; null until then.
-    void setDialog(QWidget* dialog, QLineEdit* symbol, PlainRecord* record);
+    PlainSwitch(QWidget* panel, const QMap<QString, QVariant>& entries, Receiver& receiver)
+        : m_panel(panel),
+          m_receiver(receiver),
+          m_strip(new PlainStrip(panel, receiver)),
+          m_dialog(new QWidget(panel, Qt::Window)),
+          m_symbol(new QLineEdit(m_dialog)),
+          m_record(entries, receiver)
+    {
+        panel->setLayout(m_strip);
+    }
 
     /// The entry point; `instance` is a PlainSwitch.
-    static void receive(void* instance, PluginMetaData message);
+    static void receive(void* instance, PluginMetaData message)
+    {
+        static_cast<PlainSwitch*>(instance)->handle(message);
+    }
 
 Q_SIGNALS:
     void attributesPicked(std::vector<std::pair<std::string, std::string>> attributes);
@@ -37,20 +43,102 @@ Q_SIGNALS:
 
 private:
     void handle(const PluginMetaData& message);
-    void handleData(const PluginMetaData& message);
-    void activate(int index);
-    void selectByNet(int code, int sheet);
-    void measure();
-    void addFeature();
+
+    void check(int index) { m_strip->checkOnly(m_strip->button(index)); }
+
+    void activate(int index)
+    {
+        check(index);
+        m_strip->send(plainTools()[static_cast<size_t>(index)].code);
+    }
+
+    void selectByNet(int code, int sheet)
+    {
+        check(PlainStrip::Net);
+        m_netMode = code;
+        m_strip->button(PlainStrip::Net)->setStyleSheet(plainNetSheets()[size_t(sheet)]);
+        m_strip->send(code);
+    }
+
+    void measure()
+    {
+        if (!m_popup) {
+            m_popup = new Grc_Tbe_measurepopup(nullptr, m_panel);
+        }
+        m_popup->raise();
+        m_popup->show();
+        check(PlainStrip::Measure);
+        m_popup->onMeasureButtonClicked();
+    }
+
+    void addFeature()
+    {
+        PluginMetaData message(ModuleNames::toolStrip, ModuleNames::jobTree);
+        message.code = MessageCodes::Sent::AddFeatureStarted;
+        m_receiver.receive(std::move(message));
+        check(PlainStrip::Add);
+        m_record.send(m_symbol->text());
+        m_dialog->raise();
+        m_dialog->show();
+    }
+
+    void keepJob(const PluginMetaData& message, const QString& stepKey)
+    {
+        m_job = message.payload.value(PayloadKeys::jobName).toString().toStdString();
+        m_step = message.payload.value(stepKey).toString().toStdString();
+    }
 
     QWidget* m_panel;
     Receiver& m_receiver;
     PlainStrip* m_strip;
-    QWidget* m_dialog = nullptr;
-    QLineEdit* m_symbol = nullptr;
-    PlainRecord* m_record = nullptr;
+    QWidget* m_dialog;
+    QLineEdit* m_symbol;
+    PlainRecord m_record;
     Grc_Tbe_measurepopup* m_popup = nullptr;
     std::string m_job;
     std::string m_step;
     int m_netMode = 0;
 };
+
+inline void PlainSwitch::handle(const PluginMetaData& message)
+{
+    namespace Accepted = MessageCodes::Accepted;
+    using Attributes = std::map<std::string, std::string>;
+    using Symbols = std::map<int, std::string>;
+    // clang-format off
+    switch (message.code) {
+        case Accepted::ReleaseAll: return m_strip->checkOnly(nullptr);
+        case Accepted::AreaZoom: return activate(PlainStrip::Zoom);
+        case Accepted::FeatureSelection: return activate(PlainStrip::Feature);
+        case Accepted::RectangleSelection: return activate(PlainStrip::Rectangle);
+        case Accepted::PolygonSelection: return activate(PlainStrip::Polygon);
+        case Accepted::AddFeatureActive:
+            return m_strip->button(PlainStrip::Add)->isChecked() ? void() : check(PlainStrip::Add);
+        case Accepted::SelectPolyline: return selectByNet(message.code, 0);
+        case Accepted::SelectLayerNet: return selectByNet(message.code, 1);
+        case Accepted::SelectBoardNet: return selectByNet(message.code, 2);
+        case Accepted::CheckAndMeasure:
+        case Accepted::Measure: return measure();
+        case Accepted::AddFeature: return addFeature();
+        case Accepted::DeleteFeature: return activate(PlainStrip::Delete);
+        case Accepted::MoveFeature: return activate(PlainStrip::Move);
+        case Accepted::CloseDialogs: return m_strip->send(MessageCodes::Sent::DialogsClosed);
+        case Accepted::JobAndStep: return keepJob(message, PayloadKeys::step);
+        case Accepted::JobName: m_job = *ExtraWord::object<std::string>(message.extra); return;
+        case Accepted::JobOpened:
+            keepJob(message, PayloadKeys::stepName);
+            return jobOpened(m_job, m_step);
+        case Accepted::AttributesPicked: {
+            const auto& picked = *ExtraWord::object<Attributes>(message.extra);
+            return attributesPicked({picked.begin(), picked.end()});
+        }
+        case Accepted::SymbolsPicked:
+            return symbolsPicked(*ExtraWord::object<Symbols>(message.extra));
+        case Accepted::UserSymbolsChanged: return userSymbolsChanged();
+        case Accepted::UnitChanged:
+            return unitChanged(ZENTRA::UIAPI::getUnitString(m_panel) == QLatin1String("MM"));
+        case Accepted::LanguageChanged: Q_EMIT languageChanged(); return m_strip->retranslate();
+        default: return;
+    }
+    // clang-format on
+}

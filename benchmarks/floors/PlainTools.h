@@ -1,5 +1,7 @@
 #pragma once
 
+#include "plugin/MessageCodes.h"
+
 #include <QString>
 
 #include <array>
@@ -15,8 +17,34 @@ struct PlainTool {
     int code;
 };
 
+#define PICTURE(file) "url(:/Canvas_Tool_Strip/Resources/" file ");"
+#define SHEET(property, image, checkedImage)            \
+    QStringLiteral("QToolButton{" property ":" PICTURE( \
+        image) "}"                                      \
+               "QToolButton::checked{" property ":" PICTURE(checkedImage) "}")
+
 /// The tools, in grid order.
-const std::vector<PlainTool>& plainTools();
+inline const std::vector<PlainTool>& plainTools()
+{
+    namespace Sent = MessageCodes::Sent;
+    static const std::vector<PlainTool> tools = {
+#include "PlainToolRows.inc"  // made from tests/contract/tools.txt
+    };
+    return tools;
+}
 
 /// The sheets of Select By Net: polyline, layer net, board net.
-const std::array<QString, 3>& plainNetSheets();
+inline const std::array<QString, 3>& plainNetSheets()
+{
+    static const std::array<QString, 3> sheets = {
+        SHEET("background-image", "Net selection2.jpg", "Net selection1.jpg") +
+            QStringLiteral("border:2px solid red"),
+        SHEET("background-image", "Net selection6.jpg", "Net selection5.jpg"),
+        SHEET("background-image", "Net selection4.jpg", "Net selection3.jpg") +
+            QStringLiteral("border:2px solid green"),
+    };
+    return sheets;
+}
+
+#undef SHEET
+#undef PICTURE

@@ -12,7 +12,8 @@ package=$(find "$work/prefix" -name CanvasHostConfig.cmake)
 [ -n "$package" ] || { echo "no CanvasHostConfig.cmake was installed"; exit 1; }
 
 cmake -S "$source" -B "$work/module" -G Ninja -DCMAKE_BUILD_TYPE="$type" \
-    -DCTS_SANITIZE="$sanitize" -DCanvasHost_DIR="$(dirname "$package")" -DCTS_CHECK_HOST=ON -DCMAKE_UNITY_BUILD=ON \
+    -DCTS_SANITIZE="$sanitize" -DCanvasHost_DIR="$(dirname "$package")" -DCTS_CHECK_HOST=ON \
+    -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=20 \
     >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
 cmake --build "$work/module" --target Canvas_Tool_Strip host_check >"$work/build.log" ||
     { cat "$work/build.log"; exit 1; }

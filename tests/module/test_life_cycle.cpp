@@ -1,4 +1,4 @@
-// The built library is loaded, used and unloaded a thousand times; nothing grows. Two strips in two
+// The built library is loaded, used and unloaded many times; nothing grows. Two strips in two
 // windows never touch each other.
 
 #include "BoxCatcher.h"
@@ -53,7 +53,7 @@ class TestLifeCycle : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Otherwise the record is logged a thousand times.
+    // Otherwise the record is logged each time.
     void initTestCase() { QLoggingCategory::setFilterRules("canvastoolstrip.*=false"); }
 
     /// Qt keeps the functions of a type that it has once come to know: those of a library that is
@@ -72,10 +72,10 @@ private Q_SLOTS:
         }
     }
 
-    void thousandLives()
+    void manyLives()
     {
-        constexpr int lives = 1000;
         constexpr int warmUp = 200;
+        const int lives = TestProgram::isFull() ? 1000 : 2 * warmUp;
         double before = 0;
         int sent = 0;
         for (int life = 0; life < lives; ++life) {

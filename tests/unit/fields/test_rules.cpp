@@ -188,11 +188,19 @@ private Q_SLOTS:
         BarcodePage page(door);
         door.route(SLOT(on_m_pBackgroundCB_CheckState_Changed(int)),
                    [&] { page.chooseBackground(); });
-        page.m_pBackgroundCB->setChecked(true);
-        QCOMPARE(door.record().text(RecordKeys::addBackground), Added::no);
-        page.m_pAddMarkersCB->setChecked(true);
-        page.m_pBackgroundCB->setChecked(false);
-        QCOMPARE(door.record().text(RecordKeys::addBackground), Added::yes);
+        const auto change = [&](QCheckBox* box, bool checked) {
+            box->setChecked(checked);
+            return door.record().text(RecordKeys::addMarkers) + ' ' +
+                   door.record().text(RecordKeys::addBackground);
+        };
+        const QString none = Added::no + ' ' + Added::no;
+        QCOMPARE(change(page.m_pBackgroundCB, true), none);
+        QCOMPARE(change(page.m_pAddMarkersCB, true), Added::yes + ' ' + Added::no);
+        QCOMPARE(change(page.m_pBackgroundCB, false), Added::yes + ' ' + Added::yes);
+        QCOMPARE(change(page.m_pBackgroundCB, true), Added::yes + ' ' + Added::yes);
+        QCOMPARE(change(page.m_pAddMarkersCB, false), Added::no + ' ' + Added::yes);
+        QCOMPARE(change(page.m_pBackgroundCB, false), none);
+        QCOMPARE(door.takeCalls(), QStringList());
     }
 
     void theHoleModeStoresTheZoom()
