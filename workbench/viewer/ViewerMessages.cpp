@@ -5,6 +5,7 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
+#include "shared/TimeToWrite.h"
 #include "viewer/Inspector.h"
 #include "viewer/ToolSet.h"
 #include "viewer/ViewerPane.h"
@@ -13,8 +14,6 @@
 
 #include <CommonWidgetsStandIn.h>
 #include <QTpluginsManger4CAM.h>
-
-#include <QDateTime>
 
 namespace Sent = MessageCodes::Sent;
 namespace Accepted = MessageCodes::Accepted;
@@ -167,7 +166,7 @@ PlaceTool* ViewerPane::startPlacing()
     m_mode = 0;
     auto tool = std::make_unique<PlaceTool>(m_canvas);
     const Pcb::Board& board = m_canvas.document().board();
-    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime now = timeToWrite();
     tool->setSpecialTexts({{"JOB", board.job},
                            {"STEP", board.step},
                            {"LAYER", QStringLiteral("top")},

@@ -129,6 +129,18 @@ private Q_SLOTS:
         QVERIFY(!record.toJson().contains('\n'));
     }
 
+    void timeOfARecordCanBeGiven()
+    {
+        const auto time = [](const char* seconds) {
+            qputenv("SOURCE_DATE_EPOCH", seconds);
+            const MessageRecord record = MessageRecord::of({nullptr, {}, true, {}});
+            qunsetenv("SOURCE_DATE_EPOCH");
+            return QJsonDocument::fromJson(record.toJson()).object()["time"].toString();
+        };
+        QCOMPARE(time("86400"), QString("1970-01-02T00:00:00.000Z"));
+        QVERIFY(time("today") > "2000");
+    }
+
     void options()
     {
         const Options options =
