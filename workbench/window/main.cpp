@@ -20,6 +20,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <QImageReader>
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QStandardPaths>
@@ -84,17 +85,35 @@ void readInputs(int argc, char* argv[], Inputs* inputs)
     }
 }
 
+/// Whether a user is at work, and nothing is played, recorded or pictured.
+bool isByHand(const Options& options)
+{
+    return !options.exit && options.sessionFile.isEmpty() && options.recordFile.isEmpty() &&
+           options.screenshotFile.isEmpty();
+}
+
 /// The file of the settings: the user's where a user is at work, otherwise a new one in `own`.
 QString settingsFile(const Options& options, const QTemporaryDir& own)
 {
     if (!options.settingsFile.isEmpty()) {
         return options.settingsFile;
     }
-    const bool byHand = !options.exit && options.sessionFile.isEmpty() &&
-                        options.recordFile.isEmpty() && options.screenshotFile.isEmpty();
-    return byHand ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                        QStringLiteral("/canvas-tool-strip/workbench.ini")
-                  : own.filePath(QStringLiteral("workbench.ini"));
+    return isByHand(options)
+               ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                     QStringLiteral("/canvas-tool-strip/workbench.ini")
+               : own.filePath(QStringLiteral("workbench.ini"));
+}
+
+/// Qt reads the pictures of the tools and the icon by plug-ins, and shows nothing without them.
+void requirePictures()
+{
+    for (const char* const format : {"jpeg", "svg"}) {
+        if (!QImageReader::supportedImageFormats().contains(format)) {
+            throw FileError{QStringLiteral("workbench"), 0,
+                            QStringLiteral("Qt's plug-in imageformats/q%1 is missing")
+                                .arg(QLatin1String(format))};
+        }
+    }
 }
 
 /// Calls `then` when `window` has been on the screen for a moment.
@@ -143,8 +162,11 @@ int run(int argc, char* argv[])
         QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     }
     const auto application = openApplication(argc, argv, BadInput);
+    requirePictures();
     QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
     QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
+    // A session cannot reach into the dialogs of the platform.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs, !isByHand(inputs.options));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
     const QTemporaryDir ownSettings;
     Settings::keepIn(settingsFile(inputs.options, ownSettings));

@@ -86,6 +86,7 @@ public:
     }
     QString offered;
     QString folder;
+    bool mayBeNative = false;
 
 private:
     void answer(QFileDialog* dialog, const QString& file, int filter)
@@ -96,6 +97,7 @@ private:
             m_dialog = dialog;
             offered = name.text();
             folder = dialog->directory().path();
+            mayBeNative = !dialog->testOption(QFileDialog::DontUseNativeDialog);
             if (filter > 0) {
                 dialog->selectNameFilter(dialog->nameFilters().at(filter));
                 Q_EMIT dialog->filterSelected(dialog->nameFilters().at(filter));
@@ -164,6 +166,14 @@ private Q_SLOTS:
         QVERIFY(fixture.saved("a.json").size() > before);
         QVERIFY(!fixture.files().isModified());
         QVERIFY(fixture.document().history().canRedo());
+    }
+
+    void dialogIsThatOfThePlatform()
+    {
+        const FileFixture fixture;
+        const Chosen chosen(fixture.path("a"));
+        fixture.action("m_pSaveBoardAct").trigger();
+        QVERIFY(chosen.mayBeNative);
     }
 
     void openingAsksFirst()
