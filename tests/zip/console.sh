@@ -14,8 +14,8 @@ printf '@echo off\r\ncanvas-workbench.exe %%*\r\necho status %%errorlevel%%\r\n'
 # console ARGUMENT...: what is seen
 console() {
     TERM=xterm script -qec "wine cmd /c '$out/start.bat' $*" "$out/log" </dev/null >/dev/null
-    # Without what moves the cursor and sets colours.
-    sed -E 's/\x1b\[[0-9;?]*[A-Za-z]/\n/g; s/\x1b[^[]//g; s/\r//g' "$out/log"
+    # A step to the right is a blank; nothing else that moves the cursor matters.
+    sed -E 's/\x1b\[[0-9]*C/ /g; s/\x1b\[[0-9;?]*[A-Za-z]//g; s/\r//g' "$out/log"
 }
 # expect TEXT...: in what is seen
 expect() {

@@ -162,7 +162,6 @@ int run(int argc, char* argv[])
         QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     }
     const auto application = openApplication(argc, argv, BadInput);
-    requirePictures();
     QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
     QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
     // A session cannot reach into the dialogs of the platform.
@@ -183,6 +182,7 @@ int run(int argc, char* argv[])
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
     window.start();
+    requirePictures();
     if (!inputs.options.boardFile.isEmpty()) {
         window.canvas()->files().openAtOnce(inputs.options.boardFile);
     }
