@@ -4,18 +4,18 @@
 set -u
 cd "$1" || exit 1
 shift
-found=0
+patterns=()
 for folder in "$HOME" "$@"; do
-    [ ${#folder} -gt 1 ] || continue
-    while read -r file; do
-        # As text of one byte a letter, or of two.
-        for width in s l; do
-            if strings -a -e $width "$file" | grep -F -m 1 -- "$folder/"; then
-                echo "$file: names $folder"
-                found=1
-            fi
-        done
-    done < <(find . -type f)
+    [ ${#folder} -gt 1 ] && patterns+=(-e "$folder/")
 done
-[ "$(find . -name '*.dll' | wc -l)" -gt 10 ] || { echo "nothing to search"; exit 1; }
+searched=0 found=0
+while read -r file; do
+    searched=$((searched + 1))
+    # Texts of one byte a letter, and of two.
+    if { strings -a "$file"; strings -a -e l "$file"; } | grep -F -m 3 "${patterns[@]}"; then
+        echo "is in $file"
+        found=1
+    fi
+done < <(find . -type f)
+[ $searched -gt 50 ] || { echo "$searched files only"; exit 1; }
 exit $found

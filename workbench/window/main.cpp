@@ -104,15 +104,13 @@ QString settingsFile(const Options& options, const QTemporaryDir& own)
                : own.filePath(QStringLiteral("workbench.ini"));
 }
 
-/// Qt reads the pictures of the tools and the icon by plug-ins, and shows nothing without them.
-void requirePictures()
+/// Qt reads such pictures by a plug-in, and shows nothing without it.
+void requirePictures(const char* format)
 {
-    for (const char* const format : {"jpeg", "svg"}) {
-        if (!QImageReader::supportedImageFormats().contains(format)) {
-            throw FileError{QStringLiteral("workbench"), 0,
-                            QStringLiteral("Qt's plug-in imageformats/q%1 is missing")
-                                .arg(QLatin1String(format))};
-        }
+    if (!QImageReader::supportedImageFormats().contains(format)) {
+        throw FileError{
+            QStringLiteral("workbench"), 0,
+            QStringLiteral("Qt's plug-in imageformats/q%1 is missing").arg(QLatin1String(format))};
     }
 }
 
@@ -162,6 +160,7 @@ int run(int argc, char* argv[])
         QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     }
     const auto application = openApplication(argc, argv, BadInput);
+    requirePictures("jpeg");
     QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
     QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
     // A session cannot reach into the dialogs of the platform.
@@ -182,7 +181,7 @@ int run(int argc, char* argv[])
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
     window.start();
-    requirePictures();
+    requirePictures("svg");  // after the canvas, which would name Qt's library that both need
     if (!inputs.options.boardFile.isEmpty()) {
         window.canvas()->files().openAtOnce(inputs.options.boardFile);
     }

@@ -139,7 +139,8 @@ private Q_SLOTS:
     {
         const auto time = [](const char* seconds) {
             qputenv("SOURCE_DATE_EPOCH", seconds);
-            const MessageRecord record = MessageRecord::of({nullptr, {}, true, {}});
+            const MessageRecord record = MessageRecord::of(
+                {nullptr, PluginMetaData(ModuleNames::toolStrip, ModuleNames::viewer), true, {}});
             qunsetenv("SOURCE_DATE_EPOCH");
             return QJsonDocument::fromJson(record.toJson()).object()["time"].toString();
         };
