@@ -21,7 +21,9 @@ play() {
     shift 2
     mkdir "$out/$name"
     cd "$out/$name" || exit 1
-    "$@" --play "$file" --trace trace --export "$board" --screenshot window.png --exit >log 2>&1 &&
+    # Before the picture, what fades has time to vanish.
+    { cat "$file"; echo "wait 500"; } >played.session
+    "$@" --play played.session --trace trace --export "$board" --screenshot window.png --exit >log 2>&1 &&
         return
     echo "$name: status $?"
     cat log
