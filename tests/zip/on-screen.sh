@@ -4,7 +4,7 @@
 # Usage: on-screen.sh UNPACKED EMULATOR   (on a display, with a Wine folder of its own)
 set -u
 unpacked=$1 emulator=$2
-unset WINEPATH
+unset WINEPATH QT_FORCE_STDERR_LOGGING
 out=$(mktemp -d)
 trap 'rm -rf "$out"' EXIT
 cd "$out" || exit 1
