@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
 # Builds everything for Windows with Debian's cross compiler, and tests it under Wine.
-# Usage: scripts/windows.sh [tools | build | test [ctest options]]
+# Usage: scripts/windows.sh [tools | build | test [ctest options] | zip]
 #   tools  installs the compiler, Wine and what else is needed
 #   build  Qt and the other libraries, once, which takes twenty minutes or more; then the tree, into
 #          build/windows
 #   test   runs the tests
-# Without a step all three are done. What was broken off goes on where it was. The libraries are kept
+#   zip    makes what is given away, two zips in build/windows, and tests them beside the build for
+#          Linux
+# Without a step the first three are done. What was broken off goes on where it was. The libraries are kept
 # in the folder CTS_WINDOWS_CACHE, by default ~/.cache/canvas-tool-strip/windows.
 set -u
 . "$(dirname "$0")/prepare.sh"
@@ -15,8 +17,9 @@ fail() {
     echo "$*" >&2
     exit 1
 }
-. scripts/windows/libraries.sh
 out=build/windows
+. scripts/windows/libraries.sh
+. scripts/windows/zip.sh
 
 # The tree is configured from the start when it finds other libraries than last time.
 build_tree() {
@@ -64,8 +67,16 @@ start_wine() {
 run_tests() {
     say "tests"
     start_wine
-    ctest --test-dir "$out" --output-on-failure --label-exclude border \
+    ctest --test-dir "$out" --output-on-failure --label-exclude 'border|zip' \
         --parallel "$((2 * $(nproc)))" "$@"
+}
+
+# What is unpacked from a zip finds nothing by WINEPATH.
+test_zips() {
+    build release workbench_all
+    say "tests of the zips"
+    start_wine
+    ctest --test-dir "$out" --output-on-failure --label-regex zip --parallel "$((2 * $(nproc)))" "$@"
 }
 
 need_packages build run bench test windows
@@ -74,5 +85,6 @@ all) build_libraries && build_tree && run_tests ;;
 tools) ;;
 build) build_libraries && build_tree ;;
 test) build_libraries && run_tests "${@:2}" ;;
-*) fail "unknown step \"$1\": tools, build or test" ;;
+zip) build_libraries && build_tree && make_zips && test_zips ;;
+*) fail "unknown step \"$1\": tools, build, test or zip" ;;
 esac

@@ -456,6 +456,10 @@
         <translation>没有该文件</translation>
     </message>
     <message>
+        <source>%1 is missing</source>
+        <translation>缺少 %1</translation>
+    </message>
+    <message>
         <source>no entry point %1</source>
         <translation>没有入口点 %1</translation>
     </message>

@@ -1,3 +1,4 @@
+#include "MissingLibrary.h"
 #include "PluginManagerStandIn.h"
 #include "QTpluginsManger4CAM.h"
 
@@ -92,7 +93,12 @@ std::shared_ptr<QLibrary> openLibrary(const QString& file, CreateInstance* creat
     }
     auto library = std::make_shared<QLibrary>(file);
     if (!library->load()) {
-        throw FileError{file, 0, library->errorString()};
+        const QString missing = missingLibrary(file);
+        throw FileError{
+            file, 0,
+            missing.isEmpty()
+                ? library->errorString()
+                : QCoreApplication::translate("FileErrors", "%1 is missing").arg(missing)};
     }
     *create = reinterpret_cast<CreateInstance>(library->resolve("GetPluginInstance"));
     *deliver = reinterpret_cast<DeliverMessage>(library->resolve("recMsgFromManager"));

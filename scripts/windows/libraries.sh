@@ -69,9 +69,9 @@ unpack() {
     own_apt apt-get source --download-only --only-source "$1=$2" && dpkg-source -x ./*.dsc source
 }
 
-# finish PREFIX WORK: what is built is kept, what it was built from goes.
+# finish PREFIX WORK [WAY]: what is built is kept, with the way it was built; what it was built from goes.
 finish() {
-    touch "$1/complete"
+    echo "${3:-}" >"$1/complete"
     rm -rf "$2"
 }
 
@@ -168,15 +168,18 @@ build_qt() {
 
 # --- The small ones ---------------------------------------------------------------------------
 
-# cmake_library PACKAGE FOLDER OPTION...: a library that CMake builds, in that folder of its sources
+# cmake_library PACKAGE FOLDER OPTION...: a library that CMake builds, in that folder of its sources,
+# and builds anew when it is to be built in another way.
 cmake_library() {
-    local name work
+    local name work way
     name=$(source_of "$1") work=$cache/work/$(source_of "$1")
+    way="${*:2} $(cksum <"$root/cmake/mingw-w64.cmake")"
     prefixes+=("$cache/$name")
-    [ -e "$cache/$name/complete" ] && return
+    [ "$(cat "$cache/$name/complete" 2>/dev/null)" = "$way" ] && return
+    rm -rf "${cache:?}/$name"
     fetch "$name"
     once "$work" build cmake_install "$cache/$name" "${@:2}"
-    finish "$cache/$name" "$work"
+    finish "$cache/$name" "$work" "$way"
 }
 
 cmake_install() {

@@ -1,4 +1,4 @@
-// Libraries that lack an entry point, or that create no instance.
+// Libraries that lack an entry point or another library, or that create no instance.
 
 #include <PluginMetaData.h>
 
@@ -13,4 +13,17 @@ extern "C" Q_DECL_EXPORT void* GetPluginInstance(QWidget* /*parent*/)
 
 #ifndef NODELIVERY
 extern "C" Q_DECL_EXPORT void recMsgFromManager(void* /*instance*/, PluginMetaData /*message*/) {}
+#endif
+
+#ifdef ABSENT
+Q_DECL_EXPORT void inAbsentLibrary() {}
+#endif
+
+#ifdef LACKSLIBRARY
+Q_DECL_IMPORT void inAbsentLibrary();
+
+Q_DECL_EXPORT void callAbsentLibrary()
+{
+    inAbsentLibrary();
+}
 #endif

@@ -133,6 +133,16 @@ private Q_SLOTS:
         QVERIFY(!CanvasHost::unloadModule(module));
     }
 
+    void namesTheLibraryThatAModuleLacks()
+    {
+        QWidget panel;
+        const QString error = errorOf([&] {
+            CanvasHost::loadModule("LacksLibrary.dll", QStringLiteral(BAD_MODULE_DIR), &panel);
+        });
+        QVERIFY2(error.contains(QStringLiteral(ABSENT_LIBRARY)), qPrintable(error));
+        QVERIFY2(!error.contains('\n'), qPrintable(error));
+    }
+
     void constructorFaultsPassOn()
     {
         CanvasHost::uiApiOverrides().getEQVisible = []() -> bool { throw 42; };

@@ -4,6 +4,7 @@
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
+#include "shared/TimeToWrite.h"
 #include "shared/Values.h"
 
 #include <Json.h>
@@ -62,7 +63,7 @@ MessageRecord MessageRecord::of(const CanvasHost::Transfer& transfer)
 {
     const PluginMetaData& message = transfer.message;
     MessageRecord record;
-    record.time = QDateTime::currentDateTime();
+    record.time = timeToWrite();
     record.sender = message.sender;
     record.receiver = message.receiver;
     record.code = message.code;

@@ -4,15 +4,32 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <algorithm>
+#include <tuple>
+
 namespace {
 
 constexpr int frameWidth = 1;
 
-/// The windows on top of `window`, each with its place in the coordinates of `window`.
+/// Menus are above the active window, and that above the others. Which of these covers which is
+/// known to the system only; by their names they have one order in each run.
+bool isBelow(const QWidget* one, const QWidget* other)
+{
+    const auto layer = [](const QWidget* window) {
+        return std::make_tuple(window->windowType() == Qt::Popup, window->isActiveWindow(),
+                               window->objectName());
+    };
+    return layer(one) < layer(other);
+}
+
+/// The windows on top of `window`, the lowest first, each with its place in the coordinates of
+/// `window`.
 QList<std::pair<QWidget*, QRect>> windowsOver(QWidget* window)
 {
     QList<std::pair<QWidget*, QRect>> windows;
-    for (QWidget* const other : QApplication::topLevelWidgets()) {
+    QWidgetList all = QApplication::topLevelWidgets();
+    std::sort(all.begin(), all.end(), isBelow);
+    for (QWidget* const other : qAsConst(all)) {
         if (other != window && other->isVisible() && other->windowType() != Qt::ToolTip) {
             const QPoint place = window->mapFromGlobal(other->mapToGlobal(QPoint()));
             windows.append({other, QRect(place, other->size())});

@@ -116,6 +116,9 @@ void SessionRecorder::start(const QString& file, const QString& remark)
     if (!remark.isEmpty()) {
         m_file.comment(remark);
     }
+    // What is done in the platform's own dialogs is not seen here.
+    m_avoidedNativeDialogs = QApplication::testAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     qApp->installEventFilter(this);
     m_focus = connect(qApp, &QApplication::focusChanged, this,
                       [this](QWidget*, QWidget* focus) { watchText(focus); });
@@ -125,6 +128,7 @@ void SessionRecorder::start(const QString& file, const QString& remark)
 void SessionRecorder::stop(const QStringList& last)
 {
     qApp->removeEventFilter(this);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs, m_avoidedNativeDialogs);
     disconnect(m_focus);
     disconnect(m_text);
     if (m_file.last() == last) {

@@ -66,5 +66,6 @@ private:
     bool m_held = false;     ///< that button is held
     bool m_dragged = false;  ///< ... and the mouse was moved since
     QMetaObject::Connection m_text;
+    bool m_avoidedNativeDialogs = false;
     QMetaObject::Connection m_focus;
 };

@@ -26,7 +26,6 @@ QString FileQuestion::ask(QWidget* parent) const
     QFileDialog dialog(parent, title,
                        !folder.isEmpty() && QDir(folder).exists() ? folder : LastFolder::path());
     dialog.setObjectName(QStringLiteral("m_pFileDialog"));
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setNameFilters(kinds);
     if (purpose == For::Opening) {
         dialog.setFileMode(QFileDialog::ExistingFile);

@@ -6,6 +6,7 @@
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
 #include "shared/Named.h"
+#include "shared/TimeToWrite.h"
 #include "viewer/FileActions.h"
 #include "viewer/Inspector.h"
 #include "viewer/ToolSet.h"
@@ -193,7 +194,7 @@ PlaceTool* ViewerPane::startPlacing()
     m_mode = 0;
     auto tool = std::make_unique<PlaceTool>(m_canvas);
     const Pcb::Board& board = m_canvas.document().board();
-    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime now = timeToWrite();
     tool->setSpecialTexts({{"JOB", board.job},
                            {"STEP", board.step},
                            {"LAYER", QStringLiteral("top")},

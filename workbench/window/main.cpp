@@ -20,6 +20,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <QImageReader>
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QStandardPaths>
@@ -84,7 +85,7 @@ void readInputs(int argc, char* argv[], Inputs* inputs)
     }
 }
 
-/// Whether a user is at work.
+/// Whether a user is at work, and nothing is played, recorded or pictured.
 bool isByHand(const Options& options)
 {
     return !options.exit && options.sessionFile.isEmpty() && options.recordFile.isEmpty() &&
@@ -101,6 +102,16 @@ QString settingsFile(const Options& options, const QTemporaryDir& own)
                ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                      QStringLiteral("/canvas-tool-strip/workbench.ini")
                : own.filePath(QStringLiteral("workbench.ini"));
+}
+
+/// Qt reads such pictures by a plug-in, and shows nothing without it.
+void requirePictures(const char* format)
+{
+    if (!QImageReader::supportedImageFormats().contains(format)) {
+        throw FileError{
+            QStringLiteral("workbench"), 0,
+            QStringLiteral("Qt's plug-in imageformats/q%1 is missing").arg(QLatin1String(format))};
+    }
 }
 
 /// Calls `then` when `window` has been on the screen for a moment.
@@ -156,8 +167,11 @@ int run(int argc, char* argv[])
         QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     }
     const auto application = openApplication(argc, argv, BadInput);
+    requirePictures("jpeg");
     QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
     QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
+    // A session cannot reach into the dialogs of the platform.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs, !isByHand(inputs.options));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
     const QTemporaryDir ownSettings;
     Settings::keepIn(settingsFile(inputs.options, ownSettings));
@@ -174,6 +188,7 @@ int run(int argc, char* argv[])
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
     window.start();
+    requirePictures("svg");  // after the canvas, which would name Qt's library that both need
     if (!inputs.options.boardFile.isEmpty()) {
         window.canvas()->files().openAtOnce(inputs.options.boardFile);
     }

@@ -87,6 +87,7 @@ public:
     }
     QString offered;
     QString folder;
+    bool mayBeNative = false;
 
 private:
     void answer(QFileDialog* dialog, const QString& file, int filter)
@@ -97,6 +98,7 @@ private:
             m_dialog = dialog;
             offered = name.text();
             folder = dialog->directory().path();
+            mayBeNative = !dialog->testOption(QFileDialog::DontUseNativeDialog);
             if (filter > 0) {
                 dialog->selectNameFilter(dialog->nameFilters().at(filter));
                 Q_EMIT dialog->filterSelected(dialog->nameFilters().at(filter));
@@ -165,6 +167,14 @@ private Q_SLOTS:
         QVERIFY(fixture.saved("a.json").size() > before);
         QVERIFY(!fixture.files().isModified());
         QVERIFY(fixture.document().history().canRedo());
+    }
+
+    void dialogIsThatOfThePlatform()
+    {
+        const FileFixture fixture;
+        const Chosen chosen(fixture.path("a"));
+        fixture.action("m_pSaveBoardAct").trigger();
+        QVERIFY(chosen.mayBeNative);
     }
 
     void openingAsksFirst()

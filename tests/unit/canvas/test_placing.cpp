@@ -129,6 +129,21 @@ private Q_SLOTS:
         QCOMPARE(fixture.features()[0].geometry().text.content, QString("job"));
     }
 
+    void dateOfTheTextCanBeGiven()
+    {
+        qputenv("SOURCE_DATE_EPOCH", "86400");
+        const CanvasFixture fixture;
+        fixture.receive(Sent::Record, 0,
+                        {{RecordKeys::features, FeatureKind::text.toInt()},
+                         {RecordKeys::textFormat, TextKind::string},
+                         {RecordKeys::textContains, "$$DATE"},
+                         {RecordKeys::stringXSize, "2000"},
+                         {RecordKeys::stringYSize, "2000"}});
+        qunsetenv("SOURCE_DATE_EPOCH");
+        fixture.click(4000, 5000);
+        QCOMPARE(fixture.features()[0].geometry().text.content, QString("1970-01-02"));
+    }
+
     void whatACodeCannotCarryIsSaid()
     {
         const CanvasFixture fixture;

@@ -440,6 +440,16 @@ private Q_SLOTS:
         QVERIFY(errorOf([&] { recorder.start(nowhere); }).startsWith(nowhere + ": "));
     }
 
+    void platformsDialogsWaitUntilItStops()
+    {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+        SessionRecorder recorder(m_window.get());
+        recorder.start(m_folder.filePath("dialogs.session"));
+        QVERIFY(QApplication::testAttribute(Qt::AA_DontUseNativeDialogs));
+        recorder.stop({});
+        QVERIFY(!QApplication::testAttribute(Qt::AA_DontUseNativeDialogs));
+    }
+
     void wordsSurviveTheFile()
     {
         const QStringList words{"type", "m_pX", "",   "a b", "#x",

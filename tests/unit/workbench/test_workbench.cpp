@@ -4,6 +4,7 @@
 #include "Main.h"
 #include "messages/MessageNames.h"
 #include "messages/MessageRecord.h"
+#include "messages/WindowPicture.h"
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
@@ -16,7 +17,12 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QTest>
 #include <QTranslator>
+#include <QWidget>
+
+#include <memory>
+#include <vector>
 
 namespace Sent = MessageCodes::Sent;
 
@@ -127,6 +133,41 @@ private Q_SLOTS:
         QCOMPARE(payload[RecordKeys::line].toObject()["type"].toString(), QString("text"));
         QCOMPARE(payload[RecordKeys::line].toObject()["value"], QJsonValue(LineKind::single));
         QVERIFY(!record.toJson().contains('\n'));
+    }
+
+    void timeOfARecordCanBeGiven()
+    {
+        const auto time = [](const char* seconds) {
+            qputenv("SOURCE_DATE_EPOCH", seconds);
+            const MessageRecord record = MessageRecord::of(
+                {nullptr, PluginMetaData(ModuleNames::toolStrip, ModuleNames::viewer), true, {}});
+            qunsetenv("SOURCE_DATE_EPOCH");
+            return QJsonDocument::fromJson(record.toJson()).object()["time"].toString();
+        };
+        QCOMPARE(time("86400"), QString("1970-01-02T00:00:00.000Z"));
+        QVERIFY(time("today") > "2000");
+    }
+
+    void activeWindowIsOnTopInAPicture()
+    {
+        QWidget below;
+        below.setGeometry(0, 0, 40, 40);
+        below.show();
+        std::vector<std::unique_ptr<QWidget>> windows;
+        for (const char* const name : {"a", "b", "c", "d", "e", "f", "g", "h"}) {
+            windows.push_back(std::make_unique<QWidget>());
+            windows.back()->setObjectName(name);
+            windows.back()->setGeometry(10, 10, 20, 20);
+            windows.back()->setPalette(QColor(int(windows.size()) * 20, 0, 0));
+            windows.back()->show();
+            QVERIFY(QTest::qWaitForWindowActive(windows.back().get()));
+            const QImage picture = pictureOf(&below).toImage();
+            QCOMPARE(qRed(picture.pixel(20, 20)), int(windows.size()) * 20);
+        }
+        // Of the others the last by name.
+        below.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&below));
+        QCOMPARE(qRed(pictureOf(&below).toImage().pixel(20, 20)), 160);
     }
 
     void options()

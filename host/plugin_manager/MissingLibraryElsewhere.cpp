@@ -1,0 +1,6 @@
+#include "MissingLibrary.h"
+
+QString CanvasHost::missingLibrary(const QString&)
+{
+    return {};
+}

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Unpacks both zips, and checks what is in them:
+# names, dates and licences.
+# Usage: unpack.sh ZIP FOLDER   (ZIP without its ending: the other one ends in -dev.zip)
+set -eu
+zip=$1 folder=$2
+name=${zip##*/}
+rm -rf "$folder"
+mkdir -p "$folder"
+cd "$folder"
+for one in "$name" "$name-dev"; do
+    cmake -E tar xf "${zip%/*}/$one.zip"
+    # One folder, which has the zip's name; all dates are one.
+    [ -d "$one" ] || { echo "$one.zip holds no folder of that name"; exit 1; }
+    dates=$(find "$one" -type f -printf '%T@\n' | sort -u | wc -l)
+    [ "$dates" -eq 1 ] || { echo "$one.zip has files of $dates dates"; exit 1; }
+done
+[ "$(ls | wc -l)" -eq 2 ] || { ls; echo "more than a folder in each zip"; exit 1; }
+
+# holds FILE...: the folder that we are in holds these files.
+holds() {
+    for file in "$@"; do
+        [ -s "$file" ] || { echo "${PWD##*/}: no $file"; exit 1; }
+    done
+}
+private=lib/canvas-tool-strip
+cd "$name"
+holds README.txt LICENSE.txt CHANGELOG.md bin/canvas-workbench.exe \
+    $private/modules/Canvas_{Tool_Strip,Viewer,JobTree,Dimensions}.dll \
+    $private/translations/{Canvas_Tool_Strip,workbench}_zh_CN.qm translations/qtbase_zh_CN.qm \
+    share/canvas-tool-strip/samples/{board.json,sessions/unit.session} \
+    share/doc/canvas-tool-strip/{docs/protocol,workbench/docs/sessions}.md
+if find . -name '*.h' -o -name '*.a' -o -name '*.cmake' | grep .; then
+    echo "$name: files for development"
+    exit 1
+fi
+# All that comes from elsewhere is in the list of licences, and these are there.
+for file in $(find bin plugins translations -type f ! -name 'libCanvasHost*' ! -name '*.exe' ! -name qt.conf); do
+    source=$(awk -v file="$file" '$1 == file { sub(",", "", $2); print $2 }' licences/README.txt)
+    [ -n "$source" ] || { echo "$file: under which licence?"; exit 1; }
+    holds "licences/$source.txt"
+done
+for text in $(grep -ohE '/common-licenses/[A-Za-z0-9.-]*[A-Za-z0-9]' licences/*.txt | sort -u); do
+    holds "licences/common/${text##*/}"
+done
+cd "../$name-dev"
+holds README.txt LICENSE.txt $private/modules/Canvas_Tool_Strip.dll bin/host_check{,_pair}.exe \
+    lib/lib{Canvas_Tool_Strip.dll,CanvasHostUiApi.dll,canvas_tool_strip_protocol}.a \
+    lib/cmake/{CanvasHost/CanvasHost,CanvasToolStrip/CanvasToolStrip}Config{,Version}.cmake \
+    include/CanvasHost/ui_api.h include/CanvasToolStrip/plugin/PluginEntry.h \
+    examples/minimal_host/main.cpp examples/host_package/CanvasHostConfig.cmake docs/integrating.md
+if find . -iname '*Qt5*' -o -name 'libglog*' | grep .; then
+    echo "$name-dev: libraries that a host brings itself"
+    exit 1
+fi

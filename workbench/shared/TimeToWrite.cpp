@@ -1,0 +1,8 @@
+#include "shared/TimeToWrite.h"
+
+QDateTime timeToWrite()
+{
+    bool isGiven = false;
+    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isGiven);
+    return isGiven ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC) : QDateTime::currentDateTime();
+}
