@@ -6,6 +6,7 @@
 #include "board/Unknowns.h"
 
 #include <Files.h>
+#include <TimeToWrite.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -119,21 +120,13 @@ void writeFeature(GerberWriter& writer, const Feature& feature)
     }
 }
 
-QString creationDate()
-{
-    bool isFixed = false;
-    const qint64 fixed = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isFixed);
-    const QDateTime date =
-        isFixed ? QDateTime::fromSecsSinceEpoch(fixed, Qt::UTC) : QDateTime::currentDateTimeUtc();
-    return date.toString(Qt::ISODate);
-}
-
 /// "#@!" marks an attribute of Gerber X2 in a comment, which older readers skip.
 void writeOrigin(GerberWriter& writer, const Board& board)
 {
     writer.comment(QStringLiteral(
         "#@! TF.GenerationSoftware,Canvas Tool Strip,canvas-workbench," WORKBENCH_VERSION));
-    writer.comment(QStringLiteral("#@! TF.CreationDate,") + creationDate());
+    writer.comment(QStringLiteral("#@! TF.CreationDate,") +
+                   CanvasHost::timeToWrite().toUTC().toString(Qt::ISODate));
     if (!board.job.isEmpty()) {
         writer.comment(QStringLiteral("Job: ") + board.job);
     }

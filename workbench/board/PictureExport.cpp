@@ -50,6 +50,12 @@ QPainterPath copyOf(const QPainterPath& path)
     return copy;
 }
 
+/// What is left out of the picture; empty where nothing is.
+QString comment(const Board& board)
+{
+    return wordsInFile(unknownsOf(board)).join(QLatin1Char('\n'));
+}
+
 }  // namespace
 
 void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const QRectF& target,
@@ -93,7 +99,9 @@ void writePng(const Board& board, const QString& file, int pixels, const Progres
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    toImage(board, pixels, {}, progress).save(&buffer, "PNG");
+    QImage image = toImage(board, pixels, {}, progress);
+    image.setText(QStringLiteral("Comment"), comment(board));
+    image.save(&buffer, "PNG");
     CanvasHost::writeWhole(file, buffer.data());
 }
 
@@ -109,8 +117,7 @@ void writeSvg(const Board& board, const QString& file, const Progress& progress)
     generator.setViewBox(QRectF(QPointF(), area.size()));
     // Qt writes both as they are.
     generator.setTitle((board.job + QLatin1Char(' ') + board.step).trimmed().toHtmlEscaped());
-    generator.setDescription(
-        wordsInFile(unknownsOf(board)).join(QLatin1Char('\n')).toHtmlEscaped());
+    generator.setDescription(comment(board).toHtmlEscaped());
     QPainter painter(&generator);
     paintBoard(painter, board, area, QRectF(QPointF(), area.size()), {}, progress);
     painter.end();

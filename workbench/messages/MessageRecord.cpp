@@ -4,10 +4,10 @@
 #include "plugin/ExtraWord.h"
 #include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
-#include "shared/TimeToWrite.h"
 #include "shared/Values.h"
 
 #include <Json.h>
+#include <TimeToWrite.h>
 
 #include <QJsonObject>
 #include <QStringList>
@@ -63,7 +63,7 @@ MessageRecord MessageRecord::of(const CanvasHost::Transfer& transfer)
 {
     const PluginMetaData& message = transfer.message;
     MessageRecord record;
-    record.time = timeToWrite();
+    record.time = CanvasHost::timeToWrite();
     record.sender = message.sender;
     record.receiver = message.receiver;
     record.code = message.code;

@@ -6,7 +6,6 @@
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
 #include "shared/Named.h"
-#include "shared/TimeToWrite.h"
 #include "viewer/FileActions.h"
 #include "viewer/Inspector.h"
 #include "viewer/ToolSet.h"
@@ -17,6 +16,7 @@
 #include <CommonWidgetsStandIn.h>
 #include <PluginManagerStandIn.h>
 #include <QTpluginsManger4CAM.h>
+#include <TimeToWrite.h>
 
 #include <QDateTime>
 #include <QMessageBox>
@@ -194,7 +194,7 @@ PlaceTool* ViewerPane::startPlacing()
     m_mode = 0;
     auto tool = std::make_unique<PlaceTool>(m_canvas);
     const Pcb::Board& board = m_canvas.document().board();
-    const QDateTime now = timeToWrite();
+    const QDateTime now = CanvasHost::timeToWrite();
     tool->setSpecialTexts({{"JOB", board.job},
                            {"STEP", board.step},
                            {"LAYER", QStringLiteral("top")},

@@ -8,6 +8,7 @@
 
 #include <Files.h>
 
+#include <QImage>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 
@@ -147,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(toGerber(known).contains("shape: \"a\\u002A\\u0025b\"*\n"));
     }
 
-    void picturesLeaveThemOutAndDrawingsSaySo()
+    void picturesLeaveThemOutAndSaySo()
     {
         const QTemporaryDir folder;
         const QString name = folder.filePath(QStringLiteral("board.svg"));
@@ -163,6 +164,12 @@ private Q_SLOTS:
         QCOMPARE(image, toImage(board, 660));
         writeSvg(board, name);
         QVERIFY(!CanvasHost::readWhole(name).contains("Left out"));
+        const QString picture = folder.filePath(QStringLiteral("board.png"));
+        writePng(board, picture, 100);
+        QCOMPARE(QImage(picture).text(QStringLiteral("Comment")), QString());
+        writePng(mixed(), picture, 100);
+        QVERIFY(
+            QImage(picture).text(QStringLiteral("Comment")).contains(QStringLiteral("nick<1>")));
     }
 };
 

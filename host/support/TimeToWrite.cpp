@@ -1,6 +1,6 @@
-#include "shared/TimeToWrite.h"
+#include "TimeToWrite.h"
 
-QDateTime timeToWrite()
+QDateTime CanvasHost::timeToWrite()
 {
     bool isGiven = false;
     const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isGiven);

@@ -1,7 +1,0 @@
-#pragma once
-
-#include <QDateTime>
-
-/// The time that messages and boards are marked with: now, or that of SOURCE_DATE_EPOCH (seconds
-/// since 1970, shown as UTC), so that what is written can be compared.
-QDateTime timeToWrite();
