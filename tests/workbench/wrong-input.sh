@@ -26,6 +26,11 @@ expect() {
 printf '{ "format": 1,\n  "jobs": [\n' >"$dir/open.json"
 printf '{ "format": 1,\n  "jobs": [ { "name": 7 } ] }\n' >"$dir/name.json"
 printf '\377\376' >"$dir/binary.json"
+cat >"$dir/odd.json" <<'END'
+{ "format": 1, "job": "a", "step": "b", "outline": [], "features": [
+  { "kind": "pad", "symbol": "odd", "points": [[1, 1]], "polarity": "positive", "mirror": false,
+    "rotation": 0, "xScale": 1, "yScale": 1, "attributes": {} } ] }
+END
 printf 'click m_pMarkTB\njump\n' >"$dir/jump.session"
 printf '\n\nclick m_p\377\n' >"$dir/binary.session"
 printf 'send 20001811 extra=77\n' >"$dir/address.session"
@@ -68,6 +73,7 @@ expect 2 "$dir/no/Canvas_Viewer.$suffix: no such file" --modules "$dir/no"
 expect 2 "$dir/modules/Canvas_JobTree.$suffix: " --modules "$dir/modules"
 expect 2 "Canvas_Viewer.dll: is not a canvas for this window" --modules "$dir/swapped"
 expect 2 "$dir/no/picture.png" --screenshot "$dir/no/picture.png"
+expect 0 "\"odd\"" --board "$dir/odd.json" --export "$dir/odd.gbr"
 expect 1 "$dir/absent-widget.session:2: no widget \"m_pMarkTC\"; there is m_pMarkTB" \
     --play "$dir/absent-widget.session"
 expect 1 "$dir/extra.session:2: expected message 20000207 with extra=1, got message 20000207 with extra=0" \

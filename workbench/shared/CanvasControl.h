@@ -15,8 +15,9 @@ public:
     virtual ~BoardFiles() = default;
 
     /// For files that a program has named: nothing is asked. Both throw a CanvasHost::FileError.
+    /// exportTo() returns what was left out, in words; nothing where nothing was.
     virtual void openAtOnce(const QString& file) = 0;
-    virtual void exportTo(const QString& file) = 0;
+    virtual QString exportTo(const QString& file) = 0;
 
     /// As the user asks for it: before changes are lost, and about errors, there is a box.
     /// False: it was not opened.

@@ -104,7 +104,9 @@ QString FileActions::file() const
 
 void FileActions::openAtOnce(const QString& file)
 {
-    show(Pcb::readBoardFile(file), file);
+    const Pcb::Board board = Pcb::readBoardFile(file);
+    show(board, file);
+    sayOpened(file, UnknownTexts::drawn(Pcb::unknownsOf(board)));
 }
 
 void FileActions::show(const Pcb::Board& board, const QString& file)
@@ -113,13 +115,18 @@ void FileActions::show(const Pcb::Board& board, const QString& file)
     setFile(shown(), file);
     FileNames::remember(file);
     Q_EMIT opened();
-    const QString unknown = UnknownTexts::drawn(Pcb::unknownsOf(board));
+}
+
+void FileActions::sayOpened(const QString& file, const QString& unknown)
+{
     m_canvas.say((unknown + QLatin1Char(' ') + tr("Opened %1.").arg(file)).trimmed());
 }
 
-void FileActions::exportTo(const QString& file)
+QString FileActions::exportTo(const QString& file)
 {
-    Pcb::exportBoard(m_canvas.document().board(), file);
+    const Pcb::Board board = m_canvas.document().board();
+    Pcb::exportBoard(board, file);
+    return UnknownTexts::leftOut(Pcb::unknownsOf(board));
 }
 
 bool FileActions::open(const QString& file)
@@ -135,7 +142,9 @@ bool FileActions::tryToOpen(const QString& file)
                 [&](const Pcb::Progress& progress) { board = Pcb::readBoardFile(file, progress); });
     if (isRead) {
         show(board, file);
-        tell(UnknownTexts::drawn(Pcb::unknownsOf(board)));
+        const QString unknown = UnknownTexts::drawn(Pcb::unknownsOf(board));
+        tell(unknown);
+        sayOpened(file, unknown);
     }
     return isRead;
 }
@@ -184,8 +193,8 @@ void FileActions::chooseAndExport()
                 tr("Exporting %1...").arg(QFileInfo(chosen).fileName()),
                 [&](const Pcb::Progress& progress) { exportBoard(board, chosen, progress); })) {
         LastFolder::remember(chosen);
-        m_canvas.say(tr("Wrote %1.").arg(chosen));
         tell(UnknownTexts::leftOut(Pcb::unknownsOf(board)));
+        m_canvas.say(tr("Wrote %1.").arg(chosen));
     }
 }
 
@@ -334,5 +343,6 @@ bool FileActions::recover(const KeptStep& kept)
     setFile(step, kept.boardFile);
     m_recovery->takeOver(kept, static_cast<size_t>(&step - m_steps.data()));
     Q_EMIT opened();
+    tell(UnknownTexts::drawn(Pcb::unknownsOf(board)));
     return true;
 }

@@ -31,7 +31,7 @@ public:
 
     // BoardFiles
     void openAtOnce(const QString& file) override;
-    void exportTo(const QString& file) override;
+    QString exportTo(const QString& file) override;
     bool open(const QString& file) override;
     bool mayClose() override;
     void closeAll() override;
@@ -59,6 +59,7 @@ private:
     void startNew();
     bool tryToOpen(const QString& file);
     void show(const Pcb::Board& board, const QString& file);
+    void sayOpened(const QString& file, const QString& unknown);
     void chooseAndOpen();
     void saveShown();
     void saveShownAs();

@@ -76,9 +76,9 @@ void showProgress(WorkThread& thread, QEventLoop& untilFinished, QWidget* parent
     bar->setRange(0, steps);
     dialog.setBar(bar);
     dialog.setLabel(named(new QLabel(text, &dialog), "m_pProgressLB"));
-    dialog.setCancelButton(
-        named(new QPushButton(QCoreApplication::translate("LongWork", "Cancel"), &dialog),
-              "m_pProgressCancelPB"));
+    // The dialog's own button: with another one, Escape would be the shortcut of both.
+    dialog.setCancelButtonText(QCoreApplication::translate("LongWork", "Cancel"));
+    named(dialog.findChild<QPushButton*>(), "m_pProgressCancelPB");
     // The dialog would hide when it is cancelled; but the program has to wait a little longer.
     QObject::disconnect(&dialog, &QProgressDialog::canceled, &dialog, &QProgressDialog::cancel);
     QObject::connect(&dialog, &QProgressDialog::canceled, [&] {

@@ -131,7 +131,10 @@ void whenPainted(QWidget* window, const std::function<void()>& then)
 void writeOutputs(const Options& options, WorkbenchWindow* window)
 {
     if (!options.exportFile.isEmpty()) {
-        window->canvas()->files().exportTo(options.exportFile);
+        const QString leftOut = window->canvas()->files().exportTo(options.exportFile);
+        if (!leftOut.isEmpty()) {
+            complain(options.exportFile + QStringLiteral(": ") + leftOut);
+        }
     }
     if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
         throw FileError{options.screenshotFile, 0,
@@ -159,6 +162,25 @@ void keepForRecovery(const Options& options, const WorkbenchWindow& window)
     }
 }
 
+/// What the program remembers, and how it looks.
+void prepare(Options* options, const QTemporaryDir& ownSettings)
+{
+    QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
+    QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
+    // A session cannot reach into the dialogs of the platform.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs, !isByHand(*options));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
+    Settings::keepIn(settingsFile(*options, ownSettings));
+    if (!options->sessionFile.isEmpty() || !options->recordFile.isEmpty()) {
+        Settings::ignoreChoices();
+    }
+    options->recall();
+    if (options->isJobGiven) {
+        LastFolder::remember(options->jobFile);
+    }
+    Look::dress(*options);
+}
+
 int run(int argc, char* argv[])
 {
     Inputs inputs;
@@ -168,28 +190,16 @@ int run(int argc, char* argv[])
     }
     const auto application = openApplication(argc, argv, BadInput);
     requirePictures("jpeg");
-    QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
-    QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
-    // A session cannot reach into the dialogs of the platform.
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs, !isByHand(inputs.options));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/canvas-workbench.svg")));
     const QTemporaryDir ownSettings;
-    Settings::keepIn(settingsFile(inputs.options, ownSettings));
-    if (!inputs.options.sessionFile.isEmpty() || !inputs.options.recordFile.isEmpty()) {
-        Settings::ignoreChoices();
-    }
-    inputs.options.recall();
-    if (inputs.options.isJobGiven) {
-        LastFolder::remember(inputs.options.jobFile);
-    }
-    Look::dress(inputs.options);
+    prepare(&inputs.options, ownSettings);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
     WorkbenchWindow window(inputs.options, &log);
     window.start();
     requirePictures("svg");  // after the canvas, which would name Qt's library that both need
-    if (!inputs.options.boardFile.isEmpty()) {
+    const bool hasBoard = !inputs.options.boardFile.isEmpty();
+    if (hasBoard && !isByHand(inputs.options)) {
         window.canvas()->files().openAtOnce(inputs.options.boardFile);
     }
     if (!inputs.options.recordFile.isEmpty()) {
@@ -204,6 +214,9 @@ int run(int argc, char* argv[])
     const bool isPlayed = !inputs.options.sessionFile.isEmpty();
     QObject::connect(&player, &SessionPlayer::finished, &window, [&] {
         end(inputs.options, &window);
+        if (hasBoard && isByHand(inputs.options)) {
+            window.canvas()->files().open(inputs.options.boardFile);
+        }
         if (!isPlayed) {
             keepForRecovery(inputs.options, window);
         }

@@ -29,20 +29,24 @@ void takeTime(const Pcb::Progress& progress, int milliseconds)
     }
 }
 
+enum class CancelBy { Nothing, Button, Escape };
+
 /// What the progress dialog looks like while it is shown; may cancel it.
 class ProgressWatcher {
 public:
-    explicit ProgressWatcher(bool cancels = false)
+    explicit ProgressWatcher(CancelBy by = CancelBy::Nothing)
     {
-        QObject::connect(&m_timer, &QTimer::timeout, [this, cancels] {
+        QObject::connect(&m_timer, &QTimer::timeout, [this, by] {
             auto* const dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
             const QCursor* const cursor = QGuiApplication::overrideCursor();
             wasBusy = wasBusy || (cursor && cursor->shape() == Qt::BusyCursor);
             if (dialog) {
                 texts.append(dialog->labelText());
                 values.append(findNamed<QProgressBar>(*dialog, "m_pProgressBar").value());
-                if (cancels) {
+                if (by == CancelBy::Button) {
                     findNamed<QAbstractButton>(*dialog, "m_pProgressCancelPB").click();
+                } else if (by == CancelBy::Escape) {
+                    QTest::keyClick(dialog, Qt::Key_Escape);
                 }
             }
         });
@@ -68,6 +72,8 @@ Pcb::Board boardOfPads(int count)
 }
 
 }  // namespace
+
+Q_DECLARE_METATYPE(CancelBy)
 
 class TestLongWork : public QObject {
     Q_OBJECT
@@ -97,10 +103,18 @@ private Q_SLOTS:
         QVERIFY(watcher.values.last() > 700 && watcher.values.last() <= 1000);
     }
 
+    void itCanBeCancelled_data()
+    {
+        QTest::addColumn<CancelBy>("by");
+        QTest::newRow("button") << CancelBy::Button;
+        QTest::newRow("Escape") << CancelBy::Escape;
+    }
+
     void itCanBeCancelled()
     {
+        QFETCH(CancelBy, by);
         QWidget window;
-        const ProgressWatcher watcher(true);
+        const ProgressWatcher watcher(by);
         QElapsedTimer since;
         since.start();
         QVERIFY(!LongWork::run(&window, "work",
@@ -176,7 +190,7 @@ private Q_SLOTS:
         const CanvasFixture fixture({Pcb::Feature(Pcb::padGeometry("r60", {5000, 5000}))});
         auto& files = *fixture.pane->findChild<FileActions*>();
         {
-            const ProgressWatcher watcher(true);
+            const ProgressWatcher watcher(CancelBy::Button);
             QVERIFY(!files.open(file));
             QCOMPARE(watcher.texts.value(0), QString("Opening large.json..."));
         }

@@ -93,7 +93,7 @@ private:
         QWidget* const modal = QApplication::activeModalWidget();
         if (auto* const box = qobject_cast<QMessageBox*>(modal)) {
             boxes.append(box->text());
-            box->accept();
+            QTest::keyClick(box, Qt::Key_Return);
         } else if (auto* const dialog = qobject_cast<QFileDialog*>(modal)) {
             auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
             name.clear();
@@ -153,6 +153,7 @@ private Q_SLOTS:
             QCOMPARE(fixture.boxes,
                      QStringList(QString("Features of unknown shape, left out of the file: 4. ") +
                                  whichOnes));
+            QCOMPARE(fixture.text("m_pCanvasStatusLB"), "Wrote " + fixture.path(name) + ".");
             QVERIFY(CanvasHost::readWhole(fixture.path(name)).contains("Left out, symbols"));
         }
     }
