@@ -176,6 +176,7 @@ private Q_SLOTS:
         m_window.reset();
         m_window = startWorkbench(*m_log, options);
         m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QStringList texts = textsOf(m_window->menuBar()->actions());
         for (const QWidget* const widget : m_window->findChildren<QWidget*>()) {
             const auto* const label = qobject_cast<const QLabel*>(widget);

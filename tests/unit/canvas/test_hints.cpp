@@ -261,7 +261,7 @@ private Q_SLOTS:
         fixture.receive(Sent::Record, 0, lineRecord(LineKind::single));
         auto& hint = findNamed<QLabel>(*fixture.pane, "m_pPickHintLB");
         const QString whole = hint.text();
-        QLabel expected(whole);
+        QLabel expected(whole, fixture.pane);
         expected.setFont(hint.font());
         const int width = expected.sizeHint().width() - missing;
         expected.setText(hint.fontMetrics().elidedText(whole, Qt::ElideRight, width));
