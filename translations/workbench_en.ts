@@ -38,4 +38,21 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>UnknownTexts</name>
+    <message numerus="yes">
+        <source>%n feature(s) of unknown shape drawn as outlines.</source>
+        <translation>
+            <numerusform>%n feature of unknown shape drawn as an outline.</numerusform>
+            <numerusform>%n features of unknown shape drawn as outlines.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s) of unknown shape left out of the file.</source>
+        <translation>
+            <numerusform>%n feature of unknown shape left out of the file.</numerusform>
+            <numerusform>%n features of unknown shape left out of the file.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Show the whole board</source>
-        <translation>显示整块板</translation>
+        <translation>显示整块电路板</translation>
     </message>
     <message>
         <source>Zoom in</source>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation>打开(&amp;O)...</translation>
+        <translation>打开(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -334,23 +334,23 @@
     </message>
     <message>
         <source>Save &amp;As...</source>
-        <translation>另存为(&amp;A)...</translation>
+        <translation>另存为(&amp;A)…</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation>导出(&amp;E)...</translation>
+        <translation>导出(&amp;E)…</translation>
     </message>
     <message>
         <source>Open a board file</source>
-        <translation>打开板文件</translation>
+        <translation>打开电路板文件</translation>
     </message>
     <message>
         <source>Save the board as a file</source>
-        <translation>将板保存为文件</translation>
+        <translation>将电路板保存为文件</translation>
     </message>
     <message>
         <source>Export the board as Gerber or as a picture</source>
-        <translation>将板导出为 Gerber 或图片</translation>
+        <translation>将电路板导出为 Gerber 或图片</translation>
     </message>
     <message>
         <source>Opened %1.</source>
@@ -374,15 +374,15 @@
     </message>
     <message>
         <source>Cannot open the board</source>
-        <translation>无法打开板</translation>
+        <translation>无法打开电路板</translation>
     </message>
     <message>
         <source>Cannot export the board</source>
-        <translation>无法导出板</translation>
+        <translation>无法导出电路板</translation>
     </message>
     <message>
         <source>Cannot save the board</source>
-        <translation>无法保存板</translation>
+        <translation>无法保存电路板</translation>
     </message>
     <message>
         <source>Opening %1...</source>
@@ -430,10 +430,6 @@
     <message>
         <source>must be more than 0</source>
         <translation>必须大于 0</translation>
-    </message>
-    <message>
-        <source>the name must end in .json, .gbr, .png or .svg</source>
-        <translation>文件名必须以 .json、.gbr、.png 或 .svg 结尾</translation>
     </message>
     <message>
         <source>the picture cannot be written</source>
@@ -533,7 +529,7 @@
     </message>
     <message>
         <source>a board</source>
-        <translation>板文件</translation>
+        <translation>电路板文件</translation>
     </message>
     <message>
         <source>a job file</source>
@@ -571,6 +567,10 @@
         <source>no file can be written there</source>
         <translation>无法在该处写入文件</translation>
     </message>
+    <message>
+        <source>the name must end in .gbr, .png or .svg</source>
+        <translation>文件名必须以 .gbr、.png 或 .svg 结尾</translation>
+    </message>
 </context>
 <context>
     <name>FileNames</name>
@@ -588,19 +588,19 @@
     </message>
     <message>
         <source>Board (*.json)</source>
-        <translation>板 (*.json)</translation>
+        <translation>电路板 (*.json)</translation>
     </message>
     <message>
         <source>Open Board</source>
-        <translation>打开板</translation>
+        <translation>打开电路板</translation>
     </message>
     <message>
         <source>Save Board</source>
-        <translation>保存板</translation>
+        <translation>保存电路板</translation>
     </message>
     <message>
         <source>Export Board</source>
-        <translation>导出板</translation>
+        <translation>导出电路板</translation>
     </message>
 </context>
 <context>
@@ -633,7 +633,7 @@
     <name>Lengths</name>
     <message>
         <source>mil</source>
-        <translation>mil (密耳)</translation>
+        <translation>mil（密耳）</translation>
     </message>
     <message>
         <source>inch</source>
@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>Filter: any text of a message</source>
-        <translation>过滤: 消息中的任意文字</translation>
+        <translation>过滤：消息中的任意文字</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -834,11 +834,11 @@
     </message>
     <message>
         <source>Save...</source>
-        <translation>保存...</translation>
+        <translation>保存…</translation>
     </message>
     <message>
         <source>Compose...</source>
-        <translation>编写...</translation>
+        <translation>编写…</translation>
     </message>
     <message>
         <source>Message traces (*.jsonl)</source>
@@ -939,7 +939,7 @@
     </message>
     <message>
         <source>Select a Symbol on the Board</source>
-        <translation>在板上选取符号</translation>
+        <translation>在电路板上选取符号</translation>
     </message>
     <message>
         <source>Feature Record</source>
@@ -947,11 +947,11 @@
     </message>
     <message>
         <source>Feature Record (Direction)</source>
-        <translation>图元记录 (方向)</translation>
+        <translation>图元记录（方向）</translation>
     </message>
     <message>
         <source>Select Attributes on the Board</source>
-        <translation>在板上选取属性</translation>
+        <translation>在电路板上选取属性</translation>
     </message>
     <message>
         <source>Area Zoom</source>
@@ -1219,15 +1219,15 @@
     </message>
     <message>
         <source>Click a corner</source>
-        <translation>单击一个角点</translation>
+        <translation>单击一个顶点</translation>
     </message>
     <message>
         <source>Click the opposite corner</source>
-        <translation>单击对角点</translation>
+        <translation>单击对角顶点</translation>
     </message>
     <message>
         <source>Click the next corner</source>
-        <translation>单击下一个角点</translation>
+        <translation>单击下一个顶点</translation>
     </message>
     <message>
         <source>Click a point of the circle</source>
@@ -1238,20 +1238,8 @@
         <translation>单击槽的中心</translation>
     </message>
     <message>
-        <source>Click the centre of the first pad</source>
-        <translation>单击第一个焊盘的中心</translation>
-    </message>
-    <message>
         <source>Click the centre of the pad</source>
         <translation>单击焊盘的中心</translation>
-    </message>
-    <message>
-        <source>Click the second point of the circle</source>
-        <translation>单击圆上第二点</translation>
-    </message>
-    <message>
-        <source>Click the third point of the circle</source>
-        <translation>单击圆上第三点</translation>
     </message>
     <message>
         <source>Click the direction of the end</source>
@@ -1262,24 +1250,12 @@
         <translation>单击圆弧中间的一点</translation>
     </message>
     <message>
-        <source>Click the direction that gives the angle</source>
-        <translation>单击给出角度的方向</translation>
-    </message>
-    <message>
         <source>Click as far from the start as the arc is long</source>
         <translation>单击一点，其到起点的距离为弧长</translation>
     </message>
     <message>
-        <source>Click so that the angle at the start, to the end, is half the arc&apos;s</source>
-        <translation>单击一点，其在起点处与终点的夹角为圆弧角度的一半</translation>
-    </message>
-    <message>
         <source>Click as far from the end as the radius is long</source>
         <translation>单击一点，其到终点的距离为半径</translation>
-    </message>
-    <message>
-        <source>Click the lower left corner of the text</source>
-        <translation>单击文字的左下角</translation>
     </message>
     <message>
         <source>its code cannot carry &quot;%1&quot;</source>
@@ -1288,14 +1264,6 @@
     <message>
         <source>the font lacks &quot;%1&quot;</source>
         <translation>字体缺少“%1”</translation>
-    </message>
-    <message>
-        <source>no symbol is named, %1 is drawn</source>
-        <translation>未指定符号，将绘制 %1</translation>
-    </message>
-    <message>
-        <source>the shape of &quot;%1&quot; is not known, an outline is drawn</source>
-        <translation>“%1”的形状未知，只画轮廓</translation>
     </message>
     <message>
         <source>a right click ends it</source>
@@ -1324,6 +1292,38 @@ dy %4</source>
         <translation>%1，%2
 dx %3
 dy %4</translation>
+    </message>
+    <message>
+        <source>Click the first pad&apos;s centre</source>
+        <translation>单击第一个焊盘的中心</translation>
+    </message>
+    <message>
+        <source>Click the circle&apos;s second point</source>
+        <translation>单击圆上第二点</translation>
+    </message>
+    <message>
+        <source>Click the circle&apos;s third point</source>
+        <translation>单击圆上第三点</translation>
+    </message>
+    <message>
+        <source>Click where the angle ends</source>
+        <translation>单击角度的终止方向</translation>
+    </message>
+    <message>
+        <source>Click where the angle at the start is half the arc&apos;s</source>
+        <translation>单击一点，使起点处的角为圆弧角度的一半</translation>
+    </message>
+    <message>
+        <source>Click the lower left corner</source>
+        <translation>单击文字的左下角</translation>
+    </message>
+    <message>
+        <source>no symbol, %1 is drawn</source>
+        <translation>未指定符号，将绘制 %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is drawn in outline</source>
+        <translation>“%1”只画轮廓</translation>
     </message>
 </context>
 <context>
@@ -1454,11 +1454,11 @@ dy %4</translation>
     </message>
     <message>
         <source>Click the opposite corner.</source>
-        <translation>单击对角点。</translation>
+        <translation>单击对角顶点。</translation>
     </message>
     <message>
         <source>Drag a rectangle, or click two corners.</source>
-        <translation>拖出一个矩形，或单击两个角点。</translation>
+        <translation>拖出一个矩形，或单击两个顶点。</translation>
     </message>
     <message>
         <source>Select a polygon</source>
@@ -1489,7 +1489,7 @@ dy %4</translation>
     </message>
     <message>
         <source>Snap to the grid, and to ends and centres of features (%1)</source>
-        <translation>捕捉到网格以及图元的端点和中心 (%1)</translation>
+        <translation>捕捉到网格以及图元的端点和中心（%1）</translation>
     </message>
     <message>
         <source>&amp;Grid</source>
@@ -1550,6 +1550,29 @@ dy %4</translation>
     </message>
 </context>
 <context>
+    <name>UnknownTexts</name>
+    <message>
+        <source>Symbols: %1.</source>
+        <translation>符号：%1。</translation>
+    </message>
+    <message>
+        <source>Letters: %1.</source>
+        <translation>字符：%1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s) of unknown shape drawn as outlines.</source>
+        <translation>
+            <numerusform>%n 个形状未知的图元仅显示轮廓。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s) of unknown shape left out of the file.</source>
+        <translation>
+            <numerusform>%n 个形状未知的图元未写入文件。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>UnsavedBox</name>
     <message>
         <source>Unsaved Changes</source>
@@ -1585,33 +1608,14 @@ Save the changes?</source>
     </message>
 </context>
 <context>
-    <name>UnknownTexts</name>
-    <message>
-        <source>Symbols: %1.</source>
-        <translation>符号：%1。</translation>
-    </message>
-    <message>
-        <source>Letters: %1.</source>
-        <translation>字符：%1。</translation>
-    </message>
-    <message>
-        <source>Features of unknown shape, as outlines: %1.</source>
-        <translation>形状未知、仅显示轮廓的图元：%1 个。</translation>
-    </message>
-    <message>
-        <source>Features of unknown shape, left out of the file: %1.</source>
-        <translation>形状未知、未写入文件的图元：%1 个。</translation>
-    </message>
-</context>
-<context>
     <name>ViewTools</name>
     <message>
         <source>Click the opposite corner.</source>
-        <translation>单击对角点。</translation>
+        <translation>单击对角顶点。</translation>
     </message>
     <message>
         <source>Drag the area to show, or click two corners of it.</source>
-        <translation>拖出要显示的区域，或单击其两个角点。</translation>
+        <translation>拖出要显示的区域，或单击其两个顶点。</translation>
     </message>
     <message>
         <source>Highlight nothing</source>
@@ -1620,10 +1624,6 @@ Save the changes?</source>
     <message>
         <source>Highlight</source>
         <translation>高亮</translation>
-    </message>
-    <message>
-        <source>Click a feature to highlight its net, and again to end it.</source>
-        <translation>单击图元以高亮其网络；再次单击取消。</translation>
     </message>
     <message>
         <source>Mark</source>
@@ -1646,16 +1646,20 @@ Save the changes?</source>
         <translation>单击要标记的第二点。</translation>
     </message>
     <message>
-        <source>Click the first point to mark; a right click removes the marks.</source>
-        <translation>单击要标记的第一点；右键单击清除标记。</translation>
-    </message>
-    <message>
         <source>Click the second point to measure to.</source>
         <translation>单击测量的终点。</translation>
     </message>
     <message>
         <source>Click the first point to measure from.</source>
         <translation>单击测量的起点。</translation>
+    </message>
+    <message>
+        <source>Click a feature to highlight its net, again to end it.</source>
+        <translation>单击图元以高亮其网络；再次单击取消。</translation>
+    </message>
+    <message>
+        <source>Click the first point; a right click removes the marks.</source>
+        <translation>单击要标记的第一点；右键单击清除标记。</translation>
     </message>
 </context>
 <context>
@@ -1666,11 +1670,11 @@ Save the changes?</source>
     </message>
     <message>
         <source>%1, mode %2</source>
-        <translation>%1, 模式 %2</translation>
+        <translation>%1，模式 %2</translation>
     </message>
     <message>
         <source>Tool: %1</source>
-        <translation>工具: %1</translation>
+        <translation>工具：%1</translation>
     </message>
     <message>
         <source>Click a feature to take its symbol.</source>
@@ -1690,7 +1694,7 @@ Save the changes?</source>
     </message>
     <message>
         <source>Board</source>
-        <translation>板</translation>
+        <translation>电路板</translation>
     </message>
     <message>
         <source>Popview</source>
@@ -1703,10 +1707,6 @@ Save the changes?</source>
     <message>
         <source>What has been begun on the board is lost.</source>
         <translation>电路板上尚未完成的操作将丢失。</translation>
-    </message>
-    <message>
-        <source>The tool strip is made anew.</source>
-        <translation>工具条将重新创建。</translation>
     </message>
     <message>
         <source>EQ Tool</source>
@@ -1732,16 +1732,20 @@ Save the changes?</source>
         <source>&quot;%1&quot; is not a position, such as 12.5 40 or @5mm 0.</source>
         <translation>“%1”不是位置，正确示例：12.5 40 或 @5mm 0。</translation>
     </message>
+    <message>
+        <source>The edit tools are made anew.</source>
+        <translation>编辑工具将重新创建。</translation>
+    </message>
 </context>
 <context>
     <name>WorkbenchWindow</name>
     <message>
         <source>Save &amp;Trace...</source>
-        <translation>保存消息记录(&amp;T)...</translation>
+        <translation>保存消息记录(&amp;T)…</translation>
     </message>
     <message>
         <source>Save &amp;Picture...</source>
-        <translation>保存图片(&amp;P)...</translation>
+        <translation>保存图片(&amp;P)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1760,24 +1764,12 @@ Save the changes?</source>
         <translation>料号(&amp;J)</translation>
     </message>
     <message>
-        <source>&amp;Step</source>
-        <translation>步骤(&amp;S)</translation>
-    </message>
-    <message>
         <source>&amp;Unit</source>
         <translation>单位(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Language</source>
         <translation>语言(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;EQ tool</source>
-        <translation>EQ 工具(&amp;E)</translation>
-    </message>
-    <message>
-        <source>Whether the host offers the EQ tool; the strip is recreated.</source>
-        <translation>主程序是否提供 EQ 工具；工具条会重新创建。</translation>
     </message>
     <message>
         <source>Edit tools</source>
@@ -1801,7 +1793,7 @@ Save the changes?</source>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>%1（%2）</translation>
     </message>
     <message>
         <source>Save Picture</source>
@@ -1817,7 +1809,7 @@ Save the changes?</source>
     </message>
     <message>
         <source>&amp;About...</source>
-        <translation>关于(&amp;A)...</translation>
+        <translation>关于(&amp;A)…</translation>
     </message>
     <message>
         <source>%1 / %2[*] - Workbench</source>
@@ -1834,7 +1826,7 @@ Save the changes?</source>
     <message>
         <source>Workbench %1, a small host of the Canvas Tool Strip.
 Qt %2</source>
-        <translation>工作台 %1，画布工具条的小型宿主。
+        <translation>工作台 %1，画布编辑工具的小型主程序。
 Qt %2</translation>
     </message>
     <message>
@@ -1875,15 +1867,11 @@ Qt %2</translation>
     </message>
     <message>
         <source>Open &amp;Job...</source>
-        <translation>打开料号(&amp;J)...</translation>
+        <translation>打开料号(&amp;J)…</translation>
     </message>
     <message>
         <source>Cannot load the edit tools</source>
         <translation>无法加载编辑工具</translation>
-    </message>
-    <message>
-        <source>Cannot load Dimensions</source>
-        <translation>无法加载标注</translation>
     </message>
     <message>
         <source>Record Session</source>
@@ -1898,12 +1886,28 @@ Qt %2</translation>
         <translation>无法录制会话</translation>
     </message>
     <message>
-        <source>Stop &amp;Recording</source>
-        <translation>停止录制(&amp;R)</translation>
+        <source>Stop Re&amp;cording</source>
+        <translation>停止录制(&amp;C)</translation>
     </message>
     <message>
-        <source>&amp;Record Session...</source>
-        <translation>录制会话(&amp;R)...</translation>
+        <source>Re&amp;cord Session...</source>
+        <translation>录制会话(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>S&amp;tep</source>
+        <translation>步骤(&amp;T)</translation>
+    </message>
+    <message>
+        <source>E&amp;Q tool</source>
+        <translation>EQ 工具(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Whether the host offers the EQ tool; the edit tools are made anew.</source>
+        <translation>主程序是否提供 EQ 工具；编辑工具会重新创建。</translation>
+    </message>
+    <message>
+        <source>Cannot load the Dimensions Popup</source>
+        <translation>无法加载尺寸标注</translation>
     </message>
 </context>
 </TS>

@@ -4,11 +4,16 @@
 #include "Main.h"
 #include "StartWorkbench.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMap>
+#include <QMenu>
+#include <QMenuBar>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QToolButton>
@@ -16,6 +21,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 class TestKeyboard : public QObject {
     Q_OBJECT
@@ -68,6 +74,33 @@ private:
             }
         }
         return nullptr;
+    }
+
+    /// The texts that cannot all be reached by their key: another one has the same.
+    static QStringList collisions(const QStringList& texts)
+    {
+        QMap<QString, QStringList> byKey;
+        for (const QString& text : texts) {
+            const QKeySequence key = QKeySequence::mnemonic(text);
+            if (!key.isEmpty()) {
+                byKey[key.toString()].append(text);
+            }
+        }
+        QStringList all;
+        for (const QStringList& same : std::as_const(byKey)) {
+            if (same.size() > 1) {
+                all.append(same.join(" and "));
+            }
+        }
+        return all;
+    }
+    static QStringList textsOf(const QList<QAction*>& actions)
+    {
+        QStringList texts;
+        for (const QAction* const action : actions) {
+            texts.append(action->text());
+        }
+        return texts;
     }
 
     QWidget& openDialog(const char* page)
@@ -127,6 +160,41 @@ private Q_SLOTS:
         back.append(back.takeFirst());
         std::reverse(back.begin(), back.end());
         QCOMPARE(back, walked);
+    }
+
+    void everyMnemonicLeadsToOneThing_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("English") << "en";
+        QTest::newRow("Chinese") << "zh_CN";
+    }
+    void everyMnemonicLeadsToOneThing()
+    {
+        QFETCH(QString, language);
+        Options options;
+        options.language = language;
+        m_window.reset();
+        m_window = startWorkbench(*m_log, options);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QStringList texts = textsOf(m_window->menuBar()->actions());
+        for (const QWidget* const widget : m_window->findChildren<QWidget*>()) {
+            const auto* const label = qobject_cast<const QLabel*>(widget);
+            const bool hasKey =
+                label ? label->buddy() : qobject_cast<const QAbstractButton*>(widget);
+            if (hasKey && widget->window() == m_window.get() && widget->isVisible()) {
+                texts.append(widget->property("text").toString());
+            }
+        }
+        for (const char* const name : {"m_pHostStepLB", "m_pHostEqCB"}) {
+            QVERIFY(texts.contains(the(name).property("text").toString()));
+        }
+        QCOMPARE(collisions(texts), QStringList());
+        const QList<QMenu*> menus = m_window->findChildren<QMenu*>();
+        QVERIFY(menus.contains(&findNamed<QMenu>(*m_window, "m_pFileMenu")));
+        for (const QMenu* const menu : menus) {
+            QCOMPARE(collisions(textsOf(menu->actions())), QStringList());
+        }
     }
 
     void arrowsWalkTheRowsOfATable()

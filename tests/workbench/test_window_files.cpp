@@ -40,12 +40,12 @@ private Q_SLOTS:
     {
         const QString file = m_directory.filePath("mine.session");
         findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").setCurrentText("millimetre");
-        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
+        QCOMPARE(action("m_pRecordAct").text(), QString("Re&cord Session..."));
         chooseFile(file);
         action("m_pRecordAct").trigger();
-        QCOMPARE(action("m_pRecordAct").text(), QString("Stop &Recording"));
+        QCOMPARE(action("m_pRecordAct").text(), QString("Stop Re&cording"));
         play("click m_pMoveFeatureTB\nmenu m_pFileMenu m_pRecordAct\nclick m_pMarkTB\n");
-        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
+        QCOMPARE(action("m_pRecordAct").text(), QString("Re&cord Session..."));
         QFile recorded(file);
         QVERIFY(recorded.open(QIODevice::ReadOnly));
         QCOMPARE(recorded.readAll(),
@@ -58,7 +58,7 @@ private Q_SLOTS:
     {
         const auto failing = [this] { m_window->record(m_directory.filePath("no/a.session")); };
         QVERIFY(!errorOf(failing).isEmpty());
-        QCOMPARE(action("m_pRecordAct").text(), QString("&Record Session..."));
+        QCOMPARE(action("m_pRecordAct").text(), QString("Re&cord Session..."));
     }
 
     void aDroppedJobIsOpened()

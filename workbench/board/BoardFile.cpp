@@ -74,8 +74,7 @@ void exportBoard(const Board& board, const QString& file, const Progress& progre
     } else {
         throw CanvasHost::FileError{
             file, 0,
-            QCoreApplication::translate("FileErrors",
-                                        "the name must end in .json, .gbr, .png or .svg")};
+            QCoreApplication::translate("FileErrors", "the name must end in .gbr, .png or .svg")};
     }
 }
 

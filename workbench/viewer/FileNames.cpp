@@ -11,32 +11,30 @@ namespace {
 constexpr int mostRecent = 8;
 const QString recentKey = QStringLiteral("files/recent");
 
-QString text(const char* source)
-{
-    return QCoreApplication::translate("FileNames", source);
-}
+struct FileWords {
+    Q_DECLARE_TR_FUNCTIONS(FileNames)
+};
 
 QString titleOf(FileNames::Purpose purpose)
 {
     switch (purpose) {
         case FileNames::Purpose::Open:
-            return text(QT_TRANSLATE_NOOP("FileNames", "Open Board"));
+            return FileWords::tr("Open Board");
         case FileNames::Purpose::Save:
-            return text(QT_TRANSLATE_NOOP("FileNames", "Save Board"));
+            return FileWords::tr("Save Board");
         case FileNames::Purpose::Export:
             break;
     }
-    return text(QT_TRANSLATE_NOOP("FileNames", "Export Board"));
+    return FileWords::tr("Export Board");
 }
 
 QStringList kindsOf(FileNames::Purpose purpose)
 {
     if (purpose == FileNames::Purpose::Export) {
-        return {text(QT_TRANSLATE_NOOP("FileNames", "Gerber (*.gbr)")),
-                text(QT_TRANSLATE_NOOP("FileNames", "Picture (*.png)")),
-                text(QT_TRANSLATE_NOOP("FileNames", "Drawing (*.svg)"))};
+        return {FileWords::tr("Gerber (*.gbr)"), FileWords::tr("Picture (*.png)"),
+                FileWords::tr("Drawing (*.svg)")};
     }
-    return {text(QT_TRANSLATE_NOOP("FileNames", "Board (*.json)"))};
+    return {FileWords::tr("Board (*.json)")};
 }
 
 }  // namespace

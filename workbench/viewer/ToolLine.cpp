@@ -6,11 +6,32 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
+#include <QStyle>
 #include <QTimer>
+
+namespace {
+
+/// What does not fit ends in an ellipsis.
+class SteadyLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(
+            &painter, rect(), int(alignment()) | Qt::TextSingleLine, palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideRight, width()), foregroundRole());
+    }
+};
+
+}  // namespace
 
 QLabel* createSteadyLabel(const char* objectName, QWidget* parent)
 {
-    auto* const label = new QLabel(parent);
+    auto* const label = new SteadyLabel(parent);
     label->setObjectName(QLatin1String(objectName));
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);

@@ -12,8 +12,8 @@ class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 
-/// A label of one line whose height does not depend on the text; a text that is too long is cut,
-/// and shown as the tool tip.
+/// A label of one line whose height does not depend on the text; a text that is too long ends in an
+/// ellipsis, and is the tool tip.
 QLabel* createSteadyLabel(const char* objectName, QWidget* parent);
 void showSteadily(QLabel* label, const QString& text);
 /// As high as a line of the label's font becomes with letters of any script.

@@ -14,7 +14,7 @@ QString sentencesOn(const Pcb::Unknowns& unknowns, const QString& first)
     if (unknowns.isEmpty()) {
         return {};
     }
-    QStringList sentences{first.arg(unknowns.features)};
+    QStringList sentences{first};
     if (!unknowns.symbols.isEmpty()) {
         const QString names = Pcb::quoted(unknowns.symbols.mid(0, mostNames));
         sentences.append(UnknownWords::tr("Symbols: %1.")
@@ -30,11 +30,14 @@ QString sentencesOn(const Pcb::Unknowns& unknowns, const QString& first)
 
 QString UnknownTexts::drawn(const Pcb::Unknowns& unknowns)
 {
-    return sentencesOn(unknowns, UnknownWords::tr("Features of unknown shape, as outlines: %1."));
+    return sentencesOn(unknowns,
+                       UnknownWords::tr("%n feature(s) of unknown shape drawn as outlines.", "",
+                                        unknowns.features));
 }
 
 QString UnknownTexts::leftOut(const Pcb::Unknowns& unknowns)
 {
     return sentencesOn(unknowns,
-                       UnknownWords::tr("Features of unknown shape, left out of the file: %1."));
+                       UnknownWords::tr("%n feature(s) of unknown shape left out of the file.", "",
+                                        unknowns.features));
 }

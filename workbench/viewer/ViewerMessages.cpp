@@ -128,7 +128,7 @@ bool ViewerPane::mayMakeStrip()
     if (losses.isEmpty() || !m_files->mayAsk()) {
         return true;
     }
-    losses.prepend(tr("The tool strip is made anew."));
+    losses.prepend(tr("The edit tools are made anew."));
     QMessageBox box(QMessageBox::Warning, tr("EQ Tool"), losses.join(QLatin1Char('\n')),
                     QMessageBox::Cancel, window());
     box.setObjectName(QStringLiteral("m_pNewStripBox"));

@@ -82,7 +82,7 @@ QLayout* ViewerPane::createFoot()
     auto* const foot = new QHBoxLayout;
     foot->setContentsMargins(8, 3, 8, 3);
     makeSteady(foot, m_pCanvasStatusLB);
-    foot->addWidget(m_pCanvasStatusLB, 1);
+    foot->addWidget(m_pCanvasStatusLB, 3);
     m_pRecoveryLB = named(new QLabel(this), "m_pRecoveryLB");
     m_pRecoveryLB->hide();
     foot->addWidget(m_pRecoveryLB);

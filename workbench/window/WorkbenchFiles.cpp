@@ -183,7 +183,7 @@ void WorkbenchWindow::startOrStopRecording()
 
 void WorkbenchWindow::showRecording()
 {
-    m_record->setText(m_recorder->isRecording() ? tr("Stop &Recording") : tr("&Record Session..."));
+    m_record->setText(m_recorder->isRecording() ? tr("Stop Re&cording") : tr("Re&cord Session..."));
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)

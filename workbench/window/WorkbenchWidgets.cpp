@@ -170,11 +170,12 @@ void WorkbenchWindow::retranslate()
     showTitle();
     retranslateMenus();
     m_pHostJobLB->setText(tr("&Job"));
-    m_pHostStepLB->setText(tr("&Step"));
+    m_pHostStepLB->setText(tr("S&tep"));
     m_pHostUnitLB->setText(tr("&Unit"));
     m_pHostLanguageLB->setText(tr("&Language"));
-    m_pHostEqCB->setText(tr("&EQ tool"));
-    m_pHostEqCB->setToolTip(tr("Whether the host offers the EQ tool; the strip is recreated."));
+    m_pHostEqCB->setText(tr("E&Q tool"));
+    m_pHostEqCB->setToolTip(
+        tr("Whether the host offers the EQ tool; the edit tools are made anew."));
     for (int index = 0; index < m_pHostUnitCMB->count(); ++index) {
         m_pHostUnitCMB->setItemText(
             index, CanvasHost::unitText(CanvasHost::lengthUnits().at(size_t(index))));

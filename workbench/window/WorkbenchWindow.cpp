@@ -179,7 +179,7 @@ void WorkbenchWindow::openDimensions()
         m_dimensions->raise();
         m_dimensions->activateWindow();
     } catch (const CanvasHost::FileError& error) {
-        showError(this, tr("Cannot load Dimensions"), error);
+        showError(this, tr("Cannot load the Dimensions Popup"), error);
     }
 }
 

@@ -172,7 +172,8 @@ private Q_SLOTS:
             return errorOf([&] { fixture.pane->files().exportTo(file); });
         };
         QVERIFY(exported("/no/such/place/board.gbr").startsWith("/no/such/place"));
-        QVERIFY(exported("board.txt").startsWith("board.txt: the name must end in"));
+        QVERIFY(
+            exported("board.txt").startsWith("board.txt: the name must end in .gbr, .png or .svg"));
         const QString opened =
             errorOf([&] { fixture.pane->files().openAtOnce("/no/such/file.json"); });
         QVERIFY(opened.startsWith("/no/such/file.json: "));

@@ -28,6 +28,12 @@ class TestHints : public QObject {
                 {RecordKeys::polarity, Polarity::positive}};
     }
 
+    /// In a window that is as narrow as a screen of 1920 pixels at twice the size.
+    static bool isWhollySeen(const CanvasFixture& fixture)
+    {
+        return fixture.text("m_pPickHintLB").size() <= 57;
+    }
+
     /// The words beside the place of the next click; empty for none.
     static QString noteOf(const CanvasFixture& fixture)
     {
@@ -61,7 +67,7 @@ private Q_SLOTS:
         row("pad", FeatureKind::pad, {},
             {"Click the centre of the pad.", "Click the centre of the pad."});
         row("pads", FeatureKind::pad, {{RecordKeys::padNy, "2"}, {RecordKeys::padDy, "2000"}},
-            {"Click the centre of the first pad."});
+            {"Click the first pad's centre."});
         const QString& surface = FeatureKind::surface;
         row("surface", surface, {{RecordKeys::surfaceShape, SurfaceKind::rectangle}},
             {"Click a corner.", "Click the opposite corner; a right click cancels.",
@@ -74,22 +80,21 @@ private Q_SLOTS:
              "Click the centre."});
         row("text", FeatureKind::text,
             {{RecordKeys::textContains, "x"}, {RecordKeys::textFormat, TextKind::string}},
-            {"Click the lower left corner of the text."});
-        const auto arc = [&row](const char* name, const QString& mode, const char* second,
-                                const char* third) {
+            {"Click the lower left corner."});
+        const QString cancel = "; a right click cancels.";
+        const auto arc = [&](const char* name, const QString& mode, const QString& second,
+                             const QString& third) {
             row(name, FeatureKind::arc,
                 {{RecordKeys::arcAndCircle, ArcOrCircle::arc}, {RecordKeys::arcMode, mode}},
-                {"Click the start.", QString(second) + "; a right click cancels.",
-                 QString(third) + "; a right click cancels.", "Click the start."});
+                {"Click the start.", second + cancel, third, "Click the start."});
         };
-        arc("arc 1", "1", "Click the centre", "Click the direction of the end");
-        arc("arc 2", "2", "Click the end", "Click a point of the arc between");
-        arc("arc 3", "3", "Click the end", "Click the centre");
-        arc("arc 4", "4", "Click the centre", "Click the direction that gives the angle");
-        arc("arc 5", "5", "Click the centre", "Click as far from the start as the arc is long");
-        arc("arc 6", "6", "Click the end",
-            "Click so that the angle at the start, to the end, is half the arc's");
-        arc("arc 7", "7", "Click the end", "Click as far from the end as the radius is long");
+        arc("arc 1", "1", "Click the centre", "Click the direction of the end" + cancel);
+        arc("arc 2", "2", "Click the end", "Click a point of the arc between" + cancel);
+        arc("arc 3", "3", "Click the end", "Click the centre" + cancel);
+        arc("arc 4", "4", "Click the centre", "Click where the angle ends" + cancel);
+        arc("arc 5", "5", "Click the centre", "Click as far from the start as the arc is long.");
+        arc("arc 6", "6", "Click the end", "Click where the angle at the start is half the arc's.");
+        arc("arc 7", "7", "Click the end", "Click as far from the end as the radius is long.");
         const auto circle = [&row](const char* name, const QString& mode,
                                    const QStringList& hints) {
             row(name, FeatureKind::arc,
@@ -106,8 +111,8 @@ private Q_SLOTS:
                 "Click a point of the circle."});
         circle("circle 4", "4",
                {"Click a point of the circle.",
-                "Click the second point of the circle; a right click cancels.",
-                "Click the third point of the circle; a right click cancels.",
+                "Click the circle's second point; a right click cancels.",
+                "Click the circle's third point; a right click cancels.",
                 "Click a point of the circle."});
     }
     void eachPointIsAskedForByName()
@@ -121,6 +126,7 @@ private Q_SLOTS:
         for (int i = 0; i < hints.size(); ++i) {
             fixture.move(places[i].x(), places[i].y());
             QCOMPARE(fixture.text("m_pPickHintLB"), hints[i]);
+            QVERIFY(isWhollySeen(fixture));
             fixture.click(places[i].x(), places[i].y());
         }
     }
@@ -219,14 +225,12 @@ private Q_SLOTS:
                             const char* hint) {
             QTest::newRow(name) << kind.toInt() << symbol << hint;
         };
-        row("line", FeatureKind::line, "", "Click the start; no symbol is named, r10 is drawn.");
-        row("pad", FeatureKind::pad, "",
-            "Click the centre of the pad; no symbol is named, r10 is drawn.");
-        row("arc", FeatureKind::arc, "", "Click the start; no symbol is named, r10 is drawn.");
+        row("line", FeatureKind::line, "", "Click the start; no symbol, r10 is drawn.");
+        row("pad", FeatureKind::pad, "", "Click the centre of the pad; no symbol, r10 is drawn.");
+        row("arc", FeatureKind::arc, "", "Click the start; no symbol, r10 is drawn.");
         row("surface", FeatureKind::surface, "", "Click a corner.");
         row("unknown", FeatureKind::pad, "logo",
-            "Click the centre of the pad; the shape of \"logo\" is not known, an outline is "
-            "drawn.");
+            "Click the centre of the pad; \"logo\" is drawn in outline.");
         row("known", FeatureKind::pad, "r20", "Click the centre of the pad.");
         row("no text", FeatureKind::text, "",
             "There is no text that could be drawn: clicks do nothing.");
@@ -241,6 +245,42 @@ private Q_SLOTS:
         fixture.receive(Sent::Record, 0,
                         {{RecordKeys::features, kind}, {RecordKeys::symbolText, symbol}});
         QCOMPARE(fixture.text("m_pPickHintLB"), hint);
+        QVERIFY(isWhollySeen(fixture));
+    }
+
+    void aHintThatIsTooLongEndsInAnEllipsis_data()
+    {
+        QTest::addColumn<int>("missing");  // pixels
+        QTest::newRow("it fits") << 0;
+        QTest::newRow("it is too long") << 40;
+    }
+    void aHintThatIsTooLongEndsInAnEllipsis()
+    {
+        QFETCH(int, missing);
+        const CanvasFixture fixture;
+        fixture.receive(Sent::Record, 0, lineRecord(LineKind::single));
+        auto& hint = findNamed<QLabel>(*fixture.pane, "m_pPickHintLB");
+        const QString whole = hint.text();
+        QLabel expected(whole, fixture.pane);
+        expected.setFont(hint.font());
+        const int width = expected.sizeHint().width() - missing;
+        expected.setText(hint.fontMetrics().elidedText(whole, Qt::ElideRight, width));
+        QCOMPARE(expected.text().endsWith(QChar(0x2026)), missing > 0);
+        hint.setFixedWidth(width);
+        const QImage shown = hint.grab().toImage();
+        expected.resize(hint.size());
+        QCOMPARE(shown, expected.grab().toImage());
+        QCOMPARE(hint.text(), whole);
+        QCOMPARE(hint.toolTip(), whole);
+    }
+
+    void whatWasDoneHasMoreRoomThanWhatIsBelowTheMouse()
+    {
+        const CanvasFixture fixture;
+        const int done = findNamed<QLabel>(*fixture.pane, "m_pCanvasStatusLB").width();
+        const int below = findNamed<QLabel>(*fixture.pane, "m_pHoveredLB").width();
+        QVERIFY2(below > 100 && qAbs(done - 3 * below) < 6,
+                 qPrintable(QString("%1 %2").arg(done).arg(below)));
     }
 
     void lettersThatTheFontLacksAreSaid()
@@ -251,7 +291,7 @@ private Q_SLOTS:
                          {RecordKeys::textFormat, TextKind::string},
                          {RecordKeys::textContains, "Gr\u00fcn"}});
         QCOMPARE(fixture.text("m_pPickHintLB"),
-                 QString("Click the lower left corner of the text; the font lacks \"\u00fc\"."));
+                 QString("Click the lower left corner; the font lacks \"\u00fc\"."));
     }
 };
 

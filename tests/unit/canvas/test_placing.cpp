@@ -155,9 +155,8 @@ private Q_SLOTS:
                              {RecordKeys::textContains, content}});
         };
         receive("8 \u00b5m");
-        QCOMPARE(
-            fixture.text("m_pPickHintLB"),
-            QString("Click the lower left corner of the text; its code cannot carry \"\u00b5\"."));
+        QCOMPARE(fixture.text("m_pPickHintLB"),
+                 QString("Click the lower left corner; its code cannot carry \"\u00b5\"."));
         fixture.click(4000, 5000);
         QCOMPARE(fixture.features().size(), size_t(1));
         receive("\u00b5");
@@ -166,8 +165,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.text("m_pPickHintLB"),
                  QString("There is no text that could be drawn: clicks do nothing."));
         receive("8 um");
-        QCOMPARE(fixture.text("m_pPickHintLB"),
-                 QString("Click the lower left corner of the text."));
+        QCOMPARE(fixture.text("m_pPickHintLB"), QString("Click the lower left corner."));
     }
 
     void pickingLetsTheDrawingGoOn()

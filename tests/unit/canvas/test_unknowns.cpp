@@ -18,6 +18,7 @@
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTranslator>
 
 namespace {
 
@@ -115,10 +116,28 @@ private Q_SLOTS:
     {
         UnknownFixture fixture;
         const QString file = fixture.write("odd.json");
-        const QString told = QString("Features of unknown shape, as outlines: 4. ") + whichOnes;
+        const QString told =
+            QString("4 feature(s) of unknown shape drawn as outlines. ") + whichOnes;
         QVERIFY(fixture.files().open(file));
         QCOMPARE(fixture.boxes, QStringList(told));
         QCOMPARE(fixture.text("m_pCanvasStatusLB"), told + " Opened " + file + ".");
+    }
+
+    void oneIsToldAsOne()
+    {
+        QTranslator plurals;
+        QVERIFY(plurals.load("workbench_en", TRANSLATION_DIR));
+        QCoreApplication::installTranslator(&plurals);
+        UnknownFixture fixture;
+        fixture.document().replace({"job", "step", {}, {oddFeatures().back()}});
+        fixture.files().openAtOnce(fixture.write("odd.json"));
+        const QString opened = fixture.text("m_pCanvasStatusLB");
+        QVERIFY2(opened.startsWith("1 feature of unknown shape drawn as an outline. "),
+                 qPrintable(opened));
+        fixture.exportAs("odd.svg");
+        const QString left = fixture.boxes.value(0);
+        QVERIFY2(left.startsWith("1 feature of unknown shape left out of the file. "),
+                 qPrintable(left));
     }
 
     void aFileThatAProgramNamesOpensNoBox()
@@ -126,7 +145,7 @@ private Q_SLOTS:
         UnknownFixture fixture;
         const QString file = fixture.write("odd.json");
         fixture.files().openAtOnce(file);
-        QVERIFY(fixture.text("m_pCanvasStatusLB").startsWith("Features of unknown shape"));
+        QVERIFY(fixture.text("m_pCanvasStatusLB").startsWith("4 feature(s) of unknown shape"));
         fixture.files().setMayAsk([] { return false; });
         QVERIFY(fixture.files().open(file));
         QCOMPARE(fixture.boxes, QStringList());
@@ -151,7 +170,7 @@ private Q_SLOTS:
             fixture.boxes.clear();
             fixture.exportAs(name);
             QCOMPARE(fixture.boxes,
-                     QStringList(QString("Features of unknown shape, left out of the file: 4. ") +
+                     QStringList(QString("4 feature(s) of unknown shape left out of the file. ") +
                                  whichOnes));
             QCOMPARE(fixture.text("m_pCanvasStatusLB"), "Wrote " + fixture.path(name) + ".");
             QVERIFY(CanvasHost::readWhole(fixture.path(name)).contains("Left out, symbols"));
@@ -168,7 +187,7 @@ private Q_SLOTS:
         }
         fixture.document().replace({"job", "step", {}, all});
         QVERIFY(fixture.files().open(fixture.write("many.json")));
-        QVERIFY(fixture.boxes.value(0).contains("outlines: 12."));
+        QVERIFY(fixture.boxes.value(0).startsWith("12 feature(s) of "));
         QVERIFY(fixture.boxes.value(0).endsWith("\"odd7\", ...."));
     }
 

@@ -140,7 +140,7 @@ private Q_SLOTS:
         openDialog();
         button = "none";
         eq.click();
-        QCOMPARE(asked, QStringList("The tool strip is made anew.\n"
+        QCOMPARE(asked, QStringList("The edit tools are made anew.\n"
                                     "The entries in Add Feature are lost."));
         QCOMPARE(eq.isChecked(), !first);
         QVERIFY(findNamed(*m_window, "AddFeature").isVisible());

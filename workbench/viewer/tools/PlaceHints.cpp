@@ -52,7 +52,7 @@ Clicks ofLine(const Brush& brush)
 Clicks ofPad(const Brush& brush)
 {
     return {brush.padNx > 1 || brush.padNy > 1
-                ? QT_TRANSLATE_NOOP("PlaceHints", "Click the centre of the first pad")
+                ? QT_TRANSLATE_NOOP("PlaceHints", "Click the first pad's centre")
                 : QT_TRANSLATE_NOOP("PlaceHints", "Click the centre of the pad")};
 }
 
@@ -76,8 +76,8 @@ Clicks ofCircle(const Brush& brush)
             return {Ask::onCircle, Ask::centre};
         case Pcb::CircleMethod::ThreePoints:
             return {Ask::onCircle,
-                    QT_TRANSLATE_NOOP("PlaceHints", "Click the second point of the circle"),
-                    QT_TRANSLATE_NOOP("PlaceHints", "Click the third point of the circle")};
+                    QT_TRANSLATE_NOOP("PlaceHints", "Click the circle's second point"),
+                    QT_TRANSLATE_NOOP("PlaceHints", "Click the circle's third point")};
         case Pcb::CircleMethod::CenterRadius:
         case Pcb::CircleMethod::CenterPoint:
             break;
@@ -98,16 +98,15 @@ Clicks ofArc(const Brush& brush)
             return {Ask::start, Ask::end, Ask::centre};
         case Pcb::ArcMethod::StartCenterAngle:
             return {Ask::start, Ask::centre,
-                    QT_TRANSLATE_NOOP("PlaceHints", "Click the direction that gives the angle")};
+                    QT_TRANSLATE_NOOP("PlaceHints", "Click where the angle ends")};
         case Pcb::ArcMethod::StartCenterLength:
             return {
                 Ask::start, Ask::centre,
                 QT_TRANSLATE_NOOP("PlaceHints", "Click as far from the start as the arc is long")};
         case Pcb::ArcMethod::StartEndAngle:
             return {Ask::start, Ask::end,
-                    QT_TRANSLATE_NOOP(
-                        "PlaceHints",
-                        "Click so that the angle at the start, to the end, is half the arc's")};
+                    QT_TRANSLATE_NOOP("PlaceHints",
+                                      "Click where the angle at the start is half the arc's")};
         case Pcb::ArcMethod::StartEndRadius:
             return {
                 Ask::start, Ask::end,
@@ -130,7 +129,7 @@ Clicks clicksOf(const Brush& brush)
         case Kind::Text:
             break;
     }
-    return {QT_TRANSLATE_NOOP("PlaceHints", "Click the lower left corner of the text")};
+    return {QT_TRANSLATE_NOOP("PlaceHints", "Click the lower left corner")};
 }
 
 QString angleText(double degrees)
@@ -152,22 +151,26 @@ QStringList doubts(const Pcb::Placement& placement)
     }
     const bool hasSymbol = brush.kind != Kind::Surface && brush.kind != Kind::Text;
     if (hasSymbol && !brush.symbolNamed) {
-        all.append(PlaceWords::tr("no symbol is named, %1 is drawn").arg(brush.symbol));
+        all.append(PlaceWords::tr("no symbol, %1 is drawn").arg(brush.symbol));
     } else if (hasSymbol && Pcb::parseSymbol(brush.symbol).shape == Pcb::SymbolShape::Special) {
-        all.append(PlaceWords::tr("the shape of \"%1\" is not known, an outline is drawn")
-                       .arg(brush.symbol));
+        all.append(PlaceWords::tr("\"%1\" is drawn in outline").arg(brush.symbol));
     }
     return all;
 }
 
-QString begun(const Pcb::Placement& placement)
+/// What a right click does to what is begun.
+QString rightClick(const Brush& brush)
 {
-    const Brush& brush = placement.brush();
     const bool goesOn =
         (brush.kind == Kind::Line && brush.line == Pcb::LineMode::Polyline) ||
         (brush.kind == Kind::Surface && brush.surface == Pcb::SurfaceShape::Polygon);
     return goesOn ? PlaceWords::tr("a right click ends it")
                   : PlaceWords::tr("a right click cancels");
+}
+
+QString sentence(const QStringList& clauses)
+{
+    return clauses.join(PlaceWords::tr("; ")) + PlaceWords::tr(".");
 }
 
 }  // namespace
@@ -178,9 +181,13 @@ QString PlaceHints::of(const Pcb::Placement& placement)
         return PlaceWords::tr("There is no text that could be drawn: clicks do nothing.");
     }
     const Clicks clicks = clicksOf(placement.brush());
-    QStringList clauses{PlaceWords::tr(clicks.at(qMin(placement.clicks(), clicks.size() - 1)))};
-    clauses += placement.isActive() ? QStringList(begun(placement)) : doubts(placement);
-    return clauses.join(PlaceWords::tr("; ")) + PlaceWords::tr(".");
+    const QStringList click{PlaceWords::tr(clicks.at(qMin(placement.clicks(), clicks.size() - 1)))};
+    if (!placement.isActive()) {
+        return sentence(click + doubts(placement));
+    }
+    constexpr int mostLetters = 57;  // seen in a window of 960 pixels
+    const QString whole = sentence(click + QStringList(rightClick(placement.brush())));
+    return whole.size() > mostLetters ? sentence(click) : whole;
 }
 
 QString PlaceHints::measured(const QLineF& line)

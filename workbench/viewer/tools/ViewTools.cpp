@@ -21,7 +21,7 @@ void HighlightTool::press(const QPointF& point, bool /*extends*/)
 
 QString HighlightTool::hint() const
 {
-    return tr("Click a feature to highlight its net, and again to end it.");
+    return tr("Click a feature to highlight its net, again to end it.");
 }
 
 void TwoPointTool::press(const QPointF& point, bool /*extends*/)
@@ -64,7 +64,7 @@ void MarkTool::finish()
 QString MarkTool::hint() const
 {
     return isActive() ? tr("Click the second point to mark.")
-                      : tr("Click the first point to mark; a right click removes the marks.");
+                      : tr("Click the first point; a right click removes the marks.");
 }
 
 QString MeasureTool::hint() const
