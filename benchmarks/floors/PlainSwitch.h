@@ -12,12 +12,13 @@
 #include <map>
 
 /// Floor of the incoming messages: a plain strip, what its Add Feature opens, and one switch over
-/// the codes behind a function pointer.
+/// the codes behind a function pointer. The panel owns it.
 class PlainSwitch : public QObject {
     Q_OBJECT
 public:
     PlainSwitch(QWidget* panel, const QMap<QString, QVariant>& entries, Receiver& receiver)
-        : m_panel(panel),
+        : QObject(panel),
+          m_panel(panel),
           m_receiver(receiver),
           m_strip(new PlainStrip(panel, receiver)),
           m_dialog(new QWidget(panel, Qt::Window)),
