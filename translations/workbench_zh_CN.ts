@@ -1364,6 +1364,17 @@ dy %4</translation>
     </message>
 </context>
 <context>
+    <name>OpenStep</name>
+    <message>
+        <source>a board without a job</source>
+        <translation>不属于任何料号的电路板</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
     <name>RecoveryOffer</name>
     <message>
         <source>Recover Changes</source>
@@ -1386,14 +1397,6 @@ dy %4</translation>
     <message>
         <source>&amp;Later</source>
         <translation>稍后(&amp;L)</translation>
-    </message>
-    <message>
-        <source>a board without a job</source>
-        <translation>不属于任何料号的电路板</translation>
-    </message>
-    <message>
-        <source>%1 / %2</source>
-        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1, of %2</source>

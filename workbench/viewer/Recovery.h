@@ -1,5 +1,6 @@
 #pragma once
 
+#include "viewer/OpenStep.h"
 #include "viewer/RecoveryFolder.h"
 
 #include <QObject>
@@ -12,14 +13,6 @@
 
 class Document;
 class RecoveryWriter;
-
-/// A step that the user works on.
-struct OpenStep {
-    Document* document;
-    QString job;
-    QString step;
-    QString file;  ///< empty: it was never saved
-};
 
 /// Keeps changed steps in files, so that a crash loses no more than the last moment. They are
 /// written on a thread of their own, each only when what it is about has changed, and removed when

@@ -1,6 +1,7 @@
 #include "viewer/RecoveryOffer.h"
 
 #include "shared/Named.h"
+#include "viewer/OpenStep.h"
 
 #include <QFileInfo>
 #include <QMessageBox>
@@ -36,17 +37,12 @@ RecoveryOffer::RecoveryOffer(Folders folders, Recover recover, QWidget* pane)
     box->open();
 }
 
-QString RecoveryOffer::nameOf(const QString& job, const QString& step)
-{
-    return job.isEmpty() ? tr("a board without a job") : tr("%1 / %2").arg(job, step);
-}
-
 QString RecoveryOffer::list() const
 {
     QStringList lines;
     for (const auto& folder : m_folders) {
         for (const KeptStep& step : folder->steps()) {
-            const QString name = nameOf(step.job, step.step);
+            const QString name = OpenStep::nameOf(step.job, step.step);
             const QString time = step.time.toString(QStringLiteral("yyyy-MM-dd HH:mm"));
             lines.append(
                 step.boardFile.isEmpty()
@@ -63,7 +59,7 @@ QString RecoveryOffer::recoverAll()
     QStringList left;
     for (const auto& folder : m_folders) {
         for (const KeptStep& step : folder->steps()) {
-            (m_recover(step) ? recovered : left).append(nameOf(step.job, step.step));
+            (m_recover(step) ? recovered : left).append(OpenStep::nameOf(step.job, step.step));
         }
         if (folder->steps().empty()) {
             folder->remove();

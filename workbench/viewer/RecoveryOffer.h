@@ -23,9 +23,6 @@ public:
     /// `pane` becomes the parent.
     RecoveryOffer(Folders folders, Recover recover, QWidget* pane);
 
-    /// "job / step".
-    static QString nameOf(const QString& job, const QString& step);
-
 Q_SIGNALS:
     /// What has been done, to be told to the user.
     void answered(const QString& text);
