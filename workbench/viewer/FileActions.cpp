@@ -306,7 +306,8 @@ void FileActions::keepForRecovery()
     auto abandoned = RecoveryFolder::abandoned();
     m_recovery = std::make_unique<Recovery>(m_steps);
     connect(this, &FileActions::changed, m_recovery.get(), &Recovery::update);
-    connect(m_recovery.get(), &Recovery::troubled, this, &FileActions::recoveryTroubled);
+    connect(m_recovery.get(), &Recovery::succeeded, this, &FileActions::changesKept);
+    connect(m_recovery.get(), &Recovery::failed, this, &FileActions::changesNotKept);
     if (!abandoned.empty()) {
         const auto take = [this](const KeptStep& kept) { return recover(kept); };
         auto* const offer = new RecoveryOffer(std::move(abandoned), take, m_pane);

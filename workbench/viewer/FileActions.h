@@ -50,8 +50,10 @@ Q_SIGNALS:
     void opened();
     /// The step is to be opened, if there is such a step.
     void stepWanted(const QString& job, const QString& step);
-    /// Changes cannot be kept for recovery, and why; empty: now they can.
-    void recoveryTroubled(const QString& reason);
+    /// All changes are kept for recovery.
+    void changesKept();
+    /// Changes cannot be kept for recovery, and why.
+    void changesNotKept(const QString& reason);
 
 private:
     QAction* add(const char* name, const QKeySequence& shortcut, void (FileActions::*slot)());

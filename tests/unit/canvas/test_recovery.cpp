@@ -122,7 +122,7 @@ private Q_SLOTS:
     void onlyWhatHasChangedIsWritten()
     {
         const KeepingProgram program;
-        QSignalSpy written(&program.files(), &FileActions::recoveryTroubled);
+        QSignalSpy written(&program.files(), &FileActions::changesKept);
         program.removeFirst();
         QVERIFY(written.wait(twoSeconds));
         program.document().select("select", {0});
@@ -273,18 +273,19 @@ private Q_SLOTS:
     void thatNothingCanBeKeptIsSaidAndDisturbsNobody()
     {
         const KeepingProgram program;
-        QSignalSpy tries(&program.files(), &FileActions::recoveryTroubled);
+        QSignalSpy successes(&program.files(), &FileActions::changesKept);
+        QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
         QFile wall(place() + "/0");
         QVERIFY(!program.isTroubled());
         program.removeFirst();
-        QVERIFY(tries.wait(twoSeconds));
+        QVERIFY(successes.wait(twoSeconds));
         QVERIFY(QDir(wall.fileName()).removeRecursively());
         QVERIFY(wall.open(QIODevice::WriteOnly));
         for (int i = 0; i < 2; ++i) {
             program.document().history().push(new QUndoCommand);
             program.document().applyBoard(
                 "add", Pcb::withAdded(program.document().board(), {keptPad(3000 + i)}));
-            QVERIFY(tries.wait(twoSeconds));
+            QVERIFY(failures.wait(twoSeconds));
             QVERIFY(program.isTroubled());
             QVERIFY(!QApplication::activeModalWidget());
         }
@@ -293,15 +294,53 @@ private Q_SLOTS:
         wall.close();
         QVERIFY(wall.remove());
         program.removeFirst();
-        QVERIFY(tries.wait(twoSeconds));
+        QVERIFY(successes.wait(twoSeconds));
         QVERIFY(!program.isTroubled());
         QCOMPARE(kept().size(), 1);
+    }
+
+    void whatCouldNotBeKeptIsTriedAgainWithoutAnEdit()
+    {
+        const KeepingProgram program;
+        QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QFile wall(place() + "/0");
+        QVERIFY(QDir(wall.fileName()).removeRecursively());
+        QVERIFY(wall.open(QIODevice::WriteOnly));
+        program.removeFirst();
+        QVERIFY(failures.wait(twoSeconds));
+        wall.close();
+        QVERIFY(wall.remove());
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, 3 * twoSeconds);
+        QVERIFY(keptBoard("0/0.kept") == program.document().board());
+        QTRY_VERIFY(!program.isTroubled());
+    }
+
+    void whatIsSavedWhileItCannotBeKeptIsNotKeptLater()
+    {
+        const KeepingProgram program;
+        QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        // The old file stays where the new one cannot be written beside it.
+        QVERIFY(QFile::rename(place() + "/0", place() + "/away"));
+        QFile wall(place() + "/0");
+        QVERIFY(wall.open(QIODevice::WriteOnly));
+        program.removeFirst();
+        QVERIFY(failures.wait(twoSeconds));
+        wall.close();
+        QVERIFY(wall.remove());
+        QVERIFY(QFile::rename(place() + "/away", place() + "/0"));
+        program.document().setSaved();
+        QTRY_COMPARE(kept().size(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!program.isTroubled(), 3 * twoSeconds);
     }
 
     void noEventWaitsForALargeBoard()
     {
         const KeepingProgram program(padsOf(TestProgram::isFull() ? 100000 : 40000));
-        QSignalSpy written(&program.files(), &FileActions::recoveryTroubled);
+        QSignalSpy written(&program.files(), &FileActions::changesKept);
         bool isQuick = false;
         for (int attempt = 1; attempt <= 3 && !isQuick; ++attempt) {
             // Nothing is as it was written last.
