@@ -10,6 +10,7 @@ struct OpenStep {
     static QString nameOf(const QString& job, const QString& step);
 
     Document* document;
+    QString jobFile;
     QString job;
     QString step;
     QString file;  ///< empty: it was never saved

@@ -138,7 +138,7 @@ std::vector<Recovery::Change> Recovery::changes()
             const QString path = m_folder->path(static_cast<int>(index));
             changed.push_back({index,
                                revision,
-                               {step.job, step.step, step.file, path, {}},
+                               {step.jobFile, step.job, step.step, step.file, path, {}},
                                step.document->board()});
         }
     }
