@@ -86,7 +86,8 @@ sleep 2
 kill -9 "$pid"
 wait "$pid" 2>/dev/null
 kept=$(pads other.ini.recovery/0/*.kept)
-(play other --play recover.session --export other.json --exit) || fail other "status $?"
+{ cat recover.session; echo 'expect state m_pHostJobCMB current=mine'; } >other.session
+(play other --play other.session --export other.json --exit) || fail other "status $?"
 [ "$(pads other.json)" = "$kept" ] || fail other "not all is recovered"
 [ ! -e other.ini.recovery ] || fail other "files are left"
 

@@ -152,6 +152,8 @@ private Q_SLOTS:
         QCOMPARE(m_window->windowTitle(), QString("mine / first[*] - Workbench"));
         QVERIFY(m_window->isWindowModified());
         QVERIFY(!left.exists());
+        m_window.reset();
+        QVERIFY(!QFileInfo::exists(Settings::beside(".recovery")));
     }
 
     void recentFiles()
