@@ -412,6 +412,30 @@
         <source>Unknown Shapes</source>
         <translation>未知形状</translation>
     </message>
+    <message>
+        <source>the job file %1 is not there</source>
+        <translation>料号文件 %1 不存在</translation>
+    </message>
+    <message>
+        <source>the job file %1 cannot be opened while boards are changed</source>
+        <translation>有电路板已更改时无法打开料号文件 %1</translation>
+    </message>
+    <message>
+        <source>the job file %1 could not be opened</source>
+        <translation>料号文件 %1 未能打开</translation>
+    </message>
+    <message>
+        <source>the job file %1 has no such step</source>
+        <translation>料号文件 %1 中没有该步骤</translation>
+    </message>
+    <message>
+        <source>%1 has been changed</source>
+        <translation>%1 已更改</translation>
+    </message>
+    <message>
+        <source>it has not been read</source>
+        <translation>未能读取</translation>
+    </message>
 </context>
 <context>
     <name>FileErrors</name>
@@ -1161,6 +1185,17 @@
     </message>
 </context>
 <context>
+    <name>OpenStep</name>
+    <message>
+        <source>a board without a job</source>
+        <translation>不属于任何料号的电路板</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
     <name>PayloadTable</name>
     <message>
         <source>text</source>
@@ -1388,14 +1423,6 @@ dy %4</translation>
         <translation>稍后(&amp;L)</translation>
     </message>
     <message>
-        <source>a board without a job</source>
-        <translation>不属于任何料号的电路板</translation>
-    </message>
-    <message>
-        <source>%1 / %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
         <source>%1, of %2</source>
         <translation>%1，%2</translation>
     </message>
@@ -1414,6 +1441,18 @@ dy %4</translation>
     <message>
         <source>The changes have been discarded.</source>
         <translation>更改已放弃。</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1 (%2; %3)</source>
+        <translation>%1（%2；%3）</translation>
+    </message>
+    <message>
+        <source>%1 (in %2, as %3)</source>
+        <translation>%1（恢复到 %2，因为%3）</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,8 @@ struct Job {
 /// Replaces all jobs by those of a job file (JSON; see workbench/docs/files.md) and makes its first
 /// one current. Throws a FileError (host/support/FileError.h), and then changes nothing.
 CANVAS_HOST_EXPORT void loadJobs(const QString& file);
+/// The whole path of the job file; empty when none was loaded.
+CANVAS_HOST_EXPORT QString jobFile();
 
 CANVAS_HOST_EXPORT const std::vector<Job>& jobs();
 /// Adds `job`, or replaces the one of the same name. The first job added becomes current.

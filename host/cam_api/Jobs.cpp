@@ -4,12 +4,15 @@
 
 #include <FileError.h>
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace CanvasHost {
 namespace {
 
 struct State {
+    QString file;
     std::vector<Job> jobs;
     std::string current;
 };
@@ -17,6 +20,7 @@ struct State {
 State stateOf(const QString& jobFile)
 {
     State loaded;
+    loaded.file = QFileInfo(jobFile).canonicalFilePath();
     loaded.jobs = readJobFile(jobFile);
     loaded.current = loaded.jobs.empty() ? std::string() : loaded.jobs.front().name;
     return loaded;
@@ -45,6 +49,11 @@ std::vector<Job>::iterator position(const std::string& name)
 void loadJobs(const QString& file)
 {
     state() = stateOf(file);
+}
+
+QString jobFile()
+{
+    return state().file;
 }
 
 const std::vector<Job>& jobs()

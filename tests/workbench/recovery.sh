@@ -34,7 +34,7 @@ edits() { cat "$1" 2>/dev/null | grep -c '^canvas click'; }
 
 # once NAME: a kill at a random moment, and the recovery.
 once() {
-    local name=$1 pid sure done
+    local name=$1 pid sure made kept
     play "$name" --play edits.session --record "$name.recorded" --exit &
     pid=$!
     until [ "$(edits "$name.recorded")" -gt 1 ]; do
@@ -47,15 +47,15 @@ once() {
     sleep 2
     kill -9 "$pid"
     wait "$pid" 2>/dev/null
-    done=$(edits "$name.recorded")
+    made=$(edits "$name.recorded")
     [ -d "$name.ini.recovery" ] || fail "$name" "nothing was kept"
     [ "$name" != kill0 ] || cp -r "$name.ini.recovery" hand.ini.recovery
     (play "$name" --play recover.session --export "$name.json" --exit) || fail "$name" "status $?"
     [ ! -e "$name.ini.recovery" ] || fail "$name" "files are left"
     kept=$(($(pads "$name.json") - $(cat pads)))
-    echo "$name: $done edits, $((done - kept)) lost"
+    echo "$name: $made edits, $((made - kept)) lost"
     [ "$kept" -ge "$sure" ] || fail "$name" "$sure edits were two seconds old"
-    [ "$kept" -le "$done" ] || fail "$name" "more than was drawn"
+    [ "$kept" -le "$made" ] || fail "$name" "more than was drawn"
 }
 
 (play first --export first.json --exit) || fail first "status $?"
@@ -73,6 +73,23 @@ status=0
 for lane in "${running[@]}"; do
     wait "$lane" || status=1
 done
+
+# What was drawn in the job of another file is recovered in that job.
+sed 's/"name": "demo"/"name": "mine"/' "$jobs" >mine.json
+jobs=mine.json play other --play edits.session --record other.recorded --exit &
+pid=$!
+until [ "$(edits other.recorded)" -gt 5 ]; do
+    kill -0 "$pid" || fail other "it has ended"
+    sleep 0.05
+done
+sleep 2
+kill -9 "$pid"
+wait "$pid" 2>/dev/null
+kept=$(pads other.ini.recovery/0/*.kept)
+{ cat recover.session; echo 'expect state m_pHostJobCMB current=mine'; } >other.session
+(play other --play other.session --export other.json --exit) || fail other "status $?"
+[ "$(pads other.json)" = "$kept" ] || fail other "not all is recovered"
+[ ! -e other.ini.recovery ] || fail other "files are left"
 
 # Where no session is played the offer waits for the user, and so does a second program's start.
 "$workbench" --modules "$modules" --job "$jobs" --settings hand.ini >hand.log 2>&1 &

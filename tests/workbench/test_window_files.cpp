@@ -135,6 +135,27 @@ private Q_SLOTS:
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
     }
 
+    void whatACrashHasLeftIsRecoveredInItsJob()
+    {
+        Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));
+        const QString job = QFileInfo(writeJob("mine")).canonicalFilePath();
+        QVERIFY(QDir().mkpath(Settings::beside(".recovery/0")));
+        QFile left(Settings::beside(".recovery/0/0.kept"));
+        QVERIFY(left.open(QIODevice::WriteOnly));
+        left.write(R"({"jobFile":")" + job.toUtf8() +
+                   R"(","job":"mine","step":"first","file":""})" +
+                   "\n"
+                   R"({"format":1,"job":"a","step":"b","outline":[],"features":[]})");
+        left.close();
+        m_window->canvas()->files().keepForRecovery();
+        findNamed<QAbstractButton>(*m_window, "m_pRecoverPB").click();
+        QCOMPARE(m_window->windowTitle(), QString("mine / first[*] - Workbench"));
+        QVERIFY(m_window->isWindowModified());
+        QVERIFY(!left.exists());
+        m_window.reset();
+        QVERIFY(!QFileInfo::exists(Settings::beside(".recovery")));
+    }
+
     void recentFiles()
     {
         Settings::keepIn(m_directory.filePath(QTest::currentTestFunction()));

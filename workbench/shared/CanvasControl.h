@@ -31,6 +31,9 @@ public:
     virtual void keepForRecovery() = 0;
     /// Whether a user is there to be asked; otherwise changes are discarded.
     virtual void setMayAsk(std::function<bool()> mayAsk) = 0;
+    /// How a job file is opened, for boards that a crash has left. It returns false if the file
+    /// could not be opened, of which the user has been told.
+    virtual void setOpenJob(std::function<bool(const QString& file)> openJob) = 0;
 
     /// The file of the board that is shown; empty when it was never saved.
     virtual QString file() const = 0;

@@ -10,9 +10,11 @@
 #include "viewer/UnknownTexts.h"
 #include "viewer/UnsavedBox.h"
 
+#include <CamApiStandIn.h>
 #include <FileError.h>
 
 #include <QAction>
+#include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 
@@ -62,7 +64,7 @@ void FileActions::watch()
     Document* const document = &m_canvas.document();
     const auto isIt = [document](const OpenStep& step) { return step.document == document; };
     if (std::none_of(m_steps.begin(), m_steps.end(), isIt)) {
-        m_steps.push_back({document, m_canvas.job(), m_canvas.step(), {}});
+        m_steps.push_back({document, CanvasHost::jobFile(), m_canvas.job(), m_canvas.step(), {}});
         const QUndoStack& history = document->history();
         connect(&history, &QUndoStack::indexChanged, this, &FileActions::changed);
         connect(&history, &QUndoStack::cleanChanged, this, &FileActions::changed);
@@ -315,28 +317,60 @@ void FileActions::keepForRecovery()
     auto abandoned = RecoveryFolder::abandoned();
     m_recovery = std::make_unique<Recovery>(m_steps);
     connect(this, &FileActions::changed, m_recovery.get(), &Recovery::update);
-    connect(m_recovery.get(), &Recovery::troubled, this, &FileActions::recoveryTroubled);
+    connect(m_recovery.get(), &Recovery::succeeded, this, &FileActions::changesKept);
+    connect(m_recovery.get(), &Recovery::failed, this, &FileActions::changesNotKept);
     if (!abandoned.empty()) {
-        const auto take = [this](const KeptStep& kept) { return recover(kept); };
-        auto* const offer = new RecoveryOffer(std::move(abandoned), take, m_pane);
+        const RecoveryOffer::Places places{
+            [this](const KeptStep& kept) { return showStepOf(kept); },
+            [this](const KeptStep& kept) { return recoverHere(kept); },
+            [this] { return OpenStep::nameOf(m_canvas.job(), m_canvas.step()); }};
+        auto* const offer = new RecoveryOffer(std::move(abandoned), places, m_pane);
         connect(offer, &RecoveryOffer::answered, this,
                 [this](const QString& text) { m_canvas.say(text); });
     }
 }
 
-bool FileActions::recover(const KeptStep& kept)
+/// Shows it if it is there; otherwise returns why it is not.
+QString FileActions::showStepOf(const KeptStep& kept)
 {
+    const QString name = QDir::toNativeSeparators(kept.jobFile);
+    if (kept.jobFile != CanvasHost::jobFile()) {
+        if (!QFileInfo(kept.jobFile).isFile()) {
+            return tr("the job file %1 is not there").arg(name);
+        }
+        const auto isChanged = [](const OpenStep& step) { return step.document->isModified(); };
+        if (std::any_of(m_steps.begin(), m_steps.end(), isChanged)) {
+            return tr("the job file %1 cannot be opened while boards are changed").arg(name);
+        }
+        if (!m_openJob(kept.jobFile)) {
+            return tr("the job file %1 could not be opened").arg(name);
+        }
+    }
     const auto isShown = [&] { return m_canvas.job() == kept.job && m_canvas.step() == kept.step; };
-    if (!isShown()) {
+    const CanvasHost::Job* const job = CanvasHost::findJob(kept.job.toStdString());
+    if (!isShown() && job &&
+        std::count(job->steps.begin(), job->steps.end(), kept.step.toStdString()) > 0) {
         Q_EMIT stepWanted(kept.job, kept.step);
     }
+    return isShown() ? QString() : tr("the job file %1 has no such step").arg(name);
+}
+
+bool FileActions::readKept(const KeptStep& kept, Pcb::Board* board)
+{
+    return attempt(
+        tr("Cannot recover the changes"), tr("Recovering changes..."),
+        [&](const Pcb::Progress& progress) { *board = RecoveryFolder::read(kept.path, progress); });
+}
+
+/// Takes it over into the step that is shown; returns why not.
+QString FileActions::recoverHere(const KeptStep& kept)
+{
+    if (isModified()) {
+        return tr("%1 has been changed").arg(OpenStep::nameOf(m_canvas.job(), m_canvas.step()));
+    }
     Pcb::Board board;
-    const auto read = [&](const Pcb::Progress& progress) {
-        board = RecoveryFolder::read(kept.path, progress);
-    };
-    if (!isShown() || isModified() ||
-        !attempt(tr("Cannot recover the changes"), tr("Recovering changes..."), read)) {
-        return false;
+    if (!readKept(kept, &board)) {
+        return tr("it has not been read");
     }
     OpenStep& step = shown();
     step.document->replaceUnsaved(board);
@@ -344,5 +378,5 @@ bool FileActions::recover(const KeptStep& kept)
     m_recovery->takeOver(kept, static_cast<size_t>(&step - m_steps.data()));
     Q_EMIT opened();
     tell(UnknownTexts::drawn(Pcb::unknownsOf(board)));
-    return true;
+    return {};
 }

@@ -38,6 +38,10 @@ public:
     void keepForRecovery() override;
     bool mayAsk() const { return m_mayAsk(); }
     void setMayAsk(std::function<bool()> mayAsk) override { m_mayAsk = std::move(mayAsk); }
+    void setOpenJob(std::function<bool(const QString& file)> openJob) override
+    {
+        m_openJob = std::move(openJob);
+    }
     QString file() const override;
     bool isModified() const override;
     void setChanged(const std::function<void()>& changed) override;
@@ -50,8 +54,10 @@ Q_SIGNALS:
     void opened();
     /// The step is to be opened, if there is such a step.
     void stepWanted(const QString& job, const QString& step);
-    /// Changes cannot be kept for recovery, and why; empty: now they can.
-    void recoveryTroubled(const QString& reason);
+    /// All changes are kept for recovery.
+    void changesKept();
+    /// Changes cannot be kept for recovery, and why.
+    void changesNotKept(const QString& reason);
 
 private:
     QAction* add(const char* name, const QKeySequence& shortcut, void (FileActions::*slot)());
@@ -73,7 +79,9 @@ private:
     bool saveAs(OpenStep& step);
     bool write(OpenStep& step, const QString& file);
     void setFile(OpenStep& step, const QString& file);
-    bool recover(const KeptStep& kept);
+    QString showStepOf(const KeptStep& kept);
+    bool readKept(const KeptStep& kept, Pcb::Board* board);
+    QString recoverHere(const KeptStep& kept);
     static QString offeredName(const OpenStep& step);
     /// In a box; nothing where there are no words, or no user.
     void tell(const QString& words);
@@ -86,6 +94,7 @@ private:
     std::vector<OpenStep> m_steps;  ///< those that were shown, in that order
     std::unique_ptr<Recovery> m_recovery;
     std::function<bool()> m_mayAsk = [] { return true; };
+    std::function<bool(const QString& file)> m_openJob = [](const QString&) { return false; };
     QAction* m_new;
     QAction* m_open;
     QAction* m_save;

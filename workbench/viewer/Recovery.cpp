@@ -10,11 +10,16 @@
 #include <QFileInfo>
 
 #include <map>
-#include <utility>
 
 namespace {
 
-constexpr int delay = 250;  // milliseconds, in which further changes are waited for
+// Milliseconds: in which further changes are waited for, and until a failure is tried again.
+constexpr int delay = 250;
+constexpr int retryDelay = 5000;
+
+// Instead of a revision: there is no file, or perhaps one of another revision.
+constexpr int none = -1;
+constexpr int outdated = -2;
 
 }  // namespace
 
@@ -58,7 +63,6 @@ Recovery::Recovery(const std::vector<OpenStep>& steps)
     : m_steps(steps), m_writer(new RecoveryWriter(m_ends))
 {
     m_timer.setSingleShot(true);
-    m_timer.setInterval(delay);
     connect(&m_timer, &QTimer::timeout, this, &Recovery::write);
     m_writer->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_writer, &QObject::deleteLater);
@@ -78,21 +82,21 @@ Recovery::~Recovery()
 
 void Recovery::update()
 {
-    m_kept.resize(m_steps.size(), -1);
+    m_kept.resize(m_steps.size(), none);
+    const bool isDue = m_isWriting || (m_timer.isActive() && m_timer.remainingTime() <= delay);
     for (size_t index = 0; index < m_steps.size(); ++index) {
         const Document& document = *m_steps[index].document;
-        if (!document.isModified() && m_kept[index] >= 0) {
+        if (!document.isModified() && m_kept[index] != none) {
             removeKept(index);
-        } else if (document.isModified() && m_kept[index] != document.revision() && !m_isWriting &&
-                   !m_timer.isActive()) {
-            m_timer.start();
+        } else if (document.isModified() && m_kept[index] != document.revision() && !isDue) {
+            m_timer.start(delay);
         }
     }
 }
 
 void Recovery::removeKept(size_t index)
 {
-    m_kept[index] = -1;
+    m_kept[index] = none;
     QMetaObject::invokeMethod(m_writer,
                               [writer = m_writer, path = m_folder->path(static_cast<int>(index))] {
                                   writer->remove(path);
@@ -102,7 +106,7 @@ void Recovery::removeKept(size_t index)
 void Recovery::forgetAll()
 {
     for (size_t index = 0; index < m_kept.size(); ++index) {
-        if (m_kept[index] >= 0) {
+        if (m_kept[index] != none) {
             removeKept(index);
         }
     }
@@ -116,9 +120,29 @@ bool Recovery::hasFolder()
             m_folder = RecoveryFolder::create();
         }
     } catch (const CanvasHost::FileError& error) {
-        Q_EMIT troubled(error.text());
+        Q_EMIT failed(error.text());
+        m_timer.start(retryDelay);
     }
     return m_folder != nullptr;
+}
+
+std::vector<Recovery::Change> Recovery::changes()
+{
+    // Features are shared: copies of a board cost little.
+    std::vector<Change> changed;
+    for (size_t index = 0; index < m_steps.size(); ++index) {
+        const OpenStep& step = m_steps[index];
+        const int revision = step.document->revision();
+        if (step.document->isModified() && m_kept[index] != revision) {
+            m_kept[index] = revision;
+            const QString path = m_folder->path(static_cast<int>(index));
+            changed.push_back({index,
+                               revision,
+                               {step.jobFile, step.job, step.step, step.file, path, {}},
+                               step.document->board()});
+        }
+    }
+    return changed;
 }
 
 void Recovery::write()
@@ -126,34 +150,37 @@ void Recovery::write()
     if (!hasFolder()) {
         return;
     }
-    // Features are shared: copies of a board cost little.
-    std::vector<std::pair<KeptStep, Pcb::Board>> changed;
-    for (size_t index = 0; index < m_steps.size(); ++index) {
-        const OpenStep& step = m_steps[index];
-        if (step.document->isModified() && m_kept[index] != step.document->revision()) {
-            m_kept[index] = step.document->revision();
-            changed.emplace_back(
-                KeptStep{
-                    step.job, step.step, step.file, m_folder->path(static_cast<int>(index)), {}},
-                step.document->board());
-        }
-    }
     m_isWriting = true;
-    QMetaObject::invokeMethod(m_writer, [this, changed = std::move(changed)] {
+    QMetaObject::invokeMethod(m_writer, [this, changed = changes()] {
         QString reason;
-        for (const auto& [step, board] : changed) {
-            const QString failure = m_writer->write(step, board);
-            reason = failure.isEmpty() ? reason : failure;
+        std::vector<Change> failures;
+        for (const Change& change : changed) {
+            const QString failure = m_writer->write(change.step, change.board);
+            if (!failure.isEmpty()) {
+                reason = failure;
+                failures.push_back(change);
+            }
         }
-        QMetaObject::invokeMethod(this, [this, reason] { finish(reason); });
+        QMetaObject::invokeMethod(this, [=] { finish(failures, reason); });
     });
 }
 
-void Recovery::finish(const QString& reason)
+void Recovery::finish(const std::vector<Change>& failures, const QString& reason)
 {
     m_isWriting = false;
-    Q_EMIT troubled(reason);
+    for (const Change& change : failures) {
+        // The steps may be others by now.
+        if (change.index < m_kept.size() && m_kept[change.index] == change.revision) {
+            m_kept[change.index] = outdated;
+        }
+    }
     update();
+    if (failures.empty()) {
+        Q_EMIT succeeded();
+    } else {
+        m_timer.start(retryDelay);
+        Q_EMIT failed(reason);
+    }
 }
 
 void Recovery::takeOver(const KeptStep& kept, size_t index)

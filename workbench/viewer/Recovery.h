@@ -1,5 +1,6 @@
 #pragma once
 
+#include "viewer/OpenStep.h"
 #include "viewer/RecoveryFolder.h"
 
 #include <QObject>
@@ -10,20 +11,11 @@
 #include <memory>
 #include <vector>
 
-class Document;
 class RecoveryWriter;
-
-/// A step that the user works on.
-struct OpenStep {
-    Document* document;
-    QString job;
-    QString step;
-    QString file;  ///< empty: it was never saved
-};
 
 /// Keeps changed steps in files, so that a crash loses no more than the last moment. They are
 /// written on a thread of their own, each only when what it is about has changed, and removed when
-/// it is saved. In the end all of them are removed.
+/// it is saved. What could not be written is tried again. In the end all of them are removed.
 class Recovery : public QObject {
     Q_OBJECT
 
@@ -40,18 +32,29 @@ public:
     void takeOver(const KeptStep& kept, size_t index);
 
 Q_SIGNALS:
-    /// Changes cannot be kept; empty: now they can.
-    void troubled(const QString& reason);
+    /// All changes are kept.
+    void succeeded();
+    /// Changes cannot be kept.
+    void failed(const QString& reason);
 
 private:
+    /// A step that is to be written.
+    struct Change {
+        size_t index;
+        int revision;
+        KeptStep step;
+        Pcb::Board board;
+    };
+
     bool hasFolder();
     void removeKept(size_t index);
+    std::vector<Change> changes();
     void write();
-    void finish(const QString& reason);
+    void finish(const std::vector<Change>& failures, const QString& reason);
 
     const std::vector<OpenStep>& m_steps;
     std::unique_ptr<RecoveryFolder> m_folder;
-    std::vector<int> m_kept;  ///< of each step, the revision that is in its file; -1: none
+    std::vector<int> m_kept;  ///< of each step, the revision that is in its file, or see below
     std::atomic<bool> m_ends{false};
     bool m_isWriting = false;
     QTimer m_timer;

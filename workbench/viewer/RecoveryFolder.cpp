@@ -89,7 +89,8 @@ std::vector<KeptStep> RecoveryFolder::steps() const
         if (file.open(QIODevice::ReadOnly)) {
             const QJsonObject about = QJsonDocument::fromJson(file.readLine()).object();
             steps.push_back(
-                {about[QStringLiteral("job")].toString(), about[QStringLiteral("step")].toString(),
+                {about[QStringLiteral("jobFile")].toString(),
+                 about[QStringLiteral("job")].toString(), about[QStringLiteral("step")].toString(),
                  about[QStringLiteral("file")].toString(), info.filePath(), info.lastModified()});
         }
     }
@@ -107,7 +108,8 @@ void RecoveryFolder::remove()
 
 QByteArray RecoveryFolder::text(const KeptStep& step, const QByteArray& board)
 {
-    const QJsonObject about{{QStringLiteral("job"), step.job},
+    const QJsonObject about{{QStringLiteral("jobFile"), step.jobFile},
+                            {QStringLiteral("job"), step.job},
                             {QStringLiteral("step"), step.step},
                             {QStringLiteral("file"), step.boardFile}};
     return QJsonDocument(about).toJson(QJsonDocument::Compact) + '\n' + board;

@@ -12,6 +12,7 @@
 
 /// The board of a step as it was when it was kept last.
 struct KeptStep {
+    QString jobFile;
     QString job;
     QString step;
     QString boardFile;  ///< empty: it was in no file yet

@@ -1,6 +1,7 @@
 #include "viewer/RecoveryOffer.h"
 
 #include "shared/Named.h"
+#include "viewer/OpenStep.h"
 
 #include <QFileInfo>
 #include <QMessageBox>
@@ -8,8 +9,8 @@
 
 #include <utility>
 
-RecoveryOffer::RecoveryOffer(Folders folders, Recover recover, QWidget* pane)
-    : QObject(pane), m_folders(std::move(folders)), m_recover(std::move(recover))
+RecoveryOffer::RecoveryOffer(Folders folders, Places places, QWidget* pane)
+    : QObject(pane), m_folders(std::move(folders)), m_places(std::move(places))
 {
     auto* const box =
         new QMessageBox(QMessageBox::Question, tr("Recover Changes"),
@@ -36,17 +37,12 @@ RecoveryOffer::RecoveryOffer(Folders folders, Recover recover, QWidget* pane)
     box->open();
 }
 
-QString RecoveryOffer::nameOf(const QString& job, const QString& step)
-{
-    return job.isEmpty() ? tr("a board without a job") : tr("%1 / %2").arg(job, step);
-}
-
 QString RecoveryOffer::list() const
 {
     QStringList lines;
     for (const auto& folder : m_folders) {
         for (const KeptStep& step : folder->steps()) {
-            const QString name = nameOf(step.job, step.step);
+            const QString name = OpenStep::nameOf(step.job, step.step);
             const QString time = step.time.toString(QStringLiteral("yyyy-MM-dd HH:mm"));
             lines.append(
                 step.boardFile.isEmpty()
@@ -57,25 +53,52 @@ QString RecoveryOffer::list() const
     return lines.join(QLatin1Char('\n'));
 }
 
+/// Its own step is shown, or is not there, as `whyElsewhere` says.
+void RecoveryOffer::recoverInto(const KeptStep& step, const QString& whyElsewhere, Told* told)
+{
+    const QString name = OpenStep::nameOf(step.job, step.step);
+    const QString whyNot = m_places.recoverHere(step);
+    if (!whyNot.isEmpty() && whyElsewhere.isEmpty()) {
+        told->left.append(tr("%1 (%2)").arg(name, whyNot));
+    } else if (!whyNot.isEmpty()) {
+        told->left.append(tr("%1 (%2; %3)").arg(name, whyElsewhere, whyNot));
+    } else if (whyElsewhere.isEmpty()) {
+        told->recovered.append(name);
+    } else {
+        told->recovered.append(tr("%1 (in %2, as %3)").arg(name, m_places.shown(), whyElsewhere));
+    }
+}
+
 QString RecoveryOffer::recoverAll()
 {
-    QStringList recovered;
-    QStringList left;
+    Told told;
+    // Those whose step is not there take no other's place.
+    std::vector<std::pair<KeptStep, QString>> astray;
     for (const auto& folder : m_folders) {
         for (const KeptStep& step : folder->steps()) {
-            (m_recover(step) ? recovered : left).append(nameOf(step.job, step.step));
+            const QString why = m_places.showStep(step);
+            if (why.isEmpty()) {
+                recoverInto(step, {}, &told);
+            } else {
+                astray.emplace_back(step, why);
+            }
         }
+    }
+    for (const auto& [step, why] : astray) {
+        recoverInto(step, why, &told);
+    }
+    for (const auto& folder : m_folders) {
         if (folder->steps().empty()) {
             folder->remove();
         }
     }
     m_folders.clear();
     QStringList texts;
-    if (!recovered.isEmpty()) {
-        texts.append(tr("Recovered: %1.").arg(recovered.join(QStringLiteral(", "))));
+    if (!told.recovered.isEmpty()) {
+        texts.append(tr("Recovered: %1.").arg(told.recovered.join(QStringLiteral(", "))));
     }
-    if (!left.isEmpty()) {
-        texts.append(tr("Left for the next start: %1.").arg(left.join(QStringLiteral(", "))));
+    if (!told.left.isEmpty()) {
+        texts.append(tr("Left for the next start: %1.").arg(told.left.join(QStringLiteral(", "))));
     }
     return texts.join(QLatin1Char(' '));
 }

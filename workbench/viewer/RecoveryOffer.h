@@ -3,6 +3,7 @@
 #include "viewer/RecoveryFolder.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -17,14 +18,18 @@ class RecoveryOffer : public QObject {
 
 public:
     using Folders = std::vector<std::unique_ptr<RecoveryFolder>>;
-    /// Takes the step over; false: it stays where it is.
-    using Recover = std::function<bool(const KeptStep&)>;
+    /// What takes the boards over.
+    struct Places {
+        /// Shows the step that it was kept for; otherwise says why it is not there.
+        std::function<QString(const KeptStep&)> showStep;
+        /// Takes it over into the step that is shown; otherwise says why not, and it stays.
+        std::function<QString(const KeptStep&)> recoverHere;
+        /// The name of the step that is shown.
+        std::function<QString()> shown;
+    };
 
     /// `pane` becomes the parent.
-    RecoveryOffer(Folders folders, Recover recover, QWidget* pane);
-
-    /// "job / step".
-    static QString nameOf(const QString& job, const QString& step);
+    RecoveryOffer(Folders folders, Places places, QWidget* pane);
 
 Q_SIGNALS:
     /// What has been done, to be told to the user.
@@ -32,9 +37,15 @@ Q_SIGNALS:
 
 private:
     QString list() const;
+    /// What has become of the steps, in words.
+    struct Told {
+        QStringList recovered;
+        QStringList left;
+    };
+    void recoverInto(const KeptStep& step, const QString& whyElsewhere, Told* told);
     QString recoverAll();
     QString discardAll();
 
     Folders m_folders;
-    Recover m_recover;
+    Places m_places;
 };

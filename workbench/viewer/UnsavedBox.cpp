@@ -1,8 +1,7 @@
 #include "viewer/UnsavedBox.h"
 
 #include "shared/Named.h"
-#include "viewer/Recovery.h"
-#include "viewer/RecoveryOffer.h"
+#include "viewer/OpenStep.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
@@ -16,7 +15,7 @@ QString text(const char* source)
     return QCoreApplication::translate("UnsavedBox", source);
 }
 
-int ask(const QString& question, QMessageBox::StandardButtons buttons, QWidget* parent)
+int answerTo(const QString& question, QMessageBox::StandardButtons buttons, QWidget* parent)
 {
     QMessageBox box(QMessageBox::Warning, text(QT_TRANSLATE_NOOP("UnsavedBox", "Unsaved Changes")),
                     question, buttons, parent);
@@ -41,10 +40,11 @@ int UnsavedBox::ask(const OpenStep& step, QWidget* parent)
             ? text(
                   QT_TRANSLATE_NOOP("UnsavedBox",
                                     "%1 has been changed and is in no file yet. Save the changes?"))
-                  .arg(RecoveryOffer::nameOf(step.job, step.step))
+                  .arg(OpenStep::nameOf(step.job, step.step))
             : text(QT_TRANSLATE_NOOP("UnsavedBox", "\"%1\" has been changed. Save the changes?"))
                   .arg(QFileInfo(step.file).fileName());
-    return ::ask(question, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, parent);
+    return answerTo(question, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                    parent);
 }
 
 int UnsavedBox::ask(const std::vector<OpenStep*>& steps, QWidget* parent)
@@ -54,13 +54,12 @@ int UnsavedBox::ask(const std::vector<OpenStep*>& steps, QWidget* parent)
         const QString file = step->file.isEmpty()
                                  ? text(QT_TRANSLATE_NOOP("UnsavedBox", "in no file yet"))
                                  : QFileInfo(step->file).fileName();
-        names.append(
-            QStringLiteral("%1 (%2)").arg(RecoveryOffer::nameOf(step->job, step->step), file));
+        names.append(QStringLiteral("%1 (%2)").arg(OpenStep::nameOf(step->job, step->step), file));
     }
     const QString question =
         text(QT_TRANSLATE_NOOP("UnsavedBox",
                                "These boards have been changed:\n%1\nSave the changes?"))
             .arg(names.join(QLatin1Char('\n')));
-    return ::ask(question, QMessageBox::SaveAll | QMessageBox::Discard | QMessageBox::Cancel,
-                 parent);
+    return answerTo(question, QMessageBox::SaveAll | QMessageBox::Discard | QMessageBox::Cancel,
+                    parent);
 }

@@ -102,9 +102,10 @@ void ViewerPane::connectCanvas()
     connect(&m_canvas, &CanvasController::documentOpened, m_view, &BoardView::fit);
     connect(m_files, &FileActions::opened, m_view, &BoardView::fit);
     connect(m_files, &FileActions::stepWanted, this, &ViewerPane::askForStep);
-    connect(m_files, &FileActions::recoveryTroubled, this, [this](const QString& reason) {
+    connect(m_files, &FileActions::changesKept, m_pRecoveryLB, &QWidget::hide);
+    connect(m_files, &FileActions::changesNotKept, this, [this](const QString& reason) {
         m_pRecoveryLB->setToolTip(reason);
-        m_pRecoveryLB->setVisible(!reason.isEmpty());
+        m_pRecoveryLB->show();
     });
     auto* const cancel = new QAction(this);
     cancel->setObjectName(QStringLiteral("m_pCancelAct"));

@@ -62,10 +62,10 @@ void WorkbenchWindow::chooseAndOpenJob()
     }
 }
 
-void WorkbenchWindow::openJob(const QString& file)
+bool WorkbenchWindow::openJob(const QString& file)
 {
     if (!canvas()->files().mayClose()) {
-        return;
+        return false;
     }
     try {
         CanvasHost::loadJobs(file);
@@ -74,11 +74,12 @@ void WorkbenchWindow::openJob(const QString& file)
         m_jobTree->fill(m_options.moduleDirectory);
     } catch (const FileError& error) {
         showError(this, tr("Cannot open the job"), error);
-        return;
+        return false;
     }
     listJobs();
     m_host->closeJob();
     openFirstJob();
+    return true;
 }
 
 void WorkbenchWindow::openFirstJob()

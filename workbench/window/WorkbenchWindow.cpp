@@ -71,6 +71,7 @@ void WorkbenchWindow::start()
             ModuleNames::viewer, 0,
             QCoreApplication::translate("FileErrors", "is not a canvas for this window")};
     }
+    canvas()->files().setOpenJob([this](const QString& file) { return openJob(file); });
     addCanvasEntries();
     retranslateMenus();
     openFirstJob();

@@ -81,7 +81,8 @@ private:
     void orderStops();
 
     void chooseAndOpenJob();
-    void openJob(const QString& file);
+    /// False: it is not open, which the user knows.
+    bool openJob(const QString& file);
     void openFirstJob();
     void listJobs();
     void openFile(const QString& file);

@@ -8,6 +8,8 @@
 #include "viewer/FileActions.h"
 #include "viewer/RecoveryFolder.h"
 
+#include <CamApiStandIn.h>
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
@@ -85,13 +87,25 @@ class TestRecovery : public QObject {
     }
     /// As a crash leaves it.
     void leave(const char* path, const QString& job, const QString& step, const QString& file,
-               const Pcb::Board& board) const
+               const Pcb::Board& board, const QString& jobFile = CanvasHost::jobFile()) const
     {
         const QString name = place() + "/" + path;
         QDir().mkpath(QFileInfo(name).path());
         QFile device(name);
         QVERIFY(device.open(QIODevice::WriteOnly));
-        device.write(RecoveryFolder::text({job, step, file, {}, {}}, Pcb::toJson(board)));
+        device.write(RecoveryFolder::text({jobFile, job, step, file, {}, {}}, Pcb::toJson(board)));
+    }
+    /// With the job `name` and its steps "pcb" and "panel".
+    QString writeJob(const QString& file, const QByteArray& name) const
+    {
+        QFile device(m_directory->filePath(file));
+        if (!device.open(QIODevice::WriteOnly)) {
+            qFatal("the job file cannot be written");
+        }
+        device.write(R"({"format":1,"jobs":[{"name":")" + name +
+                     R"(","steps":["pcb","panel"],"fonts":[],"specialSymbols":[],
+                     "userSymbols":[],"specialTexts":[],"attributes":[]}]})");
+        return QFileInfo(device).canonicalFilePath();
     }
     Pcb::Board onePad() const { return {"other", "layer", {}, {keptPad(1234)}}; }
 
@@ -100,8 +114,13 @@ private Q_SLOTS:
     {
         m_directory = std::make_unique<QTemporaryDir>();
         Settings::keepIn(m_directory->filePath("settings.ini"));
+        CanvasHost::loadJobs(writeJob("sample.json", "demo"));
     }
-    void cleanup() { Settings::keepIn({}); }
+    void cleanup()
+    {
+        Settings::keepIn({});
+        CanvasHost::clearJobs();
+    }
 
     void eachChangedStepIsKeptWithinTwoSeconds()
     {
@@ -122,7 +141,7 @@ private Q_SLOTS:
     void onlyWhatHasChangedIsWritten()
     {
         const KeepingProgram program;
-        QSignalSpy written(&program.files(), &FileActions::recoveryTroubled);
+        QSignalSpy written(&program.files(), &FileActions::changesKept);
         program.removeFirst();
         QVERIFY(written.wait(twoSeconds));
         program.document().select("select", {0});
@@ -226,15 +245,93 @@ private Q_SLOTS:
         QCOMPARE(int(keptBoard("0/0.kept").features.size()), 1);
     }
 
-    void aStepThatIsNotThereIsLeft()
+    void theJobFileOfTheStepIsOpened()
+    {
+        const QString mine = writeJob("mine.json", "demo");
+        leave("0/0.kept", "demo", "pcb", {}, onePad(), mine);
+        const KeepingProgram program;
+        QStringList opened;
+        program.files().setOpenJob([&](const QString& file) {
+            opened.append(file);
+            CanvasHost::loadJobs(file);
+            program.files().closeAll();
+            return true;
+        });
+        // A step of the same name, but of another job.
+        program.pane->canvas().openStep("demo", "pcb");
+        const Pcb::Board sample = program.document().board();
+        program.answer("m_pRecoverPB");
+        QCOMPARE(opened, QStringList(mine));
+        QVERIFY(program.document().board() == onePad());
+        QCOMPARE(program.text("m_pCanvasStatusLB"), QString("Recovered: demo / pcb."));
+        QCOMPARE(kept("0"), QStringList());
+        QVERIFY(!(sample == onePad()));
+        // It is kept for that job again.
+        program.document().applyBoard("remove", Pcb::without(onePad(), {0}));
+        const auto isKept = [&] {
+            QFile file(place() + "/1/" + this->kept("1").value(0));
+            return file.open(QIODevice::ReadOnly) && file.readLine().contains("mine.json") &&
+                   !file.readAll().contains("r60");
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isKept(), twoSeconds);
+    }
+
+    void whoseJobFileIsGoneIsRecoveredInTheStepThatIsShown()
+    {
+        leave("0/0.kept", "mine", "pcb", "/home/me/pcb.json", onePad(), "/home/me/mine.json");
+        const KeepingProgram program;
+        program.pane->canvas().openStep("demo", "panel");
+        program.answer("m_pRecoverPB");
+        QVERIFY(program.document().board() == onePad());
+        QVERIFY(program.files().isModified());
+        QCOMPARE(program.files().file(), QString("/home/me/pcb.json"));
+        QCOMPARE(program.pane->canvas().step(), QString("panel"));
+        QCOMPARE(kept("0"), QStringList());
+        QCOMPARE(program.text("m_pCanvasStatusLB"),
+                 "Recovered: mine / pcb (in demo / panel, as the job file " +
+                     QDir::toNativeSeparators("/home/me/mine.json") + " is not there).");
+    }
+
+    void whatCannotBeInItsStepTakesNoOthersPlace()
     {
         leave("0/0.kept", "gone", "pcb", {}, onePad());
         leave("0/1.kept", "demo", "pcb", {}, onePad());
+        const QString mine = writeJob("mine.json", "mine");
+        leave("0/2.kept", "mine", "pcb", {}, onePad(), mine);
+        leave("0/3.kept", "demo", "no", {}, onePad());
+        {
+            // The order is that of time.
+            QFile older(place() + "/0/2.kept");
+            QVERIFY(older.open(QIODevice::ReadWrite));
+            QVERIFY(older.setFileTime(QDateTime::currentDateTime().addSecs(-60),
+                                      QFileDevice::FileModificationTime));
+        }
         const KeepingProgram program;
         program.answer("m_pRecoverPB");
-        QCOMPARE(kept("0"), QStringList("0.kept"));
-        QCOMPARE(program.text("m_pCanvasStatusLB"),
-                 QString("Recovered: demo / pcb. Left for the next start: gone / pcb."));
+        QCOMPARE(kept("0"), QStringList({"0.kept", "2.kept", "3.kept"}));
+        const QString said = program.text("m_pCanvasStatusLB");
+        const QString sample = QDir::toNativeSeparators(CanvasHost::jobFile());
+        QVERIFY2(said.startsWith("Recovered: demo / pcb. Left for the next start: "),
+                 qPrintable(said));
+        QVERIFY2(said.contains("gone / pcb (the job file " + sample +
+                               " has no such step; demo / pcb has been changed)"),
+                 qPrintable(said));
+        QVERIFY2(said.contains("demo / no (the job file " + sample + " has no such step; "),
+                 qPrintable(said));
+        QVERIFY2(said.contains("mine / pcb (the job file " + QDir::toNativeSeparators(mine) +
+                               " cannot be opened while boards are changed; "),
+                 qPrintable(said));
+    }
+
+    void whoseJobFileIsNotOpenedIsRecoveredInTheStepThatIsShown()
+    {
+        leave("0/0.kept", "mine", "pcb", {}, onePad(), writeJob("mine.json", "mine"));
+        const KeepingProgram program;
+        program.files().setOpenJob([](const QString&) { return false; });
+        program.answer("m_pRecoverPB");
+        QVERIFY(program.document().board() == onePad());
+        const QString said = program.text("m_pCanvasStatusLB");
+        QVERIFY2(said.endsWith("mine.json could not be opened)."), qPrintable(said));
     }
 
     void ofTwoThatAreTheSameStepTheLaterIsRecovered()
@@ -273,18 +370,19 @@ private Q_SLOTS:
     void thatNothingCanBeKeptIsSaidAndDisturbsNobody()
     {
         const KeepingProgram program;
-        QSignalSpy tries(&program.files(), &FileActions::recoveryTroubled);
+        QSignalSpy successes(&program.files(), &FileActions::changesKept);
+        QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
         QFile wall(place() + "/0");
         QVERIFY(!program.isTroubled());
         program.removeFirst();
-        QVERIFY(tries.wait(twoSeconds));
+        QVERIFY(successes.wait(twoSeconds));
         QVERIFY(QDir(wall.fileName()).removeRecursively());
         QVERIFY(wall.open(QIODevice::WriteOnly));
         for (int i = 0; i < 2; ++i) {
             program.document().history().push(new QUndoCommand);
             program.document().applyBoard(
                 "add", Pcb::withAdded(program.document().board(), {keptPad(3000 + i)}));
-            QVERIFY(tries.wait(twoSeconds));
+            QVERIFY(failures.wait(twoSeconds));
             QVERIFY(program.isTroubled());
             QVERIFY(!QApplication::activeModalWidget());
         }
@@ -293,15 +391,53 @@ private Q_SLOTS:
         wall.close();
         QVERIFY(wall.remove());
         program.removeFirst();
-        QVERIFY(tries.wait(twoSeconds));
+        QVERIFY(successes.wait(twoSeconds));
         QVERIFY(!program.isTroubled());
         QCOMPARE(kept().size(), 1);
+    }
+
+    void whatCouldNotBeKeptIsTriedAgainWithoutAnEdit()
+    {
+        const KeepingProgram program;
+        QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QFile wall(place() + "/0");
+        QVERIFY(QDir(wall.fileName()).removeRecursively());
+        QVERIFY(wall.open(QIODevice::WriteOnly));
+        program.removeFirst();
+        QVERIFY(failures.wait(twoSeconds));
+        wall.close();
+        QVERIFY(wall.remove());
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, 3 * twoSeconds);
+        QVERIFY(keptBoard("0/0.kept") == program.document().board());
+        QTRY_VERIFY(!program.isTroubled());
+    }
+
+    void whatIsSavedWhileItCannotBeKeptIsNotKeptLater()
+    {
+        const KeepingProgram program;
+        QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
+        program.removeFirst();
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        // The old file stays where the new one cannot be written beside it.
+        QVERIFY(QFile::rename(place() + "/0", place() + "/away"));
+        QFile wall(place() + "/0");
+        QVERIFY(wall.open(QIODevice::WriteOnly));
+        program.removeFirst();
+        QVERIFY(failures.wait(twoSeconds));
+        wall.close();
+        QVERIFY(wall.remove());
+        QVERIFY(QFile::rename(place() + "/away", place() + "/0"));
+        program.document().setSaved();
+        QTRY_COMPARE(kept().size(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!program.isTroubled(), 3 * twoSeconds);
     }
 
     void noEventWaitsForALargeBoard()
     {
         const KeepingProgram program(padsOf(TestProgram::isFull() ? 100000 : 40000));
-        QSignalSpy written(&program.files(), &FileActions::recoveryTroubled);
+        QSignalSpy written(&program.files(), &FileActions::changesKept);
         bool isQuick = false;
         for (int attempt = 1; attempt <= 3 && !isQuick; ++attempt) {
             // Nothing is as it was written last.

@@ -4,6 +4,7 @@
 #include <CamApiStandIn.h>
 #include <cam_api.h>
 
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -254,8 +255,11 @@ QString TestCamApi::write(const QByteArray& text)
 void TestCamApi::jobFile()
 {
     CanvasHost::addJob(exampleJob("old"));
-    CanvasHost::loadJobs(write(validFile().join('\n').toUtf8()));
+    QVERIFY(CanvasHost::jobFile().isEmpty());
+    const QString file = write(validFile().join('\n').toUtf8());
+    CanvasHost::loadJobs(file);
 
+    QCOMPARE(CanvasHost::jobFile(), QFileInfo(file).canonicalFilePath());
     QCOMPARE(CanvasHost::jobs().size(), size_t(2));
     const Job* const job = CanvasHost::currentJob();
     QVERIFY(job);
