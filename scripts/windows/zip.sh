@@ -87,6 +87,7 @@ make_zips() {
         add_papers README.txt) || exit 1
     (cd "$packed/$dev_zip" && install_parts module host development check &&
         add_papers README-dev.txt && mkdir docs && cp "$root"/docs/*.md docs &&
-        cp -r "$root/examples" .) || exit 1
+        cp -r "$root/examples" . &&
+        (cd "$root" && cp --parents cmake/mingw-w64.cmake scripts/windows/wine.sh "$OLDPWD")) || exit 1
     (cd "$packed" && pack "$user_zip" && pack "$dev_zip") || exit 1
 }
