@@ -13,6 +13,13 @@ for one in "$name" "$name-dev"; do
     [ -d "$one" ] || { echo "$one.zip holds no folder of that name"; exit 1; }
     dates=$(find "$one" -type f -printf '%T@\n' | sort -u | wc -l)
     [ "$dates" -eq 1 ] || { echo "$one.zip has files of $dates dates"; exit 1; }
+    # Programs have one within as well; that of a file is even.
+    date=$(stat -c %Y "$one/README.txt")
+    for program in $(find "$one" -name '*.exe' -o -name '*.dll'); do
+        within=$(x86_64-w64-mingw32-objdump -p "$program" | sed -nE 's/^Time\/Date\s+//p' | head -n 1)
+        within=$(date -d "$within" +%s)
+        [ $(((within - date) / 2)) -eq 0 ] || { echo "$program is of another date"; exit 1; }
+    done
 done
 [ "$(ls | wc -l)" -eq 2 ] || { ls; echo "more than a folder in each zip"; exit 1; }
 
