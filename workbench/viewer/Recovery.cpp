@@ -9,12 +9,14 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
 namespace {
 
-constexpr int delay = 250;  // milliseconds, in which further changes are waited for
+constexpr int delay = 250;   // milliseconds, in which further changes are waited for
+constexpr int pause = 1000;  // after a failure
 
 }  // namespace
 
@@ -58,7 +60,6 @@ Recovery::Recovery(const std::vector<OpenStep>& steps)
     : m_steps(steps), m_writer(new RecoveryWriter(m_ends))
 {
     m_timer.setSingleShot(true);
-    m_timer.setInterval(delay);
     connect(&m_timer, &QTimer::timeout, this, &Recovery::write);
     m_writer->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_writer, &QObject::deleteLater);
@@ -85,7 +86,7 @@ void Recovery::update()
             removeKept(index);
         } else if (document.isModified() && m_kept[index] != document.revision() && !m_isWriting &&
                    !m_timer.isActive()) {
-            m_timer.start();
+            m_timer.start(delay);
         }
     }
 }
@@ -128,6 +129,7 @@ void Recovery::write()
     }
     // Features are shared: copies of a board cost little.
     std::vector<std::pair<KeptStep, Pcb::Board>> changed;
+    const std::vector<int> before = m_kept;
     for (size_t index = 0; index < m_steps.size(); ++index) {
         const OpenStep& step = m_steps[index];
         if (step.document->isModified() && m_kept[index] != step.document->revision()) {
@@ -139,20 +141,27 @@ void Recovery::write()
         }
     }
     m_isWriting = true;
-    QMetaObject::invokeMethod(m_writer, [this, changed = std::move(changed)] {
+    QMetaObject::invokeMethod(m_writer, [this, before, changed = std::move(changed)] {
         QString reason;
         for (const auto& [step, board] : changed) {
             const QString failure = m_writer->write(step, board);
             reason = failure.isEmpty() ? reason : failure;
         }
-        QMetaObject::invokeMethod(this, [this, reason] { finish(reason); });
+        QMetaObject::invokeMethod(this, [=] { finish(reason, before); });
     });
 }
 
-void Recovery::finish(const QString& reason)
+void Recovery::finish(const QString& reason, const std::vector<int>& before)
 {
     m_isWriting = false;
     Q_EMIT troubled(reason);
+    if (!reason.isEmpty()) {
+        // On Windows it is enough that another program reads the file at this moment.
+        for (size_t index = 0; index < std::min(m_kept.size(), before.size()); ++index) {
+            m_kept[index] = std::min(m_kept[index], before[index]);
+        }
+        m_timer.start(pause);
+    }
     update();
 }
 

@@ -47,7 +47,8 @@ private:
     bool hasFolder();
     void removeKept(size_t index);
     void write();
-    void finish(const QString& reason);
+    /// Where it has failed for a `reason`, it is tried again: `before` is what was kept before.
+    void finish(const QString& reason, const std::vector<int>& before);
 
     const std::vector<OpenStep>& m_steps;
     std::unique_ptr<RecoveryFolder> m_folder;

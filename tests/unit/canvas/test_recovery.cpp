@@ -292,9 +292,7 @@ private Q_SLOTS:
         QVERIFY2(reason.startsWith(place()), qPrintable(reason));
         wall.close();
         QVERIFY(wall.remove());
-        program.removeFirst();
-        QVERIFY(tries.wait(twoSeconds));
-        QVERIFY(!program.isTroubled());
+        QTRY_VERIFY_WITH_TIMEOUT(!program.isTroubled(), twoSeconds);
         QCOMPARE(kept().size(), 1);
     }
 
