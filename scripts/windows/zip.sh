@@ -1,5 +1,5 @@
 # Sourced by windows.sh: what is given away for Windows. One zip to run the workbench from, and one for
-# those who build a host. The same sources give the same zips, dated by SOURCE_DATE_EPOCH.
+# those who build a host. The same build gives the same zips, dated by SOURCE_DATE_EPOCH.
 
 version=$(sed -nE 's/^project\(.* VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt)
 user_zip=canvas-tool-strip-$version-windows
@@ -69,13 +69,9 @@ add_papers() {
 
 # pack NAME: the folder NAME as a zip
 pack() {
-    local epoch
-    epoch=${SOURCE_DATE_EPOCH:-$(git -C "$root" log -1 --format=%ct 2>/dev/null ||
-        stat -c %Y "$root/CHANGELOG.md")}
     chmod -R u=rwX,go=rX "$1"
-    find "$1" -type f | LC_ALL=C sort >files
-    TZ=UTC cmake -E tar cf "../$1.zip" --format=zip --mtime="$(date -u -d "@$epoch" '+%F %T UTC')" \
-        --files-from=files || fail "packing $1 failed"
+    find "$1" -type f -exec touch -d "@$SOURCE_DATE_EPOCH" {} +
+    find "$1" -type f | LC_ALL=C sort | TZ=UTC zip -X -q -@ "../$1.zip" || fail "packing $1 failed"
     say "$out/$1.zip: $(stat -c %s "../$1.zip") bytes"
 }
 
@@ -83,10 +79,14 @@ make_zips() {
     say "zips"
     rm -rf "$packed" "$out"/canvas-tool-strip-*.zip
     mkdir -p "$packed/$user_zip" "$packed/$dev_zip"
+    # Programs have a date within, which the compiler's strip sets.
+    local -x SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -C "$root" log -1 --format=%ct 2>/dev/null ||
+        stat -c %Y "$root/CHANGELOG.md")}
     (cd "$packed/$user_zip" && install_parts module workbench host && add_others &&
         add_papers README.txt) || exit 1
     (cd "$packed/$dev_zip" && install_parts module host development check &&
         add_papers README-dev.txt && mkdir docs && cp "$root"/docs/*.md docs &&
-        cp -r "$root/examples" .) || exit 1
+        cp -r "$root/examples" . &&
+        (cd "$root" && cp --parents cmake/mingw-w64.cmake scripts/windows/wine.sh "$OLDPWD")) || exit 1
     (cd "$packed" && pack "$user_zip" && pack "$dev_zip") || exit 1
 }

@@ -10,7 +10,8 @@ cmake -S "$source" -B "$work" -G Ninja -DCTS_WORKBENCH=OFF -DCMAKE_DISABLE_FIND_
 for target in Canvas_Tool_Strip CanvasHostUiApi host_check; do
     grep -q "^build $target:" "$work/build.ninja" || { echo "no target $target"; exit 1; }
 done
-if grep -oE 'libzint|polyclipping|Qt5Svg' "$work/build.ninja" ||
+# Names of folders that no file shall tell say nothing.
+if sed 's/-fmacro-prefix-map=[^ ]*//g' "$work/build.ninja" | grep -oE 'libzint|polyclipping|Qt5Svg' ||
     grep '^CTS_\(ZINT\|CLIPPER\)' "$work/CMakeCache.txt"; then
     echo "asked for without the workbench"
     exit 1

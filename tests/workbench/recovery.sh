@@ -21,11 +21,12 @@ cd "$dir" || exit 1
 } >edits.session
 printf '%s\n' 'box accept "title=Recover Changes"' 'wait 50' >recover.session
 
-# play NAME OPTION...: what the program says goes to NAME.log.
+# play NAME OPTION...: what the program says goes to NAME.log. It has a process group of its
+# own, which is killed: where it is emulated, it is not alone.
 play() {
     local name=$1
     shift
-    exec "$workbench" --modules "$modules" --job "$jobs" --settings "$name.ini" --recovery "$@" \
+    exec setsid "$workbench" --modules "$modules" --job "$jobs" --settings "$name.ini" --recovery "$@" \
         >>"$name.log" 2>&1
 }
 fail() { echo "$1: $2"; grep -vE '^(QStandardPaths|This plugin)' "$1.log"; exit 1; }
@@ -45,7 +46,7 @@ once() {
     # A line is recorded before the click is made, so that the last one may not have been.
     sure=$(($(edits "$name.recorded") - 1))
     sleep 2
-    kill -9 "$pid"
+    kill -9 -- "-$pid"
     wait "$pid" 2>/dev/null
     made=$(edits "$name.recorded")
     [ -d "$name.ini.recovery" ] || fail "$name" "nothing was kept"
@@ -92,7 +93,7 @@ kept=$(pads other.ini.recovery/0/*.kept)
 [ ! -e other.ini.recovery ] || fail other "files are left"
 
 # Where no session is played the offer waits for the user, and so does a second program's start.
-"$workbench" --modules "$modules" --job "$jobs" --settings hand.ini >hand.log 2>&1 &
+setsid "$workbench" --modules "$modules" --job "$jobs" --settings hand.ini >hand.log 2>&1 &
 pid=$!
 for _ in $(seq 100); do
     [ ! -e hand.ini.recovery/0.lock ] || break
@@ -102,6 +103,6 @@ sleep 0.5
 [ -e hand.ini.recovery/0.lock ] || fail hand "nothing is offered"
 ! grep -q 'answered the box' hand.log || fail hand "the offer was answered"
 [ -e hand.ini.recovery/0/0.kept ] || [ -e hand.ini.recovery/0/1.kept ] || fail hand "it is gone"
-kill "$pid"
+kill -- "-$pid"
 wait "$pid" 2>/dev/null
 exit $status

@@ -6,7 +6,7 @@ cd "$1" || exit 1
 shift
 patterns=()
 for folder in "$HOME" "$@"; do
-    [ ${#folder} -gt 1 ] && patterns+=(-e "$folder/")
+    [ ${#folder} -gt 1 ] && patterns+=(-e "$folder/" -e "${folder//\//\\}\\")
 done
 searched=0 found=0
 while read -r file; do

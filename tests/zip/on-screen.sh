@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # On a screen, with Windows' plug-in: started as by a double click the program opens its window and
-# keeps the settings where Windows keeps them; a session reaches into the file dialogs.
+# keeps the settings where Windows keeps them; a session reaches into the file dialogs, and the
+# documentation is found.
 # Usage: on-screen.sh UNPACKED EMULATOR   (on a display, with a Wine folder of its own)
 set -u
 unpacked=$1 emulator=$2
@@ -26,7 +27,10 @@ menu m_pFileMenu m_pSaveBoardAct
 type fileNameEdit saved
 expect state fileNameEdit text=saved
 key fileNameEdit Escape
+menu m_pHelpMenu m_pDocumentationAct
+expect state m_pPagesTE visible=true
 END
-"$emulator" "$program" --play dialog.session --screenshot window.png --exit >log 2>&1 ||
-    { grep -v '^wine: ' log; echo "status $?"; exit 1; }
+QT_FORCE_STDERR_LOGGING=1 "$emulator" "$program" --play dialog.session --screenshot window.png \
+    --exit >log 2>&1 || { grep -v '^wine: ' log; echo "status $?"; exit 1; }
 [ -s window.png ] || { echo "no picture"; exit 1; }
+! grep 'QTextBrowser: No document' log || exit 1
