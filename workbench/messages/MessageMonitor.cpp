@@ -67,7 +67,7 @@ QWidget* MessageMonitor::createTable()
     auto* const side = new QWidget(this);
     m_pMonitorFilterLE = named(new QLineEdit(side), "m_pMonitorFilterLE");
     m_pMonitorFilterLE->setClearButtonEnabled(true);
-    m_pMonitorFilterLE->setMinimumWidth(10 * fontMetrics().averageCharWidth());
+    m_pMonitorFilterLE->setMinimumWidth(9 * fontMetrics().averageCharWidth());
     m_pMonitorCountLB = named(new QLabel(side), "m_pMonitorCountLB");
     m_pMonitorComposePB = named(new QPushButton(side), "m_pMonitorComposePB");
     m_pMonitorClearPB = named(new QPushButton(side), "m_pMonitorClearPB");
@@ -108,7 +108,7 @@ QWidget* MessageMonitor::createDetail()
     layout->setContentsMargins(6, 0, 0, 0);
     layout->addWidget(m_pMessageLB);
     layout->addWidget(m_pMessageTW);
-    side->setMinimumWidth(128);
+    side->setMinimumWidth(112);
     return side;
 }
 

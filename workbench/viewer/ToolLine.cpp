@@ -46,7 +46,7 @@ ToolLine::ToolLine(const Names& names, QWidget* parent)
     m_tool->setMinimumWidth(1);
     m_position->setObjectName(QLatin1String(names.position));
     m_position->setMinimumWidth(
-        fontMetrics().horizontalAdvance(QStringLiteral("00000.00, 00000.00__")));
+        fontMetrics().horizontalAdvance(QStringLiteral("0000.00, 0000.00_")));
     m_position->setMaximumWidth(
         fontMetrics().horizontalAdvance(QStringLiteral("-00000.00, -00000.00 mil__")));
     m_position->installEventFilter(this);

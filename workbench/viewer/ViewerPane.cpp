@@ -206,7 +206,7 @@ void ViewerPane::createSecondView()
     connect(&m_canvas, &CanvasController::documentOpened, view, &BoardView::fit);
     CanvasBar::addZoomKeys(m_secondView, *view);
     view->setFocus();
-    m_secondView->setMinimumWidth(leastLetters * fontMetrics().averageCharWidth());
+    m_secondView->setMinimumWidth(leastLetters * m_secondView->fontMetrics().averageCharWidth());
     m_secondView->resize(secondViewSize);
 }
 
