@@ -1,3 +1,4 @@
+#include "ComeAgain.h"
 #include "NameList.h"
 #include "common_widgets.h"
 
@@ -50,3 +51,9 @@ Widget_listpopup::Widget_listpopup(int type, std::string job, std::string /*step
 }
 
 Widget_listpopup::~Widget_listpopup() = default;
+
+void Widget_listpopup::setVisible(bool visible)
+{
+    comeAgain(this, visible);
+    QWidget::setVisible(visible);
+}

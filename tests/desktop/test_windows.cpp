@@ -12,8 +12,10 @@
 #include <QFont>
 #include <QImage>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QScreen>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
@@ -226,6 +228,63 @@ private Q_SLOTS:
         Desktop::waitForWindow(&dialog);
         open("m_pDocumentation", "m_pDocumentationAct");
         verifyInFront(pages);
+    }
+
+    void theSecondViewStaysInFrontOfTheHostsWindow()
+    {
+        QWidget& second = open("m_pSecondView", "m_pOpenPopViewTB");
+        const QWidget& board = findNamed(*m_window, "m_pBoardView");
+        second.resize(380, 160);
+        Desktop::move(second, board.mapToGlobal(QPoint(60, 60)));
+        QTest::qWait(200);
+        Desktop::clickAt(board.mapToGlobal(QPoint(20, 20)));
+        QTRY_VERIFY(m_window->isActiveWindow());
+        QTest::qWait(200);
+        QVERIFY(isSeen(second));
+    }
+
+    void whatIsAskedForWhileItIsOpenHasTheKeyboard()
+    {
+        QWidget& dialog = openAddFeature();
+        findNamed<QCheckBox>(dialog, "m_pAttributesCB").setChecked(true);
+        const QWidget& values = open("Widget_Attributes", "m_pValuesPB");
+        Desktop::click(findNamed(dialog, "m_pLineTB"));
+        Desktop::waitForWindow(&dialog);
+        Desktop::click(findNamed(dialog, "m_pValuesPB"));
+        verifyInFront(values);
+    }
+
+    void eachSideOfAWindowGivesWayByItself()
+    {
+        openAddFeature();
+        open("m_pDimensions", "m_pDimensionsAct");
+        const QWidget& pages = open("m_pDocumentation", "m_pDocumentationAct");
+        QVERIFY2(pages.width() >= 340 && pages.height() >= 250, qPrintable(words(pages)));
+    }
+
+    void aQuestionOfTheHostLeavesAddFeatureInFront()
+    {
+        QWidget& dialog = openAddFeature();
+        Desktop::click(findNamed(dialog, "m_pPadTB"));
+        Desktop::click(findNamed(dialog, "m_pSymbolTextLE"));
+        Desktop::type("r10");
+        Desktop::key("Return");
+        Desktop::move(dialog, m_window->pos() + QPoint(20, 120));
+        QTest::qWait(200);
+        int asked = 0;
+        bool isInFront = false;
+        QTimer answer;
+        connect(&answer, &QTimer::timeout, [&] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                ++asked;
+                isInFront = isSeen(dialog) && !box->frameGeometry().intersects(place(dialog));
+                box->reject();
+            }
+        });
+        answer.start(700);
+        Desktop::click(findNamed(*m_window, "m_pHostEqCB"));
+        QTRY_COMPARE(asked, 1);
+        QVERIFY(isInFront);
     }
 
     void aDialogThatGrowsCoversNothing()

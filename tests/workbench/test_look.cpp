@@ -181,6 +181,45 @@ private Q_SLOTS:
                            .arg(record.width())));
     }
 
+    void filterAndCountAreReadAtTheSmallestSize()
+    {
+        Options options;
+        options.fontSize = 10;
+        Look::dress(options);
+        MessageLog log;
+        const auto window = startWorkbench(log, options);
+        window->resize(window->minimumSizeHint());
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        const QWidget& filter = findNamed(*window, "m_pMonitorFilterLE");
+        const QWidget& count = findNamed(*window, "m_pMonitorCountLB");
+        QVERIFY(filter.width() >= filter.fontMetrics().horizontalAdvance("Canvas"));
+        QVERIFY(count.width() >= count.sizeHint().width());
+    }
+
+    void hintAndPositionAreReadAtTheSmallestSize_data()
+    {
+        QTest::addColumn<int>("points");
+        QTest::newRow("10 points") << 10;
+        QTest::newRow("20 points") << 20;
+    }
+    void hintAndPositionAreReadAtTheSmallestSize()
+    {
+        QFETCH(int, points);
+        Options options;
+        options.fontSize = points;
+        Look::dress(options);
+        MessageLog log;
+        const auto window = startWorkbench(log, options);
+        window->resize(window->minimumSizeHint());
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        const QWidget& hint = findNamed(*window, "m_pPickHintLB");
+        const QWidget& position = findNamed(*window, "m_pPositionLE");
+        QVERIFY(position.width() >= position.fontMetrics().horizontalAdvance("175.00, 540.00"));
+        QVERIFY(hint.width() >= hint.fontMetrics().horizontalAdvance("Click the new"));
+    }
+
     void nothingIsCutInLargeFonts_data()
     {
         QTest::addColumn<QString>("language");

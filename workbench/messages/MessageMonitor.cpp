@@ -67,8 +67,8 @@ QWidget* MessageMonitor::createTable()
     auto* const side = new QWidget(this);
     m_pMonitorFilterLE = named(new QLineEdit(side), "m_pMonitorFilterLE");
     m_pMonitorFilterLE->setClearButtonEnabled(true);
+    m_pMonitorFilterLE->setMinimumWidth(9 * fontMetrics().averageCharWidth());
     m_pMonitorCountLB = named(new QLabel(side), "m_pMonitorCountLB");
-    m_pMonitorCountLB->setMinimumWidth(1);  // a new message must not widen the window
     m_pMonitorComposePB = named(new QPushButton(side), "m_pMonitorComposePB");
     m_pMonitorClearPB = named(new QPushButton(side), "m_pMonitorClearPB");
     m_pMonitorSavePB = named(new QPushButton(side), "m_pMonitorSavePB");
@@ -108,7 +108,7 @@ QWidget* MessageMonitor::createDetail()
     layout->setContentsMargins(6, 0, 0, 0);
     layout->addWidget(m_pMessageLB);
     layout->addWidget(m_pMessageTW);
-    side->setMinimumWidth(200);
+    side->setMinimumWidth(112);
     return side;
 }
 
@@ -201,6 +201,9 @@ void MessageMonitor::saveTrace()
 void MessageMonitor::retranslate()
 {
     m_pMonitorFilterLE->setPlaceholderText(tr("Filter: any text of a message"));
+    // Room for a count of three digits: a new message must not widen the window.
+    m_pMonitorCountLB->setMinimumWidth(
+        m_pMonitorCountLB->fontMetrics().horizontalAdvance(tr("%n message(s)", "", 999)));
     m_pMonitorComposePB->setText(tr("Compose..."));
     m_pMonitorClearPB->setText(tr("Clear"));
     m_pMonitorSavePB->setText(tr("Save..."));

@@ -14,13 +14,12 @@ public:
     /// All actions of `pane` with a shortcut; it becomes the parent.
     explicit CanvasKeys(QWidget* pane);
 
-    /// Adds them to this window, except for keys that its own actions use.
-    void addTo(QWidget* window) const;
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Except for keys that the window's own actions use.
+    void addTo(QWidget* window) const;
     bool isOfOurWindow(const QWidget* window) const;
 
     QWidget* m_pane;

@@ -66,7 +66,9 @@ ToolLine::ToolLine(const Names& names, QWidget* parent)
     m_tool->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     m_tool->setMinimumWidth(1);
     m_position->setObjectName(QLatin1String(names.position));
-    m_position->setFixedWidth(
+    m_position->setMinimumWidth(
+        fontMetrics().horizontalAdvance(QStringLiteral("0000.00, 0000.00_")));
+    m_position->setMaximumWidth(
         fontMetrics().horizontalAdvance(QStringLiteral("-00000.00, -00000.00 mil__")));
     m_position->installEventFilter(this);
     connect(m_position, &QLineEdit::returnPressed, this, &ToolLine::takePlace);
@@ -75,8 +77,8 @@ ToolLine::ToolLine(const Names& names, QWidget* parent)
     makeSteady(layout, m_tool);
     layout->addWidget(m_tool);
     layout->addSpacing(16);
-    layout->addWidget(m_hint, 1);
-    layout->addWidget(m_position);
+    layout->addWidget(m_hint, 3);
+    layout->addWidget(m_position, 1);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     retranslate();
 }
@@ -109,6 +111,8 @@ void ToolLine::showPosition()
         m_position->setText(CanvasHost::lengthText(*m_shown));
         if (m_position->hasFocus()) {
             m_position->selectAll();
+        } else {
+            m_position->home(false);  // its unit is cut first
         }
     }
 }

@@ -25,6 +25,7 @@
 namespace {
 
 constexpr QSize secondViewSize(800, 560);
+constexpr int leastLetters = 60;       // of the second view's tool, hint and position
 constexpr QSize leastBoard(420, 180);  // the record beside it gives way first
 
 }  // namespace
@@ -61,7 +62,7 @@ ViewerPane::ViewerPane(QWidget* parent) : Retranslated(parent), m_parent(parent)
     layout->addLayout(createFoot());
     connectCanvas();
     connectLine(toolLine, m_view);
-    m_keys = new CanvasKeys(this);
+    new CanvasKeys(this);
     stripWasMade();
     retranslate();
 }
@@ -188,7 +189,9 @@ void ViewerPane::openSecondView()
 
 void ViewerPane::createSecondView()
 {
-    m_secondView = new QWidget;
+    // X11's window managers keep a dialog above its parent, but not every window.
+    m_secondView =
+        new QWidget(window(), Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     m_secondView->setObjectName(QStringLiteral("m_pSecondView"));
     auto* const line =
         new ToolLine({"m_pSecondToolLB", "m_pSecondHintLB", "m_pSecondPositionLE"}, m_secondView);
@@ -203,8 +206,8 @@ void ViewerPane::createSecondView()
     connectLine(line, view);
     connect(&m_canvas, &CanvasController::documentOpened, view, &BoardView::fit);
     CanvasBar::addZoomKeys(m_secondView, *view);
-    m_keys->addTo(m_secondView);
     view->setFocus();
+    m_secondView->setMinimumWidth(leastLetters * m_secondView->fontMetrics().averageCharWidth());
     m_secondView->resize(secondViewSize);
 }
 

@@ -13,7 +13,6 @@
 #include <QWidget>
 
 class BoardView;
-class CanvasKeys;
 class CanvasBar;
 class FileActions;
 class Inspector;
@@ -79,7 +78,6 @@ private:
     FileActions* m_files;
     CanvasBar* m_bar;
     SnapControls* m_snapping;
-    CanvasKeys* m_keys;
     Inspector* m_inspector;
     std::vector<ToolLine*> m_lines;  ///< that of the pane, and that of the popview
     QLabel* m_pCanvasStatusLB;

@@ -13,6 +13,8 @@
 namespace {
 
 constexpr QSize firstSize(760, 560);
+constexpr int leastLetters = 44;
+constexpr int leastLines = 12;
 
 QUrl firstPage()
 {
@@ -46,6 +48,8 @@ Documentation::Documentation(QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(bar);
     layout->addWidget(m_pages);
+    m_pages->setMinimumSize(leastLetters * fontMetrics().averageCharWidth(),
+                            leastLines * fontMetrics().lineSpacing());
     m_pages->setOpenExternalLinks(true);
     connect(m_back, &QAction::triggered, m_pages, &QTextBrowser::backward);
     connect(m_forward, &QAction::triggered, m_pages, &QTextBrowser::forward);

@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVariantMap>
 #include <QWidget>
+#include <QWindow>
 
 namespace {
 
@@ -19,7 +20,13 @@ const QString placesKey = QStringLiteral("window/places");
 constexpr int gap = 8;
 constexpr int titleHeight = 32;
 constexpr int settleTime = 500;  // in ms, until a window manager has told where a window is
-constexpr int leastShare = 40;   // percent of a window's size, where the screen is small
+constexpr int leastShare = 40;   // percent of each side of a window, where the screen is small
+constexpr int shareStep = 2;
+
+int area(const QSize& size)
+{
+    return size.isValid() ? size.width() * size.height() : 0;
+}
 
 /// Neither a menu, a tool tip, a panel, nor another host.
 bool isToolWindow(const QWidget* window)
@@ -54,6 +61,8 @@ bool WindowPlacer::eventFilter(QObject* watched, QEvent* event)
         const QScopedValueRollback<bool> atWork(m_isAtWork, true);
         if (event->type() == QEvent::Show && isOurs(window)) {
             open(window);
+        } else if (event->type() == QEvent::Show && window->isModal()) {
+            keepInFront(window);
         } else if (event->type() == QEvent::Resize && window->isVisible() &&
                    m_places.contains(window)) {
             takeGrowth(window);
@@ -100,6 +109,20 @@ void WindowPlacer::open(QWidget* window)
     });
 }
 
+/// A question that opens would raise the host's window as its owner, above what is open.
+void WindowPlacer::keepInFront(const QWidget* question) const
+{
+    QWindow* const handle = question->windowHandle();
+    if (!handle || handle->transientParent() != m_host.window->windowHandle()) {
+        return;
+    }
+    for (const QWidget* const window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && m_places.contains(window)) {
+            handle->setTransientParent(window->windowHandle());
+        }
+    }
+}
+
 /// A window may grow with what it shows.
 void WindowPlacer::takeGrowth(QWidget* window)
 {
@@ -125,20 +148,25 @@ void WindowPlacer::putWhereFree(QWidget* window)
     moveTo(window, free.nearest(window->size() + frame(), wanted));
 }
 
-/// Its size, or less of it where only that has room.
+/// Its size, or where only less has room as much as that: each side gives way by itself.
 QSize WindowPlacer::shrunk(const QWidget* window, const FreePlace& place,
                            const QPoint& wanted) const
 {
     const QSize least = window->minimumSizeHint().expandedTo(window->minimumSize());
     const QSize room = m_host.window->screen()->availableGeometry().size() - frame();
     const QSize whole = window->size().boundedTo(room).expandedTo(least);
-    for (int share = 100; share >= leastShare; share -= 10) {
-        const QSize size = (whole * share / 100).expandedTo(least);
-        if (place.isFree({place.nearest(size + frame(), wanted), size + frame()})) {
-            return size;
+    QSize best;
+    for (int width = 100; width >= leastShare; width -= shareStep) {
+        for (int height = 100; height >= leastShare; height -= shareStep) {
+            const QSize size =
+                QSize(whole.width() * width / 100, whole.height() * height / 100).expandedTo(least);
+            if (area(size) > area(best) &&
+                place.isFree({place.nearest(size + frame(), wanted), size + frame()})) {
+                best = size;
+            }
         }
     }
-    return whole;
+    return best.isValid() ? best : whole;
 }
 
 /// All windows have the same frame as the host's. To ask Qt for that of a window that has just been

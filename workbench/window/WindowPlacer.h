@@ -42,6 +42,7 @@ private:
 
     bool isOurs(const QWidget* window) const;
     void open(QWidget* window);
+    void keepInFront(const QWidget* question) const;
     void takeGrowth(QWidget* window);
     void putWhereFree(QWidget* window);
     QSize shrunk(const QWidget* window, const FreePlace& place, const QPoint& wanted) const;

@@ -143,6 +143,19 @@ private Q_SLOTS:
                  QString("Click the new position; a right click cancels."));
     }
 
+    void theSecondViewShowsToolAndHintAtItsSmallest()
+    {
+        const CanvasFixture fixture(twoPads());
+        QWidget& second = secondView(fixture);
+        fixture.receive(Sent::MoveFeature);
+        second.resize(second.minimumSizeHint().expandedTo(second.minimumSize()));
+        QCoreApplication::processEvents();
+        const auto& tool = findNamed<QLabel>(second, "m_pSecondToolLB");
+        const auto& hint = findNamed<QLabel>(second, "m_pSecondHintLB");
+        QVERIFY(tool.width() >= tool.sizeHint().width());
+        QVERIFY(hint.width() >= hint.fontMetrics().horizontalAdvance("Click the new"));
+    }
+
     void areaZoomShowsTheAreaWhereItWasDrawn()
     {
         const CanvasFixture fixture(twoPads());
