@@ -1,4 +1,3 @@
-#include "ComeAgain.h"
 #include "CommonWidgetsStandIn.h"
 #include "MeasurePane.h"
 #include "common_widgets.h"
@@ -48,12 +47,6 @@ Grc_Tbe_measurepopup::Grc_Tbe_measurepopup(Canvas_Tool_Strip* /*strip*/, QWidget
 }
 
 Grc_Tbe_measurepopup::~Grc_Tbe_measurepopup() = default;
-
-void Grc_Tbe_measurepopup::setVisible(bool visible)
-{
-    comeAgain(this, visible);
-    QWidget::setVisible(visible);
-}
 
 void Grc_Tbe_measurepopup::change_language()
 {

@@ -1,5 +1,4 @@
 #include "AttributePane.h"
-#include "ComeAgain.h"
 #include "CommonWidgetsStandIn.h"
 #include "common_widgets.h"
 
@@ -53,12 +52,6 @@ Widget_Attributes::Widget_Attributes(QWidget* owner) : QWidget(owner, Qt::Dialog
 }
 
 Widget_Attributes::~Widget_Attributes() = default;
-
-void Widget_Attributes::setVisible(bool visible)
-{
-    comeAgain(this, visible);
-    QWidget::setVisible(visible);
-}
 
 void Widget_Attributes::getAttributeData(std::map<std::string, std::string>& out)
 {

@@ -1,4 +1,3 @@
-#include "ComeAgain.h"
 #include "NameList.h"
 #include "common_widgets.h"
 
@@ -52,12 +51,6 @@ Widget_SymbolSelection::Widget_SymbolSelection(std::string job, QWidget* context
 }
 
 Widget_SymbolSelection::~Widget_SymbolSelection() = default;
-
-void Widget_SymbolSelection::setVisible(bool visible)
-{
-    comeAgain(this, visible);
-    QWidget::setVisible(visible);
-}
 
 void Widget_SymbolSelection::changeAvailableItemView(int all)
 {

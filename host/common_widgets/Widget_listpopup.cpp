@@ -1,4 +1,3 @@
-#include "ComeAgain.h"
 #include "NameList.h"
 #include "common_widgets.h"
 
@@ -51,9 +50,3 @@ Widget_listpopup::Widget_listpopup(int type, std::string job, std::string /*step
 }
 
 Widget_listpopup::~Widget_listpopup() = default;
-
-void Widget_listpopup::setVisible(bool visible)
-{
-    comeAgain(this, visible);
-    QWidget::setVisible(visible);
-}

@@ -19,7 +19,6 @@ public:
     /// `owner` becomes the parent, but the window is a separate one.
     explicit Widget_Attributes(QWidget* owner);
     ~Widget_Attributes() override;
-    void setVisible(bool visible) override;
 
     /// Replaces `out` by the attributes that are set, name to value.
     void getAttributeData(std::map<std::string, std::string>& out);
@@ -47,7 +46,6 @@ public:
     /// `context` decides the user's unit; the window is separate from that of `parent`.
     Widget_SymbolSelection(std::string job, QWidget* context, QWidget* parent);
     ~Widget_SymbolSelection() override;
-    void setVisible(bool visible) override;
 
     /// 0: round and square symbols only; 1: all.
     void changeAvailableItemView(int all);
@@ -77,7 +75,6 @@ public:
     /// Type 16: the special texts of `job` and `step`.
     Widget_listpopup(int type, std::string job, std::string step, QWidget* parent);
     ~Widget_listpopup() override;
-    void setVisible(bool visible) override;
 
 Q_SIGNALS:
     void on_send_Font(QString);        ///< a font was chosen (type 17)
@@ -96,7 +93,6 @@ public:
     /// `parent`.
     Grc_Tbe_measurepopup(Canvas_Tool_Strip* strip, QWidget* parent);
     ~Grc_Tbe_measurepopup() override;
-    void setVisible(bool visible) override;
 
 public Q_SLOTS:
     void change_language();         ///< shows its texts in the current language

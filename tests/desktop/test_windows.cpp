@@ -243,17 +243,6 @@ private Q_SLOTS:
         QVERIFY(isSeen(second));
     }
 
-    void whatIsAskedForWhileItIsOpenHasTheKeyboard()
-    {
-        QWidget& dialog = openAddFeature();
-        findNamed<QCheckBox>(dialog, "m_pAttributesCB").setChecked(true);
-        const QWidget& values = open("Widget_Attributes", "m_pValuesPB");
-        Desktop::click(findNamed(dialog, "m_pLineTB"));
-        Desktop::waitForWindow(&dialog);
-        Desktop::click(findNamed(dialog, "m_pValuesPB"));
-        verifyInFront(values);
-    }
-
     void eachSideOfAWindowGivesWayByItself()
     {
         openAddFeature();
