@@ -15,7 +15,7 @@ namespace {
 
 // Milliseconds: in which further changes are waited for, and until a failure is tried again.
 constexpr int delay = 250;
-constexpr int retryDelay = 5000;
+constexpr int retryDelay = 1000;
 
 // Instead of a revision: there is no file, or perhaps one of another revision.
 constexpr int none = -1;
