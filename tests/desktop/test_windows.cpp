@@ -243,6 +243,14 @@ private Q_SLOTS:
         QVERIFY(isSeen(second));
     }
 
+    /// The strip and the position field stay free, even where the screen has no room for all.
+    void theSecondViewSparesTheStripOnSmallScreens()
+    {
+        QWidget& dialog = openAddFeature();
+        QTest::mouseClick(&findNamed(dialog, "m_pTextTB"), Qt::LeftButton);
+        verifyFree(open("m_pSecondView", "m_pOpenPopViewTB"), {});
+    }
+
     void eachSideOfAWindowGivesWayByItself()
     {
         openAddFeature();

@@ -148,7 +148,8 @@ void WindowPlacer::putWhereFree(QWidget* window)
     moveTo(window, free.nearest(window->size() + frame(), wanted));
 }
 
-/// Its size, or where only less has room as much as that: each side gives way by itself.
+/// Its size, or where only less has room as much as that: each side gives way by itself. Where
+/// nothing has room it covers as little as can be.
 QSize WindowPlacer::shrunk(const QWidget* window, const FreePlace& place,
                            const QPoint& wanted) const
 {
@@ -156,17 +157,19 @@ QSize WindowPlacer::shrunk(const QWidget* window, const FreePlace& place,
     const QSize room = m_host.window->screen()->availableGeometry().size() - frame();
     const QSize whole = window->size().boundedTo(room).expandedTo(least);
     QSize best;
+    QSize smallest;
     for (int width = 100; width >= leastShare; width -= shareStep) {
         for (int height = 100; height >= leastShare; height -= shareStep) {
             const QSize size =
                 QSize(whole.width() * width / 100, whole.height() * height / 100).expandedTo(least);
+            smallest = size;
             if (area(size) > area(best) &&
                 place.isFree({place.nearest(size + frame(), wanted), size + frame()})) {
                 best = size;
             }
         }
     }
-    return best.isValid() ? best : whole;
+    return best.isValid() ? best : smallest;
 }
 
 /// All windows have the same frame as the host's. To ask Qt for that of a window that has just been
