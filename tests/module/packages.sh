@@ -75,7 +75,7 @@ samples=$installed/usr/share/canvas-tool-strip/samples
 
 # The menu entry starts that program, and its picture exists.
 entry=$installed/usr/share/applications/canvas-workbench.desktop
-[ -x "$installed/usr/bin/$(sed -n 's/^Exec=//p' "$entry")" ] || { echo "no such program"; exit 1; }
+[ -x "$installed/usr/bin/$(sed -nE 's/^Exec=([^ ]+).*/\1/p' "$entry")" ] || { echo "no such program"; exit 1; }
 icon=$(sed -n 's/^Icon=//p' "$entry")
 [ -f "$installed/usr/share/icons/hicolor/scalable/apps/$icon.svg" ] || { echo "no icon"; exit 1; }
 
