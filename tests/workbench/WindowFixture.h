@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BoxButton.h"
 #include "FindChild.h"
 #include "StartWorkbench.h"
 #include "messages/HostState.h"
@@ -7,7 +8,6 @@
 #include "session/SessionPlayer.h"
 #include "shared/Settings.h"
 
-#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QAction>
 #include <QApplication>
@@ -15,7 +15,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -23,25 +22,6 @@
 #include <QTimer>
 
 #include <memory>
-
-/// Answers every box, and keeps what it said.
-class Boxes {
-public:
-    explicit Boxes(QMessageBox::StandardButton answer)
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, [this, answer] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                told.append(box->windowTitle() + "|" + box->text());
-                box->button(answer)->click();
-            }
-        });
-        m_timer.start(10);
-    }
-    QStringList told;
-
-private:
-    QTimer m_timer;
-};
 
 /// The window, and what a user does with its files and menus.
 class WindowFixture {

@@ -58,6 +58,17 @@ bool isChinese(const QString& text)
 class TestLook : public QObject {
     Q_OBJECT
 
+    static std::unique_ptr<WorkbenchWindow> startAtItsSmallest(MessageLog& log, int points)
+    {
+        Options options;
+        options.fontSize = points;
+        Look::dress(options);
+        std::unique_ptr<WorkbenchWindow> window = startWorkbench(log, options);
+        window->resize(window->minimumSizeHint());
+        window->show();
+        return window;
+    }
+
 private Q_SLOTS:
     void darkFieldsHaveEdges()
     {
@@ -183,13 +194,8 @@ private Q_SLOTS:
 
     void filterAndCountAreReadAtTheSmallestSize()
     {
-        Options options;
-        options.fontSize = 10;
-        Look::dress(options);
         MessageLog log;
-        const auto window = startWorkbench(log, options);
-        window->resize(window->minimumSizeHint());
-        window->show();
+        const auto window = startAtItsSmallest(log, 10);
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         const QWidget& filter = findNamed(*window, "m_pMonitorFilterLE");
         const QWidget& count = findNamed(*window, "m_pMonitorCountLB");
@@ -206,13 +212,8 @@ private Q_SLOTS:
     void hintAndPositionAreReadAtTheSmallestSize()
     {
         QFETCH(int, points);
-        Options options;
-        options.fontSize = points;
-        Look::dress(options);
         MessageLog log;
-        const auto window = startWorkbench(log, options);
-        window->resize(window->minimumSizeHint());
-        window->show();
+        const auto window = startAtItsSmallest(log, points);
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         const QWidget& hint = findNamed(*window, "m_pPickHintLB");
         const QWidget& position = findNamed(*window, "m_pPositionLE");

@@ -75,12 +75,12 @@ private Q_SLOTS:
     void aJobIsOpenedFromTheMenu()
     {
         const QString file = writeJob("mine");
-        const Boxes boxes(QMessageBox::Ok);
+        const BoxButton boxes(QMessageBox::Ok);
         chooseFile(file);
         action("m_pOpenJobAct").trigger();
         QCOMPARE(m_window->windowTitle(), QString("mine / first[*] - Workbench"));
         QCOMPARE(LastFolder::path(), m_directory.path());
-        QVERIFY(boxes.told.isEmpty());
+        QVERIFY(boxes.texts.isEmpty());
     }
 
     void anotherJobAsksForTheChangesOfThisOne()
@@ -89,12 +89,12 @@ private Q_SLOTS:
         action("m_pDeleteAct").trigger();
         const QString file = writeJob("demo");
         {
-            const Boxes boxes(QMessageBox::Cancel);
+            const BoxButton boxes(QMessageBox::Cancel);
             drop(file);
-            QCOMPARE(boxes.told.size(), 1);
+            QCOMPARE(boxes.texts.size(), 1);
             QVERIFY(m_window->windowTitle().startsWith("demo / pcb"));
         }
-        const Boxes boxes(QMessageBox::Discard);
+        const BoxButton boxes(QMessageBox::Discard);
         drop(file);
         QCOMPARE(m_window->windowTitle(), QString("demo / first[*] - Workbench"));
         QVERIFY(!m_window->isWindowModified());
@@ -102,7 +102,7 @@ private Q_SLOTS:
         m_window->host()->openStep("demo", "pcb");
         QVERIFY(!action("m_pUndoAct").isEnabled());
         QVERIFY(m_window->canvas()->files().mayClose());
-        QCOMPARE(boxes.told.size(), 1);
+        QCOMPARE(boxes.texts.size(), 1);
     }
 
     void theStripIsToldOfAJobOfTheSameName()
@@ -117,21 +117,21 @@ private Q_SLOTS:
 
     void aFileOfAnotherKindIsToldAsWhatItIs()
     {
-        const Boxes boxes(QMessageBox::Ok);
+        const BoxButton boxes(QMessageBox::Ok);
         m_window->canvas()->files().open(JOB_FILE);
         const QString file = write("a.session", "# words\nclick m_pMarkTB\n");
         drop(file);
         chooseFile(writeBoard(m_directory));
         action("m_pOpenJobAct").trigger();
-        QCOMPARE(boxes.told.size(), 3);
+        QCOMPARE(boxes.texts.size(), 3);
         QVERIFY2(
-            boxes.told[0].startsWith("Cannot open the board|This is a job file, not a board\n\n"),
-            qPrintable(boxes.told[0]));
-        QCOMPARE(boxes.told[1], "Cannot open the board|This is a session, not a board\n\n" +
-                                    QDir::toNativeSeparators(file));
+            boxes.texts[0].startsWith("Cannot open the board|This is a job file, not a board\n\n"),
+            qPrintable(boxes.texts[0]));
+        QCOMPARE(boxes.texts[1], "Cannot open the board|This is a session, not a board\n\n" +
+                                     QDir::toNativeSeparators(file));
         QVERIFY2(
-            boxes.told[2].startsWith("Cannot open the job|This is a board, not a job file\n\n"),
-            qPrintable(boxes.told[2]));
+            boxes.texts[2].startsWith("Cannot open the job|This is a board, not a job file\n\n"),
+            qPrintable(boxes.texts[2]));
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
     }
 

@@ -2,13 +2,17 @@
 
 #include "FindChild.h"
 #include "plugin/ModuleNames.h"
+#include "plugin/RecordKeys.h"
+#include "plugin/RecordValues.h"
 #include "viewer/BoardView.h"
 #include "viewer/ViewerPane.h"
 
 #include <PluginManagerStandIn.h>
 
 #include <QLabel>
+#include <QMap>
 #include <QTest>
+#include <QVariant>
 
 #include <memory>
 
@@ -72,4 +76,13 @@ public:
 inline bool isNear(const QPointF& a, const QPointF& b, double distance = 60)
 {
     return QLineF(a, b).length() <= distance;
+}
+
+/// What the strip sends for a line of that kind.
+inline QMap<QString, QVariant> lineRecord(const QString& kind)
+{
+    return {{RecordKeys::features, FeatureKind::line.toInt()},
+            {RecordKeys::line, kind},
+            {RecordKeys::symbolText, "r20"},
+            {RecordKeys::polarity, Polarity::positive}};
 }

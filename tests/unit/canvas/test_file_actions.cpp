@@ -1,5 +1,6 @@
 // The board as a file: unsaved changes are not lost without a warning.
 
+#include "BoxButton.h"
 #include "CanvasFixture.h"
 #include "Main.h"
 #include "board/BoardFile.h"
@@ -49,25 +50,6 @@ public:
     }
 
     QTemporaryDir directory;
-};
-
-/// Answers the next box, and counts it.
-class Answer {
-public:
-    explicit Answer(QMessageBox::StandardButton button)
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, [this, button] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                texts.append(box->windowTitle() + "|" + box->text());
-                box->button(button)->click();
-            }
-        });
-        m_timer.start(10);
-    }
-    QStringList texts;
-
-private:
-    QTimer m_timer;
 };
 
 /// Answers the next file dialog as a user does; without a name cancels it.
@@ -183,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(fixture.save("two.json"));
         fixture.deleteAll();
         {
-            const Answer cancel(QMessageBox::Cancel);
+            const BoxButton cancel(QMessageBox::Cancel);
             QVERIFY(!fixture.files().open(fixture.path("two.json")));
             QCOMPARE(
                 cancel.texts,
@@ -191,13 +173,13 @@ private Q_SLOTS:
         }
         QVERIFY(fixture.features().empty());
         {
-            const Answer discard(QMessageBox::Discard);
+            const BoxButton discard(QMessageBox::Discard);
             QVERIFY(fixture.files().open(fixture.path("two.json")));
             QCOMPARE(discard.texts.size(), 1);
         }
         QCOMPARE(int(fixture.features().size()), 2);
         fixture.deleteAll();
-        const Answer save(QMessageBox::Save);
+        const BoxButton save(QMessageBox::Save);
         QVERIFY(fixture.files().open(fixture.path("two.json")));
         QVERIFY(fixture.features().empty());  // as it was just saved
         QCOMPARE(save.texts.size(), 1);
@@ -208,7 +190,7 @@ private Q_SLOTS:
         const FileFixture fixture;
         QVERIFY(fixture.save("two.json"));
         fixture.deleteAll();
-        const Answer cancel(QMessageBox::Cancel);
+        const BoxButton cancel(QMessageBox::Cancel);
         fixture.action("m_pNewBoardAct").trigger();
         QCOMPARE(cancel.texts.size(), 1);
         fixture.document().history().undo();
@@ -229,7 +211,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.files().file(), QString());
         QVERIFY(!fixture.files().isModified());
         fixture.deleteAll();
-        const Answer discard(QMessageBox::Discard);
+        const BoxButton discard(QMessageBox::Discard);
         QVERIFY(fixture.files().mayClose());
         QCOMPARE(discard.texts, QStringList("Unsaved Changes|These boards have been changed:\n"
                                             "a board without a job (two.json)\n"
@@ -249,11 +231,11 @@ private Q_SLOTS:
         fixture.pane->canvas().openStep("demo", "pcb");
         fixture.deleteAll();
         {
-            const Answer cancel(QMessageBox::Cancel);
+            const BoxButton cancel(QMessageBox::Cancel);
             QVERIFY(!fixture.files().mayClose());
             QCOMPARE(cancel.texts.size(), 1);
         }
-        const Answer saveAll(QMessageBox::SaveAll);
+        const BoxButton saveAll(QMessageBox::SaveAll);
         {
             const Chosen none;
             QVERIFY(!fixture.files().mayClose());  // one of them has no file
@@ -276,7 +258,7 @@ private Q_SLOTS:
         const FileFixture fixture;
         fixture.pane->canvas().openStep("demo", "pcb");
         fixture.deleteAll();
-        const Answer cancel(QMessageBox::Cancel);
+        const BoxButton cancel(QMessageBox::Cancel);
         QVERIFY(!fixture.files().mayClose());
         QCOMPARE(cancel.texts,
                  QStringList("Unsaved Changes|demo / pcb has been changed and is in no file yet. "
@@ -289,7 +271,7 @@ private Q_SLOTS:
         QVERIFY(fixture.files().mayClose());
         fixture.deleteAll();
         {
-            const Answer cancel(QMessageBox::Cancel);
+            const BoxButton cancel(QMessageBox::Cancel);
             QVERIFY(!fixture.files().mayClose());
         }
         fixture.files().setMayAsk([] { return false; });
@@ -344,7 +326,7 @@ private Q_SLOTS:
     void anErrorSaysWhatFailedAndWhy()
     {
         const FileFixture fixture;
-        const Answer box(QMessageBox::Ok);
+        const BoxButton box(QMessageBox::Ok);
         QVERIFY(!fixture.files().open(fixture.path("absent.json")));
         QCOMPARE(box.texts, QStringList("Cannot open the board|No such file or directory\n\n" +
                                         QDir::toNativeSeparators(fixture.path("absent.json"))));
@@ -390,7 +372,7 @@ private Q_SLOTS:
         fixture.document().replace(far);
         {
             const Chosen chosen(fixture.path("full/far.gbr"));
-            const Answer box(QMessageBox::Ok);
+            const BoxButton box(QMessageBox::Ok);
             fixture.action("m_pExportBoardAct").trigger();
             QCOMPARE(box.texts.size(), 1);
             QVERIFY(box.texts[0].startsWith("Cannot export the board|A coordinate is ten metres"));

@@ -20,14 +20,6 @@ using Record = QMap<QString, QVariant>;
 class TestHints : public QObject {
     Q_OBJECT
 
-    static Record lineRecord(const QString& kind)
-    {
-        return {{RecordKeys::features, FeatureKind::line.toInt()},
-                {RecordKeys::line, kind},
-                {RecordKeys::symbolText, "r20"},
-                {RecordKeys::polarity, Polarity::positive}};
-    }
-
     /// In a window that is as narrow as a screen of 1920 pixels at twice the size.
     static bool isWhollySeen(const CanvasFixture& fixture)
     {

@@ -21,14 +21,6 @@ using Record = QMap<QString, QVariant>;
 class TestPlacing : public QObject {
     Q_OBJECT
 
-    static Record lineRecord(const QString& kind)
-    {
-        return {{RecordKeys::features, FeatureKind::line.toInt()},
-                {RecordKeys::line, kind},
-                {RecordKeys::symbolText, "r20"},
-                {RecordKeys::polarity, Polarity::positive}};
-    }
-
 private Q_SLOTS:
     void line()
     {
