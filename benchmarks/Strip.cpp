@@ -97,12 +97,12 @@ void triggerActions(benchmark::State& state)
     QMainWindow window;
     auto* const bar = window.addToolBar(QString());
     auto* const group = new QActionGroup(&window);
-    for (const PlainTool& tool : plainTools()) {
-        QAction* const action =
-            bar->addAction(QCoreApplication::translate("PlainActions", tool.tip, tool.note));
+    for (const ToolTable::Row& tool : ToolTable::rows()) {
+        QAction* const action = bar->addAction(
+            QCoreApplication::translate("PlainActions", tool.tip.text, tool.tip.note));
         action->setCheckable(true);
         group->addAction(action);
-        QObject::connect(action, &QAction::triggered, &window, [&receiver, code = tool.code] {
+        QObject::connect(action, &QAction::triggered, &window, [&receiver, code = tool.onCode] {
             PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);
             message.code = code;
             receiver.receive(std::move(message));

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Canvas.h"
-#include "PlainTools.h"
 #include "plugin/ModuleNames.h"
+#include "toolbar/ToolTable.h"
 
 #include <QGridLayout>
 #include <QToolButton>
@@ -14,33 +14,20 @@
 /// connections, made in the same order. A click checks only the clicked one and sends its code.
 class PlainStrip : public QGridLayout {
 public:
-    enum Index {
-        Zoom,
-        Measure = 2,
-        Add = 4,
-        Delete,
-        Move,
-        Feature = 20,
-        Rectangle,
-        Polygon,
-        Net,
-        Mark
-    };
-
     PlainStrip(QWidget* parent, Receiver& receiver) : m_receiver(receiver)
     {
         parent->setFocusPolicy(Qt::NoFocus);
-        for (const PlainTool& tool : plainTools()) {
+        for (const ToolTable::Row& tool : ToolTable::rows()) {
             addButton(tool, m_buttons.isEmpty() ? parent : nullptr);
         }
-        for (const Index index : {Delete, Net, Mark}) {
-            m_buttons[index]->setContextMenuPolicy(Qt::CustomContextMenu);
-            connect(m_buttons[index], &QToolButton::customContextMenuRequested, this, [] {});
+        for (const ToolTable::Menu& menu : ToolTable::menus()) {
+            button(menu.owner)->setContextMenuPolicy(Qt::CustomContextMenu);
+            connect(button(menu.owner), &QToolButton::customContextMenuRequested, this, [] {});
         }
         checkOnly(m_buttons.first());
     }
 
-    QToolButton* button(int index) const { return m_buttons[index]; }
+    QToolButton* button(Tool tool) const { return m_buttons[static_cast<int>(tool)]; }
 
     void checkOnly(const QToolButton* button)
     {
@@ -59,31 +46,44 @@ public:
     void retranslate()
     {
         for (int index = 0; index < m_buttons.size(); ++index) {
-            name(*m_buttons[index], plainTools()[static_cast<size_t>(index)]);
+            name(*m_buttons[index], ToolTable::rows()[index].tip);
         }
     }
 
 private:
-    void name(QToolButton& button, const PlainTool& tool)
+    /// The sheets of the tools are made once.
+    static const QString& sheet(int index)
     {
-        const QString text = tr(tool.tip, tool.note);
+        static const auto sheets = [] {
+            QStringList made;
+            for (const ToolTable::Row& tool : ToolTable::rows()) {
+                made.append(ToolTable::styleSheet(tool.pictures, tool.imageProperty));
+            }
+            return made;
+        }();
+        return sheets[index];
+    }
+
+    void name(QToolButton& button, const ToolTable::Tip& tip)
+    {
+        const QString text = tr(tip.text, tip.note);
         button.setToolTip(text);
         button.setAccessibleName(text);
     }
 
-    void addButton(const PlainTool& tool, QWidget* parent)
+    void addButton(const ToolTable::Row& tool, QWidget* parent)
     {
         auto* const button = new QToolButton(parent);
-        button->setObjectName(tool.name);
-        name(*button, tool);
+        button->setObjectName(QLatin1String(tool.objectName));
+        name(*button, tool.tip);
         button->setFixedSize(40, 40);
         button->setCheckable(true);
         button->setAutoRaise(true);
-        button->setEnabled(tool.enabled);
-        button->setStyleSheet(tool.sheet);
+        button->setEnabled(tool.start != ToolTable::Start::Disabled);
+        button->setStyleSheet(sheet(m_buttons.size()));
         addWidget(button, m_buttons.size() / 4, m_buttons.size() % 4);
         m_buttons.append(button);
-        connect(button, &QToolButton::clicked, this, [this, button, code = tool.code] {
+        connect(button, &QToolButton::clicked, this, [this, button, code = tool.onCode] {
             checkOnly(button);
             send(code);
         });

@@ -45,20 +45,30 @@ Q_SIGNALS:
 private:
     void handle(const PluginMetaData& message);
 
-    void check(int index) { m_strip->checkOnly(m_strip->button(index)); }
+    void check(Tool tool) { m_strip->checkOnly(m_strip->button(tool)); }
 
-    void activate(int index)
+    void activate(Tool tool, int code)
     {
-        check(index);
-        m_strip->send(plainTools()[static_cast<size_t>(index)].code);
+        check(tool);
+        m_strip->send(code);
     }
 
-    void selectByNet(int code, int sheet)
+    void selectByNet(int code)
     {
-        check(PlainStrip::Net);
+        check(Tool::SelectByNet);
         m_netMode = code;
-        m_strip->button(PlainStrip::Net)->setStyleSheet(plainNetSheets()[size_t(sheet)]);
+        m_strip->button(Tool::SelectByNet)->setStyleSheet(m_netSheets[code]);
         m_strip->send(code);
+    }
+
+    static QMap<int, QString> netSheets()
+    {
+        QMap<int, QString> sheets;
+        for (const ToolTable::MenuEntry& entry : ToolTable::menu(ToolMenu::Net).entries) {
+            sheets[entry.variant->code] = ToolTable::styleSheet(entry.variant->pictures) +
+                                          QLatin1String(entry.variant->trailingStyle);
+        }
+        return sheets;
     }
 
     void measure()
@@ -68,7 +78,7 @@ private:
         }
         m_popup->raise();
         m_popup->show();
-        check(PlainStrip::Measure);
+        check(Tool::Measure);
         m_popup->onMeasureButtonClicked();
     }
 
@@ -77,7 +87,7 @@ private:
         PluginMetaData message(ModuleNames::toolStrip, ModuleNames::jobTree);
         message.code = MessageCodes::Sent::AddFeatureStarted;
         m_receiver.receive(std::move(message));
-        check(PlainStrip::Add);
+        check(Tool::AddFeature);
         m_record.send(m_symbol->text());
         m_dialog->raise();
         m_dialog->show();
@@ -99,30 +109,32 @@ private:
     std::string m_job;
     std::string m_step;
     int m_netMode = 0;
+    const QMap<int, QString> m_netSheets = netSheets();
 };
 
 inline void PlainSwitch::handle(const PluginMetaData& message)
 {
     namespace Accepted = MessageCodes::Accepted;
+    namespace Sent = MessageCodes::Sent;
     using Attributes = std::map<std::string, std::string>;
     using Symbols = std::map<int, std::string>;
     // clang-format off
     switch (message.code) {
         case Accepted::ReleaseAll: return m_strip->checkOnly(nullptr);
-        case Accepted::AreaZoom: return activate(PlainStrip::Zoom);
-        case Accepted::FeatureSelection: return activate(PlainStrip::Feature);
-        case Accepted::RectangleSelection: return activate(PlainStrip::Rectangle);
-        case Accepted::PolygonSelection: return activate(PlainStrip::Polygon);
+        case Accepted::AreaZoom: return activate(Tool::AreaZoom, Sent::AreaZoom);
+        case Accepted::FeatureSelection: return activate(Tool::FeatureSelection, Sent::FeatureSelection);
+        case Accepted::RectangleSelection: return activate(Tool::RectangleSelection, Sent::RectangleSelection);
+        case Accepted::PolygonSelection: return activate(Tool::PolygonSelection, Sent::PolygonSelection);
         case Accepted::AddFeatureActive:
-            return m_strip->button(PlainStrip::Add)->isChecked() ? void() : check(PlainStrip::Add);
-        case Accepted::SelectPolyline: return selectByNet(message.code, 0);
-        case Accepted::SelectLayerNet: return selectByNet(message.code, 1);
-        case Accepted::SelectBoardNet: return selectByNet(message.code, 2);
+            return m_strip->button(Tool::AddFeature)->isChecked() ? void() : check(Tool::AddFeature);
+        case Accepted::SelectPolyline:
+        case Accepted::SelectLayerNet:
+        case Accepted::SelectBoardNet: return selectByNet(message.code);
         case Accepted::CheckAndMeasure:
         case Accepted::Measure: return measure();
         case Accepted::AddFeature: return addFeature();
-        case Accepted::DeleteFeature: return activate(PlainStrip::Delete);
-        case Accepted::MoveFeature: return activate(PlainStrip::Move);
+        case Accepted::DeleteFeature: return activate(Tool::DeleteFeature, Sent::DeleteFeature);
+        case Accepted::MoveFeature: return activate(Tool::MoveFeature, Sent::MoveFeature);
         case Accepted::CloseDialogs: return m_strip->send(MessageCodes::Sent::DialogsClosed);
         case Accepted::JobAndStep: return keepJob(message, PayloadKeys::step);
         case Accepted::JobName: m_job = *ExtraWord::object<std::string>(message.extra); return;
