@@ -9,6 +9,8 @@ dir=$(mktemp -d)
 # Only what a lane has started itself is still there when the test is interrupted.
 trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$dir"' EXIT
 cd "$dir" || exit 1
+export TMPDIR=$dir/temporary
+mkdir "$TMPDIR"
 
 # One pad after the other, far from each other in time and place.
 {
@@ -105,4 +107,7 @@ sleep 0.5
 [ -e hand.ini.recovery/0/0.kept ] || [ -e hand.ini.recovery/0/1.kept ] || fail hand "it is gone"
 kill -- "-$pid"
 wait "$pid" 2>/dev/null
+# Where no other folder is named, Qt keeps one for what runs.
+left=$(ls -A "$TMPDIR" | grep -v '^runtime-')
+[ -z "$left" ] || fail hand "killed, the program leaves $left"
 exit $status

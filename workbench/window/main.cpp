@@ -29,6 +29,7 @@
 #include <QWindow>
 
 #include <cstdio>
+#include <optional>
 
 using CanvasHost::FileError;
 
@@ -93,15 +94,16 @@ bool isByHand(const Options& options)
 }
 
 /// The file of the settings: the user's where a user is at work, otherwise a new one in `own`.
-QString settingsFile(const Options& options, const QTemporaryDir& own)
+QString settingsFile(const Options& options, std::optional<QTemporaryDir>* own)
 {
     if (!options.settingsFile.isEmpty()) {
         return options.settingsFile;
     }
-    return isByHand(options)
-               ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                     QStringLiteral("/canvas-tool-strip/workbench.ini")
-               : own.filePath(QStringLiteral("workbench.ini"));
+    if (isByHand(options)) {
+        return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+               QStringLiteral("/canvas-tool-strip/workbench.ini");
+    }
+    return own->emplace().filePath(QStringLiteral("workbench.ini"));
 }
 
 /// Qt reads such pictures by a plug-in, and shows nothing without it.
@@ -163,7 +165,7 @@ void keepForRecovery(const Options& options, const WorkbenchWindow& window)
 }
 
 /// What the program remembers, and how it looks.
-void prepare(Options* options, const QTemporaryDir& ownSettings)
+void prepare(Options* options, std::optional<QTemporaryDir>* ownSettings)
 {
     QApplication::setApplicationName(QStringLiteral("canvas-workbench"));
     QApplication::setDesktopFileName(QStringLiteral("canvas-workbench"));
@@ -190,8 +192,8 @@ int run(int argc, char* argv[])
     }
     const auto application = openApplication(argc, argv, BadInput);
     requirePictures("jpeg");
-    const QTemporaryDir ownSettings;
-    prepare(&inputs.options, ownSettings);
+    std::optional<QTemporaryDir> ownSettings;
+    prepare(&inputs.options, &ownSettings);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
