@@ -294,6 +294,14 @@ private Q_SLOTS:
         verifyFree(dialog, {&measure});
     }
 
+    void whatAWindowManagerPutsAsideIsPutBack()
+    {
+        QWidget& dialog = openAddFeature();
+        const QPoint wanted = dialog.geometry().topLeft();
+        Desktop::move(dialog, dialog.pos() + QPoint(1, 10));
+        QTRY_COMPARE(dialog.geometry().topLeft(), wanted);
+    }
+
     /// It is closed, another takes its place, and it is opened again.
     void whatIsOpenedAgainCoversNothing()
     {

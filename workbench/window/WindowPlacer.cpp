@@ -107,6 +107,18 @@ void WindowPlacer::open(QWidget* window)
             window->setFocus();  // Qt looks for a part to give the focus to, not at the whole
         }
     });
+    QTimer::singleShot(settleTime, window, [this, window] { settle(window); });
+}
+
+/// A window manager that is busy takes the place of the new window for that of its frame.
+void WindowPlacer::settle(QWidget* window)
+{
+    const QScopedValueRollback<bool> atWork(m_isAtWork, true);
+    noteMove(window);
+    const auto corner = m_places[window].corner;
+    if (corner && window->isVisible() && !window->isMaximized() && cornerOf(window) != *corner) {
+        moveTo(window, *corner);
+    }
 }
 
 /// A question that opens would raise the host's window as its owner, above what is open.

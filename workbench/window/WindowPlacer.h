@@ -42,6 +42,7 @@ private:
 
     bool isOurs(const QWidget* window) const;
     void open(QWidget* window);
+    void settle(QWidget* window);
     void keepInFront(const QWidget* question) const;
     void takeGrowth(QWidget* window);
     void putWhereFree(QWidget* window);
