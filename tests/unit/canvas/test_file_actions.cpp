@@ -91,10 +91,13 @@ private:
             return;
         }
         // The list may select what is offered after the name was entered, when the folder is read,
-        // and what it selects counts more. Only a text that changes takes that back.
-        name.clear();
-        name.setText(file);
-        QTest::keyClick(&name, Qt::Key_Return);
+        // and what it selects counts more. Only a text that changes in the focus takes that back.
+        name.setFocus();
+        if (name.hasFocus()) {
+            name.clear();
+            name.setText(file);
+            QTest::keyClick(&name, Qt::Key_Return);
+        }
     }
 
     QTimer m_timer;
