@@ -1,6 +1,5 @@
 #include "PageCases.h"
 
-#include "ByHand.h"
 #include "plugin/MessageCodes.h"
 
 #include <QLabel>
@@ -74,146 +73,50 @@ const Refused refusedByAll[] = {
     {Unit::Metric, "inf"},
 };
 
+Case accepted(const LengthField& field, const Accepted& entry)
+{
+    Case row(QStringLiteral("%1 \"%2\"").arg(field.name, entry.typed));
+    row.in(entry.unit).given(field.reach).when(Enter(field.name, entry.typed));
+    row.then(Expect::record(field.key, entry.stored), Expect::text(field.name, entry.typed));
+    if (field.sends != Sends::Never) {
+        row.then(Expect::sent(Sent::Record));
+    }
+    return row;
+}
+
+Case refused(const LengthField& field, const Refused& entry)
+{
+    const int bound = FieldBounds::of(field.name).maximum;
+    Case row(QStringLiteral("%1 \"%2\"").arg(field.name, entry.typed));
+    row.in(entry.unit).given(field.reach).when(Enter(field.name, entry.typed));
+    row.then(Expect::record(field.key, "0"), Expect::text(field.name, "0"),
+             Expect::box(BoxTexts::length(entry.unit == Unit::Metric ? bound / 10 * 254 : bound)));
+    if (field.sends == Sends::Always) {
+        row.then(Expect::sent(Sent::Record));
+    }
+    return row;
+}
+
 }  // namespace
 
-Case LengthField::accepted(const QString& text, const QString& stored) const
-{
-    Case row(QStringLiteral("%1 \"%2\"").arg(m_field, text));
-    row.given(m_reach).when(Enter(m_field, text));
-    row.then(Expect::record(m_key, stored), Expect::text(m_field, text));
-    if (m_sends != Sends::Never) {
-        row.then(Expect::sent(Sent::Record));
-    }
-    return row;
-}
-
-Case LengthField::refused(const QString& text, Unit unit) const
-{
-    const int bound = FieldBounds::of(m_field).maximum;
-    Case row(QStringLiteral("%1 \"%2\"").arg(m_field, text));
-    row.given(m_reach).when(Enter(m_field, text));
-    row.then(Expect::record(m_key, "0"), Expect::text(m_field, "0"),
-             Expect::box(BoxTexts::length(unit == Unit::Metric ? bound / 10 * 254 : bound)));
-    if (m_sends == Sends::Always) {
-        row.then(Expect::sent(Sent::Record));
-    }
-    return row;
-}
-
-Cases LengthField::cases() const
+Cases lengths(const LengthField& field)
 {
     Cases cases;
-    const auto add = [&](const auto& acceptedTexts, const auto& refusedTexts) {
-        for (const Accepted& text : acceptedTexts) {
-            cases.append(accepted(text.typed, text.stored).in(text.unit));
+    const auto add = [&](const auto& acceptedEntries, const auto& refusedEntries) {
+        for (const Accepted& entry : acceptedEntries) {
+            cases.append(accepted(field, entry));
         }
-        for (const Refused& text : refusedTexts) {
-            cases.append(refused(text.typed, text.unit).in(text.unit));
+        for (const Refused& entry : refusedEntries) {
+            cases.append(refused(field, entry));
         }
     };
     for (const BoundTexts& texts : boundTexts) {
-        if (texts.bound == FieldBounds::of(m_field).maximum) {
+        if (texts.bound == FieldBounds::of(field.name).maximum) {
             add(texts.accepted, texts.refused);
         }
     }
     add(acceptedByAll, refusedByAll);
     return cases;
-}
-
-void addGreyedRows(const QList<GreyedItems>& rows)
-{
-    QTest::addColumn<GreyedItems>("row");
-    for (const GreyedItems& row : rows) {
-        QTest::newRow(qPrintable(row.combo())) << row;
-    }
-}
-
-void tryToReachGreyedItem()
-{
-    QFETCH(GreyedItems, row);
-    row.tryToReach();
-}
-
-void GreyedItems::tryToReach() const
-{
-    const DialogFixture fixture;
-    fixture.perform(m_reach);
-    auto& combo = fixture.find<QComboBox>(m_combo);
-    QCOMPARE(itemTexts(combo), m_free + m_greyed);
-    reachTheLastFreeOne(combo);
-    for (const QString& item : m_greyed) {
-        tryToReach(combo, item);
-    }
-    QCOMPARE(itemTexts(combo), m_free + m_greyed);
-}
-
-/// The ways lead to the last free item: they work, and they end there.
-void GreyedItems::reachTheLastFreeOne(QComboBox& combo) const
-{
-    const QString last = m_free.last();
-    const auto start = [&] { combo.setCurrentText(m_free.first()); };
-    ByHand::press(combo, Qt::Key_Down, 10);
-    QCOMPARE(combo.currentText(), last);
-    for (const Qt::Key key : {Qt::Key_End, Qt::Key_PageDown, Qt::Key_Right}) {
-        start();
-        ByHand::press(combo, key, 10);
-        QVERIFY2(m_free.contains(combo.currentText()), qPrintable(combo.currentText()));
-    }
-    start();
-    ByHand::turnWheel(combo, 10);
-    QCOMPARE(combo.currentText(), last);
-    start();
-    ByHand::click(combo, last);
-    QCOMPARE(combo.currentText(), last);
-}
-
-void GreyedItems::tryToReach(QComboBox& combo, const QString& item) const
-{
-    combo.setCurrentText(m_free.first());
-    ByHand::click(combo, item);
-    QCOMPARE(combo.currentText(), m_free.first());
-    ByHand::goDown(combo, item);
-    QVERIFY2(m_free.contains(combo.currentText()), qPrintable(item));
-    ByHand::typeAhead(combo, item);
-    QVERIFY2(m_free.contains(combo.currentText()), qPrintable(item));
-    combo.setCurrentText(item);  // a program may do it
-    QCOMPARE(combo.currentText(), item);
-}
-
-void addRefusalRows(const QList<Refusal>& rows)
-{
-    QTest::addColumn<Refusal>("row");
-    QTest::addColumn<By>("way");
-    for (const Refusal& row : rows) {
-        for (const auto& [name, way] : {std::pair("Enter", By::Enter), std::pair("Tab", By::Tab),
-                                        std::pair("mouse", By::Mouse)}) {
-            QTest::addRow("%s, %s", qPrintable(row.field()), name) << row << way;
-        }
-    }
-}
-
-void refuseOnce()
-{
-    QFETCH(Refusal, row);
-    QFETCH(By, way);
-    row.happensOnce(way);
-}
-
-void Refusal::happensOnce(By way) const
-{
-    DialogFixture fixture;
-    fixture.perform(m_reach);
-    fixture.boxes.take();
-
-    fixture.type(m_field, m_typed);
-    if (way == By::Mouse) {
-        fixture.click(m_neighbour);
-        fixture.find(m_neighbour).setFocus(Qt::MouseFocusReason);
-    } else {
-        fixture.leave(way);
-    }
-    QCOMPARE(fixture.boxes.take().size(), 1);
-    QCOMPARE(fixture.text(m_field), m_shown);
 }
 
 void switchUnitTenTimes(const Steps& before, const QList<FieldText>& fields,

@@ -6,8 +6,6 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
-#include <UiApiStandIn.h>
-
 #include <QFrame>
 #include <QLabel>
 
@@ -97,8 +95,7 @@ private Q_SLOTS:
     {
         const QStringList legal = {"0", "1", "50", "50.0", "", "abc", "-0"};
         const QStringList illegal = {"51", "50.01", "-1", "1e9", "inf", "nan"};
-        addCases(numbers("m_pDrilNxLE", RecordKeys::padNx, legal, illegal) +
-                 numbers("m_pDrilNyLE", RecordKeys::padNy, legal, illegal));
+        addCases(numbers("m_pDrilNxLE", RecordKeys::padNx, legal, illegal));
     }
     void counts() { runCase(); }
 
@@ -106,61 +103,12 @@ private Q_SLOTS:
     {
         const QStringList legal = {"0", "-100", "100", "-0.5", "", "abc", "1e2"};
         const QStringList illegal = {"100.1", "-100.1", "1e3", "inf", "-inf", "nan"};
-        addCases(numbers("m_pDrilXsclLE", RecordKeys::padXscl, legal, illegal) +
-                 numbers("m_pDrilYsclLE", RecordKeys::padYscl, legal, illegal));
+        addCases(numbers("m_pDrilYsclLE", RecordKeys::padYscl, legal, illegal));
     }
     void factors() { runCase(); }
 
-    void steps_data()
-    {
-        addCases(pitches("m_pDrilDxLE", RecordKeys::padDx) +
-                 pitches("m_pDrilDyLE", RecordKeys::padDy));
-    }
+    void steps_data() { addCases(pitches("m_pDrilDxLE", RecordKeys::padDx)); }
     void steps() { runCase(); }
-
-    void keyByKey()
-    {
-        DialogFixture fixture;
-        fixture.chooseType("m_pPadTB");
-        QCOMPARE(fixture.text("m_pDrilNxLE"), QString("1"));
-        fixture.type("m_pDrilNxLE", "5");
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        Expect::holds(fixture, {Expect::record(RecordKeys::padNx, "5")});
-        fixture.press(Qt::Key_1);
-        QCOMPARE(fixture.text("m_pDrilNxLE"), QString("5"));
-        QCOMPARE(fixture.boxes.take().size(), 1);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        Expect::holds(fixture, {Expect::record(RecordKeys::padNx, "5")});
-    }
-
-    void typing_data()
-    {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("shown");
-        // clang-format off
-        QTest::newRow("step, leading zero") << "m_pDrilDxLE" << "01" << "0";
-        QTest::newRow("step, five decimals") << "m_pDrilDxLE" << "1.123456" << "1.12345";
-        QTest::newRow("step, below one") << "m_pDrilDyLE" << "-0.5" << "-0.5";
-        QTest::newRow("step, letters") << "m_pDrilDyLE" << "1x2" << "12";
-        QTest::newRow("count, decimals") << "m_pDrilNxLE" << "1.5" << "15";
-        QTest::newRow("count, comma") << "m_pDrilNyLE" << "1,5" << "15";
-        QTest::newRow("factor, comma") << "m_pDrilXsclLE" << "1,5" << "15";
-        QTest::newRow("factor, decimals") << "m_pDrilYsclLE" << "-1.5" << "-1.5";
-        // clang-format on
-    }
-    void typing()
-    {
-        QFETCH(QString, field);
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
-        QLocale::setDefault(QLocale(QLocale::German));  // reads a comma; the fields do not
-        const DialogFixture fixture;
-        fixture.perform(pad);
-        fixture.type(field, typed);
-        QLocale::setDefault(QLocale::c());
-        QCOMPARE(fixture.text(field), shown);
-    }
 
     void theStepsOwnZeroIsNoEntry()
     {
@@ -175,15 +123,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         Expect::holds(fixture, {Expect::record(RecordKeys::padDx, "0")});
     }
-
-    void refusals_data()
-    {
-        using PageCases::Refusal;
-        PageCases::addRefusalRows(
-            {Refusal("m_pDrilDxLE").reachedBy(pad).above().leaves("0").beside("m_pMirrorCMB"),
-             Refusal("m_pDrilDyLE").reachedBy(pad).below().leaves("0").beside("m_pMirrorCMB")});
-    }
-    void refusals() { PageCases::refuseOnce(); }
 
     void coordinateBoxIsAWarning()
     {
@@ -201,26 +140,6 @@ private Q_SLOTS:
         PageCases::switchUnitTenTimes(
             pad, {{"m_pDrilDxLE", "10"}, {"m_pDrilDyLE", "-0.5"}},
             {{"m_pDrilDxUnitLB", "mil", "my"}, {"m_pDrilDyUnitLB", "mil", "my"}});
-    }
-
-    void unitsLeaveCountsAndFactorsAlone()
-    {
-        const DialogFixture fixture;
-        fixture.setUnit(Unit::Metric);
-        for (const char* const field :
-             {"m_pDrilNxLE", "m_pDrilNyLE", "m_pDrilXsclLE", "m_pDrilYsclLE"}) {
-            QCOMPARE(fixture.text(field), QString("1"));
-        }
-    }
-
-    void unitLabelAtBuild()
-    {
-        QCOMPARE(DialogFixture(Unit::Mil).find<QLabel>("m_pDrilDxUnitLB").text(), QString("mil"));
-        // Before the first notice of the unit, the label follows what the host shows.
-        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Micrometre);
-        QWidget window;
-        const AddFeature dialog(&window, "job", "step", &window);
-        QCOMPARE(findNamed<QLabel>(dialog, "m_pDrilDyUnitLB").text(), QString("my"));
     }
 
     void texts()
