@@ -312,9 +312,20 @@ private Q_SLOTS:
         LinePage line(door);
         PadPage pad(door);
         TextPage text(door);
+        const QList<QLineEdit*> angles{line.m_pAngleLE, line.m_pSlotAngleLE, line.m_pSlotDecodeLE};
+        for (QLineEdit* const angle : angles) {
+            angle->setText("12.5");
+        }
         const QVariantMap before = door.record().map();
         for (Page* const page : std::initializer_list<Page*>{&line, &pad, &text}) {
             page->changeUnit(true);
+        }
+        for (const QLineEdit* const angle : angles) {
+            QCOMPARE(angle->text(), QString("12.5"));
+        }
+        for (const QLineEdit* const plain : std::initializer_list<const QLineEdit*>{
+                 pad.m_pDrilNxLE, pad.m_pDrilNyLE, pad.m_pDrilXsclLE, pad.m_pDrilYsclLE}) {
+            QCOMPARE(plain->text(), QString("1"));
         }
         QCOMPARE(line.m_pCornerRadiusLE->unitLabel()->text(), QString("my"));
         QCOMPARE(line.m_pLengthLE->unitLabel()->text(), QString("mm"));

@@ -3,7 +3,7 @@
 #include "Case.h"
 #include "addfeature/fields/Field.h"
 
-/// What several pages have in common: fields for lengths, units, languages.
+/// What several pages have in common: connections, units and languages.
 namespace PageCases {
 
 /// A connection made by name, with the signatures as in SIGNAL() and SLOT().
@@ -13,16 +13,6 @@ struct Connection {
     const char* slot;
 };
 void connected(const QList<Connection>& connections);
-
-/// A field for a length, and what shows it.
-struct LengthField {
-    QString name;
-    QString key;
-    Steps reach;
-    Sends sends;
-};
-/// At, inside and outside its bounds, and texts that are not numbers; in both units.
-Cases lengths(const LengthField& field);
 
 struct FieldText {
     QString field;

@@ -79,13 +79,6 @@ private Q_SLOTS:
     void kinds_data() { addCases(lineKinds()); }
     void kinds() { runCase(); }
 
-    void lengths_data()
-    {
-        addCases(PageCases::lengths(
-            {"m_pCornerRadiusLE", RecordKeys::cornerRadius, roundCorner, Sends::WhenAccepted}));
-    }
-    void lengths() { runCase(); }
-
     void texts()
     {
         const DialogFixture fixture;

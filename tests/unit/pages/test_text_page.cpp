@@ -32,12 +32,6 @@ private Q_SLOTS:
     }
     void format() { runCase(); }
 
-    void sizes_data()
-    {
-        addCases(PageCases::lengths({"m_pXSizeLE", RecordKeys::stringXSize, text, Sends::Always}));
-    }
-    void sizes() { runCase(); }
-
     void connections()
     {
         const char* const clicked = SIGNAL(clicked());
