@@ -74,8 +74,7 @@ QList<int> indices(const DialogFixture& fixture, const QString& page)
     return indices;
 }
 
-}  // namespace
-
+/// Each greyed item below the page, as "combo: item".
 QStringList greyedItems(const DialogFixture& fixture, const QString& page)
 {
     constexpr int greyRole = Qt::UserRole - 1;
@@ -89,6 +88,8 @@ QStringList greyedItems(const DialogFixture& fixture, const QString& page)
     }
     return greyed;
 }
+
+}  // namespace
 
 QStringList visibleTexts(const DialogFixture& fixture, const QString& page)
 {

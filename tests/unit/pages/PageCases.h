@@ -31,8 +31,6 @@ void switchUnitTenTimes(const Steps& before, const QList<FieldText>& fields,
 /// record or message has changed.
 void retranslate(const QString& page, const Steps& before);
 
-/// Each greyed item below the page, as "combo: item".
-QStringList greyedItems(const DialogFixture& fixture, const QString& page);
 /// What labels, buttons and lists below the page show.
 QStringList visibleTexts(const DialogFixture& fixture, const QString& page);
 

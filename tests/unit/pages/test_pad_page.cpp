@@ -17,6 +17,19 @@ class TestPadPage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void connections()
+    {
+        const char* const changed = SIGNAL(textChanged(const QString&));
+        const char* const edited = SIGNAL(editingFinished());
+        PageCases::connected(
+            {{"m_pDrilNxLE", changed, SLOT(on_m_pDrilNxLE_editingFinished(const QString&))},
+             {"m_pDrilNyLE", changed, SLOT(on_m_pDrilNyLE_editingFinished(const QString&))},
+             {"m_pDrilXsclLE", changed, SLOT(on_m_pDrilXsclLE_editingFinished(const QString&))},
+             {"m_pDrilYsclLE", changed, SLOT(on_m_pDrilYsclLE_editingFinished(const QString&))},
+             {"m_pDrilDxLE", edited, SLOT(on_m_pDrilDxLE_editingFinished())},
+             {"m_pDrilDyLE", edited, SLOT(on_m_pDrilDyLE_editingFinished())}});
+    }
+
     void theStepsOwnZeroIsNoEntry()
     {
         DialogFixture fixture;
@@ -29,17 +42,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.text("m_pDrilDxLE"), QString("0"));
         QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
         Expect::holds(fixture, {Expect::record(RecordKeys::padDx, "0")});
-    }
-
-    void coordinateBoxIsAWarning()
-    {
-        DialogFixture fixture;
-        fixture.chooseType("m_pPadTB");
-        fixture.enter("m_pDrilDxLE", FieldBounds::of("m_pDrilDxLE").justAbove());
-        const auto boxes = fixture.boxes.take();
-        QCOMPARE(boxes.size(), 1);
-        QCOMPARE(boxes[0].icon, QMessageBox::Warning);
-        QCOMPARE(boxes[0].buttons.size(), 1);
     }
 
     void units()

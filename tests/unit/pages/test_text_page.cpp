@@ -131,17 +131,6 @@ private Q_SLOTS:
             QString("5080"));
     }
 
-    void theRefusalIsAnInformation()
-    {
-        DialogFixture fixture;
-        fixture.chooseType("m_pTextTB");
-        fixture.enter("m_pXSizeLE", FieldBounds::of("m_pXSizeLE").justAbove());
-        const auto boxes = fixture.boxes.take();
-        QCOMPARE(boxes.size(), 1);
-        QCOMPARE(boxes[0].icon, QMessageBox::Information);
-        QCOMPARE(boxes[0].title, QString("Information"));
-    }
-
     void units()
     {
         PageCases::switchUnitTenTimes(
