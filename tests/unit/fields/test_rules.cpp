@@ -5,8 +5,8 @@
 #include "Main.h"
 #include "plugin/RecordKeys.h"
 
+#include <QAbstractButton>
 #include <QLabel>
-#include <QPushButton>
 
 #include <utility>
 

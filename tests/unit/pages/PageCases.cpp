@@ -1,14 +1,8 @@
 #include "PageCases.h"
 
-#include "plugin/MessageCodes.h"
-
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <algorithm>
-
-namespace Sent = MessageCodes::Sent;
 
 namespace PageCases {
 

@@ -7,7 +7,6 @@
 #include "plugin/RecordKeys.h"
 
 #include <QButtonGroup>
-#include <QLabel>
 #include <QRadioButton>
 
 namespace Sent = MessageCodes::Sent;
