@@ -26,16 +26,17 @@ ROOT = Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
 FOLDERS = ("plugin", "toolbar", "addfeature", "dimensions")
 # The fast tests of the module, quickest first; the order changes as tests prove useful.
-TESTS = """contract.contract contract.protocol host.plugin_manager record.host_units
-record.symbol_text fields.fields fields.reports fields.rules
-toolbar.entry toolbar.language dimensions.dimensions toolbar.menus toolbar.incoming dialog.attributes
-pages.fonts_and_special_texts_page toolbar.activation dialog.frame dialog.symbol_units
-dialog.symbol_pick toolbar.construction dialog.sending language.translations
+TESTS = """contract.contract contract.protocol host.plugin_manager record.host_units record.symbol_text
+record.units record.value_checks fields.items fields.entries fields.fields fields.reports
+fields.rules toolbar.entry toolbar.language dimensions.dimensions toolbar.menus toolbar.incoming
+dialog.attributes pages.fonts_and_special_texts_page toolbar.activation dialog.frame
+dialog.symbol_units dialog.symbol_pick toolbar.construction dialog.sending language.translations
 accessibility.accessibility accessibility.layout accessibility.looks resources.resources
-pages.pad_page pages.text_formats_page pages.line_page pages.surface_and_arc_page pages.text_page
-pages.rows dimensions.element_area language.guard_title focus.agreement focus.type_change
-focus.refused_symbol focus.pending focus.boxes dialog.symbol_entry dialog.host_calls
-reliability.failing_construction reliability.failing_host reliability.reentrancy random_use
+pages.pad_page pages.text_formats_page pages.line_page pages.surface_and_arc_page
+pages.text_page pages.rows pages.wiring fields.by_hand dimensions.element_area
+language.guard_title focus.agreement focus.type_change focus.refused_symbol focus.pending
+focus.boxes dialog.symbol_entry dialog.host_calls reliability.failing_construction
+reliability.failing_host reliability.reentrancy random_use
 """.split()
 ENVIRONMENT = dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
 TARGET_SHARE = 0.95

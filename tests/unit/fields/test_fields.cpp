@@ -17,6 +17,8 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include <utility>
+
 Q_DECLARE_METATYPE(Sends)
 Q_DECLARE_METATYPE(ChoiceField::Stores)
 Q_DECLARE_METATYPE(UnitField::Unit)
@@ -140,6 +142,9 @@ private Q_SLOTS:
         field.setText("abc");
         field.changeUnit(true);
         QCOMPARE(field.text(), QString("abc"));
+        field.setText("1");
+        field.changeUnit(false);
+        QCOMPARE(field.text(), QString("0.0393701"));  // 6 significant digits
     }
 
     void pitch()
@@ -204,6 +209,22 @@ private Q_SLOTS:
         QCOMPARE(door.takeCalls(), QStringList("number 99 from -1 to 50"));  // once, and unsent
         QCOMPARE(field.text(), QString("7"));
         QCOMPARE(door.record().text(anyKey), QString("7"));
+    }
+
+    /// Stored as typed, even if it is none.
+    void whatIsNoNumberIsCheckedAsZero()
+    {
+        FakeDoor door;
+        QWidget page;
+        NumberField field(door, &page, line(Sends::Never).within(0, 50), "7",
+                          NumberField::Checked::AtEachChange, NumberField::Typed::Whole);
+        for (const auto& [text, checked] :
+             {std::pair("50.0", "50"), std::pair("", "0"), std::pair("abc", "0"),
+              std::pair("1e2", "100"), std::pair("nan", "nan"), std::pair("-inf", "-inf")}) {
+            field.setText(text);
+            QCOMPARE(door.takeCalls(), QStringList(QString("number %1 from 0 to 50").arg(checked)));
+            QCOMPARE(door.record().text(anyKey), QString(text));
+        }
     }
 
     void text()

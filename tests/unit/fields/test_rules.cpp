@@ -1,22 +1,18 @@
 // The rules between the fields of each page, without a dialog around it.
 
-#include "FakeDoor.h"
+#include "AllPages.h"
+#include "AnyField.h"
 #include "Main.h"
-#include "addfeature/pages/ArcPage.h"
-#include "addfeature/pages/BarcodePage.h"
-#include "addfeature/pages/CannedTextPage.h"
-#include "addfeature/pages/LinePage.h"
-#include "addfeature/pages/PadPage.h"
-#include "addfeature/pages/PlotStampPage.h"
-#include "addfeature/pages/StringPage.h"
-#include "addfeature/pages/SurfacePage.h"
-#include "addfeature/pages/TextPage.h"
 #include "plugin/RecordKeys.h"
 
+#include <QAbstractButton>
 #include <QLabel>
-#include <QPushButton>
+
+#include <utility>
 
 namespace {
+
+const QStringList barcodeTypes = {"UPC39", "UPC39 ascii", "CODE128B", "CODE128C", "ECC-200"};
 
 QStringList shownGroups(const LinePage& page)
 {
@@ -60,29 +56,56 @@ private Q_SLOTS:
         QFETCH(QString, group);
         QFETCH(bool, mayBeClosed);
         QFETCH(QStringList, hidden);
-        FakeDoor door;
-        LinePage page(door);
-        door.route(SLOT(on_Line_ComboBox_Changed()), [&] { page.chooseKind(); });
-        page.m_pLineCMB->setCurrentText(item == "Single Line" ? "Polyline" : "Single Line");
-        door.takeCalls();
-        page.m_pLineCMB->setCurrentText(item);
-        QCOMPARE(door.takeCalls(), QStringList("restore") + hidden + QStringList("record"));
-        QCOMPARE(door.record().text(RecordKeys::line), value);
-        QCOMPARE(shownGroups(page), QStringList(group));
-        QCOMPARE(page.m_pClosedCB->isEnabled(), mayBeClosed);
+        AllPages pages;
+        ChoiceField& kinds = *pages.line.m_pLineCMB;
+        kinds.setCurrentText(item == "Single Line" ? "Polyline" : "Single Line");
+        pages.door.takeCalls();
+        QString valueWhenSent;
+        pages.door.onSend = [&] { valueWhenSent = pages.door.record().text(RecordKeys::line); };
+        kinds.setCurrentText(item);
+        QCOMPARE(pages.door.takeCalls(), QStringList("restore") + hidden + QStringList("record"));
+        QCOMPARE(valueWhenSent, value);
+        QCOMPARE(shownGroups(pages.line), QStringList(group));
+        QCOMPARE(pages.line.m_pClosedCB->isEnabled(), mayBeClosed);
     }
 
     void noLineKind()
     {
-        FakeDoor door;
-        LinePage page(door);
-        door.route(SLOT(on_Line_ComboBox_Changed()), [&] { page.chooseKind(); });
+        AllPages pages;
+        ChoiceField& kinds = *pages.line.m_pLineCMB;
+        QVERIFY(!pages.line.m_pClosedCB->isEnabled());
+        QCOMPARE(shownGroups(pages.line), QStringList("m_pDirectionGroup"));
+        kinds.setCurrentText("Polyline");
+        pages.door.takeCalls();
+        kinds.setCurrentIndex(-1);
+        QCOMPARE(pages.door.takeCalls(), (QStringList{"restore", "record"}));
+        QCOMPARE(pages.door.record().text(RecordKeys::line), LineKind::polyline);
+        QCOMPARE(shownGroups(pages.line), QStringList("m_pDirectionGroup"));
+        QVERIFY(pages.line.m_pClosedCB->isEnabled());
+    }
+
+    /// The kind is stored before a group is hidden, which may have an entry to send.
+    void whatAHiddenGroupSendsHasTheNewKind()
+    {
+        AllPages pages;
+        LinePage& page = pages.line;
+        pages.window.show();
+        QApplication::setActiveWindow(&pages.window);
+        QVERIFY(QTest::qWaitForWindowActive(&pages.window));
+        page.m_pLineCMB->setCurrentText("Rectangle");
+        page.m_pCornerTypeCMB->setCurrentText("Round");
+        page.m_pCornerRadiusLE->setFocus();
+        type(*page.m_pCornerRadiusLE, "10");
+        pages.door.takeCalls();
+        QStringList kindsWhenSent;
+        pages.door.onSend = [&] {
+            kindsWhenSent.append(pages.door.record().text(RecordKeys::line));
+        };
         page.m_pLineCMB->setCurrentText("Polyline");
-        door.takeCalls();
-        page.m_pLineCMB->setCurrentIndex(-1);
-        QCOMPARE(door.takeCalls(), (QStringList{"restore", "record"}));
-        QCOMPARE(door.record().text(RecordKeys::line), LineKind::polyline);
-        QVERIFY(page.m_pClosedCB->isEnabled());
+        QCOMPARE(kindsWhenSent, (QStringList{LineKind::polyline, LineKind::polyline}));
+        QCOMPARE(pages.door.takeCalls(),
+                 (QStringList{"restore", "hide placement rows", "length 10 up to 50000", "record",
+                              "record"}));
     }
 
     void aDialogThatIsGoneSendsNothing()
@@ -96,155 +119,168 @@ private Q_SLOTS:
 
     void theFixedDirectionHasAnAngle()
     {
-        FakeDoor door;
-        LinePage page(door);
-        QVERIFY(!page.m_pAngleLE->isEnabled());
-        const QStringList directions = {LineDirection::free,
-                                        LineDirection::vertical,
-                                        LineDirection::horizontal,
-                                        LineDirection::verticalThenHorizontal,
-                                        LineDirection::eightDirections,
-                                        LineDirection::fixed};
-        for (int id = directions.size() - 1; id >= 0; --id) {
-            const bool isFixed = directions[id] == LineDirection::fixed;
-            page.m_pDirectionBG->button(id)->setChecked(true);
-            page.m_pDirectionBG->change();
-            QCOMPARE(door.record().map().value(RecordKeys::angleGroup),
-                     QVariant(directions[id].toInt()));
-            QCOMPARE(page.m_pAngleLE->isEnabled(), isFixed);
-            QCOMPARE(page.m_pAngleLE->label()->isEnabled(), isFixed);
-            QCOMPARE(door.takeCalls(), QStringList("direction"));
+        const AllPages pages;
+        const auto hasAngle = [&](bool is) {
+            QCOMPARE(pages.line.m_pAngleLE->isEnabled(), is);
+            QCOMPARE(pages.line.m_pAngleLE->label()->isEnabled(), is);
+        };
+        hasAngle(false);
+        for (const char* const other : {"m_pVerticalRB", "m_pHorizontalRB", "m_pFreeDirectionRB",
+                                        "m_pVerticalHorizontalRB", "m_pEightDirectionsRB"}) {
+            pages.find<QAbstractButton>("m_pFixedAngleRB").click();
+            hasAngle(true);
+            pages.find<QAbstractButton>(other).click();
+            hasAngle(false);
         }
     }
 
     void roundAndChamferedCornersHaveARadius()
     {
-        FakeDoor door;
-        LinePage page(door);
-        QVERIFY(!page.m_pCornerRadiusLE->isEnabled());
-        const auto choose = [&](const QString& corner, const QVariant& value, bool hasRadius) {
-            page.m_pCornerTypeCMB->setCurrentIndex(page.m_pCornerTypeCMB->findText(corner));
-            QCOMPARE(page.m_pCornerRadiusLE->isEnabled(), hasRadius);
-            QCOMPARE(page.m_pCornerRadiusLE->unitLabel()->isEnabled(), hasRadius);
-            QCOMPARE(door.record().map().value(RecordKeys::cornerType), value);
-            QCOMPARE(door.takeCalls(), QStringList("record"));
+        const AllPages pages;
+        const auto hasRadius = [&](const QString& corner, bool is) {
+            const LengthField& radius = *pages.line.m_pCornerRadiusLE;
+            pages.line.m_pCornerTypeCMB->setCurrentIndex(
+                pages.line.m_pCornerTypeCMB->findText(corner));
+            QCOMPARE(radius.isEnabled(), is);
+            QCOMPARE(radius.label()->isEnabled(), is);
+            QCOMPARE(radius.unitLabel()->isEnabled(), is);
         };
-        choose("Round", CornerType::round.toInt(), true);
-        choose("Chamfer", CornerType::chamfer.toInt(), true);
-        choose("Oblong", CornerType::oblong.toInt(), false);
-        choose("Straight", CornerType::straight.toInt(), false);
-        choose("none", 0, false);
+        hasRadius("Straight", false);
+        hasRadius("Round", true);
+        hasRadius("Oblong", false);
+        hasRadius("Chamfer", true);
+        hasRadius("Straight", false);
+        hasRadius("Chamfer", true);
+        hasRadius("none", false);
     }
 
     void theOtherMethodIsGreyed()
     {
-        FakeDoor door;
-        ArcPage page(door);
-        QVERIFY(page.m_pArcCMB->isEnabled() && !page.m_pCircleCMB->isEnabled());
-        page.m_pArcAndCircleCMB->setCurrentText("Circle");
-        QVERIFY(!page.m_pArcCMB->isEnabled() && page.m_pCircleCMB->isEnabled());
-        QCOMPARE(door.record().text(RecordKeys::arcAndCircle), ArcOrCircle::circle);
-        page.m_pArcAndCircleCMB->setCurrentIndex(-1);
-        QVERIFY(!page.m_pArcCMB->isEnabled() && page.m_pCircleCMB->isEnabled());
-        QCOMPARE(door.record().text(RecordKeys::arcAndCircle), ArcOrCircle::circle);
-        QCOMPARE(door.takeCalls(), (QStringList{"record", "record"}));
+        const AllPages pages;
+        const auto isArc = [&](bool is) {
+            QCOMPARE(pages.arc.m_pArcCMB->isEnabled(), is);
+            QCOMPARE(pages.arc.m_pCircleCMB->isEnabled(), !is);
+        };
+        isArc(true);
+        pages.arc.m_pArcAndCircleCMB->setCurrentText("Circle");
+        isArc(false);
+        pages.arc.m_pArcAndCircleCMB->setCurrentIndex(-1);
+        isArc(false);
+        pages.arc.m_pArcAndCircleCMB->setCurrentText("Arc");
+        isArc(true);
     }
 
     void onlyAMatrixHasMarkers()
     {
-        FakeDoor door;
-        BarcodePage page(door);
-        QVERIFY(!page.m_pAddMarkersCB->isEnabled());
-        const auto choose = [&](const QString& type, const QString& value, bool hasMarkers) {
+        AllPages pages;
+        BarcodePage& page = *pages.text.m_barcode;
+        pages.text.m_pTextFormatCMB->setCurrentText("Barcode");
+        page.m_pUPCCMB->setCurrentText("ECC-200");
+        page.m_pAddMarkersCB->setChecked(true);
+        page.m_pMatrixLE->setText("12x12");
+        page.m_pMatrixLE->finish();
+        for (const QString& type : barcodeTypes) {
             page.m_pUPCCMB->setCurrentText(type);
-            QCOMPARE(door.record().map().value(RecordKeys::barcodeMode), QVariant(value.toInt()));
-            QCOMPARE(page.m_pAddMarkersCB->isEnabled(), hasMarkers);
-            QCOMPARE(page.m_pMatrixPB->isEnabled(), hasMarkers);
-            QCOMPARE(page.m_pMatrixLE->isEnabled(), hasMarkers);
-        };
-        choose("ECC-200", Symbology::ecc200, true);
-        choose("CODE128C", Symbology::code128C, false);
-        choose("CODE128B", Symbology::code128B, false);
-        choose("UPC39 ascii", Symbology::upc39Ascii, false);
-        choose("UPC39", Symbology::upc39, false);
-        QCOMPARE(door.takeCalls(), QStringList());
+            const bool isMatrix = type == "ECC-200";
+            QCOMPARE(page.m_pAddMarkersCB->isEnabled(), isMatrix);
+            QCOMPARE(page.m_pMatrixPB->isEnabled(), isMatrix);
+            QCOMPARE(page.m_pMatrixLE->isEnabled(), isMatrix);
+            QVERIFY(page.m_pBackgroundCB->isEnabled() && page.m_pAddStringCB->isEnabled());
+            QVERIFY(page.m_pHeightLE->isEnabled());
+            QCOMPARE(pages.door.record().text(RecordKeys::addMarkers), Added::yes);
+            QCOMPARE(pages.door.record().text(RecordKeys::barcodeMatrix), QString("12x12"));
+        }
+        page.m_pUPCCMB->setCurrentIndex(-1);
+        QVERIFY(!page.m_pAddMarkersCB->isEnabled() && !page.m_pMatrixLE->isEnabled());
+        QCOMPARE(pages.door.takeCalls(), QStringList());
     }
 
     void aStringHasAPosition()
     {
-        FakeDoor door;
-        BarcodePage page(door);
+        const AllPages pages;
+        const BarcodePage& page = *pages.text.m_barcode;
+        QVERIFY(!page.m_pPositionCMB->isEnabled());
         page.m_pAddStringCB->setChecked(true);
         QVERIFY(page.m_pPositionCMB->isEnabled());
-        QCOMPARE(door.record().text(RecordKeys::addString), Added::yes);
         page.m_pAddStringCB->setChecked(false);
         QVERIFY(!page.m_pPositionCMB->isEnabled());
-        QCOMPARE(door.record().text(RecordKeys::addString), Added::no);
     }
 
+    /// Of whatever type, even where the markers can no longer be changed.
     void theMarkersDecideOnTheBackground()
     {
-        FakeDoor door;
-        BarcodePage page(door);
-        door.route(SLOT(on_m_pBackgroundCB_CheckState_Changed(int)),
-                   [&] { page.chooseBackground(); });
-        const auto change = [&](QCheckBox* box, bool checked) {
-            box->setChecked(checked);
-            return door.record().text(RecordKeys::addMarkers) + ' ' +
-                   door.record().text(RecordKeys::addBackground);
-        };
-        const QString none = Added::no + ' ' + Added::no;
-        QCOMPARE(change(page.m_pBackgroundCB, true), none);
-        QCOMPARE(change(page.m_pAddMarkersCB, true), Added::yes + ' ' + Added::no);
-        QCOMPARE(change(page.m_pBackgroundCB, false), Added::yes + ' ' + Added::yes);
-        QCOMPARE(change(page.m_pBackgroundCB, true), Added::yes + ' ' + Added::yes);
-        QCOMPARE(change(page.m_pAddMarkersCB, false), Added::no + ' ' + Added::yes);
-        QCOMPARE(change(page.m_pBackgroundCB, false), none);
-        QCOMPARE(door.takeCalls(), QStringList());
+        for (const QString& type : barcodeTypes) {
+            AllPages pages;
+            BarcodePage& page = *pages.text.m_barcode;
+            page.m_pUPCCMB->setCurrentText(type);
+            QCOMPARE(pages.stored(RecordKeys::addBackground), AllPages::described(Added::no));
+            QVERIFY(!page.m_pBackgroundCB->isChecked());
+            const auto change = [&](QCheckBox* box, bool checked) {
+                box->setChecked(checked);
+                return std::pair(pages.door.record().text(RecordKeys::addMarkers),
+                                 pages.door.record().text(RecordKeys::addBackground));
+            };
+            const std::pair none(Added::no, Added::no);
+            QCOMPARE(change(page.m_pBackgroundCB, true), none);
+            QCOMPARE(change(page.m_pAddMarkersCB, true), std::pair(Added::yes, Added::no));
+            QCOMPARE(change(page.m_pBackgroundCB, false), std::pair(Added::yes, Added::yes));
+            QCOMPARE(change(page.m_pBackgroundCB, true), std::pair(Added::yes, Added::yes));
+            QCOMPARE(change(page.m_pAddMarkersCB, false), std::pair(Added::no, Added::yes));
+            QCOMPARE(change(page.m_pBackgroundCB, false), none);
+            QCOMPARE(pages.door.takeCalls(), QStringList());
+        }
     }
 
+    /// The zoom that is shown, which the record need not know yet.
     void theHoleModeStoresTheZoom()
     {
-        FakeDoor door;
-        PlotStampPage stamp(door);
-        CannedTextPage page(door, stamp);
-        door.route(SLOT(on_m_pCannedHoleSizeCMB_ComboBox_Changed()),
-                   [&] { page.chooseHoleMode(); });
-        stamp.m_pOrbotechZoomCMB->setCurrentText("7");
-        door.record().set(RecordKeys::orbotechZoom, 1);
-        page.m_pCannedHoleSizeCMB->setCurrentText("6 X 7");
-        QCOMPARE(door.record().map().value(RecordKeys::orbotechZoom), QVariant(7));
-        QCOMPARE(door.record().text(RecordKeys::cannedHoleMode), CannedHoleMode::sixBySeven);
-        QCOMPARE(door.takeCalls(), QStringList());
+        AllPages pages;
+        pages.text.m_plotStamp->m_pOrbotechZoomCMB->setCurrentText("7");
+        for (const char* const mode : {"6 X 7", "5 X 7"}) {
+            pages.door.record().set(RecordKeys::orbotechZoom, 1);
+            pages.text.m_cannedText->m_pCannedHoleSizeCMB->setCurrentText(mode);
+            QCOMPARE(pages.stored(RecordKeys::orbotechZoom), QString("int 7"));
+        }
+        pages.door.record().set(RecordKeys::orbotechZoom, 1);
+        pages.text.m_cannedText->m_pCannedHoleSizeCMB->setCurrentIndex(-1);
+        QCOMPARE(pages.stored(RecordKeys::orbotechZoom), QString("int 7"));
+        QCOMPARE(pages.door.takeCalls(), QStringList());
     }
 
     void aFormatShowsItsPage()
     {
-        FakeDoor door;
-        TextPage page(door);
-        door.route(SLOT(on_Textformart_ComboBox_Changed()), [&] { page.chooseFormat(); });
+        AllPages pages;
+        TextPage& page = pages.text;
         const struct {
             const char* item;
-            QString value;
             const QWidget* page;
-        } formats[] = {{"Canned Text", TextKind::cannedText, page.m_cannedText},
-                       {"Orbotech Plot Stamp", TextKind::plotStamp, page.m_plotStamp},
-                       {"Barcode", TextKind::barcode, page.m_barcode},
-                       {"String", TextKind::string, page.m_strings}};
+        } formats[] = {{"String", page.m_strings},
+                       {"Canned Text", page.m_cannedText},
+                       {"Orbotech Plot Stamp", page.m_plotStamp},
+                       {"Barcode", page.m_barcode}};
+        const auto isShown = [&](const QWidget* chosen) {
+            for (const auto& format : formats) {
+                QCOMPARE(format.page->isVisibleTo(&page), format.page == chosen);
+            }
+            QCOMPARE(page.m_pFontPB->isEnabled(), chosen == page.m_strings);
+            QCOMPARE(page.m_pFontLE->isEnabled(), chosen == page.m_strings);
+            QCOMPARE(page.m_barcode->m_pUPCCMB->isEnabled(), chosen == page.m_barcode);
+            QVERIFY(page.m_pTextPB->isEnabled() && page.m_pTextLE->isEnabled());
+        };
+        isShown(page.m_strings);
         for (const auto& format : formats) {
             page.m_pTextFormatCMB->setCurrentText(format.item);
-            QCOMPARE(door.record().text(RecordKeys::textFormat), format.value);
-            for (const auto& other : formats) {
-                QCOMPARE(other.page->isVisibleTo(&page), &other == &format);
-            }
-            QCOMPARE(page.m_pFontPB->isEnabled(), format.value == TextKind::string);
-            QCOMPARE(page.m_pFontLE->isEnabled(), format.value == TextKind::string);
-            QCOMPARE(page.m_barcode->m_pUPCCMB->isEnabled(), format.value == TextKind::barcode);
+            isShown(format.page);
+            // Only a barcode has a type, which is a number once it is chosen.
+            QCOMPARE(pages.stored(RecordKeys::barcodeMode),
+                     QString(format.page == page.m_barcode ? "int 1" : "QString 1"));
         }
         page.m_pTextFormatCMB->setCurrentIndex(-1);
-        QCOMPARE(door.record().text(RecordKeys::textFormat), TextKind::string);
-        QVERIFY(!page.m_pFontLE->isEnabled());
-        QCOMPARE(door.takeCalls(), QStringList());
+        QVERIFY(page.m_barcode->isVisibleTo(&page));
+        QVERIFY(!page.m_pFontLE->isEnabled() && !page.m_barcode->m_pUPCCMB->isEnabled());
+        page.m_pTextFormatCMB->setCurrentText("String");
+        isShown(page.m_strings);
+        QCOMPARE(pages.door.takeCalls(), QStringList());
     }
 
     /// Hiding the page of the strings finishes an entry there, which is sent with the old format.
@@ -270,27 +306,26 @@ private Q_SLOTS:
         }
     }
 
-    void countsAndFactorsHaveNoGroups()
-    {
-        FakeDoor door;
-        const PadPage page(door);
-        for (NumberField* const field :
-             {page.m_pDrilNxLE, page.m_pDrilNyLE, page.m_pDrilXsclLE, page.m_pDrilYsclLE}) {
-            field->selectAll();
-            QTest::keyClicks(field, "1,5");
-            QCOMPARE(field->text(), QString("15"));
-        }
-    }
-
     void changingTheUnitOfAPageSendsAndStoresNothing()
     {
         FakeDoor door;
         LinePage line(door);
         PadPage pad(door);
         TextPage text(door);
+        const QList<QLineEdit*> angles{line.m_pAngleLE, line.m_pSlotAngleLE, line.m_pSlotDecodeLE};
+        for (QLineEdit* const angle : angles) {
+            angle->setText("12.5");
+        }
         const QVariantMap before = door.record().map();
         for (Page* const page : std::initializer_list<Page*>{&line, &pad, &text}) {
             page->changeUnit(true);
+        }
+        for (const QLineEdit* const angle : angles) {
+            QCOMPARE(angle->text(), QString("12.5"));
+        }
+        for (const QLineEdit* const plain : std::initializer_list<const QLineEdit*>{
+                 pad.m_pDrilNxLE, pad.m_pDrilNyLE, pad.m_pDrilXsclLE, pad.m_pDrilYsclLE}) {
+            QCOMPARE(plain->text(), QString("1"));
         }
         QCOMPARE(line.m_pCornerRadiusLE->unitLabel()->text(), QString("my"));
         QCOMPARE(line.m_pLengthLE->unitLabel()->text(), QString("mm"));
@@ -305,14 +340,7 @@ private Q_SLOTS:
 
     void theRecordHasAKeyForEachFieldOfThePages()
     {
-        FakeDoor door;
-        const LinePage line(door);
-        const PadPage pad(door);
-        const SurfacePage surface(door);
-        const ArcPage arc(door);
-        const TextPage text(door);
-        QCOMPARE(door.record().map().size(), 39);  // all but the frame's six
-        QCOMPARE(door.record().text(RecordKeys::surfaceShape), SurfaceKind::rectangle);
+        QCOMPARE(AllPages().door.record().map().size(), 39);  // all but the frame's six
     }
 };
 

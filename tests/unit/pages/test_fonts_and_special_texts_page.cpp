@@ -1,6 +1,5 @@
 // Fonts and special texts: the job's lists, and the windows to choose from them.
 
-#include "DemoJobs.h"
 #include "DialogFixture.h"
 #include "Expect.h"
 #include "Main.h"
@@ -45,18 +44,6 @@ class TestFontsAndSpecialTextsPage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void withoutAStandardFont()
-    {
-        openDemoJobs();
-        QWidget window;
-        Recorder recorder;
-        AddFeature dialog(&window, "other", "step", &window);
-        dialog.getChangeCurrentTool();
-        QCOMPARE(findNamed<QLineEdit>(dialog, "m_pFontLE").text(), QString());
-        QCOMPARE(recorder.last(Sent::Record).message.payload.value(RecordKeys::stringTextFont),
-                 QVariant(QString("")));
-    }
-
     void fontsAreFetchedAnew()
     {
         DialogFixture fixture;

@@ -6,8 +6,6 @@
 #include "plugin/MessageCodes.h"
 #include "plugin/RecordKeys.h"
 
-#include <UiApiStandIn.h>
-
 #include <QFrame>
 #include <QLabel>
 
@@ -15,151 +13,21 @@ namespace Sent = MessageCodes::Sent;
 
 using namespace PageSteps;
 
-namespace {
-
-/// A count or factor is checked at each change of its text.
-Cases numbers(const QString& field, const QString& key, const QStringList& legal,
-              const QStringList& illegal)
-{
-    const Steps holdsSeven = pad + SetText(field, "7");
-    Cases cases;
-    for (const QString& text : legal) {
-        cases.append(Case()
-                         .given(holdsSeven)
-                         .when(SetText(field, text))
-                         .then(Expect::record(key, text), Expect::sent(Sent::Record),
-                               Expect::text(field, text)));
-    }
-    for (const QString& text : illegal) {
-        cases.append(
-            Case()
-                .given(holdsSeven)
-                .when(SetText(field, text))
-                .then(Expect::record(key, "7"), Expect::text(field, "7"), Expect::hostBox()));
-    }
-    return cases;
-}
-
-/// The steps from one pad to the next.
-Cases pitches(const QString& field, const QString& key)
-{
-    const auto entered = [&](Unit unit, const QString& text) {
-        return Case().in(unit).given(pad + Enter(field, "127")).when(Enter(field, text));
-    };
-    const auto accepted = [&](Unit unit, const QString& text, const QString& stored) {
-        return entered(unit, text)
-            .then(Expect::record(key, stored), Expect::sent(Sent::Record),
-                  Expect::text(field, text));
-    };
-    const auto emptied = [&](Unit unit) {
-        return entered(unit, "").then(Expect::record(key, "0"), Expect::sent(Sent::Record),
-                                      Expect::text(field, "0"));
-    };
-    // The field falls back to "0" while the record keeps the last accepted step.
-    const auto refused = [&](Unit unit, const QString& text) {
-        const bool isMetric = unit == Unit::Metric;
-        return entered(unit, text)
-            .then(Expect::record(key, isMetric ? "127" : "3225.8"), Expect::text(field, "0"),
-                  Expect::box(BoxTexts::coordinate(isMetric ? 2540000 : 100000)));
-    };
-    return {
-        accepted(Unit::Mil, "10", "254"),
-        accepted(Unit::Mil, "1.5", "38.1"),
-        accepted(Unit::Mil, "-10", "-254"),
-        accepted(Unit::Mil, "0", "0"),
-        emptied(Unit::Mil),
-        accepted(Unit::Mil, "100000", "2.54e+06"),
-        accepted(Unit::Mil, "-100000", "-2.54e+06"),
-        refused(Unit::Mil, "100000.5"),
-        refused(Unit::Mil, "100001"),
-        refused(Unit::Mil, "-100001"),
-        refused(Unit::Mil, "inf"),
-        refused(Unit::Mil, "-inf"),
-        refused(Unit::Mil, "nan"),
-        refused(Unit::Mil, "1e6"),
-        accepted(Unit::Metric, "254", "254"),
-        accepted(Unit::Metric, "1.50", "1.50"),
-        accepted(Unit::Metric, "2540000", "2540000"),
-        accepted(Unit::Metric, "-2540000", "-2540000"),
-        refused(Unit::Metric, "2540001"),
-        refused(Unit::Metric, "-2540000.5"),
-        emptied(Unit::Metric),
-    };
-}
-
-}  // namespace
-
 class TestPadPage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void counts_data()
+    void connections()
     {
-        const QStringList legal = {"0", "1", "50", "50.0", "", "abc", "-0"};
-        const QStringList illegal = {"51", "50.01", "-1", "1e9", "inf", "nan"};
-        addCases(numbers("m_pDrilNxLE", RecordKeys::padNx, legal, illegal) +
-                 numbers("m_pDrilNyLE", RecordKeys::padNy, legal, illegal));
-    }
-    void counts() { runCase(); }
-
-    void factors_data()
-    {
-        const QStringList legal = {"0", "-100", "100", "-0.5", "", "abc", "1e2"};
-        const QStringList illegal = {"100.1", "-100.1", "1e3", "inf", "-inf", "nan"};
-        addCases(numbers("m_pDrilXsclLE", RecordKeys::padXscl, legal, illegal) +
-                 numbers("m_pDrilYsclLE", RecordKeys::padYscl, legal, illegal));
-    }
-    void factors() { runCase(); }
-
-    void steps_data()
-    {
-        addCases(pitches("m_pDrilDxLE", RecordKeys::padDx) +
-                 pitches("m_pDrilDyLE", RecordKeys::padDy));
-    }
-    void steps() { runCase(); }
-
-    void keyByKey()
-    {
-        DialogFixture fixture;
-        fixture.chooseType("m_pPadTB");
-        QCOMPARE(fixture.text("m_pDrilNxLE"), QString("1"));
-        fixture.type("m_pDrilNxLE", "5");
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        Expect::holds(fixture, {Expect::record(RecordKeys::padNx, "5")});
-        fixture.press(Qt::Key_1);
-        QCOMPARE(fixture.text("m_pDrilNxLE"), QString("5"));
-        QCOMPARE(fixture.boxes.take().size(), 1);
-        QCOMPARE(fixture.recorder.codes(), QVector<int>{Sent::Record});
-        Expect::holds(fixture, {Expect::record(RecordKeys::padNx, "5")});
-    }
-
-    void typing_data()
-    {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("shown");
-        // clang-format off
-        QTest::newRow("step, leading zero") << "m_pDrilDxLE" << "01" << "0";
-        QTest::newRow("step, five decimals") << "m_pDrilDxLE" << "1.123456" << "1.12345";
-        QTest::newRow("step, below one") << "m_pDrilDyLE" << "-0.5" << "-0.5";
-        QTest::newRow("step, letters") << "m_pDrilDyLE" << "1x2" << "12";
-        QTest::newRow("count, decimals") << "m_pDrilNxLE" << "1.5" << "15";
-        QTest::newRow("count, comma") << "m_pDrilNyLE" << "1,5" << "15";
-        QTest::newRow("factor, comma") << "m_pDrilXsclLE" << "1,5" << "15";
-        QTest::newRow("factor, decimals") << "m_pDrilYsclLE" << "-1.5" << "-1.5";
-        // clang-format on
-    }
-    void typing()
-    {
-        QFETCH(QString, field);
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
-        QLocale::setDefault(QLocale(QLocale::German));  // reads a comma; the fields do not
-        const DialogFixture fixture;
-        fixture.perform(pad);
-        fixture.type(field, typed);
-        QLocale::setDefault(QLocale::c());
-        QCOMPARE(fixture.text(field), shown);
+        const char* const changed = SIGNAL(textChanged(const QString&));
+        const char* const edited = SIGNAL(editingFinished());
+        PageCases::connected(
+            {{"m_pDrilNxLE", changed, SLOT(on_m_pDrilNxLE_editingFinished(const QString&))},
+             {"m_pDrilNyLE", changed, SLOT(on_m_pDrilNyLE_editingFinished(const QString&))},
+             {"m_pDrilXsclLE", changed, SLOT(on_m_pDrilXsclLE_editingFinished(const QString&))},
+             {"m_pDrilYsclLE", changed, SLOT(on_m_pDrilYsclLE_editingFinished(const QString&))},
+             {"m_pDrilDxLE", edited, SLOT(on_m_pDrilDxLE_editingFinished())},
+             {"m_pDrilDyLE", edited, SLOT(on_m_pDrilDyLE_editingFinished())}});
     }
 
     void theStepsOwnZeroIsNoEntry()
@@ -176,51 +44,11 @@ private Q_SLOTS:
         Expect::holds(fixture, {Expect::record(RecordKeys::padDx, "0")});
     }
 
-    void refusals_data()
-    {
-        using PageCases::Refusal;
-        PageCases::addRefusalRows(
-            {Refusal("m_pDrilDxLE").reachedBy(pad).above().leaves("0").beside("m_pMirrorCMB"),
-             Refusal("m_pDrilDyLE").reachedBy(pad).below().leaves("0").beside("m_pMirrorCMB")});
-    }
-    void refusals() { PageCases::refuseOnce(); }
-
-    void coordinateBoxIsAWarning()
-    {
-        DialogFixture fixture;
-        fixture.chooseType("m_pPadTB");
-        fixture.enter("m_pDrilDxLE", FieldBounds::of("m_pDrilDxLE").justAbove());
-        const auto boxes = fixture.boxes.take();
-        QCOMPARE(boxes.size(), 1);
-        QCOMPARE(boxes[0].icon, QMessageBox::Warning);
-        QCOMPARE(boxes[0].buttons.size(), 1);
-    }
-
     void units()
     {
         PageCases::switchUnitTenTimes(
             pad, {{"m_pDrilDxLE", "10"}, {"m_pDrilDyLE", "-0.5"}},
             {{"m_pDrilDxUnitLB", "mil", "my"}, {"m_pDrilDyUnitLB", "mil", "my"}});
-    }
-
-    void unitsLeaveCountsAndFactorsAlone()
-    {
-        const DialogFixture fixture;
-        fixture.setUnit(Unit::Metric);
-        for (const char* const field :
-             {"m_pDrilNxLE", "m_pDrilNyLE", "m_pDrilXsclLE", "m_pDrilYsclLE"}) {
-            QCOMPARE(fixture.text(field), QString("1"));
-        }
-    }
-
-    void unitLabelAtBuild()
-    {
-        QCOMPARE(DialogFixture(Unit::Mil).find<QLabel>("m_pDrilDxUnitLB").text(), QString("mil"));
-        // Before the first notice of the unit, the label follows what the host shows.
-        CanvasHost::setDisplayUnit(CanvasHost::DisplayUnit::Micrometre);
-        QWidget window;
-        const AddFeature dialog(&window, "job", "step", &window);
-        QCOMPARE(findNamed<QLabel>(dialog, "m_pDrilDyUnitLB").text(), QString("my"));
     }
 
     void texts()

@@ -4,7 +4,6 @@
 #include "Main.h"
 
 #include <QLayout>
-#include <QRegExpValidator>
 #include <QWidget>
 
 namespace {
@@ -70,26 +69,6 @@ private Q_SLOTS:
         QFETCH(QString, row);
         const DialogFixture fixture;
         QCOMPARE(fixture.find(row).layout()->contentsMargins(), QMargins());
-    }
-
-    /// A whole number without leading zeros, or a lone "0".
-    void cornerRadius()
-    {
-        const DialogFixture fixture;
-        auto& field = fixture.find<QLineEdit>("m_pCornerRadiusLE");
-        const auto* const validator = qobject_cast<const QRegExpValidator*>(field.validator());
-        QVERIFY(validator);
-        QCOMPARE(validator->regExp().pattern(), QString("^[1-9][0-9]*|0$"));
-        QCOMPARE(validator->regExp().caseSensitivity(), Qt::CaseSensitive);
-        QCOMPARE(int(validator->regExp().patternSyntax()), int(QRegExp::RegExp));
-        fixture.choose("m_pLineCMB", "Rectangle");
-        fixture.choose("m_pCornerTypeCMB", "Round");
-        for (const auto& [typed, kept] :
-             {std::pair("10", "10"), std::pair("0", "0"), std::pair("01", "0"),
-              std::pair("1.5", "15"), std::pair("105", "105"), std::pair("-3", "3")}) {
-            fixture.type("m_pCornerRadiusLE", typed);
-            QCOMPARE(field.text(), QString(kept));
-        }
     }
 };
 
