@@ -196,6 +196,11 @@ void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void WorkbenchWindow::dropEvent(QDropEvent* event)
 {
-    event->acceptProposedAction();
-    openFile(droppedFile(event->mimeData()));
+    // A program that was told of a move may remove the file.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The program that it comes from waits for the drop to end, but not for the user's answers.
+    QMetaObject::invokeMethod(
+        this, [this, file = droppedFile(event->mimeData())] { openFile(file); },
+        Qt::QueuedConnection);
 }
