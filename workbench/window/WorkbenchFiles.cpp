@@ -115,7 +115,8 @@ void WorkbenchWindow::listRecentFiles()
     m_recentMenu->clear();
     const QStringList files = canvas()->files().recent();
     for (const QString& file : files) {
-        QAction* const action = m_recentMenu->addAction(QDir::toNativeSeparators(file));
+        QAction* const action = m_recentMenu->addAction(
+            QDir::toNativeSeparators(file).replace(QLatin1Char('&'), QStringLiteral("&&")));
         connect(action, &QAction::triggered, this, [this, file] { canvas()->files().open(file); });
     }
     m_recentMenu->setEnabled(!files.isEmpty());
