@@ -185,7 +185,10 @@ void FileActions::saveShownAs()
 
 void FileActions::chooseAndExport()
 {
-    const QString name = QFileInfo(offeredName(shown())).completeBaseName();
+    QString name = QFileInfo(offeredName(shown())).completeBaseName();
+    if (name.contains(QLatin1Char('.'))) {
+        name += QStringLiteral(".gbr");  // the dialog completes names without a dot only
+    }
     const QString chosen = FileNames::ask(FileNames::Purpose::Export, file(), name, m_pane);
     if (chosen.isEmpty()) {
         return;
