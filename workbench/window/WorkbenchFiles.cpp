@@ -15,7 +15,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -135,12 +134,11 @@ void WorkbenchWindow::savePicture()
     if (file.isEmpty()) {
         return;
     }
-    if (picture.save(file)) {
+    try {
+        ::savePicture(picture, file);
         LastFolder::remember(file);
-    } else {
-        showError(
-            this, tr("Cannot save the picture"),
-            {file, 0, QCoreApplication::translate("FileErrors", "the picture cannot be written")});
+    } catch (const FileError& error) {
+        showError(this, tr("Cannot save the picture"), error);
     }
 }
 

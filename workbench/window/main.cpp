@@ -138,9 +138,8 @@ void writeOutputs(const Options& options, WorkbenchWindow* window)
             complain(options.exportFile + QStringLiteral(": ") + leftOut);
         }
     }
-    if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
-        throw FileError{options.screenshotFile, 0,
-                        QCoreApplication::translate("FileErrors", "the picture cannot be written")};
+    if (!options.screenshotFile.isEmpty()) {
+        savePicture(pictureOf(window), options.screenshotFile);
     }
 }
 
