@@ -45,16 +45,13 @@ bool isJob(const QString& file)
 
 }  // namespace
 
-QString WorkbenchWindow::folder() const
-{
-    const QString shown = canvas()->files().file();
-    return shown.isEmpty() ? QString() : QFileInfo(shown).absolutePath();
-}
-
 void WorkbenchWindow::chooseAndOpenJob()
 {
-    const FileQuestion question{
-        FileQuestion::For::Opening, tr("Open Job"), {tr("Jobs (*.json)")}, {}, folder()};
+    const FileQuestion question{FileQuestion::For::Opening,
+                                tr("Open Job"),
+                                {tr("Jobs (*.json)")},
+                                {},
+                                canvas()->files().file()};
     const QString file = question.ask(this);
     if (!file.isEmpty()) {
         openJob(file);
@@ -129,7 +126,7 @@ void WorkbenchWindow::savePicture()
                                 tr("Save Picture"),
                                 {tr("Pictures (*.png)")},
                                 QStringLiteral("workbench.png"),
-                                folder()};
+                                canvas()->files().file()};
     const QString file = question.ask(this);
     if (file.isEmpty()) {
         return;
@@ -168,7 +165,7 @@ void WorkbenchWindow::startOrStopRecording()
                                 tr("Record Session"),
                                 {tr("Sessions (*.session)")},
                                 QStringLiteral("recorded.session"),
-                                folder()};
+                                canvas()->files().file()};
     const QString file = question.ask(this);
     if (file.isEmpty()) {
         return;
