@@ -68,7 +68,7 @@ void WorkbenchWindow::createMenus()
 
     createSendEntries();
     connect(addEntry(m_helpMenu, "m_pDocumentationAct", QT_TR_NOOP("&Documentation")),
-            &QAction::triggered, this, [this] { showDocumentation(); });
+            &QAction::triggered, this, &WorkbenchWindow::showDocumentation);
     connect(addEntry(m_helpMenu, "m_pAboutAct", QT_TR_NOOP("&About...")), &QAction::triggered, this,
             &WorkbenchWindow::showAbout);
 }
@@ -130,13 +130,13 @@ void WorkbenchWindow::showTitle()
 
 void WorkbenchWindow::showDocumentation()
 {
-    if (!m_pDocumentation) {
-        m_pDocumentation = new Documentation(this);
-        CanvasHost::closeByEscape(m_pDocumentation);
+    if (!m_documentation) {
+        m_documentation = new Documentation(this);
+        CanvasHost::closeByEscape(m_documentation);
     }
-    m_pDocumentation->show();
-    m_pDocumentation->raise();
-    m_pDocumentation->activateWindow();
+    m_documentation->show();
+    m_documentation->raise();
+    m_documentation->activateWindow();
 }
 
 void WorkbenchWindow::showAbout()
