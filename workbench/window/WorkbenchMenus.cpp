@@ -4,6 +4,7 @@
 #include "messages/MessageMonitor.h"
 #include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
+#include "shared/BringToFront.h"
 #include "shared/CanvasControl.h"
 #include "shared/Named.h"
 #include "window/Documentation.h"
@@ -134,9 +135,7 @@ void WorkbenchWindow::showDocumentation()
         m_documentation = new Documentation(this);
         CanvasHost::closeByEscape(m_documentation);
     }
-    m_documentation->show();
-    m_documentation->raise();
-    m_documentation->activateWindow();
+    bringToFront(m_documentation);
 }
 
 void WorkbenchWindow::showAbout()
