@@ -50,8 +50,16 @@ protected:
         QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(&board, &enter);
         QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        const QString title = m_window->windowTitle();
+        QDropEvent drop(QPoint(50, 50), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                        Qt::ShiftModifier);
+        drop.setDropAction(Qt::MoveAction);
         QApplication::sendEvent(&board, &drop);
+        QVERIFY(drop.isAccepted());
+        QCOMPARE(drop.dropAction(), Qt::CopyAction);  // the file stays where it is
+        // Where it comes from waits for nothing.
+        QCOMPARE(m_window->windowTitle(), title);
+        QCoreApplication::sendPostedEvents(m_window.get(), QEvent::MetaCall);
     }
     /// Answers the file dialog that comes next.
     static void chooseFile(const QString& file)

@@ -341,6 +341,30 @@ private Q_SLOTS:
         QCOMPARE(heard.texts().size(), 4);
     }
 
+    void aMinimizedWindowComesBack()
+    {
+        const auto open = [this](const char* opener) {
+            if (auto* const action = m_window->findChild<QAction*>(opener)) {
+                action->trigger();
+            } else {
+                findNamed<QAbstractButton>(*m_window, opener).click();
+            }
+        };
+        for (const auto& [opener, name] :
+             {std::pair<const char*, const char*>{"m_pDocumentationAct", "m_pDocumentation"},
+              {"m_pDimensionsAct", "m_pDimensions"},
+              {"m_pMonitorComposePB", "m_pComposeDialog"},
+              {"m_pOpenPopViewTB", "m_pSecondView"}}) {
+            open(opener);
+            auto& window = findNamed<QWidget>(*m_window, name);
+            window.showMinimized();
+            QVERIFY(window.isMinimized());
+            open("m_pMarkTB");
+            open(opener);
+            QVERIFY2(window.isVisible() && !window.isMinimized(), name);
+        }
+    }
+
     void documentationIsForWhoSitsThere()
     {
         action("m_pDocumentationAct").trigger();

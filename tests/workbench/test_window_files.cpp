@@ -172,6 +172,9 @@ private Q_SLOTS:
         QCOMPARE(list()[0]->text(), QDir::toNativeSeparators(file));
         list()[0]->trigger();
         QVERIFY(m_window->windowTitle().startsWith("dropped.json"));
+        QVERIFY(QFile::copy(file, m_directory.filePath("a&b.json")));
+        m_window->canvas()->files().open(m_directory.filePath("a&b.json"));
+        QCOMPARE(QFileInfo(list()[0]->text()).fileName(), QString("a&&b.json"));
     }
 };
 

@@ -25,8 +25,7 @@ void paintBoard(QPainter& painter, const Board& board, const QRectF& area, const
 QImage toImage(const Board& board, int pixels, const PictureColours& colours = {},
                const Progress& progress = {});
 
-/// All or nothing, as writeBoardFile(). An empty board is an error. An SVG is as large as the
-/// board and has no margin.
+/// All or nothing, as writeBoardFile(). An SVG is as large as the board and has no margin.
 void writePng(const Board& board, const QString& file, int pixels, const Progress& progress = {});
 void writeSvg(const Board& board, const QString& file, const Progress& progress = {});
 

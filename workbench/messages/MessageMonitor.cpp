@@ -20,25 +20,6 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-namespace {
-
-void prepareTable(QTableView* table)
-{
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setAlternatingRowColors(true);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-}
-
-}  // namespace
-
 MessageMonitor::MessageMonitor(MessageLog* log, QWidget* parent)
     : Retranslated(parent),
       m_log(log),
@@ -74,7 +55,8 @@ QWidget* MessageMonitor::createTable()
     m_pMonitorSavePB = named(new QPushButton(side), "m_pMonitorSavePB");
     m_pMonitorTV = named(new QTableView(side), "m_pMonitorTV");
     m_pMonitorTV->setModel(m_filtered);
-    prepareTable(m_pMonitorTV);
+    dressRows(m_pMonitorTV);
+    m_pMonitorTV->setSelectionMode(QAbstractItemView::SingleSelection);
     const int character = fontMetrics().averageCharWidth();
     const int widths[MessageModel::ColumnCount] = {15, 23, 23, 12, 24, 44, 14, 11};
     for (int column = 0; column < MessageModel::ColumnCount; ++column) {

@@ -1,6 +1,11 @@
 #include "messages/WindowPicture.h"
 
+#include <Files.h>
+
 #include <QApplication>
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QPainter>
 #include <QWidget>
 
@@ -60,4 +65,15 @@ QPixmap pictureOf(QWidget* window)
         painter.drawPixmap(place.topLeft(), other->grab());
     }
     return picture;
+}
+
+void savePicture(const QPixmap& picture, const QString& file)
+{
+    QBuffer content;
+    content.open(QIODevice::WriteOnly);
+    if (!picture.save(&content, QFileInfo(file).suffix().toLatin1().constData())) {
+        throw CanvasHost::FileError{
+            file, 0, QCoreApplication::translate("FileErrors", "the picture cannot be written")};
+    }
+    CanvasHost::writeWhole(file, content.data());
 }

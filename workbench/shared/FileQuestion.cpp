@@ -23,8 +23,9 @@ QString suffixOf(const QString& kind)
 
 QString FileQuestion::ask(QWidget* parent) const
 {
+    const QString folder = QFileInfo(beside).absolutePath();
     QFileDialog dialog(parent, title,
-                       !folder.isEmpty() && QDir(folder).exists() ? folder : LastFolder::path());
+                       !beside.isEmpty() && QDir(folder).exists() ? folder : LastFolder::path());
     dialog.setObjectName(QStringLiteral("m_pFileDialog"));
     dialog.setNameFilters(kinds);
     if (purpose == For::Opening) {

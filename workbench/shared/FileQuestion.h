@@ -11,10 +11,9 @@ struct FileQuestion {
 
     For purpose;
     QString title;
-    QStringList kinds;  ///< "Board (*.json)"; the first one is chosen
-    QString offered;    ///< the suggested name
-    QString folder =
-        {};  ///< where it begins; empty: the folder of the last file, or the user's own
+    QStringList kinds;    ///< "Board (*.json)"; the first one is chosen
+    QString offered;      ///< the suggested name
+    QString beside = {};  ///< the file in whose folder it begins; empty: that of the last file
 
     /// The file that the user chooses; the suffix of the chosen kind is added to a name without
     /// one. Empty: the user cancelled.

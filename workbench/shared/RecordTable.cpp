@@ -4,19 +4,24 @@
 
 #include <QHeaderView>
 
+void dressRows(QTableView* table)
+{
+    table->setTabKeyNavigation(false);  // the arrows walk the rows
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
 RecordTable::RecordTable(const char* name, QWidget* parent) : QTableWidget(0, 3, parent)
 {
     setObjectName(QLatin1String(name));
-    setTabKeyNavigation(false);  // the arrows walk the rows
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setSelectionBehavior(QAbstractItemView::SelectRows);
-    setAlternatingRowColors(true);
-    setShowGrid(false);
-    setWordWrap(false);
-    verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    dressRows(this);
     horizontalHeader()->setMinimumSectionSize(8 * fontMetrics().averageCharWidth());
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     horizontalHeader()->setSectionResizeMode(2, QHeaderView::ResizeToContents);

@@ -6,6 +6,9 @@
 #include <QVariant>
 #include <QVector>
 
+/// Rows that are read and chosen, and look alike in all tables.
+void dressRows(QTableView* table);
+
 /// Shows named values as a table of key, value and type. Changes are marked.
 class RecordTable : public QTableWidget {
     Q_OBJECT

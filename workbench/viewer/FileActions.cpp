@@ -23,24 +23,23 @@
 FileActions::FileActions(CanvasController& canvas, QWidget* pane)
     : QObject(pane), m_canvas(canvas), m_pane(pane)
 {
-    m_new = add("m_pNewBoardAct", QKeySequence::New, &FileActions::startNew);
-    m_open = add("m_pOpenBoardAct", QKeySequence::Open, &FileActions::chooseAndOpen);
-    m_save = add("m_pSaveBoardAct", QKeySequence::Save, &FileActions::saveShown);
-    m_saveAs = add("m_pSaveBoardAsAct", QKeySequence(QStringLiteral("Ctrl+Shift+S")),
-                   &FileActions::saveShownAs);
-    m_export = add("m_pExportBoardAct", QKeySequence(QStringLiteral("Ctrl+E")),
-                   &FileActions::chooseAndExport);
+    m_new = add("m_pNewBoardAct", QKeySequence::New, [this] { startNew(); });
+    m_open = add("m_pOpenBoardAct", QKeySequence::Open, [this] { chooseAndOpen(); });
+    m_save = add("m_pSaveBoardAct", QKeySequence::Save, [this] { save(shown()); });
+    m_saveAs =
+        add("m_pSaveBoardAsAct", QStringLiteral("Ctrl+Shift+S"), [this] { saveAs(shown()); });
+    m_export = add("m_pExportBoardAct", QStringLiteral("Ctrl+E"), [this] { chooseAndExport(); });
     watch();
     connect(&canvas, &CanvasController::documentOpened, this, &FileActions::watch);
     retranslate();
 }
 
 QAction* FileActions::add(const char* name, const QKeySequence& shortcut,
-                          void (FileActions::*slot)())
+                          const std::function<void()>& work)
 {
     auto* const action = named(new QAction(this), name);
     action->setShortcut(shortcut);
-    connect(action, &QAction::triggered, this, slot);
+    connect(action, &QAction::triggered, this, work);
     return action;
 }
 
@@ -108,7 +107,7 @@ void FileActions::openAtOnce(const QString& file)
 {
     const Pcb::Board board = Pcb::readBoardFile(file);
     show(board, file);
-    sayOpened(file, UnknownTexts::drawn(Pcb::unknownsOf(board)));
+    sayOpened(file, UnknownTexts::drawn(board));
 }
 
 void FileActions::show(const Pcb::Board& board, const QString& file)
@@ -128,7 +127,7 @@ QString FileActions::exportTo(const QString& file)
 {
     const Pcb::Board board = m_canvas.document().board();
     Pcb::exportBoard(board, file);
-    return UnknownTexts::leftOut(Pcb::unknownsOf(board));
+    return UnknownTexts::leftOut(board);
 }
 
 bool FileActions::open(const QString& file)
@@ -144,7 +143,7 @@ bool FileActions::tryToOpen(const QString& file)
                 [&](const Pcb::Progress& progress) { board = Pcb::readBoardFile(file, progress); });
     if (isRead) {
         show(board, file);
-        const QString unknown = UnknownTexts::drawn(Pcb::unknownsOf(board));
+        const QString unknown = UnknownTexts::drawn(board);
         tell(unknown);
         sayOpened(file, unknown);
     }
@@ -173,19 +172,12 @@ void FileActions::chooseAndOpen()
     }
 }
 
-void FileActions::saveShown()
-{
-    save(shown());
-}
-
-void FileActions::saveShownAs()
-{
-    saveAs(shown());
-}
-
 void FileActions::chooseAndExport()
 {
-    const QString name = QFileInfo(offeredName(shown())).completeBaseName();
+    QString name = QFileInfo(offeredName(shown())).completeBaseName();
+    if (name.contains(QLatin1Char('.'))) {
+        name += QStringLiteral(".gbr");  // the dialog completes names without a dot only
+    }
     const QString chosen = FileNames::ask(FileNames::Purpose::Export, file(), name, m_pane);
     if (chosen.isEmpty()) {
         return;
@@ -195,7 +187,7 @@ void FileActions::chooseAndExport()
                 tr("Exporting %1...").arg(QFileInfo(chosen).fileName()),
                 [&](const Pcb::Progress& progress) { exportBoard(board, chosen, progress); })) {
         LastFolder::remember(chosen);
-        tell(UnknownTexts::leftOut(Pcb::unknownsOf(board)));
+        tell(UnknownTexts::leftOut(board));
         m_canvas.say(tr("Wrote %1.").arg(chosen));
     }
 }
@@ -355,13 +347,6 @@ QString FileActions::showStepOf(const KeptStep& kept)
     return isShown() ? QString() : tr("the job file %1 has no such step").arg(name);
 }
 
-bool FileActions::readKept(const KeptStep& kept, Pcb::Board* board)
-{
-    return attempt(
-        tr("Cannot recover the changes"), tr("Recovering changes..."),
-        [&](const Pcb::Progress& progress) { *board = RecoveryFolder::read(kept.path, progress); });
-}
-
 /// Takes it over into the step that is shown; returns why not.
 QString FileActions::recoverHere(const KeptStep& kept)
 {
@@ -369,7 +354,10 @@ QString FileActions::recoverHere(const KeptStep& kept)
         return tr("%1 has been changed").arg(OpenStep::nameOf(m_canvas.job(), m_canvas.step()));
     }
     Pcb::Board board;
-    if (!readKept(kept, &board)) {
+    if (!attempt(tr("Cannot recover the changes"), tr("Recovering changes..."),
+                 [&](const Pcb::Progress& progress) {
+                     board = RecoveryFolder::read(kept.path, progress);
+                 })) {
         return tr("it has not been read");
     }
     OpenStep& step = shown();
@@ -377,6 +365,6 @@ QString FileActions::recoverHere(const KeptStep& kept)
     setFile(step, kept.boardFile);
     m_recovery->takeOver(kept, static_cast<size_t>(&step - m_steps.data()));
     Q_EMIT opened();
-    tell(UnknownTexts::drawn(Pcb::unknownsOf(board)));
+    tell(UnknownTexts::drawn(board));
     return {};
 }

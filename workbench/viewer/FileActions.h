@@ -60,15 +60,13 @@ Q_SIGNALS:
     void changesNotKept(const QString& reason);
 
 private:
-    QAction* add(const char* name, const QKeySequence& shortcut, void (FileActions::*slot)());
+    QAction* add(const char* name, const QKeySequence& shortcut, const std::function<void()>& work);
     void watch();
     void startNew();
     bool tryToOpen(const QString& file);
     void show(const Pcb::Board& board, const QString& file);
     void sayOpened(const QString& file, const QString& unknown);
     void chooseAndOpen();
-    void saveShown();
-    void saveShownAs();
     void chooseAndExport();
 
     OpenStep& shown();
@@ -80,7 +78,6 @@ private:
     bool write(OpenStep& step, const QString& file);
     void setFile(OpenStep& step, const QString& file);
     QString showStepOf(const KeptStep& kept);
-    bool readKept(const KeptStep& kept, Pcb::Board* board);
     QString recoverHere(const KeptStep& kept);
     static QString offeredName(const OpenStep& step);
     /// In a box; nothing where there are no words, or no user.

@@ -15,38 +15,27 @@ struct FileWords {
     Q_DECLARE_TR_FUNCTIONS(FileNames)
 };
 
-QString titleOf(FileNames::Purpose purpose)
-{
-    switch (purpose) {
-        case FileNames::Purpose::Open:
-            return FileWords::tr("Open Board");
-        case FileNames::Purpose::Save:
-            return FileWords::tr("Save Board");
-        case FileNames::Purpose::Export:
-            break;
-    }
-    return FileWords::tr("Export Board");
-}
-
-QStringList kindsOf(FileNames::Purpose purpose)
-{
-    if (purpose == FileNames::Purpose::Export) {
-        return {FileWords::tr("Gerber (*.gbr)"), FileWords::tr("Picture (*.png)"),
-                FileWords::tr("Drawing (*.svg)")};
-    }
-    return {FileWords::tr("Board (*.json)")};
-}
-
 }  // namespace
 
 QString FileNames::ask(Purpose purpose, const QString& shown, const QString& offered,
                        QWidget* parent)
 {
-    const FileQuestion question{
-        purpose == Purpose::Open ? FileQuestion::For::Opening : FileQuestion::For::Saving,
-        titleOf(purpose), kindsOf(purpose), offered,
-        shown.isEmpty() ? QString() : QFileInfo(shown).absolutePath()};
-    return question.ask(parent);
+    using For = FileQuestion::For;
+    const QStringList board{FileWords::tr("Board (*.json)")};
+    const QStringList drawn{FileWords::tr("Gerber (*.gbr)"), FileWords::tr("Picture (*.png)"),
+                            FileWords::tr("Drawing (*.svg)")};
+    switch (purpose) {
+        case Purpose::Open:
+            return FileQuestion{For::Opening, FileWords::tr("Open Board"), board, offered, shown}
+                .ask(parent);
+        case Purpose::Save:
+            return FileQuestion{For::Saving, FileWords::tr("Save Board"), board, offered, shown}
+                .ask(parent);
+        case Purpose::Export:
+            break;
+    }
+    return FileQuestion{For::Saving, FileWords::tr("Export Board"), drawn, offered, shown}.ask(
+        parent);
 }
 
 void FileNames::remember(const QString& file)

@@ -64,11 +64,19 @@ private:
     std::exception_ptr m_error;
 };
 
+/// Stays open until the work has ended, also when it is cancelled or closed: what is behind it has
+/// to wait.
+class ProgressDialog : public QProgressDialog {
+public:
+    using QProgressDialog::QProgressDialog;
+    void reject() override {}
+};
+
 /// Returns when the thread has finished.
 void showProgress(WorkThread& thread, QEventLoop& untilFinished, QWidget* parent,
                   const QString& text)
 {
-    QProgressDialog dialog(parent);
+    ProgressDialog dialog(parent);
     dialog.setObjectName(QStringLiteral("m_pProgressDialog"));
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.setWindowTitle(QCoreApplication::translate("LongWork", "Please Wait"));
@@ -79,8 +87,8 @@ void showProgress(WorkThread& thread, QEventLoop& untilFinished, QWidget* parent
     // The dialog's own button: with another one, Escape would be the shortcut of both.
     dialog.setCancelButtonText(QCoreApplication::translate("LongWork", "Cancel"));
     named(dialog.findChild<QPushButton*>(), "m_pProgressCancelPB");
-    // The dialog would hide when it is cancelled; but the program has to wait a little longer.
-    QObject::disconnect(&dialog, &QProgressDialog::canceled, &dialog, &QProgressDialog::cancel);
+    // Qt connects them by their names, and ends that connection by their names only.
+    QObject::disconnect(&dialog, SIGNAL(canceled()), &dialog, SLOT(cancel()));
     QObject::connect(&dialog, &QProgressDialog::canceled, [&] {
         thread.cancel();
         dialog.setLabelText(QCoreApplication::translate("LongWork", "Cancelling..."));

@@ -17,6 +17,7 @@ RecoveryOffer::RecoveryOffer(Folders folders, Places places, QWidget* pane)
                         tr("The workbench ended without saving these changes:\n%1").arg(list()),
                         QMessageBox::NoButton, pane->window());
     box->setObjectName(QStringLiteral("m_pRecoveryBox"));
+    box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     auto* const recoverButton =
         named(box->addButton(tr("&Recover"), QMessageBox::AcceptRole), "m_pRecoverPB");

@@ -1,5 +1,7 @@
 #include "viewer/UnknownTexts.h"
 
+#include "board/Unknowns.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -28,15 +30,17 @@ QString sentencesOn(const Pcb::Unknowns& unknowns, const QString& first)
 
 }  // namespace
 
-QString UnknownTexts::drawn(const Pcb::Unknowns& unknowns)
+QString UnknownTexts::drawn(const Pcb::Board& board)
 {
+    const Pcb::Unknowns unknowns = Pcb::unknownsOf(board);
     return sentencesOn(unknowns,
                        UnknownWords::tr("%n feature(s) of unknown shape drawn as outlines.", "",
                                         unknowns.features));
 }
 
-QString UnknownTexts::leftOut(const Pcb::Unknowns& unknowns)
+QString UnknownTexts::leftOut(const Pcb::Board& board)
 {
+    const Pcb::Unknowns unknowns = Pcb::unknownsOf(board);
     return sentencesOn(unknowns,
                        UnknownWords::tr("%n feature(s) of unknown shape left out of the file.", "",
                                         unknowns.features));

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "board/Unknowns.h"
+#include "board/Board.h"
 
 #include <QString>
 
 /// What the user is told of features whose shape is not known; empty where there are none.
 namespace UnknownTexts {
 
-QString drawn(const Pcb::Unknowns& unknowns);
-QString leftOut(const Pcb::Unknowns& unknowns);
+QString drawn(const Pcb::Board& board);
+QString leftOut(const Pcb::Board& board);
 
 }  // namespace UnknownTexts

@@ -20,6 +20,7 @@ int answerTo(const QString& question, QMessageBox::StandardButtons buttons, QWid
     QMessageBox box(QMessageBox::Warning, text(QT_TRANSLATE_NOOP("UnsavedBox", "Unsaved Changes")),
                     question, buttons, parent);
     box.setObjectName(QStringLiteral("m_pUnsavedBox"));
+    box.setTextFormat(Qt::PlainText);
     if (QAbstractButton* const saveAll = box.button(QMessageBox::SaveAll)) {
         saveAll->setText(text(QT_TRANSLATE_NOOP("UnsavedBox", "&Save All")));
         box.button(QMessageBox::Discard)

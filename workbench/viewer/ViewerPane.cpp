@@ -1,6 +1,7 @@
 #include "viewer/ViewerPane.h"
 
 #include "plugin/ModuleNames.h"
+#include "shared/BringToFront.h"
 #include "shared/Named.h"
 #include "viewer/ActionWatch.h"
 #include "viewer/BarPair.h"
@@ -182,9 +183,7 @@ void ViewerPane::openSecondView()
         createSecondView();
         retranslate();
     }
-    m_secondView->show();
-    m_secondView->raise();
-    m_secondView->activateWindow();
+    bringToFront(m_secondView);
 }
 
 void ViewerPane::createSecondView()

@@ -1,6 +1,7 @@
 #include "window/WindowLayout.h"
 
 #include "shared/Settings.h"
+#include "window/FreePlace.h"
 
 #include <QDir>
 #include <QDockWidget>
@@ -26,11 +27,7 @@ constexpr QSize frame(12, 40);
 QRect inside(const QRect& screen, const QPoint& position, const QSize& wanted)
 {
     const QSize size = wanted.boundedTo(screen.size() - frame);
-    const QPoint last = screen.bottomRight() - QPoint(size.width() + frame.width() - 1,
-                                                      size.height() + frame.height() - 1);
-    return {QPoint(qMax(screen.left(), qMin(position.x(), last.x())),
-                   qMax(screen.top(), qMin(position.y(), last.y()))),
-            size};
+    return {FreePlace(screen, {}).nearest(size + frame, position), size};
 }
 
 }  // namespace

@@ -15,7 +15,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -46,16 +45,13 @@ bool isJob(const QString& file)
 
 }  // namespace
 
-QString WorkbenchWindow::folder() const
-{
-    const QString shown = canvas()->files().file();
-    return shown.isEmpty() ? QString() : QFileInfo(shown).absolutePath();
-}
-
 void WorkbenchWindow::chooseAndOpenJob()
 {
-    const FileQuestion question{
-        FileQuestion::For::Opening, tr("Open Job"), {tr("Jobs (*.json)")}, {}, folder()};
+    const FileQuestion question{FileQuestion::For::Opening,
+                                tr("Open Job"),
+                                {tr("Jobs (*.json)")},
+                                {},
+                                canvas()->files().file()};
     const QString file = question.ask(this);
     if (!file.isEmpty()) {
         openJob(file);
@@ -115,7 +111,8 @@ void WorkbenchWindow::listRecentFiles()
     m_recentMenu->clear();
     const QStringList files = canvas()->files().recent();
     for (const QString& file : files) {
-        QAction* const action = m_recentMenu->addAction(QDir::toNativeSeparators(file));
+        QAction* const action = m_recentMenu->addAction(
+            QDir::toNativeSeparators(file).replace(QLatin1Char('&'), QStringLiteral("&&")));
         connect(action, &QAction::triggered, this, [this, file] { canvas()->files().open(file); });
     }
     m_recentMenu->setEnabled(!files.isEmpty());
@@ -129,17 +126,16 @@ void WorkbenchWindow::savePicture()
                                 tr("Save Picture"),
                                 {tr("Pictures (*.png)")},
                                 QStringLiteral("workbench.png"),
-                                folder()};
+                                canvas()->files().file()};
     const QString file = question.ask(this);
     if (file.isEmpty()) {
         return;
     }
-    if (picture.save(file)) {
+    try {
+        ::savePicture(picture, file);
         LastFolder::remember(file);
-    } else {
-        showError(
-            this, tr("Cannot save the picture"),
-            {file, 0, QCoreApplication::translate("FileErrors", "the picture cannot be written")});
+    } catch (const FileError& error) {
+        showError(this, tr("Cannot save the picture"), error);
     }
 }
 
@@ -169,7 +165,7 @@ void WorkbenchWindow::startOrStopRecording()
                                 tr("Record Session"),
                                 {tr("Sessions (*.session)")},
                                 QStringLiteral("recorded.session"),
-                                folder()};
+                                canvas()->files().file()};
     const QString file = question.ask(this);
     if (file.isEmpty()) {
         return;
@@ -196,6 +192,11 @@ void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void WorkbenchWindow::dropEvent(QDropEvent* event)
 {
-    event->acceptProposedAction();
-    openFile(droppedFile(event->mimeData()));
+    // A program that was told of a move may remove the file.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The program that it comes from waits for the drop to end, but not for the user's answers.
+    QMetaObject::invokeMethod(
+        this, [this, file = droppedFile(event->mimeData())] { openFile(file); },
+        Qt::QueuedConnection);
 }

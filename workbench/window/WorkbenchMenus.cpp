@@ -4,6 +4,7 @@
 #include "messages/MessageMonitor.h"
 #include "messages/MessageNames.h"
 #include "plugin/ModuleNames.h"
+#include "shared/BringToFront.h"
 #include "shared/CanvasControl.h"
 #include "shared/Named.h"
 #include "window/Documentation.h"
@@ -68,7 +69,7 @@ void WorkbenchWindow::createMenus()
 
     createSendEntries();
     connect(addEntry(m_helpMenu, "m_pDocumentationAct", QT_TR_NOOP("&Documentation")),
-            &QAction::triggered, this, [this] { showDocumentation(); });
+            &QAction::triggered, this, &WorkbenchWindow::showDocumentation);
     connect(addEntry(m_helpMenu, "m_pAboutAct", QT_TR_NOOP("&About...")), &QAction::triggered, this,
             &WorkbenchWindow::showAbout);
 }
@@ -130,13 +131,11 @@ void WorkbenchWindow::showTitle()
 
 void WorkbenchWindow::showDocumentation()
 {
-    if (!m_pDocumentation) {
-        m_pDocumentation = new Documentation(this);
-        CanvasHost::closeByEscape(m_pDocumentation);
+    if (!m_documentation) {
+        m_documentation = new Documentation(this);
+        CanvasHost::closeByEscape(m_documentation);
     }
-    m_pDocumentation->show();
-    m_pDocumentation->raise();
-    m_pDocumentation->activateWindow();
+    bringToFront(m_documentation);
 }
 
 void WorkbenchWindow::showAbout()

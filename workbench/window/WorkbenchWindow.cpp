@@ -8,6 +8,7 @@
 #include "plugin/ModuleNames.h"
 #include "plugin/PayloadKeys.h"
 #include "session/SessionRecorder.h"
+#include "shared/BringToFront.h"
 #include "shared/CanvasControl.h"
 #include "shared/ErrorBox.h"
 #include "shared/Settings.h"
@@ -176,9 +177,7 @@ void WorkbenchWindow::openDimensions()
                 QStringLiteral("Canvas_Dimensions.dll"), m_options.moduleDirectory, this)));
             CanvasHost::closeByEscape(m_dimensions);
         }
-        m_dimensions->show();
-        m_dimensions->raise();
-        m_dimensions->activateWindow();
+        bringToFront(m_dimensions);
     } catch (const CanvasHost::FileError& error) {
         showError(this, tr("Cannot load the Dimensions Popup"), error);
     }
@@ -189,9 +188,7 @@ void WorkbenchWindow::compose()
     if (!m_compose) {
         m_compose = new ComposeDialog(m_host, this);
     }
-    m_compose->show();
-    m_compose->raise();
-    m_compose->activateWindow();
+    bringToFront(m_compose);
 }
 
 void WorkbenchWindow::closeEvent(QCloseEvent* event)

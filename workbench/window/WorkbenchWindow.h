@@ -86,8 +86,6 @@ private:
     void openFirstJob();
     void listJobs();
     void openFile(const QString& file);
-    /// Where file dialogs begin; empty: as FileQuestion says.
-    QString folder() const;
 
     void showStep(const QString& job, const QString& step);
     void changeLanguage(int index);
@@ -133,8 +131,8 @@ private:
     QMenu* m_helpMenu;
     QList<Entry> m_entries;
     QList<QAction*> m_sendActions;
-    ComposeDialog* m_compose = nullptr;         // made when it is first asked for
-    Documentation* m_pDocumentation = nullptr;  // likewise
+    ComposeDialog* m_compose = nullptr;        // made when it is first asked for
+    Documentation* m_documentation = nullptr;  // likewise
     QPointer<QWidget> m_dimensions;  // a window of its own, made when it is first asked for
     std::unique_ptr<WindowLayout> m_layout;
     WindowPlacer* m_placer = nullptr;  // made when the canvas is there

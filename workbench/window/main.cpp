@@ -138,12 +138,19 @@ void writeOutputs(const Options& options, WorkbenchWindow* window)
             complain(options.exportFile + QStringLiteral(": ") + leftOut);
         }
     }
-    if (!options.screenshotFile.isEmpty() && !pictureOf(window).save(options.screenshotFile)) {
-        throw FileError{options.screenshotFile, 0,
-                        QCoreApplication::translate("FileErrors", "the picture cannot be written")};
+    if (!options.screenshotFile.isEmpty()) {
+        savePicture(pictureOf(window), options.screenshotFile);
     }
 }
 
+void keepForRecovery(const Options& options, const WorkbenchWindow& window)
+{
+    if (isByHand(options) || options.recovery) {
+        window.canvas()->files().keepForRecovery();
+    }
+}
+
+/// Everything has been played.
 void end(const Options& options, WorkbenchWindow* window)
 {
     try {
@@ -155,12 +162,11 @@ void end(const Options& options, WorkbenchWindow* window)
         complain(error.text());
         QCoreApplication::exit(BadInput);
     }
-}
-
-void keepForRecovery(const Options& options, const WorkbenchWindow& window)
-{
-    if (isByHand(options) || options.recovery) {
-        window.canvas()->files().keepForRecovery();
+    if (!options.boardFile.isEmpty() && isByHand(options)) {
+        window->canvas()->files().open(options.boardFile);
+    }
+    if (options.sessionFile.isEmpty()) {
+        keepForRecovery(options, *window);
     }
 }
 
@@ -187,25 +193,25 @@ int run(int argc, char* argv[])
 {
     Inputs inputs;
     readInputs(argc, argv, &inputs);
-    if (!inputs.options.log) {
+    Options& options = inputs.options;
+    if (!options.log) {
         QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     }
     const auto application = openApplication(argc, argv, BadInput);
     requirePictures("jpeg");
     std::optional<QTemporaryDir> ownSettings;
-    prepare(&inputs.options, &ownSettings);
+    prepare(&options, &ownSettings);
     MessageLog log;
     QObject::connect(&log, &MessageLog::appended, application.get(),
                      [&](const MessageRecord& message) { inputs.trace.append(message); });
-    WorkbenchWindow window(inputs.options, &log);
+    WorkbenchWindow window(options, &log);
     window.start();
     requirePictures("svg");  // after the canvas, which would name Qt's library that both need
-    const bool hasBoard = !inputs.options.boardFile.isEmpty();
-    if (hasBoard && !isByHand(inputs.options)) {
-        window.canvas()->files().openAtOnce(inputs.options.boardFile);
+    if (!options.boardFile.isEmpty() && !isByHand(options)) {
+        window.canvas()->files().openAtOnce(options.boardFile);
     }
-    if (!inputs.options.recordFile.isEmpty()) {
-        window.record(inputs.options.recordFile);
+    if (!options.recordFile.isEmpty()) {
+        window.record(options.recordFile);
     }
     SessionPlayer player(inputs.session, window.host(), &window, &log);
     QObject::connect(&player, &SessionPlayer::noted, application.get(), complain);
@@ -213,24 +219,15 @@ int run(int argc, char* argv[])
         complain(text);
         QCoreApplication::exit(StepFailed);
     });
-    const bool isPlayed = !inputs.options.sessionFile.isEmpty();
-    QObject::connect(&player, &SessionPlayer::finished, &window, [&] {
-        end(inputs.options, &window);
-        if (hasBoard && isByHand(inputs.options)) {
-            window.canvas()->files().open(inputs.options.boardFile);
-        }
-        if (!isPlayed) {
-            keepForRecovery(inputs.options, window);
-        }
-    });
+    QObject::connect(&player, &SessionPlayer::finished, &window, [&] { end(options, &window); });
     QObject::connect(&window, &WorkbenchWindow::closed, application.get(), &QCoreApplication::quit);
     window.canvas()->files().setMayAsk(
-        [&] { return player.isOver() ? !inputs.options.exit : player.expectsBox(); });
+        [&] { return player.isOver() ? !options.exit : player.expectsBox(); });
     window.show();
     whenPainted(&window, [&] {
         // A session answers the offer itself; who sits there is asked when nothing is played.
-        if (isPlayed) {
-            keepForRecovery(inputs.options, window);
+        if (!options.sessionFile.isEmpty()) {
+            keepForRecovery(options, window);
         }
         player.start();
     });

@@ -268,6 +268,24 @@ private Q_SLOTS:
                              "Save the changes?"));
     }
 
+    void namesAreNoMarkupInTheQuestion()
+    {
+        const FileFixture fixture;
+        fixture.pane->canvas().openStep("<b>demo</b>", "pcb");
+        fixture.deleteAll();
+        QVector<Qt::TextFormat> formats;
+        QTimer looks;
+        connect(&looks, &QTimer::timeout, [&] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                formats.append(box->textFormat());
+                box->button(QMessageBox::Cancel)->click();
+            }
+        });
+        looks.start(10);
+        QVERIFY(!fixture.files().mayClose());
+        QCOMPARE(formats, QVector<Qt::TextFormat>{Qt::PlainText});
+    }
+
     void whatIsNotSavedKeepsTheWindowOpen()
     {
         const FileFixture fixture;
@@ -324,6 +342,15 @@ private Q_SLOTS:
             QCOMPARE(chosen.offered, QString("job-step"));
             QVERIFY2(QFileInfo::exists(fixture.path("drawn") + "." + suffix), qPrintable(suffix));
         }
+    }
+
+    void exportsOfANameWithADotTakeTheSuffixAsWell()
+    {
+        const FileFixture fixture;
+        QVERIFY(fixture.save("board.v2.json"));
+        Chosen chosen;
+        fixture.action("m_pExportBoardAct").trigger();
+        QCOMPARE(chosen.offered, QString("board.v2.gbr"));
     }
 
     void anErrorSaysWhatFailedAndWhy()

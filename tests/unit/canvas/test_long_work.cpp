@@ -13,6 +13,7 @@
 #include <QElapsedTimer>
 #include <QProgressBar>
 #include <QProgressDialog>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -29,7 +30,7 @@ void takeTime(const Pcb::Progress& progress, int milliseconds)
     }
 }
 
-enum class CancelBy { Nothing, Button, Escape };
+enum class CancelBy { Nothing, Button, Escape, Closing };
 
 /// What the progress dialog looks like while it is shown; may cancel it.
 class ProgressWatcher {
@@ -47,6 +48,8 @@ public:
                     findNamed<QAbstractButton>(*dialog, "m_pProgressCancelPB").click();
                 } else if (by == CancelBy::Escape) {
                     QTest::keyClick(dialog, Qt::Key_Escape);
+                } else if (by == CancelBy::Closing) {
+                    dialog->close();
                 }
             }
         });
@@ -108,6 +111,7 @@ private Q_SLOTS:
         QTest::addColumn<CancelBy>("by");
         QTest::newRow("button") << CancelBy::Button;
         QTest::newRow("Escape") << CancelBy::Escape;
+        QTest::newRow("closing the dialog") << CancelBy::Closing;
     }
 
     void itCanBeCancelled()
@@ -117,10 +121,14 @@ private Q_SLOTS:
         const ProgressWatcher watcher(by);
         QElapsedTimer since;
         since.start();
-        QVERIFY(!LongWork::run(&window, "work",
-                               [](const Pcb::Progress& progress) { takeTime(progress, 60000); }));
+        QVERIFY(!LongWork::run(&window, "work", [](const Pcb::Progress& progress) {
+            const auto endSlowly = qScopeGuard([] { QThread::msleep(200); });
+            takeTime(progress, 60000);
+        }));
         QVERIFY(since.elapsed() < 30000);
         QVERIFY(since.elapsed() >= 500);
+        // The dialog is there until the work has ended.
+        QCOMPARE(watcher.texts.last(), QString("Cancelling..."));
     }
 
     void whatGoesWrongIsThrown()

@@ -191,6 +191,7 @@ private Q_SLOTS:
         leave("0/4.kept", "demo", "panel", "/home/me/panel.json", onePad());
         const KeepingProgram program;
         QVERIFY(program.offer());
+        QCOMPARE(program.offer()->textFormat(), Qt::PlainText);  // names are no markup
         const QString text = program.offer()->text();
         QVERIFY2(text.contains("demo / panel (panel.json), of 20"), qPrintable(text));
         QVERIFY(program.features().size() == 2);

@@ -17,6 +17,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
 #include <QWidget>
@@ -168,6 +169,23 @@ private Q_SLOTS:
         below.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&below));
         QCOMPARE(qRed(pictureOf(&below).toImage().pixel(20, 20)), 160);
+    }
+
+    void aPictureOfNoFormatLeavesTheFileAlone()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("notes.txt");
+        QFile notes(file);
+        QVERIFY(notes.open(QIODevice::ReadWrite));
+        QVERIFY(notes.write("words") > 0 && notes.flush());
+        QPixmap picture(8, 8);
+        picture.fill(Qt::white);
+        QCOMPARE(errorOf([&] { savePicture(picture, file); }),
+                 file + ": the picture cannot be written");
+        QVERIFY(notes.seek(0));
+        QCOMPARE(notes.readAll(), QByteArray("words"));
+        QCOMPARE(errorOf([&] { savePicture(picture, folder.filePath("a.png")); }), QString());
+        QCOMPARE(QImage(folder.filePath("a.png")).size(), picture.size());
     }
 
     void options()
