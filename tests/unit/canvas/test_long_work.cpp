@@ -64,10 +64,7 @@ Pcb::Board boardOfPads(int count)
 {
     Pcb::Board board;
     board.outline = QVector<QPointF>{{0, 0}, {20000, 0}, {20000, 14000}, {0, 14000}};
-    for (int i = 0; i < count; ++i) {
-        board.features.push_back(Pcb::Feature(
-            Pcb::padGeometry("r20", {double(i % 400) * 1000, double(int(i / 400)) * 1000})));
-    }
+    board.features = manyPads(count);
     return board;
 }
 
