@@ -1,8 +1,10 @@
 #include "Desktop.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QPointer>
 #include <QProcess>
+#include <QScreen>
 #include <QTest>
 #include <QWidget>
 
@@ -119,6 +121,23 @@ void Desktop::clickAt(const QPoint& globalPlace, int button)
         const QWidget* const active = QApplication::activeWindow();
         return !window || active == window || (active && active != before);
     });
+}
+
+bool Desktop::isSeen(const QWidget& window)
+{
+    const QImage wanted = const_cast<QWidget&>(window).grab().toImage();
+    const QPoint corner = window.mapToGlobal(QPoint());
+    const QImage seen = window.screen()
+                            ->grabWindow(0, corner.x(), corner.y(), window.width(), window.height())
+                            .toImage()
+                            .convertToFormat(wanted.format());
+    int different = 0;
+    for (int y = 0; y < qMin(seen.height(), wanted.height()); ++y) {
+        for (int x = 0; x < qMin(seen.width(), wanted.width()); ++x) {
+            different += seen.pixel(x, y) != wanted.pixel(x, y);
+        }
+    }
+    return seen.size() == wanted.size() && different * 100 < seen.width() * seen.height();
 }
 
 void Desktop::type(const QString& text)

@@ -19,6 +19,9 @@ void move(QWidget& window, const QPoint& place);
 void click(const QWidget& widget, int button = 1, QPoint place = {-1, -1});
 void clickAt(const QPoint& globalPlace, int button = 1);
 
+/// Whether nothing on the screen covers the window. A cursor in it may blink.
+bool isSeen(const QWidget& window);
+
 /// Types into what has the focus. Keys are named as the display names them: "Return", "Tab".
 void type(const QString& text);
 void key(const QString& name);

@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QFont>
-#include <QImage>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
@@ -75,30 +74,16 @@ private:
         Desktop::waitForWindow(m_window.get());
     }
 
-    /// Of the host's window or of another; null when there is none.
-    static QWidget* find(const char* name)
-    {
-        for (QWidget* const widget : QApplication::allWidgets()) {
-            if (widget->objectName() == name && widget->isVisible()) {
-                return widget;
-            }
-        }
-        return nullptr;
-    }
-
     QWidget& open(const char* window, const char* control)
     {
         if (auto* const action = m_window->findChild<QAction*>(control)) {
             action->trigger();
         } else {
-            QTest::mouseClick(find(control), Qt::LeftButton);
+            QTest::mouseClick(&findShown(control), Qt::LeftButton);
         }
-        QWidget* const opened = find(window);
-        if (!opened) {
-            qFatal("%s does not open %s", control, window);
-        }
-        Desktop::waitForWindow(opened);
-        return *opened;
+        QWidget& opened = findShown(window);
+        Desktop::waitForWindow(&opened);
+        return opened;
     }
 
     QWidget& openAddFeature() { return open("AddFeature", "m_pAddFeatureTB"); }
@@ -122,7 +107,7 @@ private:
         QTRY_VERIFY(window.isActiveWindow());
         const QWidget* const focus = QApplication::focusWidget();
         QVERIFY2(focus ? focus->window() == &window : !hasStops(window), qPrintable(words(window)));
-        QTRY_VERIFY2(isSeen(window), qPrintable(words(window)));
+        QTRY_VERIFY2(Desktop::isSeen(window), qPrintable(words(window)));
     }
 
     static bool hasStops(const QWidget& window)
@@ -131,25 +116,6 @@ private:
         return std::any_of(children.begin(), children.end(), [](const QWidget* child) {
             return child->isVisible() && (child->focusPolicy() & Qt::TabFocus);
         });
-    }
-
-    /// A cursor may blink.
-    static bool isSeen(const QWidget& window)
-    {
-        const QImage wanted = const_cast<QWidget&>(window).grab().toImage();
-        const QPoint corner = window.mapToGlobal(QPoint());
-        const QImage seen =
-            window.screen()
-                ->grabWindow(0, corner.x(), corner.y(), window.width(), window.height())
-                .toImage()
-                .convertToFormat(wanted.format());
-        int different = 0;
-        for (int y = 0; y < qMin(seen.height(), wanted.height()); ++y) {
-            for (int x = 0; x < qMin(seen.width(), wanted.width()); ++x) {
-                different += seen.pixel(x, y) != wanted.pixel(x, y);
-            }
-        }
-        return seen.size() == wanted.size() && different * 100 < seen.width() * seen.height();
     }
 
 private Q_SLOTS:
@@ -240,7 +206,7 @@ private Q_SLOTS:
         Desktop::clickAt(board.mapToGlobal(QPoint(20, 20)));
         QTRY_VERIFY(m_window->isActiveWindow());
         QTest::qWait(200);
-        QVERIFY(isSeen(second));
+        QVERIFY(Desktop::isSeen(second));
     }
 
     /// The strip and the position field stay free, even where the screen has no room for all.
@@ -274,7 +240,8 @@ private Q_SLOTS:
         connect(&answer, &QTimer::timeout, [&] {
             if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                 ++asked;
-                isInFront = isSeen(dialog) && !box->frameGeometry().intersects(place(dialog));
+                isInFront =
+                    Desktop::isSeen(dialog) && !box->frameGeometry().intersects(place(dialog));
                 box->reject();
             }
         });

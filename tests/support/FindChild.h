@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QComboBox>
 #include <QStringList>
 #include <QWidget>
@@ -17,6 +18,17 @@ T& findNamed(const QWidget& parent, const QString& name)
     }
     qFatal("%s has no %s \"%s\", only: %s", qPrintable(parent.objectName()),
            T::staticMetaObject.className(), qPrintable(name), qPrintable(names.join(' ')));
+}
+
+/// The widget of that name in any window, if it is visible; without it the test ends.
+inline QWidget& findShown(const QString& name)
+{
+    for (QWidget* const widget : QApplication::allWidgets()) {
+        if (widget->objectName() == name && widget->isVisible()) {
+            return *widget;
+        }
+    }
+    qFatal("no \"%s\" is shown", qPrintable(name));
 }
 
 /// All items of the combo box.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BoxButton.h"
+#include "ChosenFile.h"
 #include "FindChild.h"
 #include "StartWorkbench.h"
 #include "messages/HostState.h"
@@ -12,14 +13,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 #include <memory>
 
@@ -61,24 +59,18 @@ protected:
         QCOMPARE(m_window->windowTitle(), title);
         QCoreApplication::sendPostedEvents(m_window.get(), QEvent::MetaCall);
     }
-    /// Answers the file dialog that comes next.
-    static void chooseFile(const QString& file)
-    {
-        QTimer::singleShot(100, [file] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (dialog) {
-                auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
-                name.setText(file);
-                QTest::keyClick(&name, Qt::Key_Return);
-            }
-        });
-    }
     void restart(const Options& options)
     {
         m_window.reset();
         m_log = std::make_unique<MessageLog>();
         m_window = startWorkbench(*m_log, options);
         m_window->show();
+    }
+    void end()
+    {
+        Settings::keepIn({});
+        m_window.reset();
+        m_log.reset();
     }
     void play(const QByteArray& steps) const
     {
@@ -105,14 +97,9 @@ protected:
                                      R"(","steps":["first"],"fonts":[],"specialSymbols":[],
                                      "userSymbols":[],"specialTexts":[],"attributes":[]}]})");
     }
-    QString writeBoard(const QTemporaryDir& directory) const
+    QString writeBoard() const
     {
-        const QString file = directory.filePath("dropped.json");
-        QFile board(file);
-        if (!board.open(QIODevice::WriteOnly)) {
-            qFatal("%s", qPrintable(board.errorString()));
-        }
-        board.write(R"({"format":1,"job":"a","step":"b","outline":[],"features":[]})");
-        return file;
+        return write("dropped.json",
+                     R"({"format":1,"job":"a","step":"b","outline":[],"features":[]})");
     }
 };

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Plays a session while it is recorded, plays the recording, and compares the two message traces.
+# Plays a session, with its own expectations, while it is recorded; plays the recording, and compares the
+# two message traces.
 # Usage: record.sh WORKBENCH MODULES JOBS SESSION
 set -u
 workbench=$1 modules=$2 jobs=$3 session=$4
@@ -17,6 +18,8 @@ play() {
         cat log recorded.session
         exit 1
     }
+    # A box that no step expects is reported.
+    ! grep -E '\.session:[0-9]+: ' log || exit 1
     # Times and addresses differ from run to run.
     sed -i -E 's/"time":"[^"]*",//; s/"extra":[0-9]{6,}/"extra":"address"/' "$trace"
 }

@@ -68,6 +68,29 @@ lane() {
         once "kill$i"
     done
 }
+
+# other: what was drawn in the job of another file is recovered in that job.
+other() {
+    local pid kept
+    sed 's/"name": "demo"/"name": "mine"/' "$jobs" >mine.json
+    jobs=mine.json play other --play edits.session --record other.recorded --exit &
+    pid=$!
+    until [ "$(edits other.recorded)" -gt 5 ]; do
+        kill -0 "$pid" || fail other "it has ended"
+        sleep 0.05
+    done
+    sleep 2
+    kill -9 "$pid"
+    wait "$pid" 2>/dev/null
+    kept=$(pads other.ini.recovery/0/*.kept)
+    { cat recover.session; echo 'expect state m_pHostJobCMB current=mine'; } >other.session
+    (play other --play other.session --export other.json --exit) || fail other "status $?"
+    [ "$(pads other.json)" = "$kept" ] || fail other "not all is recovered"
+    [ ! -e other.ini.recovery ] || fail other "files are left"
+}
+
+other &
+running=($!)
 for lane in $(seq 0 $((lanes - 1))); do
     lane "$lane" &
     running+=($!)
@@ -76,23 +99,6 @@ status=0
 for lane in "${running[@]}"; do
     wait "$lane" || status=1
 done
-
-# What was drawn in the job of another file is recovered in that job.
-sed 's/"name": "demo"/"name": "mine"/' "$jobs" >mine.json
-jobs=mine.json play other --play edits.session --record other.recorded --exit &
-pid=$!
-until [ "$(edits other.recorded)" -gt 5 ]; do
-    kill -0 "$pid" || fail other "it has ended"
-    sleep 0.05
-done
-sleep 2
-kill -9 "$pid"
-wait "$pid" 2>/dev/null
-kept=$(pads other.ini.recovery/0/*.kept)
-{ cat recover.session; echo 'expect state m_pHostJobCMB current=mine'; } >other.session
-(play other --play other.session --export other.json --exit) || fail other "status $?"
-[ "$(pads other.json)" = "$kept" ] || fail other "not all is recovered"
-[ ! -e other.ini.recovery ] || fail other "files are left"
 
 # Where no session is played the offer waits for the user, and so does a second program's start.
 setsid "$workbench" --modules "$modules" --job "$jobs" --settings hand.ini >hand.log 2>&1 &

@@ -1,18 +1,15 @@
 // The window used by keyboard: where Tab goes, what Escape closes, and what the wheel leaves alone.
 
-#include "FindChild.h"
 #include "Main.h"
-#include "StartWorkbench.h"
+#include "WindowFixture.h"
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
-#include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QTableView>
@@ -20,15 +17,10 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
-class TestKeyboard : public QObject {
+class TestKeyboard : public QObject, private WindowFixture {
     Q_OBJECT
-
-private:
-    std::unique_ptr<MessageLog> m_log;
-    std::unique_ptr<WorkbenchWindow> m_window;
 
     QWidget& the(const char* name) const { return findNamed(*m_window, QLatin1String(name)); }
 
@@ -63,17 +55,13 @@ private:
         return true;
     }
 
-    /// A visible window of that name, active; null when there is none.
-    static QWidget* shown(const char* name)
+    /// The visible window of that name, active.
+    static QWidget& shown(const QString& name)
     {
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == name && window->isVisible()) {
-                window->activateWindow();
-                QApplication::processEvents();
-                return window;
-            }
-        }
-        return nullptr;
+        QWidget& window = findShown(name);
+        window.activateWindow();
+        QApplication::processEvents();
+        return window;
     }
 
     /// The texts that cannot all be reached by their key: another one has the same.
@@ -115,17 +103,10 @@ private:
 private Q_SLOTS:
     void init()
     {
-        m_window.reset();
-        m_log = std::make_unique<MessageLog>();
-        m_window = startWorkbench(*m_log);
-        m_window->show();
+        restart({});
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
-    void cleanup()
-    {
-        m_window.reset();
-        m_log.reset();
-    }
+    void cleanup() { end(); }
 
     void theCanvasHasTheFocusAtTheStart() { QVERIFY(the("m_pBoardView").hasFocus()); }
 
@@ -173,9 +154,7 @@ private Q_SLOTS:
         QFETCH(QString, language);
         Options options;
         options.language = language;
-        m_window.reset();
-        m_window = startWorkbench(*m_log, options);
-        m_window->show();
+        restart(options);
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QStringList texts = textsOf(m_window->menuBar()->actions());
         for (const QWidget* const widget : m_window->findChildren<QWidget*>()) {
@@ -264,12 +243,11 @@ private Q_SLOTS:
         } else {
             QTest::mouseClick(&findNamed(dialog, opener), Qt::LeftButton);
         }
-        QWidget* const opened = shown(qPrintable(window));
-        QVERIFY(opened);
-        (opened->objectName() == focus ? opened : &findNamed(*opened, focus))->setFocus();
+        QWidget& opened = shown(window);
+        (window == focus ? opened : findNamed(opened, focus)).setFocus();
         QCOMPARE(QApplication::focusWidget()->objectName(), focus);
         press(Qt::Key_Escape);
-        QVERIFY(!opened->isVisible());
+        QVERIFY(!opened.isVisible());
         QVERIFY(dialog.isVisible());
     }
 
@@ -277,17 +255,17 @@ private Q_SLOTS:
     {
         const QWidget& dialog = openDialog("m_pPadTB");
         QTest::mouseClick(&findNamed(dialog, "m_pSymbolPB"), Qt::LeftButton);
-        QWidget* const chooser = shown("Widget_SymbolSelection");
-        QTest::keyClicks(&findNamed(*chooser, "m_pFilterLE"), "r20");
-        QTest::mouseClick(&findNamed(*chooser, "m_pCancelPB"), Qt::LeftButton);
-        QVERIFY(!chooser->isVisible());
+        const QWidget& chooser = shown("Widget_SymbolSelection");
+        QTest::keyClicks(&findNamed(chooser, "m_pFilterLE"), "r20");
+        QTest::mouseClick(&findNamed(chooser, "m_pCancelPB"), Qt::LeftButton);
+        QVERIFY(!chooser.isVisible());
         QCOMPARE(findNamed<QLineEdit>(dialog, "m_pSymbolTextLE").text(), QString());
     }
 
     void escapeInTheDialogIsTheCanvass()
     {
         const QWidget& dialog = openDialog("m_pPadTB");
-        QVERIFY(shown("AddFeature"));
+        shown("AddFeature");
         for (const char* const name : {"m_pSymbolTextLE", "m_pPadTB"}) {
             findNamed(dialog, name).setFocus();
             press(Qt::Key_Escape);
@@ -298,7 +276,7 @@ private Q_SLOTS:
     void deleteSaysWhatItDeletedInTheDialogAsWell()
     {
         const QWidget& dialog = openDialog("m_pPadTB");
-        QVERIFY(shown("AddFeature"));
+        shown("AddFeature");
         findNamed(dialog, "m_pPadTB").setFocus();
         const auto said = [this] {
             return findNamed<QLabel>(*m_window, "m_pCanvasStatusLB").text();

@@ -73,12 +73,7 @@ private Q_SLOTS:
     }
 
     void init() { restart({}); }
-    void cleanup()
-    {
-        Settings::keepIn({});
-        m_window.reset();
-        m_log.reset();
-    }
+    void cleanup() { end(); }
 
     void menus()
     {
@@ -255,12 +250,9 @@ private Q_SLOTS:
         action("m_pSelectAllAct").trigger();
         action("m_pDeleteAct").trigger();
         QVERIFY(m_window->isWindowModified());
-        QTimer::singleShot(50, [] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                box->button(QMessageBox::Cancel)->click();
-            }
-        });
+        const BoxButton boxes(QMessageBox::Cancel);
         action("m_pQuitAct").trigger();
+        QCOMPARE(boxes.texts.size(), 1);
         QVERIFY(m_window->isVisible());
         QCOMPARE(closed.count(), 0);
         m_window->canvas()->files().setMayAsk([] { return false; });

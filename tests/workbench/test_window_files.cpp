@@ -17,17 +17,11 @@ class TestWindowFiles : public QObject, private WindowFixture {
 
 private Q_SLOTS:
     void init() { restart({}); }
-    void cleanup()
-    {
-        Settings::keepIn({});
-        m_window.reset();
-        m_log.reset();
-    }
+    void cleanup() { end(); }
 
     void titleAndDroppedFile()
     {
-        const QTemporaryDir directory;
-        const QString file = writeBoard(directory);
+        const QString file = writeBoard();
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));
         drop(file);
         QCOMPARE(m_window->windowTitle(), QString("dropped.json[*] - demo / pcb - Workbench"));
@@ -41,7 +35,7 @@ private Q_SLOTS:
         const QString file = m_directory.filePath("mine.session");
         findNamed<QComboBox>(*m_window, "m_pHostUnitCMB").setCurrentText("millimetre");
         QCOMPARE(action("m_pRecordAct").text(), QString("Re&cord Session..."));
-        chooseFile(file);
+        const ChosenFile chosen(file);
         action("m_pRecordAct").trigger();
         QCOMPARE(action("m_pRecordAct").text(), QString("Stop Re&cording"));
         play("click m_pMoveFeatureTB\nmenu m_pFileMenu m_pRecordAct\nclick m_pMarkTB\n");
@@ -76,7 +70,7 @@ private Q_SLOTS:
     {
         const QString file = writeJob("mine");
         const BoxButton boxes(QMessageBox::Ok);
-        chooseFile(file);
+        const ChosenFile chosen(file);
         action("m_pOpenJobAct").trigger();
         QCOMPARE(m_window->windowTitle(), QString("mine / first[*] - Workbench"));
         QCOMPARE(LastFolder::path(), m_directory.path());
@@ -121,7 +115,7 @@ private Q_SLOTS:
         m_window->canvas()->files().open(JOB_FILE);
         const QString file = write("a.session", "# words\nclick m_pMarkTB\n");
         drop(file);
-        chooseFile(writeBoard(m_directory));
+        const ChosenFile chosen(writeBoard());
         action("m_pOpenJobAct").trigger();
         QCOMPARE(boxes.texts.size(), 3);
         QVERIFY2(
@@ -164,7 +158,7 @@ private Q_SLOTS:
             return findNamed<QMenu>(*m_window, "m_pRecentMenu").actions();
         };
         QVERIFY(list().isEmpty());
-        const QString file = writeBoard(m_directory);
+        const QString file = writeBoard();
         m_window->canvas()->files().open(file);
         action("m_pNewBoardAct").trigger();
         QCOMPARE(m_window->windowTitle(), QString("demo / pcb[*] - Workbench"));

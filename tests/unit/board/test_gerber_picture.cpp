@@ -56,9 +56,15 @@ struct Agreement {
     double part() const { return covered ? static_cast<double>(both) / covered : 0; }
 };
 
-bool isDark(QRgb pixel)
+/// A byte for each pixel: millions are looked at.
+QImage grey(const QImage& image)
 {
-    return qGray(pixel) < 128;
+    return image.convertToFormat(QImage::Format_Grayscale8);
+}
+
+bool isDark(uchar pixel)
+{
+    return pixel < 128;
 }
 
 Agreement compare(const QImage& a, const QImage& b)
@@ -67,10 +73,13 @@ Agreement compare(const QImage& a, const QImage& b)
     if (a.size() != b.size()) {
         return agreement;
     }
+    const int width = a.width();
     for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const bool first = isDark(a.pixel(x, y));
-            const bool second = isDark(b.pixel(x, y));
+        const uchar* const rowOfA = a.constScanLine(y);
+        const uchar* const rowOfB = b.constScanLine(y);
+        for (int x = 0; x < width; ++x) {
+            const bool first = isDark(rowOfA[x]);
+            const bool second = isDark(rowOfB[x]);
             agreement.covered += first || second ? 1 : 0;
             agreement.both += first && second ? 1 : 0;
         }
@@ -82,7 +91,7 @@ bool isDarkAround(const QImage& image, int x, int y)
 {
     for (int row = qMax(0, y - 1); row <= qMin(image.height() - 1, y + 1); ++row) {
         for (int column = qMax(0, x - 1); column <= qMin(image.width() - 1, x + 1); ++column) {
-            if (isDark(image.pixel(column, row))) {
+            if (isDark(image.constScanLine(row)[column])) {
                 return true;
             }
         }
@@ -94,9 +103,11 @@ bool isDarkAround(const QImage& image, int x, int y)
 int farFrom(const QImage& a, const QImage& b)
 {
     int count = 0;
+    const int width = a.width();
     for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            count += isDark(a.pixel(x, y)) && !isDarkAround(b, x, y) ? 1 : 0;
+        const uchar* const row = a.constScanLine(y);
+        for (int x = 0; x < width; ++x) {
+            count += isDark(row[x]) && !isDarkAround(b, x, y) ? 1 : 0;
         }
     }
     return count;
@@ -131,7 +142,8 @@ QImage painted(const Board& board, const View& view)
     image.fill(Qt::white);
     QPainter painter(&image);
     paintBoard(painter, board, view.area(), QRectF(image.rect()), colours);
-    return image;
+    painter.end();
+    return grey(image);
 }
 
 /// The picture that the other program makes of the exported file; null if it fails or warns.
@@ -155,7 +167,7 @@ QImage rendered(const Board& board, const View& view, const QTemporaryDir& folde
         qInfo("%s", said.constData());
         return {};
     }
-    return QImage(picture);
+    return grey(QImage(picture));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FindChild.h"
+#include "plugin/MessageCodes.h"
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 #include "plugin/RecordValues.h"
@@ -15,6 +16,22 @@
 #include <QVariant>
 
 #include <memory>
+
+inline Pcb::Features twoPads()
+{
+    return {Pcb::Feature(Pcb::padGeometry("r60", {5000, 5000})),
+            Pcb::Feature(Pcb::padGeometry("s60", {9000, 5000}))};
+}
+
+/// In rows of 400, a millimetre apart.
+inline Pcb::Features manyPads(int count)
+{
+    Pcb::Features pads;
+    for (int i = 0; i < count; ++i) {
+        pads.push_back(Pcb::Feature(Pcb::padGeometry("r20", {i % 400 * 1000.0, i / 400 * 1000.0})));
+    }
+    return pads;
+}
 
 /// A canvas with the test's own board: what a user does on it, in micrometres.
 class CanvasFixture {
@@ -42,6 +59,12 @@ public:
     const Pcb::Features& features() const { return document().board().features; }
     QString text(const char* label) const { return findNamed<QLabel>(*pane, label).text(); }
 
+    /// As the strip's tool does.
+    QWidget& openSecondView() const
+    {
+        receive(MessageCodes::Sent::OpenPopView);
+        return findShown("m_pSecondView");
+    }
     void receive(int code, qint64 extra = 0, const QMap<QString, QVariant>& payload = {}) const
     {
         PluginMetaData message(ModuleNames::toolStrip, ModuleNames::viewer);

@@ -2,6 +2,7 @@
 
 #include "BoxCatcher.h"
 #include "CanvasFixture.h"
+#include "ChosenFile.h"
 #include "ErrorOf.h"
 #include "Main.h"
 #include "board/BoardFile.h"
@@ -10,11 +11,9 @@
 #include <UiApiStandIn.h>
 
 #include <QDir>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -27,21 +26,6 @@ class TestBoardView : public QObject {
         QWheelEvent event(at, view.viewport()->mapToGlobal(at), {}, {0, delta}, {}, {},
                           Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(view.viewport(), &event);
-    }
-    static Pcb::Features twoPads()
-    {
-        return {Pcb::Feature(Pcb::padGeometry("r60", {5000, 5000})),
-                Pcb::Feature(Pcb::padGeometry("s60", {9000, 5000}))};
-    }
-    /// Answers the next file dialog as a user does.
-    static void answerDialog(const QString& file)
-    {
-        QTimer::singleShot(100, [file] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
-            name.setText(file);
-            QTest::keyClick(&name, Qt::Key_Return);
-        });
     }
 
 private Q_SLOTS:
@@ -111,12 +95,12 @@ private Q_SLOTS:
         const QTemporaryDir directory;
         const QString file = directory.filePath("board.json");
         const CanvasFixture fixture(twoPads());
-        answerDialog(file);
+        const ChosenFile saved(file);
         QTest::mouseClick(&findNamed(*fixture.pane, "m_pSaveBoardTB"), Qt::LeftButton);
         QVERIFY(QFileInfo(file).size() > 0);
         const CanvasState before = fixture.state();
         fixture.document().replace({});
-        answerDialog(file);
+        const ChosenFile chosen(file);
         QTest::mouseClick(&findNamed(*fixture.pane, "m_pOpenBoardTB"), Qt::LeftButton);
         QVERIFY(fixture.features() == before.board.features);
         QVERIFY(!fixture.document().history().canUndo());
@@ -133,7 +117,7 @@ private Q_SLOTS:
         BoxCatcher boxes;
         const CanvasFixture fixture(twoPads());
         const CanvasState before = fixture.state();
-        answerDialog(file);
+        const ChosenFile chosen(file);
         QTest::mouseClick(&findNamed(*fixture.pane, "m_pOpenBoardTB"), Qt::LeftButton);
         const BoxTextList told = boxes.takeTexts();
         QCOMPARE(told.size(), 1);

@@ -2,6 +2,7 @@
 
 #include "BoxButton.h"
 #include "CanvasFixture.h"
+#include "ChosenFile.h"
 #include "Main.h"
 #include "board/BoardFile.h"
 #include "shared/FileQuestion.h"
@@ -11,7 +12,6 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTemporaryDir>
@@ -21,11 +21,7 @@ namespace {
 
 class FileFixture : public CanvasFixture {
 public:
-    FileFixture()
-        : CanvasFixture({Pcb::Feature(Pcb::padGeometry("r60", {5000, 5000})),
-                         Pcb::Feature(Pcb::padGeometry("s60", {9000, 5000}))})
-    {
-    }
+    FileFixture() : CanvasFixture(twoPads()) {}
 
     FileActions& files() const { return *pane->findChild<FileActions*>(); }
     QAction& action(const char* name) const { return *pane->findChild<QAction*>(name); }
@@ -50,59 +46,6 @@ public:
     }
 
     QTemporaryDir directory;
-};
-
-/// Answers the next file dialog as a user does; without a name cancels it.
-class Chosen {
-public:
-    explicit Chosen(const QString& file = {}, int filter = 0)
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, [this, file, filter] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (m_done && dialog != m_dialog) {
-                m_timer.stop();
-            } else if (dialog) {
-                answer(dialog, file, filter);
-            }
-        });
-        m_timer.start(50);
-    }
-    QString offered;
-    QString folder;
-    bool mayBeNative = false;
-
-private:
-    void answer(QFileDialog* dialog, const QString& file, int filter)
-    {
-        auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
-        if (!m_done) {
-            m_done = true;
-            m_dialog = dialog;
-            offered = name.text();
-            folder = dialog->directory().path();
-            mayBeNative = !dialog->testOption(QFileDialog::DontUseNativeDialog);
-            if (filter > 0) {
-                dialog->selectNameFilter(dialog->nameFilters().at(filter));
-                Q_EMIT dialog->filterSelected(dialog->nameFilters().at(filter));
-            }
-        }
-        if (file.isEmpty()) {
-            dialog->reject();
-            return;
-        }
-        // The list may select what is offered after the name was entered, when the folder is read,
-        // and what it selects counts more. Only a text that changes in the focus takes that back.
-        name.setFocus();
-        if (name.hasFocus()) {
-            name.clear();
-            name.setText(file);
-            QTest::keyClick(&name, Qt::Key_Return);
-        }
-    }
-
-    QTimer m_timer;
-    QPointer<QFileDialog> m_dialog;
-    bool m_done = false;
 };
 
 }  // namespace
@@ -138,7 +81,7 @@ private Q_SLOTS:
     void savingKeepsTheHistory()
     {
         const FileFixture fixture;
-        const Chosen chosen(fixture.path("a"));
+        const ChosenFile chosen(fixture.path("a"));
         fixture.deleteAll();
         fixture.action("m_pSaveBoardAct").trigger();  // nothing is open: asks for a name
         QCOMPARE(chosen.offered, QString("job-step.json"));
@@ -157,7 +100,7 @@ private Q_SLOTS:
     void dialogIsThatOfThePlatform()
     {
         const FileFixture fixture;
-        const Chosen chosen(fixture.path("a"));
+        const ChosenFile chosen(fixture.path("a"));
         fixture.action("m_pSaveBoardAct").trigger();
         QVERIFY(chosen.mayBeNative);
     }
@@ -240,14 +183,14 @@ private Q_SLOTS:
         }
         const BoxButton saveAll(QMessageBox::SaveAll);
         {
-            const Chosen none;
+            const ChosenFile none;
             QVERIFY(!fixture.files().mayClose());  // one of them has no file
             QVERIFY(fixture.files().isModified());
         }
         fixture.pane->canvas().openStep({}, {});
         QVERIFY(!fixture.files().isModified());
         fixture.document().history().undo();
-        const Chosen chosen(fixture.path("pcb.json"));
+        const ChosenFile chosen(fixture.path("pcb.json"));
         QVERIFY(fixture.files().mayClose());
         QCOMPARE(chosen.offered, QString("demo-pcb.json"));
         QCOMPARE(saveAll.texts.size(), 2);
@@ -305,17 +248,10 @@ private Q_SLOTS:
         QVERIFY(fixture.save("folder/two.json"));
         fixture.deleteAll();
         QVERIFY(QDir(fixture.path("folder")).removeRecursively());
-        int boxes = 0;
-        QTimer answers;
-        connect(&answers, &QTimer::timeout, [&] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                ++boxes;
-                box->button(boxes == 1 ? QMessageBox::Save : QMessageBox::Ok)->click();
-            }
-        });
-        answers.start(10);
+        const BoxButton boxes(QMessageBox::Save);
         QVERIFY(!fixture.files().mayClose());
-        QCOMPARE(boxes, 2);
+        QCOMPARE(boxes.texts.size(), 2);
+        QVERIFY2(boxes.texts[1].startsWith("Cannot save the board|"), qPrintable(boxes.texts[1]));
         QVERIFY(fixture.files().isModified());
     }
 
@@ -337,7 +273,7 @@ private Q_SLOTS:
         const FileFixture fixture;
         for (const auto& [filter, suffix] :
              {std::pair<int, QString>{0, "gbr"}, {1, "png"}, {2, "svg"}}) {
-            const Chosen chosen(fixture.path("drawn"), filter);
+            const ChosenFile chosen(fixture.path("drawn"), filter);
             fixture.action("m_pExportBoardAct").trigger();
             QCOMPARE(chosen.offered, QString("job-step"));
             QVERIFY2(QFileInfo::exists(fixture.path("drawn") + "." + suffix), qPrintable(suffix));
@@ -348,7 +284,7 @@ private Q_SLOTS:
     {
         const FileFixture fixture;
         QVERIFY(fixture.save("board.v2.json"));
-        Chosen chosen;
+        ChosenFile chosen;
         fixture.action("m_pExportBoardAct").trigger();
         QCOMPARE(chosen.offered, QString("board.v2.gbr"));
     }
@@ -370,7 +306,7 @@ private Q_SLOTS:
         LastFolder::remember(fixture.path("other.json"));
         for (const char* const name :
              {"m_pOpenBoardAct", "m_pSaveBoardAsAct", "m_pExportBoardAct"}) {
-            const Chosen chosen;
+            const ChosenFile chosen;
             fixture.action(name).trigger();
             QCOMPARE(chosen.folder, fixture.path("mine"));
         }
@@ -382,12 +318,12 @@ private Q_SLOTS:
         QVERIFY(QDir(fixture.directory.path()).mkdir("gone"));
         LastFolder::remember(fixture.path("gone/two.json"));
         {
-            const Chosen chosen;
+            const ChosenFile chosen;
             fixture.action("m_pOpenBoardAct").trigger();
             QCOMPARE(chosen.folder, fixture.path("gone"));
         }
         QVERIFY(QDir(fixture.path("gone")).removeRecursively());
-        const Chosen chosen;
+        const ChosenFile chosen;
         fixture.action("m_pOpenBoardAct").trigger();
         QCOMPARE(chosen.folder, QDir::homePath());
     }
@@ -401,14 +337,14 @@ private Q_SLOTS:
         far.features = {Pcb::Feature(Pcb::padGeometry("r60", {2e7, 0}))};
         fixture.document().replace(far);
         {
-            const Chosen chosen(fixture.path("full/far.gbr"));
+            const ChosenFile chosen(fixture.path("full/far.gbr"));
             const BoxButton box(QMessageBox::Ok);
             fixture.action("m_pExportBoardAct").trigger();
             QCOMPARE(box.texts.size(), 1);
             QVERIFY(box.texts[0].startsWith("Cannot export the board|A coordinate is ten metres"));
         }
         QCOMPARE(LastFolder::path(), fixture.directory.path());
-        const Chosen chosen(fixture.path("full/far.svg"), 2);
+        const ChosenFile chosen(fixture.path("full/far.svg"), 2);
         fixture.action("m_pExportBoardAct").trigger();
         QCOMPARE(LastFolder::path(), fixture.path("full"));
     }
@@ -435,7 +371,7 @@ private Q_SLOTS:
             }
         });
         cancels.start(20);
-        const Chosen chosen(fixture.path("drawn"), 2);
+        const ChosenFile chosen(fixture.path("drawn"), 2);
         fixture.action("m_pExportBoardAct").trigger();
         QCOMPARE(shown.value(0), QString("Exporting drawn.svg..."));
         QCOMPARE(fixture.text("m_pCanvasStatusLB"), QString("Cancelled."));
@@ -447,13 +383,13 @@ private Q_SLOTS:
         const FileFixture fixture;
         Settings::keepIn(fixture.path("settings.ini"));
         QVERIFY(QDir(fixture.directory.path()).mkdir("boards"));
-        const Chosen first(fixture.path("boards/one.json"));
+        const ChosenFile first(fixture.path("boards/one.json"));
         fixture.action("m_pSaveBoardAsAct").trigger();
-        const Chosen second(fixture.path("boards/other.json"));
+        const ChosenFile second(fixture.path("boards/other.json"));
         fixture.action("m_pSaveBoardAsAct").trigger();
         QCOMPARE(second.folder, fixture.path("boards"));
         QCOMPARE(second.offered, QString("one.json"));
-        const Chosen again;
+        const ChosenFile again;
         fixture.action("m_pOpenBoardAct").trigger();
         QCOMPARE(again.folder, fixture.path("boards"));
         QCOMPARE(Settings::value("files/recent").toStringList(),

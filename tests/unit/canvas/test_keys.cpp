@@ -15,12 +15,6 @@ namespace Sent = MessageCodes::Sent;
 
 namespace {
 
-Pcb::Features twoPads()
-{
-    return {Pcb::Feature(Pcb::padGeometry("r60", {5000, 5000})),
-            Pcb::Feature(Pcb::padGeometry("s60", {9000, 5000}))};
-}
-
 template <class T>
 T& add(QWidget& window)
 {
@@ -46,16 +40,6 @@ class TestKeys : public QObject {
         auto window = std::make_unique<QWidget>(fixture.pane->parentWidget(), Qt::Window);
         new QVBoxLayout(window.get());
         return window;
-    }
-    static QWidget& secondView(const CanvasFixture& fixture)
-    {
-        fixture.receive(Sent::OpenPopView);
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == "m_pSecondView" && window->isVisible()) {
-                return *window;
-            }
-        }
-        qFatal("there is no popview");
     }
     /// Undo, redo both ways, select all, delete, and Escape.
     static void compareKeys(const CanvasFixture& fixture, QWidget& focus)
@@ -115,7 +99,7 @@ private Q_SLOTS:
     void inTheSecondView()
     {
         const CanvasFixture fixture(twoPads());
-        QWidget& second = secondView(fixture);
+        QWidget& second = fixture.openSecondView();
         activate(second);
         auto& view = findNamed<BoardView>(second, "m_pSecondBoardView");
         QVERIFY(view.hasFocus());
@@ -128,7 +112,7 @@ private Q_SLOTS:
     void theSecondViewSaysTheSame()
     {
         const CanvasFixture fixture(twoPads());
-        QWidget& second = secondView(fixture);
+        QWidget& second = fixture.openSecondView();
         const auto text = [&](const char* name) { return findNamed<QLabel>(second, name).text(); };
         fixture.receive(Sent::MoveFeature);
         QCOMPARE(text("m_pSecondToolLB"), QString("Tool: Move Feature"));
@@ -146,7 +130,7 @@ private Q_SLOTS:
     void theSecondViewShowsToolAndHintAtItsSmallest()
     {
         const CanvasFixture fixture(twoPads());
-        QWidget& second = secondView(fixture);
+        QWidget& second = fixture.openSecondView();
         fixture.receive(Sent::MoveFeature);
         second.resize(second.minimumSizeHint().expandedTo(second.minimumSize()));
         QCoreApplication::processEvents();
@@ -159,7 +143,7 @@ private Q_SLOTS:
     void areaZoomShowsTheAreaWhereItWasDrawn()
     {
         const CanvasFixture fixture(twoPads());
-        QWidget& second = secondView(fixture);
+        QWidget& second = fixture.openSecondView();
         auto& view = findNamed<BoardView>(second, "m_pSecondBoardView");
         fixture.receive(Sent::AreaZoom);
         const double main = fixture.view().pixelSize();

@@ -11,6 +11,7 @@
 #include <QAbstractButton>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QScopeGuard>
@@ -67,11 +68,17 @@ Pcb::Board boardOfPads(int count)
 {
     Pcb::Board board;
     board.outline = QVector<QPointF>{{0, 0}, {20000, 0}, {20000, 14000}, {0, 14000}};
-    for (int i = 0; i < count; ++i) {
-        board.features.push_back(Pcb::Feature(
-            Pcb::padGeometry("r20", {double(i % 400) * 1000, double(int(i / 400)) * 1000})));
-    }
+    board.features = manyPads(count);
     return board;
+}
+
+/// The text of a board whose one feature is there a hundred thousand times.
+QByteArray withManyFeatures(const QByteArray& text)
+{
+    const int from = text.indexOf("{\"kind\"");
+    const int end = text.indexOf('\n', from);
+    const QByteArray feature = text.mid(from, end - from);
+    return text.left(from) + (feature + ",\n").repeated(100000) + text.mid(from);
 }
 
 }  // namespace
@@ -194,7 +201,10 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString file = folder.filePath("large.json");
-        Pcb::writeBoardFile(boardOfPads(100000), file);
+        QFile written(file);
+        QVERIFY(written.open(QIODevice::WriteOnly));
+        written.write(withManyFeatures(Pcb::toJson(boardOfPads(1))));
+        written.close();
         const CanvasFixture fixture({Pcb::Feature(Pcb::padGeometry("r60", {5000, 5000}))});
         auto& files = *fixture.pane->findChild<FileActions*>();
         {

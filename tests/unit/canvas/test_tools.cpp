@@ -370,17 +370,10 @@ private Q_SLOTS:
     void opensASecondView()
     {
         const CanvasFixture fixture(cross());
-        fixture.receive(Sent::OpenPopView);
-        QWidget* second = nullptr;
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == "m_pSecondView" && window->isVisible()) {
-                second = window;
-            }
-        }
-        QVERIFY(second);
+        QWidget& second = fixture.openSecondView();
         // The tool works in both.
         fixture.receive(Sent::DeleteFeature, DeleteMode::feature);
-        const auto& view = findNamed<BoardView>(*second, "m_pSecondBoardView");
+        const auto& view = findNamed<BoardView>(second, "m_pSecondBoardView");
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewPoint(16000, 10000));
         QCOMPARE(fixture.features().size(), size_t(3));
     }

@@ -1,6 +1,8 @@
 // What the user is told of symbols and letters whose shape is not known, and sees of them.
 
+#include "BoxButton.h"
 #include "CanvasFixture.h"
+#include "ChosenFile.h"
 #include "Main.h"
 #include "board/BoardFile.h"
 #include "plugin/MessageCodes.h"
@@ -12,12 +14,8 @@
 #include <Files.h>
 
 #include <QAction>
-#include <QFileDialog>
 #include <QImage>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QTranslator>
 
 namespace {
@@ -40,11 +38,7 @@ const char* const whichOnes = "Symbols: \"logo\", \"nick\". Letters: \u00fc.";
 
 class UnknownFixture : public CanvasFixture {
 public:
-    UnknownFixture() : CanvasFixture(oddFeatures())
-    {
-        QObject::connect(&m_answers, &QTimer::timeout, [this] { answer(); });
-        m_answers.start(10);
-    }
+    UnknownFixture() : CanvasFixture(oddFeatures()) {}
     ~UnknownFixture() { Settings::keepIn({}); }
 
     FileActions& files() const { return *pane->findChild<FileActions*>(); }
@@ -54,9 +48,9 @@ public:
         Pcb::writeBoardFile(document().board(), path(name));
         return path(name);
     }
-    void exportAs(const char* name)
+    void exportAs(const char* name) const
     {
-        wanted = path(name);
+        const ChosenFile chosen(path(name));
         pane->findChild<QAction*>("m_pExportBoardAct")->trigger();
     }
 
@@ -76,8 +70,7 @@ public:
     }
 
     QTemporaryDir directory;
-    QStringList boxes;  ///< that were shown, and answered
-    QString wanted;     ///< the name that the file dialog gets
+    BoxButton boxes{QMessageBox::Ok};
 
 private:
     /// Red alone is also seen where it is mixed with the dark ground, as thin lines are.
@@ -88,22 +81,6 @@ private:
                                                       qAbs(pixel.green() - colour.green()) < 40 &&
                                                       qAbs(pixel.blue() - colour.blue()) < 40;
     }
-
-    void answer()
-    {
-        QWidget* const modal = QApplication::activeModalWidget();
-        if (auto* const box = qobject_cast<QMessageBox*>(modal)) {
-            boxes.append(box->text());
-            QTest::keyClick(box, Qt::Key_Return);
-        } else if (auto* const dialog = qobject_cast<QFileDialog*>(modal)) {
-            auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
-            name.clear();
-            name.setText(wanted);
-            QTest::keyClick(&name, Qt::Key_Return);
-        }
-    }
-
-    QTimer m_answers;
 };
 
 }  // namespace
@@ -119,7 +96,7 @@ private Q_SLOTS:
         const QString told =
             QString("4 feature(s) of unknown shape drawn as outlines. ") + whichOnes;
         QVERIFY(fixture.files().open(file));
-        QCOMPARE(fixture.boxes, QStringList(told));
+        QCOMPARE(fixture.boxes.texts, QStringList("Unknown Shapes|" + told));
         QCOMPARE(fixture.text("m_pCanvasStatusLB"), told + " Opened " + file + ".");
     }
 
@@ -135,9 +112,10 @@ private Q_SLOTS:
         QVERIFY2(opened.startsWith("1 feature of unknown shape drawn as an outline. "),
                  qPrintable(opened));
         fixture.exportAs("odd.svg");
-        const QString left = fixture.boxes.value(0);
-        QVERIFY2(left.startsWith("1 feature of unknown shape left out of the file. "),
-                 qPrintable(left));
+        const QString left = fixture.boxes.texts.value(0);
+        QVERIFY2(
+            left.startsWith("Unknown Shapes|1 feature of unknown shape left out of the file. "),
+            qPrintable(left));
     }
 
     void aFileThatAProgramNamesOpensNoBox()
@@ -148,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(fixture.text("m_pCanvasStatusLB").startsWith("4 feature(s) of unknown shape"));
         fixture.files().setMayAsk([] { return false; });
         QVERIFY(fixture.files().open(file));
-        QCOMPARE(fixture.boxes, QStringList());
+        QCOMPARE(fixture.boxes.texts, QStringList());
     }
 
     void nothingIsToldWhereAllIsKnown()
@@ -160,18 +138,20 @@ private Q_SLOTS:
         QCOMPARE(fixture.text("m_pCanvasStatusLB"), "Opened " + file + ".");
         fixture.exportAs("plain.gbr");
         QVERIFY(!CanvasHost::readWhole(fixture.path("plain.gbr")).contains("Left out"));
-        QCOMPARE(fixture.boxes, QStringList());
+        QCOMPARE(fixture.boxes.texts, QStringList());
     }
 
     void exportsTellWhatTheyLeaveOut()
     {
         UnknownFixture fixture;
         for (const char* const name : {"odd.gbr", "odd.svg"}) {
-            fixture.boxes.clear();
+            fixture.boxes.texts.clear();
             fixture.exportAs(name);
-            QCOMPARE(fixture.boxes,
-                     QStringList(QString("4 feature(s) of unknown shape left out of the file. ") +
-                                 whichOnes));
+            QCOMPARE(
+                fixture.boxes.texts,
+                QStringList(
+                    QString("Unknown Shapes|4 feature(s) of unknown shape left out of the file. ") +
+                    whichOnes));
             QCOMPARE(fixture.text("m_pCanvasStatusLB"), "Wrote " + fixture.path(name) + ".");
             QVERIFY(CanvasHost::readWhole(fixture.path(name)).contains("Left out, symbols"));
         }
@@ -187,8 +167,8 @@ private Q_SLOTS:
         }
         fixture.document().replace({"job", "step", {}, all});
         QVERIFY(fixture.files().open(fixture.write("many.json")));
-        QVERIFY(fixture.boxes.value(0).startsWith("12 feature(s) of "));
-        QVERIFY(fixture.boxes.value(0).endsWith("\"odd7\", ...."));
+        QVERIFY(fixture.boxes.texts.value(0).startsWith("Unknown Shapes|12 feature(s) of "));
+        QVERIFY(fixture.boxes.texts.value(0).endsWith("\"odd7\", ...."));
     }
 
     void unknownShapesAreThinOutlines()

@@ -30,13 +30,14 @@ private Q_SLOTS:
         QFile sample(SAMPLE_FILE);
         QVERIFY(sample.open(QIODevice::ReadOnly));
         const QByteArray whole = sample.readAll().trimmed();
-        CanvasHost::loadJobs(write(whole));
+        const QString file = write(whole);
+        CanvasHost::loadJobs(file);
         const size_t jobs = CanvasHost::jobs().size();
-        for (int size = 0; size < whole.size(); ++size) {
-            const QString file = write(whole.left(size));
+        const QRegularExpression place('^' + QRegularExpression::escape(file) + ":([0-9]+): .");
+        for (int size = whole.size() - 1; size >= 0; --size) {
+            QVERIFY(QFile::resize(file, size));
             const QString error = errorOf([&] { CanvasHost::loadJobs(file); });
             QVERIFY2(!error.isEmpty(), qPrintable(QString::number(size)));
-            const QRegularExpression place('^' + QRegularExpression::escape(file) + ":([0-9]+): .");
             const QRegularExpressionMatch match = place.match(error);
             QVERIFY2(match.hasMatch(), qPrintable(error));
             QVERIFY2(match.captured(1).toInt() <= whole.left(size).count('\n') + 1,

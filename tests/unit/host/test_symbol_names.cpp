@@ -1,15 +1,14 @@
 // What the stand-ins know of symbol names beyond what the module relies on: the shapes, their sizes
 // and conversions, and which names are none.
 
+#include "BoxCatcher.h"
 #include "Main.h"
 
 #include <UiApiStandIn.h>
 #include <cam_api.h>
 #include <ui_api.h>
 
-#include <QMessageBox>
 #include <QRandomGenerator>
-#include <QTimer>
 
 #include <limits>
 
@@ -139,14 +138,10 @@ constexpr Bound bounds[] = {
 template <class Check>
 bool answer(Check check)
 {
-    QTimer closing;
-    QObject::connect(&closing, &QTimer::timeout, &closing, [] {
-        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            box->accept();
-        }
-    });
-    closing.start(1);
-    return check();
+    BoxCatcher boxes;
+    const bool isLegal = check();
+    boxes.take();
+    return isLegal;
 }
 
 /// Up to `mostDigits` digits with the point anywhere, without needless zeros.

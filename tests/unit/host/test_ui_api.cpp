@@ -1,12 +1,11 @@
+#include "BoxCatcher.h"
 #include "Main.h"
 
 #include <UiApiStandIn.h>
 #include <ui_api.h>
 
-#include <QAbstractButton>
 #include <QMessageBox>
 #include <QTest>
-#include <QTimer>
 
 #include <functional>
 #include <limits>
@@ -22,29 +21,12 @@ namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-struct Box {
-    QMessageBox::Icon icon;
-    QString title;
-    QString text;
-    QMessageBox::StandardButtons buttons;
-    QWidget* parent;
-};
-
-/// Runs `action` and answers every modal message box that it opens.
-std::vector<Box> boxesOf(const std::function<void()>& action)
+/// Runs `action` and answers every message box that it opens.
+QVector<BoxCatcher::Box> boxesOf(const std::function<void()>& action)
 {
-    std::vector<Box> boxes;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            boxes.push_back({box->icon(), box->windowTitle(), box->text(), box->standardButtons(),
-                             box->parentWidget()});
-            box->button(QMessageBox::Ok)->click();
-        }
-    });
-    timer.start(1);
+    BoxCatcher boxes;
     action();
-    return boxes;
+    return boxes.take();
 }
 
 }  // namespace
@@ -137,10 +119,10 @@ void TestUiApi::refusedNumber()
     for (const DisplayUnit unit : {DisplayUnit::Mil, DisplayUnit::Micrometre}) {
         setDisplayUnit(unit);
         const auto boxes = boxesOf([] { QVERIFY(!isNumValueLegal(notANumber, -7, 51, nullptr)); });
-        QCOMPARE(boxes.size(), size_t(1));
+        QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].icon, QMessageBox::Warning);
         QCOMPARE(boxes[0].title, QString("Information"));
-        QCOMPARE(boxes[0].buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
+        QCOMPARE(boxes[0].buttons.size(), 1);
         QCOMPARE(boxes[0].text, QString("The value must lie between -7 and 51."));
         QVERIFY(!boxes[0].parent);
     }
@@ -152,7 +134,7 @@ void TestUiApi::refusedSymbol()
         setDisplayUnit(metric ? DisplayUnit::Millimetre : DisplayUnit::Inch);
         const auto boxes =
             boxesOf([] { QVERIFY(!isSymbolValueLegal("r1270001", 0, 50000, nullptr)); });
-        QCOMPARE(boxes.size(), size_t(1));
+        QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].title, QString("Information"));
         QCOMPARE(boxes[0].text,
                  QString("The value must lie between 0 and %1.").arg(metric ? "1270000" : "50000"));
@@ -177,7 +159,7 @@ void TestUiApi::boxBelongsToTheContextsWindow()
             QVERIFY(!isNumValueLegal(2, 0, 1, row.context));
             QVERIFY(!isSymbolValueLegal("r2", 0, 1, row.context));
         });
-        QCOMPARE(boxes.size(), size_t(2));
+        QCOMPARE(boxes.size(), 2);
         QCOMPARE(boxes[0].parent, row.parent);
         QCOMPARE(boxes[1].parent, row.parent);
     }

@@ -10,6 +10,8 @@
 #include <CamApiStandIn.h>
 #include <UiApiStandIn.h>
 
+#include <QMap>
+
 #include <limits>
 #include <stdexcept>
 
@@ -249,6 +251,18 @@ QStringList recordAfterUse(DialogFixture& fixture)
     return described(fixture.record());
 }
 
+/// The same in a host without a fault.
+QStringList undisturbedRecord(Unit unit)
+{
+    static QMap<Unit, QStringList> records;
+    QStringList& record = records[unit];
+    if (record.isEmpty()) {
+        DialogFixture fixture(unit);
+        record = recordAfterUse(fixture);
+    }
+    return record;
+}
+
 }  // namespace
 
 Q_DECLARE_METATYPE(Thrown)
@@ -274,11 +288,7 @@ private Q_SLOTS:
         QFETCH(int, operation);
         QFETCH(Thrown, kind);
         const Operation& row = operations[operation];
-        QStringList undisturbed;
-        {
-            DialogFixture fixture(row.unit);
-            undisturbed = recordAfterUse(fixture);
-        }
+        const QStringList undisturbed = undisturbedRecord(row.unit);
         DialogFixture fixture(row.unit);
         const GlogCatcher log;
         row.fail(kind);
@@ -313,11 +323,7 @@ private Q_SLOTS:
     {
         QFETCH(int, answer);
         for (const Unit unit : {Unit::Mil, Unit::Metric}) {
-            QStringList undisturbed;
-            {
-                DialogFixture fixture(unit);
-                undisturbed = recordAfterUse(fixture);
-            }
+            const QStringList undisturbed = undisturbedRecord(unit);
             DialogFixture fixture(unit);
             answers[answer].install();
             recordAfterUse(fixture);

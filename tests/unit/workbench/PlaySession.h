@@ -35,7 +35,7 @@ inline Played playSession(const QString& text, QWidget* window)
     QObject::connect(&log, &MessageLog::appended, &player, [&](const MessageRecord& message) {
         played.messages.append(QString("%1 %2").arg(message.code).arg(message.extra));
     });
-    player.setPatience(500);
+    player.setPatience(200);
     player.start();
     if (!QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 15000)) {
         played.error = "the player does not end";

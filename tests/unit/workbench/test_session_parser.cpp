@@ -21,7 +21,7 @@ const char* const full =
     "wheel m_pA -1.5 3 4\n"
     "canvas click 1.5mm -20\n"
     "canvas wheel 1 2 3\n"
-    "type m_pA 'gr\u00f6\u00dfer als'\n"
+    "type m_pA 'gr\u00f6\u00dfer # als'\n"
     "key m_pA Shift+Tab\n"
     "choose m_pLanguage \u7b80\u4f53\u4e2d\u6587\n"
     "set m_pA b\\ c\n"
@@ -74,7 +74,7 @@ private Q_SLOTS:
             QVERIFY2(commands.contains(name), qPrintable(name));
         }
         QCOMPARE(lines[2], (QStringList{"rightclick", "m_pA", "3", "4", "Save \"all\""}));
-        QCOMPARE(lines[9], (QStringList{"type", "m_pA", "gr\u00f6\u00dfer als"}));
+        QCOMPARE(lines[9], (QStringList{"type", "m_pA", "gr\u00f6\u00dfer # als"}));
     }
 
     void eachStepIsDescribed()
@@ -86,6 +86,12 @@ private Q_SLOTS:
             const bool hasRow = text.contains("\n| `" + name + " ");
             QVERIFY2(hasRow, qPrintable(name));
         }
+    }
+
+    void anAbsentFileIsToldByItsName()
+    {
+        const QString error = errorOf([] { SessionParser::readFile("/nowhere/at.all"); });
+        QVERIFY2(error.startsWith("/nowhere/at.all: "), qPrintable(error));
     }
 
     void cutAtEveryByte()
@@ -129,10 +135,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("reason");
+        QTest::newRow("jump") << "jump"
+                              << "unknown step \"jump\"; choose from " + Steps::names().join(", ");
         const auto row = [](const char* text, const char* reason) {
             QTest::newRow(text) << QString(text) << QString(reason);
         };
         row("click", "wrong number of words; usage: click NAME [x y]");
+        row("click m_pA 1 2 3", "wrong number of words; usage: click NAME [x y]");
         row("click m_pA 1", "a position is two whole numbers: x y");
         row("click m_pA 1 b", "a position is two whole numbers: x y");
         row("rightclick m_pA b c", "a position is two whole numbers: x y");
@@ -147,6 +156,11 @@ private Q_SLOTS:
         row("canvas click inf 2", "\"inf\" is not a length (a number, and um, mm, mil or inch)");
         row("canvas click 1 2 3", "wrong number of words; usage: canvas click X Y");
         row("canvas wheel 1 2", "wrong number of words; usage: canvas wheel X Y NOTCHES");
+        row("type m_pA \"b", "the quote \" is not closed");
+        row("key m_pA NoSuchKey", "\"NoSuchKey\" is not a key");
+        row("send twelve", "\"twelve\" is not a message code");
+        row("picture a.xyz", "\"a.xyz\" is not a picture file (.png)");
+        row("wait -1", "\"-1\" is not a time in milliseconds");
         row("box open", "\"open\" is not an answer; choose from accept, reject, discard");
         row("box accept colour=red", "\"colour=red\" is neither title=... nor text=...");
         row("expect rain", "\"rain\" cannot be expected; choose from message, nothing, state");

@@ -213,7 +213,7 @@ private Q_SLOTS:
     {
         m_button->hide();
         const QSignalSpy clicked(m_button, &QPushButton::clicked);
-        QTimer::singleShot(150, m_button, &QWidget::show);
+        QTimer::singleShot(60, m_button, &QWidget::show);
         QCOMPARE(play("click m_pButtonPB\n"), QString());
         QCOMPARE(clicked.count(), 1);
     }

@@ -202,7 +202,7 @@ private Q_SLOTS:
 
     void lateMessage()
     {
-        QTimer::singleShot(150, this, [this] { send(4); });
+        QTimer::singleShot(60, this, [this] { send(4); });
         QCOMPARE(play("expect message 4\n"), QString());
     }
 

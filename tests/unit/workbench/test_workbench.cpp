@@ -1,4 +1,4 @@
-// What the workbench reads (options, sessions) and writes (message records).
+// What the workbench reads from its command line, and writes: message records and pictures.
 
 #include "ErrorOf.h"
 #include "Main.h"
@@ -10,7 +10,6 @@
 #include "plugin/ModuleNames.h"
 #include "plugin/RecordKeys.h"
 #include "session/Reach.h"
-#include "session/SessionParser.h"
 #include "window/Options.h"
 
 #include <QFile>
@@ -265,66 +264,6 @@ private Q_SLOTS:
         QVERIFY(QRegularExpression("^workbench \\d+\\.\\d+\\.\\d+\n$")
                     .match(parsed({"--version"}).answer)
                     .hasMatch());
-    }
-
-    void sessions()
-    {
-        const QStringList lines{"# comment",
-                                "",
-                                "click m_pLineTB  # the first",
-                                "type m_pTextLE \"two words # no comment\"",
-                                "rightclick m_pMarkTB 'Mark Orthogonal'",
-                                "send 20002400 JobName=demo StepName=pcb"};
-        const Session session = SessionParser::read(lines.join('\n').toUtf8(), "demo");
-        QCOMPARE(session.file, QString("demo"));
-        QCOMPARE(int(session.steps.size()), 4);
-        QCOMPARE(session.steps[0].line, 3);
-        QCOMPARE(SessionParser::split(lines[2]), (QStringList{"click", "m_pLineTB"}));
-        QCOMPARE(SessionParser::split(lines[3]),
-                 (QStringList{"type", "m_pTextLE", "two words # no comment"}));
-        QCOMPARE(SessionParser::split(lines[4]),
-                 (QStringList{"rightclick", "m_pMarkTB", "Mark Orthogonal"}));
-    }
-
-    void wrongSessions_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("error");
-        QTest::newRow("unknown step") << "click a\njump b\n"
-                                      << "demo:2: unknown step \"jump\"";
-        QTest::newRow("too few words") << "click\n"
-                                       << "demo:1: ";
-        QTest::newRow("too many words") << "click a 1 2 3\n"
-                                        << "demo:1: ";
-        QTest::newRow("position") << "click a x y\n"
-                                  << "demo:1: a position is";
-        QTest::newRow("open quote") << "\ntype a \"b\n"
-                                    << "demo:2: ";
-        QTest::newRow("key") << "key a NoSuchKey\n"
-                             << "demo:1: \"NoSuchKey\" is not a key";
-        QTest::newRow("code") << "send twelve\n"
-                              << "demo:1: ";
-        QTest::newRow("time") << "wait -1\n"
-                              << "demo:1: \"-1\" is not a time";
-        QTest::newRow("picture") << "picture a.xyz\n"
-                                 << "demo:1: \"a.xyz\" is not a picture";
-        QTest::newRow("box") << "box refuse\n"
-                             << "demo:1: \"refuse\" is not an answer";
-    }
-
-    void wrongSessions()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, error);
-        const QString actual = errorOf([&] { SessionParser::read(text.toUtf8(), "demo"); });
-        QVERIFY2(actual.startsWith(error), qPrintable(actual));
-        QVERIFY(!actual.contains('\n'));
-    }
-
-    void absentSession()
-    {
-        const QString error = errorOf([] { SessionParser::readFile("/nowhere/at.all"); });
-        QVERIFY2(error.startsWith("/nowhere/at.all: "), qPrintable(error));
     }
 };
 
