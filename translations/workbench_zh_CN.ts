@@ -628,6 +628,15 @@
     </message>
 </context>
 <context>
+    <name>FileQuestion</name>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1已经存在。
+要替换它吗？</translation>
+    </message>
+</context>
+<context>
     <name>Inspector</name>
     <message>
         <source>Feature record (message %1)</source>

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
 
 namespace {
 
@@ -13,10 +14,30 @@ namespace {
 constexpr const char* folderProperty = "lastFolder";
 const QString folderKey = QStringLiteral("files/folder");
 
+struct FileWords {
+    Q_DECLARE_TR_FUNCTIONS(FileQuestion)
+};
+
 /// "gbr" of "Gerber (*.gbr)".
 QString suffixOf(const QString& kind)
 {
     return kind.section(QStringLiteral("*."), 1).section(QLatin1Char(')'), 0, 0);
+}
+
+/// A name without a suffix gets that of the kind.
+QString completed(const QString& file, const QString& kind)
+{
+    const QString suffix = suffixOf(kind);
+    const bool isWhole = suffix.isEmpty() || QFileInfo(file).fileName().contains(QLatin1Char('.'));
+    return isWhole ? file : file + QLatin1Char('.') + suffix;
+}
+
+bool mayBeReplaced(const QString& file, const QString& title, QWidget* parent)
+{
+    const QString question = FileWords::tr("%1 already exists.\nDo you want to replace it?")
+                                 .arg(QFileInfo(file).fileName());
+    return QMessageBox::warning(parent, title, question, QMessageBox::Yes | QMessageBox::No,
+                                QMessageBox::No) == QMessageBox::Yes;
 }
 
 }  // namespace
@@ -30,14 +51,21 @@ QString FileQuestion::ask(QWidget* parent) const
     dialog.setNameFilters(kinds);
     if (purpose == For::Opening) {
         dialog.setFileMode(QFileDialog::ExistingFile);
+        dialog.setDefaultSuffix(suffixOf(kinds.first()));
     } else {
         dialog.setAcceptMode(QFileDialog::AcceptSave);
     }
-    const auto takeSuffix = [&](const QString& kind) { dialog.setDefaultSuffix(suffixOf(kind)); };
-    QObject::connect(&dialog, &QFileDialog::filterSelected, takeSuffix);
-    takeSuffix(dialog.selectedNameFilter());
     dialog.selectFile(offered);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    // Some desktops ask only about the name as it was typed: the suffix is not theirs to add.
+    while (dialog.exec() == QDialog::Accepted) {
+        const QString typed = dialog.selectedFiles().value(0);
+        const QString file = completed(typed, dialog.selectedNameFilter());
+        if (purpose == For::Opening || file == typed || !QFileInfo::exists(file) ||
+            mayBeReplaced(file, title, parent)) {
+            return file;
+        }
+    }
+    return {};
 }
 
 void LastFolder::remember(const QString& file)

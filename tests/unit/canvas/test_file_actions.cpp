@@ -12,6 +12,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTemporaryDir>
@@ -278,6 +279,31 @@ private Q_SLOTS:
             QCOMPARE(chosen.offered, QString("job-step"));
             QVERIFY2(QFileInfo::exists(fixture.path("drawn") + "." + suffix), qPrintable(suffix));
         }
+    }
+
+    void aNameThatLacksItsSuffixAsksBeforeItReplacesAFile()
+    {
+        const FileFixture fixture;
+        QFile file(fixture.path("a.gbr"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("mine") == 4);
+        file.close();
+        QStringList asked;
+        QTimer answers;
+        connect(&answers, &QTimer::timeout, [&] {
+            QWidget* const modal = QApplication::activeModalWidget();
+            if (auto* const box = qobject_cast<QMessageBox*>(modal)) {
+                asked.append(box->text());
+                box->button(QMessageBox::No)->click();
+            } else if (auto* const dialog = qobject_cast<QFileDialog*>(modal)) {
+                auto& name = findNamed<QLineEdit>(*dialog, "fileNameEdit");
+                name.setText(fixture.path("a"));
+                asked.isEmpty() ? QTest::keyClick(&name, Qt::Key_Return) : dialog->reject();
+            }
+        });
+        answers.start(20);
+        fixture.action("m_pExportBoardAct").trigger();
+        QCOMPARE(asked, QStringList("a.gbr already exists.\nDo you want to replace it?"));
+        QCOMPARE(fixture.saved("a.gbr"), QByteArray("mine"));
     }
 
     void exportsOfANameWithADotTakeTheSuffixAsWell()
