@@ -22,6 +22,6 @@ while :; do
 done
 need_packages "${purposes[@]}"
 build "$preset" all benchmarks
-# Two per core: those on a display mostly wait for it. Those that compute count as two.
-ctest --test-dir "build/$preset" --output-on-failure --parallel "$((2 * $(nproc)))" \
+# Three per core: those on a display mostly wait for it. Those that compute count as two.
+ctest --test-dir "build/$preset" --output-on-failure --parallel "$((3 * $(nproc)))" \
     "${chosen[@]}" "$@"
