@@ -122,7 +122,7 @@ void addStripFigures(Runner& runner)
     const auto side = [](void (*body)(benchmark::State&, MakeStrip), MakeStrip make) {
         return [=](benchmark::State& state) { body(state, make); };
     };
-    constexpr char why[] = "connections by signature";
+    constexpr const char* why = "connections by signature";
     runner.add({"strip", "strip: construct, destroy", 1.05, why}, side(constructDestroy, makeStrip),
                side(constructDestroy, makePlain));
     runner.add({"strip-shown", "strip: construct, place, show, first paint", 1.05, why},
