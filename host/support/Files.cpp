@@ -4,6 +4,9 @@
 #include <QFile>
 #include <QSaveFile>
 
+#include <filesystem>
+#include <system_error>
+
 namespace CanvasHost {
 namespace {
 
@@ -50,6 +53,25 @@ void writeWhole(const QString& file, const QByteArray& content)
     if (!device.open(QIODevice::WriteOnly) || device.write(content) != content.size() ||
         !device.commit()) {
         throw fileError(device);
+    }
+}
+
+void writeUnsynced(const QString& file, const QByteArray& content)
+{
+    QFile device(file + QStringLiteral(".new"));
+    if (!device.open(QIODevice::WriteOnly) || device.write(content) != content.size() ||
+        !device.flush()) {
+        throw FileError{file, 0, fileError(device).reason};
+    }
+    device.close();
+    const auto path = [](const QString& name) {
+        return std::filesystem::u8path(name.toStdString());
+    };
+    std::error_code error;
+    std::filesystem::rename(path(device.fileName()), path(file), error);
+    if (error) {
+        const std::string reason = error.message();
+        throw FileError{file, 0, QCoreApplication::translate("QIODevice", reason.c_str())};
     }
 }
 

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Kills a session with edits at random moments, and recovers: each time, only edits of the last two seconds are
 # missing, and what was kept can be read. A run that ends in order leaves nothing.
-# Usage: recovery.sh WORKBENCH MODULES JOBS KILLS
+# Usage: recovery.sh WORKBENCH MODULES JOBS KILLS [SLOW_DISK]
+# SLOW_DISK is a library to preload, with which the disk takes its time.
 set -u
-workbench=$1 modules=$2 jobs=$3 kills=$4
+workbench=$1 modules=$2 jobs=$3 kills=$4 slow_disk=${5:-}
 lanes=4
 dir=$(mktemp -d)
 # Only what a lane has started itself is still there when the test is interrupted.
@@ -22,6 +23,7 @@ mkdir "$TMPDIR"
     done
 } >edits.session
 printf '%s\n' 'box accept "title=Recover Changes"' 'wait 50' >recover.session
+{ cat recover.session; echo 'expect state m_pCanvasStatusLB "text=Recovered: demo / pcb."'; } >once.session
 
 # play NAME OPTION...: what the program says goes to NAME.log. It has a process group of its
 # own, which is killed: where it is emulated, it is not alone.
@@ -53,7 +55,7 @@ once() {
     made=$(edits "$name.recorded")
     [ -d "$name.ini.recovery" ] || fail "$name" "nothing was kept"
     [ "$name" != kill0 ] || cp -r "$name.ini.recovery" hand.ini.recovery
-    (play "$name" --play recover.session --export "$name.json" --exit) || fail "$name" "status $?"
+    (play "$name" --play once.session --export "$name.json" --exit) || fail "$name" "status $?"
     [ ! -e "$name.ini.recovery" ] || fail "$name" "files are left"
     kept=$(($(pads "$name.json") - $(cat pads)))
     echo "$name: $made edits, $((made - kept)) lost"
@@ -95,6 +97,10 @@ for lane in $(seq 0 $((lanes - 1))); do
     lane "$lane" &
     running+=($!)
 done
+if [ -n "$slow_disk" ]; then
+    LD_PRELOAD=$slow_disk once slow &
+    running+=($!)
+fi
 status=0
 for lane in "${running[@]}"; do
     wait "$lane" || status=1

@@ -36,8 +36,12 @@ bool mayBeReplaced(const QString& file, const QString& title, QWidget* parent)
 {
     const QString question = FileWords::tr("%1 already exists.\nDo you want to replace it?")
                                  .arg(QFileInfo(file).fileName());
-    return QMessageBox::warning(parent, title, question, QMessageBox::Yes | QMessageBox::No,
-                                QMessageBox::No) == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Warning, title, question, QMessageBox::Yes | QMessageBox::No,
+                    parent);
+    box.setObjectName(QStringLiteral("m_pReplaceBox"));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ public:
     {
         try {
             QDir().mkpath(QFileInfo(step.path).path());
-            CanvasHost::writeWhole(
+            CanvasHost::writeUnsynced(
                 step.path, RecoveryFolder::text(step, m_texts[step.path].of(board, m_progress)));
         } catch (const CanvasHost::FileError& error) {
             return error.text();
