@@ -22,8 +22,10 @@ mkdir "$TMPDIR"
         echo 'wait 5'
     done
 } >edits.session
-printf '%s\n' 'box accept "title=Recover Changes"' 'wait 50' >recover.session
-{ cat recover.session; echo 'expect state m_pCanvasStatusLB "text=Recovered: demo / pcb."'; } >once.session
+for job in demo mine; do
+    printf '%s\n' 'box accept "title=Recover Changes"' \
+        "expect state m_pCanvasStatusLB \"text=Recovered: $job / pcb.\"" >$job.session
+done
 
 # play NAME OPTION...: what the program says goes to NAME.log. It has a process group of its
 # own, which is killed: where it is emulated, it is not alone.
@@ -55,7 +57,7 @@ once() {
     made=$(edits "$name.recorded")
     [ -d "$name.ini.recovery" ] || fail "$name" "nothing was kept"
     [ "$name" != kill0 ] || cp -r "$name.ini.recovery" hand.ini.recovery
-    (play "$name" --play once.session --export "$name.json" --exit) || fail "$name" "status $?"
+    (play "$name" --play demo.session --export "$name.json" --exit) || fail "$name" "status $?"
     [ ! -e "$name.ini.recovery" ] || fail "$name" "files are left"
     kept=$(($(pads "$name.json") - $(cat pads)))
     echo "$name: $made edits, $((made - kept)) lost"
@@ -85,8 +87,8 @@ other() {
     kill -9 "$pid"
     wait "$pid" 2>/dev/null
     kept=$(pads other.ini.recovery/0/*.kept)
-    { cat recover.session; echo 'expect state m_pHostJobCMB current=mine'; } >other.session
-    (play other --play other.session --export other.json --exit) || fail other "status $?"
+    echo 'expect state m_pHostJobCMB current=mine' >>mine.session
+    (play other --play mine.session --export other.json --exit) || fail other "status $?"
     [ "$(pads other.json)" = "$kept" ] || fail other "not all is recovered"
     [ ! -e other.ini.recovery ] || fail other "files are left"
 }
