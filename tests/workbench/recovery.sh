@@ -24,7 +24,7 @@ mkdir "$TMPDIR"
 } >edits.session
 for job in demo mine; do
     printf '%s\n' 'box accept "title=Recover Changes"' \
-        "expect state m_pCanvasStatusLB \"text=Recovered: $job / pcb.\"" >$job.session
+        "expect state m_pWorkbench \"title=$job / pcb* - Workbench\"" >$job.session
 done
 
 # play NAME OPTION...: what the program says goes to NAME.log. It has a process group of its
@@ -84,7 +84,7 @@ other() {
         sleep 0.05
     done
     sleep 2
-    kill -9 "$pid"
+    kill -9 -- "-$pid"
     wait "$pid" 2>/dev/null
     kept=$(pads other.ini.recovery/0/*.kept)
     echo 'expect state m_pHostJobCMB current=mine' >>mine.session
@@ -121,7 +121,7 @@ sleep 0.5
 [ -e hand.ini.recovery/0/0.kept ] || [ -e hand.ini.recovery/0/1.kept ] || fail hand "it is gone"
 kill -- "-$pid"
 wait "$pid" 2>/dev/null
-# Where no other folder is named, Qt keeps one for what runs.
-left=$(ls -A "$TMPDIR" | grep -v '^runtime-')
+# Where no other folder is named, Qt keeps one for what runs, and so does Wine.
+left=$(ls -A "$TMPDIR" | grep -vE '^(runtime|wine)-')
 [ -z "$left" ] || fail hand "killed, the program leaves $left"
 exit $status
