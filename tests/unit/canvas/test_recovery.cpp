@@ -18,6 +18,7 @@
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <numeric>
 
@@ -54,7 +55,10 @@ public:
     QMessageBox* offer() const { return window.findChild<QMessageBox*>("m_pRecoveryBox"); }
     void answer(const char* button) const
     {
-        findNamed<QAbstractButton>(*offer(), button).click();
+        // As an event, in whose course the offer is not deleted, whatever opens a loop meanwhile.
+        QTimer::singleShot(0, &findNamed<QAbstractButton>(*offer(), button),
+                           &QAbstractButton::click);
+        QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     bool isTroubled() const { return findNamed<QLabel>(*pane, "m_pRecoveryLB").isVisible(); }
