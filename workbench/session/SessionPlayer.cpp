@@ -75,7 +75,9 @@ bool SessionPlayer::answerBox()
     if (!m_boxes.anyExpected() && !m_entries.empty() && m_entries.front().answersBox) {
         runNext();
     }
+    ++m_running;
     const BoxAnswers::Answer answer = m_boxes.answer(box);
+    --m_running;
     m_waiting.restart();
     if (!answer.expected) {
         Q_EMIT noted(at(answer.note));

@@ -67,6 +67,12 @@ Recovery::Recovery(const std::vector<OpenStep>& steps)
     m_writer->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_writer, &QObject::deleteLater);
     m_thread.start();
+    // Its lock waits for the disk, for which editing is not to wait.
+    try {
+        m_folder = RecoveryFolder::create();
+    } catch (const CanvasHost::FileError&) {
+        // Tried again, and told, once there is something to keep.
+    }
     update();
 }
 

@@ -387,6 +387,23 @@ private Q_SLOTS:
         QCOMPARE(kept().size(), 1);
     }
 
+    void thatNoFolderCanBeMadeIsSaidAtTheFirstEdit()
+    {
+        QFile wall(place());
+        QVERIFY(wall.open(QIODevice::WriteOnly));
+        wall.close();
+        const KeepingProgram program;
+        QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
+        QVERIFY(!failures.wait(twoSeconds / 4));
+        QVERIFY(!program.isTroubled());
+        program.removeFirst();
+        QVERIFY(failures.wait(twoSeconds));
+        QVERIFY(program.isTroubled());
+        QVERIFY(wall.remove());
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QTRY_VERIFY(!program.isTroubled());
+    }
+
     void whatCouldNotBeKeptIsTriedAgainWithoutAnEdit()
     {
         const KeepingProgram program;
