@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QWidget>
+#include <QWindow>
 
 #include <functional>
 
@@ -89,6 +90,11 @@ void Desktop::waitForWindow(QWidget* window)
         window->activateWindow();
     }
     QTest::qWait(settleTime);
+}
+
+QRect Desktop::frame(const QWidget& window)
+{
+    return window.windowHandle()->frameGeometry();
 }
 
 void Desktop::move(QWidget& window, const QPoint& place)

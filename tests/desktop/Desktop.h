@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 #include <QString>
 
 class QWidget;
@@ -10,6 +11,10 @@ namespace Desktop {
 
 /// Waits until `window` is the window manager's active one.
 void waitForWindow(QWidget* window);
+
+/// Its place on the screen with its frame. A widget keeps what it was first told of its frame,
+/// which a busy window manager may have been about to change; its window does not.
+QRect frame(const QWidget& window);
 
 /// Moves the window, and waits until it is there.
 void move(QWidget& window, const QPoint& place);

@@ -248,7 +248,7 @@ private Q_SLOTS:
         Desktop::click(findNamed(dialog, "m_pSelectFromEditorPB"));
         QCOMPARE(sent(), QVector<int>{Sent::SelectSymbol});
         const auto& board = findNamed(*m_window, "m_pBoardView");
-        Desktop::move(dialog, {m_window->x(), m_window->frameGeometry().bottom() + 10});
+        Desktop::move(dialog, {m_window->x(), Desktop::frame(*m_window).bottom() + 10});
         Desktop::clickAt(bigPad(board));
         QTRY_VERIFY(!symbol.text().isEmpty());
         QVERIFY(symbol.text().startsWith('r'));
@@ -266,7 +266,7 @@ private Q_SLOTS:
         Desktop::waitForWindow(&values);
         // Behind the host's window, which comes to the front when it is clicked.
         values.resize(420, 160);
-        Desktop::move(values, {m_window->x(), m_window->frameGeometry().bottom() + 10});
+        Desktop::move(values, {m_window->x(), Desktop::frame(*m_window).bottom() + 10});
         Desktop::move(dialog, {values.x() + 460, values.y()});
         m_log->clear();
         Desktop::click(findNamed(values, "m_pFromEditorPB"));
@@ -309,7 +309,7 @@ private Q_SLOTS:
     {
         QWidget& dialog = openDialog("m_pSurfaceTB");
         const auto& board = findNamed(*m_window, "m_pBoardView");
-        Desktop::move(dialog, {m_window->x(), m_window->frameGeometry().bottom() + 10});
+        Desktop::move(dialog, {m_window->x(), Desktop::frame(*m_window).bottom() + 10});
         Desktop::clickAt(bigPad(board));
         Desktop::clickAt(bigPad(board) + QPoint(30, 30));
         const auto undo = [&] { return tool("m_pUndoTB").toolTip(); };

@@ -274,7 +274,7 @@ private Q_SLOTS:
     {
         openDialog();
         m_agreement = std::make_unique<Agreement>(*m_dialog);
-        Desktop::move(*m_dialog, {m_window->frameGeometry().right() + 10, m_window->y()});
+        Desktop::move(*m_dialog, {Desktop::frame(*m_window).right() + 10, m_window->y()});
     }
 
     /// The strip makes another dialog for the next row.
@@ -297,9 +297,9 @@ private Q_SLOTS:
     /// The host's window comes to the front when it is clicked, but not above the dialog.
     void dialogStaysAboveTheHostsWindow()
     {
-        const QRect host = m_window->frameGeometry();
+        const QRect host = Desktop::frame(*m_window);
         Desktop::move(*m_dialog, host.center() - QPoint(m_dialog->width() / 2, host.height() / 3));
-        QVERIFY(host.contains(m_dialog->frameGeometry().center()));
+        QVERIFY(host.contains(Desktop::frame(*m_dialog).center()));
         for (int i = 0; i < 3; ++i) {
             clickTheBoard();
             QTRY_VERIFY(m_window->isActiveWindow());

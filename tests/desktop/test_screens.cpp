@@ -25,8 +25,8 @@ private:
     {
         QTest::qWait(150);  // a window manager has the last word, and may need longer for it
         static_cast<void>(
-            QTest::qWaitFor([&] { return screen().contains(window.frameGeometry()); }));
-        const QRect frame = window.frameGeometry();
+            QTest::qWaitFor([&] { return screen().contains(Desktop::frame(window)); }));
+        const QRect frame = Desktop::frame(window);
         const QString text = QString("%1: %2,%3 %4x%5 on %6x%7")
                                  .arg(window.objectName())
                                  .arg(frame.x())
@@ -74,7 +74,7 @@ private Q_SLOTS:
             verifyVisible(dialog);
             // Next to the strip: the next tool can be clicked.
             const int edge = strip.mapToGlobal(strip.rect().topRight()).x();
-            QTRY_VERIFY2(dialog.frameGeometry().left() > edge, page);
+            QTRY_VERIFY2(Desktop::frame(dialog).left() > edge, page);
         }
     }
 
@@ -86,7 +86,7 @@ private Q_SLOTS:
         click(findNamed(*m_window, "m_pMonitorComposePB"));
         // The form is the module's, and taller than the smallest screen.
         const auto& form = findNamed(*m_window, "m_pDimensions");
-        QTRY_VERIFY(screen().contains(form.frameGeometry().topLeft()));
+        QTRY_VERIFY(screen().contains(Desktop::frame(form).topLeft()));
         for (const char* const name : {"m_pDocumentation", "m_pComposeDialog"}) {
             verifyVisible(findNamed(*m_window, name));
         }

@@ -42,7 +42,7 @@ const Opening openings[] = {
 
 QRect place(const QWidget& part)
 {
-    return part.isWindow() ? part.frameGeometry() : QRect(part.mapToGlobal(QPoint()), part.size());
+    return part.isWindow() ? Desktop::frame(part) : QRect(part.mapToGlobal(QPoint()), part.size());
 }
 
 QString words(const QWidget& part)
@@ -93,10 +93,10 @@ private:
     void verifyFree(const QWidget& window, QList<const QWidget*> others) const
     {
         others << &findNamed(*m_window, "m_pStripDock") << &findNamed(*m_window, "m_pPositionLE");
-        QTRY_VERIFY2(window.screen()->availableGeometry().contains(window.frameGeometry()),
+        QTRY_VERIFY2(window.screen()->availableGeometry().contains(Desktop::frame(window)),
                      qPrintable(words(window)));
         for (const QWidget* const other : others) {
-            QTRY_VERIFY2(!window.frameGeometry().intersects(place(*other)),
+            QTRY_VERIFY2(!Desktop::frame(window).intersects(place(*other)),
                          qPrintable(words(window) + " over " + words(*other)));
         }
     }
@@ -151,7 +151,7 @@ private Q_SLOTS:
         m_window->show();
         Desktop::waitForWindow(m_window.get());
         QTest::qWait(100);
-        const QRect frame = m_window->frameGeometry();
+        const QRect frame = Desktop::frame(*m_window);
         QApplication::setFont(font);
         QVERIFY2(m_window->screen()->availableGeometry().contains(frame),
                  qPrintable(words(*m_window)));
@@ -241,7 +241,7 @@ private Q_SLOTS:
             if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                 ++asked;
                 isInFront =
-                    Desktop::isSeen(dialog) && !box->frameGeometry().intersects(place(dialog));
+                    Desktop::isSeen(dialog) && !Desktop::frame(*box).intersects(place(dialog));
                 box->reject();
             }
         });

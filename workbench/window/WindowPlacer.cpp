@@ -36,9 +36,17 @@ bool isToolWindow(const QWidget* window)
            !qobject_cast<const QMainWindow*>(window);
 }
 
+/// A widget keeps what it was first told of its frame, which a busy window manager may have been
+/// about to change.
+QMargins frameOf(const QWidget* window)
+{
+    const QWindow* const handle = window->windowHandle();
+    return handle ? handle->frameMargins() : QMargins();
+}
+
 QRect globalPlace(const QWidget* part)
 {
-    return part->isWindow() ? part->frameGeometry()
+    return part->isWindow() ? part->geometry() + frameOf(part)
                             : QRect(part->mapToGlobal(QPoint()), part->size());
 }
 
@@ -154,7 +162,7 @@ void WindowPlacer::putWhereFree(QWidget* window)
     if (place.corner && free.isFree({*place.corner, window->size() + frame()})) {
         return;
     }
-    const QRect host = m_host.window->frameGeometry();
+    const QRect host = globalPlace(m_host.window);
     const QPoint wanted = place.corner ? *place.corner : QPoint(host.right() + gap, host.top());
     window->resize(shrunk(window, free, wanted));
     moveTo(window, free.nearest(window->size() + frame(), wanted));
@@ -184,16 +192,15 @@ QSize WindowPlacer::shrunk(const QWidget* window, const FreePlace& place,
     return best.isValid() ? best : smallest;
 }
 
-/// All windows have the same frame as the host's. To ask Qt for that of a window that has just been
-/// shown would tell it for good that there is none.
+/// All windows have the same frame as the host's, and get it late.
 QSize WindowPlacer::frame() const
 {
-    return m_host.window->frameGeometry().size() - m_host.window->size();
+    return globalPlace(m_host.window).size() - m_host.window->size();
 }
 
 QPoint WindowPlacer::frameCorner() const
 {
-    return m_host.window->geometry().topLeft() - m_host.window->frameGeometry().topLeft();
+    return m_host.window->geometry().topLeft() - globalPlace(m_host.window).topLeft();
 }
 
 QPoint WindowPlacer::cornerOf(const QWidget* window) const
