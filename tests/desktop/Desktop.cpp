@@ -15,7 +15,7 @@ namespace {
 
 // In ms: for the window manager to respond, and for keys and clicks to arrive.
 constexpr int settleTime = 60;
-constexpr int longestTime = 3000;
+constexpr int longestTime = 30000;
 
 /// Counts the events of some types that reach the program's windows.
 class Arrivals : public QObject {
@@ -66,7 +66,9 @@ void act(const QString& command, const std::function<bool()>& isDone)
     static QProcess* const tool = startTool();
     tool->write(qPrintable(command + '\n'));
     tool->waitForBytesWritten();
-    waitAtMost(longestTime, isDone);
+    if (!QTest::qWaitFor(isDone, longestTime)) {
+        qFatal("nothing came of \"%s\"", qPrintable(command));
+    }
     QApplication::processEvents();
 }
 
@@ -100,8 +102,9 @@ QRect Desktop::frame(const QWidget& window)
 void Desktop::move(QWidget& window, const QPoint& place)
 {
     const Arrivals moved({QEvent::Move});
+    const int longest = window.pos() == place ? settleTime : longestTime;
     window.move(place);
-    waitAtMost(settleTime, [&] { return moved.count() > 0; });
+    waitAtMost(longest, [&] { return moved.count() > 0; });
 }
 
 void Desktop::click(const QWidget& widget, int button, QPoint place)

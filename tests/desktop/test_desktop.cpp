@@ -334,6 +334,7 @@ private Q_SLOTS:
         auto& symbol = findNamed<QLineEdit>(dialog, "m_pSymbolTextLE");
         Desktop::click(symbol);
         Desktop::type("r10");
+        QTRY_COMPARE(symbol.text(), QString("r10"));
         Desktop::key("ctrl+z");
         QTRY_VERIFY(symbol.text() != "r10");
         Desktop::key("ctrl+y");

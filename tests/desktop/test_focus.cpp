@@ -304,7 +304,8 @@ private Q_SLOTS:
             clickTheBoard();
             QTRY_VERIFY(m_window->isActiveWindow());
             QTest::qWait(200);
-            QVERIFY(Desktop::isSeen(*m_dialog));
+            QTRY_VERIFY(Desktop::isSeen(*m_dialog));
+            QVERIFY(Desktop::frame(*m_window).contains(Desktop::frame(*m_dialog).center()));
             const char* const type = i % 2 ? "m_pLineTB" : "m_pPadTB";
             Desktop::click(control(type));
             QVERIFY(findNamed<QAbstractButton>(*m_dialog, type).isChecked());

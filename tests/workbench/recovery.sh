@@ -109,9 +109,10 @@ for lane in "${running[@]}"; do
 done
 
 # Where no session is played the offer waits for the user, and so does a second program's start.
+rm -f hand.ini.recovery/*.lock
 setsid "$workbench" --modules "$modules" --job "$jobs" --settings hand.ini >hand.log 2>&1 &
 pid=$!
-for _ in $(seq 100); do
+for _ in $(seq 600); do
     [ ! -e hand.ini.recovery/0.lock ] || break
     sleep 0.1
 done

@@ -245,7 +245,7 @@ void WindowPlacer::noteMove(const QWidget* window)
 {
     const auto place = m_places.find(window);
     // A window manager may put it a little aside.
-    if (place != m_places.end() && place->corner && place->sincePut.hasExpired(settleTime) &&
+    if (place != m_places.end() && place->corner && place->sincePut.elapsed() >= settleTime &&
         (cornerOf(window) - *place->corner).manhattanLength() > titleHeight) {
         place->corner = cornerOf(window);
         place->isUsers = true;

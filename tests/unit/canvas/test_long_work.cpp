@@ -18,18 +18,9 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-namespace {
+#include <atomic>
 
-/// Takes the time, and tells its progress.
-void takeTime(const Pcb::Progress& progress, int milliseconds)
-{
-    QElapsedTimer since;
-    since.start();
-    while (since.elapsed() < milliseconds) {
-        progress.tell(double(since.elapsed()) / milliseconds);
-        QThread::msleep(1);
-    }
-}
+namespace {
 
 enum class CancelBy { Nothing, Button, Escape, Closing };
 
@@ -43,8 +34,11 @@ public:
             const QCursor* const cursor = QGuiApplication::overrideCursor();
             wasBusy = wasBusy || (cursor && cursor->shape() == Qt::BusyCursor);
             if (dialog) {
+                ++looks;
                 texts.append(dialog->labelText());
                 values.append(findNamed<QProgressBar>(*dialog, "m_pProgressBar").value());
+                hasSeenEnough =
+                    by == CancelBy::Nothing ? values.last() > 700 : texts.last() == "Cancelling...";
                 if (by == CancelBy::Button) {
                     findNamed<QAbstractButton>(*dialog, "m_pProgressCancelPB").click();
                 } else if (by == CancelBy::Escape) {
@@ -59,10 +53,23 @@ public:
     QStringList texts;
     QVector<int> values;
     bool wasBusy = false;
+    std::atomic<int> looks{0};
+    std::atomic<bool> hasSeenEnough{false};
 
 private:
     QTimer m_timer;
 };
+
+/// Tells a progress that comes with each look, until the watcher has seen enough of it.
+void takeTime(const Pcb::Progress& progress, const ProgressWatcher& watcher)
+{
+    QElapsedTimer since;
+    since.start();
+    while (!watcher.hasSeenEnough && since.elapsed() < 30000) {
+        progress.tell(qMin(watcher.looks / 20.0, 1.0));
+        QThread::msleep(1);
+    }
+}
 
 Pcb::Board boardOfPads(int count)
 {
@@ -93,11 +100,15 @@ private Q_SLOTS:
 
     void whatIsShortShowsNothing()
     {
-        const ProgressWatcher watcher;
-        QVERIFY(LongWork::run(nullptr, "work", [](const Pcb::Progress&) {}));
-        QTest::qWait(50);
-        QVERIFY(!watcher.wasBusy);
-        QVERIFY(watcher.texts.isEmpty());
+        bool wasQuiet = false;
+        // On a busy machine even that may not begin in time.
+        for (int attempt = 0; attempt < 5 && !wasQuiet; ++attempt) {
+            const ProgressWatcher watcher;
+            QVERIFY(LongWork::run(nullptr, "work", [](const Pcb::Progress&) {}));
+            QTest::qWait(50);
+            wasQuiet = !watcher.wasBusy && watcher.texts.isEmpty();
+        }
+        QVERIFY(wasQuiet);
     }
 
     void whatTakesLongShowsHowFarItHasCome()
@@ -105,12 +116,12 @@ private Q_SLOTS:
         QWidget window;
         const ProgressWatcher watcher;
         QVERIFY(LongWork::run(&window, "work",
-                              [](const Pcb::Progress& progress) { takeTime(progress, 1000); }));
+                              [&](const Pcb::Progress& progress) { takeTime(progress, watcher); }));
         QVERIFY(watcher.wasBusy);
-        QVERIFY(watcher.texts.size() > 3);
+        QVERIFY(watcher.hasSeenEnough);
         QCOMPARE(watcher.texts.last(), QString("work"));
         QVERIFY(watcher.values.last() > watcher.values.first());
-        QVERIFY(watcher.values.last() > 700 && watcher.values.last() <= 1000);
+        QVERIFY(watcher.values.last() <= 1000);
     }
 
     void itCanBeCancelled_data()
@@ -128,13 +139,13 @@ private Q_SLOTS:
         const ProgressWatcher watcher(by);
         QElapsedTimer since;
         since.start();
-        QVERIFY(!LongWork::run(&window, "work", [](const Pcb::Progress& progress) {
-            const auto endSlowly = qScopeGuard([] { QThread::msleep(200); });
-            takeTime(progress, 60000);
+        QVERIFY(!LongWork::run(&window, "work", [&](const Pcb::Progress& progress) {
+            // The dialog is there until the work has ended.
+            const auto endSlowly = qScopeGuard([&] { takeTime({}, watcher); });
+            takeTime(progress, watcher);
         }));
         QVERIFY(since.elapsed() < 30000);
         QVERIFY(since.elapsed() >= 500);
-        // The dialog is there until the work has ended.
         QCOMPARE(watcher.texts.last(), QString("Cancelling..."));
     }
 

@@ -25,6 +25,7 @@
 namespace {
 
 constexpr int twoSeconds = 2000;
+constexpr int patience = 20000;  // in ms, for what has no such limit
 
 Pcb::Feature keptPad(double x)
 {
@@ -138,7 +139,7 @@ private Q_SLOTS:
         const KeepingProgram program;
         QSignalSpy written(&program.files(), &FileActions::changesKept);
         program.removeFirst();
-        QVERIFY(written.wait(twoSeconds));
+        QVERIFY(written.wait(patience));
         program.document().select("select", {0});
         program.pane->canvas().openStep("demo", "pcb");
         QVERIFY(!written.wait(500));
@@ -148,11 +149,11 @@ private Q_SLOTS:
     {
         const KeepingProgram program;
         program.removeFirst();
-        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         program.document().history().undo();
         QTRY_COMPARE(kept().size(), 0);
         program.document().history().redo();
-        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         program.document().setSaved();
         QTRY_COMPARE(kept().size(), 0);
     }
@@ -161,11 +162,11 @@ private Q_SLOTS:
     {
         const KeepingProgram program;
         program.removeFirst();
-        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         program.files().closeAll();
         QTRY_COMPARE(kept().size(), 0);
         program.removeFirst();
-        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         QVERIFY(keptBoard("0/0.kept") == program.document().board());
     }
 
@@ -174,7 +175,7 @@ private Q_SLOTS:
         {
             const KeepingProgram program;
             program.removeFirst();
-            QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+            QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         }
         QVERIFY(!QFileInfo::exists(place()));
         const KeepingProgram next;
@@ -200,7 +201,7 @@ private Q_SLOTS:
         QCOMPARE(kept("0"), QStringList());
         QCOMPARE(kept("1"), QStringList("1.kept"));
         program.removeFirst();
-        QTRY_VERIFY_WITH_TIMEOUT(keptBoard("1/1.kept").features.empty(), twoSeconds);
+        QTRY_VERIFY_WITH_TIMEOUT(keptBoard("1/1.kept").features.empty(), patience);
     }
 
     void whatIsDiscardedIsGone()
@@ -221,7 +222,7 @@ private Q_SLOTS:
             const KeepingProgram program;
             program.answer("m_pKeepForLaterPB");
             program.removeFirst();
-            QTRY_COMPARE_WITH_TIMEOUT(kept("1").size(), 1, twoSeconds);
+            QTRY_COMPARE_WITH_TIMEOUT(kept("1").size(), 1, patience);
         }
         QCOMPARE(kept("0").size(), 1);
         const KeepingProgram next;
@@ -232,12 +233,12 @@ private Q_SLOTS:
     {
         const KeepingProgram first;
         first.removeFirst();
-        QTRY_COMPARE_WITH_TIMEOUT(kept("0").size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept("0").size(), 1, patience);
         const KeepingProgram second;
         QVERIFY(!second.offer());
         second.removeFirst();
         second.removeFirst();
-        QTRY_COMPARE_WITH_TIMEOUT(kept("1").size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept("1").size(), 1, patience);
         QCOMPARE(int(keptBoard("0/0.kept").features.size()), 1);
     }
 
@@ -269,7 +270,7 @@ private Q_SLOTS:
             return file.open(QIODevice::ReadOnly) && file.readLine().contains("mine.json") &&
                    !file.readAll().contains("r60");
         };
-        QTRY_VERIFY_WITH_TIMEOUT(isKept(), twoSeconds);
+        QTRY_VERIFY_WITH_TIMEOUT(isKept(), patience);
     }
 
     void whoseJobFileIsGoneIsRecoveredInTheStepThatIsShown()
@@ -366,14 +367,14 @@ private Q_SLOTS:
         QFile wall(place() + "/0");
         QVERIFY(!program.isTroubled());
         program.removeFirst();
-        QVERIFY(successes.wait(twoSeconds));
+        QVERIFY(successes.wait(patience));
         QVERIFY(QDir(wall.fileName()).removeRecursively());
         QVERIFY(wall.open(QIODevice::WriteOnly));
         for (int i = 0; i < 2; ++i) {
             program.document().history().push(new QUndoCommand);
             program.document().applyBoard(
                 "add", Pcb::withAdded(program.document().board(), {keptPad(3000 + i)}));
-            QVERIFY(failures.wait(twoSeconds));
+            QVERIFY(failures.wait(patience));
             QVERIFY(program.isTroubled());
             QVERIFY(!QApplication::activeModalWidget());
         }
@@ -382,7 +383,7 @@ private Q_SLOTS:
         wall.close();
         QVERIFY(wall.remove());
         program.removeFirst();
-        QVERIFY(successes.wait(twoSeconds));
+        QVERIFY(successes.wait(patience));
         QVERIFY(!program.isTroubled());
         QCOMPARE(kept().size(), 1);
     }
@@ -394,13 +395,13 @@ private Q_SLOTS:
         wall.close();
         const KeepingProgram program;
         QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
-        QVERIFY(!failures.wait(twoSeconds / 4));
+        QVERIFY(!failures.wait(500));
         QVERIFY(!program.isTroubled());
         program.removeFirst();
-        QVERIFY(failures.wait(twoSeconds));
+        QVERIFY(failures.wait(patience));
         QVERIFY(program.isTroubled());
         QVERIFY(wall.remove());
-        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         QTRY_VERIFY(!program.isTroubled());
     }
 
@@ -409,15 +410,15 @@ private Q_SLOTS:
         const KeepingProgram program;
         QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
         program.removeFirst();
-        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         QFile wall(place() + "/0");
         QVERIFY(QDir(wall.fileName()).removeRecursively());
         QVERIFY(wall.open(QIODevice::WriteOnly));
         program.removeFirst();
-        QVERIFY(failures.wait(twoSeconds));
+        QVERIFY(failures.wait(patience));
         wall.close();
         QVERIFY(wall.remove());
-        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, 3 * twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         QVERIFY(keptBoard("0/0.kept") == program.document().board());
         QTRY_VERIFY(!program.isTroubled());
     }
@@ -427,19 +428,19 @@ private Q_SLOTS:
         const KeepingProgram program;
         QSignalSpy failures(&program.files(), &FileActions::changesNotKept);
         program.removeFirst();
-        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, twoSeconds);
+        QTRY_COMPARE_WITH_TIMEOUT(kept().size(), 1, patience);
         // The old file stays where the new one cannot be written beside it.
         QVERIFY(QFile::rename(place() + "/0", place() + "/away"));
         QFile wall(place() + "/0");
         QVERIFY(wall.open(QIODevice::WriteOnly));
         program.removeFirst();
-        QVERIFY(failures.wait(twoSeconds));
+        QVERIFY(failures.wait(patience));
         wall.close();
         QVERIFY(wall.remove());
         QVERIFY(QFile::rename(place() + "/away", place() + "/0"));
         program.document().setSaved();
         QTRY_COMPARE(kept().size(), 0);
-        QTRY_VERIFY_WITH_TIMEOUT(!program.isTroubled(), 3 * twoSeconds);
+        QTRY_VERIFY_WITH_TIMEOUT(!program.isTroubled(), patience);
     }
 
     void noEventWaitsForALargeBoard()
@@ -447,7 +448,7 @@ private Q_SLOTS:
         const KeepingProgram program(manyPads(TestProgram::isFull() ? 100000 : 20000));
         QSignalSpy written(&program.files(), &FileActions::changesKept);
         bool isQuick = false;
-        for (int attempt = 1; attempt <= 3 && !isQuick; ++attempt) {
+        for (int attempt = 1; attempt <= 10 && !isQuick; ++attempt) {
             // Nothing is as it was written last.
             const Pcb::Board& board = program.document().board();
             Pcb::Indexes all(board.features.size());
@@ -471,6 +472,7 @@ private Q_SLOTS:
             // Where other programs have the processor all of it takes longer, but what is written
             // takes most of the time.
             isQuick = longest < qMax(qint64(100), sinceEdit.elapsed() / 8);
+            QTest::qWait(isQuick ? 0 : 500);
         }
         QVERIFY(keptBoard("0/0.kept") == program.document().board());
         QVERIFY(isQuick);

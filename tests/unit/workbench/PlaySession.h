@@ -9,6 +9,10 @@
 #include <QSignalSpy>
 #include <QTest>
 
+// In ms, for what never comes, and for what comes late.
+constexpr int shortPatience = 200;
+constexpr int longPatience = 10000;
+
 /// The outcome of a session.
 struct Played {
     QString error;         ///< empty if it was played to its end
@@ -16,8 +20,9 @@ struct Played {
     QStringList messages;  ///< each message as code and extra word
 };
 
-/// Plays `text`, called "demo", on `window`.
-inline Played playSession(const QString& text, QWidget* window)
+/// Plays `text`, called "demo", on `window`; what is missing is waited for
+/// that many milliseconds.
+inline Played playSession(const QString& text, QWidget* window, int patience = shortPatience)
 {
     Played played;
     Session session;
@@ -35,7 +40,7 @@ inline Played playSession(const QString& text, QWidget* window)
     QObject::connect(&log, &MessageLog::appended, &player, [&](const MessageRecord& message) {
         played.messages.append(QString("%1 %2").arg(message.code).arg(message.extra));
     });
-    player.setPatience(200);
+    player.setPatience(patience);
     player.start();
     if (!QTest::qWaitFor([&] { return finished.count() + failed.count() > 0; }, 15000)) {
         played.error = "the player does not end";

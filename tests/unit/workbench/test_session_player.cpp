@@ -4,6 +4,7 @@
 #include "PlaySession.h"
 
 #include <QComboBox>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
@@ -59,9 +60,9 @@ class TestSessionPlayer : public QObject {
     QStringList m_seen;  ///< the messages, as code and extra word
 
     /// What the player reports at the end: empty if the session was played to its end.
-    QString play(const QString& text)
+    QString play(const QString& text, int patience = shortPatience)
     {
-        const Played played = playSession(text, m_window.get());
+        const Played played = playSession(text, m_window.get(), patience);
         m_noted = played.notes;
         m_seen = played.messages;
         return played.error;
@@ -157,6 +158,24 @@ private Q_SLOTS:
         QCOMPARE(play("box accept\n"), QString("demo:1: the expected box did not appear"));
     }
 
+    /// Longer than a step waits for what it expects.
+    void whatAnAnswerCallsReturnsBeforeTheNextStep()
+    {
+        connect(m_button, &QPushButton::clicked, this, [this] {
+            auto* const box = new QMessageBox(QMessageBox::Information, "Title", "Text",
+                                              QMessageBox::Ok, m_window.get());
+            connect(box, &QDialog::finished, this, [this] {
+                QEventLoop work;
+                QTimer::singleShot(500, &work, &QEventLoop::quit);
+                work.exec();
+                m_text->setText("done");
+            });
+            box->open();
+        });
+        QCOMPARE(play("click m_pButtonPB\nbox accept\nexpect state m_pTextLE text=done\n"),
+                 QString());
+    }
+
     void messages()
     {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no module"));
@@ -214,7 +233,7 @@ private Q_SLOTS:
         m_button->hide();
         const QSignalSpy clicked(m_button, &QPushButton::clicked);
         QTimer::singleShot(60, m_button, &QWidget::show);
-        QCOMPARE(play("click m_pButtonPB\n"), QString());
+        QCOMPARE(play("click m_pButtonPB\n", longPatience), QString());
         QCOMPARE(clicked.count(), 1);
     }
 };

@@ -102,7 +102,10 @@ class TestSessionSteps : public QObject {
         QTpluginsManger4CAM::instance()->recMegToPlugin(sender, message);
     }
 
-    QString play(const QString& text) { return playSession(text, m_window.get()).error; }
+    QString play(const QString& text, int patience = shortPatience)
+    {
+        return playSession(text, m_window.get(), patience).error;
+    }
 
 private Q_SLOTS:
     void init()
@@ -203,7 +206,7 @@ private Q_SLOTS:
     void lateMessage()
     {
         QTimer::singleShot(60, this, [this] { send(4); });
-        QCOMPARE(play("expect message 4\n"), QString());
+        QCOMPARE(play("expect message 4\n", longPatience), QString());
     }
 
     void states_data()
