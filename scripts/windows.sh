@@ -4,7 +4,7 @@
 #   tools  installs the compiler, Wine and what else is needed
 #   build  Qt and the other libraries, once, which takes twenty minutes or more; then the tree, into
 #          build/windows
-#   test   runs the tests
+#   test   builds what has changed, and runs the tests
 #   zip    makes what is given away, two zips in build/windows, and tests them beside the build for
 #          Linux
 # Without a step the first three are done. What was broken off goes on where it was. The libraries are kept
@@ -84,7 +84,7 @@ case ${1:-all} in
 all) build_libraries && build_tree && run_tests ;;
 tools) ;;
 build) build_libraries && build_tree ;;
-test) build_libraries && run_tests "${@:2}" ;;
+test) build_libraries && build_tree && run_tests "${@:2}" ;;
 zip) build_libraries && build_tree && make_zips && test_zips ;;
 *) fail "unknown step \"$1\": tools, build, test or zip" ;;
 esac
