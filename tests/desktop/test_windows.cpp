@@ -242,7 +242,8 @@ private Q_SLOTS:
             if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                 isInFront =
                     Desktop::isSeen(dialog) && !Desktop::frame(*box).intersects(place(dialog));
-                if (isInFront || ++looks == 50) {
+                // The window manager may raise another one for a moment after the box has opened.
+                if (++looks >= 7 && (isInFront || looks == 50)) {
                     box->reject();
                     answer.stop();
                 }
